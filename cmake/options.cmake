@@ -1,0 +1,41 @@
+# What every target of the project is compiled with.
+
+find_program(ZERIMO_CCACHE ccache)
+if(ZERIMO_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZERIMO_CCACHE})
+endif()
+
+add_library(zerimo_options INTERFACE)
+target_compile_options(zerimo_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# GCC 12 warns wrongly about "text" + std::string in optimised builds.
+target_compile_options(zerimo_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_include_directories(zerimo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+if(ZERIMO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(ZERIMO_COVERAGE)
+  add_compile_options(--coverage -fprofile-abs-path)
+  add_link_options(--coverage)
+endif()
+
+# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library.
+function(zerimo_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zerimo_options)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+endfunction()
+
+# zerimo_test(NAME SOURCES... LINKS... [LABELS...]): one test program; every test in it is a test of its own to ctest.
+function(zerimo_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PROPERTIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest_main zerimo_options)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE ZERIMO_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen" ${ARG_PROPERTIES})
+endfunction()
