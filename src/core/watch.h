@@ -1,0 +1,23 @@
+#pragma once
+
+namespace zerimo {
+
+/// Watches over a run that may never end. A shell keeps its limits here, lets the window repaint, and throws `Stopped`
+/// or `Ended` to leave a run from wherever it hangs.
+class RunWatch {
+ public:
+  virtual ~RunWatch() = default;
+  /// Called at the beginning of each pass of Run1's loop.
+  virtual void Step() = 0;
+  /// Called in each round of every other loop that may never end.
+  virtual void Tick() = 0;
+};
+
+/// Watches nothing.
+class NoWatch final : public RunWatch {
+ public:
+  void Step() override {}
+  void Tick() override {}
+};
+
+}  // namespace zerimo
