@@ -1,0 +1,97 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "controls/controls.h"
+
+namespace zerimo {
+
+/// A place in pixels. The numbers are whole, but may lie far outside the canvas and beyond 32 bits.
+struct PixelPoint {
+  double X = 0;
+  double Y = 0;
+};
+
+/// How lines and outlines are drawn.
+struct Stroke {
+  Colour Color = 0;
+  /// Pixels, from 1.
+  int Width = 1;
+  /// The raster operation, 1 to 16 (13 copies the pen, 6 inverts, 7 is exclusive or).
+  int DrawMode = 13;
+};
+
+/// How the inside of closed shapes is painted.
+struct Filling {
+  Colour Color = 0;
+  /// 0 solid, 1 none, 2 horizontal, 3 vertical, 4 upward diagonal, 5 downward diagonal, 6 cross, 7 diagonal cross.
+  int Style = 0;
+};
+
+/// The pixels behind the surface. What is drawn stays until it is cleared; nothing outside the canvas is touched.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  /// Makes the canvas that large, in one colour. Called once, at start.
+  virtual void Create(int width, int height, Colour background) = 0;
+
+  /// Takes away all that was drawn, a loaded picture too.
+  virtual void Clear(Colour background) = 0;
+
+  /// A line with round ends, both end points included.
+  virtual void Line(const Stroke& stroke, PixelPoint from, PixelPoint to) = 0;
+
+  /// A box with that diagonal, corners included; the outline lies inside the box.
+  virtual void Box(const Stroke& stroke, const Filling& filling, PixelPoint from, PixelPoint to) = 0;
+
+  /// An ellipse with half-axes in pixels (not negative, fractions allowed); the outline lies inside its bounds.
+  virtual void Ellipse(const Stroke& stroke, const Filling& filling, PixelPoint centre, double halfWidth,
+                       double halfHeight) = 0;
+
+  /// A point as wide as the stroke.
+  virtual void Point(const Stroke& stroke, PixelPoint at) = 0;
+
+  /// The colour at a point, or nothing outside the canvas.
+  virtual std::optional<Colour> ColourAt(PixelPoint at) const = 0;
+
+  /// Replaces the pixels of the colour at the point that are connected to it over the four neighbours. Does nothing
+  /// outside the canvas.
+  virtual void FloodFill(PixelPoint at, Colour fill) = 0;
+
+  /// Prints one line of text; the point is its top left corner. The background shows through.
+  virtual void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) = 0;
+
+  /// Puts a picture at the top left in its own size on the background colour, in the place of all that was drawn.
+  /// Fails (invalid picture), and changes nothing, if the file can't be read as a picture.
+  virtual void LoadPicture(const std::filesystem::path& file, Colour background) = 0;
+
+  /// Writes the upper left part of the canvas, in pixels, as a picture; the format follows from the file's ending
+  /// (.bmp, .png, .jpg; any case). Fails (file access) if the file can't be written, and then leaves a former file.
+  virtual void SavePicture(const std::filesystem::path& file, int width, int height) const = 0;
+};
+
+/// A canvas without pixels: every point has the background colour, every picture file that exists can be loaded.
+class EmptyCanvas : public Canvas {
+ public:
+  void Create(int width, int height, Colour background) override;
+  void Clear(Colour background) override;
+  void Line(const Stroke&, PixelPoint, PixelPoint) override {}
+  void Box(const Stroke&, const Filling&, PixelPoint, PixelPoint) override {}
+  void Ellipse(const Stroke&, const Filling&, PixelPoint, double, double) override {}
+  void Point(const Stroke&, PixelPoint) override {}
+  std::optional<Colour> ColourAt(PixelPoint at) const override;
+  void FloodFill(PixelPoint, Colour) override {}
+  void Print(std::string_view, PixelPoint, double, Colour) override {}
+  void LoadPicture(const std::filesystem::path& file, Colour background) override;
+  void SavePicture(const std::filesystem::path& file, int width, int height) const override;
+
+ private:
+  int columns = 0;
+  int rows = 0;
+  Colour colour = 0;
+};
+
+}  // namespace zerimo

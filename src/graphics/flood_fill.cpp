@@ -1,0 +1,59 @@
+#include "graphics/flood_fill.h"
+
+#include <utility>
+
+#include "core/failure.h"
+#include "core/numbers.h"
+#include "graphics/step_numbers.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr int SurfaceUnits = 1;
+constexpr int Pixels = 3;
+constexpr int Solid = 0;
+constexpr int Transparent = 1;
+
+}  // namespace
+
+void FloodFills::Bind() {
+  context.Primitives.Bind(Action::FloodFill,
+                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
+  context.Primitives.Bind(Action::FloodFillRGB,
+                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
+}
+
+void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
+  const TurtleState& turtle = context.Turtle;
+  context.Picture1.SetScaleMode(Pixels);
+  const std::int32_t color = LongNumber(context.Inputs.WordNumber(call.Rest, 1));
+  // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
+  PassOver([&] {
+    (this->*procedure)(ToInt16(turtle.TurtleX / UnitsPerPixel), ToInt16(turtle.TurtleY / UnitsPerPixel), color);
+  });
+  PassOver([&] { context.Primitives.RefreshSurface(); });
+}
+
+void FloodFills::FloodFill(std::int16_t x, std::int16_t y, double color) {
+  FillRegion(x, y, [&] { context.Picture1.SetFillColor(QBColor(ToInt16(color))); });
+}
+
+void FloodFills::FloodFillRGB(std::int16_t x, std::int16_t y, double color) {
+  FillRegion(x, y, [&] { context.Picture1.SetFillColor(ToInt32(color)); });
+}
+
+template <typename SetFillColor>
+void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor) {
+  Surface& surface = context.Picture1;
+  surface.SetScaleMode(Pixels);
+  surface.SetFillStyle(Solid);
+  PassOver(std::forward<SetFillColor>(setFillColor));
+  PassOver([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
+  surface.SetScaleMode(SurfaceUnits);
+  // What FILLSTYLE and FILL had set is not put back: circles are outlines from now on.
+  surface.SetFillStyle(Transparent);
+  PassOver([&] { context.Primitives.RefreshSurface(); });
+}
+
+}  // namespace zerimo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+
+#include "graphics/drawing_context.h"
+
+namespace zerimo {
+
+/// `FLOODFILL` and `FLOODFILLRGB`.
+class FloodFills {
+ public:
+  explicit FloodFills(const DrawingContext& drawingContext) : context(drawingContext) {}
+
+  /// Sets the work of the primitives.
+  void Bind();
+
+  /// Fills from a point in pixels with the colour of a code, which is not reduced by 16. Runs under the skip rule.
+  void FloodFill(std::int16_t x, std::int16_t y, double color);
+
+  /// The same with a colour value.
+  void FloodFillRGB(std::int16_t x, std::int16_t y, double color);
+
+ private:
+  using Procedure = void (FloodFills::*)(std::int16_t x, std::int16_t y, double color);
+  /// The work of both primitives: fills from the turtle's pixel.
+  void FillFromTurtle(PrimitiveCall& call, Procedure procedure);
+  template <typename SetFillColor>
+  void FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor);
+
+  DrawingContext context;
+};
+
+}  // namespace zerimo

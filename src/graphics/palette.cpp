@@ -1,0 +1,109 @@
+#include "graphics/palette.h"
+
+#include <cmath>
+#include <string>
+
+#include "core/failure.h"
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr double HintPi = 3.1415927;
+constexpr Colour White = 0xFFFFFF;
+constexpr Colour Red = 255;
+
+/// The word that a button chooses; empty for what chooses none.
+std::string ChosenWord(MouseButton button, bool shift) {
+  if (button == MouseButton::Left) return shift ? "TEXTCOLOR" : "Setpc";
+  if (button == MouseButton::Right) return shift ? "TEXTBACKGROUND" : "Setbg";
+  return {};
+}
+
+Colour ColourOf(const ControlArray<ScrollBar, 3>& bars) {
+  return RGB(ToInt16(bars[0].Value), ToInt16(bars[1].Value), ToInt16(bars[2].Value));
+}
+
+}  // namespace
+
+void Palette::Picture1MouseMove(float x, float y) {
+  const Window& form = context.Controls.Form1;
+  const double resolution = context.Turtle.Resolution;
+  const double mouseX = Divide(x - form.Width / 2.0, resolution);
+  const double mouseY = Divide(form.Height() / 2.0 - y, resolution);
+  // Seen from the origin and not from the turtle, and with no quadrant: always between -90 and 90.
+  double angle = mouseY != 0 ? std::atan(mouseX / mouseY) : HintPi / 2;
+  angle = angle * 180 / HintPi;
+  context.Picture1.ToolTipText = "MouseX=" + Str(RoundHalfEven(mouseX)) + " MouseY=" + Str(RoundHalfEven(mouseY)) +
+                                 "   New Dir" + Str(RoundHalfEven(angle));
+}
+
+void Palette::Picture1Click() {
+  FormControls& controls = context.Controls;
+  controls.Form1.Left = 0;
+  controls.Form1.Top = 0;
+  int row = 0;
+  while (row < controls.Text1.Size - 1 && !Trimmed(controls.Text1[row].Text).empty()) ++row;
+  // In full screen the rows are hidden and the focus is refused: the system goes on.
+  PassOver([&] { controls.Focus.SetFocus(controls.Text1[row]); });
+  controls.Timer2.Enabled = true;
+}
+
+void Palette::Picture1DragDrop(Control& source, float x, float y) {
+  source.Left = x - PaletteGrabX;
+  source.Top = y - PaletteGrabY;
+}
+
+void Palette::Picture2MouseMove(float x, float y) {
+  context.Controls.Label14.BackColor = White;
+  PaletteGrabX = x;
+  PaletteGrabY = ToInt16(y);
+}
+
+void Palette::Label13MouseDown(int index, MouseButton button, bool shift) {
+  FormControls& controls = context.Controls;
+  const std::string word = ChosenWord(button, shift);
+  for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
+    frame->Left = controls.Label13[index].Left;
+    frame->Top = controls.Label13[index].Top;
+  }
+  Label13MouseMove(index);
+  controls.Label15.Caption = word + " " + std::to_string(index);
+}
+
+void Palette::Label13MouseMove(int index) {
+  FormControls& controls = context.Controls;
+  for (int square = 0; square < controls.Label13.Size; ++square) controls.Label13[square].BorderStyle = 1;
+  controls.Label13[index].BorderStyle = 0;
+}
+
+void Palette::Label14MouseMove() { context.Controls.Label14.BackColor = Red; }
+
+void Palette::Label14Click() { context.Primitives.Execute(UpperCase(Trimmed(context.Controls.Label15.Caption))); }
+
+void Palette::HScroll1Change() {
+  const Colour colour = ColourOf(context.Controls.HScroll1);
+  // The background's code stays: an erasing pen goes on with the colour that it has.
+  context.Picture1.SetBackColor(colour);
+  context.Controls.Label9.BackColor = colour;
+}
+
+void Palette::HScroll2Change() {
+  FormControls& controls = context.Controls;
+  const Colour colour = ColourOf(controls.HScroll2);
+  context.Picture1.SetForeColor(colour);
+  for (LightLine* line : {&controls.Line1, &controls.Line2, &controls.Line3}) line->BorderColor = colour;
+  controls.Shape2.BorderColor = colour;
+  controls.Label8.BackColor = colour;
+}
+
+void Palette::Check1Click() {
+  // The flag alone decides, not the check mark nor what is visible.
+  CoordinatesOn = !CoordinatesOn;
+  context.Controls.Line5.SetVisible(CoordinatesOn);
+  context.Controls.Line6.SetVisible(CoordinatesOn);
+}
+
+}  // namespace zerimo

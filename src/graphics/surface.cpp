@@ -1,0 +1,189 @@
+#include "graphics/surface.h"
+
+#include <cmath>
+
+#include "core/failure.h"
+#include "core/numbers.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr double LargestFontSize = 2160;
+
+void Require(bool accepted) {
+  if (!accepted) throw Failure(FailureKind::InvalidArgument);
+}
+
+int WholePixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<double>(units) / UnitsPerPixel)); }
+
+}  // namespace
+
+void Surface::CreateCanvas(float screenWidth, float screenHeight) {
+  canvas.Create(WholePixels(screenWidth), WholePixels(screenHeight), backColor);
+}
+
+void Surface::SetBackColor(Colour value) {
+  backColor = value;
+  canvas.Clear(value);
+  TellSet("BackColor", static_cast<double>(value));
+}
+
+void Surface::SetForeColor(Colour value) {
+  foreColor = value;
+  TellSet("ForeColor", static_cast<double>(value));
+}
+
+void Surface::SetFillColor(Colour value) {
+  fillColor = value;
+  TellSet("FillColor", static_cast<double>(value));
+}
+
+void Surface::SetFillStyle(std::int32_t value) {
+  Require(value >= 0 && value <= 7);
+  fillStyle = value;
+  TellSet("FillStyle", static_cast<double>(value));
+}
+
+void Surface::SetDrawMode(std::int32_t value) {
+  Require(value >= 1 && value <= 16);
+  drawMode = value;
+  TellSet("DrawMode", static_cast<double>(value));
+}
+
+void Surface::SetDrawWidth(std::int32_t value) {
+  Require(value >= 1);
+  drawWidth = value;
+  TellSet("DrawWidth", static_cast<double>(value));
+}
+
+void Surface::SetScaleMode(int value) {
+  Require(value == 1 || value == 3);
+  scaleMode = value;
+  TellSet("ScaleMode", static_cast<double>(value));
+}
+
+void Surface::SetCurrentX(double value) {
+  currentX = ToSingle(value);
+  TellSet("CurrentX", currentX);
+}
+
+void Surface::SetCurrentY(double value) {
+  currentY = ToSingle(value);
+  TellSet("CurrentY", currentY);
+}
+
+void Surface::SetFontSize(double value) {
+  Require(value > 0 && value <= LargestFontSize);
+  fontSize = value;
+  TellSet("Font.Size", value);
+}
+
+void Surface::SetHeight(float value) {
+  Require(value >= 0);
+  height = value;
+  TellSet("Height", value);
+}
+
+void Surface::Line(double x1, double y1, double x2, double y2) {
+  const surface_operation::Line line{ToSingle(x1), ToSingle(y1), ToSingle(x2), ToSingle(y2)};
+  canvas.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
+  currentX = line.X2;
+  currentY = line.Y2;
+  Tell(line);
+}
+
+void Surface::Box(double x1, double y1, double x2, double y2) {
+  const surface_operation::Box box{ToSingle(x1), ToSingle(y1), ToSingle(x2), ToSingle(y2)};
+  canvas.Box(PenStroke(), Inside(), ToPixels(box.X1, box.Y1), ToPixels(box.X2, box.Y2));
+  currentX = box.X2;
+  currentY = box.Y2;
+  Tell(box);
+}
+
+void Surface::LineTo(double x2, double y2) {
+  const surface_operation::LineTo line{ToSingle(x2), ToSingle(y2), currentX, currentY};
+  canvas.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
+  currentX = line.X2;
+  currentY = line.Y2;
+  Tell(line);
+}
+
+void Surface::Circle(double x, double y, double radius, std::optional<double> aspect) {
+  surface_operation::Circle circle{ToSingle(x), ToSingle(y), ToSingle(radius), std::nullopt};
+  if (aspect) circle.Aspect = ToSingle(*aspect);
+  const Axes half = HalfAxes(circle);
+  canvas.Ellipse(PenStroke(), Inside(), ToPixels(circle.X, circle.Y), half.Across, half.Down);
+  Tell(circle);
+}
+
+Surface::Axes Surface::HalfAxes(const surface_operation::Circle& circle) const {
+  const double longer = std::abs(static_cast<double>(circle.Radius)) / ScaleDivisor();
+  const double ratio = std::abs(static_cast<double>(circle.Aspect.value_or(1)));
+  // The radius applies to the longer axis.
+  return ratio > 1 ? Axes{longer / ratio, longer} : Axes{longer, longer * ratio};
+}
+
+void Surface::PSet(double x, double y, Colour color) {
+  const surface_operation::PSet point{ToSingle(x), ToSingle(y), color};
+  canvas.Point({color, drawWidth, drawMode}, ToPixels(point.X, point.Y));
+  Tell(point);
+}
+
+Colour Surface::Point(double x, double y) const {
+  return canvas.ColourAt(ToPixels(ToSingle(x), ToSingle(y))).value_or(-1);
+}
+
+void Surface::Print(const std::string& text) {
+  canvas.Print(text, ToPixels(currentX, currentY), fontSize, foreColor);
+  Tell(surface_operation::Print{text});
+}
+
+void Surface::Cls() {
+  canvas.Clear(backColor);
+  Tell(surface_operation::Cls{});
+}
+
+void Surface::ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint) {
+  const PixelPoint at{static_cast<double>(x), static_cast<double>(y)};
+  if (atPoint != -1) canvas.FloodFill(at, fillColor);
+  Tell(surface_operation::FloodFill{x, y, atPoint});
+}
+
+void Surface::SetPicture(const std::filesystem::path& file, const std::string& pictureName) {
+  canvas.LoadPicture(file, backColor);
+  Tell(surface_operation::Picture{pictureName});
+}
+
+void Surface::SavePicture(const std::filesystem::path& file) const {
+  canvas.SavePicture(file, WholePixels(Width), WholePixels(Height()));
+}
+
+PixelPoint Surface::ToPixels(double x, double y) const {
+  return {RoundHalfEven(x / ScaleDivisor()), RoundHalfEven(y / ScaleDivisor())};
+}
+
+void Surface::ReadProperties(const PropertyReader& read) const {
+  Control::ReadProperties(read);
+  read("BackColor", static_cast<double>(backColor));
+  read("ForeColor", static_cast<double>(foreColor));
+  read("FillColor", static_cast<double>(fillColor));
+  read("FillStyle", static_cast<double>(fillStyle));
+  read("DrawMode", static_cast<double>(drawMode));
+  read("DrawWidth", static_cast<double>(drawWidth));
+  read("ScaleMode", static_cast<double>(scaleMode));
+  read("CurrentX", currentX);
+  read("CurrentY", currentY);
+  read("Font.Size", fontSize);
+  read("ToolTipText", ToolTipText);
+}
+
+void Surface::Tell(const SurfaceOperation& operation) const {
+  for (SurfaceRecorder* recorder : recorders) recorder->Record(*this, operation);
+}
+
+void Surface::TellSet(const char* property, PropertyValue value) const {
+  if (!recorders.empty()) Tell(surface_operation::Set{property, std::move(value)});
+}
+
+}  // namespace zerimo

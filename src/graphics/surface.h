@@ -1,0 +1,166 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "controls/controls.h"
+#include "graphics/canvas.h"
+
+namespace zerimo {
+
+class Surface;
+
+/// One operation of the surface as it happened. Coordinates are the singles that were handed to the surface.
+namespace surface_operation {
+struct Set {
+  const char* Property;
+  PropertyValue Value;
+};
+struct Line {
+  float X1, Y1, X2, Y2;
+};
+struct Box {
+  float X1, Y1, X2, Y2;
+};
+struct LineTo {
+  float X2, Y2;
+  /// The current point that the line came from.
+  float X1, Y1;
+};
+struct Circle {
+  float X, Y, Radius;
+  std::optional<float> Aspect;
+};
+struct PSet {
+  float X, Y;
+  Colour Color;
+};
+struct Print {
+  std::string Text;
+};
+struct Cls {};
+struct FloodFill {
+  /// Pixels.
+  int X, Y;
+  /// The colour read at the point, -1 for none.
+  Colour Color;
+};
+struct Picture {
+  std::string Path;
+};
+}  // namespace surface_operation
+
+using SurfaceOperation =
+    std::variant<surface_operation::Set, surface_operation::Line, surface_operation::Box, surface_operation::LineTo,
+                 surface_operation::Circle, surface_operation::PSet, surface_operation::Print, surface_operation::Cls,
+                 surface_operation::FloodFill, surface_operation::Picture>;
+
+/// Is told each operation right after it took place, with the surface as it then is.
+class SurfaceRecorder {
+ public:
+  virtual ~SurfaceRecorder() = default;
+  virtual void Record(const Surface& surface, const SurfaceOperation& operation) = 0;
+};
+
+/// Surface units to a pixel: the whole system assumes this number.
+inline constexpr int UnitsPerPixel = 15;
+
+/// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into pixels,
+/// and hands the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
+class Surface : public Control {
+ public:
+  Surface(std::string surfaceName, Canvas& pixels) : Control(std::move(surfaceName)), canvas(pixels) {}
+
+  /// Makes the canvas as large as the screen (surface units), so that what a smaller height hides is kept.
+  void CreateCanvas(float screenWidth, float screenHeight);
+
+  /// Recorders get every operation from then on. A recorder must outlive the surface or be removed.
+  void AddRecorder(SurfaceRecorder& recorder) { recorders.push_back(&recorder); }
+  void RemoveRecorder(SurfaceRecorder& recorder) { std::erase(recorders, &recorder); }
+
+  Colour BackColor() const { return backColor; }
+  /// Makes it the background colour and clears all that was drawn, as `Cls` does.
+  void SetBackColor(Colour value);
+  Colour ForeColor() const { return foreColor; }
+  void SetForeColor(Colour value);
+  Colour FillColor() const { return fillColor; }
+  void SetFillColor(Colour value);
+  int FillStyle() const { return fillStyle; }
+  /// 0 to 7.
+  void SetFillStyle(std::int32_t value);
+  int DrawMode() const { return drawMode; }
+  /// 1 to 16.
+  void SetDrawMode(std::int32_t value);
+  int DrawWidth() const { return drawWidth; }
+  /// Pixels, from 1.
+  void SetDrawWidth(std::int32_t value);
+  int ScaleMode() const { return scaleMode; }
+  /// 1 surface units, 3 pixels.
+  void SetScaleMode(int value);
+  float CurrentX() const { return currentX; }
+  void SetCurrentX(double value);
+  float CurrentY() const { return currentY; }
+  void SetCurrentY(double value);
+  double FontSize() const { return fontSize; }
+  /// Points, above 0 and at most 2160.
+  void SetFontSize(double value);
+  void SetHeight(float value) override;
+
+  /// The hint shown at the mouse.
+  std::string ToolTipText;
+
+  void Line(double x1, double y1, double x2, double y2);
+  void Box(double x1, double y1, double x2, double y2);
+  /// From the current point.
+  void LineTo(double x2, double y2);
+  void Circle(double x, double y, double radius, std::optional<double> aspect = std::nullopt);
+  void PSet(double x, double y, Colour color);
+  /// The colour at a point, or -1 outside the surface.
+  Colour Point(double x, double y) const;
+  void Print(const std::string& text);
+  void Cls();
+  /// The fill of the platform: from a point in pixels over the colour that is read there, with the fill colour.
+  void ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint);
+  /// Loads a picture file as the background; `pictureName` is how the system names the file.
+  void SetPicture(const std::filesystem::path& file, const std::string& pictureName);
+  /// Writes what is drawn, as large as the surface is now.
+  void SavePicture(const std::filesystem::path& file) const;
+
+  /// The pixel that a point of the surface falls on, in the scale of now: the one conversion for all operations.
+  PixelPoint ToPixels(double x, double y) const;
+
+  /// The half-axes of a circle or an oval in pixels: across and down.
+  struct Axes {
+    double Across;
+    double Down;
+  };
+  Axes HalfAxes(const surface_operation::Circle& circle) const;
+
+  Stroke PenStroke() const { return {foreColor, drawWidth, drawMode}; }
+  Filling Inside() const { return {fillColor, fillStyle}; }
+
+  void ReadProperties(const PropertyReader& read) const override;
+
+ private:
+  void Tell(const SurfaceOperation& operation) const;
+  void TellSet(const char* property, PropertyValue value) const;
+  double ScaleDivisor() const { return scaleMode == 3 ? 1 : UnitsPerPixel; }
+
+  Canvas& canvas;
+  std::vector<SurfaceRecorder*> recorders;
+  Colour backColor = 8388736;
+  Colour foreColor = 0xFFFFFF;
+  Colour fillColor = 0;
+  int fillStyle = 0;
+  int drawMode = 13;
+  int drawWidth = 1;
+  int scaleMode = 1;
+  float currentX = 0;
+  float currentY = 0;
+  double fontSize = 8.25;
+};
+
+}  // namespace zerimo

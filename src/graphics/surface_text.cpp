@@ -1,0 +1,76 @@
+#include "graphics/surface_text.h"
+
+#include "core/failure.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "graphics/step_numbers.h"
+
+namespace zerimo {
+
+namespace {
+
+/// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are not two.
+std::string WithoutEnds(const std::string& text) { return std::string(Mid(text, 2, Length(text) - 2)); }
+
+bool IsQuoted(const std::string& text) { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
+
+}  // namespace
+
+void SurfaceText::Bind() {
+  Dispatch& primitives = context.Primitives;
+  primitives.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
+  primitives.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
+  primitives.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
+}
+
+void SurfaceText::TextSize(PrimitiveCall& call) {
+  if (context.Primitives.TellMissingInput(call, Action::TextSize)) return;
+  const double size = context.Inputs.Number(call.Rest);
+  PassOver([&] { context.Picture1.SetFontSize(size); });
+}
+
+void SurfaceText::Write(PrimitiveCall& call) {
+  BeginAtTurtle();
+  if (IsQuoted(call.Rest)) {
+    PassOver([&] { context.Picture1.Print(WithoutEnds(call.Rest)); });
+  } else {
+    const double number = context.Inputs.Number(call.Rest);
+    context.Picture1.Print(Str(number));
+  }
+}
+
+void SurfaceText::WriteRGB(PrimitiveCall& call) {
+  Surface& surface = context.Picture1;
+  BeginAtTurtle();
+  std::string whole;
+  PassOver([&] { whole = WithoutEnds(call.Rest); });
+  // The last comma counts, so that the text may hold commas.
+  const int comma = LastPositionOf(whole, ',');
+  std::string parameters(From(whole, comma + 1));
+  const double colour = context.Inputs.WordNumber(parameters, 1);
+  const double x = StepsToUnits(context.Turtle, context.Inputs.WordNumber(parameters, 2));
+  const double y = StepsToUnits(context.Turtle, context.Inputs.WordNumber(parameters, 3));
+  const double size = context.Inputs.WordNumber(parameters, 4);
+  PassOver([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
+  // Here alone the height of the surface itself gives the centre.
+  PassOver([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
+  PassOver([&] { surface.SetFontSize(size); });
+  std::string text;
+  PassOver([&] { text = std::string(Left(whole, comma - 1)); });
+  PrintInColour(text, colour);
+}
+
+void SurfaceText::PrintInColour(const std::string& text, double colour) {
+  Surface& surface = context.Picture1;
+  const Colour saved = surface.ForeColor();
+  PassOver([&] { surface.SetForeColor(ToInt32(colour)); });
+  surface.Print(text);
+  surface.SetForeColor(saved);
+}
+
+void SurfaceText::BeginAtTurtle() {
+  PassOver([&] { context.Picture1.SetCurrentX(context.Turtle.TurtleX); });
+  PassOver([&] { context.Picture1.SetCurrentY(context.Turtle.TurtleY); });
+}
+
+}  // namespace zerimo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "graphics/drawing_context.h"
+
+namespace zerimo {
+
+/// Text that becomes part of the picture: `WRITE`, `WRITERGB`, `TEXTSIZE`. The pen state does not matter.
+class SurfaceText {
+ public:
+  explicit SurfaceText(const DrawingContext& drawingContext) : context(drawingContext) {}
+
+  /// Sets the work of the primitives.
+  void Bind();
+
+ private:
+  void TextSize(PrimitiveCall& call);
+  void Write(PrimitiveCall& call);
+  void WriteRGB(PrimitiveCall& call);
+
+  void BeginAtTurtle();
+  void PrintInColour(const std::string& text, double colour);
+
+  DrawingContext context;
+};
+
+}  // namespace zerimo
