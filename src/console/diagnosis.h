@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/form_controls.h"
+#include "core/control_path.h"
+#include "core/turtle_state.h"
+#include "graphics/surface.h"
+#include "language/lowering.h"
+#include "language/variables.h"
+
+namespace zerimo {
+
+/// The inputs and buttons of the diagnosis panel. None of them is under the skip rule.
+class Diagnosis {
+ public:
+  Diagnosis(FormControls& formControls, Surface& picture1, TurtleState& turtleState, ControlPath& controlPath,
+            Variables& allVariables, Lowering& repeatLowering)
+      : controls(formControls),
+        Picture1(picture1),
+        turtle(turtleState),
+        path(controlPath),
+        variables(allVariables),
+        lowering(repeatLowering) {}
+
+  void Command1Click();
+  /// "Refresh": forgets the variables, the control string and the names of the lowering.
+  void Command2Click();
+  /// The resolution as typed. Fails (overflow) beyond the range of numbers.
+  void Text3Change();
+  /// The line width as typed. Fails (overflow) above 32767.
+  void Text4Change();
+
+ private:
+  FormControls& controls;
+  Surface& Picture1;
+  TurtleState& turtle;
+  ControlPath& path;
+  Variables& variables;
+  Lowering& lowering;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,52 @@
+#include "console/status_line.h"
+
+#include <array>
+
+#include "core/numbers.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr std::array<std::string_view, 16> ColourNames = {
+    "Black",     "Blue",       "Green",       "Sky Blue", "Red",       "Pink",       "Orange", "Light Gray",
+    "Dark Gray", "Light Blue", "Light Green", "Cyan",     "Light Red", "Light Pink", "Yellow", "White",
+};
+
+constexpr double Pi = 3.1415927;
+
+}  // namespace
+
+std::string_view ColourName(std::int32_t code) {
+  return code >= 0 && code < 16 ? ColourNames[static_cast<std::size_t>(code)] : std::string_view{};
+}
+
+std::string_view PenStateName(std::uint8_t penState) {
+  switch (penState) {
+    case 1:
+      return "Pen Down";
+    case 2:
+      return "Pen Up";
+    case 3:
+      return "Pen Erase";
+    default:
+      return {};
+  }
+}
+
+void StatusLine::TitleText() {
+  const std::string background(ColourName(turtle.BGColor));
+  const std::string pen(ColourName(turtle.PenColor));
+  const std::string state(PenStateName(turtle.PenState));
+  const Window& form = controls.Form1;
+  const double x = Divide(RoundHalfEven(turtle.TurtleX - static_cast<double>(form.Width / 2)), turtle.Resolution);
+  const double y = Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle.TurtleY), turtle.Resolution);
+  const std::int16_t direction = ToInt16(180 * turtle.TurtleDir / Pi);
+  controls.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
+                            "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
+                            "]  [BG Color: " + background + "]  [Pen State:" + state + "]");
+}
+
+void StatusLine::Timer4Tick() { controls.Form1.SetCaption("Zerimo [ Time:" + services.TimeOfDay() + " ]"); }
+
+}  // namespace zerimo

@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "files/temp_folder.h"
+#include "support/whole_system.h"
+
+namespace zerimo {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class GeneralPrimitivesTest : public testing::Test, protected WholeSystem {
+ protected:
+  void Execute(const std::string& line) { System.Primitives.Execute(line); }
+  /// The texts of the boxes that a line shows.
+  Texts BoxesOf(const std::string& line) {
+    Desktop.Boxes.clear();
+    Execute(line);
+    return Desktop.BoxTexts();
+  }
+  /// The entries that a line adds to the history.
+  Texts PrintedBy(const std::string& line) {
+    Controls.List4.Clear();
+    Execute(line);
+    return Controls.List4.Items();
+  }
+};
+
+TEST_F(GeneralPrimitivesTest, SayDeveloperTellsTheMakers) {
+  for (const char* line : {"SAYDEVELOPER", "SAYDEVELOPERS"}) {
+    Desktop.Boxes.clear();
+    Execute(line);
+    ASSERT_EQ(Desktop.Boxes.size(), 1U);
+    EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Zerimo is a Product of Vantrel,Designed by...\r\r* Mr. Ostrane Velk\r* Mr. "
+                                          "Ilmar Tessen\r* Mr. Dorrin Pask\r* Mr. Hadric Moll",
+                                          64, "Zerimo "}));
+  }
+}
+
+TEST_F(GeneralPrimitivesTest, CommandListWritesTheNamesAsTheyStand) {
+  const TempFolder folder;
+  folder.Write("Commands.ZMG", "OLD");
+  Execute("COMMANDLIST");
+  std::stringstream bytes(folder.Read("Commands.ZMG"));
+  Texts lines;
+  for (std::string line; std::getline(bytes, line);) lines.push_back(line);
+  ASSERT_EQ(lines.size(), 96U);
+  EXPECT_EQ(lines[0], "FD\r");
+  EXPECT_EQ(lines[90], "PENREVERSE\r");
+  EXPECT_EQ(lines[93], "PENREVERSE\r");
+  EXPECT_EQ(lines[95], "COMMANDLIST\r");
+  EXPECT_TRUE(Desktop.Boxes.empty());
+}
+
+TEST_F(GeneralPrimitivesTest, CommandListThatCanNotBeWrittenIsPassedOver) {
+  const TempFolder folder;
+  folder.MakeFolder("Commands.ZMG/inside");
+  Execute("COMMANDLIST");
+  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_EQ(System.Primitives.OverflowCount, 1);
+}
+
+TEST_F(GeneralPrimitivesTest, WaitSleepsWholeMilliseconds) {
+  Execute("WAIT 250*2");
+  Execute("WAIT 2.5");
+  EXPECT_EQ(Desktop.Sleeps, (std::vector<std::int32_t>{500, 2}));
+}
+
+TEST_F(GeneralPrimitivesTest, WaitBeyond32BitsDoesNotSleep) {
+  Execute("WAIT 3000000000");
+  EXPECT_TRUE(Desktop.Sleeps.empty());
+}
+
+TEST_F(GeneralPrimitivesTest, WaitWithoutAnInputTellsItAndDoesNotSleep) {
+  EXPECT_EQ(BoxesOf("WAIT"), (Texts{"Required Paramiter Missing After WAIT"}));
+  EXPECT_TRUE(Desktop.Sleeps.empty());
+}
+
+TEST_F(GeneralPrimitivesTest, WaitOfAnUnknownNameIsNoMissingInput) {
+  EXPECT_EQ(BoxesOf("WAIT X"), Texts{});
+  EXPECT_EQ(Desktop.Sleeps, (std::vector<std::int32_t>{0}));
+}
+
+TEST_F(GeneralPrimitivesTest, SoundBeepsAndTellsIt) {
+  EXPECT_EQ(BoxesOf("SOUND"), (Texts{"Sound"}));
+  EXPECT_EQ(Desktop.Beeps, 1);
+  EXPECT_EQ(BoxesOf("SOUND 5"), Texts{});
+  EXPECT_EQ(Desktop.Beeps, 1);
+}
+
+TEST_F(GeneralPrimitivesTest, MessageShowsATextOrANumber) {
+  EXPECT_EQ(BoxesOf("MESSAGE \"HELLO  YOU\""), (Texts{"HELLO  YOU"}));
+  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"HELLO  YOU", 0, ""}));
+  EXPECT_EQ(BoxesOf("MESSAGE 2+3"), (Texts{" 5"}));
+  EXPECT_EQ(BoxesOf("MESSAGE 2-3"), (Texts{"-1"}));
+  EXPECT_EQ(BoxesOf("MESSAGE"), (Texts{" 0"}));
+  EXPECT_EQ(BoxesOf("MESSAGE \"HELLO"), (Texts{" 0"}));
+  EXPECT_EQ(BoxesOf("MESSAGE \"\""), (Texts{""}));
+}
+
+TEST_F(GeneralPrimitivesTest, MessageOfASingleQuoteShowsNothing) { EXPECT_EQ(BoxesOf("MESSAGE \""), Texts{}); }
+
+TEST_F(GeneralPrimitivesTest, MessageSetsTheCurrentPoint) {
+  System.Turtle.TurtleX = 1200;
+  System.Turtle.TurtleY = 900;
+  Execute("MESSAGE 1");
+  EXPECT_EQ(System.Picture1.CurrentX(), 1200);
+  EXPECT_EQ(System.Picture1.CurrentY(), 900);
+}
+
+TEST_F(GeneralPrimitivesTest, PrintAddsToTheHistory) {
+  EXPECT_EQ(PrintedBy("PRINT \"A B\""), (Texts{"?A B"}));
+  EXPECT_EQ(PrintedBy("PRINT 2+3"), (Texts{"? 5"}));
+  EXPECT_EQ(PrintedBy("PRINT 2-3"), (Texts{"?-1"}));
+  EXPECT_EQ(PrintedBy("PRINT"), (Texts{"? 0"}));
+  EXPECT_EQ(PrintedBy("PRINT \"A B"), (Texts{"? 0"}));
+  EXPECT_EQ(PrintedBy("PRINT \"\""), (Texts{"?"}));
+}
+
+TEST_F(GeneralPrimitivesTest, PrintOfASingleQuoteAddsNothing) { EXPECT_EQ(PrintedBy("PRINT \""), Texts{}); }
+
+TEST_F(GeneralPrimitivesTest, BracketChainsAddAResult) {
+  EXPECT_EQ(PrintedBy("(SUM 1 2 3)"), (Texts{"? Result:  6"}));
+  EXPECT_EQ(PrintedBy("(PRODUCT 2 3 4)"), (Texts{"? Result:  24"}));
+  EXPECT_EQ(PrintedBy("(SUM 1 2 3"), Texts{});
+  EXPECT_EQ(PrintedBy("(SUM 2 0-5)"), (Texts{"? Result: -3"}));
+  EXPECT_EQ(PrintedBy("(SUM 1  2)"), (Texts{"? Result:  3"}));
+  EXPECT_EQ(PrintedBy("(PRODUCT 2 3"), Texts{});
+}
+
+struct TwoInputs {
+  const char* Line;
+  const char* Box;
+};
+
+class TwoInputsOf : public GeneralPrimitivesTest, public testing::WithParamInterface<TwoInputs> {};
+
+TEST_P(TwoInputsOf, GoToABox) { EXPECT_EQ(BoxesOf(GetParam().Line), (Texts{GetParam().Box})); }
+
+INSTANTIATE_TEST_SUITE_P(Reckoning, TwoInputsOf,
+                         testing::Values(TwoInputs{"SUM 1 2", "3"}, TwoInputs{"SUM 1 2.5", "3"},
+                                         TwoInputs{"SUM 1 3.5", "5"}, TwoInputs{"SUM .25 0", ".25"},
+                                         TwoInputs{"SUM 1 40000", "1"}, TwoInputs{"SUM", "0"},
+                                         TwoInputs{"PRODUCT 2.5 3", "7.5"}, TwoInputs{"QUOTIENT -7 2", "-4"},
+                                         TwoInputs{"QUOTIENT 7 2", "3"}, TwoInputs{"QUOTIENT 7 0", ""},
+                                         TwoInputs{"REMAINDER 7 3", "1"}, TwoInputs{"REMAINDER -7 3", "-1"},
+                                         TwoInputs{"REMAINDER 7.5 3", "2"}, TwoInputs{"REMAINDER 6.5 4.5", "2"},
+                                         TwoInputs{"REMAINDER 7 0", ""}, TwoInputs{"REMAINDER 3000000000 7", ""},
+                                         TwoInputs{"SUM 1+1 2*3", "8"}));
+
+TEST_F(GeneralPrimitivesTest, BareExpressionsShowTheirResult) {
+  Type("1 + 2");
+  Type("2-3");
+  Type("3=3");
+  Type("3<2");
+  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result:  3", "Result: -1", "Result: True", "Result: False"}));
+}
+
+TEST_F(GeneralPrimitivesTest, AFailingRelationIsFalse) {
+  Type("1/0=1");
+  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result: False"}));
+}
+
+TEST_F(GeneralPrimitivesTest, AFailingExpressionIsZero) {
+  Type("1/0");
+  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result:  0"}));
+}
+
+TEST_F(GeneralPrimitivesTest, NamesWithoutAnActionDoNothing) {
+  for (const char* line : {"GETX", "GETY", "SAVE X", "REFRESH"}) Type(line);
+  EXPECT_TRUE(Desktop.Boxes.empty());
+}
+
+TEST_F(GeneralPrimitivesTest, AMissingInputLetsTheProcedureGoOn) {
+  Fill({"TO A", "FD", "RT 90", "END"});
+  Type("A");
+  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Required Paramiter Missing After FD"}));
+  EXPECT_EQ(System.Turtle.TurtleY, 5760);
+  EXPECT_GT(System.Turtle.TurtleDir, 1.5);
+}
+
+TEST_F(GeneralPrimitivesTest, AWholeRestIsOneExpression) {
+  Execute("FD 10 + 5");
+  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 15 * 50);
+  Execute("BK 1 5");
+  EXPECT_EQ(System.Turtle.TurtleY, 5760);
+}
+
+}  // namespace
+}  // namespace zerimo

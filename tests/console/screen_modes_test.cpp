@@ -1,0 +1,258 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/whole_system.h"
+
+namespace zerimo {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr float Full = 11520;
+constexpr float Split = 11520 - 1935;
+
+class ScreenModesTest : public testing::Test, protected WholeSystem {
+ protected:
+  void Execute(const char* line) { System.Primitives.Execute(line); }
+};
+
+/// What a learner sees: which of the four big controls are visible, and how high the surface is.
+struct Seen {
+  bool Rows;
+  bool History;
+  bool Editor;
+  float Surface;
+  bool operator==(const Seen&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Seen& seen) {
+  return out << (seen.Rows ? "rows " : "") << (seen.History ? "history " : "") << (seen.Editor ? "editor " : "")
+             << seen.Surface;
+}
+
+struct ModeSequence {
+  const char* Lines[3];
+  Seen After;
+};
+
+class ModesInOrder : public ScreenModesTest, public testing::WithParamInterface<ModeSequence> {};
+
+TEST_P(ModesInOrder, ShowWhatTheyMust) {
+  for (const char* line : GetParam().Lines) {
+    if (line != nullptr) Execute(line);
+  }
+  const Seen seen{Controls.Picture3.Visible(), Controls.List4.Visible(), Controls.Text2.Visible(),
+                  System.Picture1.Height()};
+  EXPECT_EQ(seen, GetParam().After);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sequences, ModesInOrder,
+                         testing::Values(ModeSequence{{"FS"}, {false, false, false, Full}},
+                                         ModeSequence{{"SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"TS"}, {true, true, false, Split}},
+                                         ModeSequence{{"EDIT"}, {false, false, true, Split}},
+                                         ModeSequence{{"FULLSCREEN"}, {false, false, false, Full}},
+                                         ModeSequence{{"FS", "SPLITSCREEN"}, {true, false, false, Split}},
+                                         ModeSequence{{"TEXTSCREEN"}, {true, true, false, Split}},
+                                         ModeSequence{{"FS", "SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"FS", "TS"}, {false, true, false, Split}},
+                                         ModeSequence{{"FS", "EDIT"}, {false, false, true, Full}},
+                                         ModeSequence{{"TS", "FS"}, {false, false, false, Full}},
+                                         ModeSequence{{"TS", "SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"TS", "EDIT"}, {false, false, true, Split}},
+                                         ModeSequence{{"EDIT", "FS"}, {false, false, false, Full}},
+                                         ModeSequence{{"EDIT", "SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"EDIT", "TS"}, {false, true, false, Split}},
+                                         ModeSequence{{"EDIT", "EDIT"}, {false, false, true, Split}},
+                                         ModeSequence{{"TS", "HIDE"}, {true, true, false, Split}},
+                                         ModeSequence{{"EDIT", "HIDE"}, {false, false, true, Split}},
+                                         ModeSequence{{"TS", "CT"}, {true, true, false, Split}},
+                                         ModeSequence{{"FS", "TS", "SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"FS", "EDIT", "TS"}, {false, true, false, Split}},
+                                         ModeSequence{{"TS", "FS", "TS"}, {false, true, false, Split}},
+                                         ModeSequence{{"EDIT", "TS", "FS"}, {false, false, false, Full}},
+                                         ModeSequence{{"EDIT", "FS", "SS"}, {true, false, false, Split}},
+                                         ModeSequence{{"TS", "EDIT", "SS"}, {true, false, false, Split}}));
+
+TEST_F(ScreenModesTest, SplitScreenMeasuresTheWindowAndTextScreenTheScreen) {
+  Controls.Form1.SetHeight(9000);
+  Execute("FS");
+  EXPECT_EQ(System.Picture1.Height(), 9000);
+  Execute("SS");
+  EXPECT_EQ(System.Picture1.Height(), 9000 - 1935);
+  Execute("TS");
+  EXPECT_EQ(System.Picture1.Height(), Split);
+}
+
+TEST_F(ScreenModesTest, FullScreenStretchesTheTitlePictureAndSplitScreenLeavesIt) {
+  Execute("FS");
+  EXPECT_EQ(Controls.Image1.Height(), Full);
+  Execute("SS");
+  EXPECT_EQ(Controls.Image1.Height(), Full);
+}
+
+TEST_F(ScreenModesTest, FullScreenTakesTheFocusFromTheRows) {
+  Execute("FS");
+  EXPECT_EQ(Focus(), "");
+}
+
+TEST_F(ScreenModesTest, SplitScreenGivesTheFocusToTheTopmostEmptyRow) {
+  for (int row = 0; row < 5; ++row) Controls.Text1[row].Text = "X";
+  Controls.Text1[1].Text = " ";
+  Controls.Text1[3].Text = "";
+  Execute("SS");
+  EXPECT_EQ(Focus(), "Text1(1)");
+}
+
+TEST_F(ScreenModesTest, SplitScreenWithAllRowsFilledLeavesTheFocus) {
+  for (int row = 0; row < 5; ++row) Controls.Text1[row].Text = "X";
+  Controls.Focus.SetFocus(Controls.Text1[3]);
+  Execute("SS");
+  EXPECT_EQ(Focus(), "Text1(3)");
+}
+
+TEST_F(ScreenModesTest, TextScreenTellsTheProceduresAnewEachTime) {
+  Fill({"TO BOX :S", "END", "TO STAR", "END"});
+  System.Store.ProcedureList();
+  Execute("TS");
+  Execute("TS");
+  EXPECT_EQ(Controls.List4.Items(), (Texts{"BOX is Defined", "STAR is Defined", "BOX is Defined", "STAR is Defined"}));
+  EXPECT_TRUE(Controls.List3.Items().empty());
+}
+
+TEST_F(ScreenModesTest, TheNextTypedLineListsTheProceduresAgain) {
+  Fill({"TO BOX :S", "END"});
+  Execute("TS");
+  Execute("SHOW DIA");
+  EXPECT_TRUE(Controls.List3.Items().empty());
+  Type("RT 0");
+  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX :S"}));
+}
+
+TEST_F(ScreenModesTest, TextScreenTypedInALineListsNoTemporaryProcedure) {
+  Fill({"TO BOX", "END"});
+  Type("TS");
+  EXPECT_EQ(Controls.List4.Items(), (Texts{"?TS", "BOX is Defined"}));
+}
+
+TEST_F(ScreenModesTest, ClearTextEmptiesHistoryAndRowsAndCallsTheOneShot) {
+  Type("FD 1", 0);
+  Controls.Text1[3].Text = "X";
+  Execute("CT");
+  EXPECT_TRUE(Controls.List4.Items().empty());
+  for (int row = 0; row < 5; ++row) EXPECT_EQ(Controls.Text1[row].Text, "");
+  EXPECT_TRUE(Controls.Timer2.Enabled);
+}
+
+TEST_F(ScreenModesTest, HideEndsPanelsClockDetailsAndAxes) {
+  Execute("SHOW DIA");
+  Execute("SHOW PAL");
+  Execute("SHOW GRID");
+  Execute("SHOW DETAILS");
+  Execute("SHOW TIME");
+  Controls.Check1.Value = 1;
+  Controls.RichTextBox1.Show();
+  Execute("HIDE");
+  EXPECT_FALSE(Controls.Frame1.Visible());
+  EXPECT_FALSE(Controls.Picture2.Visible());
+  EXPECT_FALSE(Controls.Line5.Visible());
+  EXPECT_FALSE(Controls.Line6.Visible());
+  EXPECT_FALSE(Controls.Timer4.Enabled);
+  EXPECT_FALSE(System.Primitives.DetailsOn);
+  EXPECT_EQ(Controls.Form1.Caption(), "Zerimo");
+  EXPECT_TRUE(Controls.Picture3.Visible());
+  EXPECT_TRUE(Controls.RichTextBox1.Visible());
+  EXPECT_TRUE(Controls.Image1.Visible());
+  EXPECT_EQ(Controls.Check1.Value, 1);
+}
+
+TEST_F(ScreenModesTest, HideLeavesARunningSlideShow) {
+  Controls.Timer3.Enabled = true;
+  Execute("HIDE");
+  EXPECT_TRUE(Controls.Timer3.Enabled);
+}
+
+TEST_F(ScreenModesTest, ShowOpensThePanels) {
+  for (const char* line : {"SHOW DIA", "SHOW DIAGNOSIS"}) {
+    Controls.Frame1.Hide();
+    Execute(line);
+    EXPECT_TRUE(Controls.Frame1.Visible()) << line;
+  }
+  for (const char* line : {"SHOW PAL", "SHOW PALLETE"}) {
+    Controls.Picture2.Hide();
+    Execute(line);
+    EXPECT_TRUE(Controls.Picture2.Visible()) << line;
+  }
+}
+
+TEST_F(ScreenModesTest, ShowTakesItsWordInSmallLetters) {
+  Execute("SHOW grid");
+  EXPECT_TRUE(Controls.Line5.Visible());
+  EXPECT_TRUE(Controls.Line6.Visible());
+  Execute("SHOW grid");
+  EXPECT_TRUE(Controls.Line5.Visible());
+  Execute("show PAL");
+  EXPECT_FALSE(Controls.Picture2.Visible());
+}
+
+TEST_F(ScreenModesTest, ShowOfAnUnknownWordDoesNothing) {
+  Execute("SHOW XYZ");
+  Execute("SHOW");
+  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(Desktop.Dialogs.empty());
+  EXPECT_FALSE(Controls.Frame1.Visible());
+}
+
+TEST_F(ScreenModesTest, ShowDetailsStopsTheClock) {
+  Execute("SHOW TIME");
+  EXPECT_TRUE(Controls.Timer4.Enabled);
+  Execute("SHOW DETAILS");
+  EXPECT_FALSE(Controls.Timer4.Enabled);
+  EXPECT_TRUE(System.Primitives.DetailsOn);
+  Execute("SHOW TIME");
+  EXPECT_TRUE(System.Primitives.DetailsOn);
+}
+
+TEST_F(ScreenModesTest, ShowDeveloperTellsTheTeam) {
+  for (const char* line : {"SHOW DEVELOPER", "SHOW DEVELOPERS"}) {
+    Desktop.Boxes.clear();
+    Execute(line);
+    ASSERT_EQ(Desktop.Boxes.size(), 1U);
+    EXPECT_EQ(
+        Desktop.Boxes[0],
+        (ShownBox{"This Product is Developed by\r----------------------------------\r*Mr. Dorrin Pask\r*Mr. Hadric "
+                  "Moll\r*Mr. Ostrane Velk\r*Mr. Ilmar Tessen",
+                  64, "Zerimo Team"}));
+  }
+}
+
+TEST_F(ScreenModesTest, ShowProcedureListsTheUsersProcedures) {
+  Fill({"TO SQUARE", "END", "TO STAR :N", "END"});
+  Type("SHOW PROCEDURE");
+  ASSERT_EQ(Desktop.Boxes.size(), 1U);
+  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"[SQUARE]   [STAR :N]   ", 0, ""}));
+}
+
+TEST_F(ScreenModesTest, ShowOpenAndSaveAsAskTheDialogs) {
+  Execute("SHOW OPEN");
+  Execute("SHOW SAVEAS");
+  EXPECT_EQ(Desktop.Dialogs, (Texts{"open", "save Zerimo File(.ZRM)"}));
+}
+
+TEST_F(ScreenModesTest, ModesLeaveTheTurtle) {
+  Execute("FD 10");
+  const double y = System.Turtle.TurtleY;
+  for (const char* line : {"FS", "SS", "TS"}) Execute(line);
+  EXPECT_EQ(System.Turtle.TurtleY, y);
+}
+
+TEST_F(ScreenModesTest, HelpViewKeepsItsPlaceInEveryMode) {
+  const float height = Controls.RichTextBox1.Height();
+  Execute("FS");
+  EXPECT_EQ(Controls.RichTextBox1.Height(), height);
+}
+
+}  // namespace
+}  // namespace zerimo
