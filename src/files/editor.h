@@ -1,0 +1,32 @@
+#pragma once
+
+#include "controls/form_controls.h"
+#include "core/dispatch.h"
+#include "core/program_store.h"
+#include "language/lowering.h"
+
+namespace zerimo {
+
+/// The editor `Text2`: `EDIT` and the fold of its text into the store.
+class Editor {
+ public:
+  Editor(ProgramStore& programStore, Lowering& repeatLowering, FormControls& formControls, Dispatch& dispatcher)
+      : store(programStore), lowering(repeatLowering), controls(formControls), dispatch(dispatcher) {}
+
+  /// Sets the work of `EDIT`.
+  void Bind();
+
+  /// F2: back to the split screen, tidies the editor's text and fills the store from it. Not under the skip rule.
+  void Fold();
+
+  /// Fills the store from the editor's text. Fails (subscript) beyond line 2000.
+  void FillFiledataArrayFromEdit();
+
+ private:
+  ProgramStore& store;
+  Lowering& lowering;
+  FormControls& controls;
+  Dispatch& dispatch;
+};
+
+}  // namespace zerimo

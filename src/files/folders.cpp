@@ -1,0 +1,194 @@
+#include "files/folders.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <optional>
+#include <random>
+#include <system_error>
+
+#include "core/failure.h"
+#include "core/text.h"
+#include "files/unicode_text.h"
+
+namespace zerimo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Where the disk itself has drive letters, they are kept.
+constexpr bool DriveLettersAreFolders = fs::path::preferred_separator == '\\';
+
+[[noreturn]] void Fail(FailureKind kind) { throw Failure(kind); }
+
+bool BeginsWithDriveLetter(std::string_view path) {
+  if (path.size() < 2 || path[1] != ':') return false;
+  const char letter = path[0];
+  return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
+}
+
+/// The path as it stands.
+fs::path AsItStands(std::string_view systemPath) {
+  if (!DriveLettersAreFolders && BeginsWithDriveLetter(systemPath)) systemPath.remove_prefix(2);
+  std::string path = Utf8FromLatin1(systemPath);
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return std::u8string(path.begin(), path.end());
+}
+
+/// The name of a file or folder, or a whole path, as the system writes it.
+std::string SystemName(const fs::path& path) {
+  const std::u8string utf8 = path.generic_u8string();
+  return Latin1FromUtf8(std::string(utf8.begin(), utf8.end()));
+}
+
+/// The entries of a folder that have a name in another case, sorted.
+std::vector<fs::path> InAnotherCase(const fs::path& folder, const fs::path& name) {
+  const std::string wanted = UpperCase(SystemName(name));
+  std::vector<fs::path> entries;
+  std::error_code error;
+  fs::directory_iterator walk(folder.empty() ? fs::path(".") : folder, error);
+  for (; !error && walk != fs::directory_iterator(); walk.increment(error)) {
+    const fs::path entry = walk->path().filename();
+    if (entry != name && UpperCase(SystemName(entry)) == wanted) entries.push_back(entry);
+  }
+  std::sort(entries.begin(), entries.end());
+  // Several names with characters that the system does not have look alike: none of them is taken for another.
+  if (entries.size() > 1 && wanted.find('?') != std::string::npos) entries.clear();
+  return entries;
+}
+
+/// Looks the parts up below a folder. A folder that does not lead to the end is left again: a path in capitals must
+/// not get stuck in a neighbour's folder that differs in case alone.
+std::optional<fs::path> LookUp(const fs::path& folder, fs::path::iterator part, fs::path::iterator end) {
+  if (part == end) return folder;
+  const auto next = std::next(part);
+  std::error_code error;
+  if (part->empty()) return fs::is_directory(folder, error) ? LookUp(folder, next, end) : std::nullopt;
+  if (fs::exists(folder / *part, error)) {
+    if (auto found = LookUp(folder / *part, next, end)) return found;
+  }
+  for (const fs::path& entry : InAnotherCase(folder, *part)) {
+    if (auto found = LookUp(folder / entry, next, end)) return found;
+  }
+  return std::nullopt;
+}
+
+std::optional<fs::path> LookUp(const fs::path& path) {
+  std::error_code error;
+  if (fs::exists(path, error)) return path;
+  const fs::path relative = path.relative_path();
+  return LookUp(path.root_path(), relative.begin(), relative.end());
+}
+
+/// Refuses names that the disk would cut short or that name nothing.
+void RequireName(std::string_view systemPath, FailureKind kind) {
+  if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
+}
+
+void WriteThrough(const fs::path& file, const std::string& bytes) {
+  std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+  stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  stream.close();
+  if (!stream) Fail(FailureKind::FileAccess);
+}
+
+/// A name that no other file of the folder has.
+fs::path NameBeside(const fs::path& file) {
+  static constexpr std::array<char, 17> digits = {"0123456789abcdef"};
+  std::random_device random;
+  std::string name = ".zerimo-";
+  for (int i = 0; i < 16; ++i) name += digits[random() % 16];
+  return file.parent_path() / (name + ".tmp");
+}
+
+/// Whether a file that is there may be written; opening it so changes nothing.
+bool IsWritable(const fs::path& file) { return std::ofstream(file, std::ios::binary | std::ios::app).is_open(); }
+
+void WriteBeside(const fs::path& file, const std::string& bytes) {
+  const fs::path beside = NameBeside(file);
+  std::error_code error;
+  try {
+    WriteThrough(beside, bytes);
+    if (fs::exists(file, error)) fs::permissions(beside, fs::status(file).permissions());
+    fs::rename(beside, file);
+  } catch (const std::exception&) {
+    fs::remove(beside, error);
+    Fail(FailureKind::FileAccess);
+  }
+}
+
+}  // namespace
+
+std::string Folders::ToSystem(const fs::path& path) {
+  std::string text = SystemName(path);
+  std::replace(text.begin(), text.end(), '/', '\\');
+  return text;
+}
+
+fs::path Folders::ToRead(const std::string& systemPath) {
+  const fs::path path = AsItStands(systemPath);
+  return LookUp(path).value_or(path);
+}
+
+fs::path Folders::ToWrite(const std::string& systemPath) {
+  const fs::path path = AsItStands(systemPath);
+  if (auto found = LookUp(path)) return *found;
+  const auto folder = LookUp(path.parent_path());
+  return folder ? *folder / path.filename() : path;
+}
+
+std::string Folders::ReadFile(const std::string& systemPath) {
+  RequireName(systemPath, FailureKind::FileNotFound);
+  const fs::path file = ToRead(systemPath);
+  std::error_code error;
+  if (!fs::exists(file, error)) Fail(FailureKind::FileNotFound);
+  // A folder can't be read, and a pipe would wait for ever.
+  if (!fs::is_regular_file(file, error)) Fail(FailureKind::FileAccess);
+  std::ifstream stream(file, std::ios::binary);
+  std::string bytes;
+  std::array<char, 65536> piece;
+  while (stream.read(piece.data(), piece.size()), stream.gcount() > 0) {
+    bytes.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
+    if (bytes.size() > LargestFile) Fail(FailureKind::FileAccess);
+  }
+  if (!stream.eof()) Fail(FailureKind::FileAccess);
+  return bytes;
+}
+
+void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) {
+  RequireName(systemPath, FailureKind::FileAccess);
+  fs::path file = ToWrite(systemPath);
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  // A link whose target is not there yet and a device have nothing to lose.
+  const bool isDangling = !fs::exists(status) && fs::is_symlink(fs::symlink_status(file, error));
+  if (isDangling || fs::is_character_file(status)) return WriteThrough(file, bytes);
+  if (fs::exists(status)) {
+    if (!fs::is_regular_file(status) || !IsWritable(file)) Fail(FailureKind::FileAccess);
+    // The file behind a link is written, and the link stays.
+    file = fs::canonical(file, error);
+    if (error) Fail(FailureKind::FileAccess);
+  }
+  WriteBeside(file, bytes);
+}
+
+std::vector<std::string> Folders::FilesIn(const std::string& systemPath) {
+  const fs::path folder = ToRead(systemPath);
+  std::error_code error;
+  if (!fs::is_directory(folder, error)) Fail(FailureKind::FileNotFound);
+  std::vector<std::string> names;
+  fs::directory_iterator walk(folder, error);
+  for (; !error && walk != fs::directory_iterator(); walk.increment(error)) {
+    std::error_code unknown;
+    const std::string name = SystemName(walk->path().filename());
+    if (walk->is_regular_file(unknown) && name.front() != '.') names.push_back(name);
+  }
+  if (error) Fail(FailureKind::FileAccess);
+  std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    return std::make_pair(UpperCase(a), a) < std::make_pair(UpperCase(b), b);
+  });
+  return names;
+}
+
+}  // namespace zerimo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "controls/form_controls.h"
+#include "core/dispatch.h"
+#include "core/services.h"
+
+namespace zerimo {
+
+/// The help view: a list of pages and a page. The pages stand in the folder ZMHELP beside the current folder.
+class HelpPages {
+ public:
+  HelpPages(FormControls& formControls, Services& desktop, Dispatch& dispatcher)
+      : controls(formControls), services(desktop), dispatch(dispatcher) {}
+
+  /// Sets the work of `HELP`.
+  void Bind();
+
+  /// Loads the page selected in the list. Fails (file).
+  void File1MouseDown();
+
+  /// F11 on the page: asks for a name and saves the page in its rich-text form. Fails (file).
+  void SavePage();
+
+  /// Hides the page and the list.
+  void CloseView();
+
+ private:
+  void Open(PrimitiveCall& call);
+  void SetFolder();
+  void LoadPage(const std::string& file);
+
+  FormControls& controls;
+  Services& services;
+  Dispatch& dispatch;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,96 @@
+#include "files/program_files.h"
+
+#include <array>
+
+#include "core/failure.h"
+#include "core/text.h"
+#include "files/program_text.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr int EndingLength = 4;
+
+std::string EndingInCapitals(const std::string& name) {
+  if (name.size() < EndingLength) return {};
+  return UpperCase(name.substr(name.size() - EndingLength));
+}
+
+std::string WithoutEnding(const std::string& name) { return name.substr(0, name.size() - EndingLength); }
+
+}  // namespace
+
+ProgramFiles::ProgramFiles(ProgramStore& programStore, Lowering& repeatLowering, Variables& allVariables,
+                           FormControls& formControls, Services& desktop, Dispatch& dispatcher,
+                           const Folders& theFolders, Pictures& thePictures)
+    : store(programStore),
+      lowering(repeatLowering),
+      variables(allVariables),
+      controls(formControls),
+      services(desktop),
+      dispatch(dispatcher),
+      folders(theFolders),
+      pictures(thePictures) {}
+
+void ProgramFiles::Bind() {
+  dispatch.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
+}
+
+void ProgramFiles::Load(PrimitiveCall& call) {
+  if (dispatch.TellMissingInput(call, Action::Load)) return;
+  CurrentFileName = Trimmed(call.Rest);
+  if (!Folders::HasFolder(call.Rest)) call.Rest = folders.AppFolder + "\\" + call.Rest;
+  FileLoad(call.Rest);
+  // Also when the file could not be loaded.
+  PassOver([&] { variables.CreateGlobalVariable(); });
+  PassOver([&] { lowering.RemoveAllRepeats(); });
+}
+
+void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
+  const std::string path(Trimmed(nameOfTheFileWithoutExtension + ".ZRM"));
+  try {
+    LoadedText = Folders::ReadFile(path);
+    // Behind what the editor holds, with no line end between the two.
+    controls.Text2.Text += LoadedText;
+    MakeArray(path);
+  } catch (const Failure&) {
+    services.MessageBox("Unable to Load File " + path, box::AbortRetryIgnore, "Zerimo");
+  }
+}
+
+void ProgramFiles::MakeArray(const std::string& file) {
+  const std::string text = Folders::ReadFile(file);
+  store.FileDataCount = static_cast<std::int16_t>(store.FirstEmptyLine());
+  FillStore(store, text, store.FileDataCount);
+  lowering.RemoveAllRepeats();
+  ListStore(store, controls.List1);
+  store.ProcedureList();
+}
+
+void ProgramFiles::ShowOpen() {
+  std::string name;
+  PassOver([&] { name = Trimmed(services.ShowOpen()); });
+  if (name.empty()) return;
+  const std::string ending = EndingInCapitals(name);
+  if (ending == ".ZRM") {
+    OpenProgram(WithoutEnding(name));
+  } else if (ending == ".JPG" || ending == ".BMP" || ending == ".GIF") {
+    OpenPicture(name);
+  } else {
+    PassOver([&] { services.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
+  }
+}
+
+void ProgramFiles::OpenProgram(const std::string& name) {
+  // A blank behind the question mark, unlike the entries of typed lines.
+  PassOver([&] { controls.List4.Add("? LOAD " + name); });
+  PassOver([&] { dispatch.Execute("LOAD " + name); });
+}
+
+void ProgramFiles::OpenPicture(const std::string& name) {
+  PassOver([&] { pictures.ShowPicture(name); });
+  PassOver([&] { controls.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
+}
+
+}  // namespace zerimo

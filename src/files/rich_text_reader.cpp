@@ -1,0 +1,256 @@
+#include "files/rich_text_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+#include "files/unicode_text.h"
+
+namespace zerimo {
+
+RichText RtfReader::Read() {
+  for (RtfToken token = scanner.Next(); token.Is != RtfToken::Kind::End; token = scanner.Next()) {
+    const bool beginsGroup = token.Is == RtfToken::Kind::GroupStart;
+    const bool marksGroup = isFirstInGroup && token.Is == RtfToken::Kind::Symbol && token.Byte == '*';
+    isIgnorable = isIgnorable && token.Is == RtfToken::Kind::Word;
+    Act(token);
+    isFirstInGroup = beginsGroup || marksGroup;
+    isIgnorable = marksGroup;
+  }
+  while (!outer.empty()) EndGroup();
+  CloseHalf();
+  // The paragraph behind the last paragraph end is none.
+  if (page.Paragraphs.size() > 1 && page.Paragraphs.back().Runs.empty()) page.Paragraphs.pop_back();
+  return std::move(page);
+}
+
+void RtfReader::Act(const RtfToken& token) {
+  switch (token.Is) {
+    case RtfToken::Kind::GroupStart:
+      return StartGroup();
+    case RtfToken::Kind::GroupEnd:
+      return EndGroup();
+    case RtfToken::Kind::Word:
+      return ActOnWord(token);
+    case RtfToken::Kind::Symbol:
+      return ActOnSymbol(token.Byte);
+    case RtfToken::Kind::Character:
+      return ActOnCharacter(token.Byte);
+    case RtfToken::Kind::Text:
+      return ActOnText(token.Name);
+    case RtfToken::Kind::Binary:
+      IsSubstitute();
+      return;
+    case RtfToken::Kind::End:
+      return;
+  }
+}
+
+void RtfReader::StartGroup() {
+  substitutesLeft = 0;
+  if (outer.size() == rtf_limits::DeepestNesting) {
+    ++tooDeep;
+  } else {
+    outer.push_back(now);
+  }
+}
+
+void RtfReader::EndGroup() {
+  substitutesLeft = 0;
+  if (tooDeep > 0) {
+    --tooDeep;
+    return;
+  }
+  // An end without a beginning ends nothing: the text goes on.
+  if (outer.empty()) return;
+  const bool endsMark = now.Where == RtfDestination::ListMark && outer.back().Where != RtfDestination::ListMark;
+  now = std::move(outer.back());
+  outer.pop_back();
+  formIsKnown = false;
+  if (endsMark) EndListMark(std::exchange(listMark, {}));
+}
+
+void RtfReader::ActOnWord(const RtfToken& word) {
+  const auto meanings = MeaningsIn(now.Where);
+  const auto found =
+      std::lower_bound(meanings.begin(), meanings.end(), word.Name,
+                       [](const WordMeaning& meaning, std::string_view name) { return meaning.Word < name; });
+  const bool isKnown = found != meanings.end() && found->Word == word.Name;
+  if (isIgnorable && !(isKnown && found->Do == &RtfReader::EnterDestination)) now.Where = RtfDestination::Nothing;
+  if (!isKnown || now.Where == RtfDestination::Nothing) {
+    substitutesLeft = 0;
+    return;
+  }
+  // A dash or quotation mark may be the substitute of a Unicode character; other words end the substitutes.
+  const bool isCharacter = found->Do == &RtfReader::Special && found->Value > 126;
+  if (isCharacter && IsSubstitute()) return;
+  substitutesLeft = 0;
+  (this->*found->Do)(word, found->Value);
+}
+
+void RtfReader::ActOnSymbol(unsigned char symbol) {
+  switch (symbol) {
+    case '\r':
+    case '\n':
+      substitutesLeft = 0;
+      return EndParagraph({}, 0);
+    case '~':
+      if (!IsSubstitute()) AddCharacter(0xA0);
+      return;
+    case '_':
+      if (!IsSubstitute()) AddCharacter(0x2011);
+      return;
+    case '-':
+      if (!IsSubstitute()) AddCharacter(0xAD);
+      return;
+    case '\t':
+    case ' ':
+    case '\\':
+    case '{':
+    case '}':
+      if (!IsSubstitute()) AddCharacter(symbol);
+      return;
+    default:
+      return;
+  }
+}
+
+void RtfReader::ActOnCharacter(unsigned char byte) {
+  if (!IsSubstitute()) AddCharacter(CharacterOf(CodePageOfNow(), byte));
+}
+
+void RtfReader::ActOnText(std::string_view text) {
+  const auto skipped = std::min(static_cast<std::size_t>(substitutesLeft), text.size());
+  substitutesLeft -= static_cast<int>(skipped);
+  text.remove_prefix(skipped);
+  if (now.Where == RtfDestination::FontTable || now.Where == RtfDestination::ColourTable) return ActOnTableText(text);
+  AddText(text);
+}
+
+bool RtfReader::IsSubstitute() {
+  if (substitutesLeft == 0) return false;
+  --substitutesLeft;
+  return true;
+}
+
+void RtfReader::AddCharacter(char32_t character) {
+  if (character < 32 && character != '\t' && character != '\n') return;
+  std::string utf8;
+  AppendUtf8(utf8, character);
+  AddText(utf8);
+}
+
+void RtfReader::AddText(std::string_view utf8) {
+  if (utf8.empty()) return;
+  CloseHalf();
+  if (now.Where == RtfDestination::Page) AddToPage(utf8);
+  if (now.Where == RtfDestination::ListMark) listMark += utf8;
+  if (now.Where == RtfDestination::FontTable) AddToFontTable(utf8);
+}
+
+void RtfReader::AddToPage(std::string_view utf8) {
+  Paragraph& paragraph = page.Paragraphs.back();
+  if (paragraph.Form != now.Form) paragraph.Form = now.Form;
+  const std::size_t runsBefore = paragraph.Runs.size();
+  if (runs >= MostRuns && runsBefore > 0) {
+    paragraph.Runs.back().Text += std::string(std::exchange(breaksOwed, 0), '\n').append(utf8);
+    return;
+  }
+  for (; breaksOwed > 0; --breaksOwed) Append(paragraph, "\n", FormOfNow());
+  Append(paragraph, utf8, FormOfNow());
+  runs += paragraph.Runs.size() - runsBefore;
+}
+
+void RtfReader::AddToFontTable(std::string_view utf8) {
+  RtfFont* const font = FontInTable();
+  if (utf8 == "\t") return;
+  if (font != nullptr && font->Name.size() < rtf_limits::LongestFontName) font->Name += utf8;
+}
+
+/// The text of a table: each semicolon ends an entry.
+void RtfReader::ActOnTableText(std::string_view text) {
+  for (const char character : text) {
+    const bool ends = character == ';';
+    if (now.Where == RtfDestination::FontTable) {
+      if (ends) {
+        fontInTable = -1;
+      } else {
+        AddText({&character, 1});
+      }
+    } else if (ends && colours.size() < rtf_limits::MostTableEntries) {
+      colours.push_back(std::exchange(colourInTable, std::nullopt));
+    }
+  }
+}
+
+/// A mark that is one character and no letter or digit is a bullet; any other stays as text.
+void RtfReader::EndListMark(std::string_view mark) {
+  std::string_view sign = mark;
+  while (!sign.empty() && (sign.back() == '\t' || sign.back() == ' ')) sign.remove_suffix(1);
+  while (!sign.empty() && (sign.front() == '\t' || sign.front() == ' ')) sign.remove_prefix(1);
+  std::size_t offset = 0;
+  const char32_t first = sign.empty() ? U'0' : NextCharacter(sign, offset);
+  const bool isWordLike =
+      (first >= '0' && first <= '9') || (first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z');
+  if (!isWordLike && offset == sign.size()) {
+    now.Form.Bullet = true;
+  } else {
+    AddText(mark);
+  }
+}
+
+/// A first half that nothing followed.
+void RtfReader::CloseHalf() {
+  if (std::exchange(half, 0) != 0) AddCharacter(ReplacementCharacter);
+}
+
+const CharacterForm& RtfReader::FormOfNow() {
+  if (!formIsKnown) {
+    form = now.Characters;
+    const auto font = fonts.find(now.Font == -1 ? defaultFont : now.Font);
+    form.FontName = font == fonts.end() ? std::string() : std::string(Trimmed(font->second.Name));
+    form.Color = ColourOf(now.Color);
+    form.Background = ColourOf(now.Background);
+    formIsKnown = true;
+  }
+  return form;
+}
+
+int RtfReader::CodePageOfNow() const {
+  const bool inTable = now.Where == RtfDestination::FontTable;
+  const auto font = fonts.find(inTable ? fontInTable : now.Font == -1 ? defaultFont : now.Font);
+  return font == fonts.end() || font->second.CodePage == 0 ? codePage : font->second.CodePage;
+}
+
+std::optional<Colour> RtfReader::ColourOf(int number) const {
+  const auto index = static_cast<std::size_t>(number);
+  return number >= 0 && index < colours.size() ? colours[index] : std::nullopt;
+}
+
+void RtfReader::EndParagraph(Number, int) {
+  if (now.Where != RtfDestination::Page) return;
+  CloseHalf();
+  if (breaksOwed == 0) page.Paragraphs.back().Form = now.Form;
+  if (page.Paragraphs.size() < MostParagraphs) {
+    page.Paragraphs.emplace_back();
+  } else {
+    ++breaksOwed;
+  }
+}
+
+void RtfReader::TakeUnit(char32_t unit) {
+  const bool isFirstHalf = unit >= 0xD800 && unit < 0xDC00;
+  const bool isSecondHalf = unit >= 0xDC00 && unit < 0xE000;
+  if (isFirstHalf) {
+    CloseHalf();
+    half = unit;
+  } else if (isSecondHalf && half != 0) {
+    AddCharacter(0x10000 + ((std::exchange(half, 0) - 0xD800) << 10) + (unit - 0xDC00));
+  } else {
+    AddCharacter(unit);
+  }
+}
+
+RichText ReadRtf(std::string_view rtf) { return RtfReader(rtf).Read(); }
+
+}  // namespace zerimo

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "files/code_pages.h"
+#include "files/rich_text.h"
+#include "files/rich_text_scanner.h"
+
+namespace zerimo {
+
+/// What the reader holds at most, whatever a page says.
+namespace rtf_limits {
+inline constexpr std::size_t DeepestNesting = 10000;
+inline constexpr std::size_t MostTableEntries = 4096;
+inline constexpr std::size_t LongestFontName = 96;
+inline constexpr int GreatestLength = 100000;
+inline constexpr int LargestHalfPoints = 6552;
+}  // namespace rtf_limits
+
+/// What the text of a group is for.
+enum class RtfDestination { Page, ListMark, FontTable, ColourTable, ListForm, Nothing };
+
+/// The state that a group restores at its end. Fonts and colours are kept by their numbers: the tables tell later
+/// what they are.
+struct RtfGroup {
+  RtfDestination Where = RtfDestination::Page;
+  /// -1 is the document's own.
+  int Font = -1;
+  int Color = 0;
+  int Background = 0;
+  CharacterForm Characters;
+  ParagraphForm Form;
+  /// How many characters stand behind \uN for readers that know no Unicode.
+  int Substitutes = 1;
+};
+
+struct RtfFont {
+  std::string Name;
+  int CodePage = 0;
+};
+
+/// Reads a document token by token with a stack of its own, so that nesting costs no call depth.
+class RtfReader {
+ public:
+  explicit RtfReader(std::string_view rtf) : scanner(rtf) {}
+  RichText Read();
+
+ private:
+  using Number = const RtfToken&;
+  struct WordMeaning {
+    std::string_view Word;
+    void (RtfReader::*Do)(Number, int);
+    int Value = 0;
+  };
+  struct WordTables;
+  static std::span<const WordMeaning> MeaningsIn(RtfDestination where);
+
+  void Act(const RtfToken& token);
+  void StartGroup();
+  void EndGroup();
+  void ActOnWord(const RtfToken& word);
+  void ActOnSymbol(unsigned char symbol);
+  void ActOnCharacter(unsigned char byte);
+  void ActOnText(std::string_view text);
+
+  /// Whether a piece is one of the substitutes behind a Unicode character, and steps over it.
+  bool IsSubstitute();
+  void AddCharacter(char32_t character);
+  void AddText(std::string_view utf8);
+  void AddToPage(std::string_view utf8);
+  void AddToFontTable(std::string_view utf8);
+  void ActOnTableText(std::string_view text);
+  void EndListMark(std::string_view mark);
+  void CloseHalf();
+  void TakeUnit(char32_t unit);
+  const CharacterForm& FormOfNow();
+  int CodePageOfNow() const;
+  std::optional<Colour> ColourOf(int number) const;
+
+  // What control words do; `value` is what the table of words says.
+  void Special(Number, int value);
+  void EndParagraph(Number, int);
+  void EnterDestination(Number, int value);
+  void Bold(Number n, int);
+  void Italic(Number n, int);
+  void Strike(Number n, int);
+  void Underline(Number n, int value);
+  void FontNumber(Number n, int);
+  void FontSize(Number n, int);
+  void Color(Number n, int);
+  void Background(Number n, int);
+  void PlainForm(Number, int);
+  void PlainParagraph(Number, int);
+  void Align(Number, int value);
+  void LeftIndent(Number n, int);
+  void RightIndent(Number n, int);
+  void FirstIndent(Number n, int);
+  void SpaceBefore(Number n, int);
+  void SpaceAfter(Number n, int);
+  void Tab(Number n, int);
+  void CodePage(Number n, int value);
+  void DefaultFont(Number n, int);
+  void Unicode(Number n, int);
+  void Substitutes(Number n, int);
+  void BulletList(Number, int);
+  void DefineFont(Number n, int);
+  void FontCharset(Number n, int);
+  void FontCodePage(Number n, int);
+  void ColourPart(Number n, int value);
+
+  /// The font that is being defined, or nothing.
+  RtfFont* FontInTable();
+
+  RtfScanner scanner;
+  RichText page;
+  std::size_t runs = 0;
+  /// Paragraph ends beyond the most paragraphs.
+  std::size_t breaksOwed = 0;
+
+  RtfGroup now;
+  std::vector<RtfGroup> outer;
+  std::size_t tooDeep = 0;
+  /// The token in front began a group, or was the \* that does.
+  bool isFirstInGroup = false;
+  bool isIgnorable = false;
+
+  int codePage = WesternCodePage;
+  int defaultFont = 0;
+  std::map<int, RtfFont> fonts;
+  int fontInTable = -1;
+  std::vector<std::optional<Colour>> colours;
+  std::optional<Colour> colourInTable;
+
+  CharacterForm form;
+  bool formIsKnown = false;
+  /// The first half of a character beyond 16 bits, or 0.
+  char32_t half = 0;
+  int substitutesLeft = 0;
+  std::string listMark;
+};
+
+}  // namespace zerimo

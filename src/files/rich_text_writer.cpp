@@ -1,0 +1,155 @@
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "files/rich_text.h"
+#include "files/unicode_text.h"
+
+namespace zerimo {
+
+namespace {
+
+/// Numbers the different values in the order of their first use, from 1.
+template <typename Value>
+class Table {
+ public:
+  std::size_t NumberOf(const Value& value) {
+    const auto found = std::find(values.begin(), values.end(), value);
+    if (found != values.end()) return static_cast<std::size_t>(found - values.begin()) + 1;
+    values.push_back(value);
+    return values.size();
+  }
+  const std::vector<Value>& Values() const { return values; }
+
+ private:
+  std::vector<Value> values;
+};
+
+class RtfWriter {
+ public:
+  std::string Write(const RichText& text);
+
+ private:
+  void Word(const char* name) { body += name; }
+  void Word(const char* name, long long number) { body += name + std::to_string(number); }
+  void WordUnless(const char* name, int number, int usual);
+  void WriteParagraph(const Paragraph& paragraph);
+  void WriteForm(const ParagraphForm& form);
+  void WriteForm(const CharacterForm& form);
+  std::string Head() const;
+
+  std::string body;
+  Table<std::string> fonts;
+  Table<Colour> colours;
+};
+
+/// \uN with the question mark for readers that know no Unicode; N is a signed 16-bit number.
+void AppendUnicode(std::string& rtf, char32_t character) {
+  const auto unit = [&rtf](char32_t code) {
+    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(static_cast<std::uint16_t>(code))) + "?";
+  };
+  if (character < 0x10000) return unit(character);
+  unit(0xD800 + ((character - 0x10000) >> 10));
+  unit(0xDC00 + ((character - 0x10000) & 0x3FF));
+}
+
+void AppendCharacter(std::string& rtf, char32_t character) {
+  if (character == '\t') {
+    rtf += "\\tab ";
+  } else if (character == '\n') {
+    rtf += "\\line ";
+  } else if (character == '\\' || character == '{' || character == '}') {
+    rtf += '\\';
+    rtf += static_cast<char>(character);
+  } else if (character > 126) {
+    AppendUnicode(rtf, character);
+  } else if (character >= 32) {
+    rtf += static_cast<char>(character);
+  }
+}
+
+void AppendText(std::string& rtf, std::string_view utf8) {
+  for (std::size_t offset = 0; offset < utf8.size();) AppendCharacter(rtf, NextCharacter(utf8, offset));
+}
+
+/// A semicolon would end the name.
+void AppendFontName(std::string& rtf, std::string_view utf8) {
+  for (std::size_t offset = 0; offset < utf8.size();) {
+    const char32_t character = NextCharacter(utf8, offset);
+    if (character == ';') {
+      rtf += "\\'3b";
+    } else {
+      AppendCharacter(rtf, character);
+    }
+  }
+}
+
+void RtfWriter::WordUnless(const char* name, int number, int usual) {
+  if (number != usual) Word(name, number);
+}
+
+void RtfWriter::WriteForm(const ParagraphForm& form) {
+  static constexpr std::array<const char*, 4> alignments = {"", "\\qc", "\\qr", "\\qj"};
+  Word("\\pard");
+  Word(alignments[static_cast<std::size_t>(form.Align)]);
+  WordUnless("\\fi", form.FirstIndent, 0);
+  WordUnless("\\li", form.LeftIndent, 0);
+  WordUnless("\\ri", form.RightIndent, 0);
+  WordUnless("\\sb", form.SpaceBefore, 0);
+  WordUnless("\\sa", form.SpaceAfter, 0);
+  for (const int tab : form.Tabs) Word("\\tx", tab);
+  if (form.Bullet) Word(R"({\pntext\'B7\tab}{\*\pn\pnlvlblt\pnindent0{\pntxtb\'B7}})");
+}
+
+void RtfWriter::WriteForm(const CharacterForm& form) {
+  Word("\\plain");
+  if (!form.FontName.empty()) Word("\\f", static_cast<long long>(fonts.NumberOf(form.FontName)));
+  Word("\\fs", form.HalfPoints);
+  if (form.Bold) Word("\\b");
+  if (form.Italic) Word("\\i");
+  if (form.Underline) Word("\\ul");
+  if (form.Strike) Word("\\strike");
+  if (form.Color) Word("\\cf", static_cast<long long>(colours.NumberOf(*form.Color)));
+  if (form.Background) Word("\\highlight", static_cast<long long>(colours.NumberOf(*form.Background)));
+  body += ' ';
+}
+
+void RtfWriter::WriteParagraph(const Paragraph& paragraph) {
+  WriteForm(paragraph.Form);
+  for (const TextRun& run : paragraph.Runs) {
+    WriteForm(run.Form);
+    AppendText(body, run.Text);
+  }
+  Word("\\par\r\n");
+}
+
+std::string RtfWriter::Head() const {
+  // No \deff, and no font 0: text without a font name keeps none.
+  std::string head = R"({\rtf1\ansi\ansicpg1252\uc1{\fonttbl)";
+  std::size_t number = 0;
+  for (const std::string& name : fonts.Values()) {
+    head += "{\\f" + std::to_string(++number) + "\\fnil ";
+    AppendFontName(head, name);
+    head += ";}";
+  }
+  head += "}{\\colortbl;";
+  for (const Colour colour : colours.Values()) {
+    head += "\\red" + std::to_string(colour & 255) + "\\green" + std::to_string(colour >> 8 & 255) + "\\blue" +
+            std::to_string(colour >> 16 & 255) + ";";
+  }
+  return head + "}\r\n";
+}
+
+std::string RtfWriter::Write(const RichText& text) {
+  for (const Paragraph& paragraph : text.Paragraphs) WriteParagraph(paragraph);
+  return Head() + body + "}";
+}
+
+}  // namespace
+
+std::string WriteRtf(const RichText& text) { return RtfWriter().Write(text); }
+
+}  // namespace zerimo

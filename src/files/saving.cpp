@@ -1,0 +1,44 @@
+#include "files/saving.h"
+
+#include "core/failure.h"
+#include "core/line_entry.h"
+#include "core/text.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr const char* LineEnd = "\r\n";
+
+}  // namespace
+
+void Saving::ShowSaveAs() {
+  std::string name;
+  PassOver([&] { name = services.ShowSave("Zerimo File(.ZRM)"); });
+  if (Trimmed(name).empty()) return;
+  // A full stop anywhere counts, also one in a folder's name.
+  if (!Contains(name, ".")) name += ".ZRM";
+  PassOver([&] { SaveAs(name); });
+}
+
+void Saving::SaveAs(const std::string& saveAsFileName) {
+  std::string text = controls.Text2.Text;
+  Folders::WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
+}
+
+void Saving::SaveFromEditor() {
+  const std::string name = services.InputBox("Enter the file name", "Save As", files.CurrentFileName);
+  // An empty answer, also that of a cancelled box, writes the file ".ZRM".
+  SaveAs(name + ".ZRM");
+}
+
+void Saving::ShowProcedure() {
+  PassOver([&] { services.MessageBox(store.ProcedureListInStringForm()); });
+}
+
+bool Saving::RescueEditorText(const Folders& folders) const {
+  if (controls.Text2.Text.empty()) return false;
+  return PassOver([&] { Folders::WriteFile(folders.AppFolder + "\\Rescued.ZRM", controls.Text2.Text); });
+}
+
+}  // namespace zerimo

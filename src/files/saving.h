@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include "controls/form_controls.h"
+#include "core/program_store.h"
+#include "core/services.h"
+#include "files/folders.h"
+#include "files/program_files.h"
+
+namespace zerimo {
+
+/// Writes the editor's text to .ZRM files.
+class Saving {
+ public:
+  Saving(FormControls& formControls, const ProgramStore& programStore, Services& desktop,
+         const ProgramFiles& programFiles)
+      : controls(formControls), store(programStore), services(desktop), files(programFiles) {}
+
+  /// `SHOW SAVEAS`, under the skip rule.
+  void ShowSaveAs();
+
+  /// Writes the filtered text of the editor and a line end under the full name given. Fails (file, overflow).
+  void SaveAs(const std::string& saveAsFileName);
+
+  /// F10 in the editor: asks for a name and saves in the current folder. Not under the skip rule.
+  void SaveFromEditor();
+
+  /// `SHOW PROCEDURE`: the user's procedures in a box.
+  void ShowProcedure();
+
+  /// The editor's text as it stands to Rescued.ZRM in a folder, if there is any. Tells whether a file was written;
+  /// never fails.
+  bool RescueEditorText(const Folders& folders) const;
+
+ private:
+  FormControls& controls;
+  const ProgramStore& store;
+  Services& services;
+  const ProgramFiles& files;
+};
+
+}  // namespace zerimo
