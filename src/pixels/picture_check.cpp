@@ -1,0 +1,163 @@
+#include "pixels/picture_check.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace zerimo {
+
+namespace {
+
+/// Walks through bytes. Past the end everything reads as zero, and the walk is no longer inside.
+class ByteWalk {
+ public:
+  explicit ByteWalk(const QByteArray& content) : bytes(content) {}
+
+  bool IsInside() const { return position <= bytes.size(); }
+  bool IsAtEnd() const { return position >= bytes.size(); }
+  void Skip(std::int64_t count) { position += count; }
+  void GoTo(std::int64_t place) { position = place; }
+  std::int64_t Size() const { return bytes.size(); }
+
+  unsigned Byte() {
+    const unsigned value = position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0U;
+    ++position;
+    return value;
+  }
+  unsigned BigEndian16() {
+    const unsigned high = Byte();
+    return high << 8U | Byte();
+  }
+  std::int64_t BigEndian32() {
+    const unsigned high = BigEndian16();
+    return std::int64_t{high} << 16 | BigEndian16();
+  }
+  unsigned LittleEndian16() {
+    const unsigned low = Byte();
+    return low | Byte() << 8U;
+  }
+  std::int64_t LittleEndian32() {
+    const unsigned low = LittleEndian16();
+    return static_cast<std::int32_t>(low | LittleEndian16() << 16U);
+  }
+
+ private:
+  const QByteArray& bytes;
+  qsizetype position = 0;
+};
+
+struct BitmapHeader {
+  std::int64_t PixelsAt;
+  std::int64_t Width;
+  std::int64_t Height;
+  std::int64_t BitsPerPixel;
+  /// 1 and 2 are the run-length codings.
+  std::int64_t Compression;
+  std::int64_t CodedSize;
+};
+
+BitmapHeader ReadBitmapHeader(ByteWalk walk) {
+  BitmapHeader header{};
+  walk.GoTo(10);
+  header.PixelsAt = walk.LittleEndian32();
+  const bool isOldest = walk.LittleEndian32() == 12;
+  header.Width = isOldest ? walk.LittleEndian16() : walk.LittleEndian32();
+  header.Height = isOldest ? walk.LittleEndian16() : walk.LittleEndian32();
+  walk.Skip(2);
+  header.BitsPerPixel = walk.LittleEndian16();
+  if (isOldest) return header;
+  header.Compression = walk.LittleEndian32();
+  header.CodedSize = walk.LittleEndian32();
+  return header;
+}
+
+bool IsWholeBitmap(const ByteWalk& walk) {
+  const BitmapHeader header = ReadBitmapHeader(walk);
+  if (header.Compression == 1 || header.Compression == 2) return header.PixelsAt + header.CodedSize <= walk.Size();
+  const std::int64_t rowBits = header.Width * header.BitsPerPixel;
+  const std::int64_t rowBytes = (rowBits + 31) / 32 * 4;
+  // The filling bytes of the last row may be missing.
+  return header.PixelsAt + rowBytes * (std::abs(header.Height) - 1) + (rowBits + 7) / 8 <= walk.Size();
+}
+
+/// Passes over the entropy-coded data behind a scan's header, to the marker that ends it.
+void SkipScan(ByteWalk& walk) {
+  while (!walk.IsAtEnd()) {
+    if (walk.Byte() != 0xFF) continue;
+    const unsigned code = walk.Byte();
+    const bool isData = code == 0 || (code >= 0xD0 && code <= 0xD7);
+    if (isData) continue;
+    walk.Skip(code == 0xFF ? -1 : -2);
+    if (code != 0xFF) return;
+  }
+}
+
+bool IsWholeJpeg(ByteWalk walk) {
+  constexpr unsigned EndOfImage = 0xD9;
+  constexpr unsigned StartOfScan = 0xDA;
+  walk.Skip(2);
+  while (!walk.IsAtEnd()) {
+    if (walk.Byte() != 0xFF) continue;
+    const unsigned code = walk.Byte();
+    if (code == EndOfImage) return walk.IsInside();
+    if (code == 0xFF) walk.Skip(-1);
+    if (code == 0 || code == 0xFF) continue;
+    const unsigned length = walk.BigEndian16();
+    walk.Skip(static_cast<std::int64_t>(length) - 2);
+    if (code == StartOfScan) SkipScan(walk);
+  }
+  return false;
+}
+
+void SkipGifBlocks(ByteWalk& walk) {
+  for (unsigned length = walk.Byte(); length != 0; length = walk.Byte()) walk.Skip(length);
+}
+
+void SkipGifColours(ByteWalk& walk, unsigned flags) {
+  if ((flags & 0x80U) != 0) walk.Skip(3 * (std::int64_t{2} << (flags & 7U)));
+}
+
+/// Whole to the end of its first picture, which is the one that is shown.
+bool IsWholeGif(ByteWalk walk) {
+  constexpr unsigned Extension = 0x21;
+  constexpr unsigned Picture = 0x2C;
+  walk.Skip(10);
+  const unsigned flags = walk.Byte();
+  walk.Skip(2);
+  SkipGifColours(walk, flags);
+  unsigned kind = walk.Byte();
+  for (; kind == Extension && walk.IsInside(); kind = walk.Byte()) {
+    walk.Skip(1);
+    SkipGifBlocks(walk);
+  }
+  if (kind != Picture) return false;
+  walk.Skip(8);
+  SkipGifColours(walk, walk.Byte());
+  walk.Skip(1);
+  SkipGifBlocks(walk);
+  return walk.IsInside();
+}
+
+bool IsWholePng(ByteWalk walk) {
+  constexpr std::int64_t EndOfImage = 0x49454E44;
+  walk.Skip(8);
+  while (!walk.IsAtEnd()) {
+    const std::int64_t length = walk.BigEndian32();
+    const bool isLast = walk.BigEndian32() == EndOfImage;
+    walk.Skip(length + 4);
+    if (isLast) return walk.IsInside();
+  }
+  return false;
+}
+
+}  // namespace
+
+bool IsWholePicture(const QByteArray& content, const QByteArray& format) {
+  const ByteWalk walk(content);
+  if (format == "bmp") return IsWholeBitmap(walk);
+  if (format == "jpeg") return IsWholeJpeg(walk);
+  if (format == "gif") return IsWholeGif(walk);
+  if (format == "png") return IsWholePng(walk);
+  return true;
+}
+
+}  // namespace zerimo

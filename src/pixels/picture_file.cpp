@@ -1,0 +1,102 @@
+#include "pixels/picture_file.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QSaveFile>
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "core/failure.h"
+#include "pixels/picture_check.h"
+
+namespace zerimo {
+
+namespace {
+
+/// Larger pictures and files are refused before they are decoded.
+constexpr qint64 MostPixels = 1 << 26;
+constexpr qint64 MostBytes = 1 << 28;
+
+/// What the reader may tell; cursors are told as icons.
+constexpr std::array<std::string_view, 5> ReadableFormats{"bmp", "gif", "ico", "jpeg", "png"};
+
+struct WritableFormat {
+  std::string_view Ending;
+  const char* Format;
+};
+constexpr std::array<WritableFormat, 4> WritableFormats{
+    {{".bmp", "bmp"}, {".png", "png"}, {".jpg", "jpeg"}, {".jpeg", "jpeg"}}};
+
+constexpr int JpegQuality = 92;
+
+void Require(bool isSo, FailureKind otherwise) {
+  if (!isSo) throw Failure(otherwise);
+}
+
+QString NameOf(const std::filesystem::path& file) {
+  return QFile::decodeName(QByteArray::fromStdString(file.string()));
+}
+
+QByteArray ReadContent(const std::filesystem::path& file) {
+  std::error_code error;
+  // A pipe or a device would hold the system for ever.
+  Require(std::filesystem::is_regular_file(file, error), FailureKind::FileNotFound);
+  QFile source(NameOf(file));
+  Require(source.open(QIODevice::ReadOnly), FailureKind::FileAccess);
+  Require(source.size() <= MostBytes, FailureKind::InvalidPicture);
+  return source.readAll();
+}
+
+}  // namespace
+
+QImage ReadPictureFile(const std::filesystem::path& file, QSize largest) {
+  QByteArray content = ReadContent(file);
+  QBuffer device(&content);
+  device.open(QIODevice::ReadOnly);
+  QImageReader reader(&device);
+  reader.setDecideFormatFromContent(true);
+  const QByteArray format = reader.format();
+  const bool isReadable =
+      std::find(ReadableFormats.begin(), ReadableFormats.end(), format.toStdString()) != ReadableFormats.end();
+  Require(isReadable && IsWholePicture(content, format), FailureKind::InvalidPicture);
+  const QSize size = reader.size();
+  Require(!size.isEmpty() && qint64{size.width()} * size.height() <= MostPixels, FailureKind::InvalidPicture);
+  reader.setClipRect(QRect(QPoint(0, 0), size.boundedTo(largest)));
+  QImage picture = reader.read();
+  Require(!picture.isNull(), FailureKind::InvalidPicture);
+  return picture;
+}
+
+void WritePictureFile(const QImage& image, const std::filesystem::path& file) {
+  const std::string ending = EndingOf(file);
+  const auto* format = std::find_if(WritableFormats.begin(), WritableFormats.end(),
+                                    [&ending](const WritableFormat& each) { return each.Ending == ending; });
+  Require(format != WritableFormats.end(), FailureKind::InvalidArgument);
+  QByteArray content;
+  QBuffer device(&content);
+  QImageWriter writer(&device, format->Format);
+  if (ending == ".jpg" || ending == ".jpeg") writer.setQuality(JpegQuality);
+  Require(writer.write(image), FailureKind::FileAccess);
+  WriteWholeFile(content, file);
+}
+
+void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file) {
+  QSaveFile target(NameOf(file));
+  Require(target.open(QIODevice::WriteOnly), FailureKind::FileAccess);
+  Require(target.write(content) == content.size() && target.commit(), FailureKind::FileAccess);
+}
+
+std::string EndingOf(const std::filesystem::path& file) {
+  std::string ending = file.extension().string();
+  std::transform(ending.begin(), ending.end(), ending.begin(),
+                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+  return ending;
+}
+
+}  // namespace zerimo

@@ -1,0 +1,135 @@
+#include "pixels/svg_picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "pixels/picture_file.h"
+#include "pixels/raster_operation.h"
+#include "pixels/rgb.h"
+
+namespace zerimo {
+
+namespace {
+
+/// Boxes and ellipses that reach farther out are kept as pixels, since many viewers reckon in singles.
+constexpr double FarthestPlace = 1 << 20;
+constexpr int WidestPen = 1 << 16;
+
+bool IsNear(PixelPoint place) { return std::abs(place.X) < FarthestPlace && std::abs(place.Y) < FarthestPlace; }
+
+/// The pen of a stroke if what is below makes no difference to it.
+std::optional<SvgPen> PenOf(const Stroke& stroke) {
+  const RasterOperation operation = MakeRasterOperation(stroke.DrawMode, stroke.Color);
+  if (!operation.IsPlain() || stroke.Width > WidestPen) return std::nullopt;
+  return SvgPen{operation.Toggle, stroke.Width};
+}
+
+/// The inside in the raster operation of the pen, which is a plain one.
+SvgInside InsideOf(const Surface& surface) {
+  const Filling filling = surface.Inside();
+  return {MakeRasterOperation(surface.DrawMode(), filling.Color).Toggle, filling.Style};
+}
+
+}  // namespace
+
+/// Turns one operation into a shape, or keeps its pixels.
+struct SvgRecorder::Keeper {
+  SvgRecorder& Recorder;
+  const Surface& From;
+
+  void operator()(const surface_operation::Set& set) const {
+    if (std::string_view(set.Property) == "BackColor") Recorder.Restart();
+  }
+  void operator()(const surface_operation::Cls&) const { Recorder.Restart(); }
+  void operator()(const surface_operation::Picture&) const {
+    Recorder.Restart();
+    Recorder.KeepPixels(Recorder.canvas.LastChange());
+  }
+  void operator()(const surface_operation::FloodFill&) const { Recorder.KeepPixels(Recorder.canvas.LastChange()); }
+  void operator()(const surface_operation::Line& line) const {
+    KeepLine(From.PenStroke(), From.ToPixels(line.X1, line.Y1), From.ToPixels(line.X2, line.Y2));
+  }
+  void operator()(const surface_operation::LineTo& line) const {
+    KeepLine(From.PenStroke(), From.ToPixels(line.X1, line.Y1), From.ToPixels(line.X2, line.Y2));
+  }
+  void operator()(const surface_operation::PSet& point) const {
+    const Stroke stroke{point.Color, From.DrawWidth(), From.DrawMode()};
+    KeepLine(stroke, From.ToPixels(point.X, point.Y), From.ToPixels(point.X, point.Y));
+  }
+  void operator()(const surface_operation::Box& box) const {
+    const PixelPoint a = From.ToPixels(box.X1, box.Y1);
+    const PixelPoint b = From.ToPixels(box.X2, box.Y2);
+    const PixelPoint from{std::min(a.X, b.X), std::min(a.Y, b.Y)};
+    const PixelPoint to{std::max(a.X, b.X), std::max(a.Y, b.Y)};
+    const std::optional<SvgPen> pen = PenOf(From.PenStroke());
+    if (!pen || !IsNear(from) || !IsNear(to)) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    Recorder.KeepShape(svg_shape::Box{*pen, InsideOf(From), from, to});
+  }
+  void operator()(const surface_operation::Circle& circle) const {
+    const PixelPoint centre = From.ToPixels(circle.X, circle.Y);
+    const Surface::Axes axes = From.HalfAxes(circle);
+    const PixelPoint half{WholeHalfAxis(axes.Across), WholeHalfAxis(axes.Down)};
+    const std::optional<SvgPen> pen = PenOf(From.PenStroke());
+    if (!pen || !IsNear(centre) || !IsNear(half)) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    Recorder.KeepShape(svg_shape::Ellipse{*pen, InsideOf(From), centre, half.X, half.Y});
+  }
+  void operator()(const surface_operation::Print& print) const {
+    const PixelPoint at = From.ToPixels(From.CurrentX(), From.CurrentY());
+    if (!Recorder.canvas.LastChange().isEmpty()) {
+      Recorder.KeepShape(svg_shape::Text{print.Text, at, From.FontSize(), ToRgb(From.ForeColor())});
+    }
+  }
+
+ private:
+  void KeepLine(const Stroke& stroke, PixelPoint from, PixelPoint to) const {
+    const std::optional<SvgPen> pen = PenOf(stroke);
+    if (!pen) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    if (const auto ends = ClipLine(from, to)) Recorder.KeepShape(svg_shape::Line{*pen, *ends});
+  }
+};
+
+void SvgRecorder::Record(const Surface& surface, const SurfaceOperation& operation) {
+  std::visit(Keeper{*this, surface}, operation);
+}
+
+QByteArray SvgRecorder::Picture(int width, int height, Colour background) const {
+  return SvgDocument(shapes, {width, height}, ToRgb(background));
+}
+
+void SvgRecorder::Restart() {
+  shapes.clear();
+  patchBytes = 0;
+}
+
+void SvgRecorder::KeepShape(SvgShape shape) {
+  shapes.push_back(std::move(shape));
+  if (shapes.size() <= MostShapes) return;
+  Restart();
+  KeepPixels(canvas.Image().rect());
+}
+
+void SvgRecorder::KeepPixels(const QRect& area) {
+  if (area.isEmpty()) return;
+  QImage pixels = canvas.Image().copy(area);
+  patchBytes += pixels.sizeInBytes();
+  const bool isMany = patchBytes > MostCanvases * canvas.Image().sizeInBytes();
+  if (isMany) {
+    Restart();
+    return KeepPixels(canvas.Image().rect());
+  }
+  KeepShape(svg_shape::Patch{std::move(pixels), area.topLeft()});
+}
+
+void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
+                  int height, Colour background) {
+  if (EndingOf(file) == ".svg") {
+    WriteWholeFile(recorder.Picture(width, height, background), file);
+  } else {
+    canvas.SavePicture(file, width, height);
+  }
+}
+
+}  // namespace zerimo

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <cstddef>
+#include <filesystem>
+#include <vector>
+
+#include "graphics/surface.h"
+#include "pixels/image_canvas.h"
+#include "pixels/svg_shapes.h"
+
+namespace zerimo {
+
+/// Keeps what is drawn on a surface as a list of shapes, each with the pen of its moment, to write it as an SVG
+/// picture. Clearing and loading a picture start the list again. Floods, and raster operations that look at what is
+/// below, are no shapes: their pixels are kept as they were right after the operation. A list that has grown too long
+/// becomes one patch of pixels, so that memory stays bounded.
+class SvgRecorder : public SurfaceRecorder {
+ public:
+  /// The canvas behind the surface that will be recorded, with nothing drawn on it yet.
+  explicit SvgRecorder(const ImageCanvas& pixels) : canvas(pixels) {}
+
+  void Record(const Surface& surface, const SurfaceOperation& operation) override;
+
+  const std::vector<SvgShape>& Shapes() const { return shapes; }
+
+  /// The picture as an SVG file, in pixels, as large as told.
+  QByteArray Picture(int width, int height, Colour background) const;
+
+  /// How many shapes, and how many canvases full of pixels, are kept before they become one patch.
+  static constexpr std::size_t MostShapes = 400'000;
+  static constexpr qsizetype MostCanvases = 4;
+
+ private:
+  struct Keeper;
+
+  void Restart();
+  void KeepShape(SvgShape shape);
+  void KeepPixels(const QRect& area);
+
+  const ImageCanvas& canvas;
+  std::vector<SvgShape> shapes;
+  /// Bytes of the patches among the shapes.
+  qsizetype patchBytes = 0;
+};
+
+/// Writes what a canvas shows, as large as told, by the file's ending: .svg from the recorded shapes, else pixels
+/// (.png, .bmp, .jpg, .jpeg). Fails (invalid argument for another ending, file access).
+void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
+                  int height, Colour background);
+
+}  // namespace zerimo

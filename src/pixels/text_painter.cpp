@@ -1,0 +1,131 @@
+#include "pixels/text_painter.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QVector>
+#include <algorithm>
+#include <cmath>
+
+#include "pixels/pixel_range.h"
+
+namespace zerimo {
+
+namespace {
+
+/// 96 dots to the inch.
+constexpr int DotsPerMetre = 3780;
+
+QFont MakeFont(double pointSize) {
+  QFont font(QStringList{"Arial", "Liberation Sans"});
+  font.setStyleHint(QFont::SansSerif, QFont::NoAntialias);
+  font.setHintingPreference(QFont::PreferFullHinting);
+  font.setKerning(false);
+  font.setPointSizeF(pointSize);
+  return font;
+}
+
+/// The part of a text that can be seen, and where it begins.
+struct VisibleText {
+  std::string_view Text;
+  double X;
+};
+
+/// Leaves away what lies wholly beside the image. A letter may lean over its own width, so a neighbour stays.
+VisibleText CutSideways(const TextFont& font, std::string_view text, double x, int columns) {
+  const double margin = font.Height();
+  while (!text.empty() && x + font.WidthOf(text.front()) + margin < 0) {
+    x += font.WidthOf(text.front());
+    text.remove_prefix(1);
+  }
+  std::size_t count = 0;
+  for (double end = x; count < text.size() && end < columns + margin; ++count) end += font.WidthOf(text[count]);
+  return {text.substr(0, count), x};
+}
+
+}  // namespace
+
+TextFont::TextFont(double pointSize) : points(pointSize) {
+  QImage device = MakeTextImage(1, 1, QImage::Format_RGB32);
+  font = QFont(MakeFont(pointSize), &device);
+  const QFontMetricsF metrics(font, &device);
+  ascent = static_cast<int>(std::lround(metrics.ascent()));
+  height = static_cast<int>(std::ceil(metrics.height()));
+  rawFont = QRawFont::fromFont(font);
+  std::string printable;
+  for (int code = 0; code < 256; ++code) {
+    if (IsPrintable(static_cast<char>(code))) printable += static_cast<char>(code);
+  }
+  const QVector<quint32> indexes = rawFont.glyphIndexesForString(PrintableText(printable));
+  const QVector<QPointF> steps = rawFont.advancesForGlyphIndexes(indexes);
+  for (qsizetype n = 0; n < indexes.size(); ++n) {
+    const auto code = static_cast<unsigned char>(printable[static_cast<std::size_t>(n)]);
+    glyphs[code] = indexes[n];
+    advances[code] = steps[n].x();
+  }
+}
+
+double TextFont::WidthOf(std::string_view text) const {
+  double width = 0;
+  for (const char character : text) width += WidthOf(character);
+  return width;
+}
+
+QGlyphRun TextFont::GlyphsOf(std::string_view text) const {
+  QVector<quint32> indexes;
+  QVector<QPointF> places;
+  indexes.reserve(static_cast<qsizetype>(text.size()));
+  places.reserve(static_cast<qsizetype>(text.size()));
+  double x = 0;
+  for (const char character : text) {
+    if (!IsPrintable(character)) continue;
+    indexes.append(glyphs[static_cast<unsigned char>(character)]);
+    places.append(QPointF(x, 0));
+    x += WidthOf(character);
+  }
+  QGlyphRun run;
+  run.setRawFont(rawFont);
+  run.setGlyphIndexes(indexes);
+  run.setPositions(places);
+  return run;
+}
+
+bool IsPrintable(char character) {
+  const auto code = static_cast<unsigned char>(character);
+  return (code >= 32 && code < 127) || code >= 160;
+}
+
+QString PrintableText(std::string_view text) {
+  QString printable;
+  printable.reserve(static_cast<qsizetype>(text.size()));
+  for (const char character : text) {
+    if (IsPrintable(character)) printable.append(QLatin1Char(character));
+  }
+  return printable;
+}
+
+QImage MakeTextImage(int width, int height, QImage::Format format) {
+  QImage image(width, height, format);
+  image.setDotsPerMeterX(DotsPerMetre);
+  image.setDotsPerMeterY(DotsPerMetre);
+  return image;
+}
+
+QRect PaintText(QImage& image, const TextFont& font, std::string_view text, PixelPoint at, QRgb colour) {
+  // Letters may stick out of their line by as much as its height, but not more.
+  if (at.Y > image.height() + font.Height() || at.Y < -2.0 * font.Height() || at.X > image.width() + font.Height()) {
+    return {};
+  }
+  const VisibleText visible = CutSideways(font, text, at.X, image.width());
+  const QGlyphRun glyphs = font.GlyphsOf(visible.Text);
+  if (glyphs.isEmpty()) return {};
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::TextAntialiasing, false);
+  painter.setPen(QColor::fromRgb(colour));
+  painter.drawGlyphRun(QPointF(visible.X, at.Y + font.Ascent()), glyphs);
+  const double end = visible.X + font.WidthOf(visible.Text);
+  return OnCanvas(visible.X - font.Height(), at.Y - font.Height(), end + font.Height(), at.Y + 2 * font.Height(),
+                  image.size());
+}
+
+}  // namespace zerimo

@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+#include "canvas_fixture.h"
+
+namespace zerimo {
+
+namespace {
+
+using ChangedArea = CanvasTest;
+
+TEST_F(ChangedArea, IsTheWholeCanvasAtTheStart) { EXPECT_EQ(canvas.TakeDirty(), QRect(0, 0, 96, 96)); }
+
+TEST_F(ChangedArea, IsEmptyOnceTaken) {
+  canvas.TakeDirty();
+  EXPECT_TRUE(canvas.TakeDirty().isEmpty());
+}
+
+TEST_F(ChangedArea, GrowsWithEachOperation) {
+  canvas.TakeDirty();
+  canvas.Point(Pen(White), {10, 10});
+  canvas.Point(Pen(White), {30, 20});
+  EXPECT_EQ(canvas.LastChange(), QRect(30, 20, 1, 1));
+  EXPECT_EQ(canvas.TakeDirty(), QRect(QPoint(10, 10), QPoint(30, 20)));
+}
+
+TEST_F(ChangedArea, StaysInsideTheCanvas) {
+  canvas.TakeDirty();
+  canvas.Line(Pen(White, 9), {-1e9, 40}, {1e9, 60});
+  EXPECT_TRUE(QRect(0, 0, 96, 96).contains(canvas.TakeDirty()));
+}
+
+TEST_F(ChangedArea, IsEmptyWhereNothingIsSeen) {
+  canvas.TakeDirty();
+  canvas.Line(Pen(White, 9), {200, 40}, {300, 60});
+  canvas.Box(Pen(White), {Red, Solid}, {-20, -20}, {-10, 50});
+  canvas.Ellipse(Pen(White), {Red, Solid}, {300, 300}, 20, 20);
+  canvas.Print("Text", {300, 10}, 12, White);
+  canvas.FloodFill({300, 10}, Red);
+  EXPECT_TRUE(canvas.TakeDirty().isEmpty());
+}
+
+struct Operation {
+  std::string Name;
+  std::function<void(Canvas&)> Draw;
+};
+
+void PrintTo(const Operation& operation, std::ostream* out) { *out << operation.Name; }
+
+class ChangedAreaOf : public CanvasTest, public ::testing::WithParamInterface<Operation> {};
+
+TEST_P(ChangedAreaOf, HoldsAllThatChanged) {
+  canvas.TakeDirty();
+  GetParam().Draw(canvas);
+  const QRect drawn = Drawn();
+  EXPECT_FALSE(drawn.isEmpty());
+  EXPECT_TRUE(canvas.LastChange().contains(drawn));
+  EXPECT_TRUE(canvas.TakeDirty().contains(drawn));
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, ChangedAreaOf,
+                         ::testing::Values(Operation{"Line",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Line({White, 1, CopyPen}, {5, 80}, {90, 3});
+                                                     }},
+                                           Operation{"WideLine",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Line({White, 8, CopyPen}, {5, 80}, {90, 3});
+                                                     }},
+                                           Operation{"Point",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Point({White, 7, CopyPen}, {5, 80});
+                                                     }},
+                                           Operation{"Box",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Box({White, 3, CopyPen}, {Red, 0}, {50, 50}, {20, 120});
+                                                     }},
+                                           Operation{"Ellipse",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Ellipse({White, 3, CopyPen}, {Red, 0}, {70, 50}, 40, 9);
+                                                     }},
+                                           Operation{"Print",
+                                                     [](Canvas& canvas) {
+                                                       canvas.Print("jgf/WA", {-6, 20}, 30, White);
+                                                     }},
+                                           Operation{"FloodFill",
+                                                     [](Canvas& canvas) {
+                                                       canvas.FloodFill({3, 3}, White);
+                                                     }},
+                                           Operation{"Clear", [](Canvas& canvas) { canvas.Clear(White); }}),
+                         [](const auto& operation) { return operation.param.Name; });
+
+}  // namespace
+
+}  // namespace zerimo

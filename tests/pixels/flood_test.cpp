@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <queue>
+#include <random>
+
+#include "canvas_fixture.h"
+
+namespace zerimo {
+
+namespace {
+
+using Floods = CanvasTest;
+
+TEST_F(Floods, AreaOfOneColourGetsTheFill) {
+  canvas.Box(Pen(White), {Red, Solid}, {10, 10}, {50, 50});
+  canvas.FloodFill({30, 30}, Green);
+  EXPECT_EQ(Count(Green), 39 * 39);
+  EXPECT_EQ(Count(Red), 0);
+}
+
+TEST_F(Floods, TheColourThatIsThereAlreadyChangesNothing) {
+  canvas.FloodFill({30, 30}, Ground);
+  EXPECT_EQ(Count(Ground), 96 * 96);
+}
+
+TEST_F(Floods, AGapOfOnePixelLetsTheFillThrough) {
+  canvas.Line(Pen(White), {0, 50}, {95, 50});
+  canvas.Point(Pen(Ground), {70, 50});
+  canvas.FloodFill({10, 10}, Green);
+  EXPECT_EQ(At(10, 90), Green);
+}
+
+TEST_F(Floods, DiagonalNeighboursDoNotLetTheFillThrough) {
+  canvas.Line(Pen(White), {0, 0}, {95, 95});
+  canvas.FloodFill({90, 10}, Green);
+  EXPECT_EQ(At(10, 90), Ground);
+  EXPECT_EQ(Count(Green), 96 * 95 / 2);
+}
+
+TEST_F(Floods, TheCornersOfTheCanvasAreReached) {
+  canvas.FloodFill({48, 48}, Green);
+  EXPECT_EQ(Count(Green), 96 * 96);
+}
+
+TEST_F(Floods, NothingHappensOutsideTheCanvas) {
+  for (const PixelPoint at : {PixelPoint{-1, 5}, {5, -1}, {96, 5}, {5, 96}}) canvas.FloodFill(at, Green);
+  EXPECT_EQ(Count(Ground), 96 * 96);
+}
+
+/// The same by the plainest way.
+QImage FloodedPlainly(QImage image, QPoint at, QRgb fill) {
+  const QRgb old = image.pixel(at);
+  std::queue<QPoint> open({at});
+  while (!open.empty()) {
+    const QPoint here = open.front();
+    open.pop();
+    if (!image.rect().contains(here) || image.pixel(here) != old || old == fill) continue;
+    image.setPixel(here, fill);
+    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) open.push(here + step);
+  }
+  return image;
+}
+
+TEST_F(Floods, AgreeWithThePlainestWayOnRandomPictures) {
+  std::mt19937 random(11);
+  const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+  for (int round = 0; round < 200; ++round) {
+    ImageCanvas noise;
+    noise.Create(37, 29, Ground);
+    for (int dot = 0; dot < 37 * 29 * (round % 6) / 10; ++dot) {
+      noise.Point(Pen(White), {1.0 * below(37), 1.0 * below(29)});
+    }
+    const QPoint at(below(37), below(29));
+    const QImage expected = FloodedPlainly(noise.Image().copy(), at, 0xFF00FF00);
+    noise.FloodFill({1.0 * at.x(), 1.0 * at.y()}, Green);
+    ASSERT_EQ(noise.Image(), expected) << round;
+  }
+}
+
+/// A surface of the largest screen.
+class LargeFloods : public ::testing::Test {
+ protected:
+  LargeFloods() { canvas.Create(Width, Height, Ground); }
+
+  void Wall(double x1, double y1, double x2, double y2) { canvas.Line({White, 1, CopyPen}, {x1, y1}, {x2, y2}); }
+
+  /// Generous, so that a busy machine and the sanitizers pass too; what is asked for is measured by the benchmarks.
+  void FloodInTime(PixelPoint at) {
+    const auto start = std::chrono::steady_clock::now();
+    canvas.FloodFill(at, Green);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  }
+
+  static constexpr int Width = 3840;
+  static constexpr int Height = 2160;
+  ImageCanvas canvas;
+};
+
+TEST_F(LargeFloods, OfTheWholeSurface) {
+  FloodInTime({1000, 1000});
+  EXPECT_EQ(canvas.ColourAt({0, 0}), Green);
+  EXPECT_EQ(canvas.ColourAt({Width - 1, Height - 1}), Green);
+}
+
+TEST_F(LargeFloods, ThroughAMazeOfLevelWays) {
+  for (int y = 1; y < Height; y += 2) Wall(y % 4 == 1 ? 1 : 0, y, y % 4 == 1 ? Width - 1 : Width - 2, y);
+  FloodInTime({0, 0});
+  EXPECT_EQ(canvas.ColourAt({0, Height - 2}), Green);
+}
+
+TEST_F(LargeFloods, ThroughAMazeOfUprightWays) {
+  for (int x = 1; x < Width; x += 2) Wall(x, x % 4 == 1 ? 1 : 0, x, x % 4 == 1 ? Height - 1 : Height - 2);
+  FloodInTime({0, 0});
+  EXPECT_EQ(canvas.ColourAt({Width - 2, 0}), Green);
+}
+
+TEST_F(LargeFloods, ThroughACheckerboardOfOpenCorners) {
+  for (int y = 1; y < Height; y += 2) {
+    for (int x = 1; x < Width; x += 2) canvas.Point({White, 1, CopyPen}, {1.0 * x, 1.0 * y});
+  }
+  FloodInTime({0, 0});
+  EXPECT_EQ(canvas.ColourAt({Width - 2, Height - 1}), Green);
+  EXPECT_EQ(canvas.ColourAt({1, 1}), White);
+}
+
+TEST_F(LargeFloods, StayInASquareOfAClosedCheckerboard) {
+  for (int y = 0; y < 64; ++y) {
+    for (int x = y % 2; x < 64; x += 2) canvas.Point({White, 1, CopyPen}, {1.0 * x, 1.0 * y});
+  }
+  FloodInTime({10, 11});
+  EXPECT_EQ(canvas.ColourAt({10, 11}), Green);
+  EXPECT_EQ(canvas.ColourAt({12, 11}), Ground);
+  EXPECT_EQ(canvas.ColourAt({11, 12}), Ground);
+}
+
+}  // namespace
+
+}  // namespace zerimo
