@@ -1,0 +1,53 @@
+#pragma once
+
+#include <deque>
+#include <string>
+
+#include "batch/batch_watch.h"
+#include "batch/journal.h"
+#include "core/services.h"
+
+namespace zerimo::batch {
+
+/// The desktop of a session: boxes and dialogs are answered from queues, and everything is written down. An empty
+/// queue answers a box with `OK`, `Ignore` or `No`, and everything else with the empty text.
+class BatchServices final : public Services {
+ public:
+  BatchServices(Journal& theJournal, BatchWatch& theWatch, bool reallySleep)
+      : journal(theJournal), watch(theWatch), sleeps(reallySleep) {}
+
+  /// `line` is where the session asks for it, should the next box have no such button.
+  void QueueBoxAnswer(Answer answer, int line) { boxAnswers.push_back({answer, line}); }
+  void QueueInput(std::string text) { inputs.push_back(std::move(text)); }
+  void QueueOpen(std::string fileName) { filesToOpen.push_back(std::move(fileName)); }
+  void QueueSave(std::string fileName) { filesToSave.push_back(std::move(fileName)); }
+  void SetTimeOfDay(std::string text) { time = std::move(text); }
+
+  /// Fails with `SessionError` if the queued answer is none of the box's buttons.
+  Answer MessageBox(const std::string& text, int style, const std::string& title) override;
+  std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultAnswer) override;
+  std::string ShowOpen() override;
+  std::string ShowSave(const std::string& text) override;
+  void Sleep(std::int32_t milliseconds) override;
+  void Beep() override { journal.Beep(); }
+  std::string TimeOfDay() override { return time; }
+
+ private:
+  struct QueuedAnswer {
+    Answer Button;
+    int Line;
+  };
+
+  Answer TakeBoxAnswer(int style);
+
+  Journal& journal;
+  BatchWatch& watch;
+  bool sleeps;
+  std::string time = "00:00";
+  std::deque<QueuedAnswer> boxAnswers;
+  std::deque<std::string> inputs;
+  std::deque<std::string> filesToOpen;
+  std::deque<std::string> filesToSave;
+};
+
+}  // namespace zerimo::batch

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "batch/batch_services.h"
+#include "batch/batch_watch.h"
+#include "batch/journal.h"
+#include "batch/session_script.h"
+#include "batch/settings.h"
+#include "batch/surface_trace.h"
+#include "console/form1.h"
+
+namespace zerimo::batch {
+
+/// How a session ended; the numbers are those of the exit status.
+enum class Ending { Over = 0, Refused = 1, Failed = 2, Stopped = 3 };
+
+/// What became of a session.
+struct Outcome {
+  Ending How = Ending::Over;
+  /// What a failure, a limit or a mistake of the session has to say; empty if all went well.
+  std::string Message;
+  /// The line of the session that it belongs to; 0 for the start of the system.
+  int Line = 0;
+};
+
+/// Writes the surface as a picture file, named by single-byte text. An exception tells what went wrong.
+using PictureWriter = std::function<void(const Surface& surface, const std::string& file)>;
+
+/// One session: the whole system with its controls in memory, the events of a script delivered to it, and a journal of
+/// what happens. Runs once.
+class BatchSession {
+ public:
+  BatchSession(const Settings& settings, Canvas& canvas, Journal& theJournal, PictureWriter pictureWriter = {});
+  BatchSession(const BatchSession&) = delete;
+  BatchSession& operator=(const BatchSession&) = delete;
+
+  /// The script of a session in UTF-8, checked as a whole. Fails with `SessionError`.
+  Script Read(std::string_view utf8);
+
+  /// Starts the system and carries out the script.
+  Outcome Run(const Script& script);
+
+  /// Reads and runs; a mistake of the session is an outcome too.
+  Outcome Run(std::string_view utf8);
+
+  Form1& System() { return form; }
+
+ private:
+  Outcome RunToTheEnd(const Script& script);
+  void RunSteps(const Script& script);
+
+  void Do(const action::TypeLine& act);
+  void Do(const action::EnterRow& act);
+  void Do(const action::SetRow& act);
+  void Do(const action::TypeOver& act);
+  void Do(const action::PressKey& act);
+  void Do(const action::Click& act);
+  void Do(const action::MoveMouse& act);
+  void Do(const action::PressMouse& act);
+  void Do(const action::Drop& act);
+  void Do(const action::Scroll& act);
+  void Do(const action::SelectEntry& act);
+  void Do(const action::Tick& act);
+  void Do(const action::SetTime& act);
+  void Do(const action::AnswerBox& act);
+  void Do(const action::AnswerInput& act);
+  void Do(const action::AnswerDialog& act);
+  void Do(const action::Trace& act);
+  void Do(const action::Dump& act);
+  void Do(const action::DumpControl& act);
+  void Do(const action::WritePicture& act);
+  void Do(const action::CloseWindow& act);
+
+  /// The row that has the focus, or row 0.
+  int RowWithFocus();
+  void PressEnter(int row);
+  /// Delivers one event, and then the one-shot that it may have switched on.
+  void Deliver(const std::function<void()>& event);
+
+  Journal& journal;
+  PictureWriter writePicture;
+  BatchWatch watch;
+  BatchServices services;
+  Form1 form;
+  SurfaceTrace trace;
+  int currentLine = 0;
+};
+
+}  // namespace zerimo::batch

@@ -1,0 +1,118 @@
+#include "batch/dumps.h"
+
+#include <array>
+#include <map>
+
+namespace zerimo::batch {
+
+namespace {
+
+using NumberedTexts = std::vector<std::pair<int, std::string>>;
+
+JsonLine DumpEvent(const char* what) { return JsonLine("dump").Text("what", what); }
+
+JsonLine DumpStore(const Form1& form) {
+  std::vector<std::string> lines;
+  for (int number = 1; number <= ProgramStore::LineCount && !form.Store.Line(number).empty(); ++number) {
+    lines.push_back(form.Store.Line(number));
+  }
+  return DumpEvent("store").Texts("lines", lines);
+}
+
+JsonLine DumpStoreAll(const Form1& form) {
+  NumberedTexts lines;
+  for (int number = 1; number <= ProgramStore::LineCount; ++number) {
+    if (!form.Store.Line(number).empty()) lines.emplace_back(number, form.Store.Line(number));
+  }
+  return DumpEvent("storeall").TextsByNumber("lines", lines);
+}
+
+JsonLine DumpVariables(const Form1& form) {
+  NumberedTexts slots;
+  for (int number = 1; number <= Variables::SlotCount; ++number) {
+    if (!form.Names.Slot(number).empty()) slots.emplace_back(number, form.Names.Slot(number));
+  }
+  return DumpEvent("variables").TextsByNumber("slots", slots);
+}
+
+void AppendInterpreter(JsonLine& event, const Form1& form) {
+  event.Text("CtrlStr", form.Path.CtrlStr())
+      .Text("CurProcName", form.Path.CurProcName)
+      .Number("FileDataCount", form.Store.FileDataCount)
+      .Flag("DetailsOn", form.Primitives.DetailsOn)
+      .Number("TempProcNo", form.Lines.TempProcNo)
+      .Number("OverflowCount", form.Primitives.OverflowCount)
+      .Text("LastTypedLine", form.Lines.LastTypedLine)
+      .Text("RepeatCounterName", form.Repeats.RepeatCounterName)
+      .Text("RepeatLabelName", form.Repeats.RepeatLabelName);
+}
+
+void AppendTurtle(JsonLine& event, const TurtleState& turtle) {
+  event.Number("TurtleX", turtle.TurtleX)
+      .Number("TurtleY", turtle.TurtleY)
+      .Number("TurtleDir", turtle.TurtleDir)
+      .Number("Resolution", turtle.Resolution)
+      .Number("FenceMode", turtle.FenceMode)
+      .Number("PenState", turtle.PenState)
+      .Number("PenColor", turtle.PenColor)
+      .Number("BGColor", turtle.BGColor);
+}
+
+JsonLine DumpState(const Form1& form) {
+  JsonLine event = DumpEvent("state");
+  AppendInterpreter(event, form);
+  AppendTurtle(event, form.Turtle);
+  const Control* const focus = form.Controls.Focus.Focus();
+  event.Flag("CoordinatesOn", form.Mouse.CoordinatesOn)
+      .Text("CurrentFileName", form.Files.CurrentFileName)
+      .Text("SlideBaseName", form.Photos.SlideBaseName)
+      .Number("SlideCounter", form.Photos.SlideCounter)
+      .Text("SlideFileName", form.Photos.SlideFileName)
+      .Text("Focus", focus == nullptr ? std::string() : focus->Name());
+  return event;
+}
+
+/// The order in which the properties of a control are written.
+constexpr std::array<const char*, 30> PropertyOrder = {
+    "Visible",   "Left",        "Top",         "Width",       "Height",    "X1",       "Y1",        "X2",
+    "Y2",        "Text",        "Caption",     "Items",       "Value",     "Enabled",  "Interval",  "BackColor",
+    "ForeColor", "BorderColor", "BorderStyle", "FillColor",   "FillStyle", "DrawMode", "DrawWidth", "ScaleMode",
+    "CurrentX",  "CurrentY",    "Font.Size",   "ToolTipText", "FileName",  "Path",
+};
+
+}  // namespace
+
+JsonLine DumpOf(const Form1& form, action::DumpKind what) {
+  switch (what) {
+    case action::DumpKind::Store:
+      return DumpStore(form);
+    case action::DumpKind::StoreAll:
+      return DumpStoreAll(form);
+    case action::DumpKind::Variables:
+      return DumpVariables(form);
+    case action::DumpKind::State:
+      break;
+  }
+  return DumpState(form);
+}
+
+JsonLine DumpOf(const action::DumpControl& control) {
+  std::map<std::string, PropertyValue> properties;
+  const PropertyReader collect = [&properties](const char* name, const PropertyValue& value) {
+    properties.insert_or_assign(name, value);
+  };
+  const std::string& name = control.Shown != nullptr ? control.Shown->Name() : control.Ticking->Name();
+  if (control.Shown != nullptr) {
+    control.Shown->ReadProperties(collect);
+  } else {
+    control.Ticking->ReadProperties(collect);
+  }
+  JsonLine event = DumpEvent("control").Text("name", name);
+  for (const char* const property : PropertyOrder) {
+    const auto found = properties.find(property);
+    if (found != properties.end()) event.Property(property, found->second);
+  }
+  return event;
+}
+
+}  // namespace zerimo::batch

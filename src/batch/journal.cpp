@@ -1,0 +1,72 @@
+#include "batch/journal.h"
+
+#include <algorithm>
+
+#include "batch/box_buttons.h"
+#include "batch/latin1.h"
+
+namespace zerimo::batch {
+
+void Journal::Typed(int row, const std::string& text) {
+  Write(JsonLine("typed").Number("row", row).Text("text", text));
+}
+
+void Journal::Box(const std::string& text, int style, const std::string& title, Answer answer) {
+  const char* const word = WordOf(answer);
+  Write(JsonLine("box").Text("text", text).Number("style", style).Text("title", title).Text("answer", word));
+  Tell("[" + title + "] " + text + " (" + ButtonList(ButtonsOf(style)) + ") -> " + word);
+}
+
+void Journal::Input(const std::string& prompt, const std::string& title, const std::string& defaultAnswer,
+                    const std::string& answer) {
+  JsonLine line("input");
+  line.Text("prompt", prompt).Text("title", title).Text("default", defaultAnswer).Text("answer", answer);
+  Write(line);
+}
+
+void Journal::Dialog(const char* kind, const std::string& answer) {
+  Write(JsonLine("dialog").Text("kind", kind).Text("answer", answer));
+}
+
+void Journal::ListAdd(const std::string& control, const std::string& item) {
+  Write(JsonLine("list").Text("control", control).Text("op", "add").Text("item", item));
+  Tell(item);
+}
+
+void Journal::ListClear(const std::string& control) {
+  Write(JsonLine("list").Text("control", control).Text("op", "clear"));
+}
+
+void Journal::Caption(const std::string& text) { Write(JsonLine("caption").Text("text", text)); }
+
+void Journal::Sleep(std::int32_t milliseconds) { Write(JsonLine("sleep").Number("ms", milliseconds)); }
+
+void Journal::Beep() { Write(JsonLine("beep")); }
+
+void Journal::Ended(const std::string& by) { Write(JsonLine("ended").Text("by", by)); }
+
+void Journal::EndedByFailure(const std::string& words) {
+  Write(JsonLine("ended").Text("by", "failure").Text("failure", words));
+}
+
+void Journal::Stopped(const std::string& by) { Write(JsonLine("stopped").Text("by", by)); }
+
+void Journal::Finished() { Write(JsonLine("finished")); }
+
+void Journal::Write(const JsonLine& line) {
+  if (transcript != nullptr) *transcript << line.Finished() << '\n';
+}
+
+void Journal::Flush() {
+  if (transcript != nullptr) transcript->flush();
+  if (people != nullptr) people->flush();
+}
+
+void Journal::Tell(const std::string& text) {
+  if (people == nullptr) return;
+  std::string shown = ToUtf8(text);
+  std::ranges::replace(shown, '\r', '\n');
+  *people << shown << '\n';
+}
+
+}  // namespace zerimo::batch

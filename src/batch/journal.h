@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+#include "batch/json_line.h"
+#include "core/services.h"
+
+namespace zerimo::batch {
+
+/// Writes down what happens: for programs as a transcript, one JSON object a line, and for people as plain lines.
+class Journal {
+ public:
+  /// Either stream may be missing.
+  Journal(std::ostream* forPrograms, std::ostream* forPeople) : transcript(forPrograms), people(forPeople) {}
+
+  void Typed(int row, const std::string& text);
+  void Box(const std::string& text, int style, const std::string& title, Answer answer);
+  void Input(const std::string& prompt, const std::string& title, const std::string& defaultAnswer,
+             const std::string& answer);
+  void Dialog(const char* kind, const std::string& answer);
+  void ListAdd(const std::string& control, const std::string& item);
+  void ListClear(const std::string& control);
+  void Caption(const std::string& text);
+  void Sleep(std::int32_t milliseconds);
+  void Beep();
+  void Ended(const std::string& by);
+  void EndedByFailure(const std::string& words);
+  void Stopped(const std::string& by);
+  void Finished();
+
+  bool HasTranscript() const { return transcript != nullptr; }
+  void Write(const JsonLine& line);
+  /// Brings all that was written to where it belongs, so that a reader never waits for an action that is over.
+  void Flush();
+
+ private:
+  void Tell(const std::string& text);
+
+  std::ostream* transcript;
+  std::ostream* people;
+};
+
+}  // namespace zerimo::batch

@@ -1,0 +1,173 @@
+#include "batch/options.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "batch/errors.h"
+#include "batch/latin1.h"
+#include "graphics/surface.h"
+
+namespace zerimo::batch {
+
+namespace {
+
+/// Pixels. A lower screen has no room for the surface above the command rows.
+constexpr int LeastScreenHeight = 130;
+constexpr int GreatestScreenSide = 8192;
+constexpr double GreatestSeconds = 1e9;
+
+/// The number that is the whole text, or nothing.
+template <typename Number, typename... Format>
+std::optional<Number> WholeText(std::string_view text, Format... format) {
+  Number number{};
+  const char* const end = text.data() + text.size();
+  const std::from_chars_result result = std::from_chars(text.data(), end, number, format...);
+  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  return number;
+}
+
+[[noreturn]] void Refuse(std::string_view option, std::string_view value, std::string_view wanted) {
+  throw UsageError(std::string(option) + " " + std::string(value) + ": " + std::string(wanted));
+}
+
+void TakeScreen(Options& options, const std::string& value) {
+  const std::size_t divider = value.find('x');
+  const std::string_view text = value;
+  const auto width = WholeText<int>(text.substr(0, divider));
+  const auto height = WholeText<int>(divider == std::string::npos ? std::string_view() : text.substr(divider + 1));
+  const bool sane = width && height && *width >= 1 && *height >= LeastScreenHeight && *width <= GreatestScreenSide &&
+                    *height <= GreatestScreenSide;
+  if (!sane) Refuse("--screen", value, "WIDTHxHEIGHT in pixels is wanted, from 1x130 to 8192x8192");
+  options.Session.Screen.Width = static_cast<float>(*width * UnitsPerPixel);
+  options.Session.Screen.Height = static_cast<float>(*height * UnitsPerPixel);
+}
+
+void TakeAppFolder(Options& options, const std::string& value) {
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(value, ignored)) Refuse("--app-folder", value, "there is no such folder");
+  try {
+    options.Session.AppFolder = FromUtf8(value);
+  } catch (const TextError& error) {
+    Refuse("--app-folder", value, error.what());
+  }
+  std::string& folder = options.Session.AppFolder;
+  while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+}
+
+void TakeTranscript(Options& options, const std::string& value) {
+  if (value.empty()) Refuse("--transcript", value, "a file name is wanted");
+  options.TranscriptFile = value;
+}
+
+void TakePicture(Options& options, const std::string& value) {
+  if (!IsPictureName(value)) Refuse("--picture", value, "a file name ending in .png, .bmp, .jpg or .svg is wanted");
+  options.PictureFile = value;
+}
+
+void TakeSteps(Options& options, const std::string& value) {
+  const auto steps = WholeText<std::uint64_t>(value);
+  if (!steps) Refuse("--steps", value, "a whole number from 0 is wanted");
+  options.Session.Steps = *steps;
+}
+
+void TakeSeconds(Options& options, const std::string& value) {
+  const auto seconds = WholeText<double>(value, std::chars_format::fixed);
+  const bool sane = seconds && std::isfinite(*seconds) && *seconds >= 0 && *seconds <= GreatestSeconds;
+  if (!sane) Refuse("--seconds", value, "a number from 0 to 1000000000 is wanted");
+  options.Session.Seconds = *seconds;
+}
+
+struct ValueOption {
+  std::string_view Name;
+  void (*Take)(Options& options, const std::string& value);
+};
+
+constexpr std::array<ValueOption, 6> ValueOptions = {{
+    {"--screen", TakeScreen},
+    {"--app-folder", TakeAppFolder},
+    {"--transcript", TakeTranscript},
+    {"--picture", TakePicture},
+    {"--steps", TakeSteps},
+    {"--seconds", TakeSeconds},
+}};
+
+/// Goes through the arguments one after the other.
+class ArgumentWalk {
+ public:
+  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments(all) {}
+
+  Options Parse() {
+    while (next < arguments.size() && options.What == Options::Wish::Run) TakeArgument(arguments[next++]);
+    return options;
+  }
+
+ private:
+  void TakeArgument(const std::string& argument) {
+    const bool isOption = !optionsEnded && argument.size() > 1 && argument[0] == '-';
+    if (!isOption) {
+      TakeSession(argument);
+    } else if (argument == "--") {
+      optionsEnded = true;
+    } else if (argument == "--help") {
+      options.What = Options::Wish::Help;
+    } else if (argument == "--version") {
+      options.What = Options::Wish::Version;
+    } else if (argument == "--sleep") {
+      options.Session.Sleep = true;
+    } else {
+      TakeValue(argument);
+    }
+  }
+
+  void TakeValue(const std::string& name) {
+    for (const ValueOption& option : ValueOptions) {
+      if (option.Name != name) continue;
+      if (next == arguments.size()) throw UsageError(name + ": a value is missing");
+      option.Take(options, arguments[next++]);
+      return;
+    }
+    throw UsageError(name + ": there is no such option");
+  }
+
+  void TakeSession(const std::string& file) {
+    if (sessionGiven) throw UsageError(file + ": only one session can be run");
+    if (file.empty()) throw UsageError("the name of the session is empty");
+    sessionGiven = true;
+    options.SessionFile = file;
+  }
+
+  const std::vector<std::string>& arguments;
+  std::size_t next = 0;
+  bool optionsEnded = false;
+  bool sessionGiven = false;
+  Options options;
+};
+
+}  // namespace
+
+Options ParseOptions(const std::vector<std::string>& arguments) { return ArgumentWalk(arguments).Parse(); }
+
+std::string HelpText() {
+  return "Usage: zerimo-batch [options] [SESSION]\n"
+         "Runs a session of Zerimo without a window. SESSION is a file, or standard input if it is absent or -.\n"
+         "\n"
+         "  --screen WxH       size of the screen in pixels (1024x768)\n"
+         "  --app-folder DIR   the folder of programs and pictures (the current folder)\n"
+         "  --transcript FILE  write what happens as JSON Lines; - is standard output\n"
+         "  --picture FILE     write the picture at the end: .png, .bmp, .jpg or .svg\n"
+         "  --steps N          at most N steps in one typed line or handler; 0 is no limit (10000000)\n"
+         "  --seconds S        at most S seconds for the whole session; 0 is no limit (60)\n"
+         "  --sleep            WAIT really sleeps\n"
+         "  --help             show this text\n"
+         "  --version          show the version\n"
+         "\n"
+         "The whole session is checked before anything runs: a bad directive stops it with its line number.\n"
+         "Exit status: 0 the session ended; 1 bad usage, an unreadable session or a bad directive;\n"
+         "2 the system was ended by a failure; 3 a limit stopped it.\n";
+}
+
+}  // namespace zerimo::batch

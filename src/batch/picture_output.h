@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+
+#include "graphics/surface.h"
+#include "pixels/image_canvas.h"
+#include "pixels/svg_picture.h"
+
+namespace zerimo::batch {
+
+/// The pixels of a session, and its pictures as files.
+class PictureOutput {
+ public:
+  ImageCanvas& Pixels() { return canvas; }
+
+  /// Keeps the operations of the surface from now on, for a picture made of shapes. Costs memory for each of them.
+  void KeepOperations(Surface& surface) { surface.AddRecorder(operations); }
+
+  /// Writes the surface as large as it is now; the format follows from the file's ending. Fails (file access).
+  void Write(const Surface& surface, const std::filesystem::path& file) const;
+
+ private:
+  ImageCanvas canvas;
+  SvgRecorder operations{canvas};
+};
+
+}  // namespace zerimo::batch

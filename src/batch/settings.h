@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "controls/form_controls.h"
+
+namespace zerimo::batch {
+
+/// What a session runs in.
+struct Settings {
+  ScreenSize Screen;
+  /// The folder of the running program; single-byte text.
+  std::string AppFolder = ".";
+  /// Passes of Run1's loop in one typed line or handler; 0 is no limit.
+  std::uint64_t Steps = 10'000'000;
+  /// Wall-clock time of the whole session; 0 is no limit.
+  double Seconds = 60;
+  /// Whether `WAIT` really sleeps.
+  bool Sleep = false;
+};
+
+/// Whether a file name has one of the endings that a picture can be written by: .png, .bmp, .jpg, .svg in any case.
+bool IsPictureName(std::string_view file);
+
+/// Whether the picture is written from the recorded operations and not from the pixels.
+bool IsVectorPictureName(std::string_view file);
+
+}  // namespace zerimo::batch

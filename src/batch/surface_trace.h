@@ -1,0 +1,21 @@
+#pragma once
+
+#include "batch/journal.h"
+#include "graphics/surface.h"
+
+namespace zerimo::batch {
+
+/// Writes each operation of the surface into the journal while it is on.
+class SurfaceTrace final : public SurfaceRecorder {
+ public:
+  explicit SurfaceTrace(Journal& theJournal) : journal(theJournal) {}
+
+  bool On = false;
+
+  void Record(const Surface& surface, const SurfaceOperation& operation) override;
+
+ private:
+  Journal& journal;
+};
+
+}  // namespace zerimo::batch

@@ -1,0 +1,112 @@
+#include "batch/options.h"
+
+#include <gtest/gtest.h>
+
+#include "batch/errors.h"
+
+namespace zerimo::batch {
+namespace {
+
+TEST(Options, StandAsToldWithoutArguments) {
+  const Options options = ParseOptions({});
+  EXPECT_EQ(options.What, Options::Wish::Run);
+  EXPECT_EQ(options.SessionFile, "-");
+  EXPECT_EQ(options.Session.Screen.Width, 15360);
+  EXPECT_EQ(options.Session.Screen.Height, 11520);
+  EXPECT_EQ(options.Session.Steps, 10'000'000U);
+  EXPECT_EQ(options.Session.Seconds, 60);
+  EXPECT_FALSE(options.Session.Sleep);
+  EXPECT_EQ(options.TranscriptFile, "");
+  EXPECT_EQ(options.PictureFile, "");
+}
+
+TEST(Options, ScreenIsGivenInPixels) {
+  const Options options = ParseOptions({"--screen", "800x600"});
+  EXPECT_EQ(options.Session.Screen.Width, 12000);
+  EXPECT_EQ(options.Session.Screen.Height, 9000);
+}
+
+TEST(Options, TakeTheirValues) {
+  const Options options = ParseOptions({"--steps", "0", "--seconds", "2.5", "--sleep", "--transcript", "-", "--picture",
+                                        "a.PNG", "--app-folder", "/", "b.session"});
+  EXPECT_EQ(options.Session.Steps, 0U);
+  EXPECT_EQ(options.Session.Seconds, 2.5);
+  EXPECT_TRUE(options.Session.Sleep);
+  EXPECT_TRUE(options.TranscriptOnStandardOutput());
+  EXPECT_EQ(options.PictureFile, "a.PNG");
+  EXPECT_EQ(options.Session.AppFolder, "/");
+  EXPECT_EQ(options.SessionFile, "b.session");
+}
+
+TEST(Options, LastOneCounts) { EXPECT_EQ(ParseOptions({"--steps", "1", "--steps", "2"}).Session.Steps, 2U); }
+
+TEST(Options, DashIsStandardInput) { EXPECT_EQ(ParseOptions({"-"}).SessionFile, "-"); }
+
+TEST(Options, EndAtTwoDashes) { EXPECT_EQ(ParseOptions({"--", "--help"}).SessionFile, "--help"); }
+
+TEST(Options, HelpAndVersionAreWishes) {
+  EXPECT_EQ(ParseOptions({"--help"}).What, Options::Wish::Help);
+  EXPECT_EQ(ParseOptions({"--version"}).What, Options::Wish::Version);
+}
+
+TEST(Options, FolderLosesItsLastDivider) { EXPECT_EQ(ParseOptions({"--app-folder", "./"}).Session.AppFolder, "."); }
+
+struct BadUsage {
+  std::vector<std::string> Arguments;
+  const char* Message;
+};
+
+class BadOptions : public testing::TestWithParam<BadUsage> {};
+
+TEST_P(BadOptions, AreToldInOneLine) {
+  try {
+    ParseOptions(GetParam().Arguments);
+    FAIL() << "taken";
+  } catch (const UsageError& error) {
+    EXPECT_STREQ(error.what(), GetParam().Message);
+  }
+}
+
+constexpr const char* ScreenWanted = ": WIDTHxHEIGHT in pixels is wanted, from 1x130 to 8192x8192";
+
+std::vector<BadUsage> BadUsages() {
+  static std::vector<std::string> messages;
+  messages.reserve(32);
+  std::vector<BadUsage> all = {
+      {{"--frobnicate"}, "--frobnicate: there is no such option"},
+      {{"-x"}, "-x: there is no such option"},
+      {{"--steps"}, "--steps: a value is missing"},
+      {{"--steps", "-1"}, "--steps -1: a whole number from 0 is wanted"},
+      {{"--steps", "1.5"}, "--steps 1.5: a whole number from 0 is wanted"},
+      {{"--steps", "99999999999999999999"}, "--steps 99999999999999999999: a whole number from 0 is wanted"},
+      {{"--seconds", "x"}, "--seconds x: a number from 0 to 1000000000 is wanted"},
+      {{"--seconds", "-1"}, "--seconds -1: a number from 0 to 1000000000 is wanted"},
+      {{"--seconds", "nan"}, "--seconds nan: a number from 0 to 1000000000 is wanted"},
+      {{"--seconds", "inf"}, "--seconds inf: a number from 0 to 1000000000 is wanted"},
+      {{"--seconds", ""}, "--seconds : a number from 0 to 1000000000 is wanted"},
+      {{"--picture", "a.gif"}, "--picture a.gif: a file name ending in .png, .bmp, .jpg or .svg is wanted"},
+      {{"--picture", ".png"}, "--picture .png: a file name ending in .png, .bmp, .jpg or .svg is wanted"},
+      {{"--transcript", ""}, "--transcript : a file name is wanted"},
+      {{"--app-folder", "/no/such/folder"}, "--app-folder /no/such/folder: there is no such folder"},
+      {{"a", "b"}, "b: only one session can be run"},
+      {{""}, "the name of the session is empty"},
+  };
+  for (const char* value : {"800", "800x", "x600", "800x600x2", "0x600", "800x129", "-800x600", "8193x600", "800x8193",
+                            "800X600", "8e2x600", ""}) {
+    messages.push_back(std::string("--screen ") + value + ScreenWanted);
+    all.push_back({{"--screen", value}, messages.back().c_str()});
+  }
+  return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(Usages, BadOptions, testing::ValuesIn(BadUsages()));
+
+TEST(Options, HelpNamesEveryOption) {
+  for (const char* option : {"--screen", "--app-folder", "--transcript", "--picture", "--steps", "--seconds", "--sleep",
+                             "--help", "--version"}) {
+    EXPECT_NE(HelpText().find(option), std::string::npos) << option;
+  }
+}
+
+}  // namespace
+}  // namespace zerimo::batch
