@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QScrollBar>
+
+#include "desktop/control_view.h"
+
+namespace zerimo {
+
+class ButtonView : public ControlView {
+ public:
+  ButtonView(Button& control, QWidget& parent, Events& theEvents);
+
+ protected:
+  void SyncLook() override;
+
+ private:
+  Button& button;
+  QAbstractButton& shown;
+};
+
+class CheckView : public ControlView {
+ public:
+  CheckView(CheckBox& control, QWidget& parent, Events& theEvents);
+
+ protected:
+  void SyncLook() override;
+
+ private:
+  CheckBox& box;
+  QAbstractButton& shown;
+};
+
+/// A scroll bar; each change by the user runs its change event.
+class BarView : public ControlView {
+ public:
+  BarView(ScrollBar& control, QWidget& parent, Events& theEvents);
+
+ protected:
+  void SyncLook() override;
+
+ private:
+  ScrollBar& bar;
+  QScrollBar& shown;
+};
+
+}  // namespace zerimo

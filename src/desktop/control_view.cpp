@@ -1,0 +1,44 @@
+#include "desktop/control_view.h"
+
+#include <QPalette>
+#include <cmath>
+
+#include "desktop/desktop_text.h"
+#include "graphics/surface.h"
+
+namespace zerimo {
+
+namespace {
+
+int Pixels(float units) { return static_cast<int>(std::lround(units / UnitsPerPixel)); }
+
+}  // namespace
+
+QRect InPixels(const Control& control) {
+  const QPoint topLeft(Pixels(control.Left), Pixels(control.Top));
+  const QPoint behind(Pixels(control.Left + control.Width), Pixels(control.Top + control.Height()));
+  return {topLeft, behind - QPoint(1, 1)};
+}
+
+void ControlView::Sync(const Room& room) {
+  if (!IsHeld()) {
+    const QRect place = Place(room);
+    if (widget.geometry() != place) widget.setGeometry(place);
+  }
+  SyncLook();
+  if (widget.isHidden() == source.Visible()) widget.setVisible(source.Visible());
+}
+
+QRect ControlView::Place(const Room&) const { return InPixels(source); }
+
+void ShowColours(QWidget& widget, Colour background, Colour text) {
+  QPalette palette = widget.palette();
+  const QColor back = ToQColor(background);
+  const QColor fore = ToQColor(text);
+  if (palette.color(QPalette::Base) == back && palette.color(QPalette::Text) == fore) return;
+  for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Window}) palette.setColor(role, back);
+  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) palette.setColor(role, fore);
+  widget.setPalette(palette);
+}
+
+}  // namespace zerimo

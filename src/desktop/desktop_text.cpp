@@ -1,0 +1,80 @@
+#include "desktop/desktop_text.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace zerimo {
+
+namespace {
+
+constexpr int LastKnownCharacter = 0xFF;
+constexpr int SmallestFont = 13;
+
+struct PlainTwin {
+  char16_t Typographic;
+  char16_t Plain;
+};
+
+/// What word processors and web pages put in the place of plain characters.
+constexpr std::array<PlainTwin, 9> PlainTwins = {{
+    {u'\u2018', u'\''},
+    {u'\u2019', u'\''},
+    {u'\u201C', u'"'},
+    {u'\u201D', u'"'},
+    {u'\u201E', u'"'},
+    {u'\u2010', u'-'},
+    {u'\u2013', u'-'},
+    {u'\u2212', u'-'},
+    {u'\u202F', u' '},
+}};
+
+QChar KnownCharacter(QChar character) {
+  if (character.unicode() <= LastKnownCharacter) return character;
+  const auto twin = std::find_if(PlainTwins.begin(), PlainTwins.end(),
+                                 [&](const PlainTwin& pair) { return pair.Typographic == character.unicode(); });
+  return twin == PlainTwins.end() ? QChar(u'?') : QChar(twin->Plain);
+}
+
+}  // namespace
+
+QString ToQString(std::string_view text) {
+  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString OnlyKnownCharacters(const QString& text) {
+  QString known;
+  known.reserve(text.size());
+  for (const QChar character : text) {
+    // A character of two halves counts once.
+    if (!character.isLowSurrogate()) known += KnownCharacter(character);
+  }
+  return known;
+}
+
+std::string ToSystemText(const QString& text) { return OnlyKnownCharacters(text).toLatin1().toStdString(); }
+
+QString WithLineEnds(std::string_view text) {
+  QString lines = ToQString(text);
+  lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  return lines;
+}
+
+std::string WithCarriageReturns(const QString& text) {
+  QString lines = text;
+  lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+  return ToSystemText(lines);
+}
+
+QColor ToQColor(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
+
+QFont ControlFont(double points, bool bold) {
+  QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+  font.setPixelSize(std::max(SmallestFont, static_cast<int>(std::lround(points * 96 / 72))));
+  font.setBold(bold);
+  return font;
+}
+
+}  // namespace zerimo

@@ -1,0 +1,118 @@
+#include "desktop/editor_view.h"
+
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <algorithm>
+
+#include "desktop/desktop_text.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr QChar ParagraphEnd = QChar(u'\u2029');
+constexpr int CaretWidth = 2;
+const char* const Tab = "  ";
+
+/// A place in the text by line and column.
+struct CaretPlace {
+  int Line = 0;
+  int Column = 0;
+};
+
+CaretPlace PlaceOf(const QTextCursor& cursor) { return {cursor.blockNumber(), cursor.positionInBlock()}; }
+
+int PositionOf(const QTextDocument& document, CaretPlace place) {
+  QTextBlock block = document.findBlockByNumber(place.Line);
+  if (!block.isValid()) block = document.lastBlock();
+  return block.position() + std::min(place.Column, block.length() - 1);
+}
+
+qsizetype CommonStart(const QString& one, const QString& other) {
+  const auto end = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
+  return end.first - one.begin();
+}
+
+qsizetype CommonEnd(const QString& one, const QString& other, qsizetype limit) {
+  qsizetype length = 0;
+  while (length < limit && one[one.size() - 1 - length] == other[other.size() - 1 - length]) ++length;
+  return length;
+}
+
+}  // namespace
+
+EditorArea::EditorArea(QWidget& parent) : QPlainTextEdit(&parent) {
+  setLineWrapMode(NoWrap);
+  setFrameShape(NoFrame);
+  setCursorWidth(CaretWidth);
+  document()->setDocumentMargin(8);
+}
+
+QString EditorArea::Text() const {
+  // The plain text would turn code 160 into a blank.
+  QString text = document()->toRawText();
+  return text.replace(ParagraphEnd, QLatin1Char('\n'));
+}
+
+void EditorArea::ReplaceText(const QString& text) {
+  const QString old = Text();
+  const qsizetype start = CommonStart(old, text);
+  const qsizetype end = CommonEnd(old, text, std::min(old.size(), text.size()) - start);
+  const CaretPlace caret = PlaceOf(textCursor());
+  QTextCursor edit(document());
+  edit.setPosition(static_cast<int>(start));
+  edit.setPosition(static_cast<int>(old.size() - end), QTextCursor::KeepAnchor);
+  edit.insertText(text.mid(start, text.size() - start - end));
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(PositionOf(*document(), caret));
+  setTextCursor(cursor);
+}
+
+void EditorArea::keyPressEvent(QKeyEvent* event) {
+  // A tab would vanish from the program and join its neighbours.
+  if (event->key() == Qt::Key_Tab && event->modifiers() == Qt::NoModifier) return insertPlainText(QLatin1String(Tab));
+  const QString known = OnlyKnownCharacters(event->text());
+  if (known == event->text()) return QPlainTextEdit::keyPressEvent(event);
+  QKeyEvent press(event->type(), event->key(), event->modifiers(), known, event->isAutoRepeat());
+  QPlainTextEdit::keyPressEvent(&press);
+}
+
+void EditorArea::inputMethodEvent(QInputMethodEvent* event) {
+  event->setCommitString(OnlyKnownCharacters(event->commitString()), event->replacementStart(),
+                         event->replacementLength());
+  QPlainTextEdit::inputMethodEvent(event);
+}
+
+void EditorArea::insertFromMimeData(const QMimeData* source) {
+  QMimeData known;
+  known.setText(OnlyKnownCharacters(source->text()));
+  QPlainTextEdit::insertFromMimeData(&known);
+}
+
+EditorView::EditorView(TextBox& textBox, QWidget& parent, Events&)
+    : ControlView(textBox, *new EditorArea(parent)), box(textBox), area(static_cast<EditorArea&>(Widget())) {
+  QObject::connect(&area, &QPlainTextEdit::textChanged, &area, [this] { touched = true; });
+}
+
+void EditorView::Collect() {
+  if (!touched) return;
+  touched = false;
+  box.Text = WithCarriageReturns(area.Text());
+  shown = box.Text;
+}
+
+QRect EditorView::Place(const Room& room) const { return InPixels(Source()).intersected(room.Client); }
+
+void EditorView::SyncLook() {
+  const QFont font = ControlFont(box.FontSize);
+  if (area.font() != font) area.setFont(font);
+  ShowColours(area, box.BackColor, box.ForeColor);
+  if (touched || box.Text == shown) return;
+  area.ReplaceText(WithLineEnds(box.Text));
+  shown = box.Text;
+  touched = false;
+}
+
+}  // namespace zerimo

@@ -1,0 +1,152 @@
+#include "desktop/label_views.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/desktop_text.h"
+#include "graphics/surface.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr double CaptionPoints = 18;
+constexpr double LabelPoints = 9.75;
+
+/// Letters with a dark rim, so that they can be read on any picture.
+class CaptionText final : public QLabel {
+ public:
+  CaptionText(QWidget& parent, const Label& control) : QLabel(&parent), label(control) {
+    setTextFormat(Qt::PlainText);
+    setFont(ControlFont(CaptionPoints, true));
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRect place = rect().adjusted(12, 0, 0, 0);
+    painter.setPen(QColor(0, 0, 0, 150));
+    painter.drawText(place.translated(2, 2), Qt::AlignVCenter, text());
+    painter.setPen(ToQColor(label.ForeColor));
+    painter.drawText(place, Qt::AlignVCenter, text());
+  }
+
+ private:
+  const Label& label;
+};
+
+MouseButton ToMouseButton(Qt::MouseButton button) {
+  if (button == Qt::LeftButton) return MouseButton::Left;
+  if (button == Qt::RightButton) return MouseButton::Right;
+  return button == Qt::MiddleButton ? MouseButton::Middle : MouseButton::None;
+}
+
+float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
+
+QColor ReadableOn(const QColor& background) { return background.lightness() < 128 ? Qt::white : Qt::black; }
+
+}  // namespace
+
+LabelView::LabelView(Label& control, QWidget& parent, Events&)
+    : ControlView(control, *new QLabel(&parent)), label(control), text(static_cast<QLabel&>(Widget())) {
+  text.setTextFormat(Qt::PlainText);
+  text.setFont(ControlFont(LabelPoints));
+  text.setAutoFillBackground(true);
+  text.setMouseTracking(true);
+}
+
+void LabelView::SyncLook() {
+  const QString caption = ToQString(label.Caption);
+  if (text.text() != caption) {
+    text.setText(caption);
+    // A control string may be longer than its place.
+    text.setToolTip(text.sizeHint().width() > text.width() ? caption : QString());
+  }
+  ShowColours(text, label.BackColor, label.ForeColor);
+}
+
+CaptionView::CaptionView(Label& control, QWidget& parent, Events&)
+    : ControlView(control, *new CaptionText(parent, control)), label(control), text(static_cast<QLabel&>(Widget())) {}
+
+void CaptionView::SyncLook() {
+  const QString caption = ToQString(label.Caption);
+  if (text.text() != caption) text.setText(caption);
+}
+
+PressLabel::PressLabel(QWidget& parent, Label& control, Events& theEvents)
+    : QAbstractButton(&parent), label(control), events(theEvents) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::TabFocus);
+  setFont(ControlFont(LabelPoints, true));
+  // What a screen reader presses; the mouse and the keys have their own ways below.
+  QObject::connect(this, &QAbstractButton::clicked, this, [this] { PressWithKey(false, false); });
+}
+
+void PressLabel::Sync() {
+  const auto sameLook = [](const Label& one, const Label& other) {
+    return one.BackColor == other.BackColor && one.ForeColor == other.ForeColor &&
+           one.BorderStyle == other.BorderStyle && one.Caption == other.Caption;
+  };
+  if (sameLook(shown, label)) return;
+  shown.BackColor = label.BackColor;
+  shown.ForeColor = label.ForeColor;
+  shown.BorderStyle = label.BorderStyle;
+  shown.Caption = label.Caption;
+  update();
+}
+
+void PressLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor back = ToQColor(label.BackColor);
+  painter.fillRect(rect(), back);
+  const QRect edge = rect().adjusted(0, 0, -1, -1);
+  if (label.BorderStyle != 0) {
+    painter.setPen(QColor(64, 64, 64));
+    painter.drawRect(edge);
+  }
+  if (hasFocus()) {
+    painter.setPen(QPen(ReadableOn(back), 1, Qt::DotLine));
+    painter.drawRect(edge.adjusted(5, 5, -5, -5));
+  }
+  painter.setPen(ToQColor(label.ForeColor));
+  painter.drawText(rect(), Qt::AlignCenter, ToQString(label.Caption));
+}
+
+void PressLabel::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  events.Deliver([&](Form1& form1) { form1.MouseMove(label, Units(at.x()), Units(at.y())); });
+}
+
+void PressLabel::mousePressEvent(QMouseEvent* event) {
+  const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+  Press(ToMouseButton(event->button()), shift, event->position().toPoint());
+}
+
+void PressLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
+  events.Deliver([this](Form1& form1) { form1.Click(label); });
+}
+
+void PressLabel::Press(MouseButton button, bool shift, QPoint at) {
+  events.Deliver([&](Form1& form1) { form1.MouseDown(label, button, shift, Units(at.x()), Units(at.y())); });
+}
+
+void PressLabel::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+  if (forward || key == Qt::Key_Left || key == Qt::Key_Up) {
+    focusNextPrevChild(forward);
+    return;
+  }
+  if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) return event->ignore();
+  // The key with Ctrl is the right button.
+  PressWithKey(event->modifiers().testFlag(Qt::ControlModifier), event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void PressLabel::PressWithKey(bool right, bool shift) {
+  Press(right ? MouseButton::Right : MouseButton::Left, shift, rect().center());
+  if (!right && !shift) events.Deliver([this](Form1& form1) { form1.Click(label); });
+}
+
+}  // namespace zerimo

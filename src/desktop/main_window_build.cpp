@@ -1,0 +1,126 @@
+#include <QLabel>
+
+#include "desktop/action_views.h"
+#include "desktop/control_words.h"
+#include "desktop/desktop_text.h"
+#include "desktop/editor_view.h"
+#include "desktop/help_views.h"
+#include "desktop/label_views.h"
+#include "desktop/list_view.h"
+#include "desktop/main_window.h"
+#include "desktop/surface_view.h"
+#include "desktop/text_views.h"
+
+namespace zerimo {
+
+/// The later a control is added, the higher it lies.
+void MainWindow::Build(ImageCanvas& canvas) {
+  viewOf.reserve(128);
+  BuildSurface(canvas);
+  BuildTextScreens();
+  BuildDiagnosis();
+  BuildRows();
+  BuildPalette();
+  SetTabOrder();
+}
+
+template <typename View, typename Source>
+void MainWindow::Add(Source& control) {
+  QWidget& parent = control.Panel() == nullptr ? static_cast<QWidget&>(*this) : WidgetOf(*control.Panel());
+  Register(std::make_unique<View>(control, parent, events));
+}
+
+template <typename View, typename... Arrays>
+void MainWindow::AddAll(Arrays&... arrays) {
+  const auto each = [this](auto& array) {
+    for (int index = 0; index < array.Size; ++index) Add<View>(array[index]);
+  };
+  (each(arrays), ...);
+}
+
+void MainWindow::Register(std::unique_ptr<ControlView> view) {
+  view->Widget().installEventFilter(this);
+  Describe(*view);
+  viewOf[&view->Source()] = view.get();
+  viewOfWidget[&view->Widget()] = view.get();
+  views.push_back(std::move(view));
+}
+
+void MainWindow::Describe(const ControlView& view) {
+  const std::string& name = view.Source().Name();
+  QWidget& widget = view.Widget();
+  widget.setObjectName(ToQString(name));
+  const ControlWords* words = FindControlWords(name);
+  if (words == nullptr) return;
+  QString title = QString::fromLatin1(words->Name);
+  if (title.contains(QLatin1String("%1"))) title = title.arg(IndexInName(name) + 1);
+  widget.setAccessibleName(title);
+  widget.setAccessibleDescription(QLatin1String(words->Description));
+  widget.setToolTip(QLatin1String(words->ToolTip));
+}
+
+void MainWindow::BuildSurface(ImageCanvas& canvas) {
+  Register(std::make_unique<SurfaceView>(form1, *this, canvas, events));
+  AddAll<CaptionView>(form1.Controls.Label20);
+}
+
+void MainWindow::BuildTextScreens() {
+  Add<ListBoxView>(form1.Controls.List4);
+  Add<FileListView>(form1.Controls.File1);
+  Add<PageView>(form1.Controls.RichTextBox1);
+}
+
+void MainWindow::BuildDiagnosis() {
+  FormControls& controls = form1.Controls;
+  Add<FramePanelView>(controls.Frame1);
+  AddAll<LabelView>(controls.Label12);
+  for (ListBox* list : {&controls.List1, &controls.List2, &controls.List3}) Add<ListBoxView>(*list);
+  for (Label* label : {&controls.Label19, &controls.Label17, &controls.Label18, &controls.Label10, &controls.Label9,
+                       &controls.Label11, &controls.Label8}) {
+    Add<LabelView>(*label);
+  }
+  for (TextBox* field : {&controls.Text3, &controls.Text4}) Add<FieldView>(*field);
+  Add<CheckView>(controls.Check1);
+  Add<ButtonView>(controls.Command2);
+  AddAll<BarView>(controls.HScroll1, controls.HScroll2);
+  Add<ButtonView>(controls.Command1);
+}
+
+void MainWindow::BuildRows() {
+  FormControls& controls = form1.Controls;
+  Add<RowsPanelView>(controls.Picture3);
+  Add<PromptView>(controls.Prompt);
+  AddAll<RowView>(controls.Text1);
+  // The editor covers all but a strip; the panel is hidden then.
+  Add<EditorView>(controls.Text2);
+}
+
+void MainWindow::BuildPalette() {
+  FormControls& controls = form1.Controls;
+  Add<PaletteView>(controls.Picture2);
+  Add<LabelView>(controls.Label16);
+  AddAll<PressView>(controls.Label13);
+  Add<LabelView>(controls.Label15);
+  Add<PressView>(controls.Label14);
+  for (Button* button : {&controls.Command4, &controls.Command5, &controls.Command3}) Add<ButtonView>(*button);
+  paletteShapes = new PaletteShapes(WidgetOf(controls.Picture2), controls);
+}
+
+void MainWindow::SetTabOrder() {
+  FormControls& controls = form1.Controls;
+  const auto follow = [&](const Control& control) {
+    QWidget& stop = WidgetOf(control);
+    if (stop.focusPolicy() == Qt::NoFocus) return;
+    if (!tabStops.empty()) QWidget::setTabOrder(tabStops.back(), &stop);
+    tabStops.push_back(&stop);
+  };
+  // The rows come first, then what may lie above the surface, and the surface itself.
+  for (int row = 0; row < controls.Text1.Size; ++row) follow(controls.Text1[row]);
+  for (const auto& view : views) {
+    const bool isRow = view->Source().Panel() == &controls.Picture3;
+    if (!isRow && &view->Source() != &form1.Picture1) follow(view->Source());
+  }
+  follow(form1.Picture1);
+}
+
+}  // namespace zerimo

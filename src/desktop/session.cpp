@@ -1,0 +1,95 @@
+#include "desktop/session.h"
+
+#include <QCoreApplication>
+#include <exception>
+
+#include "core/failure.h"
+#include "desktop/desktop_text.h"
+
+namespace zerimo {
+
+namespace {
+
+ScreenSize UnitsOf(const QRect& area) {
+  return {static_cast<float>(area.width() * UnitsPerPixel), static_cast<float>(area.height() * UnitsPerPixel)};
+}
+
+}  // namespace
+
+Session::Session(const QRect& available, const std::string& appFolder)
+    : services(stage, QString::fromStdU16String(Folders::ToRead(appFolder).u16string())),
+      watch(stage),
+      form1(UnitsOf(available), appFolder, services, watch, canvas),
+      window(form1, canvas, *this, available),
+      timers(
+          form1.Controls, [this](Timer& timer) { Deliver([&](Form1& form) { form.Tick(timer); }); },
+          [this] { return stage.IsRunning(); }) {
+  stage.Open(window, [this] { ShowState(); });
+}
+
+void Session::Start() {
+  Deliver([](Form1& form) { form.Load(); });
+  if (hasEnded) return;
+  window.show();
+  // Where nothing else gives the keys to a new window.
+  window.activateWindow();
+}
+
+void Session::Deliver(const std::function<void(Form1& form1)>& event) {
+  if (hasEnded || stage.IsRunning()) return;
+  stage.BeginRun();
+  watch.Begin();
+  window.Collect();
+  Run(event);
+  stage.EndRun();
+  if (hasEnded) return;
+  ShowState();
+  window.DescribeTurtle();
+  timers.FireDue();
+}
+
+void Session::Run(const std::function<void(Form1& form1)>& event) {
+  try {
+    event(form1);
+  } catch (const Ended& end) {
+    if (end.By == "close") form1.RescueEditorText();
+    End(0);
+  } catch (const std::exception& failure) {
+    TellFailure(failure.what());
+    End(EndedByFailure);
+  }
+}
+
+void Session::TellFailure(const char* words) {
+  std::string text = words;
+  if (form1.RescueEditorText()) text += "\r\rThe text of the editor has been saved in Rescued.ZRM.";
+  try {
+    services.MessageBox(text, box::Critical, ProgramName);
+  } catch (const Ended&) {
+    // Closing the window behind the box is an answer too.
+  }
+}
+
+void Session::ShowState() {
+  window.Sync();
+  timers.Sync();
+}
+
+bool Session::Close() {
+  if (stage.IsRunning()) {
+    stage.RequestClose();
+    return hasEnded;
+  }
+  End(0);
+  return true;
+}
+
+void Session::End(int status) {
+  if (hasEnded) return;
+  hasEnded = true;
+  exitStatus = status;
+  window.hide();
+  QCoreApplication::exit(status);
+}
+
+}  // namespace zerimo

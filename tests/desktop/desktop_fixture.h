@@ -1,0 +1,88 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/session.h"
+
+namespace zerimo {
+
+/// A session in a window of its own on a screen of 1024x768, with an empty folder as `AppFolder` and as the current
+/// folder, after the start.
+class DesktopTest : public testing::Test {
+ protected:
+  explicit DesktopTest(const QRect& available = {0, 0, 1024, 768});
+  ~DesktopTest() override;
+
+  FormControls& Controls() { return session->System().Controls; }
+  Form1& System() { return session->System(); }
+  MainWindow& Shown() { return session->Shown(); }
+  QWidget& WidgetOf(const Control& control) { return Shown().WidgetOf(control); }
+  template <typename Widget>
+  Widget& WidgetAs(const Control& control) {
+    return dynamic_cast<Widget&>(WidgetOf(control));
+  }
+  QLineEdit& Row(int index) { return WidgetAs<QLineEdit>(Controls().Text1[index]); }
+  QPlainTextEdit& Editor() { return WidgetAs<QPlainTextEdit>(Controls().Text2); }
+
+  /// The widget that keys go to.
+  QWidget* Focused() const { return session->Shown().focusWidget(); }
+  /// A key on the widget that has the focus.
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  /// Real key events for each character.
+  void Type(const char* text);
+  /// Types a line on the row that has the focus, and Enter.
+  void Enter(const char* line);
+
+  /// From the editor to row 0 without the fold.
+  void LeaveEditor();
+
+  /// Lets the event loop work until a condition holds, at most some seconds. Tells whether it holds.
+  static bool Until(const std::function<bool()>& condition);
+  /// Lets the one-shot that gives the focus to row 0 fire.
+  void Settle();
+
+  /// A box as it stood on the screen.
+  struct SeenBox {
+    std::string Text;
+    std::string Title;
+    std::vector<std::string> Buttons;
+    QPixmap Icon;
+  };
+  /// Presses keys in the next box that stands, and notes the box. May be called several times, for one box each.
+  void AnswerNextBox(std::vector<Qt::Key> keys, const char* typed = "");
+  /// Looks around while the next box stands, and closes it then.
+  void WhileABoxStands(std::function<void()> look, Qt::Key close = Qt::Key_Return);
+  std::vector<SeenBox> Boxes;
+
+  void WriteFile(const char* name, const std::string& bytes) const;
+  std::string ReadFile(const char* name) const;
+  bool HasFile(const char* name) const;
+
+  QTemporaryDir folder;
+  std::unique_ptr<Session> session;
+
+ private:
+  struct Waiting {
+    std::vector<Qt::Key> Keys;
+    const char* Typed;
+    std::function<void()> Look;
+  };
+  void AnswerBox();
+  void GiveUp(QDialog& dialog);
+
+  std::vector<Waiting> answers;
+  QTimer answering;
+  int rounds = 0;
+  QString formerFolder;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,106 @@
+#!/usr/bin/env bash
+# Starts the program on a display of its own with a window manager, types a line with real key events, and compares
+# what stands on the screen with the picture that the batch runner draws of the same line.
+# Usage: end_to_end.sh ZERIMO ZERIMO-BATCH
+set -euo pipefail
+
+zerimo=$1
+batch=$2
+width=1024
+height=768
+# What the title bar and the rows leave of the surface for sure.
+part=1000x560+0+0
+lines=('CS' 'HT' 'REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]')
+
+work=$(mktemp -d)
+started=()
+finish() {
+  # The last started first; each is waited for, since a display that goes late takes its successor's socket with it.
+  for ((i = ${#started[@]} - 1; i >= 0; i--)); do
+    kill "${started[i]}" 2>/dev/null || true
+    wait "${started[i]}" 2>/dev/null || true
+  done
+  rm -rf "$work"
+}
+trap finish EXIT
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+
+# within SECONDS COMMAND...: repeats the command until it succeeds.
+within() {
+  local end=$((SECONDS + $1))
+  shift
+  until "$@"; do
+    [ "$SECONDS" -lt "$end" ] || return 1
+    sleep 0.1
+  done
+}
+
+start_display() {
+  Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" 3>"$work/display" 2>/dev/null &
+  started+=($!)
+  within 20 test -s "$work/display" || fail "the display does not start"
+  DISPLAY=:$(cat "$work/display")
+  export DISPLAY
+  openbox 2>/dev/null &
+  started+=($!)
+  within 20 has_window_manager || fail "the window manager does not start"
+}
+
+has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+
+start_program() {
+  export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
+  "$zerimo" &
+  program=$!
+  started+=("$program")
+  within 20 find_window || fail "the window does not appear"
+  within 20 has_focus || fail "the window does not get the focus"
+}
+
+find_window() {
+  window=$(xdotool search --onlyvisible --name '^Zerimo' 2>/dev/null | tail -1)
+  [ -n "$window" ]
+}
+
+has_focus() { [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]; }
+
+type_line() {
+  xdotool type --delay 12 -- "$1"
+  xdotool key Return
+}
+
+shows_details() { xdotool getwindowname "$window" | grep -q 'Pen State:Pen Down'; }
+
+draw_with_batch() {
+  printf '%s\n' "${lines[@]}" >"$work/session"
+  "$batch" --screen "${width}x${height}" --picture "$work/expected.png" "$work/session" >/dev/null
+  convert "$work/expected.png" -crop "$part" +repage "$work/expected_part.png"
+}
+
+screen_is_as_expected() {
+  import -silent -window "$window" "$work/screen.png"
+  convert "$work/screen.png" -crop "$part" +repage "$work/screen_part.png"
+  differing=$(compare -metric AE "$work/expected_part.png" "$work/screen_part.png" null: 2>&1 || true)
+  [ "$differing" = 0 ]
+}
+
+start_display
+start_program
+for line in "${lines[@]}"; do type_line "$line"; done
+type_line 'SHOW DETAILS'
+within 30 shows_details || fail "the line does not come to its end"
+draw_with_batch
+[ "$(convert "$work/expected_part.png" -format %k info:)" -gt 1 ] || fail "the batch runner has drawn nothing"
+within 10 screen_is_as_expected || fail "$differing pixels differ from the expected picture"
+
+type_line 'BYE'
+sleep 0.5
+xdotool key Return
+status=0
+wait "$program" || status=$?
+[ "$status" = 0 ] || fail "the program ended with status $status"
+echo "the screen shows the expected picture, and the program ended as asked"

@@ -1,0 +1,150 @@
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QTest>
+
+#include "desktop/desktop_fixture.h"
+
+namespace zerimo {
+namespace {
+
+using RunsTest = DesktopTest;
+using Texts = std::vector<std::string>;
+
+/// Runs a test's action while the next line runs, `after` milliseconds from now.
+void During(int after, std::function<void()> action) { QTimer::singleShot(after, qApp, std::move(action)); }
+
+TEST_F(RunsTest, KeysTypedDuringARunArriveAfterwards) {
+  QString seen = "untouched";
+  During(30, [this] { QTest::keyClicks(&Row(0), "rt"); });
+  During(80, [&] { seen = Row(0).text(); });
+  Enter("wait 150");
+  EXPECT_EQ(seen, "wait 150");
+  EXPECT_TRUE(Until([this] { return Row(0).text() == "wait 150rt"; }));
+}
+
+TEST_F(RunsTest, ALineEnteredDuringARunRunsAfterwardsOnce) {
+  During(30, [this] {
+    QTest::keyClicks(&Row(1), "rt 5");
+    QTest::keyClick(&Row(1), Qt::Key_Return);
+  });
+  Enter("wait 100");
+  EXPECT_EQ(Controls().List4.Items(), Texts{"?WAIT 100"});
+  EXPECT_TRUE(Until([this] { return Controls().List4.Items().size() == 2; }));
+  EXPECT_EQ(Controls().List4.Items(), (Texts{"?WAIT 100", "?RT 5"}));
+}
+
+TEST_F(RunsTest, AClickDuringARunActsAfterwards) {
+  Enter("show dia");
+  During(30, [this] { QTest::mouseClick(&WidgetOf(Controls().Command1), Qt::LeftButton); });
+  Enter("wait 100");
+  EXPECT_TRUE(WidgetOf(Controls().Frame1).isVisible());
+  EXPECT_TRUE(Until([this] { return !WidgetOf(Controls().Frame1).isVisible(); }));
+}
+
+TEST_F(RunsTest, ATimerThatComesDueDuringARunFiresOnceAfterwards) {
+  int captions = 0;
+  Controls().Timer4.Interval = 10;
+  Enter("show time");
+  Controls().Form1.OnCaption = [&](const std::string&) { ++captions; };
+  During(5, [&] { captions = 0; });
+  int whileRunning = -1;
+  During(90, [&] { whileRunning = captions; });
+  Enter("wait 100");
+  EXPECT_EQ(whileRunning, 0);
+  Controls().Timer4.Interval = 10000;
+  EXPECT_TRUE(Until([&] { return captions > 0; }));
+  QTest::qWait(30);
+  EXPECT_EQ(captions, 1);
+}
+
+TEST_F(RunsTest, ATimerDoesNotTickWhileABoxStands) {
+  int captions = 0;
+  Controls().Timer4.Interval = 5;
+  Enter("show time");
+  Controls().Form1.OnCaption = [&](const std::string&) { ++captions; };
+  int before = 0;
+  int after = -1;
+  WhileABoxStands([&] {
+    before = captions;
+    QTest::qWait(40);
+    after = captions;
+  });
+  Enter("xcor");
+  EXPECT_EQ(after, before);
+}
+
+TEST_F(RunsTest, WaitHoldsForItsTimeAndShowsTheStateBefore) {
+  Enter("show dia");
+  QString shown;
+  During(50, [&] { shown = WidgetAs<QLabel>(Controls().Label19).text(); });
+  QElapsedTimer clock;
+  clock.start();
+  Enter("wait 100");
+  EXPECT_GE(clock.elapsed(), 100);
+  EXPECT_NE(shown, "Control String");
+}
+
+TEST_F(RunsTest, ThePictureGrowsWhileALineRuns) {
+  Enter("show dia");
+  Texts seen;
+  for (int time = 40; time <= 200; time += 40) {
+    During(time, [&] { seen.push_back(WidgetAs<QLabel>(Controls().Label19).text().toStdString()); });
+  }
+  During(250, [this] { Shown().close(); });
+  Enter("repeat 30000 [rt 1]");
+  ASSERT_GE(seen.size(), 3u);
+  EXPECT_NE(seen.front(), "Control String");
+}
+
+TEST_F(RunsTest, ClosingTheWindowEndsARunThatDoesNotEnd) {
+  During(50, [this] { Shown().close(); });
+  Enter("label a goto a");
+  EXPECT_TRUE(session->HasEnded());
+  EXPECT_EQ(session->ExitStatus(), 0);
+}
+
+TEST_F(RunsTest, ClosingTheWindowEndsAnEvaluationThatDoesNotEnd) {
+  During(50, [this] { Shown().close(); });
+  Enter("fd -/3");
+  EXPECT_TRUE(session->HasEnded());
+}
+
+TEST_F(RunsTest, ClosingTheWindowDuringARunRescuesTheEditorsText) {
+  Controls().Text2.Text = "TO A\r\nEND";
+  During(50, [this] { Shown().close(); });
+  Enter("label a goto a");
+  EXPECT_EQ(ReadFile("Rescued.ZRM"), "TO A\r\nEND");
+}
+
+TEST_F(RunsTest, ClosingTheWindowLeavesAProgramThatShowsBoxAfterBox) {
+  WhileABoxStands([this] { Shown().close(); });
+  Enter("repeat 1000 [message 1]");
+  EXPECT_TRUE(session->HasEnded());
+  EXPECT_EQ(Boxes.size(), 1u);
+}
+
+TEST_F(RunsTest, ClosingTheWindowEndsAWait) {
+  During(50, [this] { Shown().close(); });
+  QElapsedTimer clock;
+  clock.start();
+  Enter("wait 30000");
+  EXPECT_TRUE(session->HasEnded());
+  EXPECT_LT(clock.elapsed(), 5000);
+}
+
+TEST_F(RunsTest, TheTextScreenFillsWhileALineRuns) {
+  Press(Qt::Key_F3);
+  int rows = 0;
+  auto& list = WidgetAs<QAbstractItemView>(Controls().List4);
+  During(100, [&] {
+    rows = list.model()->rowCount();
+    Shown().close();
+  });
+  Enter("repeat 30000 [print \"x\"]");
+  EXPECT_GT(rows, 1);
+}
+
+}  // namespace
+}  // namespace zerimo

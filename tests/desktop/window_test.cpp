@@ -1,0 +1,157 @@
+#include <QAbstractButton>
+#include <QLabel>
+#include <QTest>
+#include <ostream>
+
+#include "desktop/desktop_fixture.h"
+
+namespace zerimo {
+namespace {
+
+struct ScreenCase {
+  int Width;
+  int Height;
+  /// What a title bar takes.
+  int TitleBar;
+};
+
+void PrintTo(const ScreenCase& one, std::ostream* out) {
+  *out << one.Width << "x" << one.Height << " less " << one.TitleBar;
+}
+
+class Screens : public DesktopTest, public testing::WithParamInterface<ScreenCase> {
+ protected:
+  Screens() : DesktopTest({0, 0, GetParam().Width, GetParam().Height}) {
+    Shown().setFixedSize(GetParam().Width, GetParam().Height - GetParam().TitleBar);
+  }
+  QRect InWindow(const QWidget& widget) { return {widget.mapTo(&Shown(), QPoint(0, 0)), widget.size()}; }
+};
+
+TEST_P(Screens, ShowAllRowsWholeAndUsable) {
+  for (int row = 0; row < 5; ++row) {
+    EXPECT_TRUE(Shown().rect().contains(InWindow(Row(row)))) << row;
+    EXPECT_EQ(Row(row).height(), 25);
+    QTest::mouseClick(&Row(row), Qt::LeftButton);
+    QTest::keyClicks(&Row(row), "rt 1");
+    EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[row]);
+    EXPECT_EQ(Row(row).text(), "rt 1");
+  }
+}
+
+TEST_P(Screens, TakeTheirSizeIntoTheData) {
+  EXPECT_EQ(Controls().Screen.Width, static_cast<float>(15 * GetParam().Width));
+  EXPECT_EQ(Controls().Screen.Height, static_cast<float>(15 * GetParam().Height));
+}
+
+TEST_P(Screens, KeepTheEditorInsideTheWindow) {
+  Press(Qt::Key_F1);
+  EXPECT_TRUE(Shown().rect().contains(Editor().geometry()));
+}
+
+TEST_P(Screens, KeepThePanelsWithinReach) {
+  Enter("show dia");
+  Enter("show pal");
+  for (const Control* panel :
+       {static_cast<Control*>(&Controls().Frame1), static_cast<Control*>(&Controls().Picture2)}) {
+    EXPECT_GE(WidgetOf(*panel).y(), 0);
+    EXPECT_GE(WidgetOf(*panel).x(), 0);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(SizesAndTitleBars, Screens,
+                         testing::Values(ScreenCase{1024, 768, 0}, ScreenCase{1024, 768, 20}, ScreenCase{1024, 768, 37},
+                                         ScreenCase{1366, 768, 30}, ScreenCase{1920, 1080, 0},
+                                         ScreenCase{1920, 1080, 40}, ScreenCase{3840, 2160, 0},
+                                         ScreenCase{3840, 2160, 50}, ScreenCase{683, 512, 30},
+                                         ScreenCase{512, 384, 30}));
+
+using WindowTest = DesktopTest;
+
+TEST_F(WindowTest, TheCaptionIsTheStatusLine) {
+  EXPECT_EQ(Shown().windowTitle(), "Zerimo");
+  Enter("show details");
+  EXPECT_TRUE(Shown().windowTitle().contains("[Pen State:Pen Down]"));
+  Enter("hide");
+  EXPECT_EQ(Shown().windowTitle(), "Zerimo");
+}
+
+TEST_F(WindowTest, TheClockTellsTheTimeInTheDesktopsForm) {
+  Controls().Timer4.Interval = 5;
+  Enter("show time");
+  EXPECT_TRUE(Until([this] { return Shown().windowTitle().startsWith("Zerimo [ Time:"); }));
+  EXPECT_TRUE(Shown().windowTitle().endsWith(" ]"));
+}
+
+TEST_F(WindowTest, TheRowsLieAtTheirPlaces) {
+  EXPECT_EQ(WidgetOf(Controls().Picture3).geometry(), QRect(0, 612, 1024, 129));
+  EXPECT_EQ(Row(4).geometry(), QRect(16, 96, 1008, 25));
+  EXPECT_EQ(WidgetOf(Controls().Prompt).geometry(), QRect(0, 0, 17, 121));
+}
+
+TEST_F(WindowTest, ATitleBarMovesTheRowsUp) {
+  Shown().setFixedSize(1024, 728);
+  EXPECT_EQ(WidgetOf(Controls().Picture3).geometry(), QRect(0, 599, 1024, 129));
+}
+
+TEST_F(WindowTest, EveryControlThatCanBeReachedHasAName) {
+  int named = 0;
+  Controls().ForEach([&](Control& control) {
+    ControlView* view = Shown().FindView(control);
+    if (view == nullptr) return;
+    const QWidget& widget = view->Widget();
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    const bool saysItself = button != nullptr && button->text().size() > 1;
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    const bool isText = label != nullptr && !label->text().isEmpty();
+    EXPECT_TRUE(!widget.accessibleName().isEmpty() || saysItself || isText) << control.Name();
+    ++named;
+  });
+  EXPECT_GT(named, 60);
+}
+
+TEST_F(WindowTest, TheSmallButtonsHaveToolTips) {
+  for (const Button* button :
+       {&Controls().Command1, &Controls().Command3, &Controls().Command4, &Controls().Command5}) {
+    EXPECT_FALSE(WidgetOf(*button).toolTip().isEmpty()) << button->Name();
+  }
+}
+
+TEST_F(WindowTest, TheTabKeyGoesThroughTheRowsInOrder) {
+  for (int row = 1; row < 5; ++row) {
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(Focused(), &Row(row));
+  }
+}
+
+TEST_F(WindowTest, TheTabKeyReachesThePanelAfterTheRows) {
+  Enter("show dia");
+  Row(4).setFocus();
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Focused()->parentWidget(), &WidgetOf(Controls().Frame1));
+}
+
+TEST_F(WindowTest, TheTabKeyFindsTheFirstRowWhenNothingHasTheFocus) {
+  Enter("show dia");
+  WidgetOf(Controls().Command1).setFocus();
+  Press(Qt::Key_Return);
+  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(Focused(), &Shown());
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Focused(), &Row(0));
+}
+
+TEST_F(WindowTest, InFullScreenTheTabKeyReachesTheSurface) {
+  Press(Qt::Key_F4);
+  QTest::keyClick(&Shown(), Qt::Key_Tab);
+  EXPECT_EQ(Focused(), &WidgetOf(System().Picture1));
+  Press(Qt::Key_F1);
+  EXPECT_EQ(Focused(), &Editor());
+}
+
+TEST_F(WindowTest, TheFullScreenFillsTheWindow) {
+  Press(Qt::Key_F4);
+  EXPECT_EQ(WidgetOf(System().Picture1).geometry(), QRect(0, 0, 1024, 768));
+}
+
+}  // namespace
+}  // namespace zerimo
