@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <utility>
+
+#include "core/failure.h"
+
+namespace zerimo {
+
+/// The kind of the failure that leaves a statement, or nothing if it goes through.
+template <typename Statement>
+std::optional<FailureKind> FailureOf(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+    return std::nullopt;
+  } catch (const Failure& failure) {
+    return failure.Kind;
+  }
+}
+
+}  // namespace zerimo
