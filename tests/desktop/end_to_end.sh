@@ -4,6 +4,7 @@
 # Usage: end_to_end.sh ZERIMO ZERIMO-BATCH
 set -euo pipefail
 
+here=$(cd "$(dirname "$0")" && pwd)
 zerimo=$1
 batch=$2
 width=1024
@@ -53,7 +54,9 @@ start_display() {
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
 start_program() {
-  export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
+  # No session bus: what stands on the screen must not depend on the desktop that the test is started from.
+  export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb DBUS_SESSION_BUS_ADDRESS=disabled:
+  export LSAN_OPTIONS=suppressions=$here/other_libraries.leaks:print_suppressions=0
   "$zerimo" &
   program=$!
   started+=("$program")
