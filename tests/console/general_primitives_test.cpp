@@ -187,6 +187,8 @@ TEST_F(GeneralPrimitivesTest, AWholeRestIsOneExpression) {
   EXPECT_EQ(System.Turtle.TurtleY, 5760 - 15 * 50);
   Execute("BK 1 5");
   EXPECT_EQ(System.Turtle.TurtleY, 5760);
+  Execute("FD 10 20");
+  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 1020 * 50);
 }
 
 }  // namespace

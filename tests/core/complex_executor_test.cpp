@@ -109,6 +109,16 @@ TEST_F(TypedLinesTest, AStoreThatEndsAtLine499IsNotRefreshed) {
   EXPECT_EQ(Controls.List1.Items(), (Texts{"OLD"}));
 }
 
+TEST_F(TypedLinesTest, BehindLine499NeitherGlobalsNorProceduresAreReadAgain) {
+  FillUpTo(499);
+  Store.SetLine(1, "MAKE \"G 5");
+  Store.SetLine(2, "TO A");
+  Controls.List3.Add("OLD");
+  EXPECT_FALSE(Type("FD 5"));
+  EXPECT_EQ(Names.Slot(1), "");
+  EXPECT_EQ(Controls.List3.Items(), (Texts{"OLD"}));
+}
+
 TEST_F(TypedLinesTest, TheLastEndThatMovesAnythingStandsAtLine499) {
   FillUpTo(496);
   EXPECT_TRUE(Type("FD 5"));

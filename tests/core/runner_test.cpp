@@ -138,6 +138,48 @@ TEST_F(RunnerTest, RecursionBehindALabelGrowsThePath) {
   EXPECT_GT(std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.'), 20);
 }
 
+/// What stands in front of a recursive call, and how many components the path has after a while.
+struct InFrontOfTheCall {
+  const char* Line;
+  bool Grows;
+};
+
+class RecursionBehind : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
+
+TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
+  Fill({"TO A", GetParam().Line, "A", "END", "TO B", "END"});
+  RunFor(120, "A");
+  const auto components = std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.');
+  if (GetParam().Grows) {
+    EXPECT_GT(components, 20);
+  } else {
+    EXPECT_LE(components, 2);
+  }
+}
+
+// A bare expression looks for the recursion before its act, when the inner component still has the number of its own
+// line; an ENDIF writes a number too high, and a return from a call one without its blank.
+INSTANTIATE_TEST_SUITE_P(Lines, RecursionBehind,
+                         testing::Values(InFrontOfTheCall{"FD 1", false}, InFrontOfTheCall{"MAKE X 1", false},
+                                         InFrontOfTheCall{"LABEL X", true}, InFrontOfTheCall{"1+2", true},
+                                         InFrontOfTheCall{"1=2", true}, InFrontOfTheCall{"ENDIF", true},
+                                         InFrontOfTheCall{"B", true}));
+
+TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
+  // The input that is read is always that of the outermost call, so that the condition holds for ever.
+  Fill({"TO B :N", "IF :N>0", "B :N-1", "ENDIF", "PRINT :N", "END", "TO M", "B 2", "END"});
+  RunFor(201, "M");
+  EXPECT_TRUE(Calls.empty());
+  EXPECT_EQ(Path.CtrlStr(), ".M- 8.B- 3");
+}
+
+TEST_F(RunnerTest, TenLevelsReturnOnce) {
+  Fill({"TO B", "MAKE N N-1", "IF N>0", "B", "ENDIF", "PRINT 1", "END", "TO M", "MAKE N 10", "B", "PRINT 2", "END"});
+  Interpreter::Run.Run1("M");
+  // From the innermost level, and from the outermost one behind its call.
+  EXPECT_EQ(Calls, (Texts{"PRINT 1", "PRINT 1", "PRINT 2"}));
+}
+
 TEST_F(RunnerTest, WhatStandsBehindARecursiveCallRunsOnce) {
   Fill({"TO B :N", "FD :N", "IF :N>0", "B :N-1", "ENDIF", "RT 1", "END", "TO M", "B 0", "END"});
   Interpreter::Run.Run1("M");
@@ -174,6 +216,15 @@ TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
   Interpreter::Run.Run1("A");
   // The END of the new run returns into the old path: behind line 5.
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 9"}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+}
+
+TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
+  Fill({"TO A", "FD 1", "END"});
+  Path.SetCtrlStr("X.");
+  Interpreter::Run.Run1("A");
+  // The END cuts the path down to "X", which has no number: the line behind 0 is the whole path.
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_EQ(Path.CtrlStr(), ".");
 }
 
