@@ -16,6 +16,9 @@ constexpr double twipsAcross = 15360;
 constexpr double twipsDown = 11520;
 constexpr double degreesOfATurn = 180 / 3.1415937;
 
+/// Far more than any example needs that comes to an end.
+const std::vector<std::string> stepLimit = {"--steps", "100000"};
+
 /// A text that is claimed; a page may tell only how a long one begins.
 struct ClaimedText {
   std::string Text;
@@ -37,6 +40,8 @@ class ClaimCheck {
     CompareTexts("entry of the history", history, deeds.History);
     CompareTexts("text on the surface", writings, deeds.Writings);
     CompareTexts("picture", pictures, deeds.Pictures);
+    if (goesOn != !run.EventsOf("stopped").empty())
+      broken.push_back(goesOn ? "it comes to an end" : "it goes on for ever");
     if (waits != deeds.Waits) broken.push_back("the waits are others than claimed");
     if (drawn != deeds.Drawn) broken.push_back("drawn: " + ToText(deeds.Drawn) + ", claimed: " + ToText(drawn));
     return broken;
@@ -98,6 +103,13 @@ class ClaimCheck {
     for (std::string name; names >> name;) pictures.push_back({name});
   }
 
+  /// The comparisons tell the rest: what no claim tells must not happen.
+  void NothingHappens(Words) {
+    for (const char* kind : {"surface", "box", "input", "dialog", "sleep", "beep", "caption", "ended"})
+      Expect(run.EventsOf(kind).empty(), std::string("an event: ") + kind);
+  }
+  void GoesOn(Words) { goesOn = true; }
+
   void Beeps(Words) { Expect(run.EventsOf("beep").size() == 1, "no beep"); }
   void Ends(Words) { Expect(run.EventsOf("ended").size() == 1, "it goes on"); }
   void FileWindow(Words) { Expect(run.EventsOf("dialog").size() == 1, "no dialog"); }
@@ -112,6 +124,16 @@ class ClaimCheck {
   void Looks(Words words) {
     const double degrees = State("TurtleDir") * degreesOfATurn;
     Expect(IsNear(degrees, words[1]), "it looks to " + std::to_string(degrees));
+  }
+  void ControlStringIs(Words words) {
+    const std::string path = Dump("state")["CtrlStr"].toString().toStdString();
+    Expect(path == words[1], "it is " + path);
+  }
+  void ProgramIs(Words words) {
+    std::string lines;
+    for (const QJsonValue& line : Dump("store")["lines"].toArray())
+      lines += (lines.empty() ? "" : " / ") + line.toString().toStdString();
+    Expect(lines == words[1], "it is " + lines);
   }
   void StepIs(Words words) { Expect(IsNear(State("Resolution"), words[1]), "another step"); }
 
@@ -145,11 +167,12 @@ class ClaimCheck {
   }
 
   std::string Title() const { return Property("Form1", "Caption").toString().toStdString(); }
-  double State(const char* field) const {
+  double State(const char* field) const { return Dump("state")[field].toDouble(std::nan("")); }
+  QJsonObject Dump(const char* what) const {
     for (const QJsonObject& dump : run.EventsOf("dump")) {
-      if (dump["what"].toString() == "state") return dump[field].toDouble();
+      if (dump["what"].toString() == what) return dump;
     }
-    return std::nan("");
+    return {};
   }
   QJsonValue Property(const QString& control, const QString& property) const {
     for (const QJsonObject& dump : run.EventsOf("dump")) {
@@ -164,6 +187,7 @@ class ClaimCheck {
   std::vector<ClaimedText> boxes, history, writings, pictures;
   std::vector<int> waits;
   std::map<std::string, int> drawn;
+  bool goesOn = false;
   std::vector<std::string> broken;
 };
 
@@ -177,6 +201,10 @@ const std::vector<ClaimCheck::Sentence>& ClaimCheck::Sentences() {
       {std::regex("The text screen shows: (.*)"), &ClaimCheck::HistoryShows},
       {std::regex("It waits (\\d+) milliseconds(?: (\\d+) times)?\\."), &ClaimCheck::Waits},
       {std::regex("The pictures (.*) are shown\\."), &ClaimCheck::Pictures},
+      {std::regex("Nothing happens\\."), &ClaimCheck::NothingHappens},
+      {std::regex("It goes on for ever\\."), &ClaimCheck::GoesOn},
+      {std::regex("The control string is (.*)"), &ClaimCheck::ControlStringIs},
+      {std::regex("The program is: (.*)"), &ClaimCheck::ProgramIs},
       {std::regex("It beeps\\."), &ClaimCheck::Beeps},
       {std::regex("Zerimo ends\\."), &ClaimCheck::Ends},
       {std::regex("A file window opens\\."), &ClaimCheck::FileWindow},
@@ -211,9 +239,11 @@ std::vector<std::string> BrokenClaims(const Example& example, const BatchRun& ru
 
 std::string ProblemsOf(const Example& example, const std::string& folderName) {
   const WorkFolder folder(ZERIMO_APP_FOLDER, folderName);
-  const BatchRun run = RunBatch(folder.Path, SessionOf(example));
+  const BatchRun run = RunBatch(folder.Path, SessionOf(example), stepLimit);
   std::vector<std::string> problems = BrokenClaims(example, run, folder.Path);
-  if (run.ExitStatus != 0) problems.push_back("the exit status is " + std::to_string(run.ExitStatus) + run.Complaint);
+  const bool isStopped = !run.EventsOf("stopped").empty();
+  if (run.ExitStatus != 0 && !isStopped)
+    problems.push_back("the exit status is " + std::to_string(run.ExitStatus) + run.Complaint);
   if (problems.empty()) return {};
   return JoinedLines(problems) + "of the example\n" + JoinedLines(example.Edited) + JoinedLines(example.Typed);
 }

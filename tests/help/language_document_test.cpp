@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/primitives.h"
+#include "word_tables.h"
 
 namespace zerimo::help {
 
@@ -17,11 +18,28 @@ namespace {
 
 constexpr const char* restOfTheLine = "\u2026";
 
+const std::filesystem::path document = std::filesystem::path(ZERIMO_SOURCE_DIR) / "docs" / "language.md";
+const std::filesystem::path helpFolder = std::filesystem::path(ZERIMO_SOURCE_DIR) / "help";
+
 /// A row of the tables of words.
 struct WordRow {
   std::string Other;
   std::vector<std::string> Inputs;
+  std::string Missing;
+  std::string Kind;
+  std::string Meaning;
 };
+
+/// The document as the tool makes it now.
+std::string MadeDocument() {
+  std::vector<Topic> topics;
+  for (const auto& entry : std::filesystem::directory_iterator(helpFolder)) {
+    if (entry.path().extension() == ".txt" && entry.path().filename() != "CMakeLists.txt")
+      topics.push_back(ReadTopic(entry.path().string()));
+  }
+  std::ifstream frame(helpFolder / "language.frame", std::ios::binary);
+  return LanguageReference(frame, topics);
+}
 
 std::string Cell(std::istringstream& row) {
   std::string cell;
@@ -30,19 +48,20 @@ std::string Cell(std::istringstream& row) {
   return first == std::string::npos ? std::string() : cell.substr(first, cell.find_last_not_of(' ') - first + 1);
 }
 
-/// A word between the marks of code, or nothing.
+/// A word between the marks of code at the start of a cell, or nothing.
 std::optional<std::string> CodeIn(const std::string& cell) {
-  const bool isCode = cell.size() > 2 && cell.front() == '`' && cell.back() == '`';
-  return isCode ? std::optional(cell.substr(1, cell.size() - 2)) : std::nullopt;
+  const std::size_t end = cell.find('`', 1);
+  const bool isCode = cell.starts_with('`') && end != std::string::npos;
+  return isCode ? std::optional(cell.substr(1, end - 1)) : std::nullopt;
 }
 
-/// The rows below a head that begins with "Word", up to the end of that table.
+/// The rows below a head that begins with "Word" and "Also", up to the end of that table.
 std::multimap<std::string, WordRow> RowsOfWords() {
-  std::ifstream document(std::filesystem::path(ZERIMO_SOURCE_DIR) / "docs" / "language.md");
+  std::ifstream lines(document);
   std::multimap<std::string, WordRow> rows;
   bool isTableOfWords = false;
-  for (std::string line; std::getline(document, line);) {
-    isTableOfWords = line.starts_with("| Word |") || (isTableOfWords && line.starts_with("|"));
+  for (std::string line; std::getline(lines, line);) {
+    isTableOfWords = line.starts_with("| Word | Also |") || (isTableOfWords && line.starts_with("|"));
     std::istringstream cells(line);
     Cell(cells);
     const std::optional<std::string> word = CodeIn(Cell(cells));
@@ -51,6 +70,9 @@ std::multimap<std::string, WordRow> RowsOfWords() {
     row.Other = CodeIn(Cell(cells)).value_or("");
     std::istringstream inputs(Cell(cells));
     row.Inputs.assign(std::istream_iterator<std::string>(inputs), {});
+    row.Missing = Cell(cells);
+    row.Kind = Cell(cells);
+    row.Meaning = Cell(cells);
     rows.emplace(*word, row);
   }
   return rows;
@@ -98,6 +120,13 @@ class LanguageDocument : public testing::Test {
 
 }  // namespace
 
+TEST(LanguageDocumentFile, IsWhatTheToolMakes) {
+  std::ifstream file(document, std::ios::binary);
+  const std::string text((std::istreambuf_iterator<char>(file)), {});
+  EXPECT_EQ(text, MadeDocument()) << "docs/language.md is older than the table of primitives, the help pages or "
+                                     "help/language.frame. Build the target language_document to make it anew.";
+}
+
 TEST_F(LanguageDocument, HasEveryWordOnce) { EXPECT_EQ(WordsOf(rows), WordsOfTheSystem()); }
 
 TEST_F(LanguageDocument, TellsTheInputsOfTheTable) {
@@ -113,11 +142,26 @@ TEST_F(LanguageDocument, TellsTheInputsOfTheTable) {
   }
 }
 
-TEST_F(LanguageDocument, MarksTheInputsThatMustNotBeMissing) {
+TEST_F(LanguageDocument, TellsTheBoxOfAMissingInput) {
+  const std::map<MissingInput, std::string> boxes = {{MissingInput::NoTest, ""},
+                                                     {MissingInput::Usual, "box: Abort, Retry, Ignore"},
+                                                     {MissingInput::Information, "box: OK, information sign"},
+                                                     {MissingInput::Plain, "box: OK"}};
   for (const auto& [word, row] : rows) {
-    const bool isMarked = !row.Inputs.empty() && row.Inputs.front().ends_with('*');
     const ActionFacts* const facts = FactsOfName(word);
-    EXPECT_EQ(isMarked, facts != nullptr && facts->Missing != MissingInput::NoTest) << word;
+    EXPECT_EQ(row.Missing, boxes.at(facts == nullptr ? MissingInput::NoTest : facts->Missing)) << word;
+  }
+}
+
+TEST_F(LanguageDocument, TellsTheKindOfEveryWord) {
+  for (const auto& [word, row] : rows) {
+    const ActionFacts* const facts = FactsOfName(word);
+    if (facts == nullptr) {
+      EXPECT_TRUE(row.Kind == "program" || row.Kind == "nothing") << word;
+    } else {
+      EXPECT_EQ(row.Kind, facts->Match == MatchedBy::WholeLine ? "alone" : "first word") << word;
+    }
+    EXPECT_NE(row.Meaning, "") << word;
   }
 }
 
