@@ -14,7 +14,9 @@ void Journal::Typed(int row, const std::string& text) {
 void Journal::Box(const std::string& text, int style, const std::string& title, Answer answer) {
   const char* const word = WordOf(answer);
   Write(JsonLine("box").Text("text", text).Number("style", style).Text("title", title).Text("answer", word));
-  Tell("[" + title + "] " + text + " (" + ButtonList(ButtonsOf(style)) + ") -> " + word);
+  std::string shown = text;
+  std::ranges::replace(shown, '\r', '\n');
+  Tell("[" + title + "] " + shown + " (" + ButtonList(ButtonsOf(style)) + ") -> " + word);
 }
 
 void Journal::Input(const std::string& prompt, const std::string& title, const std::string& defaultAnswer,
@@ -63,10 +65,7 @@ void Journal::Flush() {
 }
 
 void Journal::Tell(const std::string& text) {
-  if (people == nullptr) return;
-  std::string shown = ToUtf8(text);
-  std::ranges::replace(shown, '\r', '\n');
-  *people << shown << '\n';
+  if (people != nullptr) *people << ToUtf8(text) << '\n';
 }
 
 }  // namespace zerimo::batch

@@ -46,8 +46,8 @@ void AppendText(std::string& line, std::string_view latin1) {
   line += '"';
 }
 
-/// From here on a whole number has too many digits to be read; it prints with an exponent.
-constexpr double LongWholeNumber = 1e21;
+/// Room for all digits of the greatest double and its sign.
+constexpr std::size_t MostCharacters = 320;
 
 template <typename Float>
 void AppendNumber(std::string& line, Float value) {
@@ -56,8 +56,9 @@ void AppendNumber(std::string& line, Float value) {
     return;
   }
   if (value == 0) value = 0;  // no "-0"
-  const bool whole = std::trunc(value) == value && std::abs(static_cast<double>(value)) < LongWholeNumber;
-  char digits[64];
+  char digits[MostCharacters];
+  // A whole number has neither a point nor an exponent, however long it is.
+  const bool whole = std::trunc(value) == value;
   const std::to_chars_result end = whole
                                        ? std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed)
                                        : std::to_chars(digits, digits + sizeof digits, value);

@@ -20,6 +20,11 @@ TEST_F(JournalTest, ListLinesAreForPeopleAsTheyStand) {
   EXPECT_EQ(transcript.str(), "{\"event\":\"list\",\"control\":\"List4\",\"op\":\"add\",\"item\":\"?FD \xC3\xA4\"}\n");
 }
 
+TEST_F(JournalTest, ListLineKeepsACarriageReturn) {
+  journal.ListAdd("List4", "?A\rB");
+  EXPECT_EQ(people.str(), "?A\rB\n");
+}
+
 TEST_F(JournalTest, ClearedListIsForProgramsAlone) {
   journal.ListClear("List4");
   EXPECT_EQ(people.str(), "");

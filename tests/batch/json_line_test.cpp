@@ -34,12 +34,24 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(NumberCase{0, "0"}, NumberCase{-0.0, "0"}, NumberCase{7680, "7680"}, NumberCase{-5, "-5"},
                     NumberCase{100000, "100000"}, NumberCase{1e15, "1000000000000000"}, NumberCase{0.5, "0.5"},
                     NumberCase{-0.25, "-0.25"}, NumberCase{0.1, "0.1"}, NumberCase{1.0 / 3, "0.3333333333333333"},
-                    NumberCase{0.1 + 0.2, "0.30000000000000004"}, NumberCase{1e22, "1e+22"},
+                    NumberCase{0.1 + 0.2, "0.30000000000000004"}, NumberCase{1e22, "10000000000000000000000"},
                     NumberCase{1.5e-7, "1.5e-07"}, NumberCase{std::numeric_limits<double>::infinity(), "null"}));
 
 TEST(JsonLine, SingleIsTheShortestTextThatReadsBackToTheSingle) {
   EXPECT_EQ(JsonLine("e").Single("x", 0.1F).Single("y", 7427.5127F).Single("z", 5760.F).Finished(),
             R"({"event":"e","x":0.1,"y":7427.5127,"z":5760})");
+}
+
+TEST(JsonLine, WholeNumberOfAnyLengthHasNeitherPointNorExponent) {
+  EXPECT_EQ(JsonLine("e").Number("n", 1.5e25).Single("s", -0x1.8p80F).Finished(),
+            R"({"event":"e","n":15000000000000000285212672,"s":-1813388729421943762059264})");
+}
+
+TEST(JsonLine, GreatestNumberHasAllItsDigits) {
+  const std::string line = JsonLine("e").Number("n", -std::numeric_limits<double>::max()).Finished();
+  EXPECT_TRUE(line.starts_with(R"({"event":"e","n":-17976931348623157081)")) << line;
+  EXPECT_EQ(line.find_first_not_of("0123456789", std::string(R"({"event":"e","n":-)").size()), line.size() - 1);
+  EXPECT_EQ(line.size(), std::string(R"({"event":"e","n":-})").size() + 309);
 }
 
 TEST(JsonLine, NumbersDoNotFollowTheLocale) {
