@@ -77,6 +77,27 @@ TEST_F(Form1EventsTest, SlideTickWithoutASlideEndsTheShow) {
   EXPECT_FALSE(Controls.Timer3.Enabled);
 }
 
+TEST_F(Form1EventsTest, NeitherHideNorClearingTheScreenStopsASlideShow) {
+  Type("SLIDESHOW TRIP 1000");
+  Type("HIDE");
+  Type("CS");
+  EXPECT_TRUE(Controls.Timer3.Enabled);
+  EXPECT_EQ(Controls.Timer3.Interval, 1000);
+}
+
+TEST_F(Form1EventsTest, HelpStaysOpenInItsPlaceWhileTheScreenModesChange) {
+  const TempFolder folder;
+  folder.Write("ZMHELP/HELP", "welcome");
+  for (const char* line : {"HELP", "FS", "TS", "SS"}) {
+    Type(line);
+    EXPECT_TRUE(Controls.File1.Visible() && Controls.RichTextBox1.Visible()) << line;
+    EXPECT_EQ(Controls.RichTextBox1.Height(), 9585) << line;
+    EXPECT_EQ(Controls.File1.Height(), 9585 + 150) << line;
+  }
+  Press(Controls.Text1[0], key::Esc);
+  EXPECT_FALSE(Controls.File1.Visible() || Controls.RichTextBox1.Visible());
+}
+
 TEST_F(Form1EventsTest, TypingInTheEditorChangesNothingElse) {
   Controls.Text2.Text = "3";
   System.Change(Controls.Text2);

@@ -230,6 +230,52 @@ TEST_F(KeysTest, F9WithAnEmptyAnswerDoesNothing) {
   EXPECT_EQ(System.Files.CurrentFileName, "");
 }
 
+TEST_F(KeysTest, ATypedFileNameArrivesInCapitalsAndAnAnsweredOneAsItStands) {
+  Type("load nosuch");
+  EXPECT_EQ(System.Files.CurrentFileName, "NOSUCH");
+  Desktop.InputAnswers = {"no such file"};
+  Press(Controls.Text1[0], key::F9);
+  EXPECT_EQ(System.Files.CurrentFileName, "no such file");
+  Desktop.OpenAnswers = {"C:\\x\\no such file.zrm"};
+  Type("SHOW OPEN");
+  EXPECT_EQ(System.Files.CurrentFileName, "C:\\x\\no such file");
+}
+
+TEST_F(KeysTest, F3AndF4InTheEditorLeaveTheStoreAndTheText) {
+  for (const int leaving : {key::F3, key::F4}) {
+    Fill({"FD 10", "BK 10"});
+    Press(Controls.Text1[0], key::F1);
+    Controls.Text2.Text = "to new\r\n\r\nend";
+    Press(Controls.Text2, leaving);
+    EXPECT_FALSE(Controls.Text2.Visible());
+    EXPECT_EQ(System.Store.Line(1), "FD 10");
+    EXPECT_EQ(System.Store.Line(2), "BK 10");
+    EXPECT_EQ(System.Store.Line(3), "");
+    Type("EDIT");
+    EXPECT_TRUE(Controls.Text2.Visible());
+    EXPECT_EQ(Controls.Text2.Text, "to new\r\n\r\nend");
+  }
+}
+
+TEST_F(KeysTest, F2OnTheSurfaceAndOnTheFormLeavesTheEditorWithoutAFold) {
+  for (Control* control : {static_cast<Control*>(&System.Picture1), static_cast<Control*>(&Controls.Form1)}) {
+    Type("EDIT");
+    Controls.Text2.Text = "to a\r\nend";
+    Press(*control, key::F2);
+    EXPECT_FALSE(Controls.Text2.Visible()) << control->Name();
+    EXPECT_EQ(Controls.Text2.Text, "to a\r\nend");
+    EXPECT_EQ(System.Store.Line(1), "");
+  }
+}
+
+TEST_F(KeysTest, AFailureOfTheFoldOrTheSaveIsNotCaught) {
+  Controls.Text2.Text = std::string(32767, 'a');
+  EXPECT_THROW(Press(Controls.Text2, key::F2), Failure);
+  Controls.Text2.Text = "fd 10";
+  Desktop.InputAnswers = {"no\\such\\folder\\a"};
+  EXPECT_THROW(Press(Controls.Text2, key::F10), Failure);
+}
+
 TEST_F(KeysTest, F5ToF8AndF12DoNothing) {
   for (int code : {116, 117, 118, 119, 123}) {
     for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4),

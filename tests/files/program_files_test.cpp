@@ -225,6 +225,15 @@ TEST_F(ProgramFilesTest, ALineOfBlanksIsListedAndTheListingGoesOn) {
   EXPECT_EQ(Listed(Controls.List1), (Texts{" 1  FD 1", " 2  ", " 3  FD 3"}));
 }
 
+TEST_F(ProgramFilesTest, WhatStandsBehindALineOfBlanksCanNotBeReached) {
+  Disk.Write("app/A.ZRM", "TO A\r\nEND\r\n   \r\nTO B\r\nEND\r\n");
+  Primitives.Execute("LOAD A");
+  EXPECT_EQ(Store.WhereProcedure("A"), 1);
+  EXPECT_EQ(Store.WhereProcedure("B"), 0);
+  EXPECT_EQ(Listed(Controls.List3), (Texts{"TO A"}));
+  EXPECT_EQ(Store.ProcedureListInStringForm(), "[A]   ");
+}
+
 TEST_F(ProgramFilesTest, A1999LineProgramLoads) {
   Disk.Write("app/A.ZRM", Statements(1999));
   Primitives.Execute("LOAD A");

@@ -118,6 +118,15 @@ TEST_F(SavingTest, F10SavesInTheCurrentFolder) {
   EXPECT_EQ(Disk.Read("app/PROG.ZRM"), "fd 10");
 }
 
+TEST_F(SavingTest, BehindTheOpenDialogF10OffersTheWholePath) {
+  Disk.Write("x/Box.zrm", "fd 10");
+  Desktop.OpenAnswers = {"..\\x\\Box.zrm"};
+  Files.ShowOpen();
+  Save.SaveFromEditor();
+  ASSERT_EQ(Desktop.Inputs.size(), 1U);
+  EXPECT_EQ(Desktop.Inputs[0].Default, "..\\x\\Box");
+}
+
 TEST_F(SavingTest, F10AlwaysAppendsTheEnding) {
   Desktop.InputAnswers = {"A.ZRM"};
   Save.SaveFromEditor();
