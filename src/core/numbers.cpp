@@ -142,8 +142,11 @@ double RoundHalfEven(double number) {
 }
 
 double RoundToDecimals(double number, int decimals) {
+  // From here on a 64-bit float has no decimals.
+  constexpr double wholeFrom = 9007199254740992;
+  if (std::abs(Finite(number)) >= wholeFrom) return number;
   const double factor = decimals == 0 ? 1 : decimals == 1 ? 10 : 100;
-  return RoundHalfEven(Finite(number * factor)) / factor;
+  return RoundHalfEven(number * factor) / factor;
 }
 
 namespace {

@@ -23,7 +23,8 @@ std::string StrTrimmed(double number);
 /// To the nearest whole number, a half going to the even neighbour. Not-a-number fails (overflow).
 double RoundHalfEven(double number);
 
-/// The number times 10 to the power of `decimals` (0 to 2), rounded half to even, and divided again.
+/// The number times 10 to the power of `decimals` (0 to 2), rounded half to even, and divided again; a number too large
+/// to have decimals is left as it is. Fails (overflow) unless the number is finite.
 double RoundToDecimals(double number, int decimals);
 
 /// Rounded half to even; fails (overflow) outside -32768 to 32767.

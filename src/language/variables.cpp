@@ -215,12 +215,9 @@ std::vector<std::string> Variables::LocalsOfProcedure() const {
   PassOver([&] { name = path.CurrentProcedureName(); });
   const std::string key = name + ".";
   std::vector<std::string> locals;
-  int number = 1;
-  while (locals.size() < MostLocals && SlotGoesOn(number)) {
-    PassOver([&] {
-      if (SlotContains('#', Slot(number), key)) locals.push_back(Slot(number));
-    });
-    ++number;
+  // What does not fit is passed over, and the walk goes on: without a free slot it never ends.
+  for (int number = 1; SlotGoesOn(number); ++number) {
+    if (locals.size() < MostLocals && SlotContains('#', Slot(number), key)) locals.push_back(Slot(number));
   }
   return locals;
 }

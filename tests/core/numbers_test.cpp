@@ -90,6 +90,12 @@ TEST(Rounding, ToDecimalsRoundsTheScaledNumber) {
   EXPECT_EQ(RoundToDecimals(3.14159, 2), 3.14);
 }
 
+TEST(Rounding, ANumberTooLargeForDecimalsStays) {
+  EXPECT_EQ(RoundToDecimals(1E308, 2), 1E308);
+  EXPECT_EQ(RoundToDecimals(-1.5E300, 1), -1.5E300);
+  EXPECT_THROW(RoundToDecimals(std::numeric_limits<double>::infinity(), 2), Failure);
+}
+
 TEST(Conversions, FailOutOfRange) {
   EXPECT_EQ(ToInt16(32767.4), 32767);
   EXPECT_THROW(ToInt16(32767.5), Failure);

@@ -121,12 +121,12 @@ TEST_F(CreateLocalVariableTest, FailsWithNoFreeSlot) {
   EXPECT_EQ(Path.CurProcName, "");
 }
 
-TEST_F(CreateLocalVariableTest, WhatWasWrittenBeforeTheTableIsFullStays) {
-  FillAllSlots("BOX.:N=1");
-  Names.SetSlot(500, " ");
-  Path.SetCtrlStr(".BOX- 2");
-  EXPECT_EQ(FailureOfCall("TWO 1 2"), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(500), "TWO.:A=1");
+TEST_F(CreateLocalVariableTest, AnInputThatFillsTheTableStays) {
+  FillAllSlots("X=1");
+  Names.SetSlot(500, "");
+  EXPECT_EQ(FailureOfCall("BOX 5"), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(Names.Slot(500), "BOX.:N=5");
+  EXPECT_EQ(Path.CurProcName, "");
 }
 
 TEST_F(CreateLocalVariableTest, ARecursiveCallsEntriesPileUpInSlotOrder) {

@@ -126,9 +126,15 @@ TEST_F(GlobalVariableReplacerTest, ChangesTheCallersText) {
   EXPECT_EQ(expression, "2*5");
 }
 
-TEST_F(GlobalVariableReplacerTest, AValueThatCantBeRoundedKeepsTheOneBefore) {
-  Slots({"A=5", "B=1E+308"});
+TEST_F(GlobalVariableReplacerTest, AValueThatIsNoNumberOf64BitsKeepsTheOneBefore) {
+  Slots({"A=5", "B=1E+309"});
   EXPECT_EQ(Globally("A+B"), "5+5");
+}
+
+TEST_F(GlobalVariableReplacerTest, TheLargestValuesInExponentFormNeverLeaveEither) {
+  Slots({"A=5", "B=1E+308"});
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Globally("A+B"), Stopped);
 }
 
 TEST_F(GlobalVariableReplacerTest, FindsANameAlsoInAFullTable) {

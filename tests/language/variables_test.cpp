@@ -196,10 +196,14 @@ TEST_F(VariablesTest, TwentyEntriesAreKept) {
   EXPECT_TRUE(replaced.ends_with("+20+:N+:N"));
 }
 
-TEST_F(VariablesTest, TwentyEntriesEndTheWalkAlsoWithoutAFreeSlot) {
-  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "R.:N=1");
+TEST_F(VariablesTest, TwentyEntriesDoNotEndTheWalkOverTheSlots) {
+  for (int number = 1; number <= 499; ++number) Names.SetSlot(number, "R.:N=1");
   Path.SetCtrlStr(".R- 2");
   EXPECT_EQ(Locals(":N"), "1");
+  // Now no slot is free.
+  Names.SetSlot(500, "R.:N=1");
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Locals(":N"), Stopped);
 }
 
 TEST_F(VariablesTest, CoordinatesAreReplacedWithOneDecimal) {
@@ -284,10 +288,11 @@ TEST_F(VariablesTest, MakeInAFullTableNeverReturns) {
   EXPECT_THROW(Names.VariableUpdate(2), Stopped);
 }
 
-TEST_F(VariablesTest, MakeInATableFullOfLocalsIsDropped) {
+TEST_F(VariablesTest, MakeInATableFullOfLocalsNeverReturnsEither) {
   for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "A.:N=1");
   Path.SetCtrlStr(".A- 2");
-  Make("MAKE B 7");
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Make("MAKE B 7"), Stopped);
   EXPECT_EQ(Names.Slot(500), "A.:N=1");
 }
 
