@@ -140,17 +140,56 @@ TEST_F(DiagnosisTest, LineWidthBoxFailsBeyondItsRange) {
   EXPECT_THROW(Change(Controls.Text4, ".4"), Failure);
 }
 
-TEST_F(DiagnosisTest, CheckBoxTurnsTheAxesAndIsIndependentOfGrid) {
+TEST_F(DiagnosisTest, RefreshLeavesTheProgramAndItsLists) {
+  Fill({"TO A", "FD 1", "END"});
+  Type("MAKE \"N 5");
+  const Texts lines = Controls.List1.Items();
+  const Texts procedures = Controls.List3.Items();
+  ASSERT_EQ(lines.size(), 3U);
+  System.Click(Controls.Command2);
+  EXPECT_EQ(Controls.List1.Items(), lines);
+  EXPECT_EQ(Controls.List3.Items(), procedures);
+  EXPECT_EQ(System.Store.Line(3), "END");
+  EXPECT_EQ(System.Names.Slot(1), " ");
+}
+
+TEST_F(DiagnosisTest, RefreshOfANewSystemGivesFiveHundredBlanks) {
+  ASSERT_TRUE(Controls.List2.Items().empty());
+  System.Click(Controls.Command2);
+  EXPECT_EQ(Controls.List2.Items(), Texts(500, " "));
+}
+
+TEST_F(DiagnosisTest, PanelClosesByHideAndByEscToo) {
+  Type("SHOW DIAGNOSIS");
+  Type("HIDE");
+  EXPECT_FALSE(Controls.Frame1.Visible());
+  Type("SHOW DIA");
+  ASSERT_TRUE(Controls.Frame1.Visible());
+  Press(Controls.Text1[0], key::Esc);
+  EXPECT_FALSE(Controls.Frame1.Visible());
+}
+
+TEST_F(DiagnosisTest, TwoClicksOnTheCheckBoxLeaveTheAxesHidden) {
   System.Click(Controls.Check1);
   EXPECT_TRUE(Controls.Line5.Visible());
+  EXPECT_TRUE(Controls.Line6.Visible());
   EXPECT_EQ(Controls.Check1.Value, 1);
   System.Click(Controls.Check1);
+  EXPECT_FALSE(Controls.Line5.Visible());
   EXPECT_FALSE(Controls.Line6.Visible());
+  EXPECT_EQ(Controls.Check1.Value, 0);
+}
+
+TEST_F(DiagnosisTest, AfterShowGridTheFirstClickLeavesTheAxesAndTheSecondTakesThem) {
   Type("SHOW GRID");
   System.Click(Controls.Check1);
+  EXPECT_TRUE(System.Mouse.CoordinatesOn);
   EXPECT_TRUE(Controls.Line5.Visible());
+  EXPECT_TRUE(Controls.Line6.Visible());
   System.Click(Controls.Check1);
+  EXPECT_FALSE(System.Mouse.CoordinatesOn);
   EXPECT_FALSE(Controls.Line5.Visible());
+  EXPECT_FALSE(Controls.Line6.Visible());
 }
 
 }  // namespace

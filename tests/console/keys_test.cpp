@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "files/temp_folder.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -26,6 +27,72 @@ TEST_F(KeysTest, ALineIsTidiedKeptAndRun) {
   EXPECT_EQ(System.Turtle.TurtleY, 5760 - 500);
   EXPECT_EQ(Focus(), "Text1(1)");
   EXPECT_EQ(Controls.Text1[0].Text, "fd   10");
+}
+
+TEST_F(KeysTest, UpFromRow0GoesToRow4) {
+  Press(Controls.Text1[0], key::Up);
+  EXPECT_EQ(Focus(), "Text1(4)");
+}
+
+TEST_F(KeysTest, DownFromRow4GoesToRow0) {
+  Controls.Focus.SetFocus(Controls.Text1[4]);
+  Press(Controls.Text1[4], key::Down);
+  EXPECT_EQ(Focus(), "Text1(0)");
+}
+
+TEST_F(KeysTest, AnEmptyLineStillGoesThroughTheExecutor) {
+  Fill({"TO A", "END"});
+  Press(Controls.Text1[0], key::F3);
+  ASSERT_TRUE(Controls.List3.Items().empty());
+  const Texts history = Controls.List4.Items();
+  Type("", 2);
+  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO A"}));
+  EXPECT_EQ(Controls.List4.Items(), history);
+  EXPECT_EQ(System.Lines.LastTypedLine, "");
+}
+
+TEST_F(KeysTest, TheNextRowKeepsItsTextAndCanBeSteppedThrough) {
+  Controls.Text1[0].Text = "FD 1";
+  Controls.Text1[1].Text = "FD 2";
+  Press(Controls.Text1[0], key::Enter);
+  ASSERT_EQ(Focus(), "Text1(1)");
+  Press(Controls.Text1[1], key::Enter);
+  EXPECT_EQ(Controls.Text1[0].Text, "FD 1");
+  EXPECT_EQ(Controls.Text1[1].Text, "FD 2");
+  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 150);
+}
+
+TEST_F(KeysTest, AnOverflowInARunningLineLosesNothingButTheLine) {
+  Type("SETPC 70000", 0);
+  EXPECT_EQ(Focus(), "Text1(1)");
+  Type("FD 1", 1);
+  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 50);
+}
+
+TEST_F(KeysTest, TheNameForF9IsTakenAsItIsTyped) {
+  const TempFolder folder;
+  folder.Write("Small Box.ZRM", "TO BOX\r\nEND\r\n");
+  Desktop.InputAnswers.push_back("Small Box");
+  Press(Controls.Text1[0], key::F9);
+  EXPECT_EQ(System.Files.CurrentFileName, "Small Box");
+  EXPECT_EQ(System.Store.Line(1), "TO BOX");
+  EXPECT_TRUE(Controls.List4.Items().empty());
+}
+
+TEST_F(KeysTest, AClickOnTheSurfaceWithFullRowsGoesToRow4AndThenToRow0) {
+  for (int row = 0; row < 5; ++row) Controls.Text1[row].Text = "X";
+  System.Click(System.Picture1);
+  EXPECT_EQ(Focus(), "Text1(4)");
+  System.Tick(Controls.Timer2);
+  EXPECT_EQ(Focus(), "Text1(0)");
+}
+
+TEST_F(KeysTest, F2OnTheSurfaceFoldsNoText) {
+  Controls.Text2.Text = "to a\r\nend";
+  Controls.Text2.Show();
+  Press(System.Picture1, key::F2);
+  EXPECT_EQ(Controls.Text2.Text, "to a\r\nend");
+  EXPECT_EQ(System.Store.Line(1), "");
 }
 
 struct EnteredLine {

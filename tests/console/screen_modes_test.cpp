@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "files/temp_folder.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -131,6 +132,25 @@ TEST_F(ScreenModesTest, TheNextTypedLineListsTheProceduresAgain) {
   EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX :S"}));
 }
 
+TEST_F(ScreenModesTest, AFoldListsTheProceduresAgain) {
+  Controls.Text2.Text = "TO BOX :S\r\nEND";
+  Press(Controls.Text2, key::F2);
+  Press(Controls.Text1[0], key::F3);
+  EXPECT_TRUE(Controls.List3.Items().empty());
+  Press(Controls.Text2, key::F2);
+  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX :S"}));
+}
+
+TEST_F(ScreenModesTest, ALoadListsTheProceduresAgain) {
+  const TempFolder folder;
+  folder.Write("STAR.ZRM", "TO STAR\r\nEND\r\n");
+  Fill({"TO BOX", "END"});
+  Execute("TS");
+  EXPECT_TRUE(Controls.List3.Items().empty());
+  Execute("LOAD STAR");
+  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX", "TO STAR"}));
+}
+
 TEST_F(ScreenModesTest, TextScreenTypedInALineListsNoTemporaryProcedure) {
   Fill({"TO BOX", "END"});
   Type("TS");
@@ -144,6 +164,15 @@ TEST_F(ScreenModesTest, ClearTextEmptiesHistoryAndRowsAndCallsTheOneShot) {
   EXPECT_TRUE(Controls.List4.Items().empty());
   for (int row = 0; row < 5; ++row) EXPECT_EQ(Controls.Text1[row].Text, "");
   EXPECT_TRUE(Controls.Timer2.Enabled);
+}
+
+TEST_F(ScreenModesTest, GridGivenTwiceChangesNothing) {
+  for (int time = 0; time < 2; ++time) {
+    Execute("SHOW GRID");
+    EXPECT_TRUE(Controls.Line5.Visible());
+    EXPECT_TRUE(Controls.Line6.Visible());
+    EXPECT_FALSE(System.Mouse.CoordinatesOn);
+  }
 }
 
 TEST_F(ScreenModesTest, HideEndsPanelsClockDetailsAndAxes) {
@@ -197,12 +226,84 @@ TEST_F(ScreenModesTest, ShowTakesItsWordInSmallLetters) {
   EXPECT_FALSE(Controls.Picture2.Visible());
 }
 
-TEST_F(ScreenModesTest, ShowOfAnUnknownWordDoesNothing) {
-  Execute("SHOW XYZ");
-  Execute("SHOW");
+TEST_F(ScreenModesTest, ShowOfAnUnknownWordOrOfNoneDoesNothing) {
+  const auto before = EveryProperty();
+  for (const char* line : {"SHOW XYZ", "SHOW", "SHOW DI", "SHOW DIA NOW", "SHOW PALETTE", "SHOW \"DIA\""})
+    Execute(line);
+  EXPECT_EQ(EveryProperty(), before);
   EXPECT_TRUE(Desktop.Boxes.empty());
   EXPECT_TRUE(Desktop.Dialogs.empty());
-  EXPECT_FALSE(Controls.Frame1.Visible());
+  EXPECT_FALSE(System.Primitives.DetailsOn);
+}
+
+TEST_F(ScreenModesTest, HideEndsTheClockThatShowTimeStarted) {
+  Type("SHOW TIME");
+  EXPECT_TRUE(Controls.Timer4.Enabled);
+  System.Tick(Controls.Timer4);
+  ASSERT_EQ(Controls.Form1.Caption(), "Zerimo [ Time:12:34 ]");
+  Type("HIDE");
+  EXPECT_FALSE(Controls.Timer4.Enabled);
+  EXPECT_EQ(Controls.Form1.Caption(), "Zerimo");
+}
+
+TEST_F(ScreenModesTest, ShowGridLeavesTheCheckMark) {
+  Execute("SHOW GRID");
+  EXPECT_TRUE(Controls.Line5.Visible());
+  EXPECT_TRUE(Controls.Line6.Visible());
+  EXPECT_EQ(Controls.Check1.Value, 0);
+  EXPECT_FALSE(System.Mouse.CoordinatesOn);
+}
+
+TEST_F(ScreenModesTest, HideLeavesTheCheckMarkAndItsFlag) {
+  System.Click(Controls.Check1);
+  Execute("HIDE");
+  EXPECT_FALSE(Controls.Line5.Visible());
+  EXPECT_EQ(Controls.Check1.Value, 1);
+  EXPECT_TRUE(System.Mouse.CoordinatesOn);
+}
+
+TEST_F(ScreenModesTest, HideLeavesTheTextScreenTheEditorAndTheRows) {
+  Execute("TS");
+  Execute("HIDE");
+  EXPECT_TRUE(Controls.List4.Visible());
+  EXPECT_TRUE(Controls.Picture3.Visible());
+  Execute("EDIT");
+  Execute("HIDE");
+  EXPECT_TRUE(Controls.Text2.Visible());
+}
+
+TEST_F(ScreenModesTest, AModeRepeatedSetsTheSameAgain) {
+  for (const char* line : {"FS", "SS", "EDIT", "HIDE"}) {
+    Execute(line);
+    const auto once = EveryProperty();
+    Execute(line);
+    EXPECT_EQ(EveryProperty(), once) << line;
+  }
+}
+
+TEST_F(ScreenModesTest, LongNamesWorkOnlyWhereTheyAreNotTyped) {
+  const auto before = System.Picture1.Height();
+  Type("FULLSCREEN");
+  EXPECT_EQ(System.Picture1.Height(), before);
+  Execute("FULLSCREEN");
+  EXPECT_EQ(System.Picture1.Height(), Full);
+  Type("FD 1");
+  Execute("CLEARTEXT");
+  EXPECT_TRUE(Controls.List4.Items().empty());
+}
+
+TEST_F(ScreenModesTest, ModesTakeNoSmallLettersAndNoInputs) {
+  const auto before = EveryProperty();
+  for (const char* line : {"fs", "Fs", "FS 1", "ts", "CT 1", "SS X"}) Execute(line);
+  EXPECT_EQ(EveryProperty(), before);
+}
+
+TEST_F(ScreenModesTest, ModesWorkInAProcedure) {
+  Fill({"TO A", "FS", "TS", "END"});
+  Type("A");
+  EXPECT_FALSE(Controls.Picture3.Visible());
+  EXPECT_TRUE(Controls.List4.Visible());
+  EXPECT_EQ(System.Picture1.Height(), Split);
 }
 
 TEST_F(ScreenModesTest, ShowDetailsStopsTheClock) {

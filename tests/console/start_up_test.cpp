@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -117,6 +119,13 @@ TEST_F(StartUp, StateHasItsStartValues) {
   EXPECT_EQ(System.Store.Line(1), "");
 }
 
+TEST_F(StartUp, TurtleReadsZeroInTheMiddleOfTheScreenWhichLiesBelowThatOfTheSurface) {
+  Type("XCOR");
+  Type("YCOR");
+  EXPECT_EQ(Desktop.BoxTexts(), std::vector<std::string>({" 0", " 0"}));
+  EXPECT_EQ(System.Turtle.TurtleY - System.Picture1.Height() / 2, Controls.Picture3.Height() / 2);
+}
+
 TEST_F(StartUp, SurfaceHasItsStartValues) {
   EXPECT_EQ(System.Picture1.BackColor(), 8388736);
   EXPECT_EQ(System.Picture1.ForeColor(), 0xFFFFFF);
@@ -189,18 +198,23 @@ TEST_F(StartUp, EveryControlIsFoundByItsName) {
   EXPECT_EQ(System.FindTimer("Timer1"), nullptr);
 }
 
-TEST_F(StartUp, WindowGoesBackToItsCorner) {
-  Controls.Form1.Left = 300;
-  Controls.Form1.Top = 200;
+TEST_F(StartUp, WindowGoesBackToItsCornerWhereverTheUserTouchesIt) {
+  const std::function<void()> touches[] = {[this] { System.Click(Controls.Image1); },
+                                           [this] { System.Click(System.Picture1); }, [this] { System.DragOver(); }};
+  for (const auto& touch : touches) {
+    Controls.Form1.Left = 300;
+    Controls.Form1.Top = 200;
+    touch();
+    EXPECT_EQ(Controls.Form1.Left, 0);
+    EXPECT_EQ(Controls.Form1.Top, 0);
+  }
+}
+
+TEST_F(StartUp, ClickOnTheTitlePictureMovesNoFocus) {
+  Controls.Focus.SetFocus(Controls.Text1[3]);
   System.Click(Controls.Image1);
-  EXPECT_EQ(Controls.Form1.Left, 0);
-  EXPECT_EQ(Controls.Form1.Top, 0);
-  Controls.Form1.Left = 300;
-  System.DragOver();
-  EXPECT_EQ(Controls.Form1.Left, 0);
-  Controls.Form1.Top = 300;
-  System.Click(System.Picture1);
-  EXPECT_EQ(Controls.Form1.Top, 0);
+  EXPECT_EQ(Focus(), "Text1(3)");
+  EXPECT_FALSE(Controls.Timer2.Enabled);
 }
 
 TEST_F(StartUp, PaletteButtonsRollAndClose) {
@@ -215,13 +229,34 @@ TEST_F(StartUp, PaletteButtonsRollAndClose) {
   EXPECT_FALSE(Controls.Picture2.Visible());
 }
 
-TEST_F(StartUp, DrawLeavesTheCaptionsAndCsTakesAll) {
+TEST_F(StartUp, DrawTakesTheTitlePictureAndLeavesTheFourCaptions) {
   Type("DRAW");
   EXPECT_FALSE(Controls.Image1.Visible());
-  EXPECT_TRUE(Controls.Label20[0].Visible());
-  Type("CS");
-  Type("CS");
-  for (int index = 0; index < 4; ++index) EXPECT_FALSE(Controls.Label20[index].Visible());
+  for (int index = 0; index < 4; ++index) EXPECT_TRUE(Controls.Label20[index].Visible()) << index;
+}
+
+TEST_F(StartUp, CsAndClearscreenTakeTheTitlePictureAndTheCaptions) {
+  for (const char* line : {"CS", "CLEARSCREEN"}) {
+    WholeSystem fresh;
+    fresh.Type(line);
+    EXPECT_FALSE(fresh.Controls.Image1.Visible()) << line;
+    for (int index = 0; index < 4; ++index) EXPECT_FALSE(fresh.Controls.Label20[index].Visible()) << line << index;
+  }
+}
+
+TEST_F(StartUp, CsTwiceHasTheEffectOfOnce) {
+  System.Primitives.Execute("CS");
+  const auto once = EveryProperty();
+  System.Primitives.Execute("CS");
+  EXPECT_EQ(EveryProperty(), once);
+}
+
+TEST_F(StartUp, NothingElseTakesTheTitle) {
+  for (const char* line : {"FD 10", "CLEAN", "HOME", "SETBG 3", "SHOW GRID", "HIDE", "FS", "SS", "TS", "CT", "EDIT"}) {
+    System.Primitives.Execute(line);
+    EXPECT_TRUE(Controls.Image1.Visible()) << line;
+    EXPECT_TRUE(Controls.Label20[3].Visible()) << line;
+  }
 }
 
 TEST_F(StartUp, ByeAnsweredNoLeavesEverything) {
@@ -234,6 +269,16 @@ TEST_F(StartUp, ByeAnsweredNoLeavesEverything) {
   EXPECT_EQ(System.Turtle.PenState, 2);
   EXPECT_EQ(System.Turtle.TurtleY, 5760 - 500);
   EXPECT_TRUE(Controls.Image1.Visible());
+}
+
+TEST_F(StartUp, ByeAnsweredNoChangesNoControl) {
+  Type("SHOW DIA");
+  Type("TS");
+  const auto before = EveryProperty();
+  Desktop.BoxAnswers.push_back(Answer::No);
+  System.Primitives.Execute("BYE");
+  EXPECT_EQ(Desktop.Boxes.size(), 1U);
+  EXPECT_EQ(EveryProperty(), before);
 }
 
 TEST_F(StartUp, LeavingIsAskedByByeAndNotByQuit) {

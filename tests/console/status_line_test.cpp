@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "support/whole_system.h"
 
@@ -38,6 +39,73 @@ TEST_F(StatusLineTest, DetailsFollowEveryPrimitive) {
   EXPECT_TRUE(Shows("[RT-Direction:  90]"));
   Type("RT 360");
   EXPECT_TRUE(Shows("[RT-Direction:  450]"));
+}
+
+TEST_F(StatusLineTest, LeftOfTheCentreHasNoBlankBehindTheColon) {
+  Type("SETX 0-2");
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[Xpos:-2]")) << Caption();
+}
+
+TEST_F(StatusLineTest, BelowTheCentreHasNoBlankBehindTheColon) {
+  Type("SETY 0-7");
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[Ypos:-7]")) << Caption();
+}
+
+TEST_F(StatusLineTest, ARoundedNothingHasNoSign) {
+  System.Turtle.TurtleX = 7680 - .3;
+  System.Turtle.TurtleY = 5760 + .5;
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[Xpos: 0]  [Ypos: 0]")) << Caption();
+}
+
+TEST_F(StatusLineTest, PenStateTwoIsUp) {
+  System.Turtle.PenState = 2;
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[Pen State:Pen Up]")) << Caption();
+}
+
+TEST_F(StatusLineTest, BackgroundHasNoNameUntilACodeIsSet) {
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[BG Color: ]")) << Caption();
+  Type("SETBG 14");
+  EXPECT_TRUE(Shows("[BG Color: Yellow]")) << Caption();
+}
+
+TEST_F(StatusLineTest, ARightAngleShowsNinety) {
+  Type("RT 90");
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[RT-Direction:  90]")) << Caption();
+}
+
+TEST_F(StatusLineTest, ATurnToTheLeftIsNegative) {
+  Type("LT 90");
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[RT-Direction: -90]")) << Caption();
+}
+
+TEST_F(StatusLineTest, RepeatedTurnsAreNotReduced) {
+  Type("REPEAT 5 [RT 90]");
+  Type("SHOW DETAILS");
+  EXPECT_TRUE(Shows("[RT-Direction:  450]")) << Caption();
+}
+
+TEST_F(StatusLineTest, DetailsComeOnceForEachPrimitive) {
+  std::vector<std::string> captions;
+  Controls.Form1.OnCaption = [&captions](const std::string& text) { captions.push_back(text); };
+  Type("SHOW DETAILS");
+  EXPECT_EQ(captions.size(), 1U);
+  Type("REPEAT 3 [RT 1 PU]");
+  EXPECT_EQ(captions.size(), 7U);
+}
+
+TEST_F(StatusLineTest, DetailsStopTheClockAndKeepItsLastTextOnlyUntilTheyWrite) {
+  Type("SHOW TIME");
+  System.Tick(Controls.Timer4);
+  Type("SHOW DETAILS");
+  EXPECT_FALSE(Controls.Timer4.Enabled);
+  EXPECT_TRUE(Shows("[Xpos: 0]")) << Caption();
 }
 
 TEST_F(StatusLineTest, PositionIsRoundedInSurfaceUnitsAndShowsDecimals) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,20 @@ struct WholeSystem {
   std::string Focus() const {
     const Control* focus = Controls.Focus.Focus();
     return focus == nullptr ? std::string() : focus->Name();
+  }
+
+  /// Every property of every control and timer, by the name of both: "List4.Visible".
+  std::map<std::string, PropertyValue> EveryProperty() {
+    std::map<std::string, PropertyValue> all;
+    const auto read = [&all](const std::string& owner) {
+      return [&all, owner](const char* name, const PropertyValue& value) { all[owner + "." + name] = value; };
+    };
+    Controls.ForEach([&](const Control& control) { control.ReadProperties(read(control.Name())); });
+    System.Picture1.ReadProperties(read(System.Picture1.Name()));
+    for (const Timer* timer : {&Controls.Timer2, &Controls.Timer3, &Controls.Timer4}) {
+      timer->ReadProperties(read(timer->Name()));
+    }
+    return all;
   }
 
   /// Writes a program into the store from line 1 on.
