@@ -33,6 +33,12 @@ TEST_F(IfprocessorTest, TheConditionIsAllTextBehindTheFirstBlank) {
   EXPECT_EQ(NextBehindIf(2), 4);
 }
 
+TEST_F(IfprocessorTest, AFalseIfWithoutElseGoesOnBehindItsEndif) {
+  Fill({"TO P", "IF 1>2", "FD 1", "ENDIF", "FD 2", "END"});
+  Type("P");
+  EXPECT_EQ(Calls, (Texts{"FD 2"}));
+}
+
 TEST_F(IfprocessorTest, AnArithmeticConditionIsTrueUnless0) {
   Fill({"TO P", "IF 3-3", "FD 1", "ENDIF", "END"});
   EXPECT_EQ(NextBehindIf(2), 4);

@@ -132,6 +132,15 @@ TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
   EXPECT_EQ(Names.Slot(500), "BOX.:N=1");
 }
 
+TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
+  Fill({"TO R :N", "FD 1", "R 1", "END"});
+  Watch = LimitedWatch(1'000'000, 2000);
+  // The activation that takes the last slot hangs in its first expression.
+  EXPECT_THROW(Type("R 1"), Stopped);
+  EXPECT_EQ(Calls.size(), 499U);
+  EXPECT_EQ(Names.Slot(500), "R.:N=1");
+}
+
 TEST_F(InputsTest, ASecondCallTakesTheDeletedSlotAgain) {
   Fill({"TO BOX :N", "FD :N", "END"});
   Type("BOX 5");

@@ -105,6 +105,13 @@ TEST_F(LoweringLimitsTest, ABodyThatChangesItsCountChangesTheRounds) {
   EXPECT_EQ(Typed("P Q"), (Texts{"FD 2", "RT 1", "RT 3", "RT 3"}));
 }
 
+TEST_F(LoweringLimitsTest, AllActivationsOfAProcedureShareOneCounter) {
+  Fill({"TO P", "REPEAT 3 [FD # MAKE \"D :D+1 Q]", "END", "TO Q", "IF :D=1", "RT 1", "P", "ENDIF", "END"});
+  Repeats.RemoveAllRepeats();
+  // The inner loop leaves the counter at 4, so that the outer one is over too.
+  EXPECT_EQ(Typed("P"), (Texts{"FD 1", "RT 1", "FD 1", "FD 2", "FD 3"}));
+}
+
 TEST_F(LoweringLimitsTest, CountersAreGlobals) {
   Typed("REPEAT 3[FD 1]");
   EXPECT_EQ(Names.Slot(1), "#=4");

@@ -50,6 +50,8 @@ TEST_F(LoweringTest, OneRoundLowersTheTopmostLine) {
 TEST_F(LoweringTest, TheCountIsCopiedAsItIs) {
   EXPECT_EQ(Lowered({"REPEAT :N*2 [FD 10]"})[4], "IF #<=:N*2");
   EXPECT_EQ(Repeats.RepeatNum("REPEAT 2 + 1 [FD 10]"), "2 + 1");
+  Store.MakeEmptyFileDataArray();
+  EXPECT_EQ(Lowered({"REPEAT 2 + 1 [FD 10]"})[4], "IF ##<=2 + 1");
 }
 
 TEST_F(LoweringTest, RepeatsInARowGetTheNextNames) {

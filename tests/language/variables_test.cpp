@@ -92,6 +92,8 @@ TEST_F(VariablesTest, TextreplaceConsidersTheFirstOccurrenceOnly) {
 TEST_F(VariablesTest, UndeclaredNamesVanish) {
   EXPECT_EQ(Globals("X"), "");
   EXPECT_EQ(Globals("X+5"), "+5");
+  EXPECT_EQ(Stages.Number("X"), 0);
+  EXPECT_EQ(Stages.Number("X+5"), 5);
   EXPECT_EQ(Globals("12"), "12");
 }
 
@@ -178,6 +180,8 @@ TEST_F(VariablesTest, AnOccurrenceInALongerWordBlocksALocal) {
   FillSlots({"BOX.A=7", "A=3"});
   Path.SetCtrlStr(".BOX- 2");
   EXPECT_EQ(Locals("AB+A"), "AB+A");
+  // The "A" at the end is then read as a global.
+  EXPECT_EQ(Stages.Number("AB+A"), 3);
 }
 
 TEST_F(VariablesTest, EntriesOfTheSameNameTakeOneOccurrenceEach) {
