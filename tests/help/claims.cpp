@@ -17,7 +17,7 @@ constexpr double twipsDown = 11520;
 constexpr double degreesOfATurn = 180 / 3.1415937;
 
 /// Far more than any example needs that comes to an end.
-const std::vector<std::string> stepLimit = {"--steps", "100000"};
+const std::vector<std::string> stepLimit = {"--steps", "20000"};
 
 /// A text that is claimed; a page may tell only how a long one begins.
 struct ClaimedText {
