@@ -1,6 +1,7 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPaintEvent>
@@ -27,10 +28,21 @@ constexpr QSize SmallestWindow(320, 240);
 /// What shows where no control lies.
 constexpr QColor Ground(0, 0, 80);
 
+/// Not a key that only changes others, nor one that moves the focus itself.
+bool CallsForFocus(const QKeyEvent& press) {
+  switch (press.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return false;
+    default:
+      return KeyCode(press) != 0 || !press.text().isEmpty();
+  }
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Form1& form, ImageCanvas& canvas, Events& theEvents, const QRect& availableArea)
-    : form1(form), events(theEvents), available(availableArea) {
+    : form1(form), events(theEvents), available(availableArea), lastRow(&form.Controls.Text1[0]) {
   setWindowIcon(ProgramIcon());
   setMinimumSize(SmallestWindow);
   installEventFilter(this);
@@ -75,8 +87,9 @@ void MainWindow::SyncPlace() {
 }
 
 void MainWindow::SyncFocus() {
-  const Control* holder = form1.Controls.Focus.Focus();
+  Control* holder = form1.Controls.Focus.Focus();
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
+  if (holder != nullptr && holder->Panel() == &form1.Controls.Picture3) lastRow = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
   if (focusWidget() != &wanted) wanted.setFocus(Qt::OtherFocusReason);
 }
@@ -96,7 +109,10 @@ void MainWindow::DescribeTurtle() {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) return PressKey(watched, KeyCode(static_cast<QKeyEvent&>(*event)));
+  if (event->type() == QEvent::KeyPress) {
+    auto& press = static_cast<QKeyEvent&>(*event);
+    return HandOn(press) || PressKey(watched, KeyCode(press));
+  }
   if (event->type() == QEvent::FocusIn) TakeFocus(watched, static_cast<QFocusEvent*>(event)->reason());
   return QWidget::eventFilter(watched, event);
 }
@@ -110,6 +126,25 @@ bool MainWindow::focusNextPrevChild(bool next) {
   return true;
 }
 
+bool MainWindow::HandOn(QKeyEvent& press) {
+  if (focusWidget() != this || !CallsForFocus(press)) return false;
+  Control& receiver = KeyReceiver();
+  events.Deliver([&](Form1& form) { form.Controls.Focus.SetFocus(receiver); });
+  if (focusWidget() == this) return false;
+  QCoreApplication::sendEvent(focusWidget(), &press);
+  return true;
+}
+
+Control& MainWindow::KeyReceiver() const {
+  FormControls& controls = form1.Controls;
+  // From the top down.
+  for (Control* control : {static_cast<Control*>(&controls.Text2), static_cast<Control*>(lastRow),
+                           static_cast<Control*>(&controls.RichTextBox1), static_cast<Control*>(&controls.List4)}) {
+    if (control->IsOnScreen()) return *control;
+  }
+  return form1.Picture1;
+}
+
 bool MainWindow::PressKey(QObject* widget, int keyCode) {
   ControlView* view = ViewOfWidget(widget);
   // A key that a control leaves over comes up here once more.
@@ -121,8 +156,9 @@ bool MainWindow::PressKey(QObject* widget, int keyCode) {
   if (keyCode >= key::F1 || keyCode == key::Esc || view == nullptr) return true;
   auto* button = qobject_cast<QPushButton*>(widget);
   if (button != nullptr && keyCode == key::Enter) button->click();
-  // What the keys of the table mean on a row, no row does itself; in lists and in the editor they move on.
-  return qobject_cast<QLineEdit*>(widget) != nullptr;
+  // What the keys of the table mean on a row, no row does itself; in lists and in the editor they move on. A key that
+  // took the focus away is not for what is below.
+  return qobject_cast<QLineEdit*>(widget) != nullptr || focusWidget() != widget;
 }
 
 void MainWindow::TakeFocus(QObject* widget, Qt::FocusReason reason) {

@@ -57,6 +57,11 @@ class MainWindow : public QWidget {
   void SyncPlace();
   void SyncFocus();
   void FillAvailableArea();
+  /// Where nothing has the focus, a key gives it to what the learner looks at, and goes there. Tells whether it did.
+  bool HandOn(QKeyEvent& press);
+  /// The uppermost of the big controls: the editor, the row that had the focus last, the help page, the text screen,
+  /// the surface.
+  Control& KeyReceiver() const;
   bool PressKey(QObject* widget, int keyCode);
   void TakeFocus(QObject* widget, Qt::FocusReason reason);
   ControlView* ViewOfWidget(QObject* widget) const;
@@ -72,6 +77,8 @@ class MainWindow : public QWidget {
   PaletteShapes* paletteShapes = nullptr;
   /// Where the window's data was when the window last stood there.
   QPointF shownPlace;
+  /// The row that had the focus last.
+  Control* lastRow;
   bool syncing = false;
   bool fitted = false;
 };

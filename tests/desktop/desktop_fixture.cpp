@@ -80,7 +80,6 @@ void DesktopTest::Enter(const char* line) {
 void DesktopTest::LeaveEditor() {
   Press(Qt::Key_F3);
   QTest::keyClick(&Shown(), Qt::Key_F2);
-  Press(Qt::Key_Tab);
   ASSERT_EQ(Focused(), &Row(0));
 }
 

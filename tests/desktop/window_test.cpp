@@ -148,6 +148,68 @@ TEST_F(WindowTest, InFullScreenTheTabKeyReachesTheSurface) {
   EXPECT_EQ(Focused(), &Editor());
 }
 
+TEST_F(WindowTest, TypingGoesOnInTheLastRowWhenNothingHasTheFocus) {
+  Enter("show dia");
+  Press(Qt::Key_Down);
+  ASSERT_EQ(Focused(), &Row(2));
+  WidgetOf(Controls().Command1).setFocus();
+  Press(Qt::Key_Return);
+  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  QTest::keyClicks(&Shown(), "f");
+  Type("d 10");
+  EXPECT_EQ(Focused(), &Row(2));
+  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[2]);
+  EXPECT_EQ(Row(2).text(), "fd 10");
+}
+
+TEST_F(WindowTest, KeysThatOnlyChangeOthersGiveNoFocus) {
+  Press(Qt::Key_F4);
+  for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_CapsLock}) {
+    QTest::keyClick(&Shown(), key);
+    EXPECT_EQ(Controls().Focus.Focus(), nullptr) << key;
+  }
+}
+
+TEST_F(WindowTest, F2FromTheFullScreenLetsTheLearnerTypeOn) {
+  Enter("rt 1");
+  Press(Qt::Key_F4);
+  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  QTest::keyClick(&Shown(), Qt::Key_F2);
+  EXPECT_TRUE(Row(0).isVisible());
+  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[0]);
+  EXPECT_EQ(Focused(), &Row(0));
+}
+
+TEST_F(WindowTest, InFullScreenF1OpensTheEditorAndF3TheTextScreen) {
+  Press(Qt::Key_F4);
+  QTest::keyClick(&Shown(), Qt::Key_F1);
+  EXPECT_EQ(Focused(), &Editor());
+  Press(Qt::Key_F4);
+  QTest::keyClick(&Shown(), Qt::Key_F3);
+  EXPECT_TRUE(WidgetOf(Controls().List4).isVisible());
+}
+
+TEST_F(WindowTest, F2BringsEverythingBackFromTheTextScreenWithoutRows) {
+  Press(Qt::Key_F1);
+  Press(Qt::Key_F3);
+  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_FALSE(Row(0).isVisible());
+  QTest::keyClick(&Shown(), Qt::Key_F2);
+  EXPECT_FALSE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_EQ(Focused(), &Row(0));
+}
+
+TEST_F(WindowTest, AfterTheHelpViewTypingGoesOnInTheRow) {
+  WriteFile("ZMHELP/FD", "forward");
+  Enter("help fd");
+  WidgetOf(Controls().RichTextBox1).setFocus();
+  Press(Qt::Key_Escape);
+  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  QTest::keyClick(&Shown(), Qt::Key_R);
+  EXPECT_EQ(Focused(), &Row(1));
+  EXPECT_EQ(Row(1).text(), "r");
+}
+
 TEST_F(WindowTest, TheFullScreenFillsTheWindow) {
   Press(Qt::Key_F4);
   EXPECT_EQ(WidgetOf(System().Picture1).geometry(), QRect(0, 0, 1024, 768));
