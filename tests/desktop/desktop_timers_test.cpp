@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QTest>
+
+#include "desktop/desktop_fixture.h"
 
 namespace zerimo {
 namespace {
@@ -72,6 +75,45 @@ TEST_F(TimersTest, ANewIntervalCountsAnew) {
   timers.Sync();
   controls.Timer2.Interval = 5;
   EXPECT_GE(TicksAfter(40), 1);
+}
+
+class SlideShowTest : public DesktopTest {
+ protected:
+  SlideShowTest() { Enter("cs"); }
+
+  void WriteSlide(const char* name, Qt::GlobalColor colour) const {
+    QImage slide(64, 64, QImage::Format_RGB32);
+    slide.fill(colour);
+    ASSERT_TRUE(slide.save(folder.filePath(QLatin1String(name)), "JPG", 100));
+  }
+
+  std::int16_t Counter() { return System().Photos.SlideCounter; }
+  QColor TopLeft() { return WidgetOf(System().Picture1).grab({30, 30, 1, 1}).toImage().pixelColor(0, 0); }
+};
+
+TEST_F(SlideShowTest, TheSlidesComeOneAfterTheOtherUntilANumberIsMissing) {
+  WriteSlide("TRIP1.JPG", Qt::red);
+  WriteSlide("trip2.jpg", Qt::blue);
+  Enter("slideshow trip 100");
+  ASSERT_TRUE(Until([this] { return Counter() == 1; }));
+  EXPECT_GT(TopLeft().red(), 200);
+  ASSERT_TRUE(Until([this] { return Counter() == 2; }));
+  EXPECT_GT(TopLeft().blue(), 200);
+  EXPECT_LT(TopLeft().red(), 50);
+  ASSERT_TRUE(Until([this] { return !Controls().Timer3.Enabled; }));
+  EXPECT_EQ(Counter(), 0);
+  EXPECT_GT(TopLeft().blue(), 200);
+  EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(SlideShowTest, TheShowStandsStillWhileALineRuns) {
+  WriteSlide("TRIP1.JPG", Qt::red);
+  Type("wait 150");
+  System().Primitives.Execute("SLIDESHOW TRIP 40");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(System().Photos.SlideFileName, "");
+  EXPECT_TRUE(Controls().Timer3.Enabled);
+  EXPECT_TRUE(Until([this] { return !System().Photos.SlideFileName.empty(); }));
 }
 
 }  // namespace
