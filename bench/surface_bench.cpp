@@ -126,7 +126,7 @@ Colour FloodColour(int round) { return round % 2 == 0 ? Pen : Inside; }
 void OurFlood(benchmark::State& state) {
   ImageCanvas canvas = MakeCanvas();
   int round = 0;
-  for (auto _ : state) canvas.FloodFill({Columns / 2.0, Rows / 2.0}, FloodColour(round++));
+  for (auto _ : state) canvas.FloodFill({Columns / 2.0, Rows / 2.0}, FloodColour(round++), Rows);
 }
 
 /// QPainter has no flood. Painting the same pixels without looking at them is the least that it could do; a flood

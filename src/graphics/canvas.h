@@ -57,9 +57,9 @@ class Canvas {
   /// The colour at a point, or nothing outside the canvas.
   virtual std::optional<Colour> ColourAt(PixelPoint at) const = 0;
 
-  /// Replaces the pixels of the colour at the point that are connected to it over the four neighbours. Does nothing
-  /// outside the canvas.
-  virtual void FloodFill(PixelPoint at, Colour fill) = 0;
+  /// Replaces the pixels of the colour at the point that are connected to it over the four neighbours, within the
+  /// upper `rows` rows of the canvas. Does nothing if the point lies outside of them.
+  virtual void FloodFill(PixelPoint at, Colour fill, int rows) = 0;
 
   /// Prints one line of text; the point is its top left corner. The background shows through.
   virtual void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) = 0;
@@ -83,7 +83,7 @@ class EmptyCanvas : public Canvas {
   void Ellipse(const Stroke&, const Filling&, PixelPoint, double, double) override {}
   void Point(const Stroke&, PixelPoint) override {}
   std::optional<Colour> ColourAt(PixelPoint at) const override;
-  void FloodFill(PixelPoint, Colour) override {}
+  void FloodFill(PixelPoint, Colour, int) override {}
   void Print(std::string_view, PixelPoint, double, Colour) override {}
   void LoadPicture(const std::filesystem::path& file, Colour background) override;
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;

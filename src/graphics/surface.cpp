@@ -131,7 +131,8 @@ void Surface::PSet(double x, double y, Colour color) {
 }
 
 Colour Surface::Point(double x, double y) const {
-  return canvas.ColourAt(ToPixels(ToSingle(x), ToSingle(y))).value_or(-1);
+  const PixelPoint at = ToPixels(ToSingle(x), ToSingle(y));
+  return at.Y < Rows() ? canvas.ColourAt(at).value_or(-1) : -1;
 }
 
 void Surface::Print(const std::string& text) {
@@ -146,9 +147,11 @@ void Surface::Cls() {
 
 void Surface::ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint) {
   const PixelPoint at{static_cast<double>(x), static_cast<double>(y)};
-  if (atPoint != -1) canvas.FloodFill(at, fillColor);
+  if (atPoint != -1) canvas.FloodFill(at, fillColor, Rows());
   Tell(surface_operation::FloodFill{x, y, atPoint});
 }
+
+int Surface::Rows() const { return static_cast<int>(std::ceil(static_cast<double>(Height()) / UnitsPerPixel)); }
 
 void Surface::SetPicture(const std::filesystem::path& file, const std::string& pictureName) {
   canvas.LoadPicture(file, backColor);

@@ -118,11 +118,12 @@ class Surface : public Control {
   void LineTo(double x2, double y2);
   void Circle(double x, double y, double radius, std::optional<double> aspect = std::nullopt);
   void PSet(double x, double y, Colour color);
-  /// The colour at a point, or -1 outside the surface.
+  /// The colour at a point, or -1 outside the surface, also where a smaller height hides what was drawn.
   Colour Point(double x, double y) const;
   void Print(const std::string& text);
   void Cls();
-  /// The fill of the platform: from a point in pixels over the colour that is read there, with the fill colour.
+  /// The fill of the platform: from a point in pixels over the colour that is read there, with the fill colour, and
+  /// not beyond the surface's height.
   void ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint);
   /// Loads a picture file as the background; `pictureName` is how the system names the file.
   void SetPicture(const std::filesystem::path& file, const std::string& pictureName);
@@ -148,6 +149,8 @@ class Surface : public Control {
   void Tell(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
   double ScaleDivisor() const { return scaleMode == 3 ? 1 : UnitsPerPixel; }
+  /// How many rows of the canvas the height covers, if only in part.
+  int Rows() const;
 
   Canvas& canvas;
   std::vector<SurfaceRecorder*> recorders;

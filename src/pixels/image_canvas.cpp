@@ -137,10 +137,11 @@ std::optional<Colour> ImageCanvas::ColourAt(PixelPoint at) const {
   return ToColour(image.pixel(static_cast<int>(at.X), static_cast<int>(at.Y)));
 }
 
-void ImageCanvas::FloodFill(PixelPoint at, Colour fill) {
+void ImageCanvas::FloodFill(PixelPoint at, Colour fill, int rows) {
   Changed({});
-  if (!Covers(at)) return;
-  Changed(FloodPixels(image, {static_cast<int>(at.X), static_cast<int>(at.Y)}, ToRgb(fill)));
+  if (!Covers(at) || at.Y >= rows) return;
+  const int floodRows = std::min(rows, image.height());
+  Changed(FloodPixels(image, {static_cast<int>(at.X), static_cast<int>(at.Y)}, ToRgb(fill), floodRows));
 }
 
 void ImageCanvas::Print(std::string_view text, PixelPoint at, double pointSize, Colour color) {

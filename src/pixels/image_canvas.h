@@ -22,7 +22,7 @@ class ImageCanvas : public Canvas {
                double halfHeight) override;
   void Point(const Stroke& stroke, PixelPoint at) override;
   std::optional<Colour> ColourAt(PixelPoint at) const override;
-  void FloodFill(PixelPoint at, Colour fill) override;
+  void FloodFill(PixelPoint at, Colour fill, int rows) override;
   void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) override;
   void LoadPicture(const std::filesystem::path& file, Colour background) override;
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;

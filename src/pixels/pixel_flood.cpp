@@ -30,11 +30,11 @@ bool IsAll(const QRgb* block, QRgb colour) {
 
 class Flood {
  public:
-  Flood(QImage& image, QRgb oldColour, QRgb newColour)
+  Flood(QImage& image, QRgb oldColour, QRgb newColour, int floodRows)
       : bits(reinterpret_cast<QRgb*>(image.bits())),
         pixelsPerRow(static_cast<std::ptrdiff_t>(image.bytesPerLine()) / 4),
         columns(image.width()),
-        rows(image.height()),
+        rows(floodRows),
         old(oldColour),
         fill(newColour) {}
 
@@ -137,10 +137,10 @@ class Flood {
 
 }  // namespace
 
-QRect FloodPixels(QImage& image, QPoint at, QRgb fill) {
+QRect FloodPixels(QImage& image, QPoint at, QRgb fill, int rows) {
   const QRgb old = image.pixel(at);
   if (old == fill) return {};
-  return Flood(image, old, fill).From(at);
+  return Flood(image, old, fill, rows).From(at);
 }
 
 }  // namespace zerimo

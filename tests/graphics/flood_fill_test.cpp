@@ -72,6 +72,14 @@ TEST_F(FloodFillTest, OutsideOfTheSurfaceNothingIsPainted) {
   EXPECT_EQ(Picture1.ScaleMode(), 1);
 }
 
+TEST_F(FloodFillTest, BelowTheHeightOfTheSurfaceNothingIsPainted) {
+  Turtle.TurtleY = 8010;
+  EXPECT_EQ(Do("FLOODFILL 4")[4], "FloodFill 67 534 -1");
+  EXPECT_TRUE(Pixels.Calls.empty());
+  Picture1.SetHeight(9000);
+  EXPECT_EQ(Do("FLOODFILL 4")[4], "FloodFill 67 534 8388736");
+}
+
 TEST_F(FloodFillTest, PositionBeyond16BitsLeavesTheScaleInPixelsUntilTheNextFill) {
   Turtle.TurtleX = 15.0 * 32768;
   EXPECT_EQ(Do("FLOODFILL 4"), Texts{"ScaleMode=3"});

@@ -34,7 +34,9 @@ class SpyCanvas : public EmptyCanvas {
     LastStroke = stroke;
     Log("Point", {at.X, at.Y});
   }
-  void FloodFill(PixelPoint at, Colour fill) override { Log("FloodFill", {at.X, at.Y, static_cast<double>(fill)}); }
+  void FloodFill(PixelPoint at, Colour fill, int) override {
+    Log("FloodFill", {at.X, at.Y, static_cast<double>(fill)});
+  }
   void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) override {
     Log("Print " + std::string(text), {at.X, at.Y, pointSize, static_cast<double>(color)});
   }

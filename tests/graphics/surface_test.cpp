@@ -20,6 +20,7 @@ class SurfaceTest : public testing::Test {
  protected:
   SurfaceTest() {
     Picture1.CreateCanvas(1500, 1500);
+    Picture1.SetHeight(1500);
     Picture1.AddRecorder(Recorder);
   }
 
@@ -161,11 +162,22 @@ TEST_F(SurfaceTest, PointIsReadInsideOfTheCanvasAlone) {
   EXPECT_EQ(Picture1.Point(0, -15), -1);
 }
 
-TEST_F(SurfaceTest, PartHiddenByASmallerHeightStaysUsable) {
+TEST_F(SurfaceTest, PartHiddenByASmallerHeightIsDrawnOn) {
   Picture1.SetHeight(150);
   Picture1.Line(0, 1200, 150, 1200);
   EXPECT_EQ(Pixels.Calls, Texts{"Line 0 80 10 80"});
-  EXPECT_EQ(Picture1.Point(0, 1200), 8388736);
+}
+
+TEST_F(SurfaceTest, PartHiddenByASmallerHeightHasNoColour) {
+  Picture1.SetHeight(150);
+  EXPECT_EQ(Picture1.Point(0, 135), 8388736);
+  EXPECT_EQ(Picture1.Point(0, 150), -1);
+  Picture1.SetScaleMode(3);
+  EXPECT_EQ(Picture1.Point(0, 9), 8388736);
+  EXPECT_EQ(Picture1.Point(0, 10), -1);
+  Picture1.SetHeight(151);
+  EXPECT_EQ(Picture1.Point(0, 10), 8388736);
+  EXPECT_EQ(Picture1.Point(0, 11), -1);
 }
 
 TEST_F(SurfaceTest, BackgroundColourClears) {

@@ -18,6 +18,9 @@ inline constexpr int Invert = 6;
 inline constexpr int Solid = 0;
 inline constexpr int Transparent = 1;
 
+/// The rows of the small canvas.
+inline constexpr int Rows = 96;
+
 /// A canvas of 96 by 96 pixels in one colour.
 class CanvasTest : public ::testing::Test {
  protected:

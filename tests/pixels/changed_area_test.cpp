@@ -39,7 +39,7 @@ TEST_F(ChangedArea, IsEmptyWhereNothingIsSeen) {
   canvas.Box(Pen(White), {Red, Solid}, {-20, -20}, {-10, 50});
   canvas.Ellipse(Pen(White), {Red, Solid}, {300, 300}, 20, 20);
   canvas.Print("Text", {300, 10}, 12, White);
-  canvas.FloodFill({300, 10}, Red);
+  canvas.FloodFill({300, 10}, Red, Rows);
   EXPECT_TRUE(canvas.TakeDirty().isEmpty());
 }
 
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ChangedAreaOf,
                                                      }},
                                            Operation{"FloodFill",
                                                      [](Canvas& canvas) {
-                                                       canvas.FloodFill({3, 3}, White);
+                                                       canvas.FloodFill({3, 3}, White, Rows);
                                                      }},
                                            Operation{"Clear", [](Canvas& canvas) { canvas.Clear(White); }}),
                          [](const auto& operation) { return operation.param.Name; });

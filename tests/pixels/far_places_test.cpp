@@ -101,7 +101,7 @@ TEST_P(FarPlaces, HaveNoColour) {
 }
 
 TEST_P(FarPlaces, AFloodFarOffDoesNothing) {
-  canvas.FloodFill({GetParam(), 10}, White);
+  canvas.FloodFill({GetParam(), 10}, White, Rows);
   EXPECT_EQ(Count(Ground), 96 * 96);
 }
 

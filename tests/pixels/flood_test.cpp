@@ -14,37 +14,55 @@ using Floods = CanvasTest;
 
 TEST_F(Floods, AreaOfOneColourGetsTheFill) {
   canvas.Box(Pen(White), {Red, Solid}, {10, 10}, {50, 50});
-  canvas.FloodFill({30, 30}, Green);
+  canvas.FloodFill({30, 30}, Green, Rows);
   EXPECT_EQ(Count(Green), 39 * 39);
   EXPECT_EQ(Count(Red), 0);
 }
 
 TEST_F(Floods, TheColourThatIsThereAlreadyChangesNothing) {
-  canvas.FloodFill({30, 30}, Ground);
+  canvas.FloodFill({30, 30}, Ground, Rows);
   EXPECT_EQ(Count(Ground), 96 * 96);
 }
 
 TEST_F(Floods, AGapOfOnePixelLetsTheFillThrough) {
   canvas.Line(Pen(White), {0, 50}, {95, 50});
   canvas.Point(Pen(Ground), {70, 50});
-  canvas.FloodFill({10, 10}, Green);
+  canvas.FloodFill({10, 10}, Green, Rows);
   EXPECT_EQ(At(10, 90), Green);
 }
 
 TEST_F(Floods, DiagonalNeighboursDoNotLetTheFillThrough) {
   canvas.Line(Pen(White), {0, 0}, {95, 95});
-  canvas.FloodFill({90, 10}, Green);
+  canvas.FloodFill({90, 10}, Green, Rows);
   EXPECT_EQ(At(10, 90), Ground);
   EXPECT_EQ(Count(Green), 96 * 95 / 2);
 }
 
 TEST_F(Floods, TheCornersOfTheCanvasAreReached) {
-  canvas.FloodFill({48, 48}, Green);
+  canvas.FloodFill({48, 48}, Green, Rows);
   EXPECT_EQ(Count(Green), 96 * 96);
 }
 
 TEST_F(Floods, NothingHappensOutsideTheCanvas) {
-  for (const PixelPoint at : {PixelPoint{-1, 5}, {5, -1}, {96, 5}, {5, 96}}) canvas.FloodFill(at, Green);
+  for (const PixelPoint at : {PixelPoint{-1, 5}, {5, -1}, {96, 5}, {5, 96}}) canvas.FloodFill(at, Green, Rows);
+  EXPECT_EQ(Count(Ground), 96 * 96);
+}
+
+TEST_F(Floods, RowsBelowAreLeftAsTheyAre) {
+  canvas.FloodFill({30, 30}, Green, 40);
+  EXPECT_EQ(Count(Green), 96 * 40);
+  EXPECT_EQ(At(0, 39), Green);
+  EXPECT_EQ(At(0, 40), Ground);
+}
+
+TEST_F(Floods, RowsBelowDoNotJoinWhatAWallParts) {
+  canvas.Line(Pen(White), {50, 0}, {50, 39});
+  canvas.FloodFill({30, 30}, Green, 40);
+  EXPECT_EQ(Count(Green), 50 * 40);
+}
+
+TEST_F(Floods, NothingHappensBelowTheRows) {
+  canvas.FloodFill({30, 40}, Green, 40);
   EXPECT_EQ(Count(Ground), 96 * 96);
 }
 
@@ -73,7 +91,7 @@ TEST_F(Floods, AgreeWithThePlainestWayOnRandomPictures) {
     }
     const QPoint at(below(37), below(29));
     const QImage expected = FloodedPlainly(noise.Image().copy(), at, 0xFF00FF00);
-    noise.FloodFill({1.0 * at.x(), 1.0 * at.y()}, Green);
+    noise.FloodFill({1.0 * at.x(), 1.0 * at.y()}, Green, 29);
     ASSERT_EQ(noise.Image(), expected) << round;
   }
 }
@@ -88,7 +106,7 @@ class LargeFloods : public ::testing::Test {
   /// Generous, so that a busy machine and the sanitizers pass too; what is asked for is measured by the benchmarks.
   void FloodInTime(PixelPoint at) {
     const auto start = std::chrono::steady_clock::now();
-    canvas.FloodFill(at, Green);
+    canvas.FloodFill(at, Green, Height);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   }
 

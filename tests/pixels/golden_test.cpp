@@ -131,24 +131,24 @@ std::vector<Scene> Floods() {
            [](Canvas& canvas) {
              canvas.Ellipse({White, 1, CopyPen}, {0, Transparent}, Middle, 40, 30);
              canvas.Ellipse({White, 1, CopyPen}, {0, Transparent}, Middle, 20, 15);
-             canvas.FloodFill({20, 47}, Green);
+             canvas.FloodFill({20, 47}, Green, Rows);
            }},
           {"flood_through_a_gap",
            [](Canvas& canvas) {
              canvas.Box({White, 1, CopyPen}, {0, Transparent}, {20, 20}, {70, 70});
              canvas.Point({Ground, 1, CopyPen}, {70, 33});
-             canvas.FloodFill(Middle, Green);
+             canvas.FloodFill(Middle, Green, Rows);
            }},
           {"flood_of_a_maze",
            [](Canvas& canvas) {
              Maze(canvas);
-             canvas.FloodFill({0, 0}, Green);
+             canvas.FloodFill({0, 0}, Green, Rows);
            }},
           {"flood_between_crossing_lines", [](Canvas& canvas) {
              canvas.Line({White, 1, CopyPen}, {0, 0}, {95, 95});
              canvas.Line({White, 1, CopyPen}, {0, 80}, {95, 10});
-             canvas.FloodFill({90, 60}, Green);
-             canvas.FloodFill({5, 40}, Red);
+             canvas.FloodFill({90, 60}, Green, Rows);
+             canvas.FloodFill({5, 40}, Red, Rows);
            }}};
 }
 

@@ -45,6 +45,27 @@ TEST_F(Readings, AFloodStartsAtThePixelOfTheUnits) {
   EXPECT_EQ(Count(Blue), 1);
 }
 
+TEST_F(Readings, AFloodEndsAtTheHeightOfTheSurface) {
+  surface.SetHeight(50 * UnitsPerPixel);
+  surface.SetFillColor(Blue);
+  surface.ExtFloodFill(20, 20, Ground);
+  EXPECT_EQ(Count(Blue), 96 * 50);
+}
+
+TEST_F(Readings, PrintedTextStaysUntilTheSurfaceIsCleared) {
+  surface.SetCurrentX(300);
+  surface.SetCurrentY(300);
+  surface.SetForeColor(Red);
+  surface.Print("HELLO");
+  const int letters = Count(Red);
+  EXPECT_GT(letters, 0);
+  surface.SetForeColor(Green);
+  surface.Line(0, 1200, 1200, 1200);
+  EXPECT_EQ(Count(Red), letters);
+  surface.Cls();
+  EXPECT_EQ(Count(Ground), 96 * 96);
+}
+
 TEST_F(Readings, OutsideTheCanvasThereIsNoColour) {
   EXPECT_EQ(surface.Point(-15, 0), -1);
   EXPECT_EQ(surface.Point(0, 96 * UnitsPerPixel), -1);

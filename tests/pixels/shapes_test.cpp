@@ -183,7 +183,7 @@ TEST_F(EllipseSizes, LieInsideTheirBoundsAndReachThem) {
 TEST_F(EllipseSizes, OutlineHoldsAFloodInside) {
   ForEach([this](int, int, int) {
     const int ground = Count(Ground);
-    canvas.FloodFill({47, 47}, Green);
+    canvas.FloodFill({47, 47}, Green, Rows);
     ASSERT_EQ(Count(Red), 0);
     ASSERT_EQ(Count(Ground), ground);
   });
@@ -192,8 +192,8 @@ TEST_F(EllipseSizes, OutlineHoldsAFloodInside) {
 TEST_F(EllipseSizes, OutlineHoldsAFloodOutside) {
   ForEach([this](int, int, int) {
     const int inside = Count(Red);
-    canvas.FloodFill({95, 95}, Blue);
-    canvas.FloodFill({0, 0}, Blue);
+    canvas.FloodFill({95, 95}, Blue, Rows);
+    canvas.FloodFill({0, 0}, Blue, Rows);
     ASSERT_EQ(Count(Red), inside);
     ASSERT_EQ(Count(Ground), 0);
   });
