@@ -78,9 +78,9 @@ void Shapes::Line(PrimitiveCall& call) {
   const double x1 = Units(call, 1);
   const double y1 = Units(call, 2);
   const double x2 = Units(call, 3);
-  // Of the four inputs only the last is whole.
+  // Of the four inputs only the last is whole; its product and the rounding are one statement.
   const std::int16_t y2 = WholeNumber(Word(call, 4));
-  const std::int16_t endY = WholeNumber(CentreY() - StepsToUnits(context.Turtle, y2));
+  const std::int16_t endY = WholeNumber(CentreY() - y2 * context.Turtle.Resolution);
   if (PenIsUp()) return;
   PassOver([&] { context.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
 }

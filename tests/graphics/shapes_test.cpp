@@ -114,6 +114,11 @@ TEST_F(ShapesTest, LineWithALargeLastInputEndsAtHeightZero) {
   EXPECT_EQ(Do("LINE 0 0 0 700"), Texts{"Line 5000 4500 5000 -30500"});
 }
 
+TEST_F(ShapesTest, LineWhoseLastProductOverflowsEndsAtHeightZero) {
+  Turtle.Resolution = 1E308;
+  EXPECT_EQ(Do("LINE 0 0 0 2"), Texts{"Line 5000 4500 5000 0"});
+}
+
 TEST_F(ShapesTest, LineLastInputBeyond16BitsCountsAsZero) {
   EXPECT_EQ(Do("LINE 0 0 0 40000"), Texts{"Line 5000 4500 5000 4500"});
 }
