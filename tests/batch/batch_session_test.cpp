@@ -61,6 +61,10 @@ TEST(BatchSession, EnterIsPressedOnTheRowThatHasTheFocus) {
             (Lines{R"({"event":"typed","row":0,"text":"PD"})", R"({"event":"typed","row":1,"text":"PU"})"}));
 }
 
+TEST(BatchSession, EnterIsPressedOnRow0IfNoRowHasTheFocus) {
+  EXPECT_EQ(Events("typed", "PD\nEDIT\n@type 0 PU\n@enter").back(), R"({"event":"typed","row":0,"text":"PU"})");
+}
+
 TEST(BatchSession, EnterOnARowGivesItTheFocusFirst) {
   After after("@enter 4");
   EXPECT_EQ(after.Focus(), "Text1(4)");
@@ -125,6 +129,49 @@ TEST(BatchSession, ScrollSetsTheBarAndRunsItsEvent) {
   After after("@scroll HScroll1(2) 100");
   EXPECT_EQ(after.Controls().HScroll1[2].Value, 100);
   EXPECT_EQ(after.Form().Picture1.BackColor(), 100 * 65536);
+}
+
+TEST(BatchSession, ClearOfAnEmptyListIsWrittenDownToo) {
+  EXPECT_EQ(Events("list", "CT CT"), (Lines{R"({"event":"list","control":"List4","op":"add","item":"?CT CT"})",
+                                            R"({"event":"list","control":"List4","op":"clear"})",
+                                            R"({"event":"list","control":"List4","op":"clear"})"}));
+}
+
+TEST(BatchSession, CaptionIsWrittenDownAlsoWhenItStaysTheSame) {
+  EXPECT_EQ(Events("caption", "HIDE\nHIDE"),
+            (Lines{R"({"event":"caption","text":"Zerimo"})", R"({"event":"caption","text":"Zerimo"})"}));
+}
+
+TEST(BatchSession, SoundIsABeepAndABox) {
+  const Lines transcript = Transcript("SOUND");
+  ASSERT_EQ(transcript.size(), 5U);
+  EXPECT_EQ(transcript[2], R"({"event":"beep"})");
+  EXPECT_EQ(transcript[3], R"({"event":"box","text":"Sound","style":0,"title":"","answer":"OK"})");
+}
+
+TEST(BatchSession, AnswersReachInputBoxesAndDialogsInTheirOrder) {
+  InMemorySession world;
+  const Lines transcript = world.Run(
+      "@answer input NO SUCH\n@answer input\n@key Text1(0) F9\n@key Text1(0) F9\n"
+      "@answer open \n@answer save  \n@key Text1(0) Down\nSHOW OPEN\nSHOW SAVEAS");
+  EXPECT_EQ(transcript,
+            (Lines{R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
+                   R"("answer":"NO SUCH"})",
+                   R"({"event":"box","text":"Unable to Load File .\\NO SUCH.ZRM","style":2,"title":"Zerimo",)"
+                   R"("answer":"Ignore"})",
+                   R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
+                   R"("answer":""})",
+                   R"({"event":"typed","row":1,"text":"SHOW OPEN"})",
+                   R"({"event":"list","control":"List4","op":"add","item":"?SHOW OPEN"})",
+                   R"({"event":"dialog","kind":"open","answer":""})", R"({"event":"typed","row":2,"text":"SHOW SAVEAS"})",
+                   R"({"event":"list","control":"List4","op":"add","item":"?SHOW SAVEAS"})",
+                   R"({"event":"dialog","kind":"save","answer":" "})", R"({"event":"finished"})"}));
+}
+
+TEST(BatchSession, SelectedEntryOfTheHistoryChangesNothing) {
+  EXPECT_EQ(Transcript("PD\n@select List4 ?PD"),
+            (Lines{R"({"event":"typed","row":0,"text":"PD"})",
+                   R"({"event":"list","control":"List4","op":"add","item":"?PD"})", R"({"event":"finished"})"}));
 }
 
 TEST(BatchSession, SelectNeedsAnEntry) {

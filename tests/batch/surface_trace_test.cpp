@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "files/temp_folder.h"
+
 namespace zerimo::batch {
 namespace {
 
@@ -63,6 +65,21 @@ TEST_F(SurfaceTraceTest, ClsStandsAlone) {
 TEST_F(SurfaceTraceTest, FloodFillHasPixelsAndTheColourRead) {
   surface.ExtFloodFill(512, -3, -1);
   EXPECT_EQ(transcript.str(), Event(R"("FloodFill","x":512,"y":-3,"color":-1)"));
+}
+
+TEST_F(SurfaceTraceTest, PictureHasThePathThatTheSystemGaveIt) {
+  const TempFolder folder;
+  folder.Write("sea.jpg", "");
+  EXPECT_ANY_THROW(surface.SetPicture("none.jpg", "C:\\X\\NONE.JPG"));
+  surface.SetPicture("sea.jpg", "C:\\X\\SEA.JPG");
+  EXPECT_EQ(transcript.str(), Event(R"("Picture","path":"C:\\X\\SEA.JPG")"));
+}
+
+TEST_F(SurfaceTraceTest, WriteOfTheSameValueIsASetToo) {
+  surface.SetDrawWidth(4);
+  surface.SetDrawWidth(4);
+  const std::string write = Event(R"("Set","property":"DrawWidth","value":4)");
+  EXPECT_EQ(transcript.str(), write + write);
 }
 
 TEST_F(SurfaceTraceTest, EveryPropertyWriteThatTookPlaceIsASet) {
