@@ -154,18 +154,19 @@ TEST(BatchSession, AnswersReachInputBoxesAndDialogsInTheirOrder) {
   const Lines transcript = world.Run(
       "@answer input NO SUCH\n@answer input\n@key Text1(0) F9\n@key Text1(0) F9\n"
       "@answer open \n@answer save  \n@key Text1(0) Down\nSHOW OPEN\nSHOW SAVEAS");
-  EXPECT_EQ(transcript,
-            (Lines{R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
-                   R"("answer":"NO SUCH"})",
-                   R"({"event":"box","text":"Unable to Load File .\\NO SUCH.ZRM","style":2,"title":"Zerimo",)"
-                   R"("answer":"Ignore"})",
-                   R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
-                   R"("answer":""})",
-                   R"({"event":"typed","row":1,"text":"SHOW OPEN"})",
-                   R"({"event":"list","control":"List4","op":"add","item":"?SHOW OPEN"})",
-                   R"({"event":"dialog","kind":"open","answer":""})", R"({"event":"typed","row":2,"text":"SHOW SAVEAS"})",
-                   R"({"event":"list","control":"List4","op":"add","item":"?SHOW SAVEAS"})",
-                   R"({"event":"dialog","kind":"save","answer":" "})", R"({"event":"finished"})"}));
+  EXPECT_EQ(
+      transcript,
+      (Lines{R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
+             R"("answer":"NO SUCH"})",
+             R"({"event":"box","text":"Unable to Load File .\\NO SUCH.ZRM","style":2,"title":"Zerimo",)"
+             R"("answer":"Ignore"})",
+             R"({"event":"input","prompt":"Enter the File Name","title":"Load Zerimo File","default":"",)"
+             R"("answer":""})",
+             R"({"event":"typed","row":1,"text":"SHOW OPEN"})",
+             R"({"event":"list","control":"List4","op":"add","item":"?SHOW OPEN"})",
+             R"({"event":"dialog","kind":"open","answer":""})", R"({"event":"typed","row":2,"text":"SHOW SAVEAS"})",
+             R"({"event":"list","control":"List4","op":"add","item":"?SHOW SAVEAS"})",
+             R"({"event":"dialog","kind":"save","answer":" "})", R"({"event":"finished"})"}));
 }
 
 TEST(BatchSession, SelectedEntryOfTheHistoryChangesNothing) {
