@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,53 @@ INSTANTIATE_TEST_SUITE_P(Sequences, ModesInOrder,
                                          ModeSequence{{"EDIT", "TS", "FS"}, {false, false, false, Full}},
                                          ModeSequence{{"EDIT", "FS", "SS"}, {true, false, false, Split}},
                                          ModeSequence{{"TS", "EDIT", "SS"}, {true, false, false, Split}}));
+
+/// What a primitive or a key makes of what is seen; it leaves what is not given.
+struct ModeStep {
+  const char* Line;
+  int KeyOnForm;
+  int KeyOnSurface;
+  std::optional<bool> Rows;
+  std::optional<bool> History;
+  std::optional<bool> Editor;
+  std::optional<float> Surface;
+};
+
+constexpr ModeStep ModeSteps[] = {
+    {"FS", 0, 0, false, false, false, Full},
+    {"SS", 0, 0, true, false, false, Split},
+    {"TS", 0, 0, {}, true, false, Split},
+    {"EDIT", 0, 0, false, false, true, {}},
+    {"CT", 0, 0, {}, {}, {}, {}},
+    {"HIDE", 0, 0, {}, {}, {}, {}},
+    {nullptr, key::F2, 0, true, {}, false, Split},
+    {nullptr, 0, key::F2, true, {}, false, Split},
+    {nullptr, 0, key::F4, {}, {}, {}, {}},
+};
+
+TEST_F(ScreenModesTest, EveryThreeStepsShowWhatTheLastOfEachLeft) {
+  Seen expected{true, false, false, Split};
+  const auto take = [&](const ModeStep& step) {
+    if (step.Line != nullptr) Execute(step.Line);
+    if (step.KeyOnForm != 0) Press(Controls.Form1, step.KeyOnForm);
+    if (step.KeyOnSurface != 0) Press(System.Picture1, step.KeyOnSurface);
+    expected.Rows = step.Rows.value_or(expected.Rows);
+    expected.History = step.History.value_or(expected.History);
+    expected.Editor = step.Editor.value_or(expected.Editor);
+    expected.Surface = step.Surface.value_or(expected.Surface);
+    const Seen seen{Controls.Picture3.Visible(), Controls.List4.Visible(), Controls.Text2.Visible(),
+                    System.Picture1.Height()};
+    EXPECT_EQ(seen, expected);
+  };
+  // One after the other without a new start, so that longer roads are walked too.
+  for (const ModeStep& first : ModeSteps) {
+    for (const ModeStep& second : ModeSteps) {
+      for (const ModeStep& third : ModeSteps) {
+        for (const ModeStep* step : {&first, &second, &third}) take(*step);
+      }
+    }
+  }
+}
 
 TEST_F(ScreenModesTest, SplitScreenMeasuresTheWindowAndTextScreenTheScreen) {
   Controls.Form1.SetHeight(9000);
