@@ -54,6 +54,19 @@ TEST_F(SurfaceWidgetTest, TheFigureLiesAboveThePictureAndFollowsTheTurtle) {
   EXPECT_EQ(System().Picture1.Point(7680, 6015), 8388736);
 }
 
+TEST_F(SurfaceWidgetTest, TheFigureStaysVisibleOverAFlood) {
+  Enter("cs");
+  const QRect aroundTheTurtle(480, 350, 64, 64);
+  const auto figure = [&] {
+    return Surface().grab(aroundTheTurtle).toImage().createMaskFromColor(qRgb(255, 255, 255));
+  };
+  const QImage before = figure();
+  Enter("floodfill 4");
+  EXPECT_EQ(PixelAt(512, 600), QColor(128, 0, 0));
+  EXPECT_EQ(PixelAt(512, 398), QColor(128, 0, 0));
+  EXPECT_EQ(figure(), before);
+}
+
 TEST_F(SurfaceWidgetTest, TheAxesAreShown) {
   Enter("cs");
   Enter("show grid");
