@@ -1,0 +1,36 @@
+#include "files/start_folder.h"
+
+#include <system_error>
+
+#include "files/delivered_files.h"
+#include "files/disk_files.h"
+
+namespace zerimo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* UserFolderName = "Zerimo";
+
+bool HasHelpPages(const fs::path& folder) {
+  std::error_code error;
+  return fs::is_directory(HelpFolderIn(folder), error);
+}
+
+StartFolder PrepareUserFolder(const fs::path& source, const fs::path& documents) {
+  const fs::path folder = documents / UserFolderName;
+  const Delivery delivery = DeliverFiles(source, folder);
+  if (delivery.Failed == 0 && CanWriteInto(folder)) return {folder, true, {}};
+  return {HasHelpPages(folder) ? folder : source, true, folder};
+}
+
+}  // namespace
+
+StartFolder PrepareStartFolder(const Surroundings& around) {
+  const bool isInOneFolder = HasHelpPages(around.ProgramFolder) || !HasHelpPages(around.ShareFolder);
+  if (isInOneFolder && around.CanWriteIntoProgramFolder) return {around.ProgramFolder, false, {}};
+  return PrepareUserFolder(isInOneFolder ? around.ProgramFolder : around.ShareFolder, around.DocumentsFolder);
+}
+
+}  // namespace zerimo

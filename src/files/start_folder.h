@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+
+namespace zerimo {
+
+/// What the start finds around it. Folders need not be there.
+struct Surroundings {
+  /// Where the running program lies.
+  std::filesystem::path ProgramFolder;
+  bool CanWriteIntoProgramFolder = false;
+  /// Where the samples and help pages of an installed program lie.
+  std::filesystem::path ShareFolder;
+  /// The user's documents.
+  std::filesystem::path DocumentsFolder;
+};
+
+/// The folder that the system works in.
+struct StartFolder {
+  /// To be `AppFolder`.
+  std::filesystem::path Folder;
+  /// Whether it is to be the current folder too.
+  bool IsCurrentFolder = false;
+  /// The user's own folder if it could not be made, filled or written; otherwise empty.
+  std::filesystem::path Unusable;
+};
+
+/// The program's folder, if it can be written and is not merely that of all installed programs. Otherwise the folder
+/// `Zerimo` in the user's documents, which is made and brought up to date here (see `DeliverFiles`); where that can't
+/// be written and has no help pages either, the folder that it should have been filled from.
+StartFolder PrepareStartFolder(const Surroundings& around);
+
+}  // namespace zerimo
