@@ -5,8 +5,13 @@ set(ZERIMO_APP_FOLDER ${CMAKE_BINARY_DIR}/zerimo)
 foreach(program zerimo zerimo-batch)
   if(TARGET ${program})
     set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ZERIMO_APP_FOLDER})
+    if(MSVC)
+      target_sources(${program} PRIVATE ${PROJECT_SOURCE_DIR}/packaging/windows/zerimo.manifest)
+    endif()
   endif()
 endforeach()
+# On Windows the window opens no console.
+set_target_properties(zerimo PROPERTIES WIN32_EXECUTABLE ON)
 
 add_subdirectory(help)
 

@@ -6,10 +6,31 @@ if(ZERIMO_CCACHE)
 endif()
 
 add_library(zerimo_options INTERFACE)
-target_compile_options(zerimo_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(MSVC)
+  # Sources are UTF-8, and min and max are not macros.
+  target_compile_options(zerimo_options INTERFACE /W4 /utf-8)
+  target_compile_definitions(zerimo_options INTERFACE NOMINMAX)
+else()
+  target_compile_options(zerimo_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
 # GCC 12 warns wrongly about "text" + std::string in optimised builds.
 target_compile_options(zerimo_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(zerimo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+if(APPLE)
+  include(CheckCXXSourceCompiles)
+  set(CMAKE_REQUIRED_FLAGS -std=c++20)
+  check_cxx_source_compiles("
+    #include <charconv>
+    int main() {
+      const char text[] = \"1\";
+      double number = 0;
+      return std::from_chars(text, text + 1, number).ec != std::errc();
+    }" ZERIMO_READS_NUMBERS)
+  if(NOT ZERIMO_READS_NUMBERS)
+    message(FATAL_ERROR "The C++ library has no std::from_chars for numbers with a point; LLVM 20 has it")
+  endif()
+endif()
 
 if(ZERIMO_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -19,6 +40,15 @@ endif()
 if(ZERIMO_COVERAGE)
   add_compile_options(--coverage -fprofile-abs-path)
   add_link_options(--coverage)
+endif()
+
+# What is expected of programs in packages: code that can be loaded anywhere, and calls and stacks that are checked.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE MATCHES "^Rel")
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  add_link_options(-Wl,-z,relro -Wl,-z,now)
 endif()
 
 # zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library.

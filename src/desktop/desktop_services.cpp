@@ -54,6 +54,7 @@ std::string DesktopServices::InputBox(const std::string& prompt, const std::stri
 }
 
 std::string DesktopServices::ShowOpen() {
+  if (!offeredFile.empty()) return std::exchange(offeredFile, {});
   return AskForFile(false, QStringLiteral("Zerimo files and pictures (*.zrm *.jpg *.bmp *.gif);;All files (*)"));
 }
 

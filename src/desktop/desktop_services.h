@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <string>
+#include <utility>
 
 #include "core/services.h"
 #include "desktop/stage.h"
@@ -12,6 +14,9 @@ class DesktopServices : public Services {
  public:
   /// `dialogFolder` is where the file dialogs begin.
   DesktopServices(Stage& theStage, QString dialogFolder);
+
+  /// The next file dialog to open a file is answered with this name (as the system writes it) and does not stand.
+  void OfferFile(std::string name) { offeredFile = std::move(name); }
 
   Answer MessageBox(const std::string& text, int style, const std::string& title) override;
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultAnswer) override;
@@ -26,6 +31,7 @@ class DesktopServices : public Services {
 
   Stage& stage;
   QString folder;
+  std::string offeredFile;
 };
 
 }  // namespace zerimo

@@ -1,27 +1,79 @@
 #include <QApplication>
+#include <QDir>
 #include <QScreen>
+#include <QStandardPaths>
 #include <exception>
+#include <filesystem>
 #include <iostream>
+#include <string>
+#include <system_error>
+#include <vector>
 
+#include "desktop/arguments.h"
 #include "desktop/desktop_style.h"
 #include "desktop/desktop_text.h"
 #include "desktop/session.h"
+#include "files/disk_files.h"
 #include "files/folders.h"
+#include "files/start_folder.h"
 
 namespace zerimo {
 
 namespace {
 
+namespace fs = std::filesystem;
+
+/// The exit status for arguments that the program does not take.
+constexpr int Refused = 1;
+
+fs::path DiskPath(const QString& path) { return path.toStdU16String(); }
+
+Surroundings LookAround() {
+  Surroundings around;
+  const QString programFolder = QCoreApplication::applicationDirPath();
+  around.ProgramFolder = DiskPath(programFolder);
+  around.CanWriteIntoProgramFolder = CanWriteInto(around.ProgramFolder);
+  around.ShareFolder = DiskPath(QDir::cleanPath(programFolder + QStringLiteral("/" ZERIMO_SHARE_FOLDER)));
+  around.DocumentsFolder = DiskPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  return around;
+}
+
+std::string WordsAbout(const StartFolder& start) {
+  if (start.Unusable.empty()) return {};
+  return "Your folder " + Folders::ToSystem(start.Unusable) + " can not be written.\rZerimo works in " +
+         Folders::ToSystem(start.Folder) +
+         ".\rWhat you save there may be lost: save with SHOW SAVEAS, in another folder.";
+}
+
+/// The file to open, as a whole path while the current folder is that of the start, or the empty path.
+fs::path FileToOpen() {
+  const QStringList arguments = QCoreApplication::arguments();
+  return arguments.size() < 2 ? fs::path() : fs::absolute(DiskPath(arguments.at(1)));
+}
+
 int RunInWindow(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(ProgramName));
+  QApplication::setApplicationVersion(QStringLiteral(ZERIMO_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral(ZERIMO_ID));
   QApplication::setQuitOnLastWindowClosed(false);
   SetDesktopStyle();
-  const std::filesystem::path folder = QCoreApplication::applicationDirPath().toStdU16String();
-  Session session(QApplication::primaryScreen()->availableGeometry(), Folders::ToSystem(folder));
+  const fs::path file = FileToOpen();
+  const StartFolder start = PrepareStartFolder(LookAround());
+  std::error_code ignored;
+  if (start.IsCurrentFolder) fs::current_path(start.Folder, ignored);
+  Session session(QApplication::primaryScreen()->availableGeometry(), Folders::ToSystem(start.Folder));
   session.Start();
+  session.Greet(WordsAbout(start), file);
   if (!session.HasEnded()) QApplication::exec();
   return session.ExitStatus();
+}
+
+int Main(int argc, char** argv) {
+  const std::string refusal = RefusalOf({argv + 1, argv + argc});
+  if (refusal.empty()) return RunInWindow(argc, argv);
+  std::cerr << "zerimo: " << refusal << '\n';
+  return Refused;
 }
 
 }  // namespace
@@ -30,7 +82,7 @@ int RunInWindow(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   try {
-    return zerimo::RunInWindow(argc, argv);
+    return zerimo::Main(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "zerimo: " << error.what() << '\n';
     return zerimo::Session::EndedByFailure;

@@ -1,6 +1,7 @@
 #include "desktop/session.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 #include <exception>
 
 #include "core/failure.h"
@@ -33,6 +34,31 @@ void Session::Start() {
   window.show();
   // Where nothing else gives the keys to a new window.
   window.activateWindow();
+}
+
+void Session::Greet(const std::string& words, const std::filesystem::path& file) {
+  if (hasEnded || (words.empty() && file.empty())) return;
+  // The tick that gives the focus to row 0 is the last step of the start.
+  if (stage.IsRunning() || form1.Controls.Timer2.Enabled) {
+    QTimer::singleShot(1, &window, [this, words, file] { Greet(words, file); });
+    return;
+  }
+  Deliver([&](Form1& form) {
+    if (!words.empty()) services.MessageBox(words, box::Critical, ProgramName);
+    if (!file.empty()) OpenFile(form, file);
+  });
+}
+
+void Session::OpenFile(Form1& form, const std::filesystem::path& file) {
+  const std::string name = Folders::ToSystem(std::filesystem::absolute(file));
+  std::error_code error;
+  // A missing program is told by `LOAD`; for a missing picture the system has no words of its own.
+  if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(Folders::ToRead(name), error)) {
+    services.MessageBox("There is no file " + name, box::Critical, ProgramName);
+    return;
+  }
+  services.OfferFile(name);
+  form.Primitives.Execute("SHOW OPEN");
 }
 
 void Session::Deliver(const std::function<void(Form1& form1)>& event) {

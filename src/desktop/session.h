@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "console/form1.h"
@@ -25,6 +26,10 @@ class Session : public Events {
   /// Loads the form and shows the window.
   void Start();
 
+  /// Once the start is over: tells something in a box, if there is something to tell, and opens a file as `SHOW OPEN`
+  /// does, if one is named.
+  void Greet(const std::string& words, const std::filesystem::path& file);
+
   bool HasEnded() const { return hasEnded; }
   int ExitStatus() const { return exitStatus; }
   Form1& System() { return form1; }
@@ -35,6 +40,7 @@ class Session : public Events {
 
  private:
   void Run(const std::function<void(Form1& form1)>& event);
+  void OpenFile(Form1& form, const std::filesystem::path& file);
   void ShowState();
   void TellFailure(const char* words);
   void End(int status);

@@ -33,6 +33,8 @@ ProgramFiles::ProgramFiles(ProgramStore& programStore, Lowering& repeatLowering,
       folders(theFolders),
       pictures(thePictures) {}
 
+bool ProgramFiles::IsProgramName(const std::string& name) { return EndingInCapitals(name) == ".ZRM"; }
+
 void ProgramFiles::Bind() {
   dispatch.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
 }
@@ -73,7 +75,7 @@ void ProgramFiles::ShowOpen() {
   PassOver([&] { name = Trimmed(services.ShowOpen()); });
   if (name.empty()) return;
   const std::string ending = EndingInCapitals(name);
-  if (ending == ".ZRM") {
+  if (IsProgramName(name)) {
     OpenProgram(WithoutEnding(name));
   } else if (ending == ".JPG" || ending == ".BMP" || ending == ".GIF") {
     OpenPicture(name);

@@ -20,6 +20,9 @@ class ProgramFiles {
                FormControls& formControls, Services& desktop, Dispatch& dispatcher, const Folders& theFolders,
                Pictures& thePictures);
 
+  /// Whether a name ends in .ZRM, in any case.
+  static bool IsProgramName(const std::string& name);
+
   /// Sets the work of `LOAD`.
   void Bind();
 

@@ -1,0 +1,136 @@
+#include <QImage>
+#include <filesystem>
+
+#include "desktop/arguments.h"
+#include "desktop/desktop_fixture.h"
+
+namespace zerimo {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Items = std::vector<std::string>;
+
+/// A file is given to the program when it starts.
+class OpeningTest : public DesktopTest {
+ protected:
+  fs::path PathOf(const char* name) const { return folder.filePath(QString::fromUtf8(name)).toStdU16String(); }
+  std::string SystemNameOf(const char* name) const { return Folders::ToSystem(PathOf(name)); }
+};
+
+TEST_F(OpeningTest, AProgramIsLoadedAsShowOpenLoadsIt) {
+  WriteFile("Box One.ZRM", "TO BOX\r\nFD 10\r\nEND\r\n");
+  session->Greet({}, PathOf("Box One.ZRM"));
+  const std::string nameWithoutEnding = SystemNameOf("Box One");
+  EXPECT_EQ(Controls().List4.Items(), Items{"? LOAD " + nameWithoutEnding});
+  EXPECT_EQ(Controls().List3.Items(), Items{"TO BOX"});
+  EXPECT_EQ(Controls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
+  EXPECT_EQ(System().Files.CurrentFileName, nameWithoutEnding);
+  EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(OpeningTest, NothingElseDiffersFromShowOpenThanTheTypedLine) {
+  WriteFile("box.zrm", "TO BOX\r\nFD 10\r\nEND\r\n");
+  session->Greet({}, PathOf("box.zrm"));
+  const Items history = Controls().List4.Items();
+  const Items lines = Controls().List1.Items();
+  const std::string name = PathOf("box.zrm").string();
+  AnswerNextBox({Qt::Key_Return}, name.c_str());
+  Enter("show open");
+  EXPECT_EQ(Controls().List4.Items(), (Items{history[0], "?SHOW OPEN", history[0]}));
+  EXPECT_EQ(lines, (Items{" 1  TO BOX", " 2  FD 10", " 3  END"}));
+  EXPECT_EQ(Controls().List1.Items().size(), 2 * lines.size());
+}
+
+TEST_F(OpeningTest, ThePathMayHaveUmlautsAndBeginAtTheCurrentFolder) {
+  QDir(folder.path()).mkpath(QString::fromUtf8("Schöne Bilder"));
+  QFile file(folder.filePath(QString::fromUtf8("Schöne Bilder/Bär.zrm")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("TO BEAR\r\nEND\r\n");
+  file.close();
+  session->Greet({}, fs::path(u8"Schöne Bilder") / u8"Bär.zrm");
+  EXPECT_EQ(Controls().List3.Items(), Items{"TO BEAR"});
+}
+
+TEST_F(OpeningTest, APictureIsShown) {
+  QImage picture(8, 8, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(folder.filePath("red.bmp")));
+  session->Greet({}, PathOf("red.bmp"));
+  ASSERT_EQ(Controls().List4.Items().size(), 1u);
+  EXPECT_EQ(Controls().List4.Items()[0].substr(0, 14), "? LOADPICTURE ");
+  EXPECT_EQ(System().Picture1.Point(30, 30), RGB(255, 0, 0));
+}
+
+TEST_F(OpeningTest, AMissingProgramIsToldByLoad) {
+  AnswerNextBox({Qt::Key_Return});
+  session->Greet({}, PathOf("missing.zrm"));
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_EQ(Boxes[0].Text, "Unable to Load File " + SystemNameOf("missing.ZRM"));
+  EXPECT_EQ(Boxes[0].Buttons, (Items{"Abort", "Retry", "Ignore"}));
+}
+
+TEST_F(OpeningTest, AMissingFileOfAnotherKindIsTold) {
+  AnswerNextBox({Qt::Key_Return});
+  session->Greet({}, PathOf("missing.jpg"));
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_EQ(Boxes[0].Text, "There is no file " + SystemNameOf("missing.jpg"));
+  EXPECT_TRUE(Controls().List4.Items().empty());
+}
+
+TEST_F(OpeningTest, AnotherKindOfFileIsRefused) {
+  WriteFile("a.txt", "x");
+  AnswerNextBox({Qt::Key_Return});
+  session->Greet({}, PathOf("a.txt"));
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_EQ(Boxes[0].Text, "Invalid File Format");
+}
+
+TEST_F(OpeningTest, TheNextShowOpenAsksAgain) {
+  WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
+  session->Greet({}, PathOf("box.zrm"));
+  AnswerNextBox({Qt::Key_Escape});
+  Enter("show open");
+  EXPECT_EQ(Boxes.size(), 1u);
+}
+
+TEST_F(OpeningTest, WhatIsToTellComesBeforeTheFile) {
+  WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
+  Items whileBoxStands{"not looked"};
+  WhileABoxStands([&] { whileBoxStands = Controls().List3.Items(); });
+  session->Greet("Your folder can not be written.", PathOf("box.zrm"));
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_EQ(Boxes[0].Text, "Your folder can not be written.");
+  EXPECT_EQ(Boxes[0].Title, "Zerimo");
+  EXPECT_FALSE(Boxes[0].Icon.isNull());
+  EXPECT_TRUE(whileBoxStands.empty());
+  EXPECT_EQ(Controls().List3.Items(), Items{"TO BOX"});
+}
+
+TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
+  WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
+  session->Deliver([](Form1& form) { form.Controls.Timer2.Enabled = true; });
+  session->Greet({}, PathOf("box.zrm"));
+  EXPECT_TRUE(Controls().List3.Items().empty());
+  EXPECT_TRUE(Until([this] { return Controls().List3.Items() == Items{"TO BOX"}; }));
+  EXPECT_EQ(Focused(), &Row(0));
+}
+
+TEST(Arguments, NoneOrOneFileIsTaken) {
+  EXPECT_EQ(RefusalOf({}), "");
+  EXPECT_EQ(RefusalOf({"box.zrm"}), "");
+}
+
+TEST(Arguments, OptionsAreRefused) {
+  EXPECT_EQ(RefusalOf({"--help"}), "--help: there are no options; the name of one file can be given");
+  EXPECT_EQ(RefusalOf({"-"}), "-: there are no options; the name of one file can be given");
+  EXPECT_EQ(RefusalOf({"box.zrm", "-style"}), "-style: there are no options; the name of one file can be given");
+}
+
+TEST(Arguments, MoreThanOneFileAndAnEmptyNameAreRefused) {
+  EXPECT_EQ(RefusalOf({"a.zrm", "b.zrm"}), "only one file can be opened");
+  EXPECT_EQ(RefusalOf({""}), "the name of the file is empty");
+}
+
+}  // namespace
+}  // namespace zerimo

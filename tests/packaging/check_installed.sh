@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# An installed program works in the user's documents and leaves there what the user changed.
+# Usage: check_installed.sh PACKAGES
+. "$(dirname "$0")/support.sh"
+
+deb=$(the_one "$1/*.deb")
+dpkg-deb -x "$deb" "$work/root"
+zerimo=$work/root/usr/bin/zerimo
+export HOME="$work/Jörg Müller" LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+unset XDG_CONFIG_HOME XDG_DOCUMENTS_DIR
+mkdir -p "$HOME"
+folder=$HOME/Documents/Zerimo
+
+current_folder_is() { [ "$(readlink "/proc/$started/cwd")" = "$1" ]; }
+
+start_window() {
+  (cd "$work" && exec "$zerimo" "$@") &
+  started=$!
+}
+
+end_window() {
+  kill "$started"
+  wait "$started" 2>/dev/null || true
+  started=
+}
+
+start_window
+within 20 test -f "$folder/.zerimo-files" || fail "no folder is made in the documents"
+within 20 current_folder_is "$folder" || fail "the folder is not the current one"
+end_window
+diff -r -x .zerimo-files "$work/root/usr/share/zerimo" "$folder" || fail "the folder is not as installed"
+
+echo mine >"$folder/FLOWER.ZRM"
+rm "$folder/TREE.ZRM" "$folder/ZMHELP/FD"
+start_window "$folder/HOUSE.ZRM"
+within 20 test -f "$folder/ZMHELP/FD" || fail "a help page does not come again"
+within 20 current_folder_is "$folder" || fail "the folder is not the current one"
+end_window
+[ "$(cat "$folder/FLOWER.ZRM")" = mine ] || fail "a changed sample was overwritten"
+[ ! -e "$folder/TREE.ZRM" ] || fail "a deleted sample came again"
+
+for arguments in --help '-x' 'a.zrm b.zrm'; do
+  status=0
+  words=$("$zerimo" $arguments 2>&1) || status=$?
+  [ "$status" = 1 ] || fail "zerimo $arguments ends with $status"
+  [ "$(wc -l <<<"$words")" = 1 ] && [[ $words == zerimo:* ]] || fail "zerimo $arguments says: $words"
+done

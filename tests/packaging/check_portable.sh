@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# The archive is one folder, and works in any place with any name. Usage: check_portable.sh PACKAGES
+. "$(dirname "$0")/support.sh"
+
+archive=$(the_one "$1/*.tar.gz")
+mkdir "$work/my programs"
+tar -xzf "$archive" -C "$work/my programs"
+folders=("$work/my programs"/*)
+[ ${#folders[@]} -eq 1 ] || fail "the archive holds more than one folder: ${folders[*]}"
+cd "${folders[0]}"
+for file in zerimo zerimo-batch README.txt LICENSE ZMHELP/HELP FLOWER.ZRM BOAT1.JPG; do
+  [ -s "$file" ] || fail "$file is missing"
+done
+
+printf '%s\n' CS 'LOAD FLOWER' FLOWER 'HELP FD' '@dump control RichTextBox1' |
+  ./zerimo-batch --transcript "$work/transcript" --picture "$work/flower.png" - >/dev/null
+[ "$(convert "$work/flower.png" -format %k info:)" -gt 1 ] || fail "the sample draws nothing"
+grep -q 'RichTextBox1' "$work/transcript" || fail "there is no help page"
+
+# The window works in this folder, and makes none in the documents.
+HOME=$work/home QT_QPA_PLATFORM=offscreen ./zerimo &
+started=$!
+sleep 1
+kill -0 "$started" || fail "the window does not stand"
+[ ! -e "$work/home" ] || fail "a folder was made elsewhere: $(find "$work/home")"
