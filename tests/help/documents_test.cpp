@@ -5,23 +5,25 @@
 
 #include "claims.h"
 #include "document_examples.h"
+#include "document_links.h"
 
 namespace zerimo::help {
 
 namespace {
 
-constexpr std::array documents = {"language", "quirks", "user-guide"};
+const std::filesystem::path sourceFolder = ZERIMO_SOURCE_DIR;
+
+constexpr std::array documents = {"README.md", "docs/language.md", "docs/quirks.md", "docs/user-guide.md"};
 
 std::string NameOf(const testing::TestParamInfo<const char*>& document) {
-  std::string name = document.param;
+  std::string name = std::filesystem::path(document.param).stem().string();
   std::replace(name.begin(), name.end(), '-', '_');
   return name;
 }
 
 class Document : public testing::TestWithParam<const char*> {
  protected:
-  const std::vector<Example> examples =
-      ExamplesInDocument(std::filesystem::path(ZERIMO_SOURCE_DIR) / "docs" / (std::string(GetParam()) + ".md"));
+  const std::vector<Example> examples = ExamplesInDocument(sourceFolder / GetParam());
 };
 
 }  // namespace
@@ -33,6 +35,13 @@ TEST_P(Document, HasExamplesWithClaims) {
 
 TEST_P(Document, ExamplesDoWhatTheDocumentClaims) {
   for (const Example& example : examples) EXPECT_EQ(ProblemsOf(example, "documents"), "");
+}
+
+TEST(DocumentLinks, LeadToFilesAndHeadingsThatAreThere) {
+  for (const std::filesystem::path& document : AllDocuments(sourceFolder)) {
+    for (const std::string& link : LinksIn(document))
+      EXPECT_TRUE(LeadsSomewhere(document, link)) << link << " in " << document.filename();
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, Document, testing::ValuesIn(documents), NameOf);
