@@ -1,29 +1,21 @@
 #include "core/failure.h"
 
+#include <array>
+
 namespace zerimo {
 
-const char* Failure::what() const noexcept {
-  switch (Kind) {
-    case FailureKind::SubscriptOutOfRange:
-      return "Subscript out of range";
-    case FailureKind::Overflow:
-      return "Overflow";
-    case FailureKind::DivisionByZero:
-      return "Division by zero";
-    case FailureKind::InvalidArgument:
-      return "Invalid argument";
-    case FailureKind::TypeMismatch:
-      return "Type mismatch";
-    case FailureKind::FileNotFound:
-      return "File not found";
-    case FailureKind::FileAccess:
-      return "File access error";
-    case FailureKind::InvalidPicture:
-      return "Invalid picture";
-    case FailureKind::FocusRefused:
-      return "The control can not take the focus";
-  }
-  return "Failure";
-}
+namespace {
+
+/// In the order of `FailureKind`.
+constexpr std::array Words = {
+    "Subscript out of range", "Overflow",        "Division by zero",
+    "Invalid argument",       "Type mismatch",   "File not found",
+    "File access error",      "Invalid picture", "The control can not take the focus",
+};
+static_assert(Words.size() == static_cast<std::size_t>(FailureKind::FocusRefused) + 1);
+
+}  // namespace
+
+const char* Failure::what() const noexcept { return Words[static_cast<std::size_t>(Kind)]; }
 
 }  // namespace zerimo

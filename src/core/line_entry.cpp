@@ -73,9 +73,9 @@ bool Holds(const Keyword& keyword, std::string_view line, std::string_view tail)
     case Keyword::NothingAt:
       return CharacterAt(line, keyword.Position).empty();
     case Keyword::NoTail:
-      return tail.empty();
+      break;
   }
-  return false;
+  return tail.empty();
 }
 
 bool HasAny(std::string_view word, std::string_view characters) {

@@ -99,17 +99,19 @@ void Variables::RebuildList2() {
 void Variables::ListSlots() {
   former.clear();
   shownInList2 = true;
-  List2.SetLazily([this] {
-    shownInList2 = false;
-    std::vector<std::string> items;
-    for (std::size_t index = 0; index < SlotCount; ++index) {
-      const auto kept = former.find(index);
-      const std::string& slot = kept == former.end() ? VariableArray[index] : kept->second;
-      if (slot.empty()) break;
-      items.push_back(slot);
-    }
-    return items;
-  });
+  List2.SetLazily([this] { return ListedSlots(); });
+}
+
+std::vector<std::string> Variables::ListedSlots() {
+  shownInList2 = false;
+  std::vector<std::string> items;
+  for (std::size_t index = 0; index < SlotCount; ++index) {
+    const auto kept = former.find(index);
+    const std::string& slot = kept == former.end() ? VariableArray[index] : kept->second;
+    if (slot.empty()) break;
+    items.push_back(slot);
+  }
+  return items;
 }
 
 void Variables::ForgetAll() {

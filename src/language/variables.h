@@ -66,6 +66,7 @@ class Variables {
   bool SlotGoesOn(int number) const;
   void ReadGlobal(const std::string& name, double& value) const;
   void ListSlots();
+  std::vector<std::string> ListedSlots();
 
   ProgramStore& store;
   ControlPath& path;

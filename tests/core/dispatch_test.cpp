@@ -167,6 +167,29 @@ TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
   EXPECT_EQ(taken, 1);
 }
 
+TEST_F(DispatchTest, AFailureThatAnActionTakesOverEndsTheTail) {
+  const auto fail = [] { throw Failure(FailureKind::Overflow); };
+  int taken = 0;
+  Primitives.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  Primitives.DetailsOn = true;
+  Primitives.RefreshSurface = fail;
+  Primitives.Execute("HELP");
+  EXPECT_EQ(taken, 1) << "by the refreshing of the surface";
+  Primitives.TitleText = fail;
+  Primitives.Execute("HELP");
+  EXPECT_EQ(taken, 2) << "by the status line alone";
+  Primitives.TurtlePos = fail;
+  Primitives.Execute("HELP");
+  EXPECT_EQ(taken, 3) << "by the figure alone";
+  EXPECT_EQ(Primitives.OverflowCount, 0);
+}
+
+TEST_F(DispatchTest, TailWithoutAWindowOnlyCounts) {
+  Primitives.DetailsOn = true;
+  Primitives.Execute("REFRESH");
+  EXPECT_EQ(Primitives.OverflowCount, 1);
+}
+
 TEST_F(DispatchTest, CountStopsAt32767WithoutABox) {
   for (int call = 0; call < 40000; ++call) Primitives.Execute("REFRESH");
   EXPECT_EQ(Primitives.OverflowCount, 32767);

@@ -27,8 +27,9 @@ INSTANTIATE_TEST_SUITE_P(
                     ReadNumber{"3)", 3}, ReadNumber{"1E2", 100}, ReadNumber{"1e2", 100}, ReadNumber{"1D2", 100},
                     ReadNumber{"1d-2", .01}, ReadNumber{"1E", 1}, ReadNumber{"1E+", 1}, ReadNumber{"1E+2", 100},
                     ReadNumber{"E5", 0}, ReadNumber{".E5", 0}, ReadNumber{"&H1F", 31}, ReadNumber{"&hff", 255},
-                    ReadNumber{"&O17", 15}, ReadNumber{"&O18", 1}, ReadNumber{"&X1", 0}, ReadNumber{"5%3", 5},
-                    ReadNumber{"1E-400", 0}, ReadNumber{"-.25", -.25}, ReadNumber{"0E999", 0}));
+                    ReadNumber{"&O17", 15}, ReadNumber{"&o17", 15}, ReadNumber{"&O18", 1}, ReadNumber{"&H1FG", 31},
+                    ReadNumber{"&X1", 0}, ReadNumber{"5%3", 5}, ReadNumber{"1E-400", 0}, ReadNumber{"-.25", -.25},
+                    ReadNumber{"0E999", 0}));
 
 TEST(Val, BeyondTheRangeOfNumbersFails) {
   EXPECT_THROW(Val("1E309"), Failure);
@@ -106,6 +107,7 @@ TEST(Conversions, FailOutOfRange) {
   EXPECT_EQ(ToByte(255.4), 255);
   EXPECT_THROW(ToByte(256), Failure);
   EXPECT_THROW(ToByte(-1), Failure);
+  EXPECT_EQ(ToSingle(.5), .5F);
   EXPECT_THROW(ToSingle(1E39), Failure);
   EXPECT_THROW(ToInt16(std::numeric_limits<double>::quiet_NaN()), Failure);
   EXPECT_THROW(AddInt16(32767, 1), Failure);
