@@ -13,6 +13,11 @@
 #include "batch/options.h"
 #include "batch/picture_output.h"
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 namespace zerimo::batch {
 
 namespace {
@@ -157,11 +162,20 @@ int Main(int count, char** arguments) {
   return Program(options).Run();
 }
 
+/// Sessions and transcripts are bytes, also on a system that has line ends of its own.
+void KeepLineEnds() {
+#ifdef _WIN32
+  _setmode(_fileno(stdin), _O_BINARY);
+  _setmode(_fileno(stdout), _O_BINARY);
+#endif
+}
+
 }  // namespace
 
 }  // namespace zerimo::batch
 
 int main(int argc, char** argv) {
+  zerimo::batch::KeepLineEnds();
   std::ios::sync_with_stdio(false);
   try {
     return zerimo::batch::Main(argc, argv);
