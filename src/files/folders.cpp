@@ -4,11 +4,12 @@
 #include <array>
 #include <fstream>
 #include <optional>
-#include <random>
 #include <system_error>
 
 #include "core/failure.h"
 #include "core/text.h"
+#include "files/confinement.h"
+#include "files/disk_files.h"
 #include "files/unicode_text.h"
 
 namespace zerimo {
@@ -81,42 +82,28 @@ std::optional<fs::path> LookUp(const fs::path& path) {
   return LookUp(path.root_path(), relative.begin(), relative.end());
 }
 
+fs::path WhereToWrite(const fs::path& path) {
+  if (auto found = LookUp(path)) return *found;
+  const auto folder = LookUp(path.parent_path());
+  return folder ? *folder / path.filename() : path;
+}
+
+/// What may not be read is as if it were not there.
+fs::path ToReadConfined(const Confinement& confinement, const fs::path& path) {
+  if (!Confinement::StaysBelow(path)) Fail(FailureKind::FileNotFound);
+  auto found = LookUp(path);
+  if (!found) found = LookUp(confinement.Shelf(), path.begin(), path.end());
+  if (found && !confinement.MayRead(*found)) Fail(FailureKind::FileNotFound);
+  return found.value_or(path);
+}
+
 /// Refuses names that the disk would cut short or that name nothing.
 void RequireName(std::string_view systemPath, FailureKind kind) {
   if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
 }
 
-void WriteThrough(const fs::path& file, const std::string& bytes) {
-  std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-  stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  stream.close();
-  if (!stream) Fail(FailureKind::FileAccess);
-}
-
-/// A name that no other file of the folder has.
-fs::path NameBeside(const fs::path& file) {
-  static constexpr std::array<char, 17> digits = {"0123456789abcdef"};
-  std::random_device random;
-  std::string name = ".zerimo-";
-  for (int i = 0; i < 16; ++i) name += digits[random() % 16];
-  return file.parent_path() / (name + ".tmp");
-}
-
 /// Whether a file that is there may be written; opening it so changes nothing.
 bool IsWritable(const fs::path& file) { return std::ofstream(file, std::ios::binary | std::ios::app).is_open(); }
-
-void WriteBeside(const fs::path& file, const std::string& bytes) {
-  const fs::path beside = NameBeside(file);
-  std::error_code error;
-  try {
-    WriteThrough(beside, bytes);
-    if (fs::exists(file, error)) fs::permissions(beside, fs::status(file).permissions());
-    fs::rename(beside, file);
-  } catch (const std::exception&) {
-    fs::remove(beside, error);
-    Fail(FailureKind::FileAccess);
-  }
-}
 
 }  // namespace
 
@@ -128,14 +115,17 @@ std::string Folders::ToSystem(const fs::path& path) {
 
 fs::path Folders::ToRead(const std::string& systemPath) {
   const fs::path path = AsItStands(systemPath);
+  if (const Confinement* const confinement = Confinement::Current()) return ToReadConfined(*confinement, path);
   return LookUp(path).value_or(path);
 }
 
 fs::path Folders::ToWrite(const std::string& systemPath) {
+  const Confinement* const confinement = Confinement::Current();
   const fs::path path = AsItStands(systemPath);
-  if (auto found = LookUp(path)) return *found;
-  const auto folder = LookUp(path.parent_path());
-  return folder ? *folder / path.filename() : path;
+  if (confinement != nullptr && !Confinement::StaysBelow(path)) Fail(FailureKind::FileAccess);
+  fs::path file = WhereToWrite(path);
+  if (confinement != nullptr && !confinement->MayWrite(file)) Fail(FailureKind::FileAccess);
+  return file;
 }
 
 std::string Folders::ReadFile(const std::string& systemPath) {

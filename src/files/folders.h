@@ -9,7 +9,8 @@
 namespace zerimo {
 
 /// How the system's paths are found on the disk. In a system path a backslash divides folders (a slash does too), and
-/// a drive letter is no folder. Relative paths begin at the current folder of the process.
+/// a drive letter is no folder. Relative paths begin at the current folder of the process. While a `Confinement` lives,
+/// what it does not allow is not found and can't be written.
 class Folders {
  public:
   explicit Folders(std::string appFolder) : AppFolder(std::move(appFolder)) {}
@@ -25,10 +26,11 @@ class Folders {
   static std::string ToSystem(const std::filesystem::path& path);
 
   /// The file to read: looked up exactly, then without regard to case, folder by folder. If there is none, the path
-  /// as it stands.
+  /// as it stands. Fails (file not found) only where a confinement refuses it.
   static std::filesystem::path ToRead(const std::string& systemPath);
 
-  /// The file to write: an existing one of that name in another case, else the name as it stands.
+  /// The file to write: an existing one of that name in another case, else the name as it stands. Fails (file
+  /// access) only where a confinement refuses it.
   static std::filesystem::path ToWrite(const std::string& systemPath);
 
   /// All bytes of a file. Fails (file not found, file access); a file beyond `LargestFile` fails too.
