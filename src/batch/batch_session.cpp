@@ -49,13 +49,13 @@ Outcome BatchSession::RunToTheEnd(const Script& script) {
   try {
     RunSteps(script);
     journal.Finished();
-    return {};
+    return {Ending::Over, {}, 0, "finished"};
   } catch (const Ended& ended) {
     journal.Ended(ended.By);
-    return {};
+    return {Ending::Over, {}, 0, ended.By};
   } catch (const Stopped& stopped) {
     journal.Stopped(stopped.By);
-    return {Ending::Stopped, "stopped by the limit of " + stopped.By, currentLine};
+    return {Ending::Stopped, "stopped by the limit of " + stopped.By, currentLine, stopped.By};
   } catch (const Failure& failure) {
     form.RescueEditorText();
     journal.EndedByFailure(failure.what());

@@ -24,6 +24,8 @@ struct Outcome {
   std::string Message;
   /// The line of the session that it belongs to; 0 for the start of the system.
   int Line = 0;
+  /// What ended or stopped it, as the last event of the transcript tells.
+  std::string By = {};
 };
 
 /// Writes the surface as a picture file, named by single-byte text. An exception tells what went wrong.
@@ -47,6 +49,9 @@ class BatchSession {
   Outcome Run(std::string_view utf8);
 
   Form1& System() { return form; }
+
+  /// The line of the session that is being carried out; 0 before the first.
+  int CurrentLine() const { return currentLine; }
 
  private:
   Outcome RunToTheEnd(const Script& script);

@@ -12,6 +12,8 @@
 #include "batch/latin1.h"
 #include "batch/options.h"
 #include "batch/picture_output.h"
+#include "classroom/class_run.h"
+#include "classroom/pupil_session.h"
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -145,21 +147,30 @@ class HiddenDesktop {
   std::optional<QGuiApplication> application;
 };
 
-int Main(int count, char** arguments) {
-  const std::vector<std::string> words(arguments + 1, arguments + count);
-  const Options options = ParseOptions(words);
-  switch (options.What) {
-    case Options::Wish::Help:
-      std::cout << HelpText();
-      return 0;
-    case Options::Wish::Version:
-      std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
-      return 0;
-    case Options::Wish::Run:
-      break;
+/// The argument by which a class run starts this program for one pupil.
+constexpr const char* PupilArgument = "--class-pupil";
+
+int Main(char* programName, const std::vector<std::string>& words) {
+  if (words == std::vector<std::string>{PupilArgument}) {
+    const HiddenDesktop desktop(programName);
+    return classroom::RunPupil();
   }
-  const HiddenDesktop desktop(arguments[0]);
-  return Program(options).Run();
+  const Options options = ParseOptions(words);
+  if (options.What == Options::Wish::Help) {
+    std::cout << HelpText();
+    return 0;
+  }
+  if (options.What == Options::Wish::Version) {
+    std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
+    return 0;
+  }
+  const HiddenDesktop desktop(programName);
+  if (options.What == Options::Wish::Run) return Program(options).Run();
+  return static_cast<int>(classroom::RunClass(options, ZERIMO_VERSION));
+}
+
+int StatusOfBadUsage(const std::vector<std::string>& words) {
+  return AskForClass(words) ? static_cast<int>(classroom::ClassStatus::BadUsage) : Refused;
 }
 
 /// Sessions and transcripts are bytes, also on a system that has line ends of its own.
@@ -177,11 +188,12 @@ void KeepLineEnds() {
 int main(int argc, char** argv) {
   zerimo::batch::KeepLineEnds();
   std::ios::sync_with_stdio(false);
+  const std::vector<std::string> words(argv + 1, argv + argc);
   try {
-    return zerimo::batch::Main(argc, argv);
+    return zerimo::batch::Main(argv[0], words);
   } catch (const zerimo::batch::UsageError& error) {
     std::cerr << "zerimo-batch: " << error.what() << '\n';
-    return zerimo::batch::Refused;
+    return zerimo::batch::StatusOfBadUsage(words);
   } catch (const std::exception& error) {
     std::cerr << "zerimo-batch: " << error.what() << '\n';
     return static_cast<int>(zerimo::batch::Ending::Failed);

@@ -1,5 +1,6 @@
 #include "batch/options.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -19,6 +20,11 @@ namespace {
 constexpr int LeastScreenHeight = 130;
 constexpr int GreatestScreenSide = 8192;
 constexpr double GreatestSeconds = 1e9;
+/// A program of a class gets less time than a session, for there are many.
+constexpr double SecondsInClass = 10;
+constexpr int LeastMemory = 16;
+constexpr int GreatestMemory = 1 << 20;
+constexpr int MostJobs = 256;
 
 /// The number that is the whole text, or nothing.
 template <typename Number, typename... Format>
@@ -81,31 +87,75 @@ void TakeSeconds(Options& options, const std::string& value) {
   options.Session.Seconds = *seconds;
 }
 
+void TakeClass(Options& options, const std::string& value) {
+  if (value.empty()) Refuse("--class", value, "a folder is wanted");
+  options.Class.Folder = value;
+}
+
+void TakeReport(Options& options, const std::string& value) {
+  if (!IsPageName(value)) Refuse("--out", value, "a file name ending in .html or .htm is wanted");
+  options.Class.Report = value;
+}
+
+void TakeMemory(Options& options, const std::string& value) {
+  const auto memory = WholeText<int>(value);
+  const bool sane = memory && (*memory == 0 || (*memory >= LeastMemory && *memory <= GreatestMemory));
+  if (!sane) Refuse("--memory", value, "megabytes are wanted, from 16 to 1048576, or 0");
+  options.Class.Memory = *memory;
+}
+
+void TakeJobs(Options& options, const std::string& value) {
+  const auto jobs = WholeText<int>(value);
+  if (!jobs || *jobs < 1 || *jobs > MostJobs) Refuse("--jobs", value, "a whole number from 1 to 256 is wanted");
+  options.Class.Jobs = *jobs;
+}
+
+/// The kind of run that an option belongs to.
+enum class Use { Both, Session, Class };
+
 struct ValueOption {
   std::string_view Name;
   void (*Take)(Options& options, const std::string& value);
+  Use For;
 };
 
-constexpr std::array<ValueOption, 6> ValueOptions = {{
-    {"--screen", TakeScreen},
-    {"--app-folder", TakeAppFolder},
-    {"--transcript", TakeTranscript},
-    {"--picture", TakePicture},
-    {"--steps", TakeSteps},
-    {"--seconds", TakeSeconds},
+constexpr std::array<ValueOption, 10> ValueOptions = {{
+    {"--screen", TakeScreen, Use::Both},
+    {"--app-folder", TakeAppFolder, Use::Session},
+    {"--transcript", TakeTranscript, Use::Session},
+    {"--picture", TakePicture, Use::Session},
+    {"--steps", TakeSteps, Use::Both},
+    {"--seconds", TakeSeconds, Use::Both},
+    {"--class", TakeClass, Use::Class},
+    {"--out", TakeReport, Use::Class},
+    {"--memory", TakeMemory, Use::Class},
+    {"--jobs", TakeJobs, Use::Class},
 }};
+
+const ValueOption* FindValueOption(std::string_view name) {
+  const auto* const found = std::ranges::find(ValueOptions, name, &ValueOption::Name);
+  return found == ValueOptions.end() ? nullptr : found;
+}
 
 /// Goes through the arguments one after the other.
 class ArgumentWalk {
  public:
-  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments(all) {}
+  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments(all) {
+    if (!AskForClass(arguments)) return;
+    options.What = Options::Wish::Class;
+    options.Session.Seconds = SecondsInClass;
+  }
 
   Options Parse() {
-    while (next < arguments.size() && options.What == Options::Wish::Run) TakeArgument(arguments[next++]);
+    while (next < arguments.size() && !IsAnswered()) TakeArgument(arguments[next++]);
+    if (IsClass() && options.Class.Report.empty()) throw UsageError("--class: the report is missing, give --out");
     return options;
   }
 
  private:
+  bool IsClass() const { return options.What == Options::Wish::Class; }
+  bool IsAnswered() const { return options.What == Options::Wish::Help || options.What == Options::Wish::Version; }
+
   void TakeArgument(const std::string& argument) {
     const bool isOption = !optionsEnded && argument.size() > 1 && argument[0] == '-';
     if (!isOption) {
@@ -117,6 +167,7 @@ class ArgumentWalk {
     } else if (argument == "--version") {
       options.What = Options::Wish::Version;
     } else if (argument == "--sleep") {
+      RequireUse(argument, Use::Session);
       options.Session.Sleep = true;
     } else {
       TakeValue(argument);
@@ -124,16 +175,20 @@ class ArgumentWalk {
   }
 
   void TakeValue(const std::string& name) {
-    for (const ValueOption& option : ValueOptions) {
-      if (option.Name != name) continue;
-      if (next == arguments.size()) throw UsageError(name + ": a value is missing");
-      option.Take(options, arguments[next++]);
-      return;
-    }
-    throw UsageError(name + ": there is no such option");
+    const ValueOption* const option = FindValueOption(name);
+    if (option == nullptr) throw UsageError(name + ": there is no such option");
+    RequireUse(name, option->For);
+    if (next == arguments.size()) throw UsageError(name + ": a value is missing");
+    option->Take(options, arguments[next++]);
+  }
+
+  void RequireUse(const std::string& name, Use use) const {
+    if (use == Use::Session && IsClass()) throw UsageError(name + ": not with --class");
+    if (use == Use::Class && !IsClass()) throw UsageError(name + ": only with --class");
   }
 
   void TakeSession(const std::string& file) {
+    if (IsClass()) throw UsageError(file + ": no session can be given with --class; put it beside the program");
     if (sessionGiven) throw UsageError(file + ": only one session can be run");
     if (file.empty()) throw UsageError("the name of the session is empty");
     sessionGiven = true;
@@ -151,8 +206,18 @@ class ArgumentWalk {
 
 Options ParseOptions(const std::vector<std::string>& arguments) { return ArgumentWalk(arguments).Parse(); }
 
+bool AskForClass(const std::vector<std::string>& arguments) {
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    if (arguments[i] == "--class") return true;
+    // A value is no option, whatever it looks like.
+    if (FindValueOption(arguments[i]) != nullptr) ++i;
+  }
+  return false;
+}
+
 std::string HelpText() {
   return "Usage: zerimo-batch [options] [SESSION]\n"
+         "       zerimo-batch --class FOLDER --out REPORT.html [options]\n"
          "Runs a session of Zerimo without a window. SESSION is a file, or standard input if it is absent or -.\n"
          "\n"
          "  --screen WxH       size of the screen in pixels (1024x768)\n"
@@ -167,7 +232,21 @@ std::string HelpText() {
          "\n"
          "The whole session is checked before anything runs: a bad directive stops it with its line number.\n"
          "Exit status: 0 the session ended; 1 bad usage, an unreadable session or a bad directive;\n"
-         "2 the system was ended by a failure; 3 a limit stopped it.\n";
+         "2 the system was ended by a failure; 3 a limit stopped it.\n"
+         "\n"
+         "With --class every program (.ZRM) of a folder runs in a process of its own, by the session (.session) of "
+         "the\n"
+         "same name beside it if there is one, and a page about all of them is written.\n"
+         "\n"
+         "  --class FOLDER     the folder of the programs\n"
+         "  --out REPORT       the page to write, .html or .htm; a summary goes beside it as .json\n"
+         "  --seconds S        at most S seconds for each program; 0 is no limit (10)\n"
+         "  --steps N          as above\n"
+         "  --memory MB        at most MB megabytes for each program; 0 is no limit (512)\n"
+         "  --jobs N           N programs at the same time (one for each core)\n"
+         "  --screen WxH       as above\n"
+         "\n"
+         "Exit status with --class: 0 the report is written; 1 it can not be written; 2 bad usage; 3 interrupted.\n";
 }
 
 }  // namespace zerimo::batch

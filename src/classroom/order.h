@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "classroom/pupil.h"
+#include "controls/form_controls.h"
+
+/// How the runner and the process of one run talk: by files in the run's folder.
+namespace zerimo::classroom {
+
+/// The files of a run's folder.
+namespace run_file {
+inline constexpr const char* Order = "order.json";
+inline constexpr const char* Outcome = "outcome.json";
+inline constexpr const char* Transcript = "transcript.jsonl";
+inline constexpr const char* Picture = "picture.png";
+/// There if memory was refused.
+inline constexpr const char* OutOfMemory = "memory";
+/// The folder that the pupil's program works in.
+inline constexpr const char* Scratch = "scratch";
+}  // namespace run_file
+
+/// What a run is told.
+struct Order {
+  Pupil Who;
+  RunLimits Limits;
+  ScreenSize Screen;
+};
+
+/// Fails with `Failure` (file access).
+void WriteOrder(const std::filesystem::path& file, const Order& order);
+std::optional<Order> ReadOrder(const std::filesystem::path& file);
+
+/// Fails with `Failure` (file access).
+void WriteOutcome(const std::filesystem::path& file, const Outcome& outcome);
+/// Nothing if there is no whole outcome.
+std::optional<Outcome> ReadOutcome(const std::filesystem::path& file);
+
+}  // namespace zerimo::classroom

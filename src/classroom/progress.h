@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <ostream>
+
+namespace zerimo::classroom {
+
+/// Tells how far a class run is: on a terminal in one line that changes, elsewhere in a line for each program.
+class Progress {
+ public:
+  Progress(std::ostream& stream, bool onTerminal) : output(stream), terminal(onTerminal) {}
+
+  /// `words` belong to the program that has just been done.
+  void Tell(std::size_t done, std::size_t all, const QString& words);
+  /// A last line that stays.
+  void Close(const QString& words);
+
+  /// Whether standard error is a terminal.
+  static bool StandardErrorIsTerminal();
+
+ private:
+  void WriteOver(QString line);
+
+  std::ostream& output;
+  bool terminal;
+};
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+#include <vector>
+
+namespace zerimo::classroom {
+
+/// One program of a class folder.
+struct Pupil {
+  std::filesystem::path Program;
+  /// The session beside it, or empty.
+  std::filesystem::path Session;
+};
+
+/// How a run went.
+enum class Result {
+  /// The session came to its end, or the program ended the system.
+  Ended,
+  /// By a limit.
+  Stopped,
+  /// By a failure that nothing caught.
+  Failed,
+  /// The session itself is wrong.
+  Refused,
+  /// There was nothing to run.
+  NotRun,
+  /// The process ended without a word.
+  Crashed,
+};
+
+/// The word of a result: "ended", "stopped", "failed", "refused", "not run", "crashed".
+QString WordOf(Result result);
+
+/// Where a run stood when it did not come to its end. What is not known is empty or 0.
+struct Place {
+  /// The line of the session or of what was typed for it, from 1.
+  int Line = 0;
+  QString LineText;
+  QString Procedure;
+  QString Statement;
+};
+
+/// What a run tells of itself.
+struct Outcome {
+  Result How = Result::Crashed;
+  /// `finished`, `BYE`, `QUIT`, `Abort` or `close`; `seconds`, `steps` or `memory`; otherwise empty.
+  QString By;
+  QString Message;
+  Place Where;
+  /// The lines that were typed for the pupil, if there was no session.
+  QStringList Typed;
+  /// What a teacher may want to know besides.
+  QStringList Notes;
+};
+
+/// A message box, a question or a file window, as it was answered.
+struct ShownBox {
+  /// `box`, `input`, `open` or `save`.
+  QString Kind;
+  QString Title;
+  QString Text;
+  /// The words of the buttons; boxes alone have them.
+  QString Buttons;
+  QString Answer;
+};
+
+/// What a run said, as far as it is kept.
+struct Said {
+  QStringList Lines;
+  bool LinesAreCut = false;
+  std::vector<ShownBox> Boxes;
+  bool BoxesAreCut = false;
+};
+
+/// All about one pupil's run.
+struct PupilRun {
+  Pupil Who;
+  Outcome Went;
+  Said Told;
+  /// Wall-clock time of the process.
+  double Seconds = 0;
+  /// The picture as a PNG file, or empty if there is none.
+  std::filesystem::path Picture;
+};
+
+/// The limits of each run; 0 is no limit.
+struct RunLimits {
+  double Seconds = 0;
+  quint64 Steps = 0;
+  /// Megabytes on top of what the system itself needs.
+  int Memory = 0;
+};
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,236 @@
+#include "classroom/pupil_session.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <new>
+#include <stdexcept>
+
+#include "batch/errors.h"
+#include "batch/latin1.h"
+#include "classroom/first_call.h"
+#include "classroom/process_limits.h"
+#include "classroom/readable.h"
+#include "core/failure.h"
+#include "core/text.h"
+#include "files/confinement.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t LargestProgram = std::uintmax_t{4} << 20;
+constexpr std::streamsize LargestTranscript = std::streamsize{1} << 20;
+constexpr std::size_t LongestLoadName = 60;
+/// Characters of a text in the outcome that a pupil has written.
+constexpr qsizetype LongestText = 200;
+
+/// Why a run can't begin.
+class Reason : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+std::string TakeFile(const fs::path& file, const std::string& what) {
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (fs::is_directory(status)) throw Reason(what + " is a folder");
+  if (status.type() == fs::file_type::not_found) throw Reason(what + " is a link that leads nowhere");
+  if (!fs::exists(status)) throw Reason(what + " can not be read");
+  // A pipe would wait for ever.
+  if (!fs::is_regular_file(status)) throw Reason(what + " is no file but a pipe or a device");
+  const std::uintmax_t size = fs::file_size(file, error);
+  if (!error && size > LargestProgram) throw Reason(what + " is too large: the most is 4 megabytes");
+  std::ifstream stream(file, std::ios::binary);
+  std::string bytes(static_cast<std::size_t>(error ? 0 : size), '\0');
+  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (error || !stream.is_open() || stream.bad()) throw Reason(what + " can not be read");
+  bytes.resize(static_cast<std::size_t>(stream.gcount()));
+  return bytes;
+}
+
+/// Whether a name stays as it is when it is typed behind LOAD.
+bool IsPlain(const std::string& name) {
+  return !name.empty() && name.size() <= LongestLoadName && std::ranges::all_of(name, [](char character) {
+    const bool isDigit = character >= '0' && character <= '9';
+    const bool isLetter = (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+    return isDigit || isLetter || character == '_';
+  });
+}
+
+std::string LoadNameOf(const fs::path& file) {
+  const std::u8string stem = file.stem().u8string();
+  const std::string name = UpperCase(std::string(stem.begin(), stem.end()));
+  return IsPlain(name) ? name : "PROGRAM";
+}
+
+QString ShortText(const QString& text) { return text.size() > LongestText ? text.left(LongestText) + u'\u2026' : text; }
+
+QString FromLatin1(const std::string& text) {
+  return ShortText(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+batch::Settings SettingsOf(const Order& order) {
+  batch::Settings settings;
+  settings.Screen = order.Screen;
+  settings.Steps = order.Limits.Steps;
+  settings.Seconds = order.Limits.Seconds;
+  return settings;
+}
+
+std::FILE* memoryNote = nullptr;
+
+/// Leaves a note that memory was refused, should the process not live to tell.
+void NoteMemory() {
+  std::fputc('m', memoryNote);
+  throw std::bad_alloc();
+}
+
+void WatchMemory() {
+  memoryNote = std::fopen(run_file::OutOfMemory, "wb");
+  if (memoryNote == nullptr) return;
+  std::setvbuf(memoryNote, nullptr, _IONBF, 0);
+  std::set_new_handler(NoteMemory);
+}
+
+fs::path InRunFolder(const char* file) { return fs::path("..") / file; }
+
+}  // namespace
+
+PupilSession::PupilSession(const Order& givenOrder)
+    : order(givenOrder),
+      loadName(LoadNameOf(order.Who.Program)),
+      transcriptFile(run_file::Transcript, LargestTranscript),
+      // Pictures that a session asks for on its way are not written; the runner takes the last one.
+      system(SettingsOf(order), pictures.Pixels(), journal, [](const Surface&, const std::string&) {}) {}
+
+Outcome PupilSession::Run() {
+  try {
+    ReadFiles();
+    PlaceProgram();
+    fs::current_path(run_file::Scratch);
+    const Confinement confinement(order.Who.Program.parent_path());
+    RunScript();
+    WritePicture();
+  } catch (const Reason& reason) {
+    outcome.How = Result::NotRun;
+    outcome.Message = QString::fromUtf8(reason.what());
+  }
+  return outcome;
+}
+
+void PupilSession::ReadFiles() {
+  program = TakeFile(order.Who.Program, "the program");
+  if (!order.Who.Session.empty()) session = TakeFile(order.Who.Session, "the session");
+  if (program.empty()) outcome.Notes.append("The file is empty.");
+  const bool isOneLine = program.find('\n') != std::string::npos && program.find('\r') == std::string::npos;
+  if (isOneLine) outcome.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
+}
+
+/// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed.
+void PupilSession::PlaceProgram() {
+  const fs::path scratch(run_file::Scratch);
+  fs::create_directory(scratch);
+  std::ofstream copy(scratch / (loadName + ".ZRM"), std::ios::binary);
+  copy << program;
+  if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
+}
+
+batch::Script PupilSession::TakeScript() {
+  return order.Who.Session.empty() ? ScriptWithoutSession() : system.Read(session);
+}
+
+/// Loads the program and calls the procedure that starts it.
+batch::Script PupilSession::ScriptWithoutSession() {
+  std::vector<std::string> lines = {"LOAD " + loadName};
+  const FirstCall first = FirstCallOf(program, loadName);
+  if (!first.Procedure.empty()) lines.push_back(first.Procedure);
+  if (!first.WhyNone.empty()) outcome.Notes.append(QString::fromStdString(first.WhyNone));
+  batch::Script script;
+  for (const std::string& line : lines) {
+    outcome.Typed.append(FromLatin1(line));
+    script.push_back({static_cast<int>(script.size()) + 1, batch::action::TypeLine{line}});
+  }
+  return script;
+}
+
+void PupilSession::RunScript() {
+  try {
+    const batch::Script script = TakeScript();
+    LimitMemory(order.Limits.Memory);
+    const batch::Outcome went = system.Run(script);
+    LiftMemoryLimit();
+    Tell(went);
+  } catch (const batch::SessionError& error) {
+    Tell({batch::Ending::Refused, error.what(), error.Line});
+  } catch (const std::bad_alloc&) {
+    LiftMemoryLimit();
+    outcome.How = Result::Stopped;
+    outcome.By = "memory";
+    outcome.Where = WhereItStands(system.CurrentLine());
+  }
+  journal.Flush();
+}
+
+void PupilSession::Tell(const batch::Outcome& went) {
+  outcome.By = QString::fromStdString(went.By);
+  outcome.Message = ShortText(QString::fromStdString(went.Message));
+  switch (went.How) {
+    case batch::Ending::Over:
+      outcome.How = Result::Ended;
+      return;
+    case batch::Ending::Refused:
+      outcome.How = Result::Refused;
+      outcome.Where = PlaceOfLine(went.Line);
+      return;
+    case batch::Ending::Failed:
+      outcome.How = Result::Failed;
+      break;
+    case batch::Ending::Stopped:
+      outcome.How = Result::Stopped;
+      break;
+  }
+  outcome.Where = WhereItStands(went.Line);
+}
+
+Place PupilSession::PlaceOfLine(int line) const {
+  const QStringList lines = order.Who.Session.empty() ? outcome.Typed : QString::fromStdString(session).split(u'\n');
+  Place place;
+  place.Line = line;
+  place.LineText = ShortText(lines.value(line - 1).trimmed());
+  return place;
+}
+
+Place PupilSession::WhereItStands(int line) {
+  const Form1& form = system.System();
+  Place place = PlaceOfLine(line);
+  if (form.Path.CtrlStr() == ".") return place;
+  PassOver([&] { place.Procedure = FromLatin1(form.Path.CurrentProcedureName()); });
+  // A typed line runs as a procedure whose name begins with #.
+  if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
+  PassOver([&] { place.Statement = FromLatin1(form.Store.Line(EndValExtractor(form.Path.CtrlStr()))); });
+  return place;
+}
+
+void PupilSession::WritePicture() {
+  try {
+    pictures.Write(system.System().Picture1, InRunFolder(run_file::Picture));
+  } catch (const std::exception&) {
+    outcome.Notes.append("The picture can not be written.");
+  }
+}
+
+int RunPupil() {
+  const std::optional<Order> order = ReadOrder(run_file::Order);
+  if (!order) return 1;
+  TameProcess();
+  WatchMemory();
+  const fs::path folder = fs::current_path();
+  const Outcome outcome = PupilSession(*order).Run();
+  WriteOutcome(folder / run_file::Outcome, outcome);
+  return 0;
+}
+
+}  // namespace zerimo::classroom

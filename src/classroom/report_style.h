@@ -1,0 +1,37 @@
+#pragma once
+
+namespace zerimo::classroom {
+
+/// How the page looks: on a wide window and a telephone, in the light, in the dark and on paper.
+inline constexpr const char* PageStyle = R"(
+:root { color-scheme: light dark; --ink: #1b1f24; --quiet: #57606a; --paper: #ffffff; --sheet: #f3f5f7;
+  --line: #c4cad1; --link: #0550ae; --good: #116329; --bad: #a40e26; }
+@media (prefers-color-scheme: dark) { :root { --ink: #e8eaed; --quiet: #aab2bb; --paper: #16191d; --sheet: #22272d;
+  --line: #4a525c; --link: #79b8ff; --good: #6fdd8b; --bad: #ff9492; } }
+* { box-sizing: border-box; }
+body { margin: 0 auto; padding: 1rem; max-width: 64rem; background: var(--paper); color: var(--ink);
+  font: 1rem/1.5 system-ui, sans-serif; overflow-wrap: anywhere; }
+a { color: var(--link); }
+h1, h2, h3 { line-height: 1.25; margin: 1.5rem 0 .5rem; }
+h3 { font-size: 1rem; }
+p, ul { margin: .5rem 0; }
+.quiet { color: var(--quiet); }
+.table { overflow-x: auto; }
+table { border-collapse: collapse; width: 100%; }
+th, td { border-bottom: 1px solid var(--line); padding: .3rem .6rem .3rem 0; text-align: left; vertical-align: top; }
+td.number, th.number { text-align: right; white-space: nowrap; }
+.good { color: var(--good); font-weight: 600; }
+.bad { color: var(--bad); font-weight: 600; }
+section { border-top: 2px solid var(--line); margin-top: 2rem; }
+img { display: block; max-width: 100%; height: auto; border: 1px solid var(--line); background: #ffffff; }
+pre { margin: .5rem 0; padding: .6rem; background: var(--sheet); border: 1px solid var(--line);
+  font: .9rem/1.4 ui-monospace, monospace; white-space: pre-wrap; }
+.boxes { list-style: none; padding: 0; }
+.boxes li { margin: .5rem 0; padding: .5rem .6rem; background: var(--sheet); border: 1px solid var(--line); }
+.boxes span { display: block; white-space: pre-wrap; }
+.boxes .title { font-weight: 600; }
+@media print { body { max-width: none; padding: 0; font-size: 10pt; } .screen { display: none; }
+  section, .boxes li, tr { break-inside: avoid; } img { max-height: 12cm; width: auto; } }
+)";
+
+}  // namespace zerimo::classroom

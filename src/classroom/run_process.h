@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QProcess>
+#include <chrono>
+#include <functional>
+
+#include "classroom/order.h"
+
+namespace zerimo::classroom {
+
+/// One pupil's run in a process of its own.
+class RunProcess {
+ public:
+  /// Seconds for the start of a process and for its picture, beside the limit of the session.
+  static constexpr double TimeAround = 5;
+
+  /// `folder` is the run's own and is made by `Start`. Nothing that goes wrong leaves this object: it becomes the
+  /// outcome of the run.
+  RunProcess(Order givenOrder, std::filesystem::path folder, double timeAround = TimeAround);
+
+  /// `onEnd` is called when the process has ended; it must leave this object alone.
+  void Start(const QString& program, std::function<void()> onEnd);
+
+  bool HasEnded() const { return ended; }
+
+  /// Kills a process that does not keep the limit of seconds by itself.
+  void EndIfLate();
+
+  /// When it has ended: all about the run. What the program wrote is thrown away.
+  PupilRun TakeRun();
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  Outcome OutcomeOfRun() const;
+  Outcome OutcomeOfSilence() const;
+
+  Order order;
+  std::filesystem::path runFolder;
+  double secondsAround;
+  QProcess process;
+  Clock::time_point begin = Clock::now();
+  Clock::time_point finish = begin;
+  bool ended = false;
+  bool late = false;
+};
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,33 @@
+#include "classroom/bounded_file.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+#include "files/temp_folder.h"
+
+namespace zerimo::classroom {
+namespace {
+
+TEST(BoundedFile, KeepsTheBeginning) {
+  const TempFolder disk;
+  BoundedFile file("f", 10);
+  std::ostream stream(&file);
+  stream << "12345\n"
+         << "6789012345\n"
+         << "more" << std::flush;
+  EXPECT_TRUE(stream.good());
+  EXPECT_EQ(disk.Read("f").substr(0, 6), "12345\n");
+  EXPECT_LE(disk.Read("f").size(), 10U);
+}
+
+TEST(BoundedFile, ALineIsOnTheDiskWhenItEnds) {
+  const TempFolder disk;
+  BoundedFile file("f", 100);
+  std::ostream stream(&file);
+  stream << "line" << '\n';
+  EXPECT_EQ(disk.Read("f"), "line\n");
+}
+
+}  // namespace
+}  // namespace zerimo::classroom

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "support/batch_program.h"
+
+namespace zerimo {
+
+/// A class folder, and the report of a run over it. Temporary files have a folder of their own.
+class ClassTest : public testing::Test {
+ protected:
+  ClassTest() {
+    std::filesystem::create_directories(ClassFolder());
+    std::filesystem::create_directories(TemporaryFolder());
+    // Beside the folder, for the toolkit's own files.
+    const std::filesystem::path runtime = Program.Folder().parent_path() / "runtime";
+    std::filesystem::create_directory(runtime);
+    std::filesystem::permissions(runtime, std::filesystem::perms::owner_all);
+    setenv("TMPDIR", TemporaryFolder().c_str(), 1);
+    setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
+  }
+  ~ClassTest() override {
+    unsetenv("TMPDIR");
+    unsetenv("XDG_RUNTIME_DIR");
+  }
+
+  std::filesystem::path ClassFolder() const { return Program.Folder() / "class"; }
+  std::filesystem::path TemporaryFolder() const { return Program.Folder() / "temporary"; }
+
+  /// A file of the class; a program's lines are written with | for a line end.
+  void Write(const std::string& name, std::string bytes) const {
+    std::string text;
+    for (const char character : bytes) {
+      if (character == '|') {
+        text += "\r\n";
+      } else {
+        text += character;
+      }
+    }
+    Program.Write("class/" + name, text);
+  }
+
+  /// Runs the class and reads what came of it.
+  ProgramRun Run(const std::string& options = {}) {
+    const ProgramRun run = Program.Run("--class class --out report.html " + options);
+    ReadReport();
+    return run;
+  }
+
+  void ReadReport() {
+    Page = Program.Read("report.html");
+    Summary = QJsonDocument::fromJson(QByteArray::fromStdString(Program.Read("report.json"))).object();
+  }
+
+  QJsonObject Pupil(const char* file) const {
+    for (const QJsonValue& pupil : Summary.value("pupils").toArray()) {
+      if (pupil.toObject().value("file").toString() == QLatin1String(file)) return pupil.toObject();
+    }
+    ADD_FAILURE() << "no pupil " << file;
+    return {};
+  }
+
+  /// "ended", "stopped seconds", "not run": the result, and what it was by where something stopped it.
+  std::string ResultOf(const char* file) const {
+    const QJsonObject pupil = Pupil(file);
+    const std::string result = pupil.value("result").toString().toStdString();
+    return result == "stopped" ? result + " " + pupil.value("by").toString().toStdString() : result;
+  }
+
+  std::vector<std::string> PrintedBy(const char* file) const {
+    std::vector<std::string> lines;
+    for (const QJsonValue& line : Pupil(file).value("printed").toArray()) {
+      lines.push_back(line.toString().toStdString());
+    }
+    return lines;
+  }
+
+  using Lines = std::vector<std::string>;
+  static constexpr const char* Endless = "TO SPIN|LABEL L|RT 1|GOTO L|END|";
+
+  BatchProgram Program{ZERIMO_BATCH};
+  std::string Page;
+  QJsonObject Summary;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,120 @@
+#include <fcntl.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstring>
+#include <functional>
+#include <optional>
+#include <thread>
+
+#include "class_fixture.h"
+
+namespace zerimo {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The processes whose parent is a process.
+std::vector<pid_t> ChildrenOf(pid_t parent) {
+  std::vector<pid_t> children;
+  for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
+    const std::string name = entry.path().filename();
+    if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+    const std::string stat = BytesOf(entry.path() / "stat");
+    // Behind the name in brackets: the state and the parent.
+    const std::size_t end = stat.rfind(')');
+    if (end == std::string::npos || stat.size() < end + 5) continue;
+    if (std::atoi(stat.c_str() + end + 4) == parent) children.push_back(std::atoi(name.c_str()));
+  }
+  return children;
+}
+
+template <typename Condition>
+bool WaitUntil(Condition&& condition) {
+  for (int i = 0; i < 1500; ++i) {
+    if (condition()) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  return false;
+}
+
+class ClassSignalsTest : public ClassTest {
+ protected:
+  void Start(const char* seconds) {
+    runner = fork();
+    ASSERT_GE(runner, 0);
+    if (runner > 0) return;
+    const int errors = open((Program.Folder() / "errors").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    dup2(errors, STDERR_FILENO);
+    const bool there = chdir(Program.Folder().c_str()) == 0;
+    if (there)
+      execl(ZERIMO_BATCH, ZERIMO_BATCH, "--class", "class", "--out", "report.html", "--steps", "0", "--seconds",
+            seconds, nullptr);
+    _exit(99);
+  }
+
+  /// The exit status of the runner.
+  int Wait() {
+    int status = 0;
+    waitpid(runner, &status, 0);
+    ReadReport();
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+  /// Whether a run has begun to work: it has made its scratch folder.
+  bool HasBegun() const {
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(TemporaryFolder())) {
+      if (entry.path().filename() == "scratch") return true;
+    }
+    return false;
+  }
+
+  pid_t runner = -1;
+};
+
+TEST_F(ClassSignalsTest, AProcessThatIsKilledIsACrash) {
+  Write("A.ZRM", Endless);
+  Start("30");
+  ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
+  const std::vector<pid_t> children = ChildrenOf(runner);
+  ASSERT_EQ(children.size(), 1U);
+  kill(children[0], SIGKILL);
+  EXPECT_EQ(Wait(), 0);
+  EXPECT_EQ(ResultOf("A.ZRM"), "crashed");
+  EXPECT_EQ(Pupil("A.ZRM").value("message").toString(), "the process was ended by signal 9");
+  EXPECT_NE(Page.find("crashed: the process was ended by signal 9"), std::string::npos);
+}
+
+TEST_F(ClassSignalsTest, AnInterruptEndsTheProcessesAndLeavesNothing) {
+  Program.Write("report.html", "former");
+  Write("A.ZRM", Endless);
+  Start("30");
+  ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
+  const std::vector<pid_t> children = ChildrenOf(runner);
+  ASSERT_EQ(children.size(), 1U);
+  kill(runner, SIGINT);
+  EXPECT_EQ(Wait(), 3);
+  EXPECT_EQ(kill(children[0], 0), -1);
+  EXPECT_EQ(Page, "former");
+  EXPECT_FALSE(fs::exists(Program.Folder() / "report.json"));
+  EXPECT_TRUE(fs::is_empty(TemporaryFolder()));
+  EXPECT_EQ(Program.Read("errors"), "zerimo-batch: interrupted, no report is written\n");
+}
+
+TEST_F(ClassSignalsTest, ProcessesEndWithTheRunner) {
+  Write("A.ZRM", Endless);
+  Start("30");
+  ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
+  const std::vector<pid_t> children = ChildrenOf(runner);
+  ASSERT_EQ(children.size(), 1U);
+  kill(runner, SIGKILL);
+  Wait();
+  // An orphan may stay as a zombie where nobody collects it.
+  EXPECT_TRUE(WaitUntil([&] {
+    const std::string stat = BytesOf("/proc/" + std::to_string(children[0]) + "/stat");
+    return stat.empty() || stat.find(") Z ") != std::string::npos;
+  }));
+}
+
+}  // namespace
+}  // namespace zerimo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "classroom/report.h"
+
+namespace zerimo::classroom {
+
+/// A text that would do harm wherever it is not escaped.
+inline const QString Hostile =
+    QStringLiteral("</pre><script>alert(1)</script><img src=x onerror='a()'>\" onload=\"&lt;\u202e\x1b[2J");
+
+/// A report with that text in every place that a pupil can reach.
+inline Report HostileReport() {
+  PupilRun run;
+  run.Who = {"/class/" + Hostile.toStdString().substr(6, 30) + "\"'&\n\xFF.ZRM", "/class/<b>\".session"};
+  run.Went.How = Result::Failed;
+  run.Went.By = Hostile;
+  run.Went.Message = Hostile;
+  run.Went.Where = {1, Hostile, Hostile, Hostile};
+  run.Went.Typed = {Hostile};
+  run.Went.Notes = {Hostile};
+  run.Told.Lines = {Hostile, Hostile};
+  run.Told.Boxes = {{"box", Hostile, Hostile, Hostile, Hostile}, {"input", Hostile, Hostile, {}, Hostile}};
+  Report report;
+  report.Folder = Hostile;
+  report.Made = "2026-01-02T03:04:05";
+  report.Version = "1.2.3";
+  report.Limits = {10, 1000, 64};
+  report.Runs = {run, run};
+  report.Runs[1].Who.Session.clear();
+  return report;
+}
+
+}  // namespace zerimo::classroom

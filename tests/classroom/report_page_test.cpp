@@ -1,0 +1,161 @@
+#include "classroom/report_page.h"
+
+#include <gtest/gtest.h>
+
+#include <QCryptographicHash>
+#include <QRegularExpression>
+#include <QSet>
+
+#include "files/temp_folder.h"
+#include "hostile_report.h"
+
+namespace zerimo::classroom {
+namespace {
+
+/// A picture of one pixel.
+const QByteArray OnePixel = QByteArray::fromBase64(
+    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5ErkJggg==");
+
+PupilRun RunOf(const char* file) {
+  PupilRun run;
+  run.Who.Program = file;
+  run.Went.How = Result::Ended;
+  run.Went.By = "finished";
+  run.Seconds = 0.42;
+  return run;
+}
+
+QString PageWith(std::vector<PupilRun> runs) {
+  Report report;
+  report.Folder = "class 5a";
+  report.Limits = {10, 1000, 0};
+  report.Runs = std::move(runs);
+  return QString::fromUtf8(PageOf(report));
+}
+
+/// The matches of the first group.
+QStringList AllMatches(const QString& text, const char* pattern) {
+  QStringList all;
+  for (auto walk = QRegularExpression(pattern).globalMatch(text); walk.hasNext();) all.append(walk.next().captured(1));
+  return all;
+}
+
+QSet<QString> Set(const QStringList& texts) { return {texts.begin(), texts.end()}; }
+
+/// The page without its style, in which braces and stars stand.
+QString WithoutStyle(QString page) {
+  return page.remove(QRegularExpression("<style>.*</style>", QRegularExpression::DotMatchesEverythingOption));
+}
+
+TEST(ReportPage, HasNoElementButItsOwn) {
+  const QString page = WithoutStyle(QString::fromUtf8(PageOf(HostileReport())));
+  const QSet<QString> known = {"!DOCTYPE", "html",  "head", "meta",    "title", "body",  "header", "main", "h1",
+                               "h2",       "h3",    "br",   "p",       "a",     "table", "thead",  "tr",   "th",
+                               "td",       "tbody", "div",  "section", "span",  "pre",   "ul",     "li"};
+  EXPECT_EQ(Set(AllMatches(page, "</?([^ >]*)")) - known, QSet<QString>());
+}
+
+TEST(ReportPage, HasNoAttributeButItsOwn) {
+  QString page = WithoutStyle(QString::fromUtf8(PageOf(HostileReport())));
+  QStringList names;
+  for (const QString& tag : AllMatches(page, "<([^>]*)>")) {
+    QString attributes = tag;
+    attributes.remove(QRegularExpression("\"[^\"]*\""));
+    names += AllMatches(attributes, " ([^ =]+)");
+  }
+  const QSet<QString> known = {"html", "lang", "charset", "http-equiv", "content",        "name",
+                               "id",   "href", "class",   "scope",      "aria-labelledby"};
+  EXPECT_EQ(Set(names) - known, QSet<QString>());
+}
+
+TEST(ReportPage, HostileTextStandsAsText) {
+  const QString page = QString::fromUtf8(PageOf(HostileReport()));
+  EXPECT_TRUE(page.contains("&lt;script&gt;alert(1)&lt;/script&gt;"));
+  EXPECT_TRUE(page.contains("&quot; onload=&quot;&amp;lt;"));
+  EXPECT_TRUE(page.contains("[U+202E][U+001B][2J"));
+  EXPECT_FALSE(page.contains(u'\x1b'));
+  EXPECT_FALSE(page.contains(QChar(0x202e)));
+}
+
+TEST(ReportPage, AllowsNothingFromOutsideAndNoScript) {
+  const QString page = QString::fromUtf8(PageOf(HostileReport()));
+  const QString style = AllMatches(page, "(?s)<style>(.*)</style>").value(0);
+  const QByteArray hash = QCryptographicHash::hash(style.toUtf8(), QCryptographicHash::Sha256).toBase64();
+  EXPECT_TRUE(
+      page.contains("<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; "
+                    "style-src 'sha256-" +
+                    QString::fromLatin1(hash) + "'; base-uri 'none'; form-action 'none'\">"));
+  for (const char* outward : {"http://", "https://", "url(", "@import"})
+    EXPECT_FALSE(page.contains(outward)) << outward;
+}
+
+TEST(ReportPage, LinksFromTheOverviewToEachPupil) {
+  const QString page = PageWith({RunOf("ANNA.ZRM"), RunOf("BEN.ZRM")});
+  EXPECT_EQ(AllMatches(page, "href=\"#(p[0-9]+)\""), (QStringList{"p1", "p2"}));
+  EXPECT_EQ(AllMatches(page, "<section id=\"(p[0-9]+)\""), (QStringList{"p1", "p2"}));
+  EXPECT_TRUE(
+      page.contains("<a href=\"#p1\">ANNA.ZRM</a></th><td><span class=\"good\">ended</span></td>"
+                    "<td class=\"number\">0</td><td class=\"number\">0.4 s</td>"));
+  EXPECT_LT(page.indexOf("<h2 id=\"h1\">ANNA.ZRM</h2>"), page.indexOf("<h2 id=\"h2\">BEN.ZRM</h2>"));
+}
+
+TEST(ReportPage, HoldsThePicture) {
+  const TempFolder disk;
+  disk.Write("p.png", OnePixel.toStdString());
+  PupilRun run = RunOf("A\"B.ZRM");
+  run.Picture = "p.png";
+  EXPECT_TRUE(PageWith({run}).contains(
+      "<img width=\"1\" height=\"1\" alt=\"Picture drawn by A&quot;B.ZRM\" src=\"data:image/png;base64," +
+      QString::fromLatin1(OnePixel.toBase64()) + "\">"));
+}
+
+TEST(ReportPage, SaysThatThereIsNoPicture) {
+  EXPECT_TRUE(PageWith({RunOf("ANNA.ZRM")}).contains("<p>There is no picture.</p>"));
+}
+
+TEST(ReportPage, ShowsWhatWasSaidAndAsked) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Told.Lines = {"?A", "two\r\nlines"};
+  run.Told.Boxes = {
+      {"box", "Zerimo", "RIGHT!", "OK", "OK"}, {"box", "", "SURE?", "Yes, No", "No"}, {"input", "", "NAME?", {}, ""}};
+  const QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("<pre>\n?A\ntwo\nlines</pre>"));
+  EXPECT_TRUE(
+      page.contains("<li><span class=\"title\">Zerimo</span><span class=\"text\">RIGHT!</span>"
+                    "<span class=\"quiet\">OK</span></li>"));
+  EXPECT_TRUE(page.contains("<span class=\"quiet\">Yes, No \u2192 No</span>"));
+  EXPECT_TRUE(page.contains("<span class=\"quiet\">Question, answered: nothing</span>"));
+  EXPECT_FALSE(page.contains("left out"));
+}
+
+TEST(ReportPage, SaysWhatIsLeftOut) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Told.Lines = {"?A"};
+  run.Told.LinesAreCut = true;
+  run.Told.Boxes = {{"box", "", "B", "OK", "OK"}};
+  run.Told.BoxesAreCut = true;
+  const QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("More was printed; it is left out here."));
+  EXPECT_TRUE(page.contains("More boxes were shown; they are left out here."));
+  EXPECT_TRUE(page.contains("<td class=\"number\">1 or more</td>"));
+}
+
+TEST(ReportPage, TellsWhereARunWasStopped) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.How = Result::Stopped;
+  run.Went.By = "steps";
+  run.Went.Where = {2, "SPIN", "SPIN", "GOTO L"};
+  run.Went.Typed = {"LOAD ANNA", "SPIN"};
+  const QString page = PageWith({run});
+  EXPECT_TRUE(
+      page.contains("<span class=\"bad\">stopped: more than 1000 steps in one line</span>, in line 2 (SPIN), "
+                    "in the procedure SPIN at GOTO L"));
+  EXPECT_TRUE(page.contains("Typed: LOAD ANNA, SPIN"));
+}
+
+TEST(ReportPage, SaysThatAFolderHasNoPrograms) {
+  EXPECT_TRUE(PageWith({}).contains("There is no program (.ZRM) in the folder."));
+}
+
+}  // namespace
+}  // namespace zerimo::classroom

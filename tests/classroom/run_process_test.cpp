@@ -1,0 +1,144 @@
+#include "classroom/run_process.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+#include "classroom/class_runner.h"
+#include "files/temp_folder.h"
+
+namespace zerimo::classroom {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A script stands for the program that carries out an order.
+class RunProcessTest : public testing::Test {
+ protected:
+  QString Script(const std::string& commands) {
+    Disk.Write("program", "#!/bin/sh\n" + commands + "\n");
+    fs::permissions("program", fs::perms::owner_all);
+    return QString::fromStdString((Disk.Path / "program").string());
+  }
+
+  /// Runs a script that gets a second, and none around.
+  PupilRun RunOf(const QString& program) {
+    Order order;
+    order.Who.Program = "ANNA.ZRM";
+    order.Limits.Seconds = 1;
+    RunProcess process(order, Disk.Path / "run", 0);
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&process] { process.EndIfLate(); });
+    timer.start(10);
+    QEventLoop loop;
+    process.Start(program, [&loop] { QTimer::singleShot(0, &loop, &QEventLoop::quit); });
+    loop.exec();
+    EXPECT_TRUE(process.HasEnded());
+    return process.TakeRun();
+  }
+
+  void ExpectCrash(const PupilRun& run, const char* message) {
+    EXPECT_EQ(run.Went.How, Result::Crashed);
+    EXPECT_EQ(run.Went.Message, message);
+  }
+
+  int count = 1;
+  char name[5] = "test";
+  char* arguments[2] = {name, nullptr};
+  QCoreApplication Application{count, arguments};
+  TempFolder Disk;
+};
+
+TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
+  RunOf(Script("cp order.json ../found; echo \"$@\" > ../arguments"));
+  const std::optional<Order> order = ReadOrder("found");
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->Who.Program, "ANNA.ZRM");
+  EXPECT_EQ(order->Limits.Seconds, 1);
+  EXPECT_EQ(Disk.Read("arguments"), "--class-pupil\n");
+}
+
+TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
+  WriteOutcome("outcome", {Result::Stopped, "steps", "words", {}, {}, {}});
+  const PupilRun run = RunOf(Script("cp ../outcome outcome.json; exit 1"));
+  EXPECT_EQ(run.Went.How, Result::Stopped);
+  EXPECT_EQ(run.Went.By, "steps");
+}
+
+TEST_F(RunProcessTest, AProcessThatIsLateIsKilled) {
+  const PupilRun run = RunOf(Script("exec sleep 30"));
+  EXPECT_EQ(run.Went.How, Result::Stopped);
+  EXPECT_EQ(run.Went.By, "seconds");
+  EXPECT_GE(run.Seconds, 1);
+}
+
+TEST_F(RunProcessTest, AProcessThatEndsWithoutAWordIsACrash) {
+  ExpectCrash(RunOf(Script("kill -9 $$")), "the process was ended by signal 9");
+  ExpectCrash(RunOf(Script("exit 3")), "the process ended with status 3");
+  ExpectCrash(RunOf("/no/such/program"), "the process could not be started");
+}
+
+TEST_F(RunProcessTest, HalfAnOutcomeIsACrash) {
+  ExpectCrash(RunOf(Script("echo '{\"result\":\"ended\"' > outcome.json")), "the process ended with status 0");
+}
+
+TEST_F(RunProcessTest, AProcessThatDiesOfMemoryIsStoppedByIt) {
+  const PupilRun run = RunOf(Script("echo m > memory; kill -6 $$"));
+  EXPECT_EQ(run.Went.How, Result::Stopped);
+  EXPECT_EQ(run.Went.By, "memory");
+}
+
+TEST_F(RunProcessTest, WhatWasSaidBeforeACrashIsKept) {
+  const PupilRun run =
+      RunOf(Script("echo '{\"event\":\"list\",\"op\":\"add\",\"item\":\"?A\"}' > transcript.jsonl; kill -11 $$"));
+  EXPECT_EQ(run.Told.Lines, QStringList{"?A"});
+}
+
+TEST_F(RunProcessTest, OutputOfTheProcessGoesNowhere) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  RunOf(Script("echo out; echo err >&2; cat"));
+  EXPECT_EQ(testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(RunProcessTest, APictureIsTakenUnlessItIsHuge) {
+  EXPECT_EQ(RunOf(Script("echo p > picture.png")).Picture, Disk.Path / "run/picture.png");
+  const PupilRun run = RunOf(Script("truncate -s 9M picture.png"));
+  EXPECT_EQ(run.Picture, fs::path());
+  EXPECT_EQ(run.Went.Notes, QStringList{"The picture is too large for the report."});
+}
+
+TEST_F(RunProcessTest, WhatTheProgramWroteIsThrownAway) {
+  RunOf(Script("mkdir scratch; echo x > scratch/X"));
+  EXPECT_FALSE(Disk.Has("run/scratch"));
+}
+
+TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
+  Disk.MakeFolder("runs");
+  ClassRunner::Plan plan;
+  plan.Jobs = 2;
+  // The first one waits until the last one runs; each notes how many there are.
+  plan.Program = Script(
+      "touch ../$$.here; ls .. | grep -c here >> ../counts\n"
+      "case $PWD in */0) while [ ! -e ../3 ]; do sleep 0.01; done;; esac\n"
+      "rm ../$$.here; exit ${PWD##*/}");
+  plan.Folder = Disk.Path / "runs";
+  std::vector<std::string> done;
+  ClassRunner runner(plan, {{"A", {}}, {"B", {}}, {"C", {}}, {"D", {}}},
+                     [&done](const PupilRun& run, std::size_t number) {
+                       done.push_back(run.Who.Program.string() + std::to_string(number));
+                     });
+  const std::optional<std::vector<PupilRun>> runs = runner.Run();
+  ASSERT_TRUE(runs);
+  std::string order;
+  for (const PupilRun& run : *runs) order += run.Who.Program.string() + run.Went.Message.right(1).toStdString();
+  EXPECT_EQ(order, "A0B1C2D3");
+  EXPECT_EQ(done.size(), 4U);
+  EXPECT_EQ(done.at(0), "B1");
+  EXPECT_EQ(Disk.Read("runs/counts").find_first_of("3456789"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zerimo::classroom
