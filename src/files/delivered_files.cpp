@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "core/failure.h"
@@ -98,7 +99,7 @@ class DeliveryList {
   void Save() const {
     if (!isChanged) return;
     std::string text(ListHead);
-    for (const auto& [name, mark] : marks) text += mark + " " + name + "\n";
+    for (const auto& [name, mark] : marks) text.append(mark).append(" ").append(name).append("\n");
     WriteBeside(file, text);
   }
 
@@ -116,7 +117,7 @@ class DeliveryList {
 /// One walk from the source to the target.
 class DeliveryRound {
  public:
-  DeliveryRound(const fs::path& from, const fs::path& to) : source(from), target(to), list(to) {}
+  DeliveryRound(fs::path from, const fs::path& to) : source(std::move(from)), target(to), list(to) {}
 
   Delivery Run() {
     DeliverFolder({}, IsSampleOrPicture, false);
