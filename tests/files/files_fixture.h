@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "files/temp_folder.h"
 #include "graphics/canvas.h"
 #include "graphics/surface.h"
+#include "support/failure_of.h"
 #include "support/interpreter.h"
 
 namespace zerimo {
@@ -66,16 +66,5 @@ class FilesTest : public ::testing::Test, protected Interpreter {
 };
 
 using Texts = std::vector<std::string>;
-
-/// The kind of the failure that a statement leaves with; nothing if it goes through.
-template <typename Statement>
-std::optional<FailureKind> FailureOf(Statement&& statement) {
-  try {
-    statement();
-    return std::nullopt;
-  } catch (const Failure& failure) {
-    return failure.Kind;
-  }
-}
 
 }  // namespace zerimo
