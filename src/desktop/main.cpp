@@ -62,7 +62,7 @@ int RunInWindow(int argc, char** argv) {
   const StartFolder start = PrepareStartFolder(LookAround());
   std::error_code ignored;
   if (start.IsCurrentFolder) fs::current_path(start.Folder, ignored);
-  Session session(QApplication::primaryScreen()->availableGeometry(), Folders::ToSystem(start.Folder));
+  Session session(QApplication::primaryScreen()->availableGeometry(), AppFolderName(start.Folder));
   session.Start();
   session.Greet(WordsAbout(start), file);
   if (!session.HasEnded()) QApplication::exec();

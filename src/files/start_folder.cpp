@@ -4,6 +4,7 @@
 
 #include "files/delivered_files.h"
 #include "files/disk_files.h"
+#include "files/folders.h"
 
 namespace zerimo {
 
@@ -31,6 +32,13 @@ StartFolder PrepareStartFolder(const Surroundings& around) {
   const bool isInOneFolder = HasHelpPages(around.ProgramFolder) || !HasHelpPages(around.ShareFolder);
   if (isInOneFolder && around.CanWriteIntoProgramFolder) return {around.ProgramFolder, false, {}};
   return PrepareUserFolder(isInOneFolder ? around.ProgramFolder : around.ShareFolder, around.DocumentsFolder);
+}
+
+std::string AppFolderName(const fs::path& folder) {
+  const std::string name = Folders::ToSystem(folder);
+  std::error_code error;
+  if (fs::equivalent(Folders::ToRead(name), folder, error)) return name;
+  return fs::equivalent(".", folder, error) ? "." : name;
 }
 
 }  // namespace zerimo

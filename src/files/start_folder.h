@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace zerimo {
 
@@ -29,5 +30,9 @@ struct StartFolder {
 /// `Zerimo` in the user's documents, which is made and brought up to date here (see `DeliverFiles`); where that can't
 /// be written and has no help pages either, the folder that it should have been filled from.
 StartFolder PrepareStartFolder(const Surroundings& around);
+
+/// A folder as `AppFolder`: the system's name of it. If that leads elsewhere, because the path has characters that the
+/// system does not have, and the folder is the current one, it is a full stop.
+std::string AppFolderName(const std::filesystem::path& folder);
 
 }  // namespace zerimo

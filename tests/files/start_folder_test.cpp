@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "files/folders.h"
 #include "files/temp_folder.h"
 
 namespace zerimo {
@@ -109,6 +110,27 @@ TEST_F(StartFolderTest, AFolderWithTheHelpPagesIsUsedAlsoIfNotAllCanBeWritten) {
   EXPECT_EQ(start.Folder, Disk.Path / "documents/Zerimo");
   EXPECT_EQ(start.Unusable, Disk.Path / "documents/Zerimo");
   EXPECT_TRUE(Disk.Has("documents/Zerimo/ZMHELP/NEW"));
+}
+
+TEST(AppFolderNameTest, IsThatOfTheSystem) {
+  const TempFolder disk;
+  disk.MakeFolder("b");
+  EXPECT_EQ(AppFolderName(disk.Path / "b"), Folders::ToSystem(disk.Path) + "\\b");
+}
+
+TEST(AppFolderNameTest, MayHaveQuestionMarksForCharactersThatTheSystemDoesNotHave) {
+  const TempFolder disk;
+  fs::create_directories(disk.Path / u8"Документы");
+  EXPECT_EQ(AppFolderName(disk.Path / u8"Документы"), Folders::ToSystem(disk.Path) + "\\?????????");
+}
+
+TEST(AppFolderNameTest, IsTheCurrentFolderIfItsNameIsNotFound) {
+  const TempFolder disk;
+  const fs::path folder = disk.Path / u8"Документы";
+  fs::create_directories(folder);
+  fs::create_directories(disk.Path / u8"Программы");
+  fs::current_path(folder);
+  EXPECT_EQ(AppFolderName(folder), ".");
 }
 
 }  // namespace
