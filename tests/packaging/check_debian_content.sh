@@ -34,6 +34,8 @@ for screenshot in $screenshots; do
   [ "$(identify -format '%wx%h' "usr/share/doc/zerimo/$screenshot")" = 1024x768 ] || fail "$screenshot has another size"
 done
 
+links_lead_somewhere usr/share/doc/zerimo
+
 # Every sample of the sources, and nothing of the builder's.
 for sample in "$3"/samples/*; do cmp "$sample" "usr/share/zerimo/$(basename "$sample")"; done
 others=$(find . -type f -not -path './usr/share/*' -not -path './usr/bin/zerimo' -not -path './usr/bin/zerimo-batch')

@@ -19,8 +19,7 @@ start_window() {
 }
 
 end_window() {
-  kill "$started"
-  wait "$started" 2>/dev/null || true
+  end_process "$started"
   started=
 }
 
@@ -32,12 +31,18 @@ diff -r -x .zerimo-files "$work/root/usr/share/zerimo" "$folder" || fail "the fo
 
 echo mine >"$folder/FLOWER.ZRM"
 rm "$folder/TREE.ZRM" "$folder/ZMHELP/FD"
-start_window "$folder/HOUSE.ZRM"
+start_window
 within 20 test -f "$folder/ZMHELP/FD" || fail "a help page does not come again"
 within 20 current_folder_is "$folder" || fail "the folder is not the current one"
 end_window
 [ "$(cat "$folder/FLOWER.ZRM")" = mine ] || fail "a changed sample was overwritten"
 [ ! -e "$folder/TREE.ZRM" ] || fail "a deleted sample came again"
+
+# The file that is given is opened: a missing one is told in a box.
+start_display
+start_window "no file.zrm"
+within 30 windows_stand 2 || fail "no box tells that the file is missing"
+end_window
 
 for arguments in --help '-x' 'a.zrm b.zrm'; do
   status=0

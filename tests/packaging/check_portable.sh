@@ -8,9 +8,11 @@ tar -xzf "$archive" -C "$work/my programs"
 folders=("$work/my programs"/*)
 [ ${#folders[@]} -eq 1 ] || fail "the archive holds more than one folder: ${folders[*]}"
 cd "${folders[0]}"
-for file in zerimo zerimo-batch README.txt LICENSE ZMHELP/HELP FLOWER.ZRM BOAT1.JPG; do
+for file in zerimo zerimo-batch README.txt LICENSE ZMHELP/HELP FLOWER.ZRM BOAT1.JPG docs/user-guide.md docs/quirks.md; do
   [ -s "$file" ] || fail "$file is missing"
 done
+
+links_lead_somewhere docs
 
 printf '%s\n' CS 'LOAD FLOWER' FLOWER 'HELP FD' '@dump control RichTextBox1' |
   ./zerimo-batch --transcript "$work/transcript" --picture "$work/flower.png" - >/dev/null
@@ -18,8 +20,8 @@ printf '%s\n' CS 'LOAD FLOWER' FLOWER 'HELP FD' '@dump control RichTextBox1' |
 grep -q 'RichTextBox1' "$work/transcript" || fail "there is no help page"
 
 # The window works in this folder, and makes none in the documents.
-HOME=$work/home QT_QPA_PLATFORM=offscreen ./zerimo &
+start_display
+HOME=$work/home ./zerimo &
 started=$!
-sleep 1
-kill -0 "$started" || fail "the window does not stand"
-[ ! -e "$work/home" ] || fail "a folder was made elsewhere: $(find "$work/home")"
+within 30 windows_stand 1 || fail "the window does not stand"
+[ ! -e "$work/home/Documents" ] || fail "a folder was made elsewhere: $(find "$work/home")"

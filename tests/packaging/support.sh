@@ -3,12 +3,20 @@ set -euo pipefail
 
 work=$(mktemp -d)
 started=
+display=
 finish() {
-  [ -z "$started" ] || kill "$started" 2>/dev/null || true
-  [ -z "$started" ] || wait "$started" 2>/dev/null || true
+  end_process "$started"
+  end_process "$display"
   rm -rf "$work"
 }
 trap finish EXIT
+
+# end_process PROCESS: ends it and waits for it, if there is one.
+end_process() {
+  [ -n "$1" ] || return 0
+  kill "$1" 2>/dev/null || true
+  wait "$1" 2>/dev/null || true
+}
 
 fail() {
   echo "$1" >&2
@@ -30,4 +38,28 @@ within() {
     [ "$SECONDS" -lt "$end" ] || return 1
     sleep 0.1
   done
+}
+
+# A display for the windows that are started from now on.
+start_display() {
+  Xvfb -displayfd 3 -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
+  display=$!
+  within 30 test -s "$work/display" || fail "the display does not start"
+  DISPLAY=:$(cat "$work/display")
+  export DISPLAY QT_QPA_PLATFORM=xcb DBUS_SESSION_BUS_ADDRESS=disabled:
+}
+
+# windows_stand NUMBER: so many windows and boxes of the program can be seen.
+windows_stand() { [ "$(xdotool search --onlyvisible --name '^Zerimo' 2>/dev/null | wc -l)" -eq "$1" ]; }
+
+# links_lead_somewhere FOLDER: the pictures and files that its documents name are there.
+links_lead_somewhere() {
+  local page link links=0
+  for page in "$1"/*.md; do
+    for link in $(grep -oE '\]\([^)#:]+[)#]' "$page" | sed 's/^](//; s/.$//'); do
+      [ -e "$1/$link" ] || fail "$page names $link, which is not there"
+      links=$((links + 1))
+    done
+  done
+  [ "$links" -gt 50 ] || fail "there are only $links links in $1"
 }
