@@ -14,4 +14,6 @@ grep -q "^zerimo ($version) " "$2"/changelog || fail "the changelog tells anothe
 grep -q "\"Zerimo $version\"" "$2"/zerimo.1 || fail "zerimo(1) tells another version"
 grep -q "\"Zerimo $version\"" "$2"/zerimo-batch.1 || fail "zerimo-batch(1) tells another version"
 grep -q "^Zerimo $version\$" "$2"/README.txt || fail "the portable README tells another version"
+welcome=$("$4" --transcript - - <<<'@dump control Label20(2)')
+grep -qF "\"Zerimo Version ${version%.*}\"" <<<"$welcome" || fail "the title picture tells another version: $welcome"
 [ "$("$4" --version)" = "zerimo-batch $version" ] || fail "zerimo-batch tells another version"
