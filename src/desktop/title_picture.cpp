@@ -30,20 +30,27 @@ void DrawRosette(QPainter& painter, QPointF centre, double side, double opacity)
   painter.restore();
 }
 
+struct TurtleColors {
+  QColor Skin, Shell, Plate;
+};
+
+constexpr TurtleColors InTheGrass{QColor(120, 190, 80), QColor(46, 125, 60), QColor(86, 165, 92)};
+
+/// Those of the icons, lighter, so that the turtle is seen in the smallest ones too.
+constexpr TurtleColors OnTheIcon{QColor(164, 220, 108), QColor(54, 160, 76), QColor(134, 212, 134)};
+
 /// A turtle seen from above, its head to the right; the shell is two units long.
-void DrawTurtle(QPainter& painter) {
-  const QColor skin(120, 190, 80);
-  const QColor shell(46, 125, 60);
+void DrawTurtle(QPainter& painter, const TurtleColors& colors) {
   painter.setPen(QPen(QColor(22, 70, 32), 0.06));
-  painter.setBrush(skin);
+  painter.setBrush(colors.Skin);
   painter.drawEllipse(QPointF(1.25, 0), 0.42, 0.32);
   for (const double x : {-0.65, 0.65}) {
     for (const double y : {-0.8, 0.8}) painter.drawEllipse(QPointF(x, y), 0.3, 0.26);
   }
   painter.drawPolygon(QPolygonF({{-0.95, -0.15}, {-1.45, 0}, {-0.95, 0.15}}));
-  painter.setBrush(shell);
+  painter.setBrush(colors.Shell);
   painter.drawEllipse(QPointF(0, 0), 1.0, 0.8);
-  painter.setBrush(QColor(86, 165, 92));
+  painter.setBrush(colors.Plate);
   painter.drawPolygon(QPolygonF({{-0.2, -0.35}, {0.2, -0.35}, {0.42, 0}, {0.2, 0.35}, {-0.2, 0.35}, {-0.42, 0}}));
   painter.setPen(Qt::NoPen);
   painter.setBrush(Qt::black);
@@ -101,7 +108,7 @@ void DrawTitlePicture(QPainter& painter, const QSize& size) {
   painter.translate(width - unit * 0.24, height * 0.84);
   painter.rotate(-12);
   painter.scale(unit * 0.075, unit * 0.075);
-  DrawTurtle(painter);
+  DrawTurtle(painter, InTheGrass);
   painter.restore();
 }
 
@@ -118,7 +125,7 @@ QIcon ProgramIcon() {
     painter.translate(side * 0.48, side * 0.5);
     painter.rotate(-45);
     painter.scale(side * 0.26, side * 0.26);
-    DrawTurtle(painter);
+    DrawTurtle(painter, OnTheIcon);
     icon.addPixmap(picture);
   }
   return icon;
