@@ -24,7 +24,6 @@ constexpr double GreatestSeconds = 1e9;
 constexpr double SecondsInClass = 10;
 constexpr int LeastMemory = 16;
 constexpr int GreatestMemory = 1 << 20;
-constexpr int MostJobs = 256;
 
 /// The number that is the whole text, or nothing.
 template <typename Number, typename... Format>
@@ -106,7 +105,8 @@ void TakeMemory(Options& options, const std::string& value) {
 
 void TakeJobs(Options& options, const std::string& value) {
   const auto jobs = WholeText<int>(value);
-  if (!jobs || *jobs < 1 || *jobs > MostJobs) Refuse("--jobs", value, "a whole number from 1 to 256 is wanted");
+  if (!jobs || *jobs < 1 || *jobs > ClassOptions::MostJobs)
+    Refuse("--jobs", value, "a whole number from 1 to 64 is wanted");
   options.Class.Jobs = *jobs;
 }
 

@@ -17,6 +17,8 @@ struct ClassOptions {
   int Memory = 512;
   /// How many programs run at the same time; 0 is one for each core.
   int Jobs = 0;
+  /// More would need more files at the same time than some systems give to a process.
+  static constexpr int MostJobs = 64;
 };
 
 /// What the command line asks for.

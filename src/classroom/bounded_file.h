@@ -11,15 +11,18 @@ namespace zerimo::classroom {
 class BoundedFile final : public std::streambuf {
  public:
   BoundedFile(const std::filesystem::path& file, std::streamsize mostBytes) : left(mostBytes) {
-    output.open(file, std::ios::out | std::ios::binary | std::ios::trunc);
+    failed = output.open(file, std::ios::out | std::ios::binary | std::ios::trunc) == nullptr;
   }
+
+  /// Whether bytes that should have been kept could not be written.
+  bool HasFailed() const { return failed; }
 
  protected:
   std::streamsize xsputn(const char* bytes, std::streamsize count) override {
     const std::streamsize kept = count < left ? count : left;
-    output.sputn(bytes, kept);
+    failed = output.sputn(bytes, kept) != kept || failed;
     left -= kept;
-    if (count > 0 && bytes[count - 1] == '\n') output.pubsync();
+    if (count > 0 && bytes[count - 1] == '\n') failed = output.pubsync() != 0 || failed;
     return count;
   }
 
@@ -32,6 +35,7 @@ class BoundedFile final : public std::streambuf {
  private:
   std::filebuf output;
   std::streamsize left;
+  bool failed = false;
 };
 
 }  // namespace zerimo::classroom

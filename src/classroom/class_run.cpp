@@ -42,17 +42,22 @@ std::vector<Pupil> PupilsIn(const fs::path& folder, const std::string& name) {
   }
 }
 
+fs::path SummaryFileOf(fs::path report) { return report.replace_extension(".json"); }
+
 /// Told before hundreds of programs have run in vain.
 fs::path ReportFileOf(const std::string& name) {
   std::error_code error;
   fs::path file = fs::absolute(name, error);
-  const bool isPlace = !error && fs::is_directory(file.parent_path(), error) && !fs::is_directory(file, error);
+  const fs::path folder = file.parent_path();
+  const bool isPlace = !error && fs::is_directory(folder, error) && !fs::is_directory(file, error) &&
+                       !fs::is_directory(SummaryFileOf(file), error) && CanWriteInto(folder);
   if (!isPlace) throw batch::UsageError("--out " + name + ": no file can be written there");
   return file;
 }
 
 int JobsOf(const batch::Options& options) {
-  return options.Class.Jobs > 0 ? options.Class.Jobs : std::max(1, QThread::idealThreadCount());
+  if (options.Class.Jobs > 0) return options.Class.Jobs;
+  return std::clamp(QThread::idealThreadCount(), 1, batch::ClassOptions::MostJobs);
 }
 
 class ClassRun {
@@ -98,8 +103,7 @@ class ClassRun {
   /// Each file takes its place when it is whole.
   void WriteFiles() {
     const QByteArray page = PageOf(report);
-    fs::path summary = file;
-    WriteBeside(summary.replace_extension(".json"), SummaryOf(report).toStdString());
+    WriteBeside(SummaryFileOf(file), SummaryOf(report).toStdString());
     WriteBeside(file, page.toStdString());
   }
 

@@ -1,20 +1,34 @@
 #include "classroom/interruption.h"
 
+#include <array>
 #include <csignal>
 
 namespace zerimo::classroom {
 
 namespace {
 
+using Handler = void (*)(int);
+
+constexpr std::array Noted = {
+    SIGINT,
+    SIGTERM,
+#ifdef SIGHUP
+    SIGHUP,
+#endif
+#ifdef SIGQUIT
+    SIGQUIT,
+#endif
+};
+
+std::array<Handler, Noted.size()> formerHandlers;
+
 volatile std::sig_atomic_t came = 0;
 
 void Note(int) { came = 1; }
 
-void HandleAll(void (*handler)(int)) {
-  std::signal(SIGINT, handler);
-  std::signal(SIGTERM, handler);
-#ifdef SIGHUP
-  std::signal(SIGHUP, handler);
+void HandleBrokenPipe([[maybe_unused]] Handler handler) {
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, handler);
 #endif
 }
 
@@ -22,10 +36,18 @@ void HandleAll(void (*handler)(int)) {
 
 Interruption::Interruption() {
   came = 0;
-  HandleAll(Note);
+  for (std::size_t i = 0; i < Noted.size(); ++i) {
+    formerHandlers[i] = std::signal(Noted[i], Note);
+    // Whoever started the run wants it to go on, as behind nohup.
+    if (formerHandlers[i] == SIG_IGN) std::signal(Noted[i], SIG_IGN);
+  }
+  HandleBrokenPipe(SIG_IGN);
 }
 
-Interruption::~Interruption() { HandleAll(SIG_DFL); }
+Interruption::~Interruption() {
+  for (std::size_t i = 0; i < Noted.size(); ++i) std::signal(Noted[i], formerHandlers[i]);
+  HandleBrokenPipe(SIG_DFL);
+}
 
 bool Interruption::Came() { return came != 0; }
 

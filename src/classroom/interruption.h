@@ -2,7 +2,9 @@
 
 namespace zerimo::classroom {
 
-/// While it lives, an interrupt from the terminal or a request to end is only noted.
+/// While it lives, an interrupt from the terminal or a request to end is only noted (one that the process is told
+/// to ignore stays ignored), and output that nobody reads any
+/// more is no reason to end.
 class Interruption {
  public:
   Interruption();

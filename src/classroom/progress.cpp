@@ -1,6 +1,10 @@
 #include "classroom/progress.h"
 
+#include <QList>
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <utility>
 
 #include "classroom/readable.h"
 
@@ -16,6 +20,37 @@ namespace {
 
 /// Columns that every terminal has, without the last, which may begin a new line.
 constexpr int Columns = 79;
+
+/// The characters that take two columns, as far as they are common.
+constexpr std::array<std::pair<char32_t, char32_t>, 8> Wide = {{{0x1100, 0x115F},
+                                                                {0x2E80, 0xA4CF},
+                                                                {0xAC00, 0xD7A3},
+                                                                {0xF900, 0xFAFF},
+                                                                {0xFE30, 0xFE6F},
+                                                                {0xFF00, 0xFF60},
+                                                                {0x1F300, 0x1FAFF},
+                                                                {0x20000, 0x3FFFD}}};
+
+int ColumnsOf(char32_t character) {
+  const QChar::Category category = QChar::category(character);
+  if (category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing) return 0;
+  const bool isWide = std::ranges::any_of(
+      Wide, [character](const auto& range) { return range.first <= character && character <= range.second; });
+  return isWide ? 2 : 1;
+}
+
+/// A text that takes exactly the columns of a line.
+QString InColumns(const QString& text) {
+  QString line;
+  int used = 0;
+  for (const uint code : text.toUcs4()) {
+    const char32_t character = code;
+    if (used + ColumnsOf(character) > Columns) break;
+    used += ColumnsOf(character);
+    line += QString::fromUcs4(&character, 1);
+  }
+  return line + QString(Columns - used, u' ');
+}
 
 }  // namespace
 
@@ -33,10 +68,7 @@ void Progress::Close(const QString& words) {
   output << (terminal ? "\r" : "") << "zerimo-batch: " << Readable(words).toStdString() << '\n' << std::flush;
 }
 
-void Progress::WriteOver(QString line) {
-  line.truncate(Columns);
-  output << '\r' << line.leftJustified(Columns).toStdString() << std::flush;
-}
+void Progress::WriteOver(const QString& line) { output << '\r' << InColumns(line).toStdString() << std::flush; }
 
 bool Progress::StandardErrorIsTerminal() {
 #ifdef _WIN32

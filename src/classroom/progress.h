@@ -19,7 +19,7 @@ class Progress {
   static bool StandardErrorIsTerminal();
 
  private:
-  void WriteOver(QString line);
+  void WriteOver(const QString& line);
 
   std::ostream& output;
   bool terminal;

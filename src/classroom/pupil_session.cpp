@@ -8,8 +8,8 @@
 
 #include "batch/errors.h"
 #include "batch/latin1.h"
-#include "classroom/first_call.h"
 #include "classroom/process_limits.h"
+#include "classroom/program_outline.h"
 #include "classroom/readable.h"
 #include "core/failure.h"
 #include "core/text.h"
@@ -72,6 +72,15 @@ QString FromLatin1(const std::string& text) {
   return ShortText(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())));
 }
 
+/// A line of the store as its pupil knows it: the lines that stand for a `REPEAT` have names of # and $, and a typed
+/// line is a procedure of such a name.
+QString StatementOf(const std::string& line) {
+  if (line.starts_with("TO #")) return {};
+  const bool isOfRepeat =
+      line.find('#') != std::string::npos || line.starts_with("LABEL $") || line.starts_with("GOTO $");
+  return isOfRepeat ? QStringLiteral("REPEAT") : FromLatin1(line);
+}
+
 batch::Settings SettingsOf(const Order& order) {
   batch::Settings settings;
   settings.Screen = order.Screen;
@@ -124,9 +133,22 @@ Outcome PupilSession::Run() {
 void PupilSession::ReadFiles() {
   program = TakeFile(order.Who.Program, "the program");
   if (!order.Who.Session.empty()) session = TakeFile(order.Who.Session, "the session");
-  if (program.empty()) outcome.Notes.append("The file is empty.");
+  NoteMistakes();
+}
+
+/// What a teacher would look for first where a program does not do what its pupil meant. Of a program that is read as
+/// one line only that is said: the rest follows from it.
+void PupilSession::NoteMistakes() {
   const bool isOneLine = program.find('\n') != std::string::npos && program.find('\r') == std::string::npos;
+  if (program.empty()) outcome.Notes.append("The program is empty.");
   if (isOneLine) outcome.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
+  if (!outcome.Notes.isEmpty()) return;
+  outline.emplace(program);
+  const std::vector<std::string> withoutEnd = outline->WithoutEnd();
+  if (withoutEnd.empty()) return;
+  QStringList names;
+  for (const std::string& name : withoutEnd) names.append(FromLatin1(name));
+  outcome.Notes.append(ShortText("Procedures without END: " + names.join(QStringLiteral(", ")) + u'.'));
 }
 
 /// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed.
@@ -145,9 +167,9 @@ batch::Script PupilSession::TakeScript() {
 /// Loads the program and calls the procedure that starts it.
 batch::Script PupilSession::ScriptWithoutSession() {
   std::vector<std::string> lines = {"LOAD " + loadName};
-  const FirstCall first = FirstCallOf(program, loadName);
+  const FirstCall first = outline ? outline->FirstCallOf(loadName) : FirstCall();
   if (!first.Procedure.empty()) lines.push_back(first.Procedure);
-  if (!first.WhyNone.empty()) outcome.Notes.append(QString::fromStdString(first.WhyNone));
+  if (!first.Note.empty()) outcome.Notes.append(FromLatin1(first.Note));
   batch::Script script;
   for (const std::string& line : lines) {
     outcome.Typed.append(FromLatin1(line));
@@ -158,12 +180,13 @@ batch::Script PupilSession::ScriptWithoutSession() {
 
 void PupilSession::RunScript() {
   try {
-    const batch::Script script = TakeScript();
     LimitMemory(order.Limits.Memory);
+    const batch::Script script = TakeScript();
     const batch::Outcome went = system.Run(script);
     LiftMemoryLimit();
     Tell(went);
   } catch (const batch::SessionError& error) {
+    LiftMemoryLimit();
     Tell({batch::Ending::Refused, error.what(), error.Line});
   } catch (const std::bad_alloc&) {
     LiftMemoryLimit();
@@ -172,6 +195,7 @@ void PupilSession::RunScript() {
     outcome.Where = WhereItStands(system.CurrentLine());
   }
   journal.Flush();
+  if (transcriptFile.HasFailed()) outcome.Notes.append("Not all that was said could be kept: is the disk full?");
 }
 
 void PupilSession::Tell(const batch::Outcome& went) {
@@ -210,7 +234,7 @@ Place PupilSession::WhereItStands(int line) {
   PassOver([&] { place.Procedure = FromLatin1(form.Path.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  PassOver([&] { place.Statement = FromLatin1(form.Store.Line(EndValExtractor(form.Path.CtrlStr()))); });
+  PassOver([&] { place.Statement = StatementOf(form.Store.Line(EndValExtractor(form.Path.CtrlStr()))); });
   return place;
 }
 

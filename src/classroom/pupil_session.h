@@ -1,12 +1,13 @@
 #pragma once
 
-#include <memory>
+#include <optional>
 #include <string>
 
 #include "batch/batch_session.h"
 #include "batch/picture_output.h"
 #include "classroom/bounded_file.h"
 #include "classroom/order.h"
+#include "classroom/program_outline.h"
 
 namespace zerimo::classroom {
 
@@ -21,6 +22,7 @@ class PupilSession {
  private:
   /// Fails with `Reason`.
   void ReadFiles();
+  void NoteMistakes();
   void PlaceProgram();
   batch::Script TakeScript();
   batch::Script ScriptWithoutSession();
@@ -34,6 +36,8 @@ class PupilSession {
   const Order& order;
   std::string program;
   std::string session;
+  /// Nothing if the program is empty or one line.
+  std::optional<ProgramOutline> outline;
   /// What `LOAD` calls the program.
   std::string loadName;
   Outcome outcome;

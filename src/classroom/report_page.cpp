@@ -31,7 +31,7 @@ QString Heading(const char* words) { return QStringLiteral("<h3>%1</h3>\n").arg(
 
 QString LimitText(const RunLimits& limits) {
   QStringList parts;
-  if (limits.Seconds > 0) parts.append(QStringLiteral("%1 seconds").arg(limits.Seconds));
+  if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds));
   if (limits.Steps > 0) parts.append(QStringLiteral("%1 steps in one line").arg(limits.Steps));
   if (limits.Memory > 0 && CanLimitMemory()) parts.append(QStringLiteral("%1 MB of memory").arg(limits.Memory));
   return parts.isEmpty() ? QStringLiteral("none") : parts.join(QStringLiteral(", "));

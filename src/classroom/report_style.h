@@ -4,9 +4,9 @@ namespace zerimo::classroom {
 
 /// How the page looks: on a wide window and a telephone, in the light, in the dark and on paper.
 inline constexpr const char* PageStyle = R"(
-:root { color-scheme: light dark; --ink: #1b1f24; --quiet: #57606a; --paper: #ffffff; --sheet: #f3f5f7;
+:root { --ink: #1b1f24; --quiet: #57606a; --paper: #ffffff; --sheet: #f3f5f7;
   --line: #c4cad1; --link: #0550ae; --good: #116329; --bad: #a40e26; }
-@media (prefers-color-scheme: dark) { :root { --ink: #e8eaed; --quiet: #aab2bb; --paper: #16191d; --sheet: #22272d;
+@media screen and (prefers-color-scheme: dark) { :root { color-scheme: dark; --ink: #e8eaed; --quiet: #aab2bb; --paper: #16191d; --sheet: #22272d;
   --line: #4a525c; --link: #79b8ff; --good: #6fdd8b; --bad: #ff9492; } }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1rem; max-width: 64rem; background: var(--paper); color: var(--ink);
@@ -19,7 +19,10 @@ p, ul { margin: .5rem 0; }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; width: 100%; }
 th, td { border-bottom: 1px solid var(--line); padding: .3rem .6rem .3rem 0; text-align: left; vertical-align: top; }
-td.number, th.number { text-align: right; white-space: nowrap; }
+th { min-width: 9rem; }
+td { min-width: 7.5rem; }
+th a, h2 { white-space: pre-wrap; }
+td.number, th.number { min-width: 0; text-align: right; white-space: nowrap; }
 .good { color: var(--good); font-weight: 600; }
 .bad { color: var(--bad); font-weight: 600; }
 section { border-top: 2px solid var(--line); margin-top: 2rem; }

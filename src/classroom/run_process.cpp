@@ -16,6 +16,15 @@ namespace fs = std::filesystem;
 /// A larger picture is left out of the report.
 constexpr std::uintmax_t LargestPicture = std::uintmax_t{8} << 20;
 
+/// Bytes without which a process can't tell how it went.
+constexpr std::uintmax_t LeastRoom = std::uintmax_t{64} << 10;
+
+bool IsFull(const fs::path& folder) {
+  std::error_code error;
+  const fs::space_info space = fs::space(folder.parent_path(), error);
+  return !error && space.available < LeastRoom;
+}
+
 Outcome Crash(const QString& words) {
   Outcome outcome;
   outcome.Message = words;
@@ -72,6 +81,7 @@ PupilRun RunProcess::TakeRun() {
   if (!error && size <= LargestPicture) run.Picture = picture;
   if (!error && size > LargestPicture) run.Went.Notes.append("The picture is too large for the report.");
   fs::remove_all(runFolder / run_file::Scratch, error);
+  fs::remove(runFolder / run_file::Transcript, error);
   return run;
 }
 
@@ -91,6 +101,8 @@ Outcome RunProcess::OutcomeOfSilence() const {
     outcome.By = "memory";
   } else if (process.error() == QProcess::FailedToStart) {
     return Crash("the process could not be started");
+  } else if (IsFull(runFolder)) {
+    return Crash("the disk for temporary files is full");
   } else if (process.exitStatus() == QProcess::CrashExit) {
     return Crash(QStringLiteral("the process was ended by signal %1").arg(process.exitCode()));
   } else {

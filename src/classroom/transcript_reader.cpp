@@ -67,8 +67,8 @@ Said SaidIn(const QByteArray& transcript) {
   for (qsizetype end = 0; (end = transcript.indexOf('\n', begin)) >= 0; begin = end + 1) {
     builder.Take(QJsonDocument::fromJson(transcript.mid(begin, end - begin)).object());
   }
-  // The last line of one that was cut.
-  if (begin < transcript.size()) builder.Told.LinesAreCut = true;
+  // What may have stood behind the last whole line.
+  if (begin < transcript.size()) builder.Told.LinesAreCut = builder.Told.BoxesAreCut = true;
   return builder.Told;
 }
 

@@ -7,7 +7,7 @@ namespace zerimo::classroom {
 namespace {
 
 QString LimitWords(const QString& by, const RunLimits& limits) {
-  if (by == "seconds") return QStringLiteral("more than %1 seconds").arg(limits.Seconds);
+  if (by == "seconds") return QStringLiteral("more than ") + WordsOfSecondLimit(limits.Seconds);
   if (by == "steps") return QStringLiteral("more than %1 steps in one line").arg(limits.Steps);
   return QStringLiteral("more than %1 MB of memory").arg(limits.Memory);
 }
@@ -43,6 +43,10 @@ QString WordsOf(const Place& place) {
     words += QStringLiteral(" at %1").arg(Readable(place.Statement.trimmed()));
   }
   return words;
+}
+
+QString WordsOfSecondLimit(double seconds) {
+  return seconds == 1 ? QStringLiteral("1 second") : QStringLiteral("%1 seconds").arg(seconds);
 }
 
 QString WordsOfSeconds(double seconds) { return QString::number(seconds, 'f', 1) + QStringLiteral(" s"); }

@@ -29,7 +29,8 @@ Confinement::~Confinement() { current = nullptr; }
 const Confinement* Confinement::Current() { return current; }
 
 bool Confinement::StaysBelow(const fs::path& path) {
-  return !path.has_root_path() && *path.lexically_normal().begin() != "..";
+  const fs::path normal = path.lexically_normal();
+  return !path.has_root_path() && (normal.empty() || *normal.begin() != "..");
 }
 
 bool Confinement::MayRead(const fs::path& file) const {

@@ -124,7 +124,7 @@ std::vector<BadUsage> BadUsages() {
       {{"--class", "c"}, "--class: the report is missing, give --out"},
       {{"--class", "c", "--out", ".html"}, "--out .html: a file name ending in .html or .htm is wanted"},
       {{"--class", "c", "--out", "r.txt"}, "--out r.txt: a file name ending in .html or .htm is wanted"},
-      {{"--class", "c", "--jobs", "0"}, "--jobs 0: a whole number from 1 to 256 is wanted"},
+      {{"--class", "c", "--jobs", "0"}, "--jobs 0: a whole number from 1 to 64 is wanted"},
       {{"--class", "c", "--memory", "15"}, "--memory 15: megabytes are wanted, from 16 to 1048576, or 0"},
       {{"--class", "c", "--memory", "1e3"}, "--memory 1e3: megabytes are wanted, from 16 to 1048576, or 0"},
       {{"--class", "c", "--sleep"}, "--sleep: not with --class"},

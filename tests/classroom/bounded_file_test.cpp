@@ -21,6 +21,20 @@ TEST(BoundedFile, KeepsTheBeginning) {
   EXPECT_LE(disk.Read("f").size(), 10U);
 }
 
+TEST(BoundedFile, TellsWhetherBytesAreLost) {
+  const TempFolder disk;
+  BoundedFile file("f", 10);
+  std::ostream(&file) << "more than ten characters\n";
+  EXPECT_FALSE(file.HasFailed());
+  BoundedFile nowhere("no/such/folder/f", 10);
+  EXPECT_TRUE(nowhere.HasFailed());
+#ifdef __linux__
+  BoundedFile full("/dev/full", 10);
+  std::ostream(&full) << "line\n";
+  EXPECT_TRUE(full.HasFailed());
+#endif
+}
+
 TEST(BoundedFile, ALineIsOnTheDiskWhenItEnds) {
   const TempFolder disk;
   BoundedFile file("f", 100);

@@ -40,19 +40,15 @@ TEST_F(ClassProgramTest, ASessionBesideTheProgramRunsIt) {
   EXPECT_EQ(Pupil("BOX.ZRM").value("session").toString(), "box.session");
 }
 
-TEST_F(ClassProgramTest, AWrongSessionIsToldWithItsLine) {
+TEST_F(ClassProgramTest, WhatIsWrongInASessionIsToldWithItsLine) {
   Write("BOX.ZRM", "");
   Write("BOX.session", "PD\n@frobnicate\n");
+  Write("A.ZRM", "");
+  Write("A.session", "PD\n@text Text4 40000\n");
   Run();
   EXPECT_EQ(ResultOf("BOX.ZRM"), "refused");
   EXPECT_EQ(Pupil("BOX.ZRM").value("message").toString(), "there is no directive @frobnicate");
   EXPECT_EQ(Pupil("BOX.ZRM").value("place").toObject().value("line").toInt(), 2);
-}
-
-TEST_F(ClassProgramTest, AFailureIsToldWithItsPlace) {
-  Write("A.ZRM", "");
-  Write("A.session", "PD\n@text Text4 40000\n");
-  Run();
   EXPECT_EQ(ResultOf("A.ZRM"), "failed");
   EXPECT_EQ(Pupil("A.ZRM").value("message").toString(), "ended by a failure: Overflow");
   EXPECT_EQ(Pupil("A.ZRM").value("place").toObject().value("text").toString(), "@text Text4 40000");
@@ -60,19 +56,37 @@ TEST_F(ClassProgramTest, AFailureIsToldWithItsPlace) {
 
 TEST_F(ClassProgramTest, LimitsStopAProgramAndTellWhere) {
   Write("SPIN.ZRM", Endless);
+  Write("LOOP.ZRM", "TO LOOP|REPEAT 30000 [PD]|END|");
   EXPECT_EQ(Run("--steps 1000 --jobs 1").Status, 0);
   EXPECT_EQ(ResultOf("SPIN.ZRM"), "stopped steps");
   const QJsonObject place = Pupil("SPIN.ZRM").value("place").toObject();
   EXPECT_EQ(place.value("procedure").toString(), "SPIN");
   EXPECT_EQ(place.value("text").toString(), "SPIN");
   EXPECT_TRUE(Pupil("SPIN.ZRM").value("picture").toBool());
-  Run("--steps 0 --seconds 0.3");
-  EXPECT_EQ(ResultOf("SPIN.ZRM"), "stopped seconds");
+  // Not the lines that stand for a REPEAT.
+  const QString statement = Pupil("LOOP.ZRM").value("place").toObject().value("statement").toString();
+  EXPECT_TRUE(QStringList({"REPEAT", "PD", "ENDIF"}).contains(statement)) << statement.toStdString();
+}
+
+TEST_F(ClassProgramTest, AMissingEndIsToldBesideWhatCameOfIt) {
+  Write("SPIN.ZRM", "TO SPIN|REPEAT 2 [FD 1]|");
+  Write("SPIN.session", "LOAD SPIN\nSPIN\n");
+  Run("--steps 500");
+  EXPECT_EQ(ResultOf("SPIN.ZRM"), "stopped steps");
+  EXPECT_EQ(Pupil("SPIN.ZRM").value("notes").toArray(), QJsonArray{"Procedures without END: SPIN."});
+}
+
+TEST_F(ClassProgramTest, OfAProgramInOneLineOnlyThatIsTold) {
+  Write("LINES.ZRM", "TO LINES\nFD 10\nEND\n");
+  Run();
+  EXPECT_EQ(PrintedBy("LINES.ZRM"), Lines{"?LOAD LINES"});
+  EXPECT_EQ(Pupil("LINES.ZRM").value("notes").toArray(),
+            QJsonArray{"The lines of the file end in LF alone: Zerimo reads it as one line."});
 }
 
 TEST_F(ClassProgramTest, AnEndlessOutputIsCut) {
   Write("PRINTS.ZRM", "TO PRINTS|LABEL L|PRINT \"AAAAAAAAAAAAAAAAAAAA\"|MESSAGE \"BBBBBBBBBBBB\"|GOTO L|END|");
-  Run("--steps 30000");
+  Run("--steps 4000");
   EXPECT_EQ(ResultOf("PRINTS.ZRM"), "stopped steps");
   EXPECT_TRUE(Pupil("PRINTS.ZRM").value("printedCut").toBool());
   EXPECT_TRUE(Pupil("PRINTS.ZRM").value("boxesCut").toBool());
@@ -99,7 +113,7 @@ TEST_F(ClassProgramTest, WhatCanNotBeRunStopsNobody) {
     EXPECT_EQ(Pupil(file).value("message").toString(), message);
   }
   EXPECT_EQ(ResultOf("EMPTY.ZRM"), "ended");
-  EXPECT_EQ(Pupil("EMPTY.ZRM").value("notes").toArray().at(0).toString(), "The file is empty.");
+  EXPECT_EQ(Pupil("EMPTY.ZRM").value("notes").toArray().at(0).toString(), "The program is empty.");
   EXPECT_EQ(PrintedBy("LAST.ZRM"), (Lines{"?LOAD LAST", "?LAST", "? 1"}));
 }
 
@@ -134,7 +148,8 @@ TEST_F(ClassProgramTest, HostileNamesDoNoHarm) {
 TEST_F(ClassProgramTest, TheOrderIsThatOfTheNames) {
   Write("A.ZRM", Endless);
   for (const char* name : {"B.ZRM", "C.ZRM", "D.ZRM"}) Write(name, "TO X|END|");
-  Run("--jobs 2 --seconds 0.5");
+  Run("--jobs 2 --steps 0 --seconds 0.3");
+  EXPECT_EQ(ResultOf("A.ZRM"), "stopped seconds");
   std::string order;
   for (const QJsonValue& pupil : Summary.value("pupils").toArray()) {
     order += pupil.toObject().value("file").toString().toStdString() + " ";
@@ -151,12 +166,13 @@ TEST_F(ClassProgramTest, AFolderWithoutProgramsIsTold) {
 
 TEST_F(ClassProgramTest, BadUsageIsOneLine) {
   ExpectBadUsage("--class nowhere --out r.html", "--class nowhere: there is no such folder");
-  ExpectBadUsage("--class class", "--class: the report is missing, give --out");
   ExpectBadUsage("--class class --out no/folder/r.html", "--out no/folder/r.html: no file can be written there");
-  ExpectBadUsage("--class class --out r.txt", "--out r.txt: a file name ending in .html or .htm is wanted");
   ExpectBadUsage("--frobnicate --class class", "--frobnicate: there is no such option");
   fs::create_directory(Program.Folder() / "r.html");
   ExpectBadUsage("--class class --out r.html", "--out r.html: no file can be written there");
+  fs::create_directory(Program.Folder() / "s.json");
+  ExpectBadUsage("--class class --out s.html", "--out s.html: no file can be written there");
+  ExpectBadUsage("--class class --out /proc/r.html", "--out /proc/r.html: no file can be written there");
 }
 
 TEST_F(ClassProgramTest, AFormerReportIsReplacedAsAWhole) {

@@ -101,6 +101,26 @@ TEST_F(ClassSignalsTest, AnInterruptEndsTheProcessesAndLeavesNothing) {
   EXPECT_EQ(Program.Read("errors"), "zerimo-batch: interrupted, no report is written\n");
 }
 
+TEST_F(ClassSignalsTest, AProgressThatNobodyReadsStopsNothing) {
+  Write("A.ZRM", "TO A|END|");
+  Write("B.ZRM", "TO B|END|");
+  Program.Run("--class class --out report.html --jobs 1 2>&1 >/dev/null | true");
+  ReadReport();
+  EXPECT_EQ(ResultOf("B.ZRM"), "ended");
+  EXPECT_TRUE(fs::is_empty(TemporaryFolder()));
+}
+
+TEST_F(ClassSignalsTest, ARunBehindNohupGoesOnWhenTheTerminalIsClosed) {
+  Write("A.ZRM", Endless);
+  std::signal(SIGHUP, SIG_IGN);
+  Start("0.5");
+  std::signal(SIGHUP, SIG_DFL);
+  ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
+  kill(runner, SIGHUP);
+  EXPECT_EQ(Wait(), 0);
+  EXPECT_EQ(ResultOf("A.ZRM"), "stopped seconds");
+}
+
 TEST_F(ClassSignalsTest, ProcessesEndWithTheRunner) {
   Write("A.ZRM", Endless);
   Start("30");

@@ -27,6 +27,15 @@ TEST(Progress, IsOneLineOnATerminal) {
   EXPECT_TRUE(output.str().ends_with("\rzerimo-batch: done\n"));
 }
 
+TEST(Progress, ALineOfATerminalIsAsWideAsItLooks) {
+  std::ostringstream output;
+  Progress(output, true).Tell(1, 1, QString(100, QChar(0x6F22)));
+  EXPECT_EQ(QString::fromStdString(output.str()), "\r1/1 " + QString(37, QChar(0x6F22)) + u' ');
+  output.str({});
+  Progress(output, true).Tell(1, 1, QStringLiteral("e\u0301"));
+  EXPECT_EQ(QString::fromStdString(output.str()), QStringLiteral("\r1/1 e\u0301") + QString(74, u' '));
+}
+
 TEST(Progress, NothingInANameReachesTheTerminalAsACommand) {
   for (const bool terminal : {false, true}) {
     std::ostringstream output;

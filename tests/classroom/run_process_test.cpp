@@ -111,8 +111,9 @@ TEST_F(RunProcessTest, APictureIsTakenUnlessItIsHuge) {
 }
 
 TEST_F(RunProcessTest, WhatTheProgramWroteIsThrownAway) {
-  RunOf(Script("mkdir scratch; echo x > scratch/X"));
+  RunOf(Script("mkdir scratch; echo x > scratch/X; echo x > transcript.jsonl"));
   EXPECT_FALSE(Disk.Has("run/scratch"));
+  EXPECT_FALSE(Disk.Has("run/transcript.jsonl"));
 }
 
 TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {

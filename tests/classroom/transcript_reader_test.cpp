@@ -68,6 +68,7 @@ TEST(TranscriptReader, ABrokenTranscriptTellsWhatCanBeRead) {
   const Said said = SaidIn("no json\n[]\n{}\n" + Line("?A") + Line("?B").chopped(5));
   EXPECT_EQ(said.Lines, QStringList{"?A"});
   EXPECT_TRUE(said.LinesAreCut);
+  EXPECT_TRUE(said.BoxesAreCut);
 }
 
 }  // namespace

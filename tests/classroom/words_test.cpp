@@ -32,6 +32,11 @@ TEST(Words, TellWhereARunStood) {
   EXPECT_EQ(WordsOf(Place{1, "%1 \n", "%2", ""}), "in line 1 (%1 [U+000A]), in the procedure %2");
 }
 
+TEST(Words, CountSeconds) {
+  EXPECT_EQ(WordsOfSecondLimit(1), "1 second");
+  EXPECT_EQ(WordsOfSecondLimit(2.5), "2.5 seconds");
+}
+
 TEST(Words, RoundSeconds) { EXPECT_EQ(WordsOfSeconds(0.26), "0.3 s"); }
 
 }  // namespace

@@ -82,6 +82,12 @@ TEST_F(ConfinementTest, WritesNothingOutside) {
 
 TEST_F(ConfinementTest, ADriveLetterAloneIsPassedOver) { EXPECT_EQ(Folders::ReadFile("C:MINE.ZRM"), "mine"); }
 
+TEST_F(ConfinementTest, NoNameAtAllIsNoFile) {
+  EXPECT_TRUE(Confinement::StaysBelow(""));
+  EXPECT_EQ(FailureOf([] { Folders::ReadFile("C:"); }), FailureKind::FileNotFound);
+  ExpectNotWritten("C:");
+}
+
 TEST_F(ConfinementTest, ALinkLeadsNowhereOutside) {
   fs::create_symlink(Disk.Path / "OUTSIDE.ZRM", Disk.Path / "scratch/LINK.ZRM");
   fs::create_symlink(Disk.Path / "OUTSIDE.ZRM", Disk.Path / "shelf/OTHER.ZRM");

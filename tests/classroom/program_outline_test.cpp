@@ -1,4 +1,4 @@
-#include "classroom/first_call.h"
+#include "classroom/program_outline.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,12 @@ namespace {
 /// The first call of a program written with | for a line end.
 FirstCall Of(std::string text, const char* name) {
   std::ranges::replace(text, '|', '\r');
-  return FirstCallOf(text, name);
+  return ProgramOutline(text).FirstCallOf(name);
+}
+
+std::vector<std::string> WithoutEnd(std::string text) {
+  std::ranges::replace(text, '|', '\r');
+  return ProgramOutline(text).WithoutEnd();
 }
 
 TEST(FirstCall, IsTheProcedureOfTheFilesName) {
@@ -37,26 +42,41 @@ TEST(FirstCall, NeedsNoInputs) {
   EXPECT_EQ(Of("TO GO|BOX 5|END|TO BOX :S|FD :S|END", "BOX").Procedure, "GO");
   const FirstCall none = Of("TO BOX :S|FD :S|END", "BOX");
   EXPECT_EQ(none.Procedure, "");
-  EXPECT_EQ(none.WhyNone, "Every procedure of the program needs inputs: give them in a session.");
+  EXPECT_EQ(none.Note, "Every procedure of the program needs inputs: give them in a session.");
+}
+
+TEST(FirstCall, IsToldIfItIsAnotherBecauseOfInputs) {
+  const FirstCall other = Of("TO SIDE|FD 10|END|TO STAR :N|REPEAT :N [SIDE]|END", "STAR");
+  EXPECT_EQ(other.Procedure, "SIDE");
+  EXPECT_EQ(other.Note, "STAR needs inputs and was not called: give them in a session.");
+  EXPECT_EQ(Of("TO BOX :S|END|TO GO|END", "ANNA").Note, "");
 }
 
 TEST(FirstCall, IsNoneWithoutProcedures) {
-  for (const char* text : {"", "|||", "FD 10|RT 90|", "TO|END"}) {
+  for (const char* text : {"", "|||", "FD 10|RT 90|", "TO|END", "to star|fd 10|end", "  TO STAR|END"}) {
     EXPECT_EQ(Of(text, "ANNA").Procedure, "") << text;
-    EXPECT_EQ(Of(text, "ANNA").WhyNone, "The program has no procedure: no line begins with TO.") << text;
+    EXPECT_EQ(Of(text, "ANNA").Note, "The program has no procedure: no line begins with TO in capital letters.")
+        << text;
   }
 }
 
 TEST(FirstCall, BytesWithoutSenseDoNoHarm) {
   std::string bytes;
   for (int i = 0; i < 100'000; ++i) bytes += static_cast<char>(i * 7919 % 256);
-  EXPECT_EQ(FirstCallOf(bytes, "ANNA").Procedure, "");
+  EXPECT_EQ(ProgramOutline(bytes).FirstCallOf("ANNA").Procedure, "");
 }
 
 TEST(FirstCall, ProgramsBeyondTheStoreCountAsFarAsTheyFit) {
   std::string text = "TO FIRST\r";
   for (int i = 0; i < 3000; ++i) text += "FD 1\r";
-  EXPECT_EQ(FirstCallOf(text + "TO LAST\rEND\r", "ANNA").Procedure, "FIRST");
+  EXPECT_EQ(Of(text + "TO LAST\rEND\r", "ANNA").Procedure, "FIRST");
+}
+
+TEST(WithoutEnd, ProceduresAreNamed) {
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(WithoutEnd("TO A|FD 1| END |TO B|END|"), Names{});
+  EXPECT_EQ(WithoutEnd("TO A|FD 1|TO B|END|TO C|FD 2"), (Names{"A", "C"}));
+  EXPECT_EQ(WithoutEnd("TO A|IF 1=1|ENDIF|end|"), Names{"A"});
 }
 
 }  // namespace

@@ -1,0 +1,83 @@
+#include "classroom/program_outline.h"
+
+#include <algorithm>
+#include <memory>
+#include <sstream>
+
+#include "controls/controls.h"
+#include "core/failure.h"
+#include "core/program_store.h"
+#include "core/text.h"
+#include "files/program_text.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+std::vector<std::string> WordsOf(const std::string& line) {
+  std::istringstream stream(line);
+  std::vector<std::string> words;
+  // A bracket may stand right beside a name.
+  for (std::string word; stream >> word;) {
+    std::erase_if(word, [](char character) { return character == '[' || character == ']'; });
+    if (!word.empty()) words.push_back(word);
+  }
+  return words;
+}
+
+}  // namespace
+
+ProgramOutline::ProgramOutline(std::string_view programText) {
+  ListBox list3{"List3"};
+  const auto store = std::make_unique<ProgramStore>(list3);
+  std::int16_t number = 1;
+  // What was filled before the store was full counts.
+  PassOver([&] { FillStore(*store, programText, number); });
+  PassOver([&] {
+    for (int line = 1; !store->Line(line).empty(); ++line) Take(store->Line(line));
+  });
+}
+
+void ProgramOutline::Take(const std::string& line) {
+  const std::vector<std::string> words = WordsOf(line);
+  if (line.starts_with("TO ") && words.size() > 1) {
+    procedures.push_back({words[1], words.size() > 2, false, {}});
+    return;
+  }
+  if (procedures.empty()) return;
+  Procedure& last = procedures.back();
+  if (Trimmed(line) == "END") last.HasEnd = true;
+  for (const std::string& word : words) {
+    if (word != last.Name) last.Words.insert(word);
+  }
+}
+
+bool ProgramOutline::IsCalledByAnother(const Procedure& one) const {
+  return std::ranges::any_of(procedures, [&one](const Procedure& other) { return other.Words.contains(one.Name); });
+}
+
+FirstCall ProgramOutline::FirstCallOf(std::string_view name) const {
+  if (procedures.empty()) return {{}, "The program has no procedure: no line begins with TO in capital letters."};
+  const std::string wanted = UpperCase(name);
+  const Procedure* first = nullptr;
+  std::string note;
+  for (const Procedure& each : procedures) {
+    if (each.Name == wanted && !each.NeedsInputs) return {each.Name, {}};
+    if (each.Name == wanted) note = each.Name + " needs inputs and was not called: give them in a session.";
+    if (each.NeedsInputs) continue;
+    // If each is called by another, the last one starts.
+    if (first == nullptr || !IsCalledByAnother(each) || IsCalledByAnother(*first)) first = &each;
+  }
+  if (first == nullptr) return {{}, "Every procedure of the program needs inputs: give them in a session."};
+  return {first->Name, note};
+}
+
+std::vector<std::string> ProgramOutline::WithoutEnd() const {
+  std::vector<std::string> names;
+  for (const Procedure& each : procedures) {
+    if (!each.HasEnd) names.push_back(each.Name);
+  }
+  return names;
+}
+
+}  // namespace zerimo::classroom

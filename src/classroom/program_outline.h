@@ -1,0 +1,45 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zerimo::classroom {
+
+/// The procedure that starts a program for which there is no session.
+struct FirstCall {
+  /// Empty if there is none to call.
+  std::string Procedure;
+  /// Why there is none, or why it is not the one of the file's name; or empty.
+  std::string Note;
+};
+
+/// The procedures of a program, as the store has them when it is loaded.
+class ProgramOutline {
+ public:
+  explicit ProgramOutline(std::string_view programText);
+
+  /// The procedure of the file's name; otherwise the last one that no other of the program's procedures calls. One
+  /// that needs inputs is none. `name` is the file's name without its ending.
+  FirstCall FirstCallOf(std::string_view name) const;
+
+  /// The names of the procedures behind which another one, or nothing, comes before a line END.
+  std::vector<std::string> WithoutEnd() const;
+
+ private:
+  struct Procedure {
+    std::string Name;
+    bool NeedsInputs = false;
+    bool HasEnd = false;
+    /// The words of its body, its own name left out.
+    std::set<std::string> Words;
+  };
+
+  void Take(const std::string& line);
+  bool IsCalledByAnother(const Procedure& one) const;
+
+  std::vector<Procedure> procedures;
+};
+
+}  // namespace zerimo::classroom
