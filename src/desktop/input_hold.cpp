@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -10,8 +11,8 @@ namespace zerimo {
 
 namespace {
 
-/// More than anybody means to type ahead: a key that something lies on.
-constexpr std::size_t MostKept = 1000;
+/// Nobody means more than this of what comes by itself: from a key that something lies on, or from a wheel.
+constexpr std::size_t MostByItself = 1000;
 
 bool IsInput(QEvent::Type type) {
   switch (type) {
@@ -48,6 +49,11 @@ bool IsWorthKeeping(QEvent::Type type) {
          type != QEvent::DragLeave && type != QEvent::Drop;
 }
 
+bool ComesByItself(const QEvent& event) {
+  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+  return event.type() == QEvent::Wheel || (isKey && static_cast<const QKeyEvent&>(event).isAutoRepeat());
+}
+
 }  // namespace
 
 InputHold::InputHold(QWidget& mainWindow) : window(mainWindow) { qApp->installEventFilter(this); }
@@ -82,7 +88,8 @@ void InputHold::Keep(QObject* receiver, const QEvent& event) {
   const bool onlyMoves = event.type() == QEvent::MouseMove && !kept.empty() &&
                          kept.back().Event->type() == QEvent::MouseMove && kept.back().Receiver == receiver;
   if (onlyMoves) kept.pop_back();
-  if (kept.size() < MostKept) kept.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
+  if (kept.size() >= MostByItself && ComesByItself(event)) return;
+  kept.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 
 void InputHold::CallForBox(const QEvent& event) {

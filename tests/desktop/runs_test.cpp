@@ -35,6 +35,24 @@ TEST_F(RunsTest, ALineEnteredDuringARunRunsAfterwardsOnce) {
   EXPECT_EQ(Controls().List4.Items(), (Texts{"?WAIT 100", "?RT 5"}));
 }
 
+TEST_F(RunsTest, ALongTextTypedDuringARunArrivesWhole) {
+  const QString text(2000, QLatin1Char('x'));
+  During(5, [&] { QTest::keyClicks(&Row(1), text); });
+  Enter("wait 20");
+  EXPECT_TRUE(Until([&] { return Row(1).text() == text; }));
+}
+
+TEST_F(RunsTest, AKeyThatSomethingLiesOnIsKeptForAWhileOnly) {
+  During(5, [&] {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x", true);
+    for (int i = 0; i < 5000; ++i) QApplication::sendEvent(&Row(1), &press);
+    QTest::keyClick(&Row(1), Qt::Key_Y);
+  });
+  Enter("wait 20");
+  EXPECT_TRUE(Until([&] { return Row(1).text().endsWith(QLatin1Char('y')); }));
+  EXPECT_EQ(Row(1).text().size(), 1001);
+}
+
 TEST_F(RunsTest, AClickDuringARunActsAfterwards) {
   Enter("show dia");
   During(30, [this] { QTest::mouseClick(&WidgetOf(Controls().Command1), Qt::LeftButton); });
