@@ -70,6 +70,8 @@ std::string WithCarriageReturns(const QString& text) {
 
 QColor ToQColor(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
 
+QColor ReadableOn(const QColor& background) { return qGray(background.rgb()) < 112 ? Qt::white : Qt::black; }
+
 QFont ControlFont(double points, bool bold) {
   QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
   font.setPixelSize(std::max(SmallestFont, static_cast<int>(std::lround(points * 96 / 72))));

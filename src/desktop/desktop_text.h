@@ -26,6 +26,8 @@ QString WithLineEnds(std::string_view text);
 std::string WithCarriageReturns(const QString& text);
 
 QColor ToQColor(Colour colour);
+/// Black or white, whichever is seen on a background.
+QColor ReadableOn(const QColor& background);
 
 /// Arial or its metric twin at a size in points of 1/72 inch on a display of 96 dots an inch, whatever the display
 /// says of itself: the places of the controls are in such dots too. Nothing is smaller than can be read.

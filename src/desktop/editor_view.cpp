@@ -14,6 +14,7 @@ namespace {
 
 constexpr QChar ParagraphEnd = QChar(u'\u2029');
 constexpr int CaretWidth = 2;
+/// A tab would vanish from the program and join its neighbours.
 const char* const Tab = "  ";
 
 /// A place in the text by line and column.
@@ -71,7 +72,6 @@ void EditorArea::ReplaceText(const QString& text) {
 }
 
 void EditorArea::keyPressEvent(QKeyEvent* event) {
-  // A tab would vanish from the program and join its neighbours.
   if (event->key() == Qt::Key_Tab && event->modifiers() == Qt::NoModifier) return insertPlainText(QLatin1String(Tab));
   const QString known = OnlyKnownCharacters(event->text());
   if (known == event->text()) return QPlainTextEdit::keyPressEvent(event);
@@ -87,7 +87,7 @@ void EditorArea::inputMethodEvent(QInputMethodEvent* event) {
 
 void EditorArea::insertFromMimeData(const QMimeData* source) {
   QMimeData known;
-  known.setText(OnlyKnownCharacters(source->text()));
+  known.setText(OnlyKnownCharacters(source->text()).replace(QLatin1Char('\t'), QLatin1String(Tab)));
   QPlainTextEdit::insertFromMimeData(&known);
 }
 

@@ -44,8 +44,6 @@ MouseButton ToMouseButton(Qt::MouseButton button) {
 
 float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
 
-QColor ReadableOn(const QColor& background) { return background.lightness() < 128 ? Qt::white : Qt::black; }
-
 }  // namespace
 
 LabelView::LabelView(Label& control, QWidget& parent, Events&)

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QValidator>
+#include <algorithm>
 
 #include "desktop/desktop_text.h"
 
@@ -13,12 +14,14 @@ namespace {
 /// The distance of the rows in pixels.
 constexpr int RowDistance = 24;
 
-/// Lets no character in that the system does not have.
+/// Lets no character in that the system does not have. Pasted line ends and tabs, which look like blanks, become ones.
 class KnownCharacters final : public QValidator {
  public:
   using QValidator::QValidator;
   State validate(QString& text, int& position) const override {
-    const QString known = OnlyKnownCharacters(text);
+    QString known = OnlyKnownCharacters(text);
+    std::replace_if(
+        known.begin(), known.end(), [](QChar character) { return character < QLatin1Char(' '); }, QLatin1Char(' '));
     position -= static_cast<int>(text.size() - known.size());
     text = known;
     return Acceptable;
@@ -58,7 +61,9 @@ void RowEdit::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   if (!hasFocus()) return;
   QPainter painter(this);
-  painter.setPen(QColor(255, 255, 255, 200));
+  QColor frame = ReadableOn(palette().color(QPalette::Base));
+  frame.setAlpha(200);
+  painter.setPen(frame);
   painter.drawRect(0, 0, width() - 1, RowDistance - 1);
 }
 

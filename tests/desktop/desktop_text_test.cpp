@@ -38,6 +38,15 @@ TEST(DesktopText, TheToolkitsLineEndsBecomePairs) { EXPECT_EQ(WithCarriageReturn
 
 TEST(DesktopText, ColoursAreRedThenGreenThenBlue) { EXPECT_EQ(ToQColor(0x0A141E), QColor(30, 20, 10)); }
 
+TEST(DesktopText, AFrameIsWhiteOnDarkColoursAndBlackOnLightOnes) {
+  for (const QRgb dark : {qRgb(0, 0, 0), qRgb(0, 0, 255), qRgb(255, 0, 0), qRgb(128, 0, 128)}) {
+    EXPECT_EQ(ReadableOn(dark), QColor(Qt::white));
+  }
+  for (const QRgb light : {qRgb(255, 255, 255), qRgb(255, 255, 0), qRgb(0, 255, 255), qRgb(0, 255, 0)}) {
+    EXPECT_EQ(ReadableOn(light), QColor(Qt::black));
+  }
+}
+
 TEST(DesktopText, FontsAreSizedForNinetySixDotsAnInch) {
   EXPECT_EQ(ControlFont(15.75).pixelSize(), 21);
   EXPECT_EQ(ControlFont(14.25).pixelSize(), 19);

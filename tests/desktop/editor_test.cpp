@@ -142,6 +142,18 @@ TEST_F(EditorTest, PastedLinesKeepTheirEnds) {
   EXPECT_EQ(Controls().Text2.Text, "TO A\r\nEND");
 }
 
+TEST_F(EditorTest, LinesOfEveryEndCanBePasted) {
+  QApplication::clipboard()->setText("TO A\r\nFD 1\rRT 2\nEND");
+  Editor().paste();
+  EXPECT_EQ(ShownText(), "TO A\nFD 1\nRT 2\nEND");
+}
+
+TEST_F(EditorTest, APastedTabBecomesBlanks) {
+  QApplication::clipboard()->setText("TO A\n\tFD\t10\nEND");
+  Editor().paste();
+  EXPECT_EQ(ShownText(), "TO A\n  FD  10\nEND");
+}
+
 TEST_F(EditorTest, F10SavesUnderTheNameTyped) {
   TypeLines({"to a", "end"});
   AnswerNextBox({Qt::Key_Return}, "Mine");
