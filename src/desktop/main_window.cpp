@@ -15,6 +15,7 @@
 #include "console/keys.h"
 #include "desktop/desktop_text.h"
 #include "desktop/key_codes.h"
+#include "desktop/text_views.h"
 #include "desktop/title_picture.h"
 #include "graphics/surface.h"
 
@@ -91,7 +92,11 @@ void MainWindow::SyncFocus() {
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
   if (holder != nullptr && holder->Panel() == &form1.Controls.Picture3) lastRow = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
-  if (focusWidget() != &wanted) wanted.setFocus(Qt::OtherFocusReason);
+  if (focusWidget() == &wanted) return;
+  wanted.setFocus(Qt::OtherFocusReason);
+  // Where the learner did not go himself, what he types takes the place of the old line.
+  auto* row = dynamic_cast<RowEdit*>(&wanted);
+  if (row != nullptr && !walking) row->selectAll();
 }
 
 void MainWindow::DescribeTurtle() {
@@ -149,10 +154,12 @@ bool MainWindow::PressKey(QObject* widget, int keyCode) {
   ControlView* view = ViewOfWidget(widget);
   // A key that a control leaves over comes up here once more.
   if (keyCode == 0 || (view == nullptr && focusWidget() != this)) return false;
+  walking = keyCode == key::Up || keyCode == key::Down;
   events.Deliver([&](Form1& form) {
     form.KeyDown(form.Controls.Form1, keyCode);
     if (view != nullptr) form.KeyDown(view->Source(), keyCode);
   });
+  walking = false;
   if (keyCode >= key::F1 || keyCode == key::Esc || view == nullptr) return true;
   auto* button = qobject_cast<QPushButton*>(widget);
   if (button != nullptr && keyCode == key::Enter) button->click();

@@ -79,6 +79,8 @@ class MainWindow : public QWidget {
   QPointF shownPlace;
   /// The row that had the focus last.
   Control* lastRow;
+  /// While an arrow key moves the focus from row to row: a line that is to be changed keeps its caret.
+  bool walking = false;
   bool syncing = false;
   bool fitted = false;
 };

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QTest>
 
 #include "desktop/desktop_fixture.h"
@@ -78,6 +80,67 @@ TEST_F(RowsTest, AnOldLineRunsAgain) {
   Press(Qt::Key_Up);
   Press(Qt::Key_Return);
   EXPECT_EQ(Controls().List4.Items(), (Texts{"?RT 1", "?RT 1"}));
+}
+
+/// Rows 0 and 1 hold "rt 1" and "rt 2", and the focus has come to row 1 with Enter.
+class OldLines : public DesktopTest {
+ protected:
+  OldLines() {
+    Enter("rt 1");
+    Enter("rt 2");
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Return);
+  }
+};
+
+TEST_F(OldLines, ALineTypedWhereEnterLedTakesThePlaceOfTheOldOne) {
+  ASSERT_EQ(Focused(), &Row(1));
+  Enter("fd 3");
+  EXPECT_EQ(Row(1).text(), "fd 3");
+  EXPECT_EQ(Controls().List4.Items().back(), "?FD 3");
+}
+
+TEST_F(OldLines, EnterAloneRunsTheOldOneAgain) {
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Controls().List4.Items().back(), "?RT 2");
+}
+
+TEST_F(OldLines, AClickOnTheDrawingMakesRoomForANewLineOnTheFirstRow) {
+  Enter("cs");
+  QTest::mouseClick(&WidgetOf(System().Picture1), Qt::LeftButton, {}, {10, 500});
+  Settle();
+  ASSERT_EQ(Focused(), &Row(0));
+  Type("fd 3");
+  EXPECT_EQ(Row(0).text(), "fd 3");
+}
+
+TEST_F(OldLines, AfterAnArrowALineIsChangedWhereItsCaretStood) {
+  Press(Qt::Key_Up);
+  Row(0).setCursorPosition(0);
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Up);
+  Type("fd 9 ");
+  EXPECT_EQ(Row(0).text(), "fd 9 rt 1");
+}
+
+TEST_F(OldLines, AfterAMouseClickALineIsChanged) {
+  QTest::mouseClick(&Row(0), Qt::LeftButton, {}, {400, 10});
+  Type("5");
+  EXPECT_EQ(Row(0).text(), "rt 15");
+}
+
+TEST_F(OldLines, AReplacedLineCanBeBroughtBack) {
+  Type("fd");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Row(1).text(), "rt 2");
+}
+
+TEST_F(RowsTest, PastedLinesAndTabsBecomeOneLineWithBlanks) {
+  QApplication::clipboard()->setText("\tfd\t10\nrt 90");
+  Row(0).paste();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Controls().List4.Items(), Texts{"?FD 10 RT 90"});
 }
 
 TEST_F(RowsTest, F1OpensTheEditorAndTypingGoesThere) {
