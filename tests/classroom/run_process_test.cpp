@@ -23,11 +23,11 @@ class RunProcessTest : public testing::Test {
     return QString::fromStdString((Disk.Path / "program").string());
   }
 
-  /// Runs a script that gets a second, and none around.
-  PupilRun RunOf(const QString& program) {
+  /// Runs a script that gets some seconds, and none around.
+  PupilRun RunOf(const QString& program, double seconds = 30) {
     Order order;
     order.Who.Program = "ANNA.ZRM";
-    order.Limits.Seconds = 1;
+    order.Limits.Seconds = seconds;
     RunProcess process(order, Disk.Path / "run", 0);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&process] { process.EndIfLate(); });
@@ -56,7 +56,7 @@ TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
   const std::optional<Order> order = ReadOrder("found");
   ASSERT_TRUE(order);
   EXPECT_EQ(order->Who.Program, "ANNA.ZRM");
-  EXPECT_EQ(order->Limits.Seconds, 1);
+  EXPECT_EQ(order->Limits.Seconds, 30);
   EXPECT_EQ(Disk.Read("arguments"), "--class-pupil\n");
 }
 
@@ -68,10 +68,10 @@ TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
 }
 
 TEST_F(RunProcessTest, AProcessThatIsLateIsKilled) {
-  const PupilRun run = RunOf(Script("exec sleep 30"));
+  const PupilRun run = RunOf(Script("exec sleep 30"), 0.2);
   EXPECT_EQ(run.Went.How, Result::Stopped);
   EXPECT_EQ(run.Went.By, "seconds");
-  EXPECT_GE(run.Seconds, 1);
+  EXPECT_GE(run.Seconds, 0.2);
 }
 
 TEST_F(RunProcessTest, AProcessThatEndsWithoutAWordIsACrash) {
