@@ -1,6 +1,7 @@
 #include "desktop/help_views.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 
 #include "desktop/desktop_text.h"
@@ -55,8 +56,15 @@ void FileListView::SyncLook() {
   if (selected.empty()) pages.setCurrentItem(nullptr);
 }
 
+void PageArea::insertFromMimeData(const QMimeData* source) {
+  // Not by the toolkit's own way: an empty clipboard would bring it down.
+  if (!source->hasText()) return;
+  insertPlainText(source->text());
+  ensureCursorVisible();
+}
+
 PageView::PageView(RichTextView& control, QWidget& parent, Events&)
-    : ControlView(control, *new QTextEdit(&parent)), page(control), edit(static_cast<QTextEdit&>(Widget())) {
+    : ControlView(control, *new PageArea(&parent)), page(control), edit(static_cast<PageArea&>(Widget())) {
   edit.setAcceptRichText(false);
   edit.document()->setDocumentMargin(PageMargin);
   edit.setFont(ControlFont(PagePoints));

@@ -40,6 +40,15 @@ class FileListView : public ControlView {
   std::string selected;
 };
 
+/// The text area of a help page. What is pasted takes the look of the text around it.
+class PageArea : public QTextEdit {
+ public:
+  using QTextEdit::QTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* source) override;
+};
+
 /// `RichTextBox1`.
 class PageView : public ControlView {
  public:
@@ -52,7 +61,7 @@ class PageView : public ControlView {
 
  private:
   RichTextView& page;
-  QTextEdit& edit;
+  PageArea& edit;
   std::uint64_t shownVersion = 0;
   bool touched = false;
 };

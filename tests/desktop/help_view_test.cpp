@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QListWidget>
 #include <QTest>
@@ -117,6 +119,22 @@ TEST_F(HelpViewTest, APageEditedInTheViewIsSavedAsItStands) {
   EXPECT_EQ(saved.Paragraphs[0].Runs[0].Text, "New: Welcome to ");
   EXPECT_EQ(saved.Paragraphs[0].Runs[1].Text, "Zerimo");
   EXPECT_TRUE(saved.Paragraphs[0].Runs[1].Form.Bold);
+}
+
+TEST_F(HelpViewTest, AnEmptyClipboardPastesNothing) {
+  QApplication::clipboard()->clear();
+  Enter("help fd");
+  Page().setFocus();
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Page().toPlainText().trimmed(), "FD moves the turtle.");
+}
+
+TEST_F(HelpViewTest, PastedTextStandsWhereTheCaretIs) {
+  QApplication::clipboard()->setText("Note: ");
+  Enter("help fd");
+  Page().setFocus();
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Page().toPlainText().trimmed(), "Note: FD moves the turtle.");
 }
 
 TEST_F(HelpViewTest, ASaveWithoutANameEndsTheProgram) {
