@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "core/failure.h"
 #include "support/fake_services.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -101,6 +103,10 @@ struct MissingBox {
   int Style;
   const char* Title;
 };
+
+void PrintTo(const MissingBox& one, std::ostream* out) {
+  *out << Quoted(one.Line) << ", " << one.Style << ", " << Quoted(one.Title);
+}
 
 class MissingInputOf : public DispatchTest, public testing::WithParamInterface<MissingBox> {};
 

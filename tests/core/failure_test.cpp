@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
+#include "support/quoted.h"
+
 namespace zerimo {
 namespace {
 
@@ -9,6 +13,8 @@ struct Told {
   FailureKind Kind;
   const char* Words;
 };
+
+void PrintTo(const Told& one, std::ostream* out) { *out << Quoted(one.Words); }
 
 class FailureWords : public testing::TestWithParam<Told> {};
 

@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "core/failure.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -14,6 +16,8 @@ struct Filtered {
   const char* Text;
   const char* Result;
 };
+
+void PrintTo(const Filtered& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << Quoted(one.Result); }
 
 class SpaceFilterOf : public testing::TestWithParam<Filtered> {};
 
@@ -54,6 +58,10 @@ struct Classified {
   const char* Line;
   StatementClass Class;
 };
+
+void PrintTo(const Classified& one, std::ostream* out) {
+  *out << Quoted(one.Line) << ", " << static_cast<int>(one.Class);
+}
 
 class WhatIs : public testing::TestWithParam<Classified> {};
 

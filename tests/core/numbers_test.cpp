@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 #include "core/failure.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -13,6 +15,8 @@ struct ReadNumber {
   const char* Text;
   double Value;
 };
+
+void PrintTo(const ReadNumber& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << one.Value; }
 
 class ValOf : public testing::TestWithParam<ReadNumber> {};
 
@@ -50,6 +54,8 @@ struct WrittenNumber {
   double Value;
   const char* Text;
 };
+
+void PrintTo(const WrittenNumber& one, std::ostream* out) { *out << one.Value << ", " << Quoted(one.Text); }
 
 class StrOf : public testing::TestWithParam<WrittenNumber> {};
 

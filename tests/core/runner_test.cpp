@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "support/interpreter.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -143,6 +145,8 @@ struct InFrontOfTheCall {
   const char* Line;
   bool Grows;
 };
+
+void PrintTo(const InFrontOfTheCall& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Grows; }
 
 class RecursionBehind : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
 

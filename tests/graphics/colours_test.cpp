@@ -1,6 +1,7 @@
 #include "graphics/colours.h"
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -10,6 +11,10 @@ using ColoursTest = DrawingTest;
 struct TableRow {
   int Code, Red, Green, Blue;
 };
+
+void PrintTo(const TableRow& one, std::ostream* out) {
+  *out << one.Code << ", " << one.Red << ", " << one.Green << ", " << one.Blue;
+}
 
 class ColourOfCode : public DrawingTest, public testing::WithParamInterface<TableRow> {};
 
@@ -32,6 +37,8 @@ struct Reduction {
   const char* Input;
   int Code;
 };
+
+void PrintTo(const Reduction& one, std::ostream* out) { *out << Quoted(one.Input) << ", " << one.Code; }
 
 class ReducedCode : public DrawingTest, public testing::WithParamInterface<Reduction> {};
 

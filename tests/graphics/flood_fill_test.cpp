@@ -1,6 +1,7 @@
 #include "graphics/flood_fill.h"
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -34,6 +35,8 @@ struct FillInputRow {
   const char* Line;
   Colour Fill;
 };
+
+void PrintTo(const FillInputRow& one, std::ostream* out) { *out << Quoted(one.Line); }
 
 class FloodFillInput : public DrawingTest, public testing::WithParamInterface<FillInputRow> {};
 

@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <numbers>
+#include <ostream>
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -100,6 +102,10 @@ struct FencedMove {
   bool Admitted;
 };
 
+void PrintTo(const FencedMove& one, std::ostream* out) {
+  *out << one.X << ", " << one.Y << ", " << one.Dir << ", " << Quoted(one.Line) << ", " << one.Admitted;
+}
+
 class FencedForward : public DrawingTest, public testing::WithParamInterface<FencedMove> {};
 
 TEST_P(FencedForward, IsAdmittedUpToTheEdge) {
@@ -192,6 +198,10 @@ struct WholeStep {
   double Y;
 };
 
+void PrintTo(const WholeStep& one, std::ostream* out) {
+  *out << one.Resolution << ", " << Quoted(one.Line) << ", " << one.Y;
+}
+
 class SetXYHeight : public DrawingTest, public testing::WithParamInterface<WholeStep> {};
 
 TEST_P(SetXYHeight, IsRoundedBeforeAndAfterTheProduct) {
@@ -233,6 +243,8 @@ struct FencedTarget {
   bool Admitted;
 };
 
+void PrintTo(const FencedTarget& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Admitted; }
+
 class FencedSet : public DrawingTest, public testing::WithParamInterface<FencedTarget> {};
 
 TEST_P(FencedSet, IsAdmittedWithItsOwnEdges) {
@@ -269,6 +281,10 @@ struct MissingBox {
   int Style;
   const char* Title;
 };
+
+void PrintTo(const MissingBox& one, std::ostream* out) {
+  *out << Quoted(one.Word) << ", " << one.Style << ", " << Quoted(one.Title);
+}
 
 class MissingInputOfMotion : public DrawingTest, public testing::WithParamInterface<MissingBox> {};
 
@@ -421,6 +437,8 @@ struct Setting {
   const char* Line;
   int Value;
 };
+
+void PrintTo(const Setting& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Value; }
 
 class LineWidthInput : public DrawingTest, public testing::WithParamInterface<Setting> {};
 

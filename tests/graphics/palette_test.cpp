@@ -1,6 +1,7 @@
 #include "graphics/palette.h"
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -13,6 +14,8 @@ struct HintRow {
   float X, Y;
   const char* Text;
 };
+
+void PrintTo(const HintRow& one, std::ostream* out) { *out << one.X << ", " << one.Y << ", " << Quoted(one.Text); }
 
 class Hint : public DrawingTest, public testing::WithParamInterface<HintRow> {};
 
@@ -116,6 +119,10 @@ struct Choice {
   bool Shift;
   const char* Caption;
 };
+
+void PrintTo(const Choice& one, std::ostream* out) {
+  *out << static_cast<int>(one.Button) << ", " << one.Shift << ", " << Quoted(one.Caption);
+}
 
 class ChosenColour : public DrawingTest, public testing::WithParamInterface<Choice> {};
 

@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <cstdio>
+#include <ostream>
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -261,6 +263,8 @@ struct PenRow {
   bool DrawnWithThePenUp;
 };
 
+void PrintTo(const PenRow& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.DrawnWithThePenUp; }
+
 class PenUpShape : public DrawingTest, public testing::WithParamInterface<PenRow> {};
 
 TEST_P(PenUpShape, IsDrawnOnlyIfItIsAStamp) {
@@ -304,6 +308,8 @@ struct FillRow {
   const char* Line;
   Texts Operations;
 };
+
+void PrintTo(const FillRow& one, std::ostream* out) { *out << Quoted(one.Line); }
 
 class FillInput : public DrawingTest, public testing::WithParamInterface<FillRow> {};
 

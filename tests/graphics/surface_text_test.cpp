@@ -1,6 +1,7 @@
 #include "graphics/surface_text.h"
 
 #include "graphics/drawing_test.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -26,6 +27,8 @@ struct Written {
   const char* Line;
   const char* Text;
 };
+
+void PrintTo(const Written& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << Quoted(one.Text); }
 
 class WriteInput : public DrawingTest, public testing::WithParamInterface<Written> {};
 

@@ -14,6 +14,8 @@ struct FencePlace {
   bool Inside;
 };
 
+void PrintTo(const FencePlace& one, std::ostream* out) { *out << one.X << ", " << one.Y << ", " << one.Inside; }
+
 class FenceEdge : public DrawingTest, public testing::WithParamInterface<FencePlace> {};
 
 TEST_P(FenceEdge, DecidesWhetherTheFenceIsTurnedOn) {

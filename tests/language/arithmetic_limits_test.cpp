@@ -2,12 +2,14 @@
 
 #include <cmath>
 #include <optional>
+#include <ostream>
 #include <string>
 
 #include "core/failure.h"
 #include "language/arithmetic.h"
 #include "support/failure_of.h"
 #include "support/limited_watch.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -31,6 +33,8 @@ struct ValueOfText {
   const char* Text;
   double Value;
 };
+
+void PrintTo(const ValueOfText& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << one.Value; }
 
 class ArithmeticValue : public ArithmeticLimitsTest, public testing::WithParamInterface<ValueOfText> {};
 

@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "core/failure.h"
 #include "support/limited_watch.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -31,6 +33,8 @@ struct Expression {
   const char* Text;
   double Value;
 };
+
+void PrintTo(const Expression& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << one.Value; }
 
 class ExpressionOf : public ArithmeticTest, public testing::WithParamInterface<Expression> {};
 

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "core/failure.h"
 #include "support/interpreter.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -67,6 +69,8 @@ struct Rounds {
   const char* Line;
   std::size_t Count;
 };
+
+void PrintTo(const Rounds& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Count; }
 
 class RoundsOf : public LoweringTest, public testing::WithParamInterface<Rounds> {};
 

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "language/relations.h"
 #include "support/failure_of.h"
 #include "support/limited_watch.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -21,6 +23,8 @@ struct TruthOfText {
   const char* Text;
   bool Holds;
 };
+
+void PrintTo(const TruthOfText& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << one.Holds; }
 
 class Relation : public RelationSidesTest, public testing::WithParamInterface<TruthOfText> {};
 

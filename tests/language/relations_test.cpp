@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "core/failure.h"
 #include "support/limited_watch.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -19,6 +21,8 @@ struct Condition {
   const char* Text;
   bool Holds;
 };
+
+void PrintTo(const Condition& one, std::ostream* out) { *out << Quoted(one.Text) << ", " << one.Holds; }
 
 class ConditionOf : public testing::TestWithParam<Condition> {};
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace zerimo {
+
+/// A text as the name of a test shows it: between quotes, with what is no plain character written out.
+inline std::string Quoted(const char* text) { return testing::PrintToString(std::string(text)); }
+
+}  // namespace zerimo
