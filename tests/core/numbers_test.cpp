@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iomanip>
 #include <limits>
 #include <ostream>
 
@@ -55,7 +56,9 @@ struct WrittenNumber {
   const char* Text;
 };
 
-void PrintTo(const WrittenNumber& one, std::ostream* out) { *out << one.Value << ", " << Quoted(one.Text); }
+void PrintTo(const WrittenNumber& one, std::ostream* out) {
+  *out << std::setprecision(17) << one.Value << ", " << Quoted(one.Text);
+}
 
 class StrOf : public testing::TestWithParam<WrittenNumber> {};
 
