@@ -4,6 +4,9 @@
 
 #include <clocale>
 #include <limits>
+#include <ostream>
+
+#include "support/quoted.h"
 
 namespace zerimo::batch {
 namespace {
@@ -21,6 +24,8 @@ struct NumberCase {
   double Value;
   const char* Text;
 };
+
+void PrintTo(const NumberCase& one, std::ostream* out) { *out << one.Value << ", " << Quoted(one.Text); }
 
 class JsonNumber : public testing::TestWithParam<NumberCase> {};
 

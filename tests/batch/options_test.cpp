@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "batch/errors.h"
 
 namespace zerimo::batch {
@@ -83,6 +85,8 @@ struct BadUsage {
   std::vector<std::string> Arguments;
   const char* Message;
 };
+
+void PrintTo(const BadUsage& one, std::ostream* out) { *out << testing::PrintToString(one.Arguments); }
 
 class BadOptions : public testing::TestWithParam<BadUsage> {};
 

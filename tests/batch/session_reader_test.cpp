@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "batch/batch_session.h"
 #include "batch/errors.h"
 #include "in_memory_session.h"
+#include "support/quoted.h"
 
 namespace zerimo::batch {
 namespace {
@@ -91,6 +94,8 @@ struct KeyCase {
   int Code;
 };
 
+void PrintTo(const KeyCase& one, std::ostream* out) { *out << one.Name; }
+
 class SessionKeys : public SessionReaderTest, public testing::WithParamInterface<KeyCase> {};
 
 TEST_P(SessionKeys, HaveTheirCodes) {
@@ -118,6 +123,8 @@ struct PressCase {
   MouseButton Button;
   bool Shift;
 };
+
+void PrintTo(const PressCase& one, std::ostream* out) { *out << Quoted(one.Words); }
 
 class SessionPresses : public SessionReaderTest, public testing::WithParamInterface<PressCase> {};
 
@@ -194,6 +201,8 @@ struct BadLine {
   const char* Line;
   const char* Message;
 };
+
+void PrintTo(const BadLine& one, std::ostream* out) { *out << Quoted(one.Line); }
 
 class BadSession : public SessionReaderTest, public testing::WithParamInterface<BadLine> {};
 

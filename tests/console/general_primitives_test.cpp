@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "files/temp_folder.h"
+#include "support/quoted.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -135,6 +137,8 @@ struct TwoInputs {
   const char* Line;
   const char* Box;
 };
+
+void PrintTo(const TwoInputs& one, std::ostream* out) { *out << Quoted(one.Line); }
 
 class TwoInputsOf : public GeneralPrimitivesTest, public testing::WithParamInterface<TwoInputs> {};
 

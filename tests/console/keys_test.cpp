@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "files/temp_folder.h"
+#include "support/quoted.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -99,6 +101,8 @@ struct EnteredLine {
   const char* Typed;
   const char* Shown;
 };
+
+void PrintTo(const EnteredLine& one, std::ostream* out) { *out << Quoted(one.Typed); }
 
 class EnteredLineOf : public KeysTest, public testing::WithParamInterface<EnteredLine> {};
 

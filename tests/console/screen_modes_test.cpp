@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,10 @@ struct ModeSequence {
   const char* Lines[3];
   Seen After;
 };
+
+void PrintTo(const ModeSequence& one, std::ostream* out) {
+  for (const char* line : one.Lines) *out << (line == nullptr ? "" : line) << ", ";
+}
 
 class ModesInOrder : public ScreenModesTest, public testing::WithParamInterface<ModeSequence> {};
 

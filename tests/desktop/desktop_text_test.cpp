@@ -61,7 +61,7 @@ struct KeyCase {
   int System;
 };
 
-void PrintTo(const KeyCase& one, std::ostream* out) { *out << one.System; }
+void PrintTo(const KeyCase& one, std::ostream* out) { *out << one.Toolkit << " gives " << one.System; }
 
 class KnownKeys : public testing::TestWithParam<KeyCase> {};
 

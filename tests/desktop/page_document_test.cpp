@@ -5,6 +5,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextList>
+#include <ostream>
 
 namespace zerimo {
 namespace {
@@ -25,6 +26,8 @@ struct PageCase {
   const char* Name;
   Paragraph Content;
 };
+
+void PrintTo(const PageCase& one, std::ostream* out) { *out << one.Name; }
 
 class Pages : public testing::TestWithParam<PageCase> {};
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace zerimo {
 namespace {
 
@@ -10,6 +12,8 @@ struct Code {
   unsigned char Byte;
   char32_t Character;
 };
+
+void PrintTo(const Code& one, std::ostream* out) { *out << one.Page << ", " << int{one.Byte}; }
 
 class CodePageTable : public ::testing::TestWithParam<Code> {};
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "core/failure.h"
 #include "files/files_fixture.h"
 
@@ -14,6 +16,8 @@ struct Filling {
   Texts Statements;
   int NumberAfterwards;
 };
+
+void PrintTo(const Filling& one, std::ostream* out) { *out << one.Name; }
 
 class FillStoreTable : public ::testing::TestWithParam<Filling> {};
 

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "files/rich_text.h"
+#include "support/quoted.h"
 
 namespace zerimo {
 namespace {
@@ -24,6 +27,8 @@ struct Words {
   /// UTF-8.
   const char* Text;
 };
+
+void PrintTo(const Words& one, std::ostream* out) { *out << Quoted(one.Rtf); }
 
 class RtfTextTable : public ::testing::TestWithParam<Words> {};
 

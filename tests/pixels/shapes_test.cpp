@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <functional>
+#include <ostream>
 #include <utility>
 #include <vector>
 
@@ -86,6 +87,8 @@ struct Hatched {
   bool RunsUp;
   bool RunsDown;
 };
+
+void PrintTo(const Hatched& one, std::ostream* out) { *out << "style " << one.Style; }
 
 class HatchDirections : public CanvasTest, public ::testing::WithParamInterface<Hatched> {
  protected:
@@ -204,6 +207,10 @@ struct Outlined {
   int B;
   int Width;
 };
+
+void PrintTo(const Outlined& one, std::ostream* out) {
+  *out << one.A << " by " << one.B << ", " << one.Width << " wide";
+}
 
 class EllipseOutlines : public CanvasTest, public ::testing::WithParamInterface<Outlined> {
  protected:
