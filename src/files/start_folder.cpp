@@ -35,7 +35,7 @@ StartFolder PrepareStartFolder(const Surroundings& around) {
 }
 
 std::string AppFolderName(const fs::path& folder) {
-  const std::string name = Folders::ToSystem(folder);
+  std::string name = Folders::ToSystem(folder);
   std::error_code error;
   if (fs::equivalent(Folders::ToRead(name), folder, error)) return name;
   return fs::equivalent(".", folder, error) ? "." : name;
