@@ -51,12 +51,42 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE MATCHES "^Rel")
   add_link_options(-Wl,-z,relro -Wl,-z,now)
 endif()
 
-# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library.
+# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library. Its sources may include their own room
+# and those that its library links, directly or through another; the build refuses any other.
 function(zerimo_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zerimo_options)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  zerimo_guard_room(${name})
+endfunction()
+
+function(zerimo_guard_room name)
+  file(RELATIVE_PATH room ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+  set(may_know ${room})
+  get_target_property(links ${name} LINK_LIBRARIES)
+  foreach(link IN LISTS links)
+    get_property(known GLOBAL PROPERTY ZERIMO_ROOMS_OF_${link})
+    list(APPEND may_know ${known})
+  endforeach()
+  list(REMOVE_DUPLICATES may_know)
+  set_property(GLOBAL PROPERTY ZERIMO_ROOMS_OF_${name} ${may_know})
+
+  get_target_property(sources ${name} SOURCES)
+  list(TRANSFORM sources PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${name}.room)
+  string(REPLACE ";" "|" may_know "${may_know}")
+  set(checked ${sources} ${headers})
+  string(REPLACE ";" "|" checked "${checked}")
+  add_custom_command(
+    OUTPUT ${stamp}
+    COMMAND ${CMAKE_COMMAND} -DROOM=${room} "-DMAY_KNOW=${may_know}" "-DSOURCES=${checked}" -DSTAMP=${stamp}
+            -P ${PROJECT_SOURCE_DIR}/cmake/check_room.cmake
+    DEPENDS ${sources} ${headers} ${PROJECT_SOURCE_DIR}/cmake/check_room.cmake
+    COMMENT "Room ${room}: what it includes"
+    VERBATIM)
+  target_sources(${name} PRIVATE ${stamp})
 endfunction()
 
 # zerimo_test(NAME SOURCES... LINKS... [LABELS...]): one test program; every test in it is a test of its own to ctest.

@@ -12,7 +12,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "core/primitives.h"
+#include "interpreter/word_table.h"
 
 namespace zerimo::help {
 

@@ -3,9 +3,9 @@
 #include <deque>
 #include <string>
 
+#include "base/services.h"
 #include "batch/batch_watch.h"
 #include "batch/journal.h"
-#include "core/services.h"
 
 namespace zerimo::batch {
 

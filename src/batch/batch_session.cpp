@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "base/failure.h"
 #include "batch/dumps.h"
 #include "batch/errors.h"
 #include "batch/latin1.h"
 #include "batch/session_reader.h"
-#include "core/failure.h"
 
 namespace zerimo::batch {
 

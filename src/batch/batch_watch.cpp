@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <thread>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo::batch {
 

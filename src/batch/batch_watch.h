@@ -3,7 +3,7 @@
 #include <chrono>
 #include <cstdint>
 
-#include "core/watch.h"
+#include "base/watch.h"
 
 namespace zerimo::batch {
 

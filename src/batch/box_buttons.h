@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/services.h"
+#include "base/services.h"
 
 namespace zerimo::batch {
 

@@ -4,8 +4,8 @@
 #include <ostream>
 #include <string>
 
+#include "base/services.h"
 #include "batch/json_line.h"
-#include "core/services.h"
 
 namespace zerimo::batch {
 

@@ -1,6 +1,6 @@
 #include "batch/picture_output.h"
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 
 namespace zerimo::batch {
 

@@ -4,8 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/services.h"
 #include "controls/controls.h"
-#include "core/services.h"
 #include "graphics/palette.h"
 
 /// A session as a list of actions. Controls are those of the form that the session was read for.

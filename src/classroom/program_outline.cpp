@@ -4,11 +4,11 @@
 #include <memory>
 #include <sstream>
 
+#include "base/failure.h"
+#include "base/text.h"
 #include "controls/controls.h"
-#include "core/failure.h"
-#include "core/program_store.h"
-#include "core/text.h"
 #include "files/program_text.h"
+#include "interpreter/program_store.h"
 
 namespace zerimo::classroom {
 

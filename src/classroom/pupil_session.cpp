@@ -6,13 +6,13 @@
 #include <new>
 #include <stdexcept>
 
+#include "base/failure.h"
+#include "base/text.h"
 #include "batch/errors.h"
 #include "batch/latin1.h"
 #include "classroom/process_limits.h"
 #include "classroom/program_outline.h"
 #include "classroom/readable.h"
-#include "core/failure.h"
-#include "core/text.h"
 #include "files/confinement.h"
 
 namespace zerimo::classroom {

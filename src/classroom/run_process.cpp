@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/failure.h"
 #include "classroom/readable.h"
 #include "classroom/transcript_reader.h"
-#include "core/failure.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {

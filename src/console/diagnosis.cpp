@@ -1,6 +1,6 @@
 #include "console/diagnosis.h"
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

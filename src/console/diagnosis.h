@@ -1,11 +1,11 @@
 #pragma once
 
 #include "controls/form_controls.h"
-#include "core/control_path.h"
-#include "core/turtle_state.h"
 #include "graphics/surface.h"
-#include "language/lowering.h"
-#include "language/variables.h"
+#include "interpreter/control_path.h"
+#include "interpreter/lowering.h"
+#include "interpreter/turtle_state.h"
+#include "interpreter/variables.h"
 
 namespace zerimo {
 

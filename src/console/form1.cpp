@@ -1,7 +1,7 @@
 #include "console/form1.h"
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

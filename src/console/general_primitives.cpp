@@ -2,11 +2,11 @@
 
 #include <cmath>
 
-#include "core/failure.h"
-#include "core/numbers.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "files/folders.h"
-#include "language/relations.h"
+#include "interpreter/relations.h"
 
 namespace zerimo {
 

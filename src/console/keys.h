@@ -1,13 +1,13 @@
 #pragma once
 
+#include "base/services.h"
 #include "console/screen_modes.h"
 #include "controls/form_controls.h"
-#include "core/complex_executor.h"
-#include "core/dispatch.h"
-#include "core/services.h"
 #include "files/editor.h"
 #include "files/help_pages.h"
 #include "files/saving.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/typed_lines.h"
 
 namespace zerimo {
 

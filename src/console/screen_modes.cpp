@@ -1,8 +1,8 @@
 #include "console/screen_modes.h"
 
-#include "core/failure.h"
-#include "core/line_entry.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
+#include "interpreter/line_entry.h"
 
 namespace zerimo {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
-#include "core/program_store.h"
-#include "core/services.h"
 #include "files/program_files.h"
 #include "files/saving.h"
 #include "graphics/surface.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/program_store.h"
 
 namespace zerimo {
 

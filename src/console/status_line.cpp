@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

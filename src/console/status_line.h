@@ -2,9 +2,9 @@
 
 #include <string_view>
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/services.h"
-#include "core/turtle_state.h"
+#include "interpreter/turtle_state.h"
 
 namespace zerimo {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

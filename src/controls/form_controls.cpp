@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

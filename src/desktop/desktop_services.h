@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "core/services.h"
+#include "base/services.h"
 #include "desktop/stage.h"
 
 namespace zerimo {

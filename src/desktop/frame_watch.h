@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "core/watch.h"
+#include "base/watch.h"
 #include "desktop/stage.h"
 
 namespace zerimo {

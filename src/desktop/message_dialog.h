@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/services.h"
+#include "base/services.h"
 
 namespace zerimo {
 

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <exception>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "desktop/desktop_text.h"
 
 namespace zerimo {

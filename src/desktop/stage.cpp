@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <utility>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/failure.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
 #include "files/disk_files.h"
 #include "files/folders.h"
 

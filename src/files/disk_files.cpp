@@ -6,7 +6,7 @@
 #include <random>
 #include <system_error>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

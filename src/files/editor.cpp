@@ -1,9 +1,9 @@
 #include "files/editor.h"
 
-#include "core/failure.h"
-#include "core/line_entry.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
 #include "files/program_text.h"
+#include "interpreter/line_entry.h"
 
 namespace zerimo {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
-#include "core/program_store.h"
-#include "language/lowering.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/lowering.h"
+#include "interpreter/program_store.h"
 
 namespace zerimo {
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <system_error>
 
-#include "core/failure.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
 #include "files/confinement.h"
 #include "files/disk_files.h"
 #include "files/unicode_text.h"

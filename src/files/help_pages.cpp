@@ -1,7 +1,7 @@
 #include "files/help_pages.h"
 
-#include "core/failure.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
 #include "files/folders.h"
 #include "files/rich_text.h"
 #include "files/unicode_text.h"

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
-#include "core/services.h"
+#include "interpreter/dispatch.h"
 
 namespace zerimo {
 

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/failure.h"
-#include "core/line_entry.h"
-#include "core/numbers.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "interpreter/line_entry.h"
 
 namespace zerimo {
 

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
 #include "files/folders.h"
 #include "graphics/surface.h"
-#include "language/arguments.h"
+#include "interpreter/arguments.h"
+#include "interpreter/dispatch.h"
 
 namespace zerimo {
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "core/failure.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/text.h"
 #include "files/program_text.h"
 
 namespace zerimo {

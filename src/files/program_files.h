@@ -2,14 +2,14 @@
 
 #include <string>
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
-#include "core/program_store.h"
-#include "core/services.h"
 #include "files/folders.h"
 #include "files/pictures.h"
-#include "language/lowering.h"
-#include "language/variables.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/lowering.h"
+#include "interpreter/program_store.h"
+#include "interpreter/variables.h"
 
 namespace zerimo {
 

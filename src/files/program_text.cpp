@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

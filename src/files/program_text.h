@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/program_store.h"
+#include "interpreter/program_store.h"
 
 namespace zerimo {
 

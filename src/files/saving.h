@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/program_store.h"
-#include "core/services.h"
 #include "files/folders.h"
 #include "files/program_files.h"
+#include "interpreter/program_store.h"
 
 namespace zerimo {
 

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

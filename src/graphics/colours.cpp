@@ -1,7 +1,7 @@
 #include "graphics/colours.h"
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 #include "graphics/step_numbers.h"
 
 namespace zerimo {

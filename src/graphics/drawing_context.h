@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/services.h"
 #include "controls/form_controls.h"
-#include "core/dispatch.h"
-#include "core/services.h"
-#include "core/turtle_state.h"
 #include "graphics/surface.h"
-#include "language/arguments.h"
+#include "interpreter/arguments.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/turtle_state.h"
 
 namespace zerimo {
 

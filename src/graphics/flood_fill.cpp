@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 #include "graphics/step_numbers.h"
 
 namespace zerimo {

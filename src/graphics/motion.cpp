@@ -3,8 +3,8 @@
 #include <array>
 #include <cmath>
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 #include "graphics/step_numbers.h"
 
 namespace zerimo {

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <string>
 
-#include "core/failure.h"
-#include "core/numbers.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace zerimo {
 

@@ -1,7 +1,7 @@
 #include "graphics/step_numbers.h"
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 
 namespace zerimo {
 

@@ -1,8 +1,8 @@
 #include "graphics/surface_text.h"
 
-#include "core/failure.h"
-#include "core/numbers.h"
-#include "core/text.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "graphics/step_numbers.h"
 
 namespace zerimo {

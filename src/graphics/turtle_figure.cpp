@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 #include "graphics/step_numbers.h"
 
 namespace zerimo {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "pixels/ellipse_spans.h"
 #include "pixels/lines.h"
 #include "pixels/picture_file.h"

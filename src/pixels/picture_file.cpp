@@ -12,7 +12,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "pixels/picture_check.h"
 
 namespace zerimo {

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "in_memory_session.h"
 
 namespace zerimo::batch {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo::batch {
 namespace {

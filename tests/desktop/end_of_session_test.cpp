@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "desktop/desktop_fixture.h"
 
 namespace zerimo {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "files/files_fixture.h"
 #include "files/folders.h"
 #include "files/temp_folder.h"

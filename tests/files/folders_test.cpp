@@ -6,7 +6,7 @@
 #include <csignal>
 #include <optional>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "files/files_fixture.h"
 #include "files/temp_folder.h"
 

@@ -2,7 +2,7 @@
 
 #include <sys/stat.h>
 
-#include "core/text.h"
+#include "base/text.h"
 #include "files/files_fixture.h"
 
 namespace zerimo {

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "files/files_fixture.h"
 
 namespace zerimo {

@@ -5,12 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "base/failure.h"
 #include "controls/form_controls.h"
-#include "core/control_path.h"
-#include "core/dispatch.h"
-#include "core/failure.h"
-#include "core/program_store.h"
-#include "core/turtle_state.h"
 #include "graphics/colours.h"
 #include "graphics/drawing_context.h"
 #include "graphics/flood_fill.h"
@@ -23,9 +19,13 @@
 #include "graphics/surface_text.h"
 #include "graphics/turtle_figure.h"
 #include "graphics/turtle_places.h"
-#include "language/arguments.h"
-#include "language/arithmetic.h"
-#include "language/variables.h"
+#include "interpreter/arguments.h"
+#include "interpreter/arithmetic.h"
+#include "interpreter/control_path.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/program_store.h"
+#include "interpreter/turtle_state.h"
+#include "interpreter/variables.h"
 #include "support/fake_services.h"
 #include "support/limited_watch.h"
 

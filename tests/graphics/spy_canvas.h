@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/numbers.h"
+#include "base/numbers.h"
 #include "graphics/canvas.h"
 
 namespace zerimo {

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <limits>
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "graphics/operation_texts.h"
 #include "graphics/spy_canvas.h"
 

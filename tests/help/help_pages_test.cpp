@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "claims.h"
-#include "core/primitives.h"
+#include "interpreter/word_table.h"
 #include "page_layout.h"
 
 namespace zerimo::help {

@@ -9,7 +9,7 @@
 #include <sstream>
 #include <vector>
 
-#include "core/primitives.h"
+#include "interpreter/word_table.h"
 #include "word_tables.h"
 
 namespace zerimo::help {

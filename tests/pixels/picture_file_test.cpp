@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "base/failure.h"
 #include "canvas_fixture.h"
-#include "core/failure.h"
 #include "support/failure_of.h"
 
 namespace zerimo {

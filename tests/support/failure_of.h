@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 namespace zerimo {
 

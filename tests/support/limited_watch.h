@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/failure.h"
-#include "core/watch.h"
+#include "base/failure.h"
+#include "base/watch.h"
 
 namespace zerimo {
 

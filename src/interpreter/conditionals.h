@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "interpreter/arithmetic.h"
+#include "interpreter/program_store.h"
+#include "interpreter/variables.h"
+
+namespace zerimo {
+
+/// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines each time.
+class Conditionals {
+ public:
+  Conditionals(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator)
+      : store(programStore), variables(allVariables), arithmetic(evaluator) {}
+
+  /// The number of the next line to run for the `IF` on a line; 0 for a false `IF` without `ENDIF`. Fails as its
+  /// condition does.
+  std::int16_t Ifprocessor(int lineNumber);
+
+  /// The number of the last line that is exactly "LABEL " and the name, or 0.
+  std::int16_t LabelPos(std::string_view labelName) const;
+
+ private:
+  /// The line of the `ELSE` that is taken for this `IF`'s, or 0.
+  int FindElse(int lineNumber) const;
+  /// The line of the `ENDIF` of this `IF`, or 0.
+  int FindEndIf(int lineNumber) const;
+
+  ProgramStore& store;
+  const Variables& variables;
+  const Arithmetic& arithmetic;
+};
+
+}  // namespace zerimo

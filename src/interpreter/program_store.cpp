@@ -1,0 +1,148 @@
+#include "interpreter/program_store.h"
+
+#include <utility>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "interpreter/line_entry.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr int SweepLines = 100;
+constexpr int HowManyLines = 1000;
+
+/// The working copy of a sweep: line 101 is a subscript failure.
+class WorkingCopy {
+ public:
+  void Add(const std::string& line) {
+    if (lines.size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
+    lines.push_back(line);
+  }
+  const std::vector<std::string>& Lines() const { return lines; }
+
+ private:
+  std::vector<std::string> lines;
+};
+
+}  // namespace
+
+std::size_t ProgramStore::Index(int number) const {
+  if (number < 1 || number > LineCount) throw Failure(FailureKind::SubscriptOutOfRange);
+  return static_cast<std::size_t>(number - 1);
+}
+
+const std::string& ProgramStore::Line(int number) const { return FileDataArray[Index(number)]; }
+
+void ProgramStore::SetLine(int number, std::string text) { Put(Index(number), std::move(text)); }
+
+void ProgramStore::Put(std::size_t index, std::string text) noexcept {
+  if (FileDataArray[index] == text) return;
+  classes[index] = 0;
+  FileDataArray[index] = std::move(text);
+}
+
+StatementClass ProgramStore::ClassOf(int number) const {
+  const std::size_t index = Index(number);
+  if (classes[index] == 0) classes[index] = WhatIsThis(FileDataArray[index]);
+  return static_cast<StatementClass>(classes[index]);
+}
+
+void ProgramStore::TrimLine(int number) {
+  const std::string& line = Line(number);
+  const std::string_view trimmed = Trimmed(line);
+  if (trimmed.size() != line.size()) SetLine(number, std::string(trimmed));
+}
+
+int ProgramStore::FirstEmptyLine() const {
+  int number = 1;
+  while (!Line(number).empty()) ++number;
+  return number;
+}
+
+void ProgramStore::MakeEmptyFileDataArray() {
+  for (int number = 1; !Line(number).empty(); ++number) SetLine(number, "");
+}
+
+std::int16_t ProgramStore::WhereProcedure(std::string_view procedure) const {
+  const std::string marked = "#TO " + std::string(procedure);
+  const std::string_view pattern = std::string_view(marked).substr(1);
+  for (int number = 1; !Line(number).empty(); ++number) {
+    const std::string& line = Line(number);
+    // The # on both sides ties the match to the start of the line; a # inside the line can still make one.
+    const bool hit = line.starts_with(pattern) || Contains(line, marked);
+    if (!hit) continue;
+    const std::string_view next = CharacterAt(line, Length(pattern) + 1);
+    if (next.empty() || next == " ") return static_cast<std::int16_t>(number);
+  }
+  return 0;
+}
+
+std::int16_t ProgramStore::HowMany(std::string_view procedure, std::string_view command) const {
+  if (FileDataCount > HowManyLines) throw Failure(FailureKind::SubscriptOutOfRange);
+  std::int16_t count = 0;
+  for (int number = WhereProcedure(procedure); number <= FileDataCount && Line(number) != "END"; ++number) {
+    if (Line(number) == command) ++count;
+  }
+  return count;
+}
+
+bool ProgramStore::IsTempProcedurePresent() const {
+  for (int number = 1; !Line(number).empty(); ++number) {
+    if (Contains(Line(number), "TO #")) return true;
+  }
+  return false;
+}
+
+void ProgramStore::TempFileDataArray() {
+  int number = 1;
+  for (; !Contains(Line(number), "TO #"); ++number) {
+    if (Line(number).empty()) return;
+  }
+  WorkingCopy copy;
+  for (int kept = 1; kept < number; ++kept) copy.Add(Line(kept));
+  // Any "END" in a line ends the skip, that of an ENDIF too: the rest of such a procedure stays as ordinary lines.
+  while (!Line(number).empty() && !Contains(Line(number), "END")) ++number;
+  if (!Line(number).empty()) ++number;
+  for (; !Line(number).empty(); ++number) copy.Add(Line(number));
+
+  int target = 1;
+  for (const std::string& line : copy.Lines()) SetLine(target++, line);
+  // With all 100 lines in use there is no empty entry to end the copying back.
+  if (copy.Lines().size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
+  // Only this one line is emptied: the old lines behind it stay as stale text.
+  SetLine(target, "");
+}
+
+void ProgramStore::RefreshFileDataArray() {
+  while (IsTempProcedurePresent()) TempFileDataArray();
+}
+
+void ProgramStore::ProcedureList() {
+  List3.Clear();
+  for (int number = 1; !Line(number).empty(); ++number) {
+    if (ClassOf(number) == StmtTo) List3.Add(Line(number));
+  }
+}
+
+std::string ProgramStore::ProcedureListInStringForm() const {
+  std::string list;
+  for (int number = 1; !Line(number).empty(); ++number) {
+    const std::string& line = Line(number);
+    if (ClassOf(number) == StmtTo && !Contains(line, "#")) list += "[" + std::string(From(line, 4)) + "]   ";
+  }
+  return list;
+}
+
+void ListStore(ProgramStore& store, ListBox& list1) {
+  list1.Clear();
+  for (int number = 1; !store.Line(number).empty(); ++number) {
+    store.TrimLine(number);
+    list1.Add(Str(number) + "  " + store.Line(number));
+  }
+}
+
+}  // namespace zerimo

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/services.h"
+#include "base/watch.h"
+#include "controls/controls.h"
+#include "interpreter/conditionals.h"
+#include "interpreter/control_path.h"
+#include "interpreter/dispatch.h"
+#include "interpreter/inputs.h"
+#include "interpreter/program_store.h"
+#include "interpreter/variables.h"
+
+namespace zerimo {
+
+/// Walks the store line by line from the `TO` line of one procedure until the whole call tree is finished. One loop:
+/// a call only lengthens the control string. Runs under the skip rule.
+class Runner {
+ public:
+  Runner(ProgramStore& programStore, ControlPath& controlPath, Dispatch& dispatcher, Variables& allVariables,
+         Inputs& procedureInputs, Conditionals& theConditionals, Services& desktop, RunWatch& runWatch, Label& label19);
+
+  /// Runs a procedure, named without `TO`; an unknown name ends silently.
+  void Run1(std::string_view procedure);
+
+ private:
+  /// One walk's locals: they keep their values from line to line, so that a failed statement leaves the former one.
+  struct Walk {
+    int Line = 0;
+    StatementClass Class = StatementClass{};
+    std::string Name;
+    bool Over = false;
+  };
+
+  void Act(Walk& walk);
+  void Advance(Walk& walk);
+  void ActOnCall(Walk& walk);
+  void ActOnTo(Walk& walk);
+  void ActOnEnd(Walk& walk);
+  void ActOnGoto(Walk& walk);
+  void ActOnLabel(Walk& walk);
+  void ActOnEndIf(Walk& walk);
+  void ActOnElse(Walk& walk);
+  void ActOnExpression(Walk& walk, std::string_view word);
+  void Tidy();
+  void SetPath(std::string text);
+  void WriteLineBlank(int line);
+  void WriteLinePlain(int line);
+
+  ProgramStore& store;
+  ControlPath& path;
+  Dispatch& dispatch;
+  Variables& variables;
+  Inputs& inputs;
+  Conditionals& conditionals;
+  Services& services;
+  RunWatch& watch;
+  Label& Label19;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "base/watch.h"
+#include "controls/controls.h"
+#include "interpreter/arithmetic.h"
+#include "interpreter/control_path.h"
+#include "interpreter/program_store.h"
+#include "interpreter/turtle_state.h"
+
+namespace zerimo {
+
+/// All variables: 500 text slots, numbered from 1. A slot holds "" (free; most scans stop there), " " (deleted),
+/// NAME=value (a global) or PROCEDURE.NAME=value (a local).
+class Variables {
+ public:
+  static constexpr int SlotCount = 500;
+
+  Variables(ProgramStore& programStore, ControlPath& controlPath, const TurtleState& turtleState, const Window& form,
+            ListBox& list2, const Arithmetic& evaluator, RunWatch& runWatch);
+
+  /// A slot by its number; fails (subscript) outside 1 to 500.
+  const std::string& Slot(int number) const;
+
+  /// The one door by which a slot changes; fails (subscript) outside 1 to 500.
+  void SetSlot(int number, std::string text);
+
+  /// Defines the globals of the `MAKE` lines above the first `TO`. Fails (subscript) in a store without a `TO`.
+  void CreateGlobalVariable();
+
+  /// Carries out the `MAKE` on a line of the store.
+  void VariableUpdate(int lineNumber);
+
+  /// Closes deleted slots; always fails (subscript) after closing one, and never returns if only slots above 100 are
+  /// deleted.
+  void SpaceRemoverFromVariableArray();
+  bool SpacePresent() const;
+
+  /// The text with the locals of the running procedure replaced, trimmed.
+  std::string VarValReplacer(std::string& expression) const;
+
+  /// The text with the globals replaced.
+  std::string GlobalVariableReplacer(std::string& expression) const;
+
+  /// The text with the words XCOR and YCOR replaced by the turtle's position in steps.
+  std::string ReplaceXcorAndYcor(std::string& text) const;
+
+  /// Shows every slot up to the first free one in `List2`; fails (subscript) behind the last slot if none is free.
+  void RebuildList2();
+
+  /// Sets all slots to one blank and shows them all in `List2`.
+  void ForgetAll();
+
+ private:
+  std::string EnclosingProcedure(int lineNumber) const;
+  void SetLocal(const std::string& key, const std::string& value);
+  void SetGlobal(const std::string& name, const std::string& value);
+  std::vector<std::string> LocalsOfProcedure() const;
+  /// Whether a scan goes on at a slot; never returns behind the last slot.
+  bool SlotGoesOn(int number) const;
+  void ReadGlobal(const std::string& name, double& value) const;
+  void ListSlots();
+  std::vector<std::string> ListedSlots();
+
+  ProgramStore& store;
+  ControlPath& path;
+  const TurtleState& turtle;
+  const Window& Form1;
+  ListBox& List2;
+  const Arithmetic& arithmetic;
+  RunWatch& watch;
+  std::array<std::string, SlotCount> VariableArray;
+  /// How many slots hold "" and " ".
+  int freeSlots = SlotCount;
+  int deletedSlots = 0;
+  /// While `List2` is put off: the texts that slots had when it was made, for those that have changed since.
+  std::unordered_map<std::size_t, std::string> former;
+  bool shownInList2 = false;
+};
+
+/// The first name in an expression, or the empty text. The caller's text is trimmed.
+std::string VariableFinder(std::string& expression);
+
+/// Whether a character outside the expression alphabet is in the text.
+bool VariablePresent(std::string_view expression);
+
+/// The text, with a blank at each end, in which the first occurrence of `find` is replaced if it stands between
+/// delimiters. The caller's text gets the blanks too.
+std::string Textreplace(std::string& text, std::string_view find, std::string_view replacement);
+
+}  // namespace zerimo

@@ -1,0 +1,154 @@
+#include "interpreter/inputs.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "base/failure.h"
+#include "support/interpreter.h"
+
+namespace zerimo {
+namespace {
+
+class InputsTest : public testing::Test, protected Interpreter {};
+
+TEST_F(InputsTest, ACallPairsItsWordsWithTheHeader) {
+  Fill({"TO BOX :N :M", "END"});
+  Locals.CreateLocalVariable("BOX 50 7");
+  EXPECT_EQ(Names.Slot(1), "BOX.:N=50");
+  EXPECT_EQ(Names.Slot(2), "BOX.:M=7");
+  EXPECT_EQ(Path.CurProcName, "BOX");
+  EXPECT_EQ(Controls.List2.Items().size(), 2U);
+}
+
+TEST_F(InputsTest, TheEndDeletesTheEntries) {
+  Fill({"TO BOX :N", "END"});
+  Locals.CreateLocalVariable("BOX 50");
+  std::string name = " BOX ";
+  Locals.DeleteLocalVariable(name);
+  EXPECT_EQ(name, "BOX");
+  EXPECT_EQ(Names.Slot(1), " ");
+}
+
+TEST_F(InputsTest, DeletingTakesAllActivationsOfThatNameOnly) {
+  Names.SetSlot(1, "BOX.:N=1");
+  Names.SetSlot(2, "BOXES.:N=1");
+  Names.SetSlot(3, "BOX.:N=2");
+  Names.SetSlot(4, ":N=3");
+  std::string name = "BOX";
+  Locals.DeleteLocalVariable(name);
+  EXPECT_EQ(Names.Slot(1), " ");
+  EXPECT_EQ(Names.Slot(2), "BOXES.:N=1");
+  EXPECT_EQ(Names.Slot(3), " ");
+  EXPECT_EQ(Names.Slot(4), ":N=3");
+}
+
+TEST_F(InputsTest, AnArgumentIsTextAndNotEvaluated) {
+  Fill({"TO BOX :N", "END"});
+  Locals.CreateLocalVariable("BOX 1+1");
+  EXPECT_EQ(Names.Slot(1), "BOX.:N=1+1");
+  Path.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(Stages.Number("2*:N"), 3);
+}
+
+TEST_F(InputsTest, AnArgumentIsReadInTheCallersScope) {
+  Fill({"TO A :X", "B :X+1", "END", "TO B :Y", "END"});
+  Names.SetSlot(1, "A.:X=5");
+  Path.SetCtrlStr(".A- 2");
+  Locals.CreateLocalVariable("B :X+1");
+  EXPECT_EQ(Names.Slot(2), "B.:Y=5+1");
+}
+
+TEST_F(InputsTest, AGlobalZeroLeavesAnEmptyValue) {
+  Fill({"TO BOX :N", "END"});
+  Names.SetSlot(1, "Z=0");
+  Locals.CreateLocalVariable("BOX Z");
+  EXPECT_EQ(Names.Slot(2), "BOX.:N=");
+}
+
+TEST_F(InputsTest, TooFewArgumentsLeaveInputsUndefinedAndSurplusOnesAreIgnored) {
+  Fill({"TO BOX :N :M", "END"});
+  Locals.CreateLocalVariable("BOX 1");
+  EXPECT_EQ(Names.Slot(2), "");
+  Locals.CreateLocalVariable("BOX 1 2 3");
+  EXPECT_EQ(Names.Slot(4), "");
+}
+
+TEST_F(InputsTest, TwoBlanksEndThePairing) {
+  Fill({"TO BOX :N :M", "END"});
+  Locals.CreateLocalVariable("BOX  1 2");
+  EXPECT_EQ(Names.Slot(1), "");
+  EXPECT_EQ(Path.CurProcName, "BOX");
+}
+
+TEST_F(InputsTest, AnInputNeedsNoColon) {
+  Fill({"TO BOX N", "END"});
+  Locals.CreateLocalVariable("BOX 4");
+  EXPECT_EQ(Names.Slot(1), "BOX.N=4");
+}
+
+TEST_F(InputsTest, ADeletedSlotIsFilledAndWhatStandsBehindIsOverwritten) {
+  Fill({"TO BOX :N :M", "END"});
+  Names.SetSlot(1, " ");
+  Names.SetSlot(2, "G=1");
+  Locals.CreateLocalVariable("BOX 5 6");
+  EXPECT_EQ(Names.Slot(1), "BOX.:N=5");
+  EXPECT_EQ(Names.Slot(2), "BOX.:M=6");
+}
+
+TEST_F(InputsTest, RecursionReadsTheOutermostActivation) {
+  Fill({"TO R :N", "END"});
+  Locals.CreateLocalVariable("R 1");
+  Path.SetCtrlStr(".R- 2");
+  Locals.CreateLocalVariable("R 2");
+  EXPECT_EQ(Names.Slot(2), "R.:N=2");
+  EXPECT_EQ(Stages.Number(":N"), 1);
+}
+
+std::string ManyWords(int count) {
+  std::string text = "BOX";
+  for (int word = 1; word < count; ++word) text += " 1";
+  return text;
+}
+
+TEST_F(InputsTest, FiftyWordsAreTheMost) {
+  Fill({"TO BOX :N", "END"});
+  EXPECT_NO_THROW(Locals.CreateLocalVariable(ManyWords(50)));
+  EXPECT_THROW(Locals.CreateLocalVariable(ManyWords(51)), Failure);
+}
+
+TEST_F(InputsTest, AFullTableFails) {
+  Fill({"TO BOX :N", "END"});
+  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "X=1");
+  EXPECT_THROW(Locals.CreateLocalVariable("BOX 1"), Failure);
+}
+
+TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
+  Fill({"TO BOX :N :M", "END"});
+  for (int number = 1; number <= 499; ++number) Names.SetSlot(number, "X=1");
+  Watch = LimitedWatch(1, 200);
+  // The second argument's scan for locals finds no free slot any more.
+  EXPECT_THROW(Locals.CreateLocalVariable("BOX 1 2"), Stopped);
+  EXPECT_EQ(Names.Slot(500), "BOX.:N=1");
+}
+
+TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
+  Fill({"TO R :N", "FD 1", "R 1", "END"});
+  Watch = LimitedWatch(1'000'000, 2000);
+  // The activation that takes the last slot hangs in its first expression.
+  EXPECT_THROW(Type("R 1"), Stopped);
+  EXPECT_EQ(Calls.size(), 499U);
+  EXPECT_EQ(Names.Slot(500), "R.:N=1");
+}
+
+TEST_F(InputsTest, ASecondCallTakesTheDeletedSlotAgain) {
+  Fill({"TO BOX :N", "FD :N", "END"});
+  Type("BOX 5");
+  EXPECT_EQ(Names.Slot(1), " ");
+  Type("BOX 6");
+  EXPECT_EQ(Names.Slot(2), "");
+  EXPECT_EQ(Calls.back(), "FD 6");
+}
+
+}  // namespace
+}  // namespace zerimo

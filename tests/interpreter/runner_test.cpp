@@ -1,0 +1,381 @@
+#include "interpreter/runner.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "support/interpreter.h"
+#include "support/quoted.h"
+
+namespace zerimo {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// Notes the control string at the beginning of each step.
+class NotingWatch : public RunWatch {
+ public:
+  explicit NotingWatch(const ControlPath& controlPath) : path(controlPath) {}
+  void Step() override { Steps.push_back(path.CtrlStr()); }
+  void Tick() override {}
+  Texts Steps;
+
+ private:
+  const ControlPath& path;
+};
+
+class RunnerTest : public testing::Test, protected Interpreter {
+ protected:
+  /// The control string at the beginning of each step of a run, and at its end.
+  Texts StepsOf(const char* procedure) {
+    NotingWatch watch(Path);
+    Runner runner(Store, Path, Primitives, Names, Locals, Conditions, Desktop, watch, Controls.Label19);
+    runner.Run1(procedure);
+    watch.Steps.push_back(Path.CtrlStr());
+    return watch.Steps;
+  }
+
+  /// Runs a procedure that does not end for a number of steps.
+  void RunFor(int steps, const char* procedure) {
+    Watch.Allow(steps);
+    EXPECT_THROW(Interpreter::Run.Run1(procedure), Stopped);
+  }
+};
+
+TEST_F(RunnerTest, AnUnknownNameLeavesThePath) {
+  Path.SetCtrlStr(".OLD- 3");
+  Interpreter::Run.Run1("NOWHERE");
+  EXPECT_EQ(Path.CtrlStr(), ".OLD- 3");
+  EXPECT_EQ(Controls.Label19.Caption, ".OLD- 3");
+}
+
+TEST_F(RunnerTest, ThePathFollowsTheWalk) {
+  Fill({"TO BOX :S", "FD :S", "END", "TO #TEMP$7", "BOX 10", "RT 90", "END"});
+  Interpreter::Run.Run1("#TEMP$7");
+  EXPECT_EQ(Calls, (Texts{"FD 10", "RT 90"}));
+  EXPECT_EQ(Paths, (Texts{".#TEMP$7- 5.BOX- 2", ".#TEMP$7-6"}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+  EXPECT_EQ(Controls.Label19.Caption, ".");
+}
+
+TEST_F(RunnerTest, ThePathAtEachStepOfACall) {
+  Fill({"TO BOX :S", "FD :S", "END", "TO #TEMP$7", "BOX 10", "RT 90", "END"});
+  EXPECT_EQ(StepsOf("#TEMP$7"), (Texts{".#TEMP$7- 4", ".#TEMP$7-5", ".#TEMP$7- 5.BOX- 2", ".#TEMP$7- 5.BOX- 3",
+                                       ".#TEMP$7-6", ".#TEMP$7- 7", "."}));
+}
+
+TEST_F(RunnerTest, ThePathBehindEachClassOfLine) {
+  Fill({"TO A", "MAKE \"N 1", "IF 1", "ENDIF", "FD 1", "1+2", "1=2", "GOTO X", "LABEL X", "NOWHERE", "END"});
+  EXPECT_EQ(StepsOf("A"), (Texts{".A- 1", ".A-2", ".A- 3", ".A- 4", ".A- 6", ".A- 6", ".A- 7", ".A- 8", ".A-9", ".A-10",
+                                 ".A-10- 11", "."}));
+}
+
+TEST_F(RunnerTest, ThePathBehindAnElse) {
+  Fill({"TO A", "IF 1", "ELSE", "FD 1", "ENDIF", "FD 2", "END"});
+  EXPECT_EQ(StepsOf("A"), (Texts{".A- 1", ".A-2", ".A- 3", ".A- 6", ".A- 7", "."}));
+}
+
+TEST_F(RunnerTest, TheControlStringIsShownAsItChanges) {
+  Texts shown;
+  Primitives.Bind(Action::Forward, [&](PrimitiveCall&) { shown.push_back(Controls.Label19.Caption); });
+  Primitives.Bind(Action::ArithmeticLine, [&](PrimitiveCall&) { shown.push_back(Controls.Label19.Caption); });
+  Fill({"TO A", "FD 1", "1+2", "END", "TO B", "A", "FD 2", "END"});
+  Interpreter::Run.Run1("B");
+  EXPECT_EQ(shown, (Texts{".B- 6.A- 2", ".B- 6.A- 3", ".B-7"}));
+  EXPECT_EQ(Controls.Label19.Caption, ".");
+}
+
+TEST_F(RunnerTest, ThePathBehindATo) {
+  Fill({"TO A", "FD 1", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Paths, (Texts{".A-2", ".A- 3"}));
+}
+
+TEST_F(RunnerTest, AnUnknownWordIsSkippedAndThePathKeepsTheOldNumber) {
+  Fill({"TO A", "NOWHERE 5", "FD 1", "FD 2", "END", "TO B", "A", "FD 3", "END"});
+  Interpreter::Run.Run1("B");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2", "FD 3"}));
+  EXPECT_EQ(Paths[0], ".B- 7.A- 2- 3");
+  EXPECT_EQ(Paths[1], ".B- 7.A- 2- 4");
+  EXPECT_EQ(Paths[2], ".B-8");
+  EXPECT_EQ(Store.Line(2), "NOWHERE 5 ");
+  EXPECT_TRUE(Desktop.Boxes.empty());
+}
+
+TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberBehindAnUnknownWord) {
+  std::string name;
+  Primitives.Bind(Action::Forward, [&](PrimitiveCall&) { name = Path.CurrentProcedureName(); });
+  Fill({"TO A", "NOWHERE", "FD 1", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(name, "A-2");
+}
+
+TEST_F(RunnerTest, PrimitiveLinesAreTrimmedInTheStore) {
+  Fill({"TO A", "FD 1 ", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Store.Line(2), "FD 1");
+}
+
+TEST_F(RunnerTest, RecursionBehindAPrimitiveKeepsThePathsLength) {
+  Fill({"TO A", "FD 1", "A", "END"});
+  RunFor(3000, "A");
+  ASSERT_GT(Calls.size(), 900U);
+  EXPECT_EQ(Paths.back(), Paths[Paths.size() - 2]);
+  EXPECT_LT(Paths.back().size(), 20U);
+}
+
+TEST_F(RunnerTest, RecursionDirectlyBehindTheHeaderKeepsThePathsLength) {
+  Fill({"TO A", "A", "END"});
+  RunFor(100, "A");
+  EXPECT_EQ(Path.CtrlStr(), ".A- 2");
+}
+
+TEST_F(RunnerTest, RecursionBehindALabelGrowsThePath) {
+  // The label's number has no blank, so that the two components differ as texts.
+  Fill({"TO A", "LABEL X", "A", "END"});
+  RunFor(100, "A");
+  EXPECT_GT(std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.'), 20);
+}
+
+/// What stands in front of a recursive call, and how many components the path has after a while.
+struct InFrontOfTheCall {
+  const char* Line;
+  bool Grows;
+};
+
+void PrintTo(const InFrontOfTheCall& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Grows; }
+
+class RecursionBehind : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
+
+TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
+  Fill({"TO A", GetParam().Line, "A", "END", "TO B", "END"});
+  RunFor(120, "A");
+  const auto components = std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.');
+  if (GetParam().Grows) {
+    EXPECT_GT(components, 20);
+  } else {
+    EXPECT_LE(components, 2);
+  }
+}
+
+// A bare expression looks for the recursion before its act, when the inner component still has the number of its own
+// line; an ENDIF writes a number too high, and a return from a call one without its blank.
+INSTANTIATE_TEST_SUITE_P(Lines, RecursionBehind,
+                         testing::Values(InFrontOfTheCall{"FD 1", false}, InFrontOfTheCall{"MAKE X 1", false},
+                                         InFrontOfTheCall{"LABEL X", true}, InFrontOfTheCall{"1+2", true},
+                                         InFrontOfTheCall{"1=2", true}, InFrontOfTheCall{"ENDIF", true},
+                                         InFrontOfTheCall{"B", true}));
+
+TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
+  // The input that is read is always that of the outermost call, so that the condition holds for ever.
+  Fill({"TO B :N", "IF :N>0", "B :N-1", "ENDIF", "PRINT :N", "END", "TO M", "B 2", "END"});
+  RunFor(201, "M");
+  EXPECT_TRUE(Calls.empty());
+  EXPECT_EQ(Path.CtrlStr(), ".M- 8.B- 3");
+}
+
+TEST_F(RunnerTest, TenLevelsReturnOnce) {
+  Fill({"TO B", "MAKE N N-1", "IF N>0", "B", "ENDIF", "PRINT 1", "END", "TO M", "MAKE N 10", "B", "PRINT 2", "END"});
+  Interpreter::Run.Run1("M");
+  // From the innermost level, and from the outermost one behind its call.
+  EXPECT_EQ(Calls, (Texts{"PRINT 1", "PRINT 1", "PRINT 2"}));
+}
+
+TEST_F(RunnerTest, WhatStandsBehindARecursiveCallRunsOnce) {
+  Fill({"TO B :N", "FD :N", "IF :N>0", "B :N-1", "ENDIF", "RT 1", "END", "TO M", "B 0", "END"});
+  Interpreter::Run.Run1("M");
+  EXPECT_EQ(Calls, (Texts{"FD 0", "RT 1"}));
+}
+
+TEST_F(RunnerTest, NestedCallsReturnBehindTheCallWithTheCallersInputs) {
+  Fill({"TO IN :X", "FD :X", "END", "TO OUT :Y", "IN 1", "FD :Y", "IN 2", "FD :Y", "END", "TO M", "OUT 7", "END"});
+  Interpreter::Run.Run1("M");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 7", "FD 2", "FD 7"}));
+}
+
+TEST_F(RunnerTest, GotoWithAnUnknownLabelTellsItAndLeavesThePath) {
+  Fill({"TO A", "FD 1", "GOTO X", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+  ASSERT_EQ(Desktop.Boxes.size(), 1U);
+  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"UnDeclared Label: X in Goto Statement", 0, ""}));
+  EXPECT_EQ(Path.CtrlStr(), ".A- 3");
+  EXPECT_EQ(Controls.Label19.Caption, ".A- 3");
+}
+
+TEST_F(RunnerTest, ARunAfterAnUnknownLabelIsAppendedToTheOldPath) {
+  Fill({"TO A", "FD 1", "END"});
+  Path.SetCtrlStr(".#TEMP$1- 8");
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Paths, (Texts{".#TEMP$1- 8A-2"}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+}
+
+TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
+  Fill({"TO A", "FD 1", "END", "TO OLD", "FD 8", "FD 9", "END"});
+  Path.SetCtrlStr(".OLD- 5.X- 2");
+  Interpreter::Run.Run1("A");
+  // The END of the new run returns into the old path: behind line 5.
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 9"}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+}
+
+TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
+  Fill({"TO A", "FD 1", "END"});
+  Path.SetCtrlStr("X.");
+  Interpreter::Run.Run1("A");
+  // The END cuts the path down to "X", which has no number: the line behind 0 is the whole path.
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+}
+
+TEST_F(RunnerTest, ATrailingBlankMakesAnotherLabel) {
+  Fill({"TO A", "GOTO X", "END", "TO B", "LABEL X ", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
+}
+
+TEST_F(RunnerTest, GotoGoesToTheLabelLine) {
+  Fill({"TO A", "GOTO X", "FD 1", "LABEL X", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 2"}));
+  EXPECT_EQ(Paths, (Texts{".A-5"}));
+}
+
+TEST_F(RunnerTest, GotoIntoAnotherProcedureGoesOnThereUnderTheOldName) {
+  Fill({"TO A", "GOTO X", "END", "TO B", "LABEL X", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 2"}));
+  EXPECT_EQ(Paths, (Texts{".A-6"}));
+}
+
+TEST_F(RunnerTest, ALabelBehindAnEndifSkipsALine) {
+  Fill({"TO A", "IF 1", "ENDIF", "LABEL X", "FD 1", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 2"}));
+}
+
+TEST_F(RunnerTest, EndifWritesTheNumberOneAhead) {
+  Fill({"TO A", "IF 1", "ENDIF", "FD 1", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Paths, (Texts{".A- 5"}));
+}
+
+TEST_F(RunnerTest, TrueBranchJumpsBehindTheMatchingEndif) {
+  Fill({"TO A", "IF 1", "FD 1", "ELSE", "IF 1", "FD 2", "ENDIF", "FD 3", "ENDIF", "FD 4", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 4"}));
+  EXPECT_EQ(Paths[1], ".A- 10");
+}
+
+TEST_F(RunnerTest, FalseBranchStartsBehindTheElse) {
+  Fill({"TO A", "IF 0", "FD 1", "ELSE", "FD 2", "ENDIF", "FD 3", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 2", "FD 3"}));
+}
+
+TEST_F(RunnerTest, ElseStepsOverInnerConditions) {
+  Fill({"TO A", "IF 1", "ELSE", "IF 1", "IF 1", "ENDIF", "ENDIF", "FD 1", "ENDIF", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 2"}));
+}
+
+TEST_F(RunnerTest, ElseWithoutEndifEndsTheRun) {
+  Fill({"TO A", "FD 1", "ELSE", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+  ASSERT_EQ(Desktop.Boxes.size(), 1U);
+  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Misplaced Else", 0, ""}));
+  EXPECT_EQ(Path.CtrlStr(), ".");
+}
+
+TEST_F(RunnerTest, AConditionThatAlwaysFailsNeverEndsTheRun) {
+  Fill({"TO A", "IF 1/0", "FD 1", "ENDIF", "END"});
+  RunFor(500, "A");
+  EXPECT_TRUE(Calls.empty());
+  EXPECT_EQ(Path.CtrlStr(), ".A- 2");
+}
+
+TEST_F(RunnerTest, AFalseIfWithoutEndifNeverEndsTheRun) {
+  Fill({"TO A", "IF 0", "FD 1", "END"});
+  RunFor(500, "A");
+  EXPECT_EQ(Path.CtrlStr(), ".A- 0");
+}
+
+TEST_F(RunnerTest, AWalkWithoutEndGoesOnIntoTheNextLines) {
+  Fill({"TO A", "FD 1", "TO B", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
+}
+
+TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
+  Fill({"TO A", "FD 1", "", "FD 2", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
+  // The blank that the look at its first word leaves.
+  EXPECT_EQ(Store.Line(3), " ");
+}
+
+TEST_F(RunnerTest, AFailingPrimitiveLetsTheNextLineRun) {
+  Primitives.Bind(Action::Right, [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
+  Fill({"TO A", "RT 1", "FD 1", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+}
+
+TEST_F(RunnerTest, AFailingMakeLetsTheNextLineRun) {
+  Fill({"TO A", "MAKE \"N 1/0", "FD 1", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+}
+
+TEST_F(RunnerTest, ANameWithADashIsCutInThePath) {
+  Fill({"TO A-B 1", "FD 1", "END", "TO M", "A-B 1", "FD 2", "END"});
+  EXPECT_EQ(StepsOf("M"), (Texts{".M- 4", ".M-5", ".M- 5.A-B- 2", ".M- 5.A-B- 3", ".M-6", ".M- 7", "."}));
+}
+
+TEST_F(RunnerTest, AWalkPastLine2000EndsTheRunAndLeavesThePath) {
+  Fill({"TO A", "FD 1"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1"}));
+  EXPECT_TRUE(Path.CtrlStr().starts_with(".A- 3- 4- 5"));
+  EXPECT_TRUE(Path.CtrlStr().ends_with("- 2001"));
+  EXPECT_EQ(Controls.Label19.Caption, Path.CtrlStr());
+}
+
+TEST_F(RunnerTest, BareExpressionsGoToTheirOwnActions) {
+  Texts lines;
+  const auto note = [&](PrimitiveCall& call) {
+    lines.push_back(call.CommandLine);
+    Paths.push_back(Path.CtrlStr());
+  };
+  Primitives.Bind(Action::ArithmeticLine, note);
+  Primitives.Bind(Action::RelationLine, note);
+  Fill({"TO A", "1+2", "A=3", "FD 1", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(lines, (Texts{"AEXP 1+2", "REXP A=3"}));
+  EXPECT_EQ(Paths, (Texts{".A-2", ".A- 3", ".A- 4"}));
+}
+
+TEST_F(RunnerTest, ALineOfTooManyWordsCallsTheFormerName) {
+  std::string tooManyWords = "X";
+  for (int word = 1; word < 60; ++word) tooManyWords += " W";
+  Fill({"TO B", "FD 1", "END", "TO A", "B"});
+  Store.SetLine(6, tooManyWords);
+  Store.SetLine(7, "END");
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Calls, (Texts{"FD 1", "FD 1"}));
+}
+
+TEST_F(RunnerTest, EndDeletesTheInputsOfItsProcedure) {
+  Fill({"TO BOX :N", "FD :N", "END", "TO A", "BOX 50", "END"});
+  Interpreter::Run.Run1("A");
+  EXPECT_EQ(Names.Slot(1), " ");
+  EXPECT_EQ(Path.CurProcName, "A");
+}
+
+}  // namespace
+}  // namespace zerimo

@@ -1,0 +1,366 @@
+#include "interpreter/variables.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "base/failure.h"
+#include "support/interpreter.h"
+
+namespace zerimo {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class VariablesTest : public testing::Test, protected Interpreter {
+ protected:
+  void FillSlots(std::initializer_list<const char*> slots) {
+    int number = 1;
+    for (const char* slot : slots) Names.SetSlot(number++, slot);
+  }
+  Texts Slots() const {
+    Texts slots;
+    for (int number = 1; !Names.Slot(number).empty(); ++number) slots.push_back(Names.Slot(number));
+    return slots;
+  }
+  std::string Globals(std::string text) { return Names.GlobalVariableReplacer(text); }
+  std::string Locals(std::string text) { return Names.VarValReplacer(text); }
+  std::string Coordinates(std::string text) { return Names.ReplaceXcorAndYcor(text); }
+  /// Carries out a MAKE in a procedure A; what leaves it is passed over, as the runner does.
+  void Make(const char* line) {
+    Fill({"TO A", line, "END"});
+    PassOver([&] { Names.VariableUpdate(2); });
+  }
+};
+
+TEST_F(VariablesTest, SlotsOutsideTheTableFail) {
+  EXPECT_THROW(Names.Slot(0), Failure);
+  EXPECT_THROW(Names.Slot(501), Failure);
+  EXPECT_THROW(Names.SetSlot(501, "X"), Failure);
+}
+
+TEST_F(VariablesTest, FinderTakesTheFirstNameWithoutDigits) {
+  std::string text = "  12+AB1-C ";
+  EXPECT_EQ(VariableFinder(text), "AB");
+  EXPECT_EQ(text, "12+AB1-C");
+  for (const char* none : {"", "12", "(1+2)*3%4/5", "1<2>3=4!5", "[1] 2"}) {
+    std::string expression = none;
+    EXPECT_EQ(VariableFinder(expression), "") << none;
+  }
+  text = "5*:N+1";
+  EXPECT_EQ(VariableFinder(text), ":N");
+  text = "##<=2";
+  EXPECT_EQ(VariableFinder(text), "##");
+}
+
+TEST_F(VariablesTest, PresenceCountsABlank) {
+  EXPECT_FALSE(VariablePresent("(1+2)*3<=4!5>6%7/8.9[0]-1"));
+  EXPECT_TRUE(VariablePresent("1 2"));
+  EXPECT_TRUE(VariablePresent("1+A"));
+}
+
+TEST_F(VariablesTest, TextreplacePadsItsCallersText) {
+  std::string text = "  A+1 ";
+  EXPECT_EQ(Textreplace(text, "A", "7"), " 7+1 ");
+  EXPECT_EQ(text, " A+1 ");
+  EXPECT_EQ(Textreplace(text, "B", "7"), " A+1 ");
+}
+
+class DelimiterOf : public VariablesTest, public testing::WithParamInterface<char> {};
+
+TEST_P(DelimiterOf, EndsAName) {
+  const std::string mark(1, GetParam());
+  std::string text = "1" + mark + "A" + mark + "1";
+  EXPECT_EQ(Textreplace(text, "A", "7"), " 1" + mark + "7" + mark + "1 ");
+}
+
+INSTANTIATE_TEST_SUITE_P(Delimiters, DelimiterOf,
+                         testing::Values('\r', '+', '-', '*', '/', '\\', '%', '>', '<', '=', ' ', '(', ')', '[', ']',
+                                         '!'));
+
+TEST_F(VariablesTest, TextreplaceConsidersTheFirstOccurrenceOnly) {
+  std::string text = "AB+A";
+  EXPECT_EQ(Textreplace(text, "A", "7"), " AB+A ");
+  text = "A+A";
+  EXPECT_EQ(Textreplace(text, "A", "7"), " 7+A ");
+  text = "A.5";
+  EXPECT_EQ(Textreplace(text, "A", "7"), " A.5 ");
+}
+
+TEST_F(VariablesTest, UndeclaredNamesVanish) {
+  EXPECT_EQ(Globals("X"), "");
+  EXPECT_EQ(Globals("X+5"), "+5");
+  EXPECT_EQ(Stages.Number("X"), 0);
+  EXPECT_EQ(Stages.Number("X+5"), 5);
+  EXPECT_EQ(Globals("12"), "12");
+}
+
+TEST_F(VariablesTest, ZerosVanish) {
+  FillSlots({"X=0"});
+  EXPECT_EQ(Globals("X"), "");
+  EXPECT_EQ(Globals("5*X"), "5*");
+  EXPECT_EQ(Stages.Number("5*X"), 0);
+  EXPECT_EQ(Globals("5/X"), "5/");
+}
+
+TEST_F(VariablesTest, ANegativeValueMakesADoubleMinus) {
+  FillSlots({"X=-3"});
+  EXPECT_EQ(Globals("5-X"), "5--3");
+  EXPECT_EQ(Stages.Number("5-X"), 2);
+}
+
+TEST_F(VariablesTest, GlobalsAreReadWithTwoDecimalsHalfToEven) {
+  FillSlots({"X=.125", "Y=.375", "Z=3.14159"});
+  EXPECT_EQ(Globals("X"), ".12");
+  EXPECT_EQ(Globals("Y"), ".38");
+  EXPECT_EQ(Globals("Z*2"), "3.14*2");
+}
+
+TEST_F(VariablesTest, ANameWithADigitCanNotBeReadAsAGlobal) {
+  FillSlots({"A=5", "A1=9"});
+  EXPECT_EQ(Globals("A1"), "51");
+}
+
+TEST_F(VariablesTest, AnUndeclaredNameTakesTheValueOfTheOneBefore) {
+  FillSlots({"A=5"});
+  EXPECT_EQ(Globals("A+B"), "5+5");
+  EXPECT_EQ(Globals("B+A"), "+5");
+}
+
+TEST_F(VariablesTest, NamesAreComparedExactly) {
+  FillSlots({"BOX.A=9", "AB=8", "a=7", "A=5"});
+  EXPECT_EQ(Globals("A"), "5");
+}
+
+TEST_F(VariablesTest, ADeletedSlotIsPassedOverInReading) {
+  FillSlots({" ", "A=5"});
+  EXPECT_EQ(Globals("A"), "5");
+}
+
+TEST_F(VariablesTest, AGlobalInExponentFormNeverLeavesTheReplacer) {
+  FillSlots({"A=1E+15"});
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Globals("A"), Stopped);
+}
+
+TEST_F(VariablesTest, ScansWithoutAFreeSlotNeverEnd) {
+  Names.ForgetAll();
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Globals("A"), Stopped);
+  EXPECT_THROW(Locals("A"), Stopped);
+}
+
+TEST_F(VariablesTest, LocalsOfTheRunningProcedureAreReplacedOnce) {
+  FillSlots({"BOX.:X=5", "STAR.:X=9"});
+  Path.SetCtrlStr(".#TEMP$1- 9.BOX- 2");
+  EXPECT_EQ(Locals(":X+:X"), "5+:X");
+  EXPECT_EQ(Locals(" 1 "), "1");
+}
+
+TEST_F(VariablesTest, TheSecondOccurrenceReadsTheGlobal) {
+  FillSlots({"BOX.:X=5", ":X=7"});
+  Path.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(Stages.Number(":X+:X"), 12);
+}
+
+TEST_F(VariablesTest, AtTopLevelNoLocalMatches) {
+  FillSlots({"BOX.:X=5"});
+  EXPECT_EQ(Locals(":X"), ":X");
+}
+
+TEST_F(VariablesTest, ALocalWithADigitInItsNameIsRead) {
+  FillSlots({"BOX.A1=7"});
+  Path.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(Locals("A1+1"), "7+1");
+}
+
+TEST_F(VariablesTest, AnOccurrenceInALongerWordBlocksALocal) {
+  FillSlots({"BOX.A=7", "A=3"});
+  Path.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(Locals("AB+A"), "AB+A");
+  // The "A" at the end is then read as a global.
+  EXPECT_EQ(Stages.Number("AB+A"), 3);
+}
+
+TEST_F(VariablesTest, EntriesOfTheSameNameTakeOneOccurrenceEach) {
+  FillSlots({"R.:N=1", "R.:N=2"});
+  Path.SetCtrlStr(".R- 2");
+  EXPECT_EQ(Locals(":N*:N*:N"), "1*2*:N");
+}
+
+TEST_F(VariablesTest, TwentyEntriesAreKept) {
+  for (int number = 1; number <= 25; ++number) Names.SetSlot(number, "R.:N=" + std::to_string(number));
+  Path.SetCtrlStr(".R- 2");
+  std::string text = ":N";
+  for (int more = 1; more < 22; ++more) text += "+:N";
+  const std::string replaced = Locals(text);
+  EXPECT_TRUE(replaced.starts_with("1+2+3+"));
+  EXPECT_TRUE(replaced.ends_with("+20+:N+:N"));
+}
+
+TEST_F(VariablesTest, TwentyEntriesDoNotEndTheWalkOverTheSlots) {
+  for (int number = 1; number <= 499; ++number) Names.SetSlot(number, "R.:N=1");
+  Path.SetCtrlStr(".R- 2");
+  EXPECT_EQ(Locals(":N"), "1");
+  // Now no slot is free.
+  Names.SetSlot(500, "R.:N=1");
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Locals(":N"), Stopped);
+}
+
+TEST_F(VariablesTest, CoordinatesAreReplacedWithOneDecimal) {
+  Turtle.TurtleX = 7680 + 125;
+  Turtle.TurtleY = 5760 + 112.5;
+  EXPECT_EQ(Coordinates("XCOR"), " 2.5 ");
+  EXPECT_EQ(Coordinates("XCOR+XCOR"), " 2.5+ 2.5 ");
+  EXPECT_EQ(Coordinates("YCOR"), " -2.2 ");
+  EXPECT_EQ(Stages.Number("XCOR*2+YCOR"), 2.8);
+}
+
+TEST_F(VariablesTest, CoordinatesInLongerWordsBlock) {
+  EXPECT_EQ(Coordinates("XCORE+XCOR"), " XCORE+XCOR ");
+  EXPECT_EQ(Coordinates("12"), " 12 ");
+  EXPECT_EQ(Coordinates(""), "");
+}
+
+TEST_F(VariablesTest, CoordinatesFailAtAResolutionOf0) {
+  Turtle.Resolution = 0;
+  EXPECT_THROW(Coordinates("1"), Failure);
+}
+
+TEST_F(VariablesTest, MakeWithAQuotedNameDefinesTheColonForm) {
+  Make("MAKE \"A 2+3");
+  EXPECT_EQ(Slots(), (Texts{":A=5"}));
+}
+
+TEST_F(VariablesTest, MakeEndsItsValueAtTheThirdBlank) {
+  Make("MAKE A 2 + 3");
+  EXPECT_EQ(Slots(), (Texts{"A=2"}));
+}
+
+TEST_F(VariablesTest, MakeChangesAGlobalInPlace) {
+  FillSlots({"A=1", "B=2"});
+  Make("MAKE A B+1");
+  EXPECT_EQ(Slots(), (Texts{"A=3", "B=2"}));
+}
+
+TEST_F(VariablesTest, MakeKeepsMoreDecimalsThanAreRead) {
+  Make("MAKE A 1/3");
+  EXPECT_EQ(Slots(), (Texts{"A=.333333333333333"}));
+}
+
+TEST_F(VariablesTest, MakeOnALocalWritesTheLocalAndTheGlobal) {
+  FillSlots({"A.:N=1"});
+  Make("MAKE \"N 9");
+  EXPECT_EQ(Slots(), (Texts{"A.:N=9", ":N=9"}));
+}
+
+TEST_F(VariablesTest, MakeChangesTheOldestEntryOfALocal) {
+  FillSlots({"A.:N=1", "A.:N=2", ":N=0"});
+  Make("MAKE \"N 9");
+  EXPECT_EQ(Slots(), (Texts{"A.:N=9", "A.:N=2", ":N=9"}));
+}
+
+TEST_F(VariablesTest, MakeTakesADeletedSlotForTheEndOfTheGlobals) {
+  FillSlots({"X=1", " ", "A=5"});
+  Make("MAKE A 7");
+  // The new slot is filled before the deleted ones are closed.
+  EXPECT_EQ(Slots(), (Texts{"X=1", "A=7", "A=5"}));
+}
+
+TEST_F(VariablesTest, MakeLeavesANamelessEntry) {
+  FillSlots({".A=4"});
+  Make("MAKE A 7");
+  EXPECT_EQ(Slots(), (Texts{".A=4"}));
+}
+
+TEST_F(VariablesTest, MakeShowsTheSlotsAsTheyWereBeforeTheClosing) {
+  FillSlots({"X=1", "Y=2", " ", " "});
+  Make("MAKE X 5");
+  EXPECT_EQ(Controls.List2.Items(), (Texts{"X=5", "Y=2", " ", " "}));
+  // One deleted slot goes a call.
+  EXPECT_EQ(Slots(), (Texts{"X=5", "Y=2", " "}));
+}
+
+TEST_F(VariablesTest, MakeInAFullTableNeverReturns) {
+  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "X=1");
+  Watch = LimitedWatch(1, 200);
+  Fill({"TO A", "MAKE A 7", "END"});
+  // The value's scan for locals comes before the search for a slot.
+  EXPECT_THROW(Names.VariableUpdate(2), Stopped);
+}
+
+TEST_F(VariablesTest, MakeInATableFullOfLocalsNeverReturnsEither) {
+  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "A.:N=1");
+  Path.SetCtrlStr(".A- 2");
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Make("MAKE B 7"), Stopped);
+  EXPECT_EQ(Names.Slot(500), "A.:N=1");
+}
+
+TEST_F(VariablesTest, MakeAfterTheRefreshNeverReturns) {
+  Names.ForgetAll();
+  Watch = LimitedWatch(1, 500);
+  Fill({"TO A", "MAKE A 7", "END"});
+  EXPECT_THROW(Names.VariableUpdate(2), Stopped);
+}
+
+TEST_F(VariablesTest, ClosingFailsAfterOneSlotHasGone) {
+  FillSlots({"A=1", " ", "B=2", " ", "C=3"});
+  EXPECT_THROW(Names.SpaceRemoverFromVariableArray(), Failure);
+  EXPECT_EQ(Slots(), (Texts{"A=1", "B=2", " ", "C=3"}));
+}
+
+TEST_F(VariablesTest, ClosingNeverReturnsForADeletedSlotAbove100) {
+  for (int number = 1; number <= 100; ++number) Names.SetSlot(number, "X=1");
+  Names.SetSlot(101, " ");
+  Watch = LimitedWatch(1, 200);
+  EXPECT_THROW(Names.SpaceRemoverFromVariableArray(), Stopped);
+}
+
+TEST_F(VariablesTest, ClosingWithoutADeletedSlotDoesNothing) {
+  FillSlots({"A=1"});
+  EXPECT_FALSE(Names.SpacePresent());
+  EXPECT_NO_THROW(Names.SpaceRemoverFromVariableArray());
+}
+
+TEST_F(VariablesTest, GlobalsOfTheProgramStandInTheSlotsOfTheirLines) {
+  Fill({"MAKE \"A 2+3", "FD 1", "MAKE B (1+1)*2", "TO P", "MAKE C 1", "END"});
+  Names.CreateGlobalVariable();
+  EXPECT_EQ(Names.Slot(1), "\"A=5");
+  EXPECT_EQ(Names.Slot(2), "");
+  EXPECT_EQ(Names.Slot(3), "B=4");
+  EXPECT_EQ(Names.Slot(5), "");
+}
+
+TEST_F(VariablesTest, GlobalsOfTheProgramTakeTheLastWordAsValueAndReplaceNoName) {
+  Fill({"MAKE A 1", "MAKE LONG NAME 7", "MAKE B A", "TO P"});
+  Names.CreateGlobalVariable();
+  EXPECT_EQ(Slots(), (Texts{"A=1", "LONG NAME=7", "B=0"}));
+}
+
+TEST_F(VariablesTest, GlobalsOfAProgramWithoutAProcedureFail) {
+  Fill({"MAKE A 1"});
+  EXPECT_THROW(Names.CreateGlobalVariable(), Failure);
+  EXPECT_EQ(Names.Slot(1), "A=1");
+}
+
+TEST_F(VariablesTest, ListHoldsWhatTheSlotsHeldWhenItWasMade) {
+  FillSlots({"A=1", "B=2"});
+  Names.RebuildList2();
+  FillSlots({"A=9", "B=9", "C=9"});
+  EXPECT_EQ(Controls.List2.Items(), (Texts{"A=1", "B=2"}));
+  Names.RebuildList2();
+  EXPECT_EQ(Controls.List2.Items(), (Texts{"A=9", "B=9", "C=9"}));
+}
+
+TEST_F(VariablesTest, ListAfterForgettingHas500Blanks) {
+  Names.ForgetAll();
+  Names.SetSlot(1, "X=1");
+  EXPECT_EQ(Controls.List2.Items(), Texts(500, " "));
+}
+
+}  // namespace
+}  // namespace zerimo
