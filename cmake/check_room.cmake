@@ -1,5 +1,6 @@
 # Refuses a source of a room that includes a header of a room that it may not know.
 # cmake -DROOM=NAME -DMAY_KNOW=NAMES -DSOURCES=FILES -DSTAMP=FILE -P check_room.cmake, lists separated by |
+cmake_policy(VERSION 3.25)
 
 string(REPLACE "|" ";" MAY_KNOW "${MAY_KNOW}")
 string(REPLACE "|" ";" SOURCES "${SOURCES}")
