@@ -14,14 +14,14 @@ namespace zerimo::batch {
 class BatchServices final : public Services {
  public:
   BatchServices(Journal& theJournal, BatchWatch& theWatch, bool reallySleep)
-      : journal(theJournal), watch(theWatch), sleeps(reallySleep) {}
+      : journal_(theJournal), watch_(theWatch), sleeps_(reallySleep) {}
 
   /// `line` is where the session asks for it, should the next box have no such button.
-  void QueueBoxAnswer(Answer answer, int line) { boxAnswers.push_back({answer, line}); }
-  void QueueInput(std::string text) { inputs.push_back(std::move(text)); }
-  void QueueOpen(std::string fileName) { filesToOpen.push_back(std::move(fileName)); }
-  void QueueSave(std::string fileName) { filesToSave.push_back(std::move(fileName)); }
-  void SetTimeOfDay(std::string text) { time = std::move(text); }
+  void QueueBoxAnswer(Answer answer, int line) { boxAnswers_.push_back({answer, line}); }
+  void QueueInput(std::string text) { inputs_.push_back(std::move(text)); }
+  void QueueOpen(std::string fileName) { filesToOpen_.push_back(std::move(fileName)); }
+  void QueueSave(std::string fileName) { filesToSave_.push_back(std::move(fileName)); }
+  void SetTimeOfDay(std::string text) { time_ = std::move(text); }
 
   /// Fails with `SessionError` if the queued answer is none of the box's buttons.
   Answer MessageBox(const std::string& text, int style, const std::string& title) override;
@@ -29,8 +29,8 @@ class BatchServices final : public Services {
   std::string ShowOpen() override;
   std::string ShowSave(const std::string& text) override;
   void Sleep(std::int32_t milliseconds) override;
-  void Beep() override { journal.Beep(); }
-  std::string TimeOfDay() override { return time; }
+  void Beep() override { journal_.Beep(); }
+  std::string TimeOfDay() override { return time_; }
 
  private:
   struct QueuedAnswer {
@@ -40,14 +40,14 @@ class BatchServices final : public Services {
 
   Answer TakeBoxAnswer(int style);
 
-  Journal& journal;
-  BatchWatch& watch;
-  bool sleeps;
-  std::string time = "00:00";
-  std::deque<QueuedAnswer> boxAnswers;
-  std::deque<std::string> inputs;
-  std::deque<std::string> filesToOpen;
-  std::deque<std::string> filesToSave;
+  Journal& journal_;
+  BatchWatch& watch_;
+  bool sleeps_;
+  std::string time_ = "00:00";
+  std::deque<QueuedAnswer> boxAnswers_;
+  std::deque<std::string> inputs_;
+  std::deque<std::string> filesToOpen_;
+  std::deque<std::string> filesToSave_;
 };
 
 }  // namespace zerimo::batch

@@ -11,24 +11,24 @@
 namespace zerimo::batch {
 
 BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& theJournal, PictureWriter pictureWriter)
-    : journal(theJournal),
-      writePicture(std::move(pictureWriter)),
-      watch(settings.Steps, settings.Seconds),
-      services(journal, watch, settings.Sleep),
-      form(settings.Screen, settings.AppFolder, services, watch, canvas),
-      trace(journal) {
-  form.Controls.List4.OnChange = [this](const std::string* item) {
+    : journal_(theJournal),
+      writePicture_(std::move(pictureWriter)),
+      watch_(settings.Steps, settings.Seconds),
+      services_(journal_, watch_, settings.Sleep),
+      form_(settings.Screen, settings.AppFolder, services_, watch_, canvas),
+      trace_(journal_) {
+  form_.Controls.List4.OnChange = [this](const std::string* item) {
     if (item != nullptr) {
-      journal.ListAdd(form.Controls.List4.Name(), *item);
+      journal_.ListAdd(form_.Controls.List4.Name(), *item);
     } else {
-      journal.ListClear(form.Controls.List4.Name());
+      journal_.ListClear(form_.Controls.List4.Name());
     }
   };
-  form.Controls.Form1.OnCaption = [this](const std::string& text) { journal.Caption(text); };
-  form.Picture1.AddRecorder(trace);
+  form_.Controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
+  form_.Picture1.AddRecorder(trace_);
 }
 
-Script BatchSession::Read(std::string_view utf8) { return ReadSession(utf8, form); }
+Script BatchSession::Read(std::string_view utf8) { return ReadSession(utf8, form_); }
 
 Outcome BatchSession::Run(std::string_view utf8) {
   try {
@@ -40,7 +40,7 @@ Outcome BatchSession::Run(std::string_view utf8) {
 
 Outcome BatchSession::Run(const Script& script) {
   Outcome outcome = RunToTheEnd(script);
-  journal.Flush();
+  journal_.Flush();
   return outcome;
 }
 
@@ -48,55 +48,55 @@ Outcome BatchSession::Run(const Script& script) {
 Outcome BatchSession::RunToTheEnd(const Script& script) {
   try {
     RunSteps(script);
-    journal.Finished();
+    journal_.Finished();
     return {Ending::Over, {}, 0, "finished"};
   } catch (const Ended& ended) {
-    journal.Ended(ended.By);
+    journal_.Ended(ended.By);
     return {Ending::Over, {}, 0, ended.By};
   } catch (const Stopped& stopped) {
-    journal.Stopped(stopped.By);
-    return {Ending::Stopped, "stopped by the limit of " + stopped.By, currentLine, stopped.By};
+    journal_.Stopped(stopped.By);
+    return {Ending::Stopped, "stopped by the limit of " + stopped.By, currentLine_, stopped.By};
   } catch (const Failure& failure) {
-    form.RescueEditorText();
-    journal.EndedByFailure(failure.what());
-    return {Ending::Failed, std::string("ended by a failure: ") + failure.what(), currentLine};
+    form_.RescueEditorText();
+    journal_.EndedByFailure(failure.what());
+    return {Ending::Failed, std::string("ended by a failure: ") + failure.what(), currentLine_};
   } catch (const SessionError& error) {
     return {Ending::Refused, error.what(), error.Line};
   }
 }
 
 void BatchSession::RunSteps(const Script& script) {
-  watch.StartClock();
-  Deliver([this] { form.Load(); });
+  watch_.StartClock();
+  Deliver([this] { form_.Load(); });
   for (const SessionStep& step : script) {
-    currentLine = step.Line;
+    currentLine_ = step.Line;
     std::visit([this](const auto& act) { Do(act); }, step.Act);
-    journal.Flush();
+    journal_.Flush();
   }
 }
 
 void BatchSession::Deliver(const std::function<void()>& event) {
-  watch.BeginEvent();
+  watch_.BeginEvent();
   event();
-  Timer& timer2 = form.Controls.Timer2;
+  Timer& timer2 = form_.Controls.Timer2;
   if (!timer2.Enabled) return;
-  watch.BeginEvent();
-  form.Tick(timer2);
+  watch_.BeginEvent();
+  form_.Tick(timer2);
 }
 
 int BatchSession::RowWithFocus() {
-  const Control* const focus = form.Controls.Focus.Focus();
-  for (int row = 0; row < form.Controls.Text1.Size; ++row) {
-    if (focus == &form.Controls.Text1[row]) return row;
+  const Control* const focus = form_.Controls.Focus.Focus();
+  for (int row = 0; row < form_.Controls.Text1.Size; ++row) {
+    if (focus == &form_.Controls.Text1[row]) return row;
   }
   return 0;
 }
 
-void BatchSession::PressEnter(int row) { Do(action::PressKey{&form.Controls.Text1[row], key::Enter}); }
+void BatchSession::PressEnter(int row) { Do(action::PressKey{&form_.Controls.Text1[row], key::Enter}); }
 
 void BatchSession::Do(const action::TypeLine& act) {
   const int row = RowWithFocus();
-  form.Controls.Text1[row].Text = act.Text;
+  form_.Controls.Text1[row].Text = act.Text;
   PressEnter(row);
 }
 
@@ -106,92 +106,92 @@ void BatchSession::Do(const action::EnterRow& act) {
     return;
   }
   // A hidden row can't have the focus; it is entered all the same, as a typed line is.
-  PassOver([&] { form.Controls.Focus.SetFocus(form.Controls.Text1[act.Row]); });
+  PassOver([&] { form_.Controls.Focus.SetFocus(form_.Controls.Text1[act.Row]); });
   PressEnter(act.Row);
 }
 
-void BatchSession::Do(const action::SetRow& act) { form.Controls.Text1[act.Row].Text = act.Text; }
+void BatchSession::Do(const action::SetRow& act) { form_.Controls.Text1[act.Row].Text = act.Text; }
 
 void BatchSession::Do(const action::TypeOver& act) {
   act.Box->Text = act.Text;
-  Deliver([&] { form.Change(*act.Box); });
+  Deliver([&] { form_.Change(*act.Box); });
 }
 
 void BatchSession::Do(const action::PressKey& act) {
-  for (int row = 0; row < form.Controls.Text1.Size; ++row) {
-    const TextBox& box = form.Controls.Text1[row];
-    if (act.Target == &box && act.KeyCode == key::Enter) journal.Typed(row, box.Text);
+  for (int row = 0; row < form_.Controls.Text1.Size; ++row) {
+    const TextBox& box = form_.Controls.Text1[row];
+    if (act.Target == &box && act.KeyCode == key::Enter) journal_.Typed(row, box.Text);
   }
-  Deliver([&] { form.KeyDown(*act.Target, act.KeyCode); });
+  Deliver([&] { form_.KeyDown(*act.Target, act.KeyCode); });
 }
 
 void BatchSession::Do(const action::Click& act) {
-  Deliver([&] { form.Click(*act.Target); });
+  Deliver([&] { form_.Click(*act.Target); });
 }
 
 void BatchSession::Do(const action::MoveMouse& act) {
-  Deliver([&] { form.MouseMove(*act.Target, act.X, act.Y); });
+  Deliver([&] { form_.MouseMove(*act.Target, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::PressMouse& act) {
-  Deliver([&] { form.MouseDown(*act.Target, act.Button, act.Shift, act.X, act.Y); });
+  Deliver([&] { form_.MouseDown(*act.Target, act.Button, act.Shift, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::Drop& act) {
-  Deliver([&] { form.DragDrop(*act.Source, act.X, act.Y); });
+  Deliver([&] { form_.DragDrop(*act.Source, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::Scroll& act) {
   act.Bar->Value = act.Value;
-  Deliver([&] { form.Change(*act.Bar); });
+  Deliver([&] { form_.Change(*act.Bar); });
 }
 
 void BatchSession::Do(const action::SelectEntry& act) {
-  FileListBox& files = form.Controls.File1;
+  FileListBox& files = form_.Controls.File1;
   const bool isFile = act.List == &files;
-  const std::vector<std::string>& entries = isFile ? files.Items : form.Controls.List4.Items();
+  const std::vector<std::string>& entries = isFile ? files.Items : form_.Controls.List4.Items();
   if (std::ranges::find(entries, act.Entry) == entries.end()) {
-    throw SessionError(currentLine, ToUtf8(act.List->Name() + " has no entry " + act.Entry));
+    throw SessionError(currentLine_, ToUtf8(act.List->Name() + " has no entry " + act.Entry));
   }
   if (isFile) {
     files.FileName = act.Entry;
-    Deliver([&] { form.MouseDown(files, MouseButton::Left, false, 0, 0); });
+    Deliver([&] { form_.MouseDown(files, MouseButton::Left, false, 0, 0); });
   }
-  Deliver([&] { form.Click(*act.List); });
+  Deliver([&] { form_.Click(*act.List); });
 }
 
 void BatchSession::Do(const action::Tick& act) {
   for (int tick = 0; tick < act.Times && act.Ticking->Enabled; ++tick) {
-    Deliver([&] { form.Tick(*act.Ticking); });
+    Deliver([&] { form_.Tick(*act.Ticking); });
   }
 }
 
-void BatchSession::Do(const action::SetTime& act) { services.SetTimeOfDay(act.Text); }
+void BatchSession::Do(const action::SetTime& act) { services_.SetTimeOfDay(act.Text); }
 
-void BatchSession::Do(const action::AnswerBox& act) { services.QueueBoxAnswer(act.Button, currentLine); }
+void BatchSession::Do(const action::AnswerBox& act) { services_.QueueBoxAnswer(act.Button, currentLine_); }
 
-void BatchSession::Do(const action::AnswerInput& act) { services.QueueInput(act.Text); }
+void BatchSession::Do(const action::AnswerInput& act) { services_.QueueInput(act.Text); }
 
 void BatchSession::Do(const action::AnswerDialog& act) {
   if (act.ToSave) {
-    services.QueueSave(act.FileName);
+    services_.QueueSave(act.FileName);
   } else {
-    services.QueueOpen(act.FileName);
+    services_.QueueOpen(act.FileName);
   }
 }
 
-void BatchSession::Do(const action::Trace& act) { trace.On = act.On; }
+void BatchSession::Do(const action::Trace& act) { trace_.On = act.On; }
 
-void BatchSession::Do(const action::Dump& act) { journal.Write(DumpOf(form, act.What)); }
+void BatchSession::Do(const action::Dump& act) { journal_.Write(DumpOf(form_, act.What)); }
 
-void BatchSession::Do(const action::DumpControl& act) { journal.Write(DumpOf(act)); }
+void BatchSession::Do(const action::DumpControl& act) { journal_.Write(DumpOf(act)); }
 
 void BatchSession::Do(const action::WritePicture& act) {
-  if (!writePicture) return;
+  if (!writePicture_) return;
   try {
-    writePicture(form.Picture1, act.File);
+    writePicture_(form_.Picture1, act.File);
   } catch (const std::exception&) {
-    throw SessionError(currentLine, ToUtf8(act.File) + " can not be written");
+    throw SessionError(currentLine_, ToUtf8(act.File) + " can not be written");
   }
 }
 

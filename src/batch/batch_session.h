@@ -48,10 +48,10 @@ class BatchSession {
   /// Reads and runs; a mistake of the session is an outcome too.
   Outcome Run(std::string_view utf8);
 
-  Form1& System() { return form; }
+  Form1& System() { return form_; }
 
   /// The line of the session that is being carried out; 0 before the first.
-  int CurrentLine() const { return currentLine; }
+  int CurrentLine() const { return currentLine_; }
 
  private:
   Outcome RunToTheEnd(const Script& script);
@@ -85,13 +85,13 @@ class BatchSession {
   /// Delivers one event, and then the one-shot that it may have switched on.
   void Deliver(const std::function<void()>& event);
 
-  Journal& journal;
-  PictureWriter writePicture;
-  BatchWatch watch;
-  BatchServices services;
-  Form1 form;
-  SurfaceTrace trace;
-  int currentLine = 0;
+  Journal& journal_;
+  PictureWriter writePicture_;
+  BatchWatch watch_;
+  BatchServices services_;
+  Form1 form_;
+  SurfaceTrace trace_;
+  int currentLine_ = 0;
 };
 
 }  // namespace zerimo::batch

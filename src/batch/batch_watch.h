@@ -29,11 +29,11 @@ class BatchWatch final : public RunWatch {
   void LookAtClockNowAndThen();
   void LookAtClock() const;
 
-  std::uint64_t stepLimit;
-  std::uint64_t stepsTaken = 0;
-  double secondLimit;
-  Clock::time_point end = Clock::time_point::max();
-  unsigned looks = 0;
+  std::uint64_t stepLimit_;
+  std::uint64_t stepsTaken_ = 0;
+  double secondLimit_;
+  Clock::time_point end_ = Clock::time_point::max();
+  unsigned looks_ = 0;
 };
 
 }  // namespace zerimo::batch

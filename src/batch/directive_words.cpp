@@ -10,12 +10,12 @@
 
 namespace zerimo::batch {
 
-bool DirectiveWords::HasMore() const { return rest.find_first_not_of(' ') != std::string_view::npos; }
+bool DirectiveWords::HasMore() const { return rest_.find_first_not_of(' ') != std::string_view::npos; }
 
 std::string_view DirectiveWords::OptionalWord() {
-  rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-  const std::string_view word = rest.substr(0, rest.find(' '));
-  rest.remove_prefix(word.size());
+  rest_.remove_prefix(std::min(rest_.find_first_not_of(' '), rest_.size()));
+  const std::string_view word = rest_.substr(0, rest_.find(' '));
+  rest_.remove_prefix(word.size());
   return word;
 }
 
@@ -47,14 +47,14 @@ float DirectiveWords::Units(std::string_view wanted) {
 }
 
 std::string DirectiveWords::Text() {
-  if (!rest.empty()) rest.remove_prefix(1);
-  return std::string(std::exchange(rest, {}));
+  if (!rest_.empty()) rest_.remove_prefix(1);
+  return std::string(std::exchange(rest_, {}));
 }
 
 void DirectiveWords::End() {
   if (HasMore()) Fail("there is too much on the line: " + std::string(OptionalWord()));
 }
 
-void DirectiveWords::Fail(const std::string& message) const { throw SessionError(lineNumber, ToUtf8(message)); }
+void DirectiveWords::Fail(const std::string& message) const { throw SessionError(lineNumber_, ToUtf8(message)); }
 
 }  // namespace zerimo::batch

@@ -9,9 +9,9 @@ namespace zerimo::batch {
 /// the end begins behind one blank and is taken as it stands.
 class DirectiveWords {
  public:
-  DirectiveWords(std::string_view text, int line) : rest(text), lineNumber(line) {}
+  DirectiveWords(std::string_view text, int line) : rest_(text), lineNumber_(line) {}
 
-  int Line() const { return lineNumber; }
+  int Line() const { return lineNumber_; }
   bool HasMore() const;
 
   /// The next word; an error of the session, naming what is wanted, if there is none.
@@ -30,8 +30,8 @@ class DirectiveWords {
   [[noreturn]] void Fail(const std::string& message) const;
 
  private:
-  std::string_view rest;
-  int lineNumber;
+  std::string_view rest_;
+  int lineNumber_;
 };
 
 }  // namespace zerimo::batch

@@ -13,7 +13,7 @@ namespace zerimo::batch {
 class Journal {
  public:
   /// Either stream may be missing.
-  Journal(std::ostream* forPrograms, std::ostream* forPeople) : transcript(forPrograms), people(forPeople) {}
+  Journal(std::ostream* forPrograms, std::ostream* forPeople) : transcript_(forPrograms), people_(forPeople) {}
 
   void Typed(int row, const std::string& text);
   void Box(const std::string& text, int style, const std::string& title, Answer answer);
@@ -30,7 +30,7 @@ class Journal {
   void Stopped(const std::string& by);
   void Finished();
 
-  bool HasTranscript() const { return transcript != nullptr; }
+  bool HasTranscript() const { return transcript_ != nullptr; }
   void Write(const JsonLine& line);
   /// Brings all that was written to where it belongs, so that a reader never waits for an action that is over.
   void Flush();
@@ -38,8 +38,8 @@ class Journal {
  private:
   void Tell(const std::string& text);
 
-  std::ostream* transcript;
-  std::ostream* people;
+  std::ostream* transcript_;
+  std::ostream* people_;
 };
 
 }  // namespace zerimo::batch

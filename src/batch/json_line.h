@@ -27,12 +27,12 @@ class JsonLine {
   JsonLine& Property(std::string_view key, const PropertyValue& value);
 
   /// The whole object, without a line end.
-  std::string Finished() const { return line + "}"; }
+  std::string Finished() const { return line_ + "}"; }
 
  private:
   void Key(std::string_view key);
 
-  std::string line = "{";
+  std::string line_ = "{";
 };
 
 }  // namespace zerimo::batch

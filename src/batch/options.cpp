@@ -140,35 +140,35 @@ const ValueOption* FindValueOption(std::string_view name) {
 /// Goes through the arguments one after the other.
 class ArgumentWalk {
  public:
-  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments(all) {
-    if (!AskForClass(arguments)) return;
-    options.What = Options::Wish::Class;
-    options.Session.Seconds = SecondsInClass;
+  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments_(all) {
+    if (!AskForClass(arguments_)) return;
+    options_.What = Options::Wish::Class;
+    options_.Session.Seconds = SecondsInClass;
   }
 
   Options Parse() {
-    while (next < arguments.size() && !IsAnswered()) TakeArgument(arguments[next++]);
-    if (IsClass() && options.Class.Report.empty()) throw UsageError("--class: the report is missing, give --out");
-    return options;
+    while (next_ < arguments_.size() && !IsAnswered()) TakeArgument(arguments_[next_++]);
+    if (IsClass() && options_.Class.Report.empty()) throw UsageError("--class: the report is missing, give --out");
+    return options_;
   }
 
  private:
-  bool IsClass() const { return options.What == Options::Wish::Class; }
-  bool IsAnswered() const { return options.What == Options::Wish::Help || options.What == Options::Wish::Version; }
+  bool IsClass() const { return options_.What == Options::Wish::Class; }
+  bool IsAnswered() const { return options_.What == Options::Wish::Help || options_.What == Options::Wish::Version; }
 
   void TakeArgument(const std::string& argument) {
-    const bool isOption = !optionsEnded && argument.size() > 1 && argument[0] == '-';
+    const bool isOption = !optionsEnded_ && argument.size() > 1 && argument[0] == '-';
     if (!isOption) {
       TakeSession(argument);
     } else if (argument == "--") {
-      optionsEnded = true;
+      optionsEnded_ = true;
     } else if (argument == "--help") {
-      options.What = Options::Wish::Help;
+      options_.What = Options::Wish::Help;
     } else if (argument == "--version") {
-      options.What = Options::Wish::Version;
+      options_.What = Options::Wish::Version;
     } else if (argument == "--sleep") {
       RequireUse(argument, Use::Session);
-      options.Session.Sleep = true;
+      options_.Session.Sleep = true;
     } else {
       TakeValue(argument);
     }
@@ -178,8 +178,8 @@ class ArgumentWalk {
     const ValueOption* const option = FindValueOption(name);
     if (option == nullptr) throw UsageError(name + ": there is no such option");
     RequireUse(name, option->For);
-    if (next == arguments.size()) throw UsageError(name + ": a value is missing");
-    option->Take(options, arguments[next++]);
+    if (next_ == arguments_.size()) throw UsageError(name + ": a value is missing");
+    option->Take(options_, arguments_[next_++]);
   }
 
   void RequireUse(const std::string& name, Use use) const {
@@ -189,17 +189,17 @@ class ArgumentWalk {
 
   void TakeSession(const std::string& file) {
     if (IsClass()) throw UsageError(file + ": no session can be given with --class; put it beside the program");
-    if (sessionGiven) throw UsageError(file + ": only one session can be run");
+    if (sessionGiven_) throw UsageError(file + ": only one session can be run");
     if (file.empty()) throw UsageError("the name of the session is empty");
-    sessionGiven = true;
-    options.SessionFile = file;
+    sessionGiven_ = true;
+    options_.SessionFile = file;
   }
 
-  const std::vector<std::string>& arguments;
-  std::size_t next = 0;
-  bool optionsEnded = false;
-  bool sessionGiven = false;
-  Options options;
+  const std::vector<std::string>& arguments_;
+  std::size_t next_ = 0;
+  bool optionsEnded_ = false;
+  bool sessionGiven_ = false;
+  Options options_;
 };
 
 }  // namespace

@@ -11,7 +11,7 @@ int InPixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<do
 }  // namespace
 
 void PictureOutput::Write(const Surface& surface, const std::filesystem::path& file) const {
-  WriteSurface(canvas, operations, file, InPixels(surface.Width), InPixels(surface.Height()), surface.BackColor());
+  WriteSurface(canvas_, operations_, file, InPixels(surface.Width), InPixels(surface.Height()), surface.BackColor());
 }
 
 }  // namespace zerimo::batch

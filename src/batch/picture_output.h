@@ -11,17 +11,17 @@ namespace zerimo::batch {
 /// The pixels of a session, and its pictures as files.
 class PictureOutput {
  public:
-  ImageCanvas& Pixels() { return canvas; }
+  ImageCanvas& Pixels() { return canvas_; }
 
   /// Keeps the operations of the surface from now on, for a picture made of shapes. Costs memory for each of them.
-  void KeepOperations(Surface& surface) { surface.AddRecorder(operations); }
+  void KeepOperations(Surface& surface) { surface.AddRecorder(operations_); }
 
   /// Writes the surface as large as it is now; the format follows from the file's ending. Fails (file access).
   void Write(const Surface& surface, const std::filesystem::path& file) const;
 
  private:
-  ImageCanvas canvas;
-  SvgRecorder operations{canvas};
+  ImageCanvas canvas_;
+  SvgRecorder operations_{canvas_};
 };
 
 }  // namespace zerimo::batch

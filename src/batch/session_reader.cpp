@@ -102,150 +102,150 @@ std::string WithoutEscapes(std::string_view text) {
 /// Turns the words of one directive into an action.
 class DirectiveReader {
  public:
-  DirectiveReader(Form1& theForm, std::string_view text, int line) : form(theForm), words(text, line) {}
+  DirectiveReader(Form1& theForm, std::string_view text, int line) : form_(theForm), words_(text, line) {}
 
   SessionAction Enter() {
-    if (!words.HasMore()) return action::EnterRow{action::EnterRow::RowWithFocus};
+    if (!words_.HasMore()) return action::EnterRow{action::EnterRow::RowWithFocus};
     return action::EnterRow{Row()};
   }
 
   SessionAction Type() {
     const int row = Row();
-    return action::SetRow{row, words.Text()};
+    return action::SetRow{row, words_.Text()};
   }
 
   SessionAction TypeOver() {
     Control& control = AnyControl();
-    const std::array<TextBox*, 3> boxes = {&form.Controls.Text2, &form.Controls.Text3, &form.Controls.Text4};
+    const std::array<TextBox*, 3> boxes = {&form_.Controls.Text2, &form_.Controls.Text3, &form_.Controls.Text4};
     for (TextBox* const box : boxes) {
-      if (box == &control) return action::TypeOver{box, WithoutEscapes(words.Text())};
+      if (box == &control) return action::TypeOver{box, WithoutEscapes(words_.Text())};
     }
-    words.Fail(control.Name() + " can not be typed over; Text2, Text3 and Text4 can");
+    words_.Fail(control.Name() + " can not be typed over; Text2, Text3 and Text4 can");
   }
 
   SessionAction Key() {
     Control& control = AnyControl();
-    const std::string_view name = words.Word("the key");
+    const std::string_view name = words_.Word("the key");
     const NamedKey* const found = Find(KeyNames, name);
-    if (found == nullptr) words.Fail("there is no key " + std::string(name));
+    if (found == nullptr) words_.Fail("there is no key " + std::string(name));
     return action::PressKey{&control, found->Code};
   }
 
   SessionAction Click() { return action::Click{&AnyControl()}; }
 
   SessionAction Mouse() {
-    const std::string_view what = words.Word("move or down");
-    if (what != "move" && what != "down") words.Fail("the mouse can move and down, not " + std::string(what));
+    const std::string_view what = words_.Word("move or down");
+    if (what != "move" && what != "down") words_.Fail("the mouse can move and down, not " + std::string(what));
     Control& control = AnyControl();
-    const float x = words.Units("X");
-    const float y = words.Units("Y");
+    const float x = words_.Units("X");
+    const float y = words_.Units("Y");
     if (what == "move") return action::MoveMouse{&control, x, y};
     return PressMouse(control, x, y);
   }
 
   SessionAction Drop() {
     Control& control = AnyControl();
-    const float x = words.Units("X");
-    const float y = words.Units("Y");
+    const float x = words_.Units("X");
+    const float y = words_.Units("Y");
     return action::Drop{&control, x, y};
   }
 
   SessionAction Scroll() {
     Control& control = AnyControl();
     auto* const bar = dynamic_cast<ScrollBar*>(&control);
-    if (bar == nullptr) words.Fail(control.Name() + " is no scroll bar");
-    return action::Scroll{bar, words.Number("value", ScrollBar::Least, ScrollBar::Greatest)};
+    if (bar == nullptr) words_.Fail(control.Name() + " is no scroll bar");
+    return action::Scroll{bar, words_.Number("value", ScrollBar::Least, ScrollBar::Greatest)};
   }
 
   SessionAction Select() {
     Control& control = AnyControl();
-    if (&control != &form.Controls.File1 && &control != &form.Controls.List4) {
-      words.Fail(control.Name() + " has no entries to select; File1 and List4 have");
+    if (&control != &form_.Controls.File1 && &control != &form_.Controls.List4) {
+      words_.Fail(control.Name() + " has no entries to select; File1 and List4 have");
     }
-    return action::SelectEntry{&control, words.Text()};
+    return action::SelectEntry{&control, words_.Text()};
   }
 
   SessionAction Tick() {
-    const std::string name(words.Word("the timer"));
-    Timer* const timer = form.FindTimer(name);
-    if (timer == nullptr) words.Fail("there is no timer " + name);
-    const int times = words.HasMore() ? words.Number("number of ticks", 1, std::numeric_limits<int>::max()) : 1;
+    const std::string name(words_.Word("the timer"));
+    Timer* const timer = form_.FindTimer(name);
+    if (timer == nullptr) words_.Fail("there is no timer " + name);
+    const int times = words_.HasMore() ? words_.Number("number of ticks", 1, std::numeric_limits<int>::max()) : 1;
     return action::Tick{timer, times};
   }
 
-  SessionAction Time() { return action::SetTime{words.Text()}; }
+  SessionAction Time() { return action::SetTime{words_.Text()}; }
 
   SessionAction Answer() {
-    const std::string_view queue = words.Word("box, input, open or save");
+    const std::string_view queue = words_.Word("box, input, open or save");
     if (queue == "box") return AnswerBox();
-    if (queue == "input") return action::AnswerInput{words.Text()};
-    if (queue == "open") return action::AnswerDialog{words.Text(), false};
-    if (queue == "save") return action::AnswerDialog{words.Text(), true};
-    words.Fail("box, input, open and save can be answered, not " + std::string(queue));
+    if (queue == "input") return action::AnswerInput{words_.Text()};
+    if (queue == "open") return action::AnswerDialog{words_.Text(), false};
+    if (queue == "save") return action::AnswerDialog{words_.Text(), true};
+    words_.Fail("box, input, open and save can be answered, not " + std::string(queue));
   }
 
   SessionAction Trace() {
-    const std::string_view what = words.Word("surface or off");
-    if (what != "surface" && what != "off") words.Fail("the trace is surface or off, not " + std::string(what));
+    const std::string_view what = words_.Word("surface or off");
+    if (what != "surface" && what != "off") words_.Fail("the trace is surface or off, not " + std::string(what));
     return action::Trace{what == "surface"};
   }
 
   SessionAction Dump() {
-    const std::string_view what = words.Word("what to dump");
+    const std::string_view what = words_.Word("what to dump");
     if (what == "control") return DumpControl();
     const NamedDump* const found = Find(DumpNames, what);
-    if (found == nullptr) words.Fail("there is nothing to dump called " + std::string(what));
+    if (found == nullptr) words_.Fail("there is nothing to dump called " + std::string(what));
     return action::Dump{found->What};
   }
 
   SessionAction Picture() {
-    std::string file = words.Text();
-    if (!IsPictureName(file)) words.Fail("a file name ending in .png, .bmp, .jpg or .svg is wanted");
+    std::string file = words_.Text();
+    if (!IsPictureName(file)) words_.Fail("a file name ending in .png, .bmp, .jpg or .svg is wanted");
     return action::WritePicture{std::move(file)};
   }
 
   SessionAction End() { return action::CloseWindow{}; }
 
-  void NothingLeft() { words.End(); }
+  void NothingLeft() { words_.End(); }
 
  private:
-  int Row() { return words.Number("row", 0, LastRow); }
+  int Row() { return words_.Number("row", 0, LastRow); }
 
   Control& AnyControl() {
-    const std::string name(words.Word("the control"));
-    Control* const control = form.FindControl(name);
-    if (control == nullptr) words.Fail("there is no control " + name);
+    const std::string name(words_.Word("the control"));
+    Control* const control = form_.FindControl(name);
+    if (control == nullptr) words_.Fail("there is no control " + name);
     return *control;
   }
 
   SessionAction PressMouse(Control& control, float x, float y) {
     action::PressMouse press{&control, x, y, MouseButton::Left, false};
-    std::string_view word = words.OptionalWord();
+    std::string_view word = words_.OptionalWord();
     if (const NamedButton* const found = Find(ButtonNames, word)) {
       press.Button = found->Button;
-      word = words.OptionalWord();
+      word = words_.OptionalWord();
     }
     press.Shift = word == "shift";
-    if (!press.Shift && !word.empty()) words.Fail("left, right, middle or shift is wanted, not " + std::string(word));
+    if (!press.Shift && !word.empty()) words_.Fail("left, right, middle or shift is wanted, not " + std::string(word));
     return press;
   }
 
   SessionAction AnswerBox() {
-    const std::string_view name = words.Word("the button");
+    const std::string_view name = words_.Word("the button");
     const NamedAnswer* const found = Find(AnswerNames, name);
-    if (found == nullptr) words.Fail("no box has a button " + std::string(name));
+    if (found == nullptr) words_.Fail("no box has a button " + std::string(name));
     return action::AnswerBox{found->Button};
   }
 
   SessionAction DumpControl() {
-    const std::string name(words.Word("the control"));
-    const action::DumpControl dump{form.FindControl(name), form.FindTimer(name)};
-    if (dump.Shown == nullptr && dump.Ticking == nullptr) words.Fail("there is no control " + name);
+    const std::string name(words_.Word("the control"));
+    const action::DumpControl dump{form_.FindControl(name), form_.FindTimer(name)};
+    if (dump.Shown == nullptr && dump.Ticking == nullptr) words_.Fail("there is no control " + name);
     return dump;
   }
 
-  Form1& form;
-  DirectiveWords words;
+  Form1& form_;
+  DirectiveWords words_;
 };
 
 struct Directive {

@@ -8,14 +8,14 @@ namespace zerimo::batch {
 /// Writes each operation of the surface into the journal while it is on.
 class SurfaceTrace final : public SurfaceRecorder {
  public:
-  explicit SurfaceTrace(Journal& theJournal) : journal(theJournal) {}
+  explicit SurfaceTrace(Journal& theJournal) : journal_(theJournal) {}
 
   bool On = false;
 
   void Record(const Surface& surface, const SurfaceOperation& operation) override;
 
  private:
-  Journal& journal;
+  Journal& journal_;
 };
 
 }  // namespace zerimo::batch

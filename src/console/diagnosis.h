@@ -14,12 +14,12 @@ class Diagnosis {
  public:
   Diagnosis(FormControls& formControls, Surface& picture1, TurtleState& turtleState, ControlPath& controlPath,
             Variables& allVariables, Lowering& repeatLowering)
-      : controls(formControls),
+      : controls_(formControls),
         Picture1(picture1),
-        turtle(turtleState),
-        path(controlPath),
-        variables(allVariables),
-        lowering(repeatLowering) {}
+        turtle_(turtleState),
+        path_(controlPath),
+        variables_(allVariables),
+        lowering_(repeatLowering) {}
 
   void Command1Click();
   /// "Refresh": forgets the variables, the control string and the names of the lowering.
@@ -30,12 +30,12 @@ class Diagnosis {
   void Text4Change();
 
  private:
-  FormControls& controls;
+  FormControls& controls_;
   Surface& Picture1;
-  TurtleState& turtle;
-  ControlPath& path;
-  Variables& variables;
-  Lowering& lowering;
+  TurtleState& turtle_;
+  ControlPath& path_;
+  Variables& variables_;
+  Lowering& lowering_;
 };
 
 }  // namespace zerimo

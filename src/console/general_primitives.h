@@ -16,13 +16,13 @@ class GeneralPrimitives {
  public:
   GeneralPrimitives(Dispatch& dispatcher, Services& desktop, FormControls& formControls, Surface& picture1,
                     const TurtleState& turtleState, const Arguments& arguments, const Arithmetic& evaluation)
-      : dispatch(dispatcher),
-        services(desktop),
-        controls(formControls),
+      : dispatch_(dispatcher),
+        services_(desktop),
+        controls_(formControls),
         Picture1(picture1),
-        turtle(turtleState),
-        inputs(arguments),
-        arithmetic(evaluation) {}
+        turtle_(turtleState),
+        inputs_(arguments),
+        arithmetic_(evaluation) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -38,13 +38,13 @@ class GeneralPrimitives {
   void ArithmeticLine(PrimitiveCall& call);
   void RelationLine(PrimitiveCall& call);
 
-  Dispatch& dispatch;
-  Services& services;
-  FormControls& controls;
+  Dispatch& dispatch_;
+  Services& services_;
+  FormControls& controls_;
   Surface& Picture1;
-  const TurtleState& turtle;
-  const Arguments& inputs;
-  const Arithmetic& arithmetic;
+  const TurtleState& turtle_;
+  const Arguments& inputs_;
+  const Arithmetic& arithmetic_;
 };
 
 }  // namespace zerimo

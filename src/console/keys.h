@@ -32,14 +32,14 @@ class Keys {
  public:
   Keys(FormControls& formControls, Dispatch& dispatcher, Services& desktop, TypedLines& typedLines,
        ScreenModes& screenModes, Editor& theEditor, Saving& savingPart, HelpPages& helpPages)
-      : controls(formControls),
-        dispatch(dispatcher),
-        services(desktop),
-        lines(typedLines),
-        modes(screenModes),
-        editor(theEditor),
-        saving(savingPart),
-        help(helpPages) {}
+      : controls_(formControls),
+        dispatch_(dispatcher),
+        services_(desktop),
+        lines_(typedLines),
+        modes_(screenModes),
+        editor_(theEditor),
+        saving_(savingPart),
+        help_(helpPages) {}
 
   /// A key on a row; the whole handler is under the skip rule.
   void Text1KeyDown(int index, int keyCode);
@@ -59,14 +59,14 @@ class Keys {
   void ClosePanels();
   void AskForProgramFile();
 
-  FormControls& controls;
-  Dispatch& dispatch;
-  Services& services;
-  TypedLines& lines;
-  ScreenModes& modes;
-  Editor& editor;
-  Saving& saving;
-  HelpPages& help;
+  FormControls& controls_;
+  Dispatch& dispatch_;
+  Services& services_;
+  TypedLines& lines_;
+  ScreenModes& modes_;
+  Editor& editor_;
+  Saving& saving_;
+  HelpPages& help_;
 };
 
 }  // namespace zerimo

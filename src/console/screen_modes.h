@@ -16,13 +16,13 @@ class ScreenModes {
  public:
   ScreenModes(Dispatch& dispatcher, FormControls& formControls, Surface& picture1, ProgramStore& programStore,
               Services& desktop, ProgramFiles& programFiles, Saving& savingPart)
-      : dispatch(dispatcher),
-        controls(formControls),
+      : dispatch_(dispatcher),
+        controls_(formControls),
         Picture1(picture1),
-        store(programStore),
-        services(desktop),
-        files(programFiles),
-        saving(savingPart) {}
+        store_(programStore),
+        services_(desktop),
+        files_(programFiles),
+        saving_(savingPart) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -39,13 +39,13 @@ class ScreenModes {
   void Show(const PrimitiveCall& call);
   void ShowDeveloper();
 
-  Dispatch& dispatch;
-  FormControls& controls;
+  Dispatch& dispatch_;
+  FormControls& controls_;
   Surface& Picture1;
-  ProgramStore& store;
-  Services& services;
-  ProgramFiles& files;
-  Saving& saving;
+  ProgramStore& store_;
+  Services& services_;
+  ProgramFiles& files_;
+  Saving& saving_;
 };
 
 }  // namespace zerimo

@@ -12,7 +12,7 @@ namespace zerimo {
 class StatusLine {
  public:
   StatusLine(FormControls& formControls, const TurtleState& turtleState, Services& desktop)
-      : controls(formControls), turtle(turtleState), services(desktop) {}
+      : controls_(formControls), turtle_(turtleState), services_(desktop) {}
 
   /// Writes the turtle's details into the caption. Fails (overflow, division by zero) at a heading beyond 16 bits or a
   /// `Resolution` of 0.
@@ -22,9 +22,9 @@ class StatusLine {
   void Timer4Tick();
 
  private:
-  FormControls& controls;
-  const TurtleState& turtle;
-  Services& services;
+  FormControls& controls_;
+  const TurtleState& turtle_;
+  Services& services_;
 };
 
 /// The name that the status line shows for a colour code; empty for anything else.

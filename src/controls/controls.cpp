@@ -8,25 +8,25 @@ namespace zerimo {
 
 void FocusKeeper::SetFocus(Control& control) {
   if (!control.IsOnScreen()) throw Failure(FailureKind::FocusRefused);
-  focus = &control;
+  focus_ = &control;
 }
 
 void FocusKeeper::VisibilityChanged() {
-  if (focus != nullptr && !focus->IsOnScreen()) focus = nullptr;
+  if (focus_ != nullptr && !focus_->IsOnScreen()) focus_ = nullptr;
 }
 
 Control::Control(std::string controlName, Control* onPanel, FocusKeeper* focusKeeper)
-    : name(std::move(controlName)), panel(onPanel), keeper(focusKeeper) {}
+    : name_(std::move(controlName)), panel_(onPanel), keeper_(focusKeeper) {}
 
 void Control::SetVisible(bool value) {
-  visible = value;
-  if (keeper != nullptr) keeper->VisibilityChanged();
+  visible_ = value;
+  if (keeper_ != nullptr) keeper_->VisibilityChanged();
 }
 
-bool Control::IsOnScreen() const { return visible && (panel == nullptr || panel->IsOnScreen()); }
+bool Control::IsOnScreen() const { return visible_ && (panel_ == nullptr || panel_->IsOnScreen()); }
 
 void Control::ReadProperties(const PropertyReader& read) const {
-  read("Visible", visible);
+  read("Visible", visible_);
   read("Left", Left);
   read("Top", Top);
   read("Width", Width);
@@ -34,13 +34,13 @@ void Control::ReadProperties(const PropertyReader& read) const {
 }
 
 void Window::SetCaption(std::string text) {
-  caption = std::move(text);
-  if (OnCaption) OnCaption(caption);
+  caption_ = std::move(text);
+  if (OnCaption) OnCaption(caption_);
 }
 
 void Window::ReadProperties(const PropertyReader& read) const {
   Control::ReadProperties(read);
-  read("Caption", caption);
+  read("Caption", caption_);
 }
 
 void TextBox::ReadProperties(const PropertyReader& read) const {
@@ -52,32 +52,32 @@ void TextBox::ReadProperties(const PropertyReader& read) const {
 }
 
 const std::vector<std::string>& ListBox::Items() const {
-  if (pending) {
-    items = pending();
-    pending = nullptr;
+  if (pending_) {
+    items_ = pending_();
+    pending_ = nullptr;
   }
-  return items;
+  return items_;
 }
 
 void ListBox::Add(std::string item) {
   Items();
-  ++version;
+  ++version_;
   if (OnChange) OnChange(&item);
-  items.push_back(std::move(item));
+  items_.push_back(std::move(item));
 }
 
 void ListBox::Clear() {
-  pending = nullptr;
-  items.clear();
-  ++version;
-  ++clearings;
+  pending_ = nullptr;
+  items_.clear();
+  ++version_;
+  ++clearings_;
   if (OnChange) OnChange(nullptr);
 }
 
 void ListBox::SetLazily(std::function<std::vector<std::string>()> fill) {
-  pending = std::move(fill);
-  ++version;
-  ++clearings;
+  pending_ = std::move(fill);
+  ++version_;
+  ++clearings_;
 }
 
 void ListBox::ReadProperties(const PropertyReader& read) const {

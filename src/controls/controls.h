@@ -27,7 +27,7 @@ using PropertyReader = std::function<void(const char* name, const PropertyValue&
 class FocusKeeper {
  public:
   /// The control that has the focus, or nothing.
-  Control* Focus() const { return focus; }
+  Control* Focus() const { return focus_; }
 
   /// Gives the focus to a control; fails (focus refused) if the control or a panel that it lies on is hidden.
   void SetFocus(Control& control);
@@ -36,7 +36,7 @@ class FocusKeeper {
   void VisibilityChanged();
 
  private:
-  Control* focus = nullptr;
+  Control* focus_ = nullptr;
 };
 
 /// What all visible controls have.
@@ -48,11 +48,11 @@ class Control {
   Control& operator=(const Control&) = delete;
 
   /// The control's name, with its index if it is an element of an array: "List4", "Text1(0)".
-  const std::string& Name() const { return name; }
+  const std::string& Name() const { return name_; }
   /// The control that it lies on; nothing for the window itself and for what lies on the window.
-  Control* Panel() const { return panel; }
+  Control* Panel() const { return panel_; }
 
-  bool Visible() const { return visible; }
+  bool Visible() const { return visible_; }
   void SetVisible(bool value);
   void Show() { SetVisible(true); }
   void Hide() { SetVisible(false); }
@@ -73,10 +73,10 @@ class Control {
   float height = 0;
 
  private:
-  std::string name;
-  Control* panel;
-  FocusKeeper* keeper;
-  bool visible = true;
+  std::string name_;
+  Control* panel_;
+  FocusKeeper* keeper_;
+  bool visible_ = true;
 };
 
 /// The main window.
@@ -84,14 +84,14 @@ class Window : public Control {
  public:
   using Control::Control;
   /// The title bar's text.
-  const std::string& Caption() const { return caption; }
+  const std::string& Caption() const { return caption_; }
   void SetCaption(std::string text);
   /// Called for each assignment of the caption if set.
   std::function<void(const std::string& text)> OnCaption;
   void ReadProperties(const PropertyReader& read) const override;
 
  private:
-  std::string caption;
+  std::string caption_;
 };
 
 /// A text box of one line or many; lines end with carriage return and line feed.
@@ -118,9 +118,9 @@ class ListBox : public Control {
   /// stay what the list holds at this moment.
   void SetLazily(std::function<std::vector<std::string>()> fill);
 
-  std::uint64_t Version() const { return version; }
+  std::uint64_t Version() const { return version_; }
   /// Counts the clearings, so that a shell knows whether a new version only adds behind the old one.
-  std::uint64_t Clearings() const { return clearings; }
+  std::uint64_t Clearings() const { return clearings_; }
 
   /// Called for each assignment if set: with the item for an addition, with nothing for a clearing.
   std::function<void(const std::string* item)> OnChange;
@@ -131,10 +131,10 @@ class ListBox : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 
  private:
-  mutable std::vector<std::string> items;
-  mutable std::function<std::vector<std::string>()> pending;
-  std::uint64_t version = 0;
-  std::uint64_t clearings = 0;
+  mutable std::vector<std::string> items_;
+  mutable std::function<std::vector<std::string>()> pending_;
+  std::uint64_t version_ = 0;
+  std::uint64_t clearings_ = 0;
 };
 
 /// A line of text that the user can't change; also used where a label is a colour square.
@@ -219,15 +219,15 @@ class LightLine : public Control {
 class Timer {
  public:
   explicit Timer(std::string timerName, std::int32_t interval, bool enabled)
-      : Interval(interval), Enabled(enabled), name(std::move(timerName)) {}
-  const std::string& Name() const { return name; }
+      : Interval(interval), Enabled(enabled), name_(std::move(timerName)) {}
+  const std::string& Name() const { return name_; }
   /// Milliseconds; 0 never ticks.
   std::int32_t Interval;
   bool Enabled;
   void ReadProperties(const PropertyReader& read) const;
 
  private:
-  std::string name;
+  std::string name_;
 };
 
 /// The list of the files of a folder.

@@ -21,18 +21,18 @@ class ControlArray {
  public:
   ControlArray(const std::string& name, Control* panel, FocusKeeper* keeper) {
     for (int index = 0; index < Count; ++index) {
-      controls[static_cast<std::size_t>(index)] =
+      controls_[static_cast<std::size_t>(index)] =
           std::make_unique<Kind>(name + "(" + std::to_string(index) + ")", panel, keeper);
     }
   }
   static constexpr int Size = Count;
   /// An element by its index from 0; fails (subscript) if there is none.
-  Kind& operator[](int index) { return *controls[Checked(index)]; }
-  const Kind& operator[](int index) const { return *controls[Checked(index)]; }
+  Kind& operator[](int index) { return *controls_[Checked(index)]; }
+  const Kind& operator[](int index) const { return *controls_[Checked(index)]; }
 
  private:
   static std::size_t Checked(int index);
-  std::array<std::unique_ptr<Kind>, static_cast<std::size_t>(Count)> controls;
+  std::array<std::unique_ptr<Kind>, static_cast<std::size_t>(Count)> controls_;
 };
 
 /// Every control of the window but the surface, with the values of the form's design.

@@ -20,7 +20,7 @@ bool LiesBelow(const fs::path& file, const fs::path& folder) {
 }  // namespace
 
 Confinement::Confinement(const fs::path& shelf)
-    : folder(fs::canonical(fs::current_path())), shelfFolder(fs::canonical(shelf)) {
+    : folder_(fs::canonical(fs::current_path())), shelfFolder_(fs::canonical(shelf)) {
   current = this;
 }
 
@@ -34,20 +34,20 @@ bool Confinement::StaysBelow(const fs::path& path) {
 }
 
 bool Confinement::MayRead(const fs::path& file) const {
-  return LiesBelow(file, folder) || LiesBelow(file, shelfFolder);
+  return LiesBelow(file, folder_) || LiesBelow(file, shelfFolder_);
 }
 
 bool Confinement::MayWrite(const fs::path& file) const {
   // A link whose target is not there would be written through.
   std::error_code error;
-  return !fs::is_symlink(file, error) && LiesBelow(file, folder) && HasRoom();
+  return !fs::is_symlink(file, error) && LiesBelow(file, folder_) && HasRoom();
 }
 
 bool Confinement::HasRoom() const {
   int files = 0;
   std::uintmax_t bytes = 0;
   std::error_code error;
-  for (fs::recursive_directory_iterator walk(folder, error); !error && walk != fs::recursive_directory_iterator();
+  for (fs::recursive_directory_iterator walk(folder_, error); !error && walk != fs::recursive_directory_iterator();
        walk.increment(error)) {
     std::error_code unknown;
     const std::uintmax_t size = walk->file_size(unknown);

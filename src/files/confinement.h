@@ -30,13 +30,13 @@ class Confinement {
   /// Whether it lies below the confining folder and is no link, and there is still room.
   bool MayWrite(const std::filesystem::path& file) const;
 
-  const std::filesystem::path& Shelf() const { return shelfFolder; }
+  const std::filesystem::path& Shelf() const { return shelfFolder_; }
 
  private:
   bool HasRoom() const;
 
-  std::filesystem::path folder;
-  std::filesystem::path shelfFolder;
+  std::filesystem::path folder_;
+  std::filesystem::path shelfFolder_;
 };
 
 }  // namespace zerimo

@@ -75,8 +75,8 @@ std::set<std::string> NamesIn(const fs::path& folder) {
 /// The list of what was delivered: marks by names.
 class DeliveryList {
  public:
-  explicit DeliveryList(const fs::path& folder) : file(folder / ListName) {
-    const std::string text = BytesOf(file).value_or(std::string());
+  explicit DeliveryList(const fs::path& folder) : file_(folder / ListName) {
+    const std::string text = BytesOf(file_).value_or(std::string());
     for (std::size_t begin = 0; begin < text.size();) {
       const std::size_t end = std::min(text.find('\n', begin), text.size());
       TakeLine(text.substr(begin, end - begin));
@@ -86,76 +86,76 @@ class DeliveryList {
 
   /// The mark of what was delivered under a name, or the empty text.
   std::string MarkFor(const std::string& name) const {
-    const auto found = marks.find(name);
-    return found == marks.end() ? std::string() : found->second;
+    const auto found = marks_.find(name);
+    return found == marks_.end() ? std::string() : found->second;
   }
 
   void Set(const std::string& name, const std::string& mark) {
-    marks[name] = mark;
-    isChanged = true;
+    marks_[name] = mark;
+    isChanged_ = true;
   }
 
   /// Fails (file access).
   void Save() const {
-    if (!isChanged) return;
+    if (!isChanged_) return;
     std::string text(ListHead);
-    for (const auto& [name, mark] : marks) text.append(mark).append(" ").append(name).append("\n");
-    WriteBeside(file, text);
+    for (const auto& [name, mark] : marks_) text.append(mark).append(" ").append(name).append("\n");
+    WriteBeside(file_, text);
   }
 
  private:
   void TakeLine(const std::string& line) {
     if (line.size() > MarkLength + 1 && line[MarkLength] == ' ')
-      marks[line.substr(MarkLength + 1)] = line.substr(0, MarkLength);
+      marks_[line.substr(MarkLength + 1)] = line.substr(0, MarkLength);
   }
 
-  fs::path file;
-  std::map<std::string, std::string> marks;
-  bool isChanged = false;
+  fs::path file_;
+  std::map<std::string, std::string> marks_;
+  bool isChanged_ = false;
 };
 
 /// One walk from the source to the target.
 class DeliveryRound {
  public:
-  DeliveryRound(fs::path from, const fs::path& to) : source(std::move(from)), target(to), list(to) {}
+  DeliveryRound(fs::path from, const fs::path& to) : source_(std::move(from)), target_(to), list_(to) {}
 
   Delivery Run() {
     DeliverFolder({}, IsSampleOrPicture, false);
     DeliverFolder(HelpFolderName, IsVisible, true);
-    Try([this] { list.Save(); });
-    return result;
+    Try([this] { list_.Save(); });
+    return result_;
   }
 
  private:
   void DeliverFolder(const fs::path& folder, bool (*isDelivered)(const fs::path& name), bool comesAgain) {
-    std::vector<fs::path> names = FilesOf(source / folder);
+    std::vector<fs::path> names = FilesOf(source_ / folder);
     std::erase_if(names, [&](const fs::path& name) { return !isDelivered(name); });
     if (names.empty()) return;
-    if (!folder.empty() && !Try([&] { MakeFolder(target / folder); })) return;
-    const std::set<std::string> there = NamesIn(target / folder);
+    if (!folder.empty() && !Try([&] { MakeFolder(target_ / folder); })) return;
+    const std::set<std::string> there = NamesIn(target_ / folder);
     for (const fs::path& name : names) {
       DeliverFile(folder / name, there.contains(UpperCase(Folders::ToSystem(name))), comesAgain);
     }
   }
 
   void DeliverFile(const fs::path& name, bool isThere, bool comesAgain) {
-    const std::optional<std::string> bytes = BytesOf(source / name);
+    const std::optional<std::string> bytes = BytesOf(source_ / name);
     if (!bytes) return;
     const std::string listName = Utf8Of(name);
-    const std::string former = list.MarkFor(listName);
+    const std::string former = list_.MarkFor(listName);
     const std::string mark = MarkOf(*bytes);
     if (isThere) {
       if (mark == former) return;
-      const std::string present = MarkOfUnchanged(target / name);
+      const std::string present = MarkOfUnchanged(target_ / name);
       // Also what a delivery brought that did not come to its end.
-      if (present == mark) return list.Set(listName, mark);
+      if (present == mark) return list_.Set(listName, mark);
       if (former.empty() || present != former) return;
     } else if (!former.empty() && !comesAgain) {
       return;
     }
-    if (!Try([&] { WriteBeside(target / name, *bytes); })) return;
-    list.Set(listName, mark);
-    ++result.Written;
+    if (!Try([&] { WriteBeside(target_ / name, *bytes); })) return;
+    list_.Set(listName, mark);
+    ++result_.Written;
   }
 
   /// The mark of a file that may be one delivered, or the empty text: a link is the user's own.
@@ -178,15 +178,15 @@ class DeliveryRound {
       work();
       return true;
     } catch (const Failure&) {
-      ++result.Failed;
+      ++result_.Failed;
       return false;
     }
   }
 
-  fs::path source;
-  fs::path target;
-  DeliveryList list;
-  Delivery result;
+  fs::path source_;
+  fs::path target_;
+  DeliveryList list_;
+  Delivery result_;
 };
 
 }  // namespace

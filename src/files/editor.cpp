@@ -8,31 +8,31 @@
 namespace zerimo {
 
 void Editor::Bind() {
-  dispatch.Bind(Action::Edit, [this](PrimitiveCall&) {
-    PassOver([&] { controls.List4.Hide(); });
-    PassOver([&] { controls.Text2.Show(); });
-    PassOver([&] { controls.Focus.SetFocus(controls.Text2); });
-    PassOver([&] { controls.Picture3.Hide(); });
+  dispatch_.Bind(Action::Edit, [this](PrimitiveCall&) {
+    PassOver([&] { controls_.List4.Hide(); });
+    PassOver([&] { controls_.Text2.Show(); });
+    PassOver([&] { controls_.Focus.SetFocus(controls_.Text2); });
+    PassOver([&] { controls_.Picture3.Hide(); });
   });
 }
 
 void Editor::Fold() {
-  std::string& text = controls.Text2.Text;
-  dispatch.Execute("SS");
+  std::string& text = controls_.Text2.Text;
+  dispatch_.Execute("SS");
   text = UpperCase(text);
   // The whole text is one input of the filter: only its two ends are trimmed.
   std::string original = text;
   text = SpaceFilter(original);
-  store.MakeEmptyFileDataArray();
+  store_.MakeEmptyFileDataArray();
   FillFiledataArrayFromEdit();
 }
 
 void Editor::FillFiledataArrayFromEdit() {
   std::int16_t number = 1;
-  FillStore(store, controls.Text2.Text, number);
-  lowering.RemoveAllRepeats();
-  ListStore(store, controls.List1);
-  store.ProcedureList();
+  FillStore(store_, controls_.Text2.Text, number);
+  lowering_.RemoveAllRepeats();
+  ListStore(store_, controls_.List1);
+  store_.ProcedureList();
 }
 
 }  // namespace zerimo

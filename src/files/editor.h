@@ -11,7 +11,7 @@ namespace zerimo {
 class Editor {
  public:
   Editor(ProgramStore& programStore, Lowering& repeatLowering, FormControls& formControls, Dispatch& dispatcher)
-      : store(programStore), lowering(repeatLowering), controls(formControls), dispatch(dispatcher) {}
+      : store_(programStore), lowering_(repeatLowering), controls_(formControls), dispatch_(dispatcher) {}
 
   /// Sets the work of `EDIT`.
   void Bind();
@@ -23,10 +23,10 @@ class Editor {
   void FillFiledataArrayFromEdit();
 
  private:
-  ProgramStore& store;
-  Lowering& lowering;
-  FormControls& controls;
-  Dispatch& dispatch;
+  ProgramStore& store_;
+  Lowering& lowering_;
+  FormControls& controls_;
+  Dispatch& dispatch_;
 };
 
 }  // namespace zerimo

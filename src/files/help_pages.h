@@ -12,7 +12,7 @@ namespace zerimo {
 class HelpPages {
  public:
   HelpPages(FormControls& formControls, Services& desktop, Dispatch& dispatcher)
-      : controls(formControls), services(desktop), dispatch(dispatcher) {}
+      : controls_(formControls), services_(desktop), dispatch_(dispatcher) {}
 
   /// Sets the work of `HELP`.
   void Bind();
@@ -31,9 +31,9 @@ class HelpPages {
   void SetFolder();
   void LoadPage(const std::string& file);
 
-  FormControls& controls;
-  Services& services;
-  Dispatch& dispatch;
+  FormControls& controls_;
+  Services& services_;
+  Dispatch& dispatch_;
 };
 
 }  // namespace zerimo

@@ -16,7 +16,7 @@ class Pictures {
  public:
   Pictures(Surface& picture1, FormControls& formControls, const Arguments& arguments, Dispatch& dispatcher,
            const Folders& theFolders)
-      : Picture1(picture1), controls(formControls), inputs(arguments), dispatch(dispatcher), folders(theFolders) {}
+      : Picture1(picture1), controls_(formControls), inputs_(arguments), dispatch_(dispatcher), folders_(theFolders) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -39,10 +39,10 @@ class Pictures {
   void SlideShow(PrimitiveCall& call);
 
   Surface& Picture1;
-  FormControls& controls;
-  const Arguments& inputs;
-  Dispatch& dispatch;
-  const Folders& folders;
+  FormControls& controls_;
+  const Arguments& inputs_;
+  Dispatch& dispatch_;
+  const Folders& folders_;
 };
 
 }  // namespace zerimo

@@ -24,29 +24,29 @@ std::string WithoutEnding(const std::string& name) { return name.substr(0, name.
 ProgramFiles::ProgramFiles(ProgramStore& programStore, Lowering& repeatLowering, Variables& allVariables,
                            FormControls& formControls, Services& desktop, Dispatch& dispatcher,
                            const Folders& theFolders, Pictures& thePictures)
-    : store(programStore),
-      lowering(repeatLowering),
-      variables(allVariables),
-      controls(formControls),
-      services(desktop),
-      dispatch(dispatcher),
-      folders(theFolders),
-      pictures(thePictures) {}
+    : store_(programStore),
+      lowering_(repeatLowering),
+      variables_(allVariables),
+      controls_(formControls),
+      services_(desktop),
+      dispatch_(dispatcher),
+      folders_(theFolders),
+      pictures_(thePictures) {}
 
 bool ProgramFiles::IsProgramName(const std::string& name) { return EndingInCapitals(name) == ".ZRM"; }
 
 void ProgramFiles::Bind() {
-  dispatch.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
+  dispatch_.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
 }
 
 void ProgramFiles::Load(PrimitiveCall& call) {
-  if (dispatch.TellMissingInput(call, Action::Load)) return;
+  if (dispatch_.TellMissingInput(call, Action::Load)) return;
   CurrentFileName = Trimmed(call.Rest);
-  if (!Folders::HasFolder(call.Rest)) call.Rest = folders.AppFolder + "\\" + call.Rest;
+  if (!Folders::HasFolder(call.Rest)) call.Rest = folders_.AppFolder + "\\" + call.Rest;
   FileLoad(call.Rest);
   // Also when the file could not be loaded.
-  PassOver([&] { variables.CreateGlobalVariable(); });
-  PassOver([&] { lowering.RemoveAllRepeats(); });
+  PassOver([&] { variables_.CreateGlobalVariable(); });
+  PassOver([&] { lowering_.RemoveAllRepeats(); });
 }
 
 void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
@@ -54,25 +54,25 @@ void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
   try {
     LoadedText = Folders::ReadFile(path);
     // Behind what the editor holds, with no line end between the two.
-    controls.Text2.Text += LoadedText;
+    controls_.Text2.Text += LoadedText;
     MakeArray(path);
   } catch (const Failure&) {
-    services.MessageBox("Unable to Load File " + path, box::AbortRetryIgnore, "Zerimo");
+    services_.MessageBox("Unable to Load File " + path, box::AbortRetryIgnore, "Zerimo");
   }
 }
 
 void ProgramFiles::MakeArray(const std::string& file) {
   const std::string text = Folders::ReadFile(file);
-  store.FileDataCount = static_cast<std::int16_t>(store.FirstEmptyLine());
-  FillStore(store, text, store.FileDataCount);
-  lowering.RemoveAllRepeats();
-  ListStore(store, controls.List1);
-  store.ProcedureList();
+  store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine());
+  FillStore(store_, text, store_.FileDataCount);
+  lowering_.RemoveAllRepeats();
+  ListStore(store_, controls_.List1);
+  store_.ProcedureList();
 }
 
 void ProgramFiles::ShowOpen() {
   std::string name;
-  PassOver([&] { name = Trimmed(services.ShowOpen()); });
+  PassOver([&] { name = Trimmed(services_.ShowOpen()); });
   if (name.empty()) return;
   const std::string ending = EndingInCapitals(name);
   if (IsProgramName(name)) {
@@ -80,19 +80,19 @@ void ProgramFiles::ShowOpen() {
   } else if (ending == ".JPG" || ending == ".BMP" || ending == ".GIF") {
     OpenPicture(name);
   } else {
-    PassOver([&] { services.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
+    PassOver([&] { services_.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
   }
 }
 
 void ProgramFiles::OpenProgram(const std::string& name) {
   // A blank behind the question mark, unlike the entries of typed lines.
-  PassOver([&] { controls.List4.Add("? LOAD " + name); });
-  PassOver([&] { dispatch.Execute("LOAD " + name); });
+  PassOver([&] { controls_.List4.Add("? LOAD " + name); });
+  PassOver([&] { dispatch_.Execute("LOAD " + name); });
 }
 
 void ProgramFiles::OpenPicture(const std::string& name) {
-  PassOver([&] { pictures.ShowPicture(name); });
-  PassOver([&] { controls.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
+  PassOver([&] { pictures_.ShowPicture(name); });
+  PassOver([&] { controls_.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
 }
 
 }  // namespace zerimo

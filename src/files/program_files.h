@@ -46,14 +46,14 @@ class ProgramFiles {
   void OpenProgram(const std::string& name);
   void OpenPicture(const std::string& name);
 
-  ProgramStore& store;
-  Lowering& lowering;
-  Variables& variables;
-  FormControls& controls;
-  Services& services;
-  Dispatch& dispatch;
-  const Folders& folders;
-  Pictures& pictures;
+  ProgramStore& store_;
+  Lowering& lowering_;
+  Variables& variables_;
+  FormControls& controls_;
+  Services& services_;
+  Dispatch& dispatch_;
+  const Folders& folders_;
+  Pictures& pictures_;
 };
 
 }  // namespace zerimo

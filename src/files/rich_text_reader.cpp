@@ -9,19 +9,19 @@
 namespace zerimo {
 
 RichText RtfReader::Read() {
-  for (RtfToken token = scanner.Next(); token.Is != RtfToken::Kind::End; token = scanner.Next()) {
+  for (RtfToken token = scanner_.Next(); token.Is != RtfToken::Kind::End; token = scanner_.Next()) {
     const bool beginsGroup = token.Is == RtfToken::Kind::GroupStart;
-    const bool marksGroup = isFirstInGroup && token.Is == RtfToken::Kind::Symbol && token.Byte == '*';
-    isIgnorable = isIgnorable && token.Is == RtfToken::Kind::Word;
+    const bool marksGroup = isFirstInGroup_ && token.Is == RtfToken::Kind::Symbol && token.Byte == '*';
+    isIgnorable_ = isIgnorable_ && token.Is == RtfToken::Kind::Word;
     Act(token);
-    isFirstInGroup = beginsGroup || marksGroup;
-    isIgnorable = marksGroup;
+    isFirstInGroup_ = beginsGroup || marksGroup;
+    isIgnorable_ = marksGroup;
   }
-  while (!outer.empty()) EndGroup();
+  while (!outer_.empty()) EndGroup();
   CloseHalf();
   // The paragraph behind the last paragraph end is none.
-  if (page.Paragraphs.size() > 1 && page.Paragraphs.back().Runs.empty()) page.Paragraphs.pop_back();
-  return std::move(page);
+  if (page_.Paragraphs.size() > 1 && page_.Paragraphs.back().Runs.empty()) page_.Paragraphs.pop_back();
+  return std::move(page_);
 }
 
 void RtfReader::Act(const RtfToken& token) {
@@ -47,44 +47,44 @@ void RtfReader::Act(const RtfToken& token) {
 }
 
 void RtfReader::StartGroup() {
-  substitutesLeft = 0;
-  if (outer.size() == rtf_limits::DeepestNesting) {
-    ++tooDeep;
+  substitutesLeft_ = 0;
+  if (outer_.size() == rtf_limits::DeepestNesting) {
+    ++tooDeep_;
   } else {
-    outer.push_back(now);
+    outer_.push_back(now_);
   }
 }
 
 void RtfReader::EndGroup() {
-  substitutesLeft = 0;
-  if (tooDeep > 0) {
-    --tooDeep;
+  substitutesLeft_ = 0;
+  if (tooDeep_ > 0) {
+    --tooDeep_;
     return;
   }
   // An end without a beginning ends nothing: the text goes on.
-  if (outer.empty()) return;
-  const bool endsMark = now.Where == RtfDestination::ListMark && outer.back().Where != RtfDestination::ListMark;
-  now = std::move(outer.back());
-  outer.pop_back();
-  formIsKnown = false;
-  if (endsMark) EndListMark(std::exchange(listMark, {}));
+  if (outer_.empty()) return;
+  const bool endsMark = now_.Where == RtfDestination::ListMark && outer_.back().Where != RtfDestination::ListMark;
+  now_ = std::move(outer_.back());
+  outer_.pop_back();
+  formIsKnown_ = false;
+  if (endsMark) EndListMark(std::exchange(listMark_, {}));
 }
 
 void RtfReader::ActOnWord(const RtfToken& word) {
-  const auto meanings = MeaningsIn(now.Where);
+  const auto meanings = MeaningsIn(now_.Where);
   const auto found =
       std::lower_bound(meanings.begin(), meanings.end(), word.Name,
                        [](const WordMeaning& meaning, std::string_view name) { return meaning.Word < name; });
   const bool isKnown = found != meanings.end() && found->Word == word.Name;
-  if (isIgnorable && !(isKnown && found->Do == &RtfReader::EnterDestination)) now.Where = RtfDestination::Nothing;
-  if (!isKnown || now.Where == RtfDestination::Nothing) {
-    substitutesLeft = 0;
+  if (isIgnorable_ && !(isKnown && found->Do == &RtfReader::EnterDestination)) now_.Where = RtfDestination::Nothing;
+  if (!isKnown || now_.Where == RtfDestination::Nothing) {
+    substitutesLeft_ = 0;
     return;
   }
   // A dash or quotation mark may be the substitute of a Unicode character; other words end the substitutes.
   const bool isCharacter = found->Do == &RtfReader::Special && found->Value > 126;
   if (isCharacter && IsSubstitute()) return;
-  substitutesLeft = 0;
+  substitutesLeft_ = 0;
   (this->*found->Do)(word, found->Value);
 }
 
@@ -92,7 +92,7 @@ void RtfReader::ActOnSymbol(unsigned char symbol) {
   switch (symbol) {
     case '\r':
     case '\n':
-      substitutesLeft = 0;
+      substitutesLeft_ = 0;
       return EndParagraph({}, 0);
     case '~':
       if (!IsSubstitute()) AddCharacter(0xA0);
@@ -120,16 +120,16 @@ void RtfReader::ActOnCharacter(unsigned char byte) {
 }
 
 void RtfReader::ActOnText(std::string_view text) {
-  const auto skipped = std::min(static_cast<std::size_t>(substitutesLeft), text.size());
-  substitutesLeft -= static_cast<int>(skipped);
+  const auto skipped = std::min(static_cast<std::size_t>(substitutesLeft_), text.size());
+  substitutesLeft_ -= static_cast<int>(skipped);
   text.remove_prefix(skipped);
-  if (now.Where == RtfDestination::FontTable || now.Where == RtfDestination::ColourTable) return ActOnTableText(text);
+  if (now_.Where == RtfDestination::FontTable || now_.Where == RtfDestination::ColourTable) return ActOnTableText(text);
   AddText(text);
 }
 
 bool RtfReader::IsSubstitute() {
-  if (substitutesLeft == 0) return false;
-  --substitutesLeft;
+  if (substitutesLeft_ == 0) return false;
+  --substitutesLeft_;
   return true;
 }
 
@@ -143,22 +143,22 @@ void RtfReader::AddCharacter(char32_t character) {
 void RtfReader::AddText(std::string_view utf8) {
   if (utf8.empty()) return;
   CloseHalf();
-  if (now.Where == RtfDestination::Page) AddToPage(utf8);
-  if (now.Where == RtfDestination::ListMark) listMark += utf8;
-  if (now.Where == RtfDestination::FontTable) AddToFontTable(utf8);
+  if (now_.Where == RtfDestination::Page) AddToPage(utf8);
+  if (now_.Where == RtfDestination::ListMark) listMark_ += utf8;
+  if (now_.Where == RtfDestination::FontTable) AddToFontTable(utf8);
 }
 
 void RtfReader::AddToPage(std::string_view utf8) {
-  Paragraph& paragraph = page.Paragraphs.back();
-  if (paragraph.Form != now.Form) paragraph.Form = now.Form;
+  Paragraph& paragraph = page_.Paragraphs.back();
+  if (paragraph.Form != now_.Form) paragraph.Form = now_.Form;
   const std::size_t runsBefore = paragraph.Runs.size();
-  if (runs >= MostRuns && runsBefore > 0) {
-    paragraph.Runs.back().Text += std::string(std::exchange(breaksOwed, 0), '\n').append(utf8);
+  if (runs_ >= MostRuns && runsBefore > 0) {
+    paragraph.Runs.back().Text += std::string(std::exchange(breaksOwed_, 0), '\n').append(utf8);
     return;
   }
-  for (; breaksOwed > 0; --breaksOwed) Append(paragraph, "\n", FormOfNow());
+  for (; breaksOwed_ > 0; --breaksOwed_) Append(paragraph, "\n", FormOfNow());
   Append(paragraph, utf8, FormOfNow());
-  runs += paragraph.Runs.size() - runsBefore;
+  runs_ += paragraph.Runs.size() - runsBefore;
 }
 
 void RtfReader::AddToFontTable(std::string_view utf8) {
@@ -171,14 +171,14 @@ void RtfReader::AddToFontTable(std::string_view utf8) {
 void RtfReader::ActOnTableText(std::string_view text) {
   for (const char character : text) {
     const bool ends = character == ';';
-    if (now.Where == RtfDestination::FontTable) {
+    if (now_.Where == RtfDestination::FontTable) {
       if (ends) {
-        fontInTable = -1;
+        fontInTable_ = -1;
       } else {
         AddText({&character, 1});
       }
-    } else if (ends && colours.size() < rtf_limits::MostTableEntries) {
-      colours.push_back(std::exchange(colourInTable, std::nullopt));
+    } else if (ends && colours_.size() < rtf_limits::MostTableEntries) {
+      colours_.push_back(std::exchange(colourInTable_, std::nullopt));
     }
   }
 }
@@ -193,7 +193,7 @@ void RtfReader::EndListMark(std::string_view mark) {
   const bool isWordLike =
       (first >= '0' && first <= '9') || (first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z');
   if (!isWordLike && offset == sign.size()) {
-    now.Form.Bullet = true;
+    now_.Form.Bullet = true;
   } else {
     AddText(mark);
   }
@@ -201,40 +201,40 @@ void RtfReader::EndListMark(std::string_view mark) {
 
 /// A first half that nothing followed.
 void RtfReader::CloseHalf() {
-  if (std::exchange(half, 0) != 0) AddCharacter(ReplacementCharacter);
+  if (std::exchange(half_, 0) != 0) AddCharacter(ReplacementCharacter);
 }
 
 const CharacterForm& RtfReader::FormOfNow() {
-  if (!formIsKnown) {
-    form = now.Characters;
-    const auto font = fonts.find(now.Font == -1 ? defaultFont : now.Font);
-    form.FontName = font == fonts.end() ? std::string() : std::string(Trimmed(font->second.Name));
-    form.Color = ColourOf(now.Color);
-    form.Background = ColourOf(now.Background);
-    formIsKnown = true;
+  if (!formIsKnown_) {
+    form_ = now_.Characters;
+    const auto font = fonts_.find(now_.Font == -1 ? defaultFont_ : now_.Font);
+    form_.FontName = font == fonts_.end() ? std::string() : std::string(Trimmed(font->second.Name));
+    form_.Color = ColourOf(now_.Color);
+    form_.Background = ColourOf(now_.Background);
+    formIsKnown_ = true;
   }
-  return form;
+  return form_;
 }
 
 int RtfReader::CodePageOfNow() const {
-  const bool inTable = now.Where == RtfDestination::FontTable;
-  const auto font = fonts.find(inTable ? fontInTable : now.Font == -1 ? defaultFont : now.Font);
-  return font == fonts.end() || font->second.CodePage == 0 ? codePage : font->second.CodePage;
+  const bool inTable = now_.Where == RtfDestination::FontTable;
+  const auto font = fonts_.find(inTable ? fontInTable_ : now_.Font == -1 ? defaultFont_ : now_.Font);
+  return font == fonts_.end() || font->second.CodePage == 0 ? codePage_ : font->second.CodePage;
 }
 
 std::optional<Colour> RtfReader::ColourOf(int number) const {
   const auto index = static_cast<std::size_t>(number);
-  return number >= 0 && index < colours.size() ? colours[index] : std::nullopt;
+  return number >= 0 && index < colours_.size() ? colours_[index] : std::nullopt;
 }
 
 void RtfReader::EndParagraph(Number, int) {
-  if (now.Where != RtfDestination::Page) return;
+  if (now_.Where != RtfDestination::Page) return;
   CloseHalf();
-  if (breaksOwed == 0) page.Paragraphs.back().Form = now.Form;
-  if (page.Paragraphs.size() < MostParagraphs) {
-    page.Paragraphs.emplace_back();
+  if (breaksOwed_ == 0) page_.Paragraphs.back().Form = now_.Form;
+  if (page_.Paragraphs.size() < MostParagraphs) {
+    page_.Paragraphs.emplace_back();
   } else {
-    ++breaksOwed;
+    ++breaksOwed_;
   }
 }
 
@@ -243,9 +243,9 @@ void RtfReader::TakeUnit(char32_t unit) {
   const bool isSecondHalf = unit >= 0xDC00 && unit < 0xE000;
   if (isFirstHalf) {
     CloseHalf();
-    half = unit;
-  } else if (isSecondHalf && half != 0) {
-    AddCharacter(0x10000 + ((std::exchange(half, 0) - 0xD800) << 10) + (unit - 0xDC00));
+    half_ = unit;
+  } else if (isSecondHalf && half_ != 0) {
+    AddCharacter(0x10000 + ((std::exchange(half_, 0) - 0xD800) << 10) + (unit - 0xDC00));
   } else {
     AddCharacter(unit);
   }

@@ -48,7 +48,7 @@ struct RtfFont {
 /// Reads a document token by token with a stack of its own, so that nesting costs no call depth.
 class RtfReader {
  public:
-  explicit RtfReader(std::string_view rtf) : scanner(rtf) {}
+  explicit RtfReader(std::string_view rtf) : scanner_(rtf) {}
   RichText Read();
 
  private:
@@ -117,32 +117,32 @@ class RtfReader {
   /// The font that is being defined, or nothing.
   RtfFont* FontInTable();
 
-  RtfScanner scanner;
-  RichText page;
-  std::size_t runs = 0;
+  RtfScanner scanner_;
+  RichText page_;
+  std::size_t runs_ = 0;
   /// Paragraph ends beyond the most paragraphs.
-  std::size_t breaksOwed = 0;
+  std::size_t breaksOwed_ = 0;
 
-  RtfGroup now;
-  std::vector<RtfGroup> outer;
-  std::size_t tooDeep = 0;
+  RtfGroup now_;
+  std::vector<RtfGroup> outer_;
+  std::size_t tooDeep_ = 0;
   /// The token in front began a group, or was the \* that does.
-  bool isFirstInGroup = false;
-  bool isIgnorable = false;
+  bool isFirstInGroup_ = false;
+  bool isIgnorable_ = false;
 
-  int codePage = WesternCodePage;
-  int defaultFont = 0;
-  std::map<int, RtfFont> fonts;
-  int fontInTable = -1;
-  std::vector<std::optional<Colour>> colours;
-  std::optional<Colour> colourInTable;
+  int codePage_ = WesternCodePage;
+  int defaultFont_ = 0;
+  std::map<int, RtfFont> fonts_;
+  int fontInTable_ = -1;
+  std::vector<std::optional<Colour>> colours_;
+  std::optional<Colour> colourInTable_;
 
-  CharacterForm form;
-  bool formIsKnown = false;
+  CharacterForm form_;
+  bool formIsKnown_ = false;
   /// The first half of a character beyond 16 bits, or 0.
-  char32_t half = 0;
-  int substitutesLeft = 0;
-  std::string listMark;
+  char32_t half_ = 0;
+  int substitutesLeft_ = 0;
+  std::string listMark_;
 };
 
 }  // namespace zerimo

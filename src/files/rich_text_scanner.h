@@ -33,7 +33,7 @@ struct RtfToken {
 /// Cuts RTF into tokens. Any bytes can be cut; each token takes at least one.
 class RtfScanner {
  public:
-  explicit RtfScanner(std::string_view bytes) : rtf(bytes) {}
+  explicit RtfScanner(std::string_view bytes) : rtf_(bytes) {}
 
   RtfToken Next();
 
@@ -43,8 +43,8 @@ class RtfScanner {
   RtfToken HexToken();
   RtfToken TextToken();
 
-  std::string_view rtf;
-  std::size_t at = 0;
+  std::string_view rtf_;
+  std::size_t at_ = 0;
 };
 
 }  // namespace zerimo

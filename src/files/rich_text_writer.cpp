@@ -17,15 +17,15 @@ template <typename Value>
 class Table {
  public:
   std::size_t NumberOf(const Value& value) {
-    const auto found = std::find(values.begin(), values.end(), value);
-    if (found != values.end()) return static_cast<std::size_t>(found - values.begin()) + 1;
-    values.push_back(value);
-    return values.size();
+    const auto found = std::find(values_.begin(), values_.end(), value);
+    if (found != values_.end()) return static_cast<std::size_t>(found - values_.begin()) + 1;
+    values_.push_back(value);
+    return values_.size();
   }
-  const std::vector<Value>& Values() const { return values; }
+  const std::vector<Value>& Values() const { return values_; }
 
  private:
-  std::vector<Value> values;
+  std::vector<Value> values_;
 };
 
 class RtfWriter {
@@ -33,17 +33,17 @@ class RtfWriter {
   std::string Write(const RichText& text);
 
  private:
-  void Word(const char* name) { body += name; }
-  void Word(const char* name, long long number) { body += name + std::to_string(number); }
+  void Word(const char* name) { body_ += name; }
+  void Word(const char* name, long long number) { body_ += name + std::to_string(number); }
   void WordUnless(const char* name, int number, int usual);
   void WriteParagraph(const Paragraph& paragraph);
   void WriteForm(const ParagraphForm& form);
   void WriteForm(const CharacterForm& form);
   std::string Head() const;
 
-  std::string body;
-  Table<std::string> fonts;
-  Table<Colour> colours;
+  std::string body_;
+  Table<std::string> fonts_;
+  Table<Colour> colours_;
 };
 
 /// \uN with the question mark for readers that know no Unicode; N is a signed 16-bit number.
@@ -106,22 +106,22 @@ void RtfWriter::WriteForm(const ParagraphForm& form) {
 
 void RtfWriter::WriteForm(const CharacterForm& form) {
   Word("\\plain");
-  if (!form.FontName.empty()) Word("\\f", static_cast<long long>(fonts.NumberOf(form.FontName)));
+  if (!form.FontName.empty()) Word("\\f", static_cast<long long>(fonts_.NumberOf(form.FontName)));
   Word("\\fs", form.HalfPoints);
   if (form.Bold) Word("\\b");
   if (form.Italic) Word("\\i");
   if (form.Underline) Word("\\ul");
   if (form.Strike) Word("\\strike");
-  if (form.Color) Word("\\cf", static_cast<long long>(colours.NumberOf(*form.Color)));
-  if (form.Background) Word("\\highlight", static_cast<long long>(colours.NumberOf(*form.Background)));
-  body += ' ';
+  if (form.Color) Word("\\cf", static_cast<long long>(colours_.NumberOf(*form.Color)));
+  if (form.Background) Word("\\highlight", static_cast<long long>(colours_.NumberOf(*form.Background)));
+  body_ += ' ';
 }
 
 void RtfWriter::WriteParagraph(const Paragraph& paragraph) {
   WriteForm(paragraph.Form);
   for (const TextRun& run : paragraph.Runs) {
     WriteForm(run.Form);
-    AppendText(body, run.Text);
+    AppendText(body_, run.Text);
   }
   Word("\\par\r\n");
 }
@@ -130,13 +130,13 @@ std::string RtfWriter::Head() const {
   // No \deff, and no font 0: text without a font name keeps none.
   std::string head = R"({\rtf1\ansi\ansicpg1252\uc1{\fonttbl)";
   std::size_t number = 0;
-  for (const std::string& name : fonts.Values()) {
+  for (const std::string& name : fonts_.Values()) {
     head += "{\\f" + std::to_string(++number) + "\\fnil ";
     AppendFontName(head, name);
     head += ";}";
   }
   head += "}{\\colortbl;";
-  for (const Colour colour : colours.Values()) {
+  for (const Colour colour : colours_.Values()) {
     head += "\\red" + std::to_string(colour & 255) + "\\green" + std::to_string(colour >> 8 & 255) + "\\blue" +
             std::to_string(colour >> 16 & 255) + ";";
   }
@@ -145,7 +145,7 @@ std::string RtfWriter::Head() const {
 
 std::string RtfWriter::Write(const RichText& text) {
   for (const Paragraph& paragraph : text.Paragraphs) WriteParagraph(paragraph);
-  return Head() + body + "}";
+  return Head() + body_ + "}";
 }
 
 }  // namespace

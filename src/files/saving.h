@@ -15,7 +15,7 @@ class Saving {
  public:
   Saving(FormControls& formControls, const ProgramStore& programStore, Services& desktop,
          const ProgramFiles& programFiles)
-      : controls(formControls), store(programStore), services(desktop), files(programFiles) {}
+      : controls_(formControls), store_(programStore), services_(desktop), files_(programFiles) {}
 
   /// `SHOW SAVEAS`, under the skip rule.
   void ShowSaveAs();
@@ -34,10 +34,10 @@ class Saving {
   bool RescueEditorText(const Folders& folders) const;
 
  private:
-  FormControls& controls;
-  const ProgramStore& store;
-  Services& services;
-  const ProgramFiles& files;
+  FormControls& controls_;
+  const ProgramStore& store_;
+  Services& services_;
+  const ProgramFiles& files_;
 };
 
 }  // namespace zerimo

@@ -89,9 +89,9 @@ class EmptyCanvas : public Canvas {
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;
 
  private:
-  int columns = 0;
-  int rows = 0;
-  Colour colour = 0;
+  int columns_ = 0;
+  int rows_ = 0;
+  Colour colour_ = 0;
 };
 
 }  // namespace zerimo

@@ -9,7 +9,7 @@ namespace zerimo {
 class Colours {
  public:
   Colours(const DrawingContext& drawingContext, TurtleFigure& turtleFigure)
-      : context(drawingContext), figure(turtleFigure) {}
+      : context_(drawingContext), figure_(turtleFigure) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -26,8 +26,8 @@ class Colours {
   /// Moves the frames of the palette to the square of a number, which is not reduced to a code.
   void SelectSquare(double number);
 
-  DrawingContext context;
-  TurtleFigure& figure;
+  DrawingContext context_;
+  TurtleFigure& figure_;
 };
 
 }  // namespace zerimo

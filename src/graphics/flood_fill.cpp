@@ -18,34 +18,34 @@ constexpr int Transparent = 1;
 }  // namespace
 
 void FloodFills::Bind() {
-  context.Primitives.Bind(Action::FloodFill,
+  context_.Primitives.Bind(Action::FloodFill,
                           [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
-  context.Primitives.Bind(Action::FloodFillRGB,
+  context_.Primitives.Bind(Action::FloodFillRGB,
                           [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
 }
 
 void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
-  const TurtleState& turtle = context.Turtle;
-  context.Picture1.SetScaleMode(Pixels);
-  const std::int32_t color = LongNumber(context.Inputs.WordNumber(call.Rest, 1));
+  const TurtleState& turtle = context_.Turtle;
+  context_.Picture1.SetScaleMode(Pixels);
+  const std::int32_t color = LongNumber(context_.Inputs.WordNumber(call.Rest, 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
   PassOver([&] {
     (this->*procedure)(ToInt16(turtle.TurtleX / UnitsPerPixel), ToInt16(turtle.TurtleY / UnitsPerPixel), color);
   });
-  PassOver([&] { context.Primitives.RefreshSurface(); });
+  PassOver([&] { context_.Primitives.RefreshSurface(); });
 }
 
 void FloodFills::FloodFill(std::int16_t x, std::int16_t y, double color) {
-  FillRegion(x, y, [&] { context.Picture1.SetFillColor(QBColor(ToInt16(color))); });
+  FillRegion(x, y, [&] { context_.Picture1.SetFillColor(QBColor(ToInt16(color))); });
 }
 
 void FloodFills::FloodFillRGB(std::int16_t x, std::int16_t y, double color) {
-  FillRegion(x, y, [&] { context.Picture1.SetFillColor(ToInt32(color)); });
+  FillRegion(x, y, [&] { context_.Picture1.SetFillColor(ToInt32(color)); });
 }
 
 template <typename SetFillColor>
 void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   surface.SetScaleMode(Pixels);
   surface.SetFillStyle(Solid);
   PassOver(std::forward<SetFillColor>(setFillColor));
@@ -53,7 +53,7 @@ void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFi
   surface.SetScaleMode(SurfaceUnits);
   // What FILLSTYLE and FILL had set is not put back: circles are outlines from now on.
   surface.SetFillStyle(Transparent);
-  PassOver([&] { context.Primitives.RefreshSurface(); });
+  PassOver([&] { context_.Primitives.RefreshSurface(); });
 }
 
 }  // namespace zerimo

@@ -9,7 +9,7 @@ namespace zerimo {
 /// `FLOODFILL` and `FLOODFILLRGB`.
 class FloodFills {
  public:
-  explicit FloodFills(const DrawingContext& drawingContext) : context(drawingContext) {}
+  explicit FloodFills(const DrawingContext& drawingContext) : context_(drawingContext) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -27,7 +27,7 @@ class FloodFills {
   template <typename SetFillColor>
   void FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor);
 
-  DrawingContext context;
+  DrawingContext context_;
 };
 
 }  // namespace zerimo

@@ -24,7 +24,7 @@ void Motion::Bind() {
 }
 
 void Motion::BindMoves() {
-  Dispatch& primitives = context.Primitives;
+  Dispatch& primitives = context_.Primitives;
   primitives.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
   primitives.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
   primitives.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
@@ -37,9 +37,9 @@ void Motion::BindMoves() {
 }
 
 void Motion::BindPen() {
-  Dispatch& primitives = context.Primitives;
+  Dispatch& primitives = context_.Primitives;
   primitives.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
-  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context.Turtle.PenState = 2; });
+  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.Turtle.PenState = 2; });
   primitives.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
   primitives.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
   primitives.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
@@ -47,24 +47,24 @@ void Motion::BindPen() {
   primitives.Bind(Action::ShowTurtle, [this](PrimitiveCall&) { ShowFigure(true); });
   primitives.Bind(Action::LineWidth, [this](PrimitiveCall& call) { LineWidth(call); });
   primitives.Bind(Action::DrawMode, [this](PrimitiveCall& call) { DrawMode(call); });
-  primitives.Bind(Action::Clean, [this](PrimitiveCall&) { context.Picture1.Cls(); });
+  primitives.Bind(Action::Clean, [this](PrimitiveCall&) { context_.Picture1.Cls(); });
 }
 
 void Motion::Forward(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context.Turtle, context.Inputs.Number(call.Rest));
+  const double distance = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
   // The input is evaluated before the test for a missing one, unlike in most primitives.
-  if (context.Primitives.TellMissingInput(call, Action::Forward)) return;
+  if (context_.Primitives.TellMissingInput(call, Action::Forward)) return;
   MoveBy(distance);
 }
 
 void Motion::Back(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context.Turtle, context.Inputs.Number(call.Rest));
-  if (context.Primitives.TellMissingInput(call, Action::Back)) return;
+  const double distance = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
+  if (context_.Primitives.TellMissingInput(call, Action::Back)) return;
   MoveBy(-distance);
 }
 
 void Motion::MoveBy(double distance) {
-  TurtleState& turtle = context.Turtle;
+  TurtleState& turtle = context_.Turtle;
   double newX = 0;
   double newY = 0;
   PassOver([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
@@ -79,63 +79,63 @@ void Motion::MoveBy(double distance) {
 }
 
 bool Motion::AdmitsMove(double x, double y) const {
-  const Surface& surface = context.Picture1;
-  return context.Turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
+  const Surface& surface = context_.Picture1;
+  return context_.Turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
 }
 
 void Motion::Right(PrimitiveCall& call) {
   // After its box it goes on and turns by 0.
-  context.Primitives.TellMissingInput(call, Action::Right);
-  Turn(context.Inputs.Number(call.Rest));
+  context_.Primitives.TellMissingInput(call, Action::Right);
+  Turn(context_.Inputs.Number(call.Rest));
 }
 
 void Motion::Left(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::Left)) return;
-  Turn(-context.Inputs.Number(call.Rest));
+  if (context_.Primitives.TellMissingInput(call, Action::Left)) return;
+  Turn(-context_.Inputs.Number(call.Rest));
 }
 
 void Motion::Turn(double degrees) {
-  TurtleState& turtle = context.Turtle;
+  TurtleState& turtle = context_.Turtle;
   PassOver([&] { turtle.TurtleDir = Finite(turtle.TurtleDir + degrees * TurnPi / 180); });
 }
 
 void Motion::SetX(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::SetX)) return;
-  TurtleState& turtle = context.Turtle;
-  const double distance = StepsToUnits(turtle, context.Inputs.Number(call.Rest));
+  if (context_.Primitives.TellMissingInput(call, Action::SetX)) return;
+  TurtleState& turtle = context_.Turtle;
+  const double distance = StepsToUnits(turtle, context_.Inputs.Number(call.Rest));
   double target = 0;
-  PassOver([&] { target = Finite(context.Picture1.Width / 2.0 + distance); });
+  PassOver([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
   if (!AdmitsSetX(target)) return Refuse();
   DrawTo(target, turtle.TurtleY);
   turtle.TurtleX = target;
 }
 
 bool Motion::AdmitsSetX(double x) const {
-  return context.Turtle.FenceMode == 1 || (x >= 0 && x <= context.Picture1.Width);
+  return context_.Turtle.FenceMode == 1 || (x >= 0 && x <= context_.Picture1.Width);
 }
 
 void Motion::SetY(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::SetY)) return;
-  TurtleState& turtle = context.Turtle;
-  const double distance = StepsToUnits(turtle, context.Inputs.Number(call.Rest));
+  if (context_.Primitives.TellMissingInput(call, Action::SetY)) return;
+  TurtleState& turtle = context_.Turtle;
+  const double distance = StepsToUnits(turtle, context_.Inputs.Number(call.Rest));
   double target = 0;
-  PassOver([&] { target = Finite(context.Controls.Form1.Height() / 2.0 - distance); });
+  PassOver([&] { target = Finite(context_.Controls.Form1.Height() / 2.0 - distance); });
   if (!AdmitsSetY(target)) return Refuse();
   DrawTo(turtle.TurtleX, target);
   turtle.TurtleY = target;
 }
 
 bool Motion::AdmitsSetY(double y) const {
-  return context.Turtle.FenceMode == 1 || (y >= 0 && y <= context.Picture1.Height());
+  return context_.Turtle.FenceMode == 1 || (y >= 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::SetXY(PrimitiveCall& call) {
-  TurtleState& turtle = context.Turtle;
-  const double dx = StepsToUnits(turtle, context.Inputs.WordNumber(call.Rest, 1));
+  TurtleState& turtle = context_.Turtle;
+  const double dx = StepsToUnits(turtle, context_.Inputs.WordNumber(call.Rest, 1));
   // The vertical input has whole steps only.
-  const std::int16_t dy = WholeStepsToUnits(turtle, context.Inputs.WordNumber(call.Rest, 2));
-  const double centreX = context.Picture1.Width / 2.0;
-  const double centreY = context.Controls.Form1.Height() / 2.0;
+  const std::int16_t dy = WholeStepsToUnits(turtle, context_.Inputs.WordNumber(call.Rest, 2));
+  const double centreX = context_.Picture1.Width / 2.0;
+  const double centreY = context_.Controls.Form1.Height() / 2.0;
   double targetX = 0;
   PassOver([&] { targetX = Finite(dx + centreX); });
   const std::int16_t targetY = WholeNumber(centreY - dy);
@@ -148,49 +148,49 @@ void Motion::SetXY(PrimitiveCall& call) {
 
 bool Motion::AdmitsSetXY(double x, double y) const {
   // The left and the top edge are refused here, unlike in `FD`.
-  return context.Turtle.FenceMode == 1 ||
-         (x > 0 && x <= context.Picture1.Width && y > 0 && y <= context.Picture1.Height());
+  return context_.Turtle.FenceMode == 1 ||
+         (x > 0 && x <= context_.Picture1.Width && y > 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::DrawTo(double x, double y) {
-  const TurtleState& turtle = context.Turtle;
+  const TurtleState& turtle = context_.Turtle;
   if (turtle.PenState == 2) return;
-  PassOver([&] { context.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+  PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
 }
 
-void Motion::Refuse() { context.Desktop.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
+void Motion::Refuse() { context_.Desktop.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
 
 void Motion::Resolution(PrimitiveCall& call) {
-  double value = context.Inputs.Number(call.Rest);
+  double value = context_.Inputs.Number(call.Rest);
   if (value == 0) value = 10;
   // After its box it goes on: a missing input gives 10.
-  context.Primitives.TellMissingInput(call, Action::Resolution);
-  context.Turtle.Resolution = value;
+  context_.Primitives.TellMissingInput(call, Action::Resolution);
+  context_.Turtle.Resolution = value;
 }
 
-void Motion::Pen() { context.Desktop.MessageBox(PenWords.at(context.Turtle.PenState), box::Information, "Zerimo"); }
+void Motion::Pen() { context_.Desktop.MessageBox(PenWords.at(context_.Turtle.PenState), box::Information, "Zerimo"); }
 
 void Motion::PenDown() {
-  context.Turtle.PenState = 1;
-  PassOver([&] { context.Picture1.SetForeColor(QBColor(context.Turtle.PenColor)); });
+  context_.Turtle.PenState = 1;
+  PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.Turtle.PenColor)); });
 }
 
 void Motion::PenErase() {
-  context.Turtle.PenState = 3;
-  context.Picture1.SetForeColor(context.Picture1.BackColor());
+  context_.Turtle.PenState = 3;
+  context_.Picture1.SetForeColor(context_.Picture1.BackColor());
 }
 
 void Motion::PenReverse() {
   // An erasing pen goes on erasing.
-  if (context.Turtle.PenState == 2) {
+  if (context_.Turtle.PenState == 2) {
     PenDown();
-  } else if (context.Turtle.PenState == 1) {
-    context.Turtle.PenState = 2;
+  } else if (context_.Turtle.PenState == 1) {
+    context_.Turtle.PenState = 2;
   }
 }
 
 void Motion::ShowFigure(bool visible) {
-  FormControls& controls = context.Controls;
+  FormControls& controls = context_.Controls;
   controls.Shape2.SetVisible(visible);
   controls.Line1.SetVisible(visible);
   controls.Line2.SetVisible(visible);
@@ -198,26 +198,26 @@ void Motion::ShowFigure(bool visible) {
 }
 
 void Motion::LineWidth(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::LineWidth)) return;
-  const double width = context.Inputs.Number(call.Rest);
-  PassOver([&] { context.Picture1.SetDrawWidth(ToInt16(width)); });
+  if (context_.Primitives.TellMissingInput(call, Action::LineWidth)) return;
+  const double width = context_.Inputs.Number(call.Rest);
+  PassOver([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
 }
 
 void Motion::DrawMode(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::DrawMode)) return;
-  const double mode = context.Inputs.Number(call.Rest);
-  PassOver([&] { context.Picture1.SetDrawMode(ToInt16(mode)); });
+  if (context_.Primitives.TellMissingInput(call, Action::DrawMode)) return;
+  const double mode = context_.Inputs.Number(call.Rest);
+  PassOver([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
 }
 
 void Motion::ClearScreen() {
-  FormControls& controls = context.Controls;
-  TurtleState& turtle = context.Turtle;
+  FormControls& controls = context_.Controls;
+  TurtleState& turtle = context_.Turtle;
   controls.Image1.Hide();
   for (int index = 0; index < controls.Label20.Size; ++index) controls.Label20[index].Hide();
   turtle.TurtleDir = 0;
   turtle.TurtleX = controls.Form1.Width / 2.0;
   turtle.TurtleY = controls.Form1.Height() / 2.0;
-  context.Picture1.Cls();
+  context_.Picture1.Cls();
 }
 
 }  // namespace zerimo

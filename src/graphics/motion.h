@@ -8,7 +8,7 @@ namespace zerimo {
 /// `DRAWMODE`, `CLEAN`, `CS`.
 class Motion {
  public:
-  explicit Motion(const DrawingContext& drawingContext) : context(drawingContext) {}
+  explicit Motion(const DrawingContext& drawingContext) : context_(drawingContext) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -45,7 +45,7 @@ class Motion {
   void DrawTo(double x, double y);
   void Refuse();
 
-  DrawingContext context;
+  DrawingContext context_;
 };
 
 }  // namespace zerimo

@@ -28,7 +28,7 @@ void Shapes::Bind() {
 }
 
 void Shapes::BindFigures() {
-  Dispatch& primitives = context.Primitives;
+  Dispatch& primitives = context_.Primitives;
   primitives.Bind(Action::Point, [this](PrimitiveCall& call) { Point(call); });
   primitives.Bind(Action::Dot, [this](PrimitiveCall& call) { Dot(call); });
   primitives.Bind(Action::Circle, [this](PrimitiveCall& call) { Circle(call); });
@@ -39,7 +39,7 @@ void Shapes::BindFigures() {
 }
 
 void Shapes::BindStamps() {
-  Dispatch& primitives = context.Primitives;
+  Dispatch& primitives = context_.Primitives;
   primitives.Bind(Action::StampCircle, [this](PrimitiveCall& call) { StampCircle(call); });
   primitives.Bind(Action::StampOval, [this](PrimitiveCall& call) { StampOval(call); });
   primitives.Bind(Action::StampRect, [this](PrimitiveCall& call) { StampRect(call); });
@@ -55,23 +55,23 @@ void Shapes::Point(PrimitiveCall& call) {
   // Blue is not reduced: outside 0 to 255 it counts as 0.
   std::uint8_t blue = 0;
   PassOver([&] { blue = ToByte(Word(call, 3)); });
-  PassOver([&] { context.Picture1.PSet(context.Turtle.TurtleX, context.Turtle.TurtleY, RGB(red, green, blue)); });
+  PassOver([&] { context_.Picture1.PSet(context_.Turtle.TurtleX, context_.Turtle.TurtleY, RGB(red, green, blue)); });
 }
 
 void Shapes::Dot(PrimitiveCall& call) {
   const double x = Units(call, 1);
-  const std::int16_t y = WholeStepsToUnits(context.Turtle, Word(call, 2));
+  const std::int16_t y = WholeStepsToUnits(context_.Turtle, Word(call, 2));
   if (PenIsUp()) return;
   // The pen's own colour, so that a dot shows even if the pen erases.
-  PassOver([&] { context.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context.Turtle.PenColor)); });
+  PassOver([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.Turtle.PenColor)); });
 }
 
 void Shapes::Circle(PrimitiveCall& call) {
   const double x = Units(call, 1);
   const double y = Units(call, 2);
-  const std::int16_t radius = WholeStepsToUnits(context.Turtle, Word(call, 3));
+  const std::int16_t radius = WholeStepsToUnits(context_.Turtle, Word(call, 3));
   if (PenIsUp()) return;
-  PassOver([&] { context.Picture1.Circle(CentreX() + x, context.Controls.Screen.Height / 2.0 - y, radius); });
+  PassOver([&] { context_.Picture1.Circle(CentreX() + x, context_.Controls.Screen.Height / 2.0 - y, radius); });
 }
 
 void Shapes::Line(PrimitiveCall& call) {
@@ -80,9 +80,9 @@ void Shapes::Line(PrimitiveCall& call) {
   const double x2 = Units(call, 3);
   // Of the four inputs only the last is whole; its product and the rounding are one statement.
   const std::int16_t y2 = WholeNumber(Word(call, 4));
-  const std::int16_t endY = WholeNumber(CentreY() - y2 * context.Turtle.Resolution);
+  const std::int16_t endY = WholeNumber(CentreY() - y2 * context_.Turtle.Resolution);
   if (PenIsUp()) return;
-  PassOver([&] { context.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
+  PassOver([&] { context_.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
 }
 
 void Shapes::LineRGB(PrimitiveCall& call) { InOutlineColour(call, 5, &Shapes::Line); }
@@ -106,7 +106,7 @@ void Shapes::EllipseWithAngle(PrimitiveCall& call, int angleWord) {
 }
 
 void Shapes::DrawEllipse(float x, float y, float a, float b, float deg) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   const float r = ToSingle(deg * EllipsePi / 180);
   const float s = ToSingle(std::sin(static_cast<double>(r)));
   const float c = ToSingle(std::cos(static_cast<double>(r)));
@@ -129,7 +129,7 @@ void Shapes::DrawEllipse(float x, float y, float a, float b, float deg) {
 }
 
 void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing& draw) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   const Colour colour = LongNumber(Word(call, colourWord));
   const Colour saved = surface.ForeColor();
   surface.SetForeColor(colour);
@@ -138,29 +138,29 @@ void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing&
 }
 
 void Shapes::StampCircle(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::StampCircle)) return;
-  const double radius = StepsToUnits(context.Turtle, context.Inputs.Number(call.Rest));
-  PassOver([&] { context.Picture1.Circle(context.Turtle.TurtleX, context.Turtle.TurtleY, radius); });
+  if (context_.Primitives.TellMissingInput(call, Action::StampCircle)) return;
+  const double radius = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
+  PassOver([&] { context_.Picture1.Circle(context_.Turtle.TurtleX, context_.Turtle.TurtleY, radius); });
 }
 
 void Shapes::StampOval(PrimitiveCall& call) {
   const double width = Word(call, 1);
   const double height = Word(call, 2);
-  double longer = StepsToUnits(context.Turtle, width);
-  const double high = StepsToUnits(context.Turtle, height);
+  double longer = StepsToUnits(context_.Turtle, width);
+  const double high = StepsToUnits(context_.Turtle, height);
   double aspect = 0;
   PassOver([&] { aspect = Divide(high, longer); });
   if (high > longer) PassOver([&] { longer = Divide(longer, Divide(longer, high)); });
   if (width == 0 || height == 0) return;
-  PassOver([&] { context.Picture1.Circle(context.Turtle.TurtleX, context.Turtle.TurtleY, longer / 2, aspect); });
+  PassOver([&] { context_.Picture1.Circle(context_.Turtle.TurtleX, context_.Turtle.TurtleY, longer / 2, aspect); });
 }
 
 void Shapes::StampRect(PrimitiveCall& call) {
-  const TurtleState& turtle = context.Turtle;
+  const TurtleState& turtle = context_.Turtle;
   const double x = Units(call, 1) / 2;
   const double y = Units(call, 2) / 2;
   PassOver(
-      [&] { context.Picture1.Box(turtle.TurtleX - x, turtle.TurtleY - y, turtle.TurtleX + x, turtle.TurtleY + y); });
+      [&] { context_.Picture1.Box(turtle.TurtleX - x, turtle.TurtleY - y, turtle.TurtleX + x, turtle.TurtleY + y); });
 }
 
 void Shapes::StampOvalRGB(PrimitiveCall& call) { InStampColour(call, &Shapes::StampOval); }
@@ -168,7 +168,7 @@ void Shapes::StampOvalRGB(PrimitiveCall& call) { InStampColour(call, &Shapes::St
 void Shapes::StampRectRGB(PrimitiveCall& call) { InStampColour(call, &Shapes::StampRect); }
 
 void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   const Colour savedFill = surface.FillColor();
   const auto drawFilled = [&surface, &draw](Shapes& shapes, PrimitiveCall& stamp) {
     surface.SetFillColor(surface.ForeColor());
@@ -179,25 +179,25 @@ void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
 }
 
 void Shapes::Fill(PrimitiveCall& call) {
-  const double number = context.Inputs.Number(call.Rest);
+  const double number = context_.Inputs.Number(call.Rest);
   std::int32_t code = 0;
   PassOver([&] { code = ColourCode(number); });
-  PassOver([&] { context.Picture1.SetFillColor(QBColor(code)); });
+  PassOver([&] { context_.Picture1.SetFillColor(QBColor(code)); });
 }
 
 void Shapes::FillStyle(PrimitiveCall& call) {
-  const std::int32_t number = LongNumber(context.Inputs.Number(call.Rest));
-  PassOver([&] { context.Picture1.SetFillStyle(number % 8); });
+  const std::int32_t number = LongNumber(context_.Inputs.Number(call.Rest));
+  PassOver([&] { context_.Picture1.SetFillStyle(number % 8); });
 }
 
-double Shapes::Word(PrimitiveCall& call, int nthWord) const { return context.Inputs.WordNumber(call.Rest, nthWord); }
+double Shapes::Word(PrimitiveCall& call, int nthWord) const { return context_.Inputs.WordNumber(call.Rest, nthWord); }
 
 double Shapes::Units(PrimitiveCall& call, int nthWord) const {
-  return StepsToUnits(context.Turtle, Word(call, nthWord));
+  return StepsToUnits(context_.Turtle, Word(call, nthWord));
 }
 
-double Shapes::CentreX() const { return context.Picture1.Width / 2.0; }
+double Shapes::CentreX() const { return context_.Picture1.Width / 2.0; }
 
-double Shapes::CentreY() const { return context.Controls.Form1.Height() / 2.0; }
+double Shapes::CentreY() const { return context_.Controls.Form1.Height() / 2.0; }
 
 }  // namespace zerimo

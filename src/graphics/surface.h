@@ -72,39 +72,39 @@ inline constexpr int UnitsPerPixel = 15;
 /// and hands the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
 class Surface : public Control {
  public:
-  Surface(std::string surfaceName, Canvas& pixels) : Control(std::move(surfaceName)), canvas(pixels) {}
+  Surface(std::string surfaceName, Canvas& pixels) : Control(std::move(surfaceName)), canvas_(pixels) {}
 
   /// Makes the canvas as large as the screen (surface units), so that what a smaller height hides is kept.
   void CreateCanvas(float screenWidth, float screenHeight);
 
   /// Recorders get every operation from then on. A recorder must outlive the surface or be removed.
-  void AddRecorder(SurfaceRecorder& recorder) { recorders.push_back(&recorder); }
-  void RemoveRecorder(SurfaceRecorder& recorder) { std::erase(recorders, &recorder); }
+  void AddRecorder(SurfaceRecorder& recorder) { recorders_.push_back(&recorder); }
+  void RemoveRecorder(SurfaceRecorder& recorder) { std::erase(recorders_, &recorder); }
 
-  Colour BackColor() const { return backColor; }
+  Colour BackColor() const { return backColor_; }
   /// Makes it the background colour and clears all that was drawn, as `Cls` does.
   void SetBackColor(Colour value);
-  Colour ForeColor() const { return foreColor; }
+  Colour ForeColor() const { return foreColor_; }
   void SetForeColor(Colour value);
-  Colour FillColor() const { return fillColor; }
+  Colour FillColor() const { return fillColor_; }
   void SetFillColor(Colour value);
-  int FillStyle() const { return fillStyle; }
+  int FillStyle() const { return fillStyle_; }
   /// 0 to 7.
   void SetFillStyle(std::int32_t value);
-  int DrawMode() const { return drawMode; }
+  int DrawMode() const { return drawMode_; }
   /// 1 to 16.
   void SetDrawMode(std::int32_t value);
-  int DrawWidth() const { return drawWidth; }
+  int DrawWidth() const { return drawWidth_; }
   /// Pixels, from 1.
   void SetDrawWidth(std::int32_t value);
-  int ScaleMode() const { return scaleMode; }
+  int ScaleMode() const { return scaleMode_; }
   /// 1 surface units, 3 pixels.
   void SetScaleMode(int value);
-  float CurrentX() const { return currentX; }
+  float CurrentX() const { return currentX_; }
   void SetCurrentX(double value);
-  float CurrentY() const { return currentY; }
+  float CurrentY() const { return currentY_; }
   void SetCurrentY(double value);
-  double FontSize() const { return fontSize; }
+  double FontSize() const { return fontSize_; }
   /// Points, above 0 and at most 2160.
   void SetFontSize(double value);
   void SetHeight(float value) override;
@@ -140,30 +140,30 @@ class Surface : public Control {
   };
   Axes HalfAxes(const surface_operation::Circle& circle) const;
 
-  Stroke PenStroke() const { return {foreColor, drawWidth, drawMode}; }
-  Filling Inside() const { return {fillColor, fillStyle}; }
+  Stroke PenStroke() const { return {foreColor_, drawWidth_, drawMode_}; }
+  Filling Inside() const { return {fillColor_, fillStyle_}; }
 
   void ReadProperties(const PropertyReader& read) const override;
 
  private:
   void Tell(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
-  double ScaleDivisor() const { return scaleMode == 3 ? 1 : UnitsPerPixel; }
+  double ScaleDivisor() const { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
   /// How many rows of the canvas the height covers, if only in part.
   int Rows() const;
 
-  Canvas& canvas;
-  std::vector<SurfaceRecorder*> recorders;
-  Colour backColor = 8388736;
-  Colour foreColor = 0xFFFFFF;
-  Colour fillColor = 0;
-  int fillStyle = 0;
-  int drawMode = 13;
-  int drawWidth = 1;
-  int scaleMode = 1;
-  float currentX = 0;
-  float currentY = 0;
-  double fontSize = 8.25;
+  Canvas& canvas_;
+  std::vector<SurfaceRecorder*> recorders_;
+  Colour backColor_ = 8388736;
+  Colour foreColor_ = 0xFFFFFF;
+  Colour fillColor_ = 0;
+  int fillStyle_ = 0;
+  int drawMode_ = 13;
+  int drawWidth_ = 1;
+  int scaleMode_ = 1;
+  float currentX_ = 0;
+  float currentY_ = 0;
+  double fontSize_ = 8.25;
 };
 
 }  // namespace zerimo

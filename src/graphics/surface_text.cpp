@@ -17,40 +17,40 @@ bool IsQuoted(const std::string& text) { return Trimmed(text).starts_with('"') &
 }  // namespace
 
 void SurfaceText::Bind() {
-  Dispatch& primitives = context.Primitives;
+  Dispatch& primitives = context_.Primitives;
   primitives.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
   primitives.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
   primitives.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
 }
 
 void SurfaceText::TextSize(PrimitiveCall& call) {
-  if (context.Primitives.TellMissingInput(call, Action::TextSize)) return;
-  const double size = context.Inputs.Number(call.Rest);
-  PassOver([&] { context.Picture1.SetFontSize(size); });
+  if (context_.Primitives.TellMissingInput(call, Action::TextSize)) return;
+  const double size = context_.Inputs.Number(call.Rest);
+  PassOver([&] { context_.Picture1.SetFontSize(size); });
 }
 
 void SurfaceText::Write(PrimitiveCall& call) {
   BeginAtTurtle();
   if (IsQuoted(call.Rest)) {
-    PassOver([&] { context.Picture1.Print(WithoutEnds(call.Rest)); });
+    PassOver([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
   } else {
-    const double number = context.Inputs.Number(call.Rest);
-    context.Picture1.Print(Str(number));
+    const double number = context_.Inputs.Number(call.Rest);
+    context_.Picture1.Print(Str(number));
   }
 }
 
 void SurfaceText::WriteRGB(PrimitiveCall& call) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   BeginAtTurtle();
   std::string whole;
   PassOver([&] { whole = WithoutEnds(call.Rest); });
   // The last comma counts, so that the text may hold commas.
   const int comma = LastPositionOf(whole, ',');
   std::string parameters(From(whole, comma + 1));
-  const double colour = context.Inputs.WordNumber(parameters, 1);
-  const double x = StepsToUnits(context.Turtle, context.Inputs.WordNumber(parameters, 2));
-  const double y = StepsToUnits(context.Turtle, context.Inputs.WordNumber(parameters, 3));
-  const double size = context.Inputs.WordNumber(parameters, 4);
+  const double colour = context_.Inputs.WordNumber(parameters, 1);
+  const double x = StepsToUnits(context_.Turtle, context_.Inputs.WordNumber(parameters, 2));
+  const double y = StepsToUnits(context_.Turtle, context_.Inputs.WordNumber(parameters, 3));
+  const double size = context_.Inputs.WordNumber(parameters, 4);
   PassOver([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
   // Here alone the height of the surface itself gives the centre.
   PassOver([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
@@ -61,7 +61,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
 }
 
 void SurfaceText::PrintInColour(const std::string& text, double colour) {
-  Surface& surface = context.Picture1;
+  Surface& surface = context_.Picture1;
   const Colour saved = surface.ForeColor();
   PassOver([&] { surface.SetForeColor(ToInt32(colour)); });
   surface.Print(text);
@@ -69,8 +69,8 @@ void SurfaceText::PrintInColour(const std::string& text, double colour) {
 }
 
 void SurfaceText::BeginAtTurtle() {
-  PassOver([&] { context.Picture1.SetCurrentX(context.Turtle.TurtleX); });
-  PassOver([&] { context.Picture1.SetCurrentY(context.Turtle.TurtleY); });
+  PassOver([&] { context_.Picture1.SetCurrentX(context_.Turtle.TurtleX); });
+  PassOver([&] { context_.Picture1.SetCurrentY(context_.Turtle.TurtleY); });
 }
 
 }  // namespace zerimo

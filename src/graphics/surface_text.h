@@ -9,7 +9,7 @@ namespace zerimo {
 /// Text that becomes part of the picture: `WRITE`, `WRITERGB`, `TEXTSIZE`. The pen state does not matter.
 class SurfaceText {
  public:
-  explicit SurfaceText(const DrawingContext& drawingContext) : context(drawingContext) {}
+  explicit SurfaceText(const DrawingContext& drawingContext) : context_(drawingContext) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -22,7 +22,7 @@ class SurfaceText {
   void BeginAtTurtle();
   void PrintInColour(const std::string& text, double colour);
 
-  DrawingContext context;
+  DrawingContext context_;
 };
 
 }  // namespace zerimo

@@ -33,7 +33,7 @@ void TurtleFigure::TurtlePos(double x, double y, double dir) {
   const auto pointAt = [x, y](double radius, double angle) {
     return FigurePoint{x + radius * std::cos(angle), y + radius * std::sin(angle)};
   };
-  Shape& head = controls.Shape2;
+  Shape& head = controls_.Shape2;
   head.Width = ToSingle(2 * HeadRadius);
   head.SetHeight(ToSingle(2 * HeadRadius));
   const FigurePoint headCentre = pointAt(HeadRadius + BodyRadius, dir - FigurePi / 2);
@@ -43,12 +43,12 @@ void TurtleFigure::TurtlePos(double x, double y, double dir) {
   const double reach = BodyRadius + Extension;
   const FigurePoint rearRight = pointAt(reach, dir + FigurePi / 4);
   const FigurePoint rearLeft = pointAt(reach, dir + 3 * FigurePi / 4);
-  PlaceLine(controls.Line1, rearRight, rearLeft);
+  PlaceLine(controls_.Line1, rearRight, rearLeft);
   const FigurePoint frontRight = pointAt(reach, dir - FigurePi / 4);
   const FigurePoint frontLeft = pointAt(reach, dir - 3 * FigurePi / 4);
   const FigurePoint tip{(frontRight.X + frontLeft.X) / 2, (frontRight.Y + frontLeft.Y) / 2};
-  PlaceLine(controls.Line2, tip, rearRight);
-  PlaceLine(controls.Line3, tip, rearLeft);
+  PlaceLine(controls_.Line2, tip, rearRight);
+  PlaceLine(controls_.Line3, tip, rearLeft);
 }
 
 void TurtleFigure::TurtleColor(double& colorCode) {
@@ -62,8 +62,8 @@ void TurtleFigure::TurtleColorRGB(double red, double green, double blue) {
 }
 
 void TurtleFigure::SetColour(Colour colour) {
-  controls.Shape2.BorderColor = colour;
-  for (LightLine* line : {&controls.Line1, &controls.Line2, &controls.Line3}) line->BorderColor = colour;
+  controls_.Shape2.BorderColor = colour;
+  for (LightLine* line : {&controls_.Line1, &controls_.Line2, &controls_.Line3}) line->BorderColor = colour;
 }
 
 }  // namespace zerimo

@@ -9,7 +9,7 @@ namespace zerimo {
 /// The four light controls above the surface that show the turtle. They are moved, never painted into the picture.
 class TurtleFigure {
  public:
-  explicit TurtleFigure(FormControls& formControls) : controls(formControls) {}
+  explicit TurtleFigure(FormControls& formControls) : controls_(formControls) {}
 
   /// Moves the figure: a position in surface units and a heading in radians.
   void TurtlePos(double x, double y, double dir);
@@ -23,7 +23,7 @@ class TurtleFigure {
  private:
   void SetColour(Colour colour);
 
-  FormControls& controls;
+  FormControls& controls_;
 };
 
 }  // namespace zerimo

@@ -7,7 +7,7 @@ namespace zerimo {
 /// Places, readings and homes of the turtle: `FENCE`, `WINDOW`, `XCOR`, `YCOR`, `GETXY`, the `HOME` family, `DRAW`.
 class TurtlePlaces {
  public:
-  explicit TurtlePlaces(const DrawingContext& drawingContext) : context(drawingContext) {}
+  explicit TurtlePlaces(const DrawingContext& drawingContext) : context_(drawingContext) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -26,7 +26,7 @@ class TurtlePlaces {
   double CentreX() const;
   double CentreY() const;
 
-  DrawingContext context;
+  DrawingContext context_;
 };
 
 }  // namespace zerimo

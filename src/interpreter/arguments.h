@@ -12,7 +12,7 @@ namespace zerimo {
 class Arguments {
  public:
   Arguments(const Variables& allVariables, const Arithmetic& evaluator)
-      : variables(allVariables), arithmetic(evaluator) {}
+      : variables_(allVariables), arithmetic_(evaluator) {}
 
   /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is passed over; a value that could not
   /// be computed is 0.
@@ -28,8 +28,8 @@ class Arguments {
   double Evaluate(std::string text) const;
 
  private:
-  const Variables& variables;
-  const Arithmetic& arithmetic;
+  const Variables& variables_;
+  const Arithmetic& arithmetic_;
 };
 
 }  // namespace zerimo

@@ -9,14 +9,14 @@
 namespace zerimo {
 
 std::int16_t Conditionals::Ifprocessor(int lineNumber) {
-  store.FileDataCount = static_cast<std::int16_t>(store.FirstEmptyLine() - 1);
+  store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine() - 1);
   const int elseLine = FindElse(lineNumber);
   const int endIfLine = FindEndIf(lineNumber);
-  std::string condition(From(store.Line(lineNumber), PositionOf(store.Line(lineNumber), " ") + 1));
-  condition = variables.ReplaceXcorAndYcor(condition);
-  condition = variables.VarValReplacer(condition);
-  condition = variables.GlobalVariableReplacer(condition);
-  const bool holds = RelationEvaluator(condition, arithmetic);
+  std::string condition(From(store_.Line(lineNumber), PositionOf(store_.Line(lineNumber), " ") + 1));
+  condition = variables_.ReplaceXcorAndYcor(condition);
+  condition = variables_.VarValReplacer(condition);
+  condition = variables_.GlobalVariableReplacer(condition);
+  const bool holds = RelationEvaluator(condition, arithmetic_);
   const int next = holds ? lineNumber + 1 : elseLine != 0 ? elseLine + 1 : endIfLine;
   return static_cast<std::int16_t>(next);
 }
@@ -25,8 +25,8 @@ int Conditionals::FindElse(int lineNumber) const {
   int open = 1;
   int close = 0;
   bool innerIf = false;
-  for (int number = lineNumber + 1; store.ClassOf(number) != StmtEnd && open != close; ++number) {
-    switch (store.ClassOf(number)) {
+  for (int number = lineNumber + 1; store_.ClassOf(number) != StmtEnd && open != close; ++number) {
+    switch (store_.ClassOf(number)) {
       case StmtIf:
         ++open;
         innerIf = true;
@@ -49,9 +49,9 @@ int Conditionals::FindElse(int lineNumber) const {
 int Conditionals::FindEndIf(int lineNumber) const {
   int open = 0;
   int close = 0;
-  for (int number = lineNumber; store.ClassOf(number) != StmtEnd; ++number) {
-    if (store.ClassOf(number) == StmtIf) ++open;
-    if (store.ClassOf(number) == StmtEndIf) ++close;
+  for (int number = lineNumber; store_.ClassOf(number) != StmtEnd; ++number) {
+    if (store_.ClassOf(number) == StmtIf) ++open;
+    if (store_.ClassOf(number) == StmtEndIf) ++close;
     if (open == close) return number;
   }
   return 0;
@@ -61,8 +61,8 @@ std::int16_t Conditionals::LabelPos(std::string_view labelName) const {
   const std::string wanted = "LABEL " + std::string(labelName);
   int found = 0;
   // There is no early exit: of several labels the last one wins.
-  for (int number = 1; !store.Line(number).empty(); ++number) {
-    if (store.Line(number) == wanted) found = number;
+  for (int number = 1; !store_.Line(number).empty(); ++number) {
+    if (store_.Line(number) == wanted) found = number;
   }
   return static_cast<std::int16_t>(found);
 }

@@ -13,7 +13,7 @@ namespace zerimo {
 class Conditionals {
  public:
   Conditionals(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator)
-      : store(programStore), variables(allVariables), arithmetic(evaluator) {}
+      : store_(programStore), variables_(allVariables), arithmetic_(evaluator) {}
 
   /// The number of the next line to run for the `IF` on a line; 0 for a false `IF` without `ENDIF`. Fails as its
   /// condition does.
@@ -28,9 +28,9 @@ class Conditionals {
   /// The line of the `ENDIF` of this `IF`, or 0.
   int FindEndIf(int lineNumber) const;
 
-  ProgramStore& store;
-  const Variables& variables;
-  const Arithmetic& arithmetic;
+  ProgramStore& store_;
+  const Variables& variables_;
+  const Arithmetic& arithmetic_;
 };
 
 }  // namespace zerimo

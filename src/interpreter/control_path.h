@@ -10,10 +10,10 @@ namespace zerimo {
 /// ".#TEMP$7- 5.BOX- 3". "." means that nothing runs. It is the only call stack.
 class ControlPath {
  public:
-  const std::string& CtrlStr() const { return path; }
+  const std::string& CtrlStr() const { return path_; }
 
   /// The one door by which the path changes.
-  void SetCtrlStr(std::string text) { path = std::move(text); }
+  void SetCtrlStr(std::string text) { path_ = std::move(text); }
 
   /// Name of the procedure whose locals are being made or removed.
   std::string CurProcName;
@@ -23,7 +23,7 @@ class ControlPath {
   std::string CurrentProcedureName() const;
 
  private:
-  std::string path = ".";
+  std::string path_ = ".";
 };
 
 /// The text up to and including its last "-"; no "-" gives the empty text.

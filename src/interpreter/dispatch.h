@@ -34,7 +34,7 @@ class Dispatch {
  public:
   using Handler = std::function<void(PrimitiveCall&)>;
 
-  explicit Dispatch(Services& desktop) : services(desktop) {}
+  explicit Dispatch(Services& desktop) : services_(desktop) {}
 
   /// Sets the work of an action. An action with none does nothing (but for its missing-input test).
   void Bind(Action action, Handler handler);
@@ -64,8 +64,8 @@ class Dispatch {
   void Tail(const PrimitiveCall& call);
   bool TailStatement(const PrimitiveCall& call, const std::function<void()>& statement);
 
-  Services& services;
-  std::array<Handler, ActionCount> handlers;
+  Services& services_;
+  std::array<Handler, ActionCount> handlers_;
 };
 
 }  // namespace zerimo

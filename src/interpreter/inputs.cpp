@@ -27,7 +27,7 @@ class Words {
     }
   }
 
-  const std::string& At(int number) const { return words[Index(number)]; }
+  const std::string& At(int number) const { return words_[Index(number)]; }
   bool Ends(int number) const { return At(number).empty() || At(number) == " "; }
 
  private:
@@ -35,40 +35,40 @@ class Words {
     if (number < 1 || number > LastIndex) throw Failure(FailureKind::SubscriptOutOfRange);
     return static_cast<std::size_t>(number - 1);
   }
-  std::string& Word(int number) { return words[Index(number)]; }
+  std::string& Word(int number) { return words_[Index(number)]; }
 
-  std::array<std::string, LastIndex> words;
+  std::array<std::string, LastIndex> words_;
 };
 
 }  // namespace
 
 void Inputs::CreateLocalVariable(std::string_view commandLine) {
   const Words call(commandLine);
-  const int header = store.WhereProcedure(Trimmed(call.At(1)));
+  const int header = store_.WhereProcedure(Trimmed(call.At(1)));
   // From the third character on: the blank behind TO makes an empty first word.
-  const Words names(From(Trimmed(store.Line(header)), 3));
+  const Words names(From(Trimmed(store_.Line(header)), 3));
 
   int slot = 1;
-  while (!variables.Slot(slot).empty() && variables.Slot(slot) != " ") ++slot;
+  while (!variables_.Slot(slot).empty() && variables_.Slot(slot) != " ") ++slot;
   for (int word = 2; !call.Ends(word) && !names.Ends(word + 1); ++word) {
     std::string value = call.At(word);
-    value = variables.VarValReplacer(value);
-    value = variables.GlobalVariableReplacer(value);
+    value = variables_.VarValReplacer(value);
+    value = variables_.GlobalVariableReplacer(value);
     // The slots are filled one after the other without a look at what they hold.
-    variables.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
+    variables_.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
   }
-  variables.RebuildList2();
-  path.CurProcName = call.At(1);
+  variables_.RebuildList2();
+  path_.CurProcName = call.At(1);
 }
 
 void Inputs::DeleteLocalVariable(std::string& procedureName) {
   Trim(procedureName);
   const std::string key = procedureName + ".";
-  for (int slot = 1; !variables.Slot(slot).empty(); ++slot) {
-    const std::string_view entry = Trimmed(variables.Slot(slot));
+  for (int slot = 1; !variables_.Slot(slot).empty(); ++slot) {
+    const std::string_view entry = Trimmed(variables_.Slot(slot));
     if (!entry.starts_with(key) && !Contains(entry, "#" + key)) continue;
-    variables.SetSlot(slot, " ");
-    variables.RebuildList2();
+    variables_.SetSlot(slot, " ");
+    variables_.RebuildList2();
   }
 }
 

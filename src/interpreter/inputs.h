@@ -14,7 +14,7 @@ namespace zerimo {
 class Inputs {
  public:
   Inputs(ProgramStore& programStore, ControlPath& controlPath, Variables& allVariables)
-      : store(programStore), path(controlPath), variables(allVariables) {}
+      : store_(programStore), path_(controlPath), variables_(allVariables) {}
 
   /// Pairs the words of a call with the words of the procedure's header. Fails (subscript) at more than 50 words or
   /// with no free slot.
@@ -24,9 +24,9 @@ class Inputs {
   void DeleteLocalVariable(std::string& procedureName);
 
  private:
-  ProgramStore& store;
-  ControlPath& path;
-  Variables& variables;
+  ProgramStore& store_;
+  ControlPath& path_;
+  Variables& variables_;
 };
 
 }  // namespace zerimo

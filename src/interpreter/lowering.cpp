@@ -89,22 +89,22 @@ Cut CutStatement(std::string_view body, std::int16_t inputCount) {
 }  // namespace
 
 const std::string& BodyArray::At(int index) const {
-  if (dot) throw Failure(FailureKind::TypeMismatch);
-  return statements[Checked(index, LastIndex)];
+  if (dot_) throw Failure(FailureKind::TypeMismatch);
+  return statements_[Checked(index, LastIndex)];
 }
 
-void BodyArray::Set(int index, std::string statement) { statements[Checked(index, LastIndex)] = std::move(statement); }
+void BodyArray::Set(int index, std::string statement) { statements_[Checked(index, LastIndex)] = std::move(statement); }
 
-const std::string& LineList::At(int index) const { return lines[Checked(index, LastIndex)]; }
+const std::string& LineList::At(int index) const { return lines_[Checked(index, LastIndex)]; }
 
-void LineList::Set(int index, std::string line) { lines[Checked(index, LastIndex)] = std::move(line); }
+void LineList::Set(int index, std::string line) { lines_[Checked(index, LastIndex)] = std::move(line); }
 
 Lowering::Lowering(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator,
                    Services& desktop, Label& label17, Label& label18)
-    : store(programStore),
-      variables(allVariables),
-      arithmetic(evaluator),
-      services(desktop),
+    : store_(programStore),
+      variables_(allVariables),
+      arithmetic_(evaluator),
+      services_(desktop),
       Label17(label17),
       Label18(label18) {}
 
@@ -115,8 +115,8 @@ void Lowering::RemoveAllRepeats() {
 std::int16_t Lowering::IsRepeatPresent() const { return SearchRepeatPos() != 0 ? 1 : 0; }
 
 std::int16_t Lowering::SearchRepeatPos() const {
-  for (int number = 1; !store.Line(number).empty(); ++number) {
-    if (IsRepeatLine(store.Line(number))) return static_cast<std::int16_t>(number);
+  for (int number = 1; !store_.Line(number).empty(); ++number) {
+    if (IsRepeatLine(store_.Line(number))) return static_cast<std::int16_t>(number);
   }
   return 0;
 }
@@ -132,12 +132,12 @@ std::string Lowering::BodyFinder(int lineNumber) const {
   std::string body;
   int open = 0;
   PassOver([&] {
-    const std::string& line = store.Line(lineNumber);
+    const std::string& line = store_.Line(lineNumber);
     open = PositionOf(line, "[");
     if (open == 0) open = Length(line) + 1;
   });
   PassOver([&] {
-    const std::string& line = store.Line(lineNumber);
+    const std::string& line = store_.Line(lineNumber);
     // The last character is taken for the closing bracket without a look.
     body = Mid(line, open + 1, Length(line) - open - 1);
   });
@@ -149,9 +149,9 @@ BodyArray Lowering::CreateBodyArray(std::string& body) const {
   try {
     int index = 1;
     do {
-      const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store));
+      const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store_));
       if (cut.Message != nullptr) {
-        services.MessageBox(cut.Message);
+        services_.MessageBox(cut.Message);
         return statements;
       }
       // A blank at its end stays: "LABEL " is a label with no name.
@@ -171,9 +171,9 @@ std::string Lowering::RepeatNum(std::string_view line) const {
   const std::string_view count = behind.substr(0, behind.find('['));
   // The value is dropped; a count that can't be evaluated now fails here.
   std::string copy(count);
-  copy = variables.VarValReplacer(copy);
-  copy = variables.GlobalVariableReplacer(copy);
-  ToInt16(arithmetic.ArithmeticEvaluator(copy));
+  copy = variables_.VarValReplacer(copy);
+  copy = variables_.GlobalVariableReplacer(copy);
+  ToInt16(arithmetic_.ArithmeticEvaluator(copy));
   return std::string(Trimmed(count));
 }
 
@@ -185,7 +185,7 @@ LineList Lowering::AddComponents() {
     Label17.Caption = "#-" + Str(static_cast<double>(RepeatCounterName.size()));
     Label18.Caption = "$-" + Str(static_cast<double>(RepeatLabelName.size()));
   }
-  const std::string count = RepeatNum(store.Line(position));
+  const std::string count = RepeatNum(store_.Line(position));
   const std::string& counter = RepeatCounterName;
   std::string body = BodyFinder(position);
   const BodyArray statements = CreateBodyArray(body);
@@ -207,13 +207,13 @@ LineList Lowering::AddComponents() {
 void Lowering::RefreshRootArray(const LineList& lines) {
   const int position = SearchRepeatPos();
   std::vector<std::string> behind;
-  for (int number = position + 1; !store.Line(number).empty(); ++number) {
+  for (int number = position + 1; !store_.Line(number).empty(); ++number) {
     if (behind.size() == LinesBehind) throw Failure(FailureKind::SubscriptOutOfRange);
-    behind.push_back(store.Line(number));
+    behind.push_back(store_.Line(number));
   }
   int target = position;
-  for (int index = 1; !lines.At(index).empty(); ++index) store.SetLine(target++, lines.At(index));
-  for (const std::string& line : behind) store.SetLine(target++, line);
+  for (int index = 1; !lines.At(index).empty(); ++index) store_.SetLine(target++, lines.At(index));
+  for (const std::string& line : behind) store_.SetLine(target++, line);
 }
 
 void Lowering::ForgetNames() {

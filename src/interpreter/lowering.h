@@ -22,12 +22,12 @@ class BodyArray {
   const std::string& At(int index) const;
   void Set(int index, std::string statement);
   /// Makes it the text ".".
-  void BecomeDot() { dot = true; }
-  bool IsDot() const { return dot; }
+  void BecomeDot() { dot_ = true; }
+  bool IsDot() const { return dot_; }
 
  private:
-  std::array<std::string, LastIndex> statements;
-  bool dot = false;
+  std::array<std::string, LastIndex> statements_;
+  bool dot_ = false;
 };
 
 /// The lines that replace one `REPEAT` line: 100 texts, used from index 1; the first empty text ends them.
@@ -39,7 +39,7 @@ class LineList {
   void Set(int index, std::string line);
 
  private:
-  std::array<std::string, LastIndex> lines;
+  std::array<std::string, LastIndex> lines_;
 };
 
 /// Rewrites every `REPEAT` line of the store into a counter, a label, the body's statements, and a jump.
@@ -77,10 +77,10 @@ class Lowering {
   void ForgetNames();
 
  private:
-  ProgramStore& store;
-  const Variables& variables;
-  const Arithmetic& arithmetic;
-  Services& services;
+  ProgramStore& store_;
+  const Variables& variables_;
+  const Arithmetic& arithmetic_;
+  Services& services_;
   Label& Label17;
   Label& Label18;
 };

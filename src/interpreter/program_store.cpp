@@ -19,13 +19,13 @@ constexpr int HowManyLines = 1000;
 class WorkingCopy {
  public:
   void Add(const std::string& line) {
-    if (lines.size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
-    lines.push_back(line);
+    if (lines_.size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
+    lines_.push_back(line);
   }
-  const std::vector<std::string>& Lines() const { return lines; }
+  const std::vector<std::string>& Lines() const { return lines_; }
 
  private:
-  std::vector<std::string> lines;
+  std::vector<std::string> lines_;
 };
 
 }  // namespace

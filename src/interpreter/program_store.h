@@ -76,7 +76,7 @@ class ProgramStore {
   ListBox& List3;
   std::array<std::string, LineCount> FileDataArray;
   /// 0 while not known.
-  mutable std::array<std::uint8_t, LineCount> classes{};
+  mutable std::array<std::uint8_t, LineCount> classes_{};
 };
 
 /// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan
@@ -84,16 +84,16 @@ class ProgramStore {
 class LentLine {
  public:
   LentLine(ProgramStore& programStore, int lineNumber)
-      : Text(programStore.Line(lineNumber)), store(programStore), index(programStore.Index(lineNumber)) {}
-  ~LentLine() { store.Put(index, std::move(Text)); }
+      : Text(programStore.Line(lineNumber)), store_(programStore), index_(programStore.Index(lineNumber)) {}
+  ~LentLine() { store_.Put(index_, std::move(Text)); }
   LentLine(const LentLine&) = delete;
   LentLine& operator=(const LentLine&) = delete;
 
   std::string Text;
 
  private:
-  ProgramStore& store;
-  std::size_t index;
+  ProgramStore& store_;
+  std::size_t index_;
 };
 
 /// Shows the whole store in a list, each line with its number and two blanks in front, trimming the lines in the store

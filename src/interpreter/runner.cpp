@@ -18,43 +18,43 @@ bool NothingRuns(const std::string& path) { return path == "." || path == " " ||
 Runner::Runner(ProgramStore& programStore, ControlPath& controlPath, Dispatch& dispatcher, Variables& allVariables,
                Inputs& procedureInputs, Conditionals& theConditionals, Services& desktop, RunWatch& runWatch,
                Label& label19)
-    : store(programStore),
-      path(controlPath),
-      dispatch(dispatcher),
-      variables(allVariables),
-      inputs(procedureInputs),
-      conditionals(theConditionals),
-      services(desktop),
-      watch(runWatch),
+    : store_(programStore),
+      path_(controlPath),
+      dispatch_(dispatcher),
+      variables_(allVariables),
+      inputs_(procedureInputs),
+      conditionals_(theConditionals),
+      services_(desktop),
+      watch_(runWatch),
       Label19(label19) {}
 
 void Runner::Run1(std::string_view procedure) {
   Walk walk;
-  PassOver([&] { walk.Line = store.WhereProcedure(procedure); });
+  PassOver([&] { walk.Line = store_.WhereProcedure(procedure); });
   if (walk.Line != 0) {
-    SetPath(path.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
+    SetPath(path_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
     // A walk past the end of the store has nothing left to run.
-    while (!NothingRuns(path.CtrlStr()) && !walk.Over && walk.Line <= ProgramStore::LineCount) {
-      watch.Step();
-      PassOver([&] { walk.Class = store.ClassOf(walk.Line); });
+    while (!NothingRuns(path_.CtrlStr()) && !walk.Over && walk.Line <= ProgramStore::LineCount) {
+      watch_.Step();
+      PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
       Act(walk);
     }
   }
-  Label19.Caption = path.CtrlStr();
+  Label19.Caption = path_.CtrlStr();
 }
 
 void Runner::SetPath(std::string text) {
-  path.SetCtrlStr(std::move(text));
+  path_.SetCtrlStr(std::move(text));
   // Seen while a box holds the run.
-  Label19.Caption = path.CtrlStr();
+  Label19.Caption = path_.CtrlStr();
 }
 
 void Runner::Act(Walk& walk) {
   switch (walk.Class) {
     case StmtPrimitive:
       PassOver([&] {
-        store.TrimLine(walk.Line);
-        dispatch.Execute(store.Line(walk.Line));
+        store_.TrimLine(walk.Line);
+        dispatch_.Execute(store_.Line(walk.Line));
       });
       Advance(walk);
       break;
@@ -75,7 +75,7 @@ void Runner::Act(Walk& walk) {
       break;
     case StmtIf:
       // A condition that fails leaves the line counter: the IF runs again, for ever if it always fails.
-      PassOver([&] { walk.Line = conditionals.Ifprocessor(walk.Line); });
+      PassOver([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
       WriteLineBlank(walk.Line);
       break;
     case StmtEndIf:
@@ -85,7 +85,7 @@ void Runner::Act(Walk& walk) {
       ActOnElse(walk);
       break;
     case StmtMake:
-      PassOver([&] { variables.VariableUpdate(walk.Line); });
+      PassOver([&] { variables_.VariableUpdate(walk.Line); });
       Advance(walk);
       break;
     case StmtArithmetic:
@@ -105,21 +105,21 @@ void Runner::Advance(Walk& walk) {
 
 void Runner::ActOnCall(Walk& walk) {
   PassOver([&] {
-    LentLine line(store, walk.Line);
+    LentLine line(store_, walk.Line);
     walk.Name = GiveWord(line.Text, 1);
   });
   int callee = 0;
-  PassOver([&] { callee = store.WhereProcedure(walk.Name); });
+  PassOver([&] { callee = store_.WhereProcedure(walk.Name); });
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
-    SetPath(path.CtrlStr() + "-" + Str(walk.Line));
+    SetPath(path_.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
-  PassOver([&] { inputs.CreateLocalVariable(store.Line(walk.Line)); });
-  SetPath(FirstPartExtractor(path.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
+  PassOver([&] { inputs_.CreateLocalVariable(store_.Line(walk.Line)); });
+  SetPath(FirstPartExtractor(path_.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
   walk.Line = callee + 1;
-  SetPath(path.CtrlStr() + "-" + Str(walk.Line));
+  SetPath(path_.CtrlStr() + "-" + Str(walk.Line));
 }
 
 void Runner::ActOnTo(Walk& walk) {
@@ -128,25 +128,25 @@ void Runner::ActOnTo(Walk& walk) {
 }
 
 void Runner::ActOnEnd(Walk& walk) {
-  PassOver([&] { path.CurProcName = path.CurrentProcedureName(); });
-  const int dot = LastPositionOf(path.CtrlStr(), '.');
+  PassOver([&] { path_.CurProcName = path_.CurrentProcedureName(); });
+  const int dot = LastPositionOf(path_.CtrlStr(), '.');
   if (dot <= 1) {
     SetPath(".");
   } else {
-    SetPath(std::string(Left(path.CtrlStr(), dot - 1)));
-    PassOver([&] { walk.Line = EndValExtractor(path.CtrlStr()) + 1; });
+    SetPath(std::string(Left(path_.CtrlStr(), dot - 1)));
+    PassOver([&] { walk.Line = EndValExtractor(path_.CtrlStr()) + 1; });
     WriteLinePlain(walk.Line);
   }
-  PassOver([&] { inputs.DeleteLocalVariable(path.CurProcName); });
+  PassOver([&] { inputs_.DeleteLocalVariable(path_.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
-  const std::string firstPart = FirstPartExtractor(path.CtrlStr());
+  const std::string firstPart = FirstPartExtractor(path_.CtrlStr());
   std::string label;
-  PassOver([&] { label = From(store.Line(walk.Line), 6); });
-  PassOver([&] { walk.Line = conditionals.LabelPos(label); });
+  PassOver([&] { label = From(store_.Line(walk.Line), 6); });
+  PassOver([&] { walk.Line = conditionals_.LabelPos(label); });
   if (walk.Line == 0) {
-    services.MessageBox("UnDeclared Label: " + label + " in Goto Statement");
+    services_.MessageBox("UnDeclared Label: " + label + " in Goto Statement");
     walk.Over = true;
     return;
   }
@@ -155,7 +155,7 @@ void Runner::ActOnGoto(Walk& walk) {
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: behind an ENDIF the text is one ahead, and a line is skipped.
-  PassOver([&] { walk.Line = EndValExtractor(path.CtrlStr()) + 1; });
+  PassOver([&] { walk.Line = EndValExtractor(path_.CtrlStr()) + 1; });
   WriteLinePlain(walk.Line);
 }
 
@@ -169,15 +169,15 @@ void Runner::ActOnElse(Walk& walk) {
   int ifs = 0;
   int endIfs = 0;
   for (int number = walk.Line; number <= ProgramStore::LineCount; ++number) {
-    if (store.ClassOf(number) == StmtIf) ++ifs;
-    if (store.ClassOf(number) == StmtEndIf) ++endIfs;
+    if (store_.ClassOf(number) == StmtIf) ++ifs;
+    if (store_.ClassOf(number) == StmtEndIf) ++endIfs;
     if (endIfs > ifs) {
       walk.Line = number + 1;
       WriteLineBlank(walk.Line);
       return;
     }
-    if (store.Line(number).empty()) {
-      services.MessageBox("Misplaced Else");
+    if (store_.Line(number).empty()) {
+      services_.MessageBox("Misplaced Else");
       SetPath(".");
       break;
     }
@@ -188,19 +188,19 @@ void Runner::ActOnElse(Walk& walk) {
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
   // Here alone the tidying comes before the act.
   Tidy();
-  PassOver([&] { dispatch.Execute(std::string(word) + store.Line(walk.Line)); });
+  PassOver([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
   Advance(walk);
 }
 
 void Runner::Tidy() {
-  if (path.CtrlStr() == "1") SetPath(".");
-  std::string text(Trimmed(path.CtrlStr()));
+  if (path_.CtrlStr() == "1") SetPath(".");
+  std::string text(Trimmed(path_.CtrlStr()));
   PassOver([&] { text = RecursionChecker(text); });
   SetPath(std::move(text));
 }
 
-void Runner::WriteLineBlank(int line) { SetPath(FirstPartExtractor(path.CtrlStr()) + Str(line)); }
+void Runner::WriteLineBlank(int line) { SetPath(FirstPartExtractor(path_.CtrlStr()) + Str(line)); }
 
-void Runner::WriteLinePlain(int line) { SetPath(FirstPartExtractor(path.CtrlStr()) + StrTrimmed(line)); }
+void Runner::WriteLinePlain(int line) { SetPath(FirstPartExtractor(path_.CtrlStr()) + StrTrimmed(line)); }
 
 }  // namespace zerimo

@@ -49,14 +49,14 @@ class Runner {
   void WriteLineBlank(int line);
   void WriteLinePlain(int line);
 
-  ProgramStore& store;
-  ControlPath& path;
-  Dispatch& dispatch;
-  Variables& variables;
-  Inputs& inputs;
-  Conditionals& conditionals;
-  Services& services;
-  RunWatch& watch;
+  ProgramStore& store_;
+  ControlPath& path_;
+  Dispatch& dispatch_;
+  Variables& variables_;
+  Inputs& inputs_;
+  Conditionals& conditionals_;
+  Services& services_;
+  RunWatch& watch_;
   Label& Label19;
 };
 

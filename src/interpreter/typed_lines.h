@@ -16,7 +16,7 @@ class TypedLines {
  public:
   TypedLines(ProgramStore& programStore, Lowering& repeatLowering, Runner& procedureRunner, Variables& allVariables,
              ListBox& list1)
-      : store(programStore), lowering(repeatLowering), runner(procedureRunner), variables(allVariables), List1(list1) {}
+      : store_(programStore), lowering_(repeatLowering), runner_(procedureRunner), variables_(allVariables), List1(list1) {}
 
   /// Runs a filtered line; the caller's text is trimmed. Any failure but one inside the run itself leaves at once.
   void ComplexExecutor(std::string& complexData);
@@ -31,10 +31,10 @@ class TypedLines {
   void RemoveTemporaryProcedure(int firstLine);
   std::string TemporaryName() const { return "#TEMP$" + std::to_string(TempProcNo); }
 
-  ProgramStore& store;
-  Lowering& lowering;
-  Runner& runner;
-  Variables& variables;
+  ProgramStore& store_;
+  Lowering& lowering_;
+  Runner& runner_;
+  Variables& variables_;
   ListBox& List1;
 };
 

@@ -68,20 +68,20 @@ class Variables {
   void ListSlots();
   std::vector<std::string> ListedSlots();
 
-  ProgramStore& store;
-  ControlPath& path;
-  const TurtleState& turtle;
+  ProgramStore& store_;
+  ControlPath& path_;
+  const TurtleState& turtle_;
   const Window& Form1;
   ListBox& List2;
-  const Arithmetic& arithmetic;
-  RunWatch& watch;
+  const Arithmetic& arithmetic_;
+  RunWatch& watch_;
   std::array<std::string, SlotCount> VariableArray;
   /// How many slots hold "" and " ".
-  int freeSlots = SlotCount;
-  int deletedSlots = 0;
+  int freeSlots_ = SlotCount;
+  int deletedSlots_ = 0;
   /// While `List2` is put off: the texts that slots had when it was made, for those that have changed since.
-  std::unordered_map<std::size_t, std::string> former;
-  bool shownInList2 = false;
+  std::unordered_map<std::size_t, std::string> former_;
+  bool shownInList2_ = false;
 };
 
 /// The first name in an expression, or the empty text. The caller's text is trimmed.
