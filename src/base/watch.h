@@ -4,9 +4,9 @@ namespace zerimo {
 
 /// Watches over a run that may never end. A shell keeps its limits here, lets the window repaint, and throws `Stopped`
 /// or `Ended` to leave a run from wherever it hangs.
-class RunWatch {
+class Watch {
  public:
-  virtual ~RunWatch() = default;
+  virtual ~Watch() = default;
   /// Called at the beginning of each pass of Run1's loop.
   virtual void Step() = 0;
   /// Called in each round of every other loop that may never end.
@@ -14,7 +14,7 @@ class RunWatch {
 };
 
 /// Watches nothing.
-class NoWatch final : public RunWatch {
+class NoWatch final : public Watch {
  public:
   void Step() override {}
   void Tick() override {}

@@ -13,8 +13,8 @@ namespace zerimo::batch {
 /// queue answers a box with `OK`, `Ignore` or `No`, and everything else with the empty text.
 class BatchServices final : public Services {
  public:
-  BatchServices(Journal& theJournal, BatchWatch& theWatch, bool reallySleep)
-      : journal_(theJournal), watch_(theWatch), sleeps_(reallySleep) {}
+  BatchServices(Journal& journal, BatchWatch& watch, bool reallySleep)
+      : journal_(journal), watch_(watch), sleeps_(reallySleep) {}
 
   /// `line` is where the session asks for it, should the next box have no such button.
   void QueueBoxAnswer(Answer answer, int line) { boxAnswers_.push_back({answer, line}); }

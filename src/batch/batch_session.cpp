@@ -10,21 +10,21 @@
 
 namespace zerimo::batch {
 
-BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& theJournal, PictureWriter pictureWriter)
-    : journal_(theJournal),
+BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter)
+    : journal_(journal),
       writePicture_(std::move(pictureWriter)),
       watch_(settings.Steps, settings.Seconds),
       services_(journal_, watch_, settings.Sleep),
       form_(settings.Screen, settings.AppFolder, services_, watch_, canvas),
       trace_(journal_) {
-  form_.Controls.List4.OnChange = [this](const std::string* item) {
+  form_.controls.List4.OnChange = [this](const std::string* item) {
     if (item != nullptr) {
-      journal_.ListAdd(form_.Controls.List4.Name(), *item);
+      journal_.ListAdd(form_.controls.List4.Name(), *item);
     } else {
-      journal_.ListClear(form_.Controls.List4.Name());
+      journal_.ListClear(form_.controls.List4.Name());
     }
   };
-  form_.Controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
+  form_.controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
   form_.Picture1.AddRecorder(trace_);
 }
 
@@ -78,25 +78,25 @@ void BatchSession::RunSteps(const Script& script) {
 void BatchSession::Deliver(const std::function<void()>& event) {
   watch_.BeginEvent();
   event();
-  Timer& timer2 = form_.Controls.Timer2;
+  Timer& timer2 = form_.controls.Timer2;
   if (!timer2.Enabled) return;
   watch_.BeginEvent();
   form_.Tick(timer2);
 }
 
 int BatchSession::RowWithFocus() {
-  const Control* const focus = form_.Controls.Focus.Focus();
-  for (int row = 0; row < form_.Controls.Text1.Size; ++row) {
-    if (focus == &form_.Controls.Text1[row]) return row;
+  const Control* const focus = form_.controls.Focus.Focus();
+  for (int row = 0; row < form_.controls.Text1.Size; ++row) {
+    if (focus == &form_.controls.Text1[row]) return row;
   }
   return 0;
 }
 
-void BatchSession::PressEnter(int row) { Do(action::PressKey{&form_.Controls.Text1[row], key::Enter}); }
+void BatchSession::PressEnter(int row) { Do(action::PressKey{&form_.controls.Text1[row], key::Enter}); }
 
 void BatchSession::Do(const action::TypeLine& act) {
   const int row = RowWithFocus();
-  form_.Controls.Text1[row].Text = act.Text;
+  form_.controls.Text1[row].Text = act.Text;
   PressEnter(row);
 }
 
@@ -106,11 +106,11 @@ void BatchSession::Do(const action::EnterRow& act) {
     return;
   }
   // A hidden row can't have the focus; it is entered all the same, as a typed line is.
-  PassOver([&] { form_.Controls.Focus.SetFocus(form_.Controls.Text1[act.Row]); });
+  PassOver([&] { form_.controls.Focus.SetFocus(form_.controls.Text1[act.Row]); });
   PressEnter(act.Row);
 }
 
-void BatchSession::Do(const action::SetRow& act) { form_.Controls.Text1[act.Row].Text = act.Text; }
+void BatchSession::Do(const action::SetRow& act) { form_.controls.Text1[act.Row].Text = act.Text; }
 
 void BatchSession::Do(const action::TypeOver& act) {
   act.Box->Text = act.Text;
@@ -118,8 +118,8 @@ void BatchSession::Do(const action::TypeOver& act) {
 }
 
 void BatchSession::Do(const action::PressKey& act) {
-  for (int row = 0; row < form_.Controls.Text1.Size; ++row) {
-    const TextBox& box = form_.Controls.Text1[row];
+  for (int row = 0; row < form_.controls.Text1.Size; ++row) {
+    const TextBox& box = form_.controls.Text1[row];
     if (act.Target == &box && act.KeyCode == key::Enter) journal_.Typed(row, box.Text);
   }
   Deliver([&] { form_.KeyDown(*act.Target, act.KeyCode); });
@@ -147,9 +147,9 @@ void BatchSession::Do(const action::Scroll& act) {
 }
 
 void BatchSession::Do(const action::SelectEntry& act) {
-  FileListBox& files = form_.Controls.File1;
+  FileListBox& files = form_.controls.File1;
   const bool isFile = act.List == &files;
-  const std::vector<std::string>& entries = isFile ? files.Items : form_.Controls.List4.Items();
+  const std::vector<std::string>& entries = isFile ? files.Items : form_.controls.List4.Items();
   if (std::ranges::find(entries, act.Entry) == entries.end()) {
     throw SessionError(currentLine_, ToUtf8(act.List->Name() + " has no entry " + act.Entry));
   }

@@ -35,7 +35,7 @@ using PictureWriter = std::function<void(const Surface& surface, const std::stri
 /// what happens. Runs once.
 class BatchSession {
  public:
-  BatchSession(const Settings& settings, Canvas& canvas, Journal& theJournal, PictureWriter pictureWriter = {});
+  BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter = {});
   BatchSession(const BatchSession&) = delete;
   BatchSession& operator=(const BatchSession&) = delete;
 

@@ -7,35 +7,35 @@
 
 namespace zerimo::batch {
 
-BatchWatch::BatchWatch(std::uint64_t steps, double seconds) : stepLimit(steps), secondLimit(seconds) {}
+BatchWatch::BatchWatch(std::uint64_t steps, double seconds) : stepLimit_(steps), secondLimit_(seconds) {}
 
 void BatchWatch::StartClock() {
-  if (secondLimit == 0) return;
-  end = Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(secondLimit));
+  if (secondLimit_ == 0) return;
+  end_ = Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(secondLimit_));
 }
 
 void BatchWatch::BeginEvent() {
-  stepsTaken = 0;
+  stepsTaken_ = 0;
   LookAtClock();
 }
 
 void BatchWatch::Step() {
-  if (stepLimit != 0 && ++stepsTaken > stepLimit) throw Stopped{"steps"};
+  if (stepLimit_ != 0 && ++stepsTaken_ > stepLimit_) throw Stopped{"steps"};
   LookAtClockNowAndThen();
 }
 
 void BatchWatch::Sleep(std::chrono::milliseconds duration) {
-  if (duration.count() > 0) std::this_thread::sleep_until(std::min(Clock::now() + duration, end));
+  if (duration.count() > 0) std::this_thread::sleep_until(std::min(Clock::now() + duration, end_));
   LookAtClock();
 }
 
 void BatchWatch::LookAtClockNowAndThen() {
   constexpr unsigned interval = 8;
-  if (++looks % interval == 0) LookAtClock();
+  if (++looks_ % interval == 0) LookAtClock();
 }
 
 void BatchWatch::LookAtClock() const {
-  if (secondLimit != 0 && Clock::now() >= end) throw Stopped{"seconds"};
+  if (secondLimit_ != 0 && Clock::now() >= end_) throw Stopped{"seconds"};
 }
 
 }  // namespace zerimo::batch

@@ -8,7 +8,7 @@
 namespace zerimo::batch {
 
 /// Keeps the limits of a session and throws `Stopped` where one is reached. A limit of 0 is none.
-class BatchWatch final : public RunWatch {
+class BatchWatch final : public Watch {
  public:
   BatchWatch(std::uint64_t steps, double seconds);
 

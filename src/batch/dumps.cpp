@@ -13,16 +13,16 @@ JsonLine DumpEvent(const char* what) { return JsonLine("dump").Text("what", what
 
 JsonLine DumpStore(const Form1& form) {
   std::vector<std::string> lines;
-  for (int number = 1; number <= ProgramStore::LineCount && !form.Store.Line(number).empty(); ++number) {
-    lines.push_back(form.Store.Line(number));
+  for (int number = 1; number <= Store::LineCount && !form.interpreter.store.Line(number).empty(); ++number) {
+    lines.push_back(form.interpreter.store.Line(number));
   }
   return DumpEvent("store").Texts("lines", lines);
 }
 
 JsonLine DumpStoreAll(const Form1& form) {
   NumberedTexts lines;
-  for (int number = 1; number <= ProgramStore::LineCount; ++number) {
-    if (!form.Store.Line(number).empty()) lines.emplace_back(number, form.Store.Line(number));
+  for (int number = 1; number <= Store::LineCount; ++number) {
+    if (!form.interpreter.store.Line(number).empty()) lines.emplace_back(number, form.interpreter.store.Line(number));
   }
   return DumpEvent("storeall").TextsByNumber("lines", lines);
 }
@@ -30,24 +30,25 @@ JsonLine DumpStoreAll(const Form1& form) {
 JsonLine DumpVariables(const Form1& form) {
   NumberedTexts slots;
   for (int number = 1; number <= Variables::SlotCount; ++number) {
-    if (!form.Names.Slot(number).empty()) slots.emplace_back(number, form.Names.Slot(number));
+    if (!form.interpreter.variables.Slot(number).empty())
+      slots.emplace_back(number, form.interpreter.variables.Slot(number));
   }
   return DumpEvent("variables").TextsByNumber("slots", slots);
 }
 
 void AppendInterpreter(JsonLine& event, const Form1& form) {
-  event.Text("CtrlStr", form.Path.CtrlStr())
-      .Text("CurProcName", form.Path.CurProcName)
-      .Number("FileDataCount", form.Store.FileDataCount)
-      .Flag("DetailsOn", form.Primitives.DetailsOn)
-      .Number("TempProcNo", form.Lines.TempProcNo)
-      .Number("OverflowCount", form.Primitives.OverflowCount)
-      .Text("LastTypedLine", form.Lines.LastTypedLine)
-      .Text("RepeatCounterName", form.Repeats.RepeatCounterName)
-      .Text("RepeatLabelName", form.Repeats.RepeatLabelName);
+  event.Text("CtrlStr", form.interpreter.controlPath.CtrlStr())
+      .Text("CurProcName", form.interpreter.controlPath.CurProcName)
+      .Number("FileDataCount", form.interpreter.store.FileDataCount)
+      .Flag("DetailsOn", form.interpreter.dispatch.DetailsOn)
+      .Number("TempProcNo", form.interpreter.typedLines.TempProcNo)
+      .Number("OverflowCount", form.interpreter.dispatch.OverflowCount)
+      .Text("LastTypedLine", form.interpreter.typedLines.LastTypedLine)
+      .Text("RepeatCounterName", form.interpreter.lowering.RepeatCounterName)
+      .Text("RepeatLabelName", form.interpreter.lowering.RepeatLabelName);
 }
 
-void AppendTurtle(JsonLine& event, const TurtleState& turtle) {
+void AppendTurtle(JsonLine& event, const Turtle& turtle) {
   event.Number("TurtleX", turtle.TurtleX)
       .Number("TurtleY", turtle.TurtleY)
       .Number("TurtleDir", turtle.TurtleDir)
@@ -61,13 +62,13 @@ void AppendTurtle(JsonLine& event, const TurtleState& turtle) {
 JsonLine DumpState(const Form1& form) {
   JsonLine event = DumpEvent("state");
   AppendInterpreter(event, form);
-  AppendTurtle(event, form.Turtle);
-  const Control* const focus = form.Controls.Focus.Focus();
-  event.Flag("CoordinatesOn", form.Mouse.CoordinatesOn)
-      .Text("CurrentFileName", form.Files.CurrentFileName)
-      .Text("SlideBaseName", form.Photos.SlideBaseName)
-      .Number("SlideCounter", form.Photos.SlideCounter)
-      .Text("SlideFileName", form.Photos.SlideFileName)
+  AppendTurtle(event, form.turtle);
+  const Control* const focus = form.controls.Focus.Focus();
+  event.Flag("CoordinatesOn", form.graphics.palette.CoordinatesOn)
+      .Text("CurrentFileName", form.files.programFiles.CurrentFileName)
+      .Text("SlideBaseName", form.files.pictures.SlideBaseName)
+      .Number("SlideCounter", form.files.pictures.SlideCounter)
+      .Text("SlideFileName", form.files.pictures.SlideFileName)
       .Text("Focus", focus == nullptr ? std::string() : focus->Name());
   return event;
 }

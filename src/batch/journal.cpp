@@ -56,16 +56,16 @@ void Journal::Stopped(const std::string& by) { Write(JsonLine("stopped").Text("b
 void Journal::Finished() { Write(JsonLine("finished")); }
 
 void Journal::Write(const JsonLine& line) {
-  if (transcript != nullptr) *transcript << line.Finished() << '\n';
+  if (transcript_ != nullptr) *transcript_ << line.Finished() << '\n';
 }
 
 void Journal::Flush() {
-  if (transcript != nullptr) transcript->flush();
-  if (people != nullptr) people->flush();
+  if (transcript_ != nullptr) transcript_->flush();
+  if (people_ != nullptr) people_->flush();
 }
 
 void Journal::Tell(const std::string& text) {
-  if (people != nullptr) *people << ToUtf8(text) << '\n';
+  if (people_ != nullptr) *people_ << ToUtf8(text) << '\n';
 }
 
 }  // namespace zerimo::batch

@@ -68,56 +68,56 @@ void AppendNumber(std::string& line, Float value) {
 }  // namespace
 
 void JsonLine::Key(std::string_view key) {
-  if (line.size() > 1) line += ',';
-  AppendText(line, key);
-  line += ':';
+  if (line_.size() > 1) line_ += ',';
+  AppendText(line_, key);
+  line_ += ':';
 }
 
 JsonLine& JsonLine::Text(std::string_view key, std::string_view value) {
   Key(key);
-  AppendText(line, value);
+  AppendText(line_, value);
   return *this;
 }
 
 JsonLine& JsonLine::Flag(std::string_view key, bool value) {
   Key(key);
-  line += value ? "true" : "false";
+  line_ += value ? "true" : "false";
   return *this;
 }
 
 JsonLine& JsonLine::Number(std::string_view key, double value) {
   Key(key);
-  AppendNumber(line, value);
+  AppendNumber(line_, value);
   return *this;
 }
 
 JsonLine& JsonLine::Single(std::string_view key, float value) {
   Key(key);
-  AppendNumber(line, value);
+  AppendNumber(line_, value);
   return *this;
 }
 
 JsonLine& JsonLine::Texts(std::string_view key, const std::vector<std::string>& values) {
   Key(key);
-  line += '[';
+  line_ += '[';
   for (const std::string& value : values) {
-    if (&value != &values.front()) line += ',';
-    AppendText(line, value);
+    if (&value != &values.front()) line_ += ',';
+    AppendText(line_, value);
   }
-  line += ']';
+  line_ += ']';
   return *this;
 }
 
 JsonLine& JsonLine::TextsByNumber(std::string_view key, const std::vector<std::pair<int, std::string>>& values) {
   Key(key);
-  line += '{';
+  line_ += '{';
   for (const auto& [number, value] : values) {
-    if (number != values.front().first) line += ',';
-    AppendText(line, std::to_string(number));
-    line += ':';
-    AppendText(line, value);
+    if (number != values.front().first) line_ += ',';
+    AppendText(line_, std::to_string(number));
+    line_ += ':';
+    AppendText(line_, value);
   }
-  line += '}';
+  line_ += '}';
   return *this;
 }
 

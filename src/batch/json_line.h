@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 namespace zerimo::batch {
 

@@ -102,7 +102,7 @@ std::string WithoutEscapes(std::string_view text) {
 /// Turns the words of one directive into an action.
 class DirectiveReader {
  public:
-  DirectiveReader(Form1& theForm, std::string_view text, int line) : form_(theForm), words_(text, line) {}
+  DirectiveReader(Form1& form, std::string_view text, int line) : form_(form), words_(text, line) {}
 
   SessionAction Enter() {
     if (!words_.HasMore()) return action::EnterRow{action::EnterRow::RowWithFocus};
@@ -116,7 +116,7 @@ class DirectiveReader {
 
   SessionAction TypeOver() {
     Control& control = AnyControl();
-    const std::array<TextBox*, 3> boxes = {&form_.Controls.Text2, &form_.Controls.Text3, &form_.Controls.Text4};
+    const std::array<TextBox*, 3> boxes = {&form_.controls.Text2, &form_.controls.Text3, &form_.controls.Text4};
     for (TextBox* const box : boxes) {
       if (box == &control) return action::TypeOver{box, WithoutEscapes(words_.Text())};
     }
@@ -159,7 +159,7 @@ class DirectiveReader {
 
   SessionAction Select() {
     Control& control = AnyControl();
-    if (&control != &form_.Controls.File1 && &control != &form_.Controls.List4) {
+    if (&control != &form_.controls.File1 && &control != &form_.controls.List4) {
       words_.Fail(control.Name() + " has no entries to select; File1 and List4 have");
     }
     return action::SelectEntry{&control, words_.Text()};

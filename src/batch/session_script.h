@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/services.h"
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 #include "graphics/palette.h"
 
 /// A session as a list of actions. Controls are those of the form that the session was read for.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 namespace zerimo::batch {
 

@@ -8,7 +8,7 @@ namespace zerimo::batch {
 /// Writes each operation of the surface into the journal while it is on.
 class SurfaceTrace final : public SurfaceRecorder {
  public:
-  explicit SurfaceTrace(Journal& theJournal) : journal_(theJournal) {}
+  explicit SurfaceTrace(Journal& journal) : journal_(journal) {}
 
   bool On = false;
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "classroom/pupil.h"
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 /// How the runner and the process of one run talk: by files in the run's folder.
 namespace zerimo::classroom {

@@ -6,9 +6,9 @@
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 #include "files/program_text.h"
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 
 namespace zerimo::classroom {
 
@@ -29,7 +29,7 @@ std::vector<std::string> WordsOf(const std::string& line) {
 
 ProgramOutline::ProgramOutline(std::string_view programText) {
   ListBox list3{"List3"};
-  const auto store = std::make_unique<ProgramStore>(list3);
+  const auto store = std::make_unique<Store>(list3);
   std::int16_t number = 1;
   // What was filled before the store was full counts.
   PassOver([&] { FillStore(*store, programText, number); });

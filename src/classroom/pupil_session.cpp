@@ -230,11 +230,13 @@ Place PupilSession::PlaceOfLine(int line) const {
 Place PupilSession::WhereItStands(int line) {
   const Form1& form = system.System();
   Place place = PlaceOfLine(line);
-  if (form.Path.CtrlStr() == ".") return place;
-  PassOver([&] { place.Procedure = FromLatin1(form.Path.CurrentProcedureName()); });
+  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
+  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  PassOver([&] { place.Statement = StatementOf(form.Store.Line(EndValExtractor(form.Path.CtrlStr()))); });
+  PassOver([&] {
+    place.Statement = StatementOf(form.interpreter.store.Line(EndValExtractor(form.interpreter.controlPath.CtrlStr())));
+  });
   return place;
 }
 

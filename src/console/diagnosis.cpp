@@ -4,22 +4,22 @@
 
 namespace zerimo {
 
-void Diagnosis::Command1Click() { controls.Frame1.Hide(); }
+void Diagnosis::Command1Click() { context_.controls.Frame1.Hide(); }
 
 void Diagnosis::Command2Click() {
-  path.SetCtrlStr(".");
-  variables.ForgetAll();
-  lowering.ForgetNames();
-  controls.Label17.Caption = "#-" + Str(0);
+  interpreter_.controlPath.SetCtrlStr(".");
+  interpreter_.variables.ForgetAll();
+  interpreter_.lowering.ForgetNames();
+  context_.controls.Label17.Caption = "#-" + Str(0);
   // With the counter's mark, although a lowering writes the label's.
-  controls.Label18.Caption = "#-" + Str(0);
+  context_.controls.Label18.Caption = "#-" + Str(0);
 }
 
-void Diagnosis::Text3Change() { turtle.Resolution = Val(controls.Text3.Text); }
+void Diagnosis::Text3Change() { context_.turtle.Resolution = Val(context_.controls.Text3.Text); }
 
 void Diagnosis::Text4Change() {
-  const double width = Val(controls.Text4.Text);
-  if (width > 0) Picture1.SetDrawWidth(ToInt16(width));
+  const double width = Val(context_.controls.Text4.Text);
+  if (width > 0) context_.Picture1.SetDrawWidth(ToInt16(width));
 }
 
 }  // namespace zerimo

@@ -1,25 +1,14 @@
 #pragma once
 
-#include "controls/form_controls.h"
-#include "graphics/surface.h"
-#include "interpreter/control_path.h"
-#include "interpreter/lowering.h"
-#include "interpreter/turtle_state.h"
-#include "interpreter/variables.h"
+#include "graphics/drawing_context.h"
+#include "interpreter/interpreter.h"
 
 namespace zerimo {
 
 /// The inputs and buttons of the diagnosis panel. None of them is under the skip rule.
 class Diagnosis {
  public:
-  Diagnosis(FormControls& formControls, Surface& picture1, TurtleState& turtleState, ControlPath& controlPath,
-            Variables& allVariables, Lowering& repeatLowering)
-      : controls_(formControls),
-        Picture1(picture1),
-        turtle_(turtleState),
-        path_(controlPath),
-        variables_(allVariables),
-        lowering_(repeatLowering) {}
+  Diagnosis(const DrawingContext& context, Interpreter& interpreter) : context_(context), interpreter_(interpreter) {}
 
   void Command1Click();
   /// "Refresh": forgets the variables, the control string and the names of the lowering.
@@ -30,12 +19,8 @@ class Diagnosis {
   void Text4Change();
 
  private:
-  FormControls& controls_;
-  Surface& Picture1;
-  TurtleState& turtle_;
-  ControlPath& path_;
-  Variables& variables_;
-  Lowering& lowering_;
+  DrawingContext context_;
+  Interpreter& interpreter_;
 };
 
 }  // namespace zerimo

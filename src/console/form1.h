@@ -9,34 +9,9 @@
 #include "console/keys.h"
 #include "console/screen_modes.h"
 #include "console/status_line.h"
-#include "controls/form_controls.h"
-#include "files/editor.h"
-#include "files/folders.h"
-#include "files/help_pages.h"
-#include "files/pictures.h"
-#include "files/program_files.h"
-#include "files/saving.h"
-#include "graphics/colours.h"
-#include "graphics/flood_fill.h"
-#include "graphics/motion.h"
-#include "graphics/palette.h"
-#include "graphics/shapes.h"
-#include "graphics/surface.h"
-#include "graphics/surface_text.h"
-#include "graphics/turtle_figure.h"
-#include "graphics/turtle_places.h"
-#include "interpreter/arguments.h"
-#include "interpreter/arithmetic.h"
-#include "interpreter/conditionals.h"
-#include "interpreter/control_path.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/inputs.h"
-#include "interpreter/lowering.h"
-#include "interpreter/program_store.h"
-#include "interpreter/runner.h"
-#include "interpreter/turtle_state.h"
-#include "interpreter/typed_lines.h"
-#include "interpreter/variables.h"
+#include "files/files.h"
+#include "graphics/graphics.h"
+#include "interpreter/interpreter.h"
 
 namespace zerimo {
 
@@ -45,7 +20,7 @@ namespace zerimo {
 class Form1 {
  public:
   /// `appFolder` is the folder of the running program.
-  Form1(ScreenSize screen, const std::string& appFolder, Services& services, RunWatch& watch, Canvas& canvas);
+  Form1(ScreenSize screen, const std::string& appFolder, Services& services, Watch& watch, Canvas& canvas);
 
   /// The load event: to be called once, before any other event.
   void Load();
@@ -70,46 +45,23 @@ class Form1 {
 
   /// For the end by a failure, or by closing during a run: the editor's text to Rescued.ZRM in `AppFolder`, if there
   /// is any. Tells whether it was written.
-  bool RescueEditorText() const { return Save.RescueEditorText(Place); }
+  bool RescueEditorText() const { return files.saving.RescueEditorText(folders); }
 
-  FormControls Controls;
+  Controls controls;
   Surface Picture1;
-
-  // The state, part by part.
-  TurtleState Turtle;
-  ControlPath Path;
-  ProgramStore Store;
-  Folders Place;
-  Arithmetic Evaluation;
-  Variables Names;
-  Arguments Stages;
-  Inputs Locals;
-  Lowering Repeats;
-  Conditionals Conditions;
-  Dispatch Primitives;
-  Runner Run;
-  TypedLines Lines;
-  TurtleFigure Figure;
-  DrawingContext Drawing;
-  TurtlePlaces Places;
-  Motion Moves;
-  Colours Colouring;
-  Shapes Figures;
-  FloodFills Floods;
-  SurfaceText Writing;
-  Palette Mouse;
-  Pictures Photos;
-  ProgramFiles Files;
-  Editor Edit;
-  Saving Save;
-  HelpPages Help;
-  GeneralPrimitives General;
-  StatusLine Status;
-  ScreenModes Modes;
-  Diagnosis Panel;
-  Keys Keyboard;
+  Turtle turtle;
+  Folders folders;
+  Interpreter interpreter;
+  Graphics graphics;
+  Files files;
+  GeneralPrimitives generalPrimitives;
+  StatusLine statusLine;
+  ScreenModes screenModes;
+  Diagnosis diagnosis;
+  Keys keys;
 
  private:
+  DrawingContext Drawing(Services& services);
   void BindPrimitives();
   void DefaultValue();
   void InitialGraphicsScreen();

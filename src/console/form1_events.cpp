@@ -19,79 +19,79 @@ int IndexIn(const ControlArray<Kind, Count>& array, const Control& control) {
 }  // namespace
 
 void Form1::KeyDown(Control& control, int keyCode) {
-  const int row = IndexIn(Controls.Text1, control);
-  if (row >= 0) Keyboard.Text1KeyDown(row, keyCode);
-  if (&control == &Controls.List4) Keyboard.List4KeyDown(keyCode);
-  if (&control == &Picture1) Keyboard.Picture1KeyDown(keyCode);
-  if (&control == &Controls.Text2) Keyboard.Text2KeyDown(keyCode);
-  if (&control == &Controls.RichTextBox1) Keyboard.RichTextBox1KeyDown(keyCode);
-  if (&control == &Controls.File1) Keyboard.File1KeyDown(keyCode);
-  if (&control == &Controls.Form1) Keyboard.Form1KeyDown(keyCode);
+  const int row = IndexIn(controls.Text1, control);
+  if (row >= 0) keys.Text1KeyDown(row, keyCode);
+  if (&control == &controls.List4) keys.List4KeyDown(keyCode);
+  if (&control == &Picture1) keys.Picture1KeyDown(keyCode);
+  if (&control == &controls.Text2) keys.Text2KeyDown(keyCode);
+  if (&control == &controls.RichTextBox1) keys.RichTextBox1KeyDown(keyCode);
+  if (&control == &controls.File1) keys.File1KeyDown(keyCode);
+  if (&control == &controls.Form1) keys.Form1KeyDown(keyCode);
 }
 
 void Form1::Click(Control& control) {
-  if (&control == &Picture1) Mouse.Picture1Click();
-  if (&control == &Controls.Image1) DragOver();
-  if (&control == &Controls.Label14) Mouse.Label14Click();
-  if (&control == &Controls.Check1) {
-    Controls.Check1.Value = 1 - Controls.Check1.Value;
-    Mouse.Check1Click();
+  if (&control == &Picture1) graphics.palette.Picture1Click();
+  if (&control == &controls.Image1) DragOver();
+  if (&control == &controls.Label14) graphics.palette.Label14Click();
+  if (&control == &controls.Check1) {
+    controls.Check1.Value = 1 - controls.Check1.Value;
+    graphics.palette.Check1Click();
   }
-  if (&control == &Controls.Command1) Panel.Command1Click();
-  if (&control == &Controls.Command2) Panel.Command2Click();
-  if (&control == &Controls.Command3) Controls.Picture2.Hide();
-  if (&control == &Controls.Command4) {
-    Controls.Picture2.SetHeight(Controls.Label16.Height());
-    Controls.Picture2.Top = 0;
-    Controls.Picture2.Left = 0;
+  if (&control == &controls.Command1) diagnosis.Command1Click();
+  if (&control == &controls.Command2) diagnosis.Command2Click();
+  if (&control == &controls.Command3) controls.Picture2.Hide();
+  if (&control == &controls.Command4) {
+    controls.Picture2.SetHeight(controls.Label16.Height());
+    controls.Picture2.Top = 0;
+    controls.Picture2.Left = 0;
   }
-  if (&control == &Controls.Command5) Controls.Picture2.SetHeight(UnrolledPalette);
+  if (&control == &controls.Command5) controls.Picture2.SetHeight(UnrolledPalette);
 }
 
 void Form1::MouseMove(Control& control, float x, float y) {
-  if (&control == &Picture1) Mouse.Picture1MouseMove(x, y);
-  if (&control == &Controls.Picture2) Mouse.Picture2MouseMove(x, y);
-  const int square = IndexIn(Controls.Label13, control);
-  if (square >= 0) Mouse.Label13MouseMove(square);
-  if (&control == &Controls.Label14) Mouse.Label14MouseMove();
+  if (&control == &Picture1) graphics.palette.Picture1MouseMove(x, y);
+  if (&control == &controls.Picture2) graphics.palette.Picture2MouseMove(x, y);
+  const int square = IndexIn(controls.Label13, control);
+  if (square >= 0) graphics.palette.Label13MouseMove(square);
+  if (&control == &controls.Label14) graphics.palette.Label14MouseMove();
 }
 
 void Form1::MouseDown(Control& control, MouseButton button, bool shift, float, float) {
-  const int square = IndexIn(Controls.Label13, control);
-  if (square >= 0) Mouse.Label13MouseDown(square, button, shift);
-  if (&control == &Controls.File1) Help.File1MouseDown();
+  const int square = IndexIn(controls.Label13, control);
+  if (square >= 0) graphics.palette.Label13MouseDown(square, button, shift);
+  if (&control == &controls.File1) files.helpPages.File1MouseDown();
 }
 
-void Form1::DragDrop(Control& source, float x, float y) { Mouse.Picture1DragDrop(source, x, y); }
+void Form1::DragDrop(Control& source, float x, float y) { graphics.palette.Picture1DragDrop(source, x, y); }
 
 void Form1::DragOver() {
-  Controls.Form1.Left = 0;
-  Controls.Form1.Top = 0;
+  controls.Form1.Left = 0;
+  controls.Form1.Top = 0;
 }
 
 void Form1::Change(Control& control) {
-  if (&control == &Controls.Text3) Panel.Text3Change();
-  if (&control == &Controls.Text4) Panel.Text4Change();
-  if (IndexIn(Controls.HScroll1, control) >= 0) Mouse.HScroll1Change();
-  if (IndexIn(Controls.HScroll2, control) >= 0) Mouse.HScroll2Change();
+  if (&control == &controls.Text3) diagnosis.Text3Change();
+  if (&control == &controls.Text4) diagnosis.Text4Change();
+  if (IndexIn(controls.HScroll1, control) >= 0) graphics.palette.HScroll1Change();
+  if (IndexIn(controls.HScroll2, control) >= 0) graphics.palette.HScroll2Change();
 }
 
 void Form1::Tick(Timer& timer) {
-  if (&timer == &Controls.Timer2) Keyboard.Timer2Tick();
-  if (&timer == &Controls.Timer3) Photos.Timer3Tick();
-  if (&timer == &Controls.Timer4) Status.Timer4Tick();
+  if (&timer == &controls.Timer2) keys.Timer2Tick();
+  if (&timer == &controls.Timer3) files.pictures.Timer3Tick();
+  if (&timer == &controls.Timer4) statusLine.Timer4Tick();
 }
 
 Control* Form1::FindControl(const std::string& name) {
   Control* found = name == Picture1.Name() ? &Picture1 : nullptr;
-  Controls.ForEach([&](Control& control) {
+  controls.ForEach([&](Control& control) {
     if (control.Name() == name) found = &control;
   });
   return found;
 }
 
 Timer* Form1::FindTimer(const std::string& name) {
-  for (Timer* timer : {&Controls.Timer2, &Controls.Timer3, &Controls.Timer4}) {
+  for (Timer* timer : {&controls.Timer2, &controls.Timer3, &controls.Timer4}) {
     if (timer->Name() == name) return timer;
   }
   return nullptr;

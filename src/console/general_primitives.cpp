@@ -40,31 +40,31 @@ double Reckon(Action action, double a, std::int16_t b) {
 }  // namespace
 
 void GeneralPrimitives::Bind() {
-  dispatch.Bind(Action::SayDeveloper, [this](PrimitiveCall&) { SayDeveloper(); });
-  dispatch.Bind(Action::CommandList, [this](PrimitiveCall&) { WriteCommandList(); });
-  dispatch.Bind(Action::Wait, [this](PrimitiveCall& call) { Wait(call); });
-  dispatch.Bind(Action::Sound, [this](PrimitiveCall&) {
-    services.Beep();
-    services.MessageBox("Sound");
+  context_.dispatch.Bind(Action::SayDeveloper, [this](PrimitiveCall&) { SayDeveloper(); });
+  context_.dispatch.Bind(Action::CommandList, [this](PrimitiveCall&) { WriteCommandList(); });
+  context_.dispatch.Bind(Action::Wait, [this](PrimitiveCall& call) { Wait(call); });
+  context_.dispatch.Bind(Action::Sound, [this](PrimitiveCall&) {
+    context_.services.Beep();
+    context_.services.MessageBox("Sound");
   });
-  dispatch.Bind(Action::Bye, [this](PrimitiveCall&) {
-    const Answer answer = services.MessageBox("Are You Sure That You Want To Leave Zerimo ?", box::YesNo);
+  context_.dispatch.Bind(Action::Bye, [this](PrimitiveCall&) {
+    const Answer answer = context_.services.MessageBox("Are You Sure That You Want To Leave Zerimo ?", box::YesNo);
     if (answer == Answer::Yes) throw Ended{"BYE"};
   });
-  dispatch.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
-  dispatch.Bind(Action::Message, [this](PrimitiveCall& call) { Message(call); });
-  dispatch.Bind(Action::Print, [this](PrimitiveCall& call) { Print(call); });
-  dispatch.Bind(Action::BracketSum, [this](PrimitiveCall& call) { BracketChain(call, '+'); });
-  dispatch.Bind(Action::BracketProduct, [this](PrimitiveCall& call) { BracketChain(call, '*'); });
-  dispatch.Bind(Action::ArithmeticLine, [this](PrimitiveCall& call) { ArithmeticLine(call); });
-  dispatch.Bind(Action::RelationLine, [this](PrimitiveCall& call) { RelationLine(call); });
+  context_.dispatch.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
+  context_.dispatch.Bind(Action::Message, [this](PrimitiveCall& call) { Message(call); });
+  context_.dispatch.Bind(Action::Print, [this](PrimitiveCall& call) { Print(call); });
+  context_.dispatch.Bind(Action::BracketSum, [this](PrimitiveCall& call) { BracketChain(call, '+'); });
+  context_.dispatch.Bind(Action::BracketProduct, [this](PrimitiveCall& call) { BracketChain(call, '*'); });
+  context_.dispatch.Bind(Action::ArithmeticLine, [this](PrimitiveCall& call) { ArithmeticLine(call); });
+  context_.dispatch.Bind(Action::RelationLine, [this](PrimitiveCall& call) { RelationLine(call); });
   for (const Action action : {Action::Sum, Action::Product, Action::Quotient, Action::Remainder}) {
-    dispatch.Bind(action, [this, action](PrimitiveCall& call) { TwoInputs(call, action); });
+    context_.dispatch.Bind(action, [this, action](PrimitiveCall& call) { TwoInputs(call, action); });
   }
 }
 
 void GeneralPrimitives::SayDeveloper() {
-  services.MessageBox(
+  context_.services.MessageBox(
       "Zerimo is a Product of Vantrel,Designed by...\r\r"
       "* Mr. Ostrane Velk\r"
       "* Mr. Ilmar Tessen\r"
@@ -80,27 +80,27 @@ void GeneralPrimitives::WriteCommandList() {
 }
 
 void GeneralPrimitives::Wait(PrimitiveCall& call) {
-  inputs.ReplaceNames(call.Rest);
-  if (dispatch.TellMissingInput(call, Action::Wait)) return;
-  const double milliseconds = inputs.Evaluate(call.Rest);
-  services.Sleep(ToInt32(milliseconds));
+  context_.arguments.ReplaceNames(call.Rest);
+  if (context_.dispatch.TellMissingInput(call, Action::Wait)) return;
+  const double milliseconds = context_.arguments.Evaluate(call.Rest);
+  context_.services.Sleep(ToInt32(milliseconds));
 }
 
 void GeneralPrimitives::Message(PrimitiveCall& call) {
-  PassOver([&] { Picture1.SetCurrentX(turtle.TurtleX); });
-  PassOver([&] { Picture1.SetCurrentY(turtle.TurtleY); });
+  PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
+  PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
   if (IsQuoted(call.Rest)) {
-    services.MessageBox(BetweenQuotes(call.Rest));
+    context_.services.MessageBox(BetweenQuotes(call.Rest));
   } else {
-    services.MessageBox(Str(inputs.Number(call.Rest)));
+    context_.services.MessageBox(Str(context_.arguments.Number(call.Rest)));
   }
 }
 
 void GeneralPrimitives::Print(PrimitiveCall& call) {
   if (IsQuoted(call.Rest)) {
-    controls.List4.Add("?" + BetweenQuotes(call.Rest));
+    context_.controls.List4.Add("?" + BetweenQuotes(call.Rest));
   } else {
-    controls.List4.Add("?" + Str(inputs.Number(call.Rest)));
+    context_.controls.List4.Add("?" + Str(context_.arguments.Number(call.Rest)));
   }
 }
 
@@ -112,28 +112,28 @@ void GeneralPrimitives::BracketChain(PrimitiveCall& call, char op) {
     if (CharacterAt(call.Rest, position) != " ") continue;
     call.Rest = std::string(Left(call.Rest, position - 1)) + op + std::string(Trimmed(From(call.Rest, position + 1)));
   }
-  controls.List4.Add("? Result: " + Str(inputs.Number(call.Rest)));
+  context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest)));
 }
 
 void GeneralPrimitives::TwoInputs(PrimitiveCall& call, Action action) {
-  const double a = inputs.WordNumber(call.Rest, 1);
+  const double a = context_.arguments.WordNumber(call.Rest, 1);
   // The second input is whole: 2.5 counts as 2 and 3.5 as 4.
   std::int16_t b = 0;
-  PassOver([&] { b = ToInt16(inputs.WordNumber(call.Rest, 2)); });
+  PassOver([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
   std::string result;
   PassOver([&] { result = StrTrimmed(Reckon(action, a, b)); });
-  services.MessageBox(result);
+  context_.services.MessageBox(result);
 }
 
 void GeneralPrimitives::ArithmeticLine(PrimitiveCall& call) {
-  services.MessageBox("Result: " + Str(inputs.Number(call.Rest)));
+  context_.services.MessageBox("Result: " + Str(context_.arguments.Number(call.Rest)));
 }
 
 void GeneralPrimitives::RelationLine(PrimitiveCall& call) {
-  inputs.ReplaceNames(call.Rest);
+  context_.arguments.ReplaceNames(call.Rest);
   bool holds = false;
-  PassOver([&] { holds = RelationEvaluator(call.Rest, arithmetic); });
-  services.MessageBox(holds ? "Result: True" : "Result: False");
+  PassOver([&] { holds = RelationEvaluator(call.Rest, arithmetic_); });
+  context_.services.MessageBox(holds ? "Result: True" : "Result: False");
 }
 
 }  // namespace zerimo

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "base/services.h"
-#include "controls/form_controls.h"
-#include "graphics/surface.h"
-#include "interpreter/arguments.h"
-#include "interpreter/arithmetic.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/turtle_state.h"
+#include "graphics/drawing_context.h"
 
 namespace zerimo {
 
@@ -14,15 +8,8 @@ namespace zerimo {
 /// the credits, `BYE` and `QUIT`, and the bare expressions.
 class GeneralPrimitives {
  public:
-  GeneralPrimitives(Dispatch& dispatcher, Services& desktop, FormControls& formControls, Surface& picture1,
-                    const TurtleState& turtleState, const Arguments& arguments, const Arithmetic& evaluation)
-      : dispatch_(dispatcher),
-        services_(desktop),
-        controls_(formControls),
-        Picture1(picture1),
-        turtle_(turtleState),
-        inputs_(arguments),
-        arithmetic_(evaluation) {}
+  GeneralPrimitives(const DrawingContext& context, const Arithmetic& arithmetic)
+      : context_(context), arithmetic_(arithmetic) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -38,12 +25,7 @@ class GeneralPrimitives {
   void ArithmeticLine(PrimitiveCall& call);
   void RelationLine(PrimitiveCall& call);
 
-  Dispatch& dispatch_;
-  Services& services_;
-  FormControls& controls_;
-  Surface& Picture1;
-  const TurtleState& turtle_;
-  const Arguments& inputs_;
+  DrawingContext context_;
   const Arithmetic& arithmetic_;
 };
 

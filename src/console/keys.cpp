@@ -7,7 +7,7 @@
 namespace zerimo {
 
 void Keys::Text1KeyDown(int index, int keyCode) {
-  const int rows = controls.Text1.Size;
+  const int rows = context_.controls.Text1.Size;
   switch (keyCode) {
     case key::Esc:
       ClosePanels();
@@ -16,25 +16,25 @@ void Keys::Text1KeyDown(int index, int keyCode) {
       EnterLine(index);
       break;
     case key::F1:
-      PassOver([&] { dispatch.Execute("EDIT"); });
+      PassOver([&] { context_.dispatch.Execute("EDIT"); });
       break;
     case key::F2:
-      PassOver([&] { dispatch.Execute("SS"); });
+      PassOver([&] { context_.dispatch.Execute("SS"); });
       break;
     case key::F3:
-      PassOver([&] { dispatch.Execute("TS"); });
+      PassOver([&] { context_.dispatch.Execute("TS"); });
       break;
     case key::F4:
-      PassOver([&] { dispatch.Execute("FS"); });
+      PassOver([&] { context_.dispatch.Execute("FS"); });
       break;
     case key::F9:
       PassOver([&] { AskForProgramFile(); });
       break;
     case key::Up:
-      PassOver([&] { controls.Focus.SetFocus(controls.Text1[(index + rows - 1) % rows]); });
+      PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + rows - 1) % rows]); });
       break;
     case key::Down:
-      PassOver([&] { controls.Focus.SetFocus(controls.Text1[(index + 1) % rows]); });
+      PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % rows]); });
       break;
     default:
       break;
@@ -42,80 +42,80 @@ void Keys::Text1KeyDown(int index, int keyCode) {
 }
 
 void Keys::EnterLine(int index) {
-  const int lastRow = controls.Text1.Size - 1;
-  std::string typed = UpperCase(Trimmed(controls.Text1[index].Text));
+  const int lastRow = context_.controls.Text1.Size - 1;
+  std::string typed = UpperCase(Trimmed(context_.controls.Text1[index].Text));
   std::string line;
   PassOver([&] { line = SpaceFilter(typed); });
-  lines.LastTypedLine = line;
+  typedLines_.LastTypedLine = line;
   if (!line.empty() && line != " ") {
-    controls.List4.Add("?" + line);
+    context_.controls.List4.Add("?" + line);
     if (index == lastRow) ScrollRows();
   }
-  PassOver([&] { lines.ComplexExecutor(line); });
-  if (index != lastRow) PassOver([&] { controls.Focus.SetFocus(controls.Text1[(index + 1) % controls.Text1.Size]); });
+  PassOver([&] { typedLines_.ComplexExecutor(line); });
+  if (index != lastRow) PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % context_.controls.Text1.Size]); });
 }
 
 void Keys::ScrollRows() {
-  const int lastRow = controls.Text1.Size - 1;
-  for (int row = 0; row < lastRow; ++row) controls.Text1[row].Text = controls.Text1[row + 1].Text;
-  controls.Text1[lastRow].Text.clear();
+  const int lastRow = context_.controls.Text1.Size - 1;
+  for (int row = 0; row < lastRow; ++row) context_.controls.Text1[row].Text = context_.controls.Text1[row + 1].Text;
+  context_.controls.Text1[lastRow].Text.clear();
   // To the box for the line width, not to the row: refused, and passed over, unless the diagnosis panel is open.
-  PassOver([&] { controls.Focus.SetFocus(controls.Text4); });
+  PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
 }
 
 void Keys::ClosePanels() {
-  controls.Frame1.Hide();
-  controls.Picture2.Hide();
-  help.CloseView();
+  context_.controls.Frame1.Hide();
+  context_.controls.Picture2.Hide();
+  files_.helpPages.CloseView();
 }
 
 void Keys::AskForProgramFile() {
-  const std::string answer = services.InputBox("Enter the File Name", "Load Zerimo File");
-  if (!answer.empty()) dispatch.Execute("LOAD " + answer);
+  const std::string answer = context_.services.InputBox("Enter the File Name", "Load Zerimo File");
+  if (!answer.empty()) context_.dispatch.Execute("LOAD " + answer);
 }
 
 void Keys::List4KeyDown(int keyCode) {
-  if (keyCode == key::F1) dispatch.Execute("EDIT");
-  if (keyCode == key::F2) dispatch.Execute("SS");
-  if (keyCode == key::F3) dispatch.Execute("TS");
-  if (keyCode == key::F4) dispatch.Execute("FS");
+  if (keyCode == key::F1) context_.dispatch.Execute("EDIT");
+  if (keyCode == key::F2) context_.dispatch.Execute("SS");
+  if (keyCode == key::F3) context_.dispatch.Execute("TS");
+  if (keyCode == key::F4) context_.dispatch.Execute("FS");
   if (keyCode == key::F9) AskForProgramFile();
 }
 
 void Keys::Picture1KeyDown(int keyCode) {
-  if (keyCode == key::F1) dispatch.Execute("EDIT");
+  if (keyCode == key::F1) context_.dispatch.Execute("EDIT");
   if (keyCode == key::F2) {
-    modes.RestoreSplitScreen();
-    controls.Focus.SetFocus(controls.Text1[0]);
+    screenModes_.RestoreSplitScreen();
+    context_.controls.Focus.SetFocus(context_.controls.Text1[0]);
   }
-  if (keyCode == key::F3) dispatch.Execute("TS");
+  if (keyCode == key::F3) context_.dispatch.Execute("TS");
   if (keyCode == key::F9) AskForProgramFile();
 }
 
 void Keys::Text2KeyDown(int keyCode) {
-  if (keyCode == key::F2) editor.Fold();
-  if (keyCode == key::F3) dispatch.Execute("TS");
-  if (keyCode == key::F4) dispatch.Execute("FS");
+  if (keyCode == key::F2) files_.editor.Fold();
+  if (keyCode == key::F3) context_.dispatch.Execute("TS");
+  if (keyCode == key::F4) context_.dispatch.Execute("FS");
   if (keyCode == key::F9) AskForProgramFile();
-  if (keyCode == key::F10) saving.SaveFromEditor();
+  if (keyCode == key::F10) files_.saving.SaveFromEditor();
 }
 
 void Keys::RichTextBox1KeyDown(int keyCode) {
-  if (keyCode == key::Esc) help.CloseView();
-  if (keyCode == key::F11) help.SavePage();
+  if (keyCode == key::Esc) files_.helpPages.CloseView();
+  if (keyCode == key::F11) files_.helpPages.SavePage();
 }
 
 void Keys::File1KeyDown(int keyCode) {
-  if (keyCode == key::Esc) help.CloseView();
+  if (keyCode == key::Esc) files_.helpPages.CloseView();
 }
 
 void Keys::Form1KeyDown(int keyCode) {
-  if (keyCode == key::F2) modes.RestoreSplitScreen();
+  if (keyCode == key::F2) screenModes_.RestoreSplitScreen();
 }
 
 void Keys::Timer2Tick() {
-  PassOver([&] { controls.Focus.SetFocus(controls.Text1[0]); });
-  controls.Timer2.Enabled = false;
+  PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[0]); });
+  context_.controls.Timer2.Enabled = false;
 }
 
 }  // namespace zerimo

@@ -1,13 +1,8 @@
 #pragma once
 
-#include "base/services.h"
 #include "console/screen_modes.h"
-#include "controls/form_controls.h"
-#include "files/editor.h"
-#include "files/help_pages.h"
-#include "files/saving.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/typed_lines.h"
+#include "files/files.h"
+#include "graphics/drawing_context.h"
 
 namespace zerimo {
 
@@ -30,16 +25,8 @@ inline constexpr int F12 = 123;
 /// The one table of keys of the window, control by control.
 class Keys {
  public:
-  Keys(FormControls& formControls, Dispatch& dispatcher, Services& desktop, TypedLines& typedLines,
-       ScreenModes& screenModes, Editor& theEditor, Saving& savingPart, HelpPages& helpPages)
-      : controls_(formControls),
-        dispatch_(dispatcher),
-        services_(desktop),
-        lines_(typedLines),
-        modes_(screenModes),
-        editor_(theEditor),
-        saving_(savingPart),
-        help_(helpPages) {}
+  Keys(const DrawingContext& context, TypedLines& typedLines, ScreenModes& screenModes, Files& files)
+      : context_(context), typedLines_(typedLines), screenModes_(screenModes), files_(files) {}
 
   /// A key on a row; the whole handler is under the skip rule.
   void Text1KeyDown(int index, int keyCode);
@@ -59,14 +46,10 @@ class Keys {
   void ClosePanels();
   void AskForProgramFile();
 
-  FormControls& controls_;
-  Dispatch& dispatch_;
-  Services& services_;
-  TypedLines& lines_;
-  ScreenModes& modes_;
-  Editor& editor_;
-  Saving& saving_;
-  HelpPages& help_;
+  DrawingContext context_;
+  TypedLines& typedLines_;
+  ScreenModes& screenModes_;
+  Files& files_;
 };
 
 }  // namespace zerimo

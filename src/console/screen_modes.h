@@ -1,12 +1,7 @@
 #pragma once
 
-#include "base/services.h"
-#include "controls/form_controls.h"
-#include "files/program_files.h"
-#include "files/saving.h"
-#include "graphics/surface.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/program_store.h"
+#include "files/files.h"
+#include "graphics/drawing_context.h"
 
 namespace zerimo {
 
@@ -14,15 +9,8 @@ namespace zerimo {
 /// controls are visible and how high the surface is.
 class ScreenModes {
  public:
-  ScreenModes(Dispatch& dispatcher, FormControls& formControls, Surface& picture1, ProgramStore& programStore,
-              Services& desktop, ProgramFiles& programFiles, Saving& savingPart)
-      : dispatch_(dispatcher),
-        controls_(formControls),
-        Picture1(picture1),
-        store_(programStore),
-        services_(desktop),
-        files_(programFiles),
-        saving_(savingPart) {}
+  ScreenModes(const DrawingContext& context, Store& store, Files& files)
+      : context_(context), store_(store), files_(files) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -39,13 +27,9 @@ class ScreenModes {
   void Show(const PrimitiveCall& call);
   void ShowDeveloper();
 
-  Dispatch& dispatch_;
-  FormControls& controls_;
-  Surface& Picture1;
-  ProgramStore& store_;
-  Services& services_;
-  ProgramFiles& files_;
-  Saving& saving_;
+  DrawingContext context_;
+  Store& store_;
+  Files& files_;
 };
 
 }  // namespace zerimo

@@ -35,18 +35,18 @@ std::string_view PenStateName(std::uint8_t penState) {
 }
 
 void StatusLine::TitleText() {
-  const std::string background(ColourName(turtle.BGColor));
-  const std::string pen(ColourName(turtle.PenColor));
-  const std::string state(PenStateName(turtle.PenState));
-  const Window& form = controls.Form1;
-  const double x = Divide(RoundHalfEven(turtle.TurtleX - static_cast<double>(form.Width / 2)), turtle.Resolution);
-  const double y = Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle.TurtleY), turtle.Resolution);
-  const std::int16_t direction = ToInt16(180 * turtle.TurtleDir / Pi);
-  controls.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
+  const std::string background(ColourName(turtle_.BGColor));
+  const std::string pen(ColourName(turtle_.PenColor));
+  const std::string state(PenStateName(turtle_.PenState));
+  const Window& form = controls_.Form1;
+  const double x = Divide(RoundHalfEven(turtle_.TurtleX - static_cast<double>(form.Width / 2)), turtle_.Resolution);
+  const double y = Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle_.TurtleY), turtle_.Resolution);
+  const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / Pi);
+  controls_.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
                             "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
                             "]  [BG Color: " + background + "]  [Pen State:" + state + "]");
 }
 
-void StatusLine::Timer4Tick() { controls.Form1.SetCaption("Zerimo [ Time:" + services.TimeOfDay() + " ]"); }
+void StatusLine::Timer4Tick() { controls_.Form1.SetCaption("Zerimo [ Time:" + services_.TimeOfDay() + " ]"); }
 
 }  // namespace zerimo

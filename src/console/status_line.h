@@ -3,16 +3,16 @@
 #include <string_view>
 
 #include "base/services.h"
-#include "controls/form_controls.h"
-#include "interpreter/turtle_state.h"
+#include "controls/controls.h"
+#include "interpreter/turtle.h"
 
 namespace zerimo {
 
 /// The window's caption as a status line.
 class StatusLine {
  public:
-  StatusLine(FormControls& formControls, const TurtleState& turtleState, Services& desktop)
-      : controls_(formControls), turtle_(turtleState), services_(desktop) {}
+  StatusLine(Controls& controls, const Turtle& turtle, Services& services)
+      : controls_(controls), turtle_(turtle), services_(services) {}
 
   /// Writes the turtle's details into the caption. Fails (overflow, division by zero) at a heading beyond 16 bits or a
   /// `Resolution` of 0.
@@ -22,8 +22,8 @@ class StatusLine {
   void Timer4Tick();
 
  private:
-  FormControls& controls_;
-  const TurtleState& turtle_;
+  Controls& controls_;
+  const Turtle& turtle_;
   Services& services_;
 };
 

@@ -1,153 +1,164 @@
 #include "controls/controls.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "base/failure.h"
 
 namespace zerimo {
 
-void FocusKeeper::SetFocus(Control& control) {
-  if (!control.IsOnScreen()) throw Failure(FailureKind::FocusRefused);
-  focus_ = &control;
+namespace {
+
+void Place(Control& control, float left, float top, float width, float height) {
+  control.Left = left;
+  control.Top = top;
+  control.Width = width;
+  control.SetHeight(height);
 }
 
-void FocusKeeper::VisibilityChanged() {
-  if (focus_ != nullptr && !focus_->IsOnScreen()) focus_ = nullptr;
+constexpr Colour White = 0xFFFFFF;
+constexpr Colour Yellow = 0x00FFFF;
+constexpr Colour Blue = 0xFF0000;
+constexpr Colour Red = 0x0000FF;
+constexpr Colour Green = 0x00FF00;
+
+}  // namespace
+
+Colour QBColor(int code) {
+  if (code < 0 || code > 15) throw Failure(FailureKind::InvalidArgument);
+  return ColourTable[static_cast<std::size_t>(code)];
 }
 
-Control::Control(std::string controlName, Control* onPanel, FocusKeeper* focusKeeper)
-    : name_(std::move(controlName)), panel_(onPanel), keeper_(focusKeeper) {}
-
-void Control::SetVisible(bool value) {
-  visible_ = value;
-  if (keeper_ != nullptr) keeper_->VisibilityChanged();
+Colour RGB(std::int16_t red, std::int16_t green, std::int16_t blue) {
+  if (red < 0 || green < 0 || blue < 0) throw Failure(FailureKind::InvalidArgument);
+  const auto part = [](std::int16_t value) { return std::min<Colour>(value, 255); };
+  return part(red) + 256 * part(green) + 65536 * part(blue);
 }
 
-bool Control::IsOnScreen() const { return visible_ && (panel_ == nullptr || panel_->IsOnScreen()); }
+void SubscriptFailure() { throw Failure(FailureKind::SubscriptOutOfRange); }
 
-void Control::ReadProperties(const PropertyReader& read) const {
-  read("Visible", visible_);
-  read("Left", Left);
-  read("Top", Top);
-  read("Width", Width);
-  read("Height", height);
+Controls::Controls(ScreenSize screen) : Screen(screen) {
+  Place(Form1, 0, 0, screen.Width, screen.Height);
+  Form1.SetCaption("Zerimo");
+  DesignRows();
+  DesignSurface();
+  DesignDiagnosis();
+  DesignPalette();
+  Place(File1, 0, 0, 2895, 0);
+  File1.Hide();
+  RichTextBox1.Hide();
 }
 
-void Window::SetCaption(std::string text) {
-  caption_ = std::move(text);
-  if (OnCaption) OnCaption(caption_);
-}
-
-void Window::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Caption", caption_);
-}
-
-void TextBox::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Text", Text);
-  read("BackColor", static_cast<double>(BackColor));
-  read("ForeColor", static_cast<double>(ForeColor));
-  read("Font.Size", FontSize);
-}
-
-const std::vector<std::string>& ListBox::Items() const {
-  if (pending_) {
-    items_ = pending_();
-    pending_ = nullptr;
+void Controls::DesignRows() {
+  Place(Picture3, 0, 0, Screen.Width, 1935);
+  Picture3.BackColor = 0xC80000;
+  for (int row = 0; row < Text1.Size; ++row) {
+    Place(Text1[row], 240, static_cast<float>(360 * row), Screen.Width, 375);
+    Text1[row].FontSize = 15.75;
   }
-  return items_;
+  Place(Prompt, 0, 0, 255, 1815);
+  Prompt.Text = "?\r\n?\r\n?\r\n?\r\n?";
+  Prompt.ForeColor = Yellow;
+  Prompt.FontSize = 14.25;
 }
 
-void ListBox::Add(std::string item) {
-  Items();
-  ++version_;
-  if (OnChange) OnChange(&item);
-  items_.push_back(std::move(item));
+void Controls::DesignSurface() {
+  const char* const captions[] = {"Welcome to Zerimo", "Vantrel", "Zerimo Version ", ZERIMO_SHORT_VERSION,
+                                  "First to Setup your World"};
+  for (int index = 0; index < Label20.Size; ++index) {
+    Place(Label20[index], 0, 0, 7200, 480);
+    Label20[index].Caption = captions[index];
+    Label20[index].ForeColor = Yellow;
+  }
+  Shape2.BorderColor = White;
+  for (LightLine* line : {&Line1, &Line2, &Line3}) {
+    line->BorderColor = White;
+    line->BorderWidth = 2;
+  }
+  for (LightLine* axis : {&Line5, &Line6}) {
+    axis->BorderColor = Yellow;
+    axis->Hide();
+  }
+  List4.FontSize = 12;
+  List4.Hide();
+  Text2.FontSize = 14;
+  Text2.Hide();
 }
 
-void ListBox::Clear() {
-  pending_ = nullptr;
-  items_.clear();
-  ++version_;
-  ++clearings_;
-  if (OnChange) OnChange(nullptr);
+void Controls::DesignDiagnosis() {
+  Frame1.Caption = "Diagnosis";
+  Place(Frame1, 0, 0, 10200, 6900);
+  Frame1.Hide();
+  const char* const captions[] = {"Intermediate Contents", "Variables", "Procedures", "Resolution", "Line Width"};
+  for (int index = 0; index < Label12.Size; ++index) Label12[index].Caption = captions[index];
+  Place(Label12[0], 150, 330, 3900, 270);
+  Place(Label12[1], 4200, 330, 2850, 270);
+  Place(Label12[2], 7200, 330, 2850, 270);
+  Place(List1, 150, 615, 3900, 3450);
+  Place(List2, 4200, 615, 2850, 3450);
+  Place(List3, 7200, 615, 2850, 3450);
+  Place(Label19, 150, 4170, 6900, 300);
+  Place(Label17, 7200, 4170, 1350, 300);
+  Place(Label18, 8700, 4170, 1350, 300);
+  Label19.Caption = "Control String";
+  Label17.Caption = "#-";
+  Label18.Caption = "$-";
+  Place(Label12[3], 150, 4680, 1350, 330);
+  Place(Text3, 1500, 4650, 1200, 375);
+  Place(Label12[4], 150, 5160, 1350, 330);
+  Place(Text4, 1500, 5130, 1200, 375);
+  Place(Check1, 150, 5610, 2550, 375);
+  Check1.Caption = "Co-ordinates";
+  Place(Command2, 150, 6210, 2550, 450);
+  Command2.Caption = "Refresh";
+  Place(Command1, 9675, 0, 375, 285);
+  Command1.Caption = "X";
+  Place(Label10, 2925, 4680, 2700, 270);
+  Label10.Caption = "Back Color";
+  Place(Label9, 2925, 5010, 555, 1650);
+  Label9.BackColor = 0;
+  Place(Label11, 6600, 4680, 2700, 270);
+  Label11.Caption = "Pen Color";
+  Place(Label8, 6600, 5010, 555, 1650);
+  Label8.BackColor = White;
+  for (int index = 0; index < HScroll1.Size; ++index) {
+    const auto top = static_cast<float>(5010 + 600 * index);
+    Place(HScroll1[index], 3630, top, 2745, 450);
+    Place(HScroll2[index], 7305, top, 2745, 450);
+    HScroll2[index].Value = ScrollBar::Greatest;
+  }
 }
 
-void ListBox::SetLazily(std::function<std::vector<std::string>()> fill) {
-  pending_ = std::move(fill);
-  ++version_;
-  ++clearings_;
-}
-
-void ListBox::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Items", Items());
-  read("BackColor", static_cast<double>(BackColor));
-  read("ForeColor", static_cast<double>(ForeColor));
-  read("Font.Size", FontSize);
-}
-
-void Label::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Caption", Caption);
-  read("BackColor", static_cast<double>(BackColor));
-  read("ForeColor", static_cast<double>(ForeColor));
-  read("BorderStyle", static_cast<double>(BorderStyle));
-}
-
-void PanelBox::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  if (!Caption.empty()) read("Caption", Caption);
-  read("BackColor", static_cast<double>(BackColor));
-}
-
-void Button::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Caption", Caption);
-}
-
-void CheckBox::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Caption", Caption);
-  read("Value", static_cast<double>(Value));
-}
-
-void ScrollBar::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Value", static_cast<double>(Value));
-}
-
-void Shape::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("BorderColor", static_cast<double>(BorderColor));
-}
-
-void LightLine::ReadProperties(const PropertyReader& read) const {
-  read("Visible", Visible());
-  read("X1", X1);
-  read("Y1", Y1);
-  read("X2", X2);
-  read("Y2", Y2);
-  read("BorderColor", static_cast<double>(BorderColor));
-}
-
-void Timer::ReadProperties(const PropertyReader& read) const {
-  read("Enabled", Enabled);
-  read("Interval", static_cast<double>(Interval));
-}
-
-void FileListBox::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Items", Items);
-  read("FileName", FileName);
-  read("Path", Path);
-}
-
-void RichTextView::ReadProperties(const PropertyReader& read) const {
-  Control::ReadProperties(read);
-  read("Text", Text);
-  read("FileName", FileName);
+void Controls::DesignPalette() {
+  Place(Picture2, Screen.Width - 2550, 600, 2520, 3615);
+  Picture2.Hide();
+  Place(Label16, 0, 0, 2520, 315);
+  Label16.Caption = "  Pallette";
+  Label16.ForeColor = Yellow;
+  Label16.BackColor = Blue;
+  Button* const buttons[] = {&Command4, &Command5, &Command3};
+  const char* const captions[] = {"^", "v", "X"};
+  for (int index = 0; index < 3; ++index) {
+    Place(*buttons[index], static_cast<float>(1575 + 315 * index), 15, 285, 285);
+    buttons[index]->Caption = captions[index];
+  }
+  for (int index = 0; index < Label13.Size; ++index) {
+    const int column = index % 4;
+    const int row = index / 4;
+    Place(Label13[index], static_cast<float>(120 + 585 * column), static_cast<float>(435 + 585 * row), 525, 525);
+    Label13[index].BorderStyle = 1;
+  }
+  Shape5.BorderColor = Red;
+  Shape5.BorderWidth = 3;
+  Shape7.BorderColor = Green;
+  for (Shape* frame : {&Shape5, &Shape7}) {
+    frame->Left = Label13[15].Left;
+    frame->Top = Label13[15].Top;
+  }
+  Place(Label15, 120, 2835, 2280, 285);
+  Label15.Caption = "Setpc 15";
+  Place(Label14, 120, 3180, 2280, 315);
+  Label14.Caption = "Apply";
+  Label14.BackColor = White;
 }
 
 }  // namespace zerimo

@@ -1,260 +1,148 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
+#include <array>
+#include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
-/// The controls of the window as plain data. The system reads and writes these; a shell shows them and turns the
-/// user's events into calls of Form1's handlers. Places and sizes are singles in surface units (15 to a pixel),
-/// relative to the control's panel; colours are red + 256 * green + 65536 * blue.
+#include "controls/control_kinds.h"
+
 namespace zerimo {
 
-class Control;
+/// The size of the screen in surface units.
+struct ScreenSize {
+  float Width = 15360;
+  float Height = 11520;
+};
 
-/// A colour value: red + 256 * green + 65536 * blue.
-using Colour = std::int32_t;
-
-/// The value of one property as it is told to the outside.
-using PropertyValue = std::variant<bool, double, float, std::string, std::vector<std::string>>;
-
-/// Receives the properties of a control, name and value, in the settled order.
-using PropertyReader = std::function<void(const char* name, const PropertyValue& value)>;
-
-/// Who has the focus in a window. At most one control has it; a control that becomes hidden, itself or with its
-/// panel, loses it, and then nothing has it until something is given it.
-class FocusKeeper {
+/// An array of controls with the numbered names of their kind: "Text1(0)", "Text1(1)", ...
+template <typename Kind, int Count>
+class ControlArray {
  public:
-  /// The control that has the focus, or nothing.
-  Control* Focus() const { return focus_; }
-
-  /// Gives the focus to a control; fails (focus refused) if the control or a panel that it lies on is hidden.
-  void SetFocus(Control& control);
-
-  /// To be called when the visibility of any control has changed.
-  void VisibilityChanged();
+  ControlArray(const std::string& name, Control* panel, FocusKeeper* keeper) {
+    for (int index = 0; index < Count; ++index) {
+      controls_[static_cast<std::size_t>(index)] =
+          std::make_unique<Kind>(name + "(" + std::to_string(index) + ")", panel, keeper);
+    }
+  }
+  static constexpr int Size = Count;
+  /// An element by its index from 0; fails (subscript) if there is none.
+  Kind& operator[](int index) { return *controls_[Checked(index)]; }
+  const Kind& operator[](int index) const { return *controls_[Checked(index)]; }
 
  private:
-  Control* focus_ = nullptr;
+  static std::size_t Checked(int index);
+  std::array<std::unique_ptr<Kind>, static_cast<std::size_t>(Count)> controls_;
 };
 
-/// What all visible controls have.
-class Control {
- public:
-  Control(std::string name, Control* panel = nullptr, FocusKeeper* keeper = nullptr);
-  virtual ~Control() = default;
-  Control(const Control&) = delete;
-  Control& operator=(const Control&) = delete;
+/// Every control of the window but the surface, with the values of the form's design.
+struct Controls {
+  explicit Controls(ScreenSize screen);
 
-  /// The control's name, with its index if it is an element of an array: "List4", "Text1(0)".
-  const std::string& Name() const { return name_; }
-  /// The control that it lies on; nothing for the window itself and for what lies on the window.
-  Control* Panel() const { return panel_; }
+  /// Calls `visit(control)` for every control, `Form1` first.
+  template <typename Visitor>
+  void ForEach(Visitor&& visit);
 
-  bool Visible() const { return visible_; }
-  void SetVisible(bool value);
-  void Show() { SetVisible(true); }
-  void Hide() { SetVisible(false); }
-  /// Visible itself and with all panels that it lies on.
-  bool IsOnScreen() const;
+  const ScreenSize Screen;
+  FocusKeeper Focus;
 
-  float Left = 0;
-  float Top = 0;
-  float Width = 0;
-
-  float Height() const { return height; }
-  virtual void SetHeight(float value) { height = value; }
-
-  /// Tells the properties: first the visible ones of every control, then the kind's own.
-  virtual void ReadProperties(const PropertyReader& read) const;
-
- protected:
-  float height = 0;
+  Window Form1{"Form1"};
+  // The command rows.
+  PanelBox Picture3{"Picture3", nullptr, &Focus};
+  ControlArray<TextBox, 5> Text1{"Text1", &Picture3, &Focus};
+  TextBox Prompt{"Prompt", &Picture3, &Focus};
+  // Above the surface.
+  ImageBox Image1{"Image1", nullptr, &Focus};
+  ControlArray<Label, 4> Label20{"Label20", nullptr, &Focus};
+  Shape Shape2{"Shape2"};
+  LightLine Line1{"Line1"};
+  LightLine Line2{"Line2"};
+  LightLine Line3{"Line3"};
+  LightLine Line5{"Line5"};
+  LightLine Line6{"Line6"};
+  // The text screen and the editor.
+  ListBox List4{"List4", nullptr, &Focus};
+  TextBox Text2{"Text2", nullptr, &Focus};
+  // The diagnosis panel.
+  PanelBox Frame1{"Frame1", nullptr, &Focus};
+  ListBox List1{"List1", &Frame1, &Focus};
+  ListBox List2{"List2", &Frame1, &Focus};
+  ListBox List3{"List3", &Frame1, &Focus};
+  Label Label17{"Label17", &Frame1, &Focus};
+  Label Label18{"Label18", &Frame1, &Focus};
+  Label Label19{"Label19", &Frame1, &Focus};
+  TextBox Text3{"Text3", &Frame1, &Focus};
+  TextBox Text4{"Text4", &Frame1, &Focus};
+  Button Command1{"Command1", &Frame1, &Focus};
+  Button Command2{"Command2", &Frame1, &Focus};
+  CheckBox Check1{"Check1", &Frame1, &Focus};
+  ControlArray<ScrollBar, 3> HScroll1{"HScroll1", &Frame1, &Focus};
+  ControlArray<ScrollBar, 3> HScroll2{"HScroll2", &Frame1, &Focus};
+  Label Label8{"Label8", &Frame1, &Focus};
+  Label Label9{"Label9", &Frame1, &Focus};
+  Label Label10{"Label10", &Frame1, &Focus};
+  Label Label11{"Label11", &Frame1, &Focus};
+  /// The captions "Intermediate Contents", "Variables", "Procedures", "Resolution", "Line Width".
+  ControlArray<Label, 5> Label12{"Label12", &Frame1, &Focus};
+  // The palette.
+  PanelBox Picture2{"Picture2", nullptr, &Focus};
+  ControlArray<Label, 16> Label13{"Label13", &Picture2, &Focus};
+  Label Label14{"Label14", &Picture2, &Focus};
+  Label Label15{"Label15", &Picture2, &Focus};
+  Label Label16{"Label16", &Picture2, &Focus};
+  Shape Shape5{"Shape5", &Picture2};
+  Shape Shape7{"Shape7", &Picture2};
+  Button Command3{"Command3", &Picture2, &Focus};
+  Button Command4{"Command4", &Picture2, &Focus};
+  Button Command5{"Command5", &Picture2, &Focus};
+  // The help view.
+  FileListBox File1{"File1", nullptr, &Focus};
+  RichTextView RichTextBox1{"RichTextBox1", nullptr, &Focus};
+  // The timers.
+  Timer Timer2{"Timer2", 1, true};
+  Timer Timer3{"Timer3", 1, false};
+  Timer Timer4{"Timer4", 1000, false};
 
  private:
-  std::string name_;
-  Control* panel_;
-  FocusKeeper* keeper_;
-  bool visible_ = true;
+  void DesignRows();
+  void DesignSurface();
+  void DesignDiagnosis();
+  void DesignPalette();
 };
 
-/// The main window.
-class Window : public Control {
- public:
-  using Control::Control;
-  /// The title bar's text.
-  const std::string& Caption() const { return caption_; }
-  void SetCaption(std::string text);
-  /// Called for each assignment of the caption if set.
-  std::function<void(const std::string& text)> OnCaption;
-  void ReadProperties(const PropertyReader& read) const override;
-
- private:
-  std::string caption_;
+/// The sixteen colours by their codes.
+inline constexpr std::array<Colour, 16> ColourTable = {
+    0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080, 0xC0C0C0,
+    0x808080, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF,
 };
 
-/// A text box of one line or many; lines end with carriage return and line feed.
-class TextBox : public Control {
- public:
-  using Control::Control;
-  std::string Text;
-  Colour BackColor = 0xFFFFFF;
-  Colour ForeColor = 0;
-  double FontSize = 8.25;
-  void ReadProperties(const PropertyReader& read) const override;
-};
+/// The colour of a code; fails (invalid argument) outside 0 to 15.
+Colour QBColor(int code);
 
-/// A list of texts. Every change counts `Version` up, so that a shell shows only what is new.
-class ListBox : public Control {
- public:
-  using Control::Control;
+/// A colour from its parts; parts above 255 count as 255. A negative part fails (invalid argument).
+Colour RGB(std::int16_t red, std::int16_t green, std::int16_t blue);
 
-  const std::vector<std::string>& Items() const;
-  void Add(std::string item);
-  void Clear();
+void SubscriptFailure();
 
-  /// Puts off filling the list: `fill` is called for the items when somebody first asks for them. What it gives must
-  /// stay what the list holds at this moment.
-  void SetLazily(std::function<std::vector<std::string>()> fill);
+template <typename Kind, int Count>
+std::size_t ControlArray<Kind, Count>::Checked(int index) {
+  if (index < 0 || index >= Count) SubscriptFailure();
+  return static_cast<std::size_t>(index);
+}
 
-  std::uint64_t Version() const { return version_; }
-  /// Counts the clearings, so that a shell knows whether a new version only adds behind the old one.
-  std::uint64_t Clearings() const { return clearings_; }
-
-  /// Called for each assignment if set: with the item for an addition, with nothing for a clearing.
-  std::function<void(const std::string* item)> OnChange;
-
-  Colour BackColor = 0xFFFFFF;
-  Colour ForeColor = 0;
-  double FontSize = 8.25;
-  void ReadProperties(const PropertyReader& read) const override;
-
- private:
-  mutable std::vector<std::string> items_;
-  mutable std::function<std::vector<std::string>()> pending_;
-  std::uint64_t version_ = 0;
-  std::uint64_t clearings_ = 0;
-};
-
-/// A line of text that the user can't change; also used where a label is a colour square.
-class Label : public Control {
- public:
-  using Control::Control;
-  std::string Caption;
-  Colour BackColor = 0xC8D0D4;
-  Colour ForeColor = 0;
-  /// 0 no border, 1 a single one.
-  int BorderStyle = 0;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// A panel: a frame with a caption, or a picture box that only carries controls.
-class PanelBox : public Control {
- public:
-  using Control::Control;
-  /// A picture box has none.
-  std::string Caption;
-  Colour BackColor = 0xC8D0D4;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// The title picture over the surface.
-class ImageBox : public Control {
- public:
-  using Control::Control;
-};
-
-class Button : public Control {
- public:
-  using Control::Control;
-  std::string Caption;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-class CheckBox : public Control {
- public:
-  using Control::Control;
-  std::string Caption;
-  /// 0 not marked, 1 marked.
-  int Value = 0;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// A scroll bar with a range from 0 to 255.
-class ScrollBar : public Control {
- public:
-  using Control::Control;
-  static constexpr int Least = 0;
-  static constexpr int Greatest = 255;
-  int Value = 0;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// A light figure above the surface or the palette: a circle or a frame.
-class Shape : public Control {
- public:
-  using Control::Control;
-  Colour BorderColor = 0;
-  /// Pixels.
-  int BorderWidth = 1;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// A light line above the surface. Its ends are in surface units.
-class LightLine : public Control {
- public:
-  using Control::Control;
-  float X1 = 0;
-  float Y1 = 0;
-  float X2 = 0;
-  float Y2 = 0;
-  Colour BorderColor = 0;
-  /// Pixels.
-  int BorderWidth = 1;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// A timer. It ticks only when the system is back in the event loop.
-class Timer {
- public:
-  explicit Timer(std::string timerName, std::int32_t interval, bool enabled)
-      : Interval(interval), Enabled(enabled), name_(std::move(timerName)) {}
-  const std::string& Name() const { return name_; }
-  /// Milliseconds; 0 never ticks.
-  std::int32_t Interval;
-  bool Enabled;
-  void ReadProperties(const PropertyReader& read) const;
-
- private:
-  std::string name_;
-};
-
-/// The list of the files of a folder.
-class FileListBox : public Control {
- public:
-  using Control::Control;
-  /// The folder as the system names it.
-  std::string Path;
-  std::vector<std::string> Items;
-  /// The selected entry, or empty.
-  std::string FileName;
-  void ReadProperties(const PropertyReader& read) const override;
-};
-
-/// The rich-text view. `Document` is the page in its rich-text form (RTF), whatever form the file had.
-class RichTextView : public Control {
- public:
-  using Control::Control;
-  /// The file that was loaded last.
-  std::string FileName;
-  /// The page's words without their form.
-  std::string Text;
-  /// The page in RTF.
-  std::string Document;
-  /// Counts the loads, so that a shell shows what is new.
-  std::uint64_t Version = 0;
-  void ReadProperties(const PropertyReader& read) const override;
-};
+template <typename Visitor>
+void Controls::ForEach(Visitor&& visit) {
+  const auto all = [&visit](auto&... controls) { (visit(controls), ...); };
+  const auto each = [&visit](auto&... arrays) {
+    const auto one = [&visit](auto& array) {
+      for (int index = 0; index < array.Size; ++index) visit(array[index]);
+    };
+    (one(arrays), ...);
+  };
+  all(Form1, Picture3, Prompt, Image1, Shape2, Line1, Line2, Line3, Line5, Line6, List4, Text2, Frame1, List1, List2,
+      List3, Label17, Label18, Label19, Text3, Text4, Command1, Command2, Check1, Label8, Label9, Label10, Label11,
+      Picture2, Label14, Label15, Label16, Shape5, Shape7, Command3, Command4, Command5, File1, RichTextBox1);
+  each(Text1, Label20, HScroll1, HScroll2, Label12, Label13);
+}
 
 }  // namespace zerimo

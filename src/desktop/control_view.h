@@ -3,7 +3,7 @@
 #include <QRect>
 #include <QWidget>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 #include "desktop/events.h"
 
 namespace zerimo {

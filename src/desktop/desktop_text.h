@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 /// The edge between the system's single-byte text, colours and points, and those of the toolkit.
 namespace zerimo {

@@ -4,7 +4,7 @@
 
 namespace zerimo {
 
-DesktopTimers::DesktopTimers(FormControls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy)
+DesktopTimers::DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy)
     : deliverTick(std::move(tick)), busy(std::move(isBusy)) {
   Timer* const timers[] = {&controls.Timer2, &controls.Timer3, &controls.Timer4};
   for (std::size_t i = 0; i < clocks.size(); ++i) {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 namespace zerimo {
 
@@ -13,7 +13,7 @@ namespace zerimo {
 class DesktopTimers {
  public:
   /// `tick` delivers a tick; `isBusy` tells whether it would be lost.
-  DesktopTimers(FormControls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy);
+  DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy);
 
   /// Starts and stops the clocks after the data.
   void Sync();

@@ -9,7 +9,7 @@ namespace zerimo {
 
 /// Lets the picture grow on the screen while a line runs, at most once per display frame, and lets the window be
 /// closed wherever the run hangs.
-class FrameWatch : public RunWatch {
+class FrameWatch : public Watch {
  public:
   explicit FrameWatch(Stage& theStage) : stage(theStage) {}
 

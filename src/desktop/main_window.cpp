@@ -43,7 +43,7 @@ bool CallsForFocus(const QKeyEvent& press) {
 }  // namespace
 
 MainWindow::MainWindow(Form1& form, ImageCanvas& canvas, Events& theEvents, const QRect& availableArea)
-    : form1(form), events(theEvents), available(availableArea), lastRow(&form.Controls.Text1[0]) {
+    : form1(form), events(theEvents), available(availableArea), lastRow(&form.controls.Text1[0]) {
   setWindowIcon(ProgramIcon());
   setMinimumSize(SmallestWindow);
   installEventFilter(this);
@@ -54,7 +54,7 @@ MainWindow::MainWindow(Form1& form, ImageCanvas& canvas, Events& theEvents, cons
 void MainWindow::Sync() {
   if (syncing) return;
   syncing = true;
-  const QString caption = ToQString(form1.Controls.Form1.Caption());
+  const QString caption = ToQString(form1.controls.Form1.Caption());
   if (windowTitle() != caption) setWindowTitle(caption);
   SyncPlace();
   const Room room = RoomNow();
@@ -75,22 +75,22 @@ ControlView* MainWindow::FindView(const Control& control) const {
 
 Room MainWindow::RoomNow() const {
   Room room{rect(), rect()};
-  const Control& rows = form1.Controls.Picture3;
+  const Control& rows = form1.controls.Picture3;
   if (rows.Visible()) room.AboveRows.setBottom(RowsPanelView::PlaceIn(rows, rect()).top() - 1);
   return room;
 }
 
 void MainWindow::SyncPlace() {
-  const QPointF wanted(static_cast<double>(form1.Controls.Form1.Left), static_cast<double>(form1.Controls.Form1.Top));
+  const QPointF wanted(static_cast<double>(form1.controls.Form1.Left), static_cast<double>(form1.controls.Form1.Top));
   if (wanted == shownPlace) return;
   shownPlace = wanted;
   move(available.topLeft() + (wanted / UnitsPerPixel).toPoint());
 }
 
 void MainWindow::SyncFocus() {
-  Control* holder = form1.Controls.Focus.Focus();
+  Control* holder = form1.controls.Focus.Focus();
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
-  if (holder != nullptr && holder->Panel() == &form1.Controls.Picture3) lastRow = holder;
+  if (holder != nullptr && holder->Panel() == &form1.controls.Picture3) lastRow = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
   if (focusWidget() == &wanted) return;
   wanted.setFocus(Qt::OtherFocusReason);
@@ -100,8 +100,8 @@ void MainWindow::SyncFocus() {
 }
 
 void MainWindow::DescribeTurtle() {
-  const TurtleState& turtle = form1.Turtle;
-  const Control& form = form1.Controls.Form1;
+  const Turtle& turtle = form1.turtle;
+  const Control& form = form1.controls.Form1;
   const auto steps = [&](double units) {
     return QString::number(turtle.Resolution == 0 ? 0 : units / turtle.Resolution, 'f', 1);
   };
@@ -134,14 +134,14 @@ bool MainWindow::focusNextPrevChild(bool next) {
 bool MainWindow::HandOn(QKeyEvent& press) {
   if (focusWidget() != this || !CallsForFocus(press)) return false;
   Control& receiver = KeyReceiver();
-  events.Deliver([&](Form1& form) { form.Controls.Focus.SetFocus(receiver); });
+  events.Deliver([&](Form1& form) { form.controls.Focus.SetFocus(receiver); });
   if (focusWidget() == this) return false;
   QCoreApplication::sendEvent(focusWidget(), &press);
   return true;
 }
 
 Control& MainWindow::KeyReceiver() const {
-  FormControls& controls = form1.Controls;
+  Controls& controls = form1.controls;
   // From the top down.
   for (Control* control : {static_cast<Control*>(&controls.Text2), static_cast<Control*>(lastRow),
                            static_cast<Control*>(&controls.RichTextBox1), static_cast<Control*>(&controls.List4)}) {
@@ -156,7 +156,7 @@ bool MainWindow::PressKey(QObject* widget, int keyCode) {
   if (keyCode == 0 || (view == nullptr && focusWidget() != this)) return false;
   walking = keyCode == key::Up || keyCode == key::Down;
   events.Deliver([&](Form1& form) {
-    form.KeyDown(form.Controls.Form1, keyCode);
+    form.KeyDown(form.controls.Form1, keyCode);
     if (view != nullptr) form.KeyDown(view->Source(), keyCode);
   });
   walking = false;
@@ -173,8 +173,8 @@ void MainWindow::TakeFocus(QObject* widget, Qt::FocusReason reason) {
   const bool isOfUser = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
   ControlView* view = ViewOfWidget(widget);
   if (syncing || !isOfUser || view == nullptr || !view->Source().IsOnScreen()) return;
-  if (form1.Controls.Focus.Focus() == &view->Source()) return;
-  events.Deliver([&](Form1& form) { form.Controls.Focus.SetFocus(view->Source()); });
+  if (form1.controls.Focus.Focus() == &view->Source()) return;
+  events.Deliver([&](Form1& form) { form.controls.Focus.SetFocus(view->Source()); });
 }
 
 ControlView* MainWindow::ViewOfWidget(QObject* widget) const {
@@ -200,9 +200,9 @@ void MainWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
   if (!fitted || syncing) return;
   const QPoint moved = frameGeometry().topLeft() - available.topLeft();
-  form1.Controls.Form1.Left = static_cast<float>(moved.x() * UnitsPerPixel);
-  form1.Controls.Form1.Top = static_cast<float>(moved.y() * UnitsPerPixel);
-  shownPlace = QPointF(static_cast<double>(form1.Controls.Form1.Left), static_cast<double>(form1.Controls.Form1.Top));
+  form1.controls.Form1.Left = static_cast<float>(moved.x() * UnitsPerPixel);
+  form1.controls.Form1.Top = static_cast<float>(moved.y() * UnitsPerPixel);
+  shownPlace = QPointF(static_cast<double>(form1.controls.Form1.Left), static_cast<double>(form1.controls.Form1.Top));
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

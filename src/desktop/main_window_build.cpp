@@ -61,17 +61,17 @@ void MainWindow::Describe(const ControlView& view) {
 
 void MainWindow::BuildSurface(ImageCanvas& canvas) {
   Register(std::make_unique<SurfaceView>(form1, *this, canvas, events));
-  AddAll<CaptionView>(form1.Controls.Label20);
+  AddAll<CaptionView>(form1.controls.Label20);
 }
 
 void MainWindow::BuildTextScreens() {
-  Add<ListBoxView>(form1.Controls.List4);
-  Add<FileListView>(form1.Controls.File1);
-  Add<PageView>(form1.Controls.RichTextBox1);
+  Add<ListBoxView>(form1.controls.List4);
+  Add<FileListView>(form1.controls.File1);
+  Add<PageView>(form1.controls.RichTextBox1);
 }
 
 void MainWindow::BuildDiagnosis() {
-  FormControls& controls = form1.Controls;
+  Controls& controls = form1.controls;
   Add<FramePanelView>(controls.Frame1);
   AddAll<LabelView>(controls.Label12);
   for (ListBox* list : {&controls.List1, &controls.List2, &controls.List3}) Add<ListBoxView>(*list);
@@ -87,7 +87,7 @@ void MainWindow::BuildDiagnosis() {
 }
 
 void MainWindow::BuildRows() {
-  FormControls& controls = form1.Controls;
+  Controls& controls = form1.controls;
   Add<RowsPanelView>(controls.Picture3);
   Add<PromptView>(controls.Prompt);
   AddAll<RowView>(controls.Text1);
@@ -96,7 +96,7 @@ void MainWindow::BuildRows() {
 }
 
 void MainWindow::BuildPalette() {
-  FormControls& controls = form1.Controls;
+  Controls& controls = form1.controls;
   Add<PaletteView>(controls.Picture2);
   Add<LabelView>(controls.Label16);
   AddAll<PressView>(controls.Label13);
@@ -107,7 +107,7 @@ void MainWindow::BuildPalette() {
 }
 
 void MainWindow::SetTabOrder() {
-  FormControls& controls = form1.Controls;
+  Controls& controls = form1.controls;
   const auto follow = [&](const Control& control) {
     QWidget& stop = WidgetOf(control);
     if (stop.focusPolicy() == Qt::NoFocus) return;

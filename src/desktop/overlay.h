@@ -4,7 +4,7 @@
 #include <QRegion>
 #include <array>
 
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 class QPainter;
 
@@ -13,7 +13,7 @@ namespace zerimo {
 /// What lies above the surface and never enters the picture: the turtle's figure, the axes and the title picture.
 class Overlay {
  public:
-  explicit Overlay(const FormControls& formControls) : controls(formControls) {}
+  explicit Overlay(const Controls& formControls) : controls(formControls) {}
 
   /// The region that has to be drawn anew since the last call: where something was or is.
   QRegion TakeChanged();
@@ -37,7 +37,7 @@ class Overlay {
   static QRegion RegionOf(const Look& before, const Look& now);
   void DrawTitle(QPainter& painter, const QRect& part);
 
-  const FormControls& controls;
+  const Controls& controls;
   Look shown;
   QPixmap title;
 };

@@ -89,7 +89,7 @@ void PaletteFrame::DragTo(QPoint inWindow) {
   move(inWindow - grab);
   events.Deliver([&](Form1& form1) {
     const bool overForm =
-        !InPixels(form1.Picture1).contains(inWindow) && !InPixels(form1.Controls.Picture3).contains(inWindow);
+        !InPixels(form1.Picture1).contains(inWindow) && !InPixels(form1.controls.Picture3).contains(inWindow);
     if (overForm) form1.DragOver();
   });
 }
@@ -110,7 +110,7 @@ void PaletteFrame::DropAt(QPoint inWindow) {
 
 QRect PaletteView::Place(const Room& room) const { return WithinReach(InPixels(Source()), room.Client); }
 
-PaletteShapes::PaletteShapes(QWidget& parent, const FormControls& formControls)
+PaletteShapes::PaletteShapes(QWidget& parent, const Controls& formControls)
     : QWidget(&parent), controls(formControls) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }

@@ -79,7 +79,7 @@ class PaletteView : public ControlView {
 /// The frames `Shape5` and `Shape7` above the squares of the palette.
 class PaletteShapes : public QWidget {
  public:
-  PaletteShapes(QWidget& parent, const FormControls& formControls);
+  PaletteShapes(QWidget& parent, const Controls& formControls);
   /// Draws the frames if they have moved.
   void Sync();
 
@@ -87,7 +87,7 @@ class PaletteShapes : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const FormControls& controls;
+  const Controls& controls;
   QRect shown;
 };
 

@@ -23,7 +23,7 @@ Session::Session(const QRect& available, const std::string& appFolder)
       form1(UnitsOf(available), appFolder, services, watch, canvas),
       window(form1, canvas, *this, available),
       timers(
-          form1.Controls, [this](Timer& timer) { Deliver([&](Form1& form) { form.Tick(timer); }); },
+          form1.controls, [this](Timer& timer) { Deliver([&](Form1& form) { form.Tick(timer); }); },
           [this] { return stage.IsRunning(); }) {
   stage.Open(window, [this] { ShowState(); });
 }
@@ -39,7 +39,7 @@ void Session::Start() {
 void Session::Greet(const std::string& words, const std::filesystem::path& file) {
   if (hasEnded || (words.empty() && file.empty())) return;
   // The tick that gives the focus to row 0 is the last step of the start.
-  if (stage.IsRunning() || form1.Controls.Timer2.Enabled) {
+  if (stage.IsRunning() || form1.controls.Timer2.Enabled) {
     QTimer::singleShot(1, &window, [this, words, file] { Greet(words, file); });
     return;
   }
@@ -58,7 +58,7 @@ void Session::OpenFile(Form1& form, const std::filesystem::path& file) {
     return;
   }
   services.OfferFile(name);
-  form.Primitives.Execute("SHOW OPEN");
+  form.interpreter.dispatch.Execute("SHOW OPEN");
 }
 
 void Session::Deliver(const std::function<void(Form1& form1)>& event) {

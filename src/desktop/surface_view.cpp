@@ -23,7 +23,7 @@ SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form, ImageCanvas& imageCan
       form1(form),
       canvas(imageCanvas),
       events(theEvents),
-      overlay(form.Controls),
+      overlay(form.controls),
       hint(new QLabel(this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -55,7 +55,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 }
 
 Control& SurfaceWidget::ControlAt(QPoint at) const {
-  Control& title = form1.Controls.Image1;
+  Control& title = form1.controls.Image1;
   return title.Visible() && InPixels(title).contains(at) ? title : static_cast<Control&>(form1.Picture1);
 }
 

@@ -8,7 +8,7 @@
 namespace zerimo {
 
 void Editor::Bind() {
-  dispatch_.Bind(Action::Edit, [this](PrimitiveCall&) {
+  interpreter_.dispatch.Bind(Action::Edit, [this](PrimitiveCall&) {
     PassOver([&] { controls_.List4.Hide(); });
     PassOver([&] { controls_.Text2.Show(); });
     PassOver([&] { controls_.Focus.SetFocus(controls_.Text2); });
@@ -18,21 +18,21 @@ void Editor::Bind() {
 
 void Editor::Fold() {
   std::string& text = controls_.Text2.Text;
-  dispatch_.Execute("SS");
+  interpreter_.dispatch.Execute("SS");
   text = UpperCase(text);
   // The whole text is one input of the filter: only its two ends are trimmed.
   std::string original = text;
   text = SpaceFilter(original);
-  store_.MakeEmptyFileDataArray();
+  interpreter_.store.MakeEmptyFileDataArray();
   FillFiledataArrayFromEdit();
 }
 
 void Editor::FillFiledataArrayFromEdit() {
   std::int16_t number = 1;
-  FillStore(store_, controls_.Text2.Text, number);
-  lowering_.RemoveAllRepeats();
-  ListStore(store_, controls_.List1);
-  store_.ProcedureList();
+  FillStore(interpreter_.store, controls_.Text2.Text, number);
+  interpreter_.lowering.RemoveAllRepeats();
+  ListStore(interpreter_.store, controls_.List1);
+  interpreter_.store.ProcedureList();
 }
 
 }  // namespace zerimo

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "controls/form_controls.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/lowering.h"
-#include "interpreter/program_store.h"
+#include "files/files_context.h"
 
 namespace zerimo {
 
 /// The editor `Text2`: `EDIT` and the fold of its text into the store.
 class Editor {
  public:
-  Editor(ProgramStore& programStore, Lowering& repeatLowering, FormControls& formControls, Dispatch& dispatcher)
-      : store_(programStore), lowering_(repeatLowering), controls_(formControls), dispatch_(dispatcher) {}
+  explicit Editor(const FilesContext& context) : interpreter_(context.interpreter), controls_(context.controls) {}
 
   /// Sets the work of `EDIT`.
   void Bind();
@@ -23,10 +19,8 @@ class Editor {
   void FillFiledataArrayFromEdit();
 
  private:
-  ProgramStore& store_;
-  Lowering& lowering_;
-  FormControls& controls_;
-  Dispatch& dispatch_;
+  Interpreter& interpreter_;
+  Controls& controls_;
 };
 
 }  // namespace zerimo

@@ -16,25 +16,25 @@ constexpr const char* PagesFolder = "ZMHELP\\";
 }  // namespace
 
 void HelpPages::Bind() {
-  dispatch_.Bind(Action::Help, [this](PrimitiveCall& call) { Open(call); });
+  context_.interpreter.dispatch.Bind(Action::Help, [this](PrimitiveCall& call) { Open(call); });
 }
 
 void HelpPages::Open(PrimitiveCall& call) {
   PassOver([&] { SetFolder(); });
   const std::string argument = call.Rest;
-  call.OnFailure = [this, argument] { services_.MessageBox("Help is not available for " + argument); };
+  call.OnFailure = [this, argument] { context_.services.MessageBox("Help is not available for " + argument); };
   try {
     const bool isGeneral = argument.empty() || argument == " ";
     LoadPage(PagesFolder + (isGeneral ? "HELP" : UpperCase(argument)));
-    controls_.File1.Show();
-    controls_.RichTextBox1.Show();
+    context_.controls.File1.Show();
+    context_.controls.RichTextBox1.Show();
   } catch (const Failure&) {
     call.OnFailure();
   }
 }
 
 void HelpPages::SetFolder() {
-  FileListBox& list = controls_.File1;
+  FileListBox& list = context_.controls.File1;
   list.Items = Folders::FilesIn(PagesFolder);
   list.Path = PagesFolder;
   list.FileName.clear();
@@ -44,23 +44,23 @@ void HelpPages::LoadPage(const std::string& file) {
   const std::string bytes = Folders::ReadFile(file);
   const bool isRich = IsRtf(bytes);
   const RichText page = isRich ? ReadRtf(bytes) : FromPlainText(IsUtf8(bytes) ? bytes : Utf8FromLatin1(bytes));
-  RichTextView& view = controls_.RichTextBox1;
+  RichTextView& view = context_.controls.RichTextBox1;
   view.FileName = file;
   view.Text = Latin1FromUtf8(PlainText(page));
   view.Document = isRich ? bytes : WriteRtf(page);
   ++view.Version;
 }
 
-void HelpPages::File1MouseDown() { LoadPage(PagesFolder + controls_.File1.FileName); }
+void HelpPages::File1MouseDown() { LoadPage(PagesFolder + context_.controls.File1.FileName); }
 
 void HelpPages::SavePage() {
-  const std::string name = services_.InputBox("Enter the file name", "Save for Help");
-  Folders::WriteFile(name, controls_.RichTextBox1.Document + "\r\n");
+  const std::string name = context_.services.InputBox("Enter the file name", "Save for Help");
+  Folders::WriteFile(name, context_.controls.RichTextBox1.Document + "\r\n");
 }
 
 void HelpPages::CloseView() {
-  controls_.RichTextBox1.Hide();
-  controls_.File1.Hide();
+  context_.controls.RichTextBox1.Hide();
+  context_.controls.File1.Hide();
 }
 
 }  // namespace zerimo

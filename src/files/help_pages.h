@@ -2,17 +2,14 @@
 
 #include <string>
 
-#include "base/services.h"
-#include "controls/form_controls.h"
-#include "interpreter/dispatch.h"
+#include "files/files_context.h"
 
 namespace zerimo {
 
 /// The help view: a list of pages and a page. The pages stand in the folder ZMHELP beside the current folder.
 class HelpPages {
  public:
-  HelpPages(FormControls& formControls, Services& desktop, Dispatch& dispatcher)
-      : controls_(formControls), services_(desktop), dispatch_(dispatcher) {}
+  explicit HelpPages(const FilesContext& context) : context_(context) {}
 
   /// Sets the work of `HELP`.
   void Bind();
@@ -31,9 +28,7 @@ class HelpPages {
   void SetFolder();
   void LoadPage(const std::string& file);
 
-  FormControls& controls_;
-  Services& services_;
-  Dispatch& dispatch_;
+  FilesContext context_;
 };
 
 }  // namespace zerimo

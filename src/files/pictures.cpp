@@ -19,9 +19,9 @@ constexpr std::array<const char*, 5> EndingsTried = {".CUR", ".ICO", ".GIF", ".B
 }  // namespace
 
 void Pictures::Bind() {
-  dispatch_.Bind(Action::SavePicture, [this](PrimitiveCall& call) { SavePicture(call); });
-  dispatch_.Bind(Action::LoadPicture, [this](PrimitiveCall& call) { LoadPicture(call); });
-  dispatch_.Bind(Action::SlideShow, [this](PrimitiveCall& call) { SlideShow(call); });
+  context_.interpreter.dispatch.Bind(Action::SavePicture, [this](PrimitiveCall& call) { SavePicture(call); });
+  context_.interpreter.dispatch.Bind(Action::LoadPicture, [this](PrimitiveCall& call) { LoadPicture(call); });
+  context_.interpreter.dispatch.Bind(Action::SlideShow, [this](PrimitiveCall& call) { SlideShow(call); });
 }
 
 void Pictures::ShowPicture(const std::string& fileName) {
@@ -33,17 +33,17 @@ void Pictures::ShowPicture(const std::string& fileName) {
 }
 
 void Pictures::SavePicture(PrimitiveCall& call) {
-  if (dispatch_.TellMissingInput(call, Action::SavePicture)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, Action::SavePicture)) return;
   // Also in front of a name that has a folder, unlike the other primitives.
-  call.Rest = folders_.AppFolder + "\\" + call.Rest;
+  call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   call.Rest += ".Bmp";
   PassOver([&] { Picture1.SavePicture(Folders::ToWrite(call.Rest)); });
 }
 
 void Pictures::LoadPicture(PrimitiveCall& call) {
-  if (dispatch_.TellMissingInput(call, Action::LoadPicture)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, Action::LoadPicture)) return;
   // With its folder in front, the name NONE clears nothing: it is looked for as a file like any other.
-  if (!Folders::HasFolder(call.Rest)) call.Rest = folders_.AppFolder + "\\" + call.Rest;
+  if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   for (const char* ending : EndingsTried) PassOver([&] { ShowPicture(call.Rest + ending); });
 }
 
@@ -53,11 +53,11 @@ void Pictures::SlideShow(PrimitiveCall& call) {
   PassOver([&] { base = GiveWord(call.Rest, 1); });
   PassOver([&] { interval = GiveWord(call.Rest, 2); });
   if (base.empty() || interval.empty()) return;
-  controls_.Timer3.Enabled = true;
+  context_.controls.Timer3.Enabled = true;
   // The one place that does not use the backslash.
-  SlideBaseName = folders_.AppFolder + "/" + base;
-  const double milliseconds = inputs_.Number(interval);
-  PassOver([&] { controls_.Timer3.Interval = ToInt16(milliseconds); });
+  SlideBaseName = context_.folders.AppFolder + "/" + base;
+  const double milliseconds = context_.interpreter.arguments.Number(interval);
+  PassOver([&] { context_.controls.Timer3.Interval = ToInt16(milliseconds); });
 }
 
 void Pictures::Timer3Tick() {
@@ -68,7 +68,7 @@ void Pictures::Timer3Tick() {
   } catch (const Failure&) {
     // The first number without a file is the regular end of a show.
     SlideCounter = 0;
-    controls_.Timer3.Enabled = false;
+    context_.controls.Timer3.Enabled = false;
   }
 }
 

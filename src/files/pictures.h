@@ -3,20 +3,15 @@
 #include <cstdint>
 #include <string>
 
-#include "controls/form_controls.h"
-#include "files/folders.h"
+#include "files/files_context.h"
 #include "graphics/surface.h"
-#include "interpreter/arguments.h"
-#include "interpreter/dispatch.h"
 
 namespace zerimo {
 
 /// Pictures and the slide show: `SAVEPICTURE`, `LOADPICTURE`, `SLIDESHOW`.
 class Pictures {
  public:
-  Pictures(Surface& picture1, FormControls& formControls, const Arguments& arguments, Dispatch& dispatcher,
-           const Folders& theFolders)
-      : Picture1(picture1), controls_(formControls), inputs_(arguments), dispatch_(dispatcher), folders_(theFolders) {}
+  Pictures(const FilesContext& context, Surface& picture1) : context_(context), Picture1(picture1) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -38,11 +33,8 @@ class Pictures {
   void LoadPicture(PrimitiveCall& call);
   void SlideShow(PrimitiveCall& call);
 
+  FilesContext context_;
   Surface& Picture1;
-  FormControls& controls_;
-  const Arguments& inputs_;
-  Dispatch& dispatch_;
-  const Folders& folders_;
 };
 
 }  // namespace zerimo

@@ -21,32 +21,22 @@ std::string WithoutEnding(const std::string& name) { return name.substr(0, name.
 
 }  // namespace
 
-ProgramFiles::ProgramFiles(ProgramStore& programStore, Lowering& repeatLowering, Variables& allVariables,
-                           FormControls& formControls, Services& desktop, Dispatch& dispatcher,
-                           const Folders& theFolders, Pictures& thePictures)
-    : store_(programStore),
-      lowering_(repeatLowering),
-      variables_(allVariables),
-      controls_(formControls),
-      services_(desktop),
-      dispatch_(dispatcher),
-      folders_(theFolders),
-      pictures_(thePictures) {}
+ProgramFiles::ProgramFiles(const FilesContext& context, Pictures& pictures) : context_(context), pictures_(pictures) {}
 
 bool ProgramFiles::IsProgramName(const std::string& name) { return EndingInCapitals(name) == ".ZRM"; }
 
 void ProgramFiles::Bind() {
-  dispatch_.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
+  context_.interpreter.dispatch.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
 }
 
 void ProgramFiles::Load(PrimitiveCall& call) {
-  if (dispatch_.TellMissingInput(call, Action::Load)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, Action::Load)) return;
   CurrentFileName = Trimmed(call.Rest);
-  if (!Folders::HasFolder(call.Rest)) call.Rest = folders_.AppFolder + "\\" + call.Rest;
+  if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   FileLoad(call.Rest);
   // Also when the file could not be loaded.
-  PassOver([&] { variables_.CreateGlobalVariable(); });
-  PassOver([&] { lowering_.RemoveAllRepeats(); });
+  PassOver([&] { context_.interpreter.variables.CreateGlobalVariable(); });
+  PassOver([&] { context_.interpreter.lowering.RemoveAllRepeats(); });
 }
 
 void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
@@ -54,25 +44,25 @@ void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
   try {
     LoadedText = Folders::ReadFile(path);
     // Behind what the editor holds, with no line end between the two.
-    controls_.Text2.Text += LoadedText;
+    context_.controls.Text2.Text += LoadedText;
     MakeArray(path);
   } catch (const Failure&) {
-    services_.MessageBox("Unable to Load File " + path, box::AbortRetryIgnore, "Zerimo");
+    context_.services.MessageBox("Unable to Load File " + path, box::AbortRetryIgnore, "Zerimo");
   }
 }
 
 void ProgramFiles::MakeArray(const std::string& file) {
   const std::string text = Folders::ReadFile(file);
-  store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine());
-  FillStore(store_, text, store_.FileDataCount);
-  lowering_.RemoveAllRepeats();
-  ListStore(store_, controls_.List1);
-  store_.ProcedureList();
+  context_.interpreter.store.FileDataCount = static_cast<std::int16_t>(context_.interpreter.store.FirstEmptyLine());
+  FillStore(context_.interpreter.store, text, context_.interpreter.store.FileDataCount);
+  context_.interpreter.lowering.RemoveAllRepeats();
+  ListStore(context_.interpreter.store, context_.controls.List1);
+  context_.interpreter.store.ProcedureList();
 }
 
 void ProgramFiles::ShowOpen() {
   std::string name;
-  PassOver([&] { name = Trimmed(services_.ShowOpen()); });
+  PassOver([&] { name = Trimmed(context_.services.ShowOpen()); });
   if (name.empty()) return;
   const std::string ending = EndingInCapitals(name);
   if (IsProgramName(name)) {
@@ -80,19 +70,19 @@ void ProgramFiles::ShowOpen() {
   } else if (ending == ".JPG" || ending == ".BMP" || ending == ".GIF") {
     OpenPicture(name);
   } else {
-    PassOver([&] { services_.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
+    PassOver([&] { context_.services.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
   }
 }
 
 void ProgramFiles::OpenProgram(const std::string& name) {
   // A blank behind the question mark, unlike the entries of typed lines.
-  PassOver([&] { controls_.List4.Add("? LOAD " + name); });
-  PassOver([&] { dispatch_.Execute("LOAD " + name); });
+  PassOver([&] { context_.controls.List4.Add("? LOAD " + name); });
+  PassOver([&] { context_.interpreter.dispatch.Execute("LOAD " + name); });
 }
 
 void ProgramFiles::OpenPicture(const std::string& name) {
   PassOver([&] { pictures_.ShowPicture(name); });
-  PassOver([&] { controls_.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
+  PassOver([&] { context_.controls.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
 }
 
 }  // namespace zerimo

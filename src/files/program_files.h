@@ -2,23 +2,15 @@
 
 #include <string>
 
-#include "base/services.h"
-#include "controls/form_controls.h"
-#include "files/folders.h"
+#include "files/files_context.h"
 #include "files/pictures.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/lowering.h"
-#include "interpreter/program_store.h"
-#include "interpreter/variables.h"
 
 namespace zerimo {
 
 /// Program files (.ZRM): `LOAD` and `SHOW OPEN`.
 class ProgramFiles {
  public:
-  ProgramFiles(ProgramStore& programStore, Lowering& repeatLowering, Variables& allVariables,
-               FormControls& formControls, Services& desktop, Dispatch& dispatcher, const Folders& theFolders,
-               Pictures& thePictures);
+  ProgramFiles(const FilesContext& context, Pictures& pictures);
 
   /// Whether a name ends in .ZRM, in any case.
   static bool IsProgramName(const std::string& name);
@@ -46,13 +38,7 @@ class ProgramFiles {
   void OpenProgram(const std::string& name);
   void OpenPicture(const std::string& name);
 
-  ProgramStore& store_;
-  Lowering& lowering_;
-  Variables& variables_;
-  FormControls& controls_;
-  Services& services_;
-  Dispatch& dispatch_;
-  const Folders& folders_;
+  FilesContext context_;
   Pictures& pictures_;
 };
 

@@ -16,7 +16,7 @@ bool IsKept(char character) { return character >= 32 && character <= 126; }
 
 /// Appends the kept characters of a piece to a line, whatever it holds: a stale line gets them joined to its end.
 /// Tells whether there were any.
-bool AppendToLine(ProgramStore& store, int number, std::string_view piece) {
+bool AppendToLine(Store& store, int number, std::string_view piece) {
   std::string kept;
   std::copy_if(piece.begin(), piece.end(), std::back_inserter(kept), IsKept);
   if (kept.empty()) return false;
@@ -26,7 +26,7 @@ bool AppendToLine(ProgramStore& store, int number, std::string_view piece) {
 
 }  // namespace
 
-void FillStore(ProgramStore& store, std::string_view text, std::int16_t& number) {
+void FillStore(Store& store, std::string_view text, std::int16_t& number) {
   bool lineJustEnded = text.substr(0, 1) == "\r";
   while (!text.empty()) {
     const auto end = text.find(CarriageReturn);

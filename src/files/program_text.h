@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 
 namespace zerimo {
 
@@ -11,6 +11,6 @@ namespace zerimo {
 /// counts along. A line ends with a carriage return; several in a row count as one, and one at the very beginning does
 /// not count. Of the other characters only the codes 32 to 126 are kept. Fails (subscript) beyond line 2000, and what
 /// was filled stays.
-void FillStore(ProgramStore& store, std::string_view text, std::int16_t& number);
+void FillStore(Store& store, std::string_view text, std::int16_t& number);
 
 }  // namespace zerimo

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 namespace zerimo {
 

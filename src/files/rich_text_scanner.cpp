@@ -23,20 +23,20 @@ int HexDigit(char c) {
 
 RtfToken RtfScanner::Next() {
   // Line ends are only there for people.
-  while (at < rtf.size() && (rtf[at] == '\r' || rtf[at] == '\n')) ++at;
-  if (at == rtf.size()) return {};
+  while (at_ < rtf_.size() && (rtf_[at_] == '\r' || rtf_[at_] == '\n')) ++at_;
+  if (at_ == rtf_.size()) return {};
   RtfToken token;
-  switch (rtf[at]) {
+  switch (rtf_[at_]) {
     case '{':
-      ++at;
+      ++at_;
       token.Is = RtfToken::Kind::GroupStart;
       return token;
     case '}':
-      ++at;
+      ++at_;
       token.Is = RtfToken::Kind::GroupEnd;
       return token;
     case '\\':
-      ++at;
+      ++at_;
       return ControlToken();
     default:
       return TextToken();
@@ -45,66 +45,66 @@ RtfToken RtfScanner::Next() {
 
 RtfToken RtfScanner::TextToken() {
   RtfToken token;
-  if (!IsPlain(rtf[at])) {
+  if (!IsPlain(rtf_[at_])) {
     token.Is = RtfToken::Kind::Character;
-    token.Byte = static_cast<unsigned char>(rtf[at++]);
+    token.Byte = static_cast<unsigned char>(rtf_[at_++]);
     return token;
   }
-  const std::size_t begin = at;
-  while (at < rtf.size() && IsPlain(rtf[at])) ++at;
+  const std::size_t begin = at_;
+  while (at_ < rtf_.size() && IsPlain(rtf_[at_])) ++at_;
   token.Is = RtfToken::Kind::Text;
-  token.Name = rtf.substr(begin, at - begin);
+  token.Name = rtf_.substr(begin, at_ - begin);
   return token;
 }
 
 RtfToken RtfScanner::ControlToken() {
-  if (at == rtf.size()) return {};
-  if (IsLetter(rtf[at])) return WordToken();
-  if (rtf[at] == '\'') return HexToken();
+  if (at_ == rtf_.size()) return {};
+  if (IsLetter(rtf_[at_])) return WordToken();
+  if (rtf_[at_] == '\'') return HexToken();
   RtfToken token;
   token.Is = RtfToken::Kind::Symbol;
-  token.Byte = static_cast<unsigned char>(rtf[at++]);
+  token.Byte = static_cast<unsigned char>(rtf_[at_++]);
   // A backslash in front of a line end: the two characters of the line end are one.
-  if (token.Byte == '\r' && at < rtf.size() && rtf[at] == '\n') ++at;
+  if (token.Byte == '\r' && at_ < rtf_.size() && rtf_[at_] == '\n') ++at_;
   return token;
 }
 
 RtfToken RtfScanner::HexToken() {
   RtfToken token;
   token.Is = RtfToken::Kind::Character;
-  const int high = at + 1 < rtf.size() ? HexDigit(rtf[at + 1]) : -1;
-  const int low = at + 2 < rtf.size() ? HexDigit(rtf[at + 2]) : -1;
+  const int high = at_ + 1 < rtf_.size() ? HexDigit(rtf_[at_ + 1]) : -1;
+  const int low = at_ + 2 < rtf_.size() ? HexDigit(rtf_[at_ + 2]) : -1;
   if (high < 0 || low < 0) {
     // No two digits: the apostrophe stands for itself.
     token.Byte = '\'';
-    ++at;
+    ++at_;
     return token;
   }
   token.Byte = static_cast<unsigned char>(16 * high + low);
-  at += 3;
+  at_ += 3;
   return token;
 }
 
 RtfToken RtfScanner::WordToken() {
   RtfToken token;
   token.Is = RtfToken::Kind::Word;
-  const std::size_t begin = at;
-  while (at < rtf.size() && IsLetter(rtf[at])) ++at;
-  token.Name = rtf.substr(begin, at - begin);
+  const std::size_t begin = at_;
+  while (at_ < rtf_.size() && IsLetter(rtf_[at_])) ++at_;
+  token.Name = rtf_.substr(begin, at_ - begin);
 
-  const bool isNegative = at + 1 < rtf.size() && rtf[at] == '-' && IsDigit(rtf[at + 1]);
-  if (isNegative) ++at;
+  const bool isNegative = at_ + 1 < rtf_.size() && rtf_[at_] == '-' && IsDigit(rtf_[at_ + 1]);
+  if (isNegative) ++at_;
   long long number = 0;
-  for (; at < rtf.size() && IsDigit(rtf[at]); ++at) {
+  for (; at_ < rtf_.size() && IsDigit(rtf_[at_]); ++at_) {
     token.HasNumber = true;
-    number = std::min<long long>(10 * number + (rtf[at] - '0'), GreatestNumber);
+    number = std::min<long long>(10 * number + (rtf_[at_] - '0'), GreatestNumber);
   }
   token.Number = static_cast<int>(isNegative ? -number : number);
 
-  if (at < rtf.size() && rtf[at] == ' ') ++at;
+  if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
   if (token.Name == "bin") {
     token.Is = RtfToken::Kind::Binary;
-    at += std::min(static_cast<std::size_t>(std::max(token.Number, 0)), rtf.size() - at);
+    at_ += std::min(static_cast<std::size_t>(std::max(token.Number, 0)), rtf_.size() - at_);
   }
   return token;
 }

@@ -148,62 +148,62 @@ std::span<const RtfReader::WordMeaning> RtfReader::MeaningsIn(RtfDestination whe
 void RtfReader::Special(Number, int value) { AddCharacter(static_cast<char32_t>(value)); }
 
 void RtfReader::Bold(Number n, int) {
-  now.Characters.Bold = IsOn(n);
-  formIsKnown = false;
+  now_.Characters.Bold = IsOn(n);
+  formIsKnown_ = false;
 }
 
 void RtfReader::Italic(Number n, int) {
-  now.Characters.Italic = IsOn(n);
-  formIsKnown = false;
+  now_.Characters.Italic = IsOn(n);
+  formIsKnown_ = false;
 }
 
 void RtfReader::Strike(Number n, int) {
-  now.Characters.Strike = IsOn(n);
-  formIsKnown = false;
+  now_.Characters.Strike = IsOn(n);
+  formIsKnown_ = false;
 }
 
 void RtfReader::Underline(Number n, int value) {
-  now.Characters.Underline = value != 0 && IsOn(n);
-  formIsKnown = false;
+  now_.Characters.Underline = value != 0 && IsOn(n);
+  formIsKnown_ = false;
 }
 
 void RtfReader::FontNumber(Number n, int) {
-  now.Font = n.Number;
-  formIsKnown = false;
+  now_.Font = n.Number;
+  formIsKnown_ = false;
 }
 
 void RtfReader::Color(Number n, int) {
-  now.Color = n.Number;
-  formIsKnown = false;
+  now_.Color = n.Number;
+  formIsKnown_ = false;
 }
 
 void RtfReader::Background(Number n, int) {
-  now.Background = n.Number;
-  formIsKnown = false;
+  now_.Background = n.Number;
+  formIsKnown_ = false;
 }
 
-void RtfReader::PlainParagraph(Number, int) { now.Form = {}; }
+void RtfReader::PlainParagraph(Number, int) { now_.Form = {}; }
 
-void RtfReader::Align(Number, int value) { now.Form.Align = static_cast<Alignment>(value); }
+void RtfReader::Align(Number, int value) { now_.Form.Align = static_cast<Alignment>(value); }
 
-void RtfReader::LeftIndent(Number n, int) { now.Form.LeftIndent = LengthOf(n); }
+void RtfReader::LeftIndent(Number n, int) { now_.Form.LeftIndent = LengthOf(n); }
 
-void RtfReader::RightIndent(Number n, int) { now.Form.RightIndent = LengthOf(n); }
+void RtfReader::RightIndent(Number n, int) { now_.Form.RightIndent = LengthOf(n); }
 
-void RtfReader::FirstIndent(Number n, int) { now.Form.FirstIndent = LengthOf(n); }
+void RtfReader::FirstIndent(Number n, int) { now_.Form.FirstIndent = LengthOf(n); }
 
-void RtfReader::SpaceBefore(Number n, int) { now.Form.SpaceBefore = LengthOf(n); }
+void RtfReader::SpaceBefore(Number n, int) { now_.Form.SpaceBefore = LengthOf(n); }
 
-void RtfReader::SpaceAfter(Number n, int) { now.Form.SpaceAfter = LengthOf(n); }
+void RtfReader::SpaceAfter(Number n, int) { now_.Form.SpaceAfter = LengthOf(n); }
 
-void RtfReader::CodePage(Number n, int value) { codePage = value != 0 ? value : n.Number; }
+void RtfReader::CodePage(Number n, int value) { codePage_ = value != 0 ? value : n.Number; }
 
 void RtfReader::DefaultFont(Number n, int) {
-  defaultFont = n.Number;
-  formIsKnown = false;
+  defaultFont_ = n.Number;
+  formIsKnown_ = false;
 }
 
-void RtfReader::Substitutes(Number n, int) { now.Substitutes = std::clamp(n.Number, 0, 255); }
+void RtfReader::Substitutes(Number n, int) { now_.Substitutes = std::clamp(n.Number, 0, 255); }
 
 void RtfReader::FontCharset(Number n, int) {
   if (RtfFont* const font = FontInTable()) font->CodePage = CodePageOfCharset(n.Number);
@@ -214,50 +214,50 @@ void RtfReader::FontCodePage(Number n, int) {
 }
 
 void RtfReader::EnterDestination(Number, int value) {
-  if (isFirstInGroup) now.Where = static_cast<RtfDestination>(value);
+  if (isFirstInGroup_) now_.Where = static_cast<RtfDestination>(value);
 }
 
 void RtfReader::FontSize(Number n, int) {
-  now.Characters.HalfPoints = n.Number > 0 ? std::min(n.Number, rtf_limits::LargestHalfPoints) : UsualHalfPoints;
-  formIsKnown = false;
+  now_.Characters.HalfPoints = n.Number > 0 ? std::min(n.Number, rtf_limits::LargestHalfPoints) : UsualHalfPoints;
+  formIsKnown_ = false;
 }
 
 void RtfReader::PlainForm(Number, int) {
   const RtfGroup plain;
-  now.Font = plain.Font;
-  now.Color = plain.Color;
-  now.Background = plain.Background;
-  now.Characters = plain.Characters;
-  formIsKnown = false;
+  now_.Font = plain.Font;
+  now_.Color = plain.Color;
+  now_.Background = plain.Background;
+  now_.Characters = plain.Characters;
+  formIsKnown_ = false;
 }
 
 void RtfReader::Tab(Number n, int) {
-  if (now.Form.Tabs.size() < ParagraphForm::MostTabs) now.Form.Tabs.push_back(LengthOf(n));
+  if (now_.Form.Tabs.size() < ParagraphForm::MostTabs) now_.Form.Tabs.push_back(LengthOf(n));
 }
 
 void RtfReader::Unicode(Number n, int) {
   // Codes above 32767 are written as negative numbers.
   TakeUnit(static_cast<char32_t>(n.Number < 0 ? n.Number + 65536 : n.Number));
-  substitutesLeft = now.Substitutes;
+  substitutesLeft_ = now_.Substitutes;
 }
 
 void RtfReader::BulletList(Number, int) {
   // The list's form stands in a group of its own and holds for the paragraphs around it.
-  if (!outer.empty()) outer.back().Form.Bullet = true;
+  if (!outer_.empty()) outer_.back().Form.Bullet = true;
 }
 
 void RtfReader::DefineFont(Number n, int) {
-  fontInTable = n.Number;
-  if (fonts.size() < rtf_limits::MostTableEntries) fonts[fontInTable] = {};
+  fontInTable_ = n.Number;
+  if (fonts_.size() < rtf_limits::MostTableEntries) fonts_[fontInTable_] = {};
 }
 
 void RtfReader::ColourPart(Number n, int value) {
-  colourInTable = colourInTable.value_or(0) | std::clamp(n.Number, 0, 255) << value;
+  colourInTable_ = colourInTable_.value_or(0) | std::clamp(n.Number, 0, 255) << value;
 }
 
 RtfFont* RtfReader::FontInTable() {
-  const auto font = fonts.find(fontInTable);
-  return font == fonts.end() ? nullptr : &font->second;
+  const auto font = fonts_.find(fontInTable_);
+  return font == fonts_.end() ? nullptr : &font->second;
 }
 
 }  // namespace zerimo

@@ -14,7 +14,7 @@ constexpr const char* LineEnd = "\r\n";
 
 void Saving::ShowSaveAs() {
   std::string name;
-  PassOver([&] { name = services_.ShowSave("Zerimo File(.ZRM)"); });
+  PassOver([&] { name = context_.services.ShowSave("Zerimo File(.ZRM)"); });
   if (Trimmed(name).empty()) return;
   // A full stop anywhere counts, also one in a folder's name.
   if (!Contains(name, ".")) name += ".ZRM";
@@ -22,23 +22,23 @@ void Saving::ShowSaveAs() {
 }
 
 void Saving::SaveAs(const std::string& saveAsFileName) {
-  std::string text = controls_.Text2.Text;
+  std::string text = context_.controls.Text2.Text;
   Folders::WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
 }
 
 void Saving::SaveFromEditor() {
-  const std::string name = services_.InputBox("Enter the file name", "Save As", files_.CurrentFileName);
+  const std::string name = context_.services.InputBox("Enter the file name", "Save As", programFiles_.CurrentFileName);
   // An empty answer, also that of a cancelled box, writes the file ".ZRM".
   SaveAs(name + ".ZRM");
 }
 
 void Saving::ShowProcedure() {
-  PassOver([&] { services_.MessageBox(store_.ProcedureListInStringForm()); });
+  PassOver([&] { context_.services.MessageBox(context_.interpreter.store.ProcedureListInStringForm()); });
 }
 
 bool Saving::RescueEditorText(const Folders& folders) const {
-  if (controls_.Text2.Text.empty()) return false;
-  return PassOver([&] { Folders::WriteFile(folders.AppFolder + "\\Rescued.ZRM", controls_.Text2.Text); });
+  if (context_.controls.Text2.Text.empty()) return false;
+  return PassOver([&] { Folders::WriteFile(folders.AppFolder + "\\Rescued.ZRM", context_.controls.Text2.Text); });
 }
 
 }  // namespace zerimo

@@ -2,20 +2,16 @@
 
 #include <string>
 
-#include "base/services.h"
-#include "controls/form_controls.h"
-#include "files/folders.h"
+#include "files/files_context.h"
 #include "files/program_files.h"
-#include "interpreter/program_store.h"
 
 namespace zerimo {
 
 /// Writes the editor's text to .ZRM files.
 class Saving {
  public:
-  Saving(FormControls& formControls, const ProgramStore& programStore, Services& desktop,
-         const ProgramFiles& programFiles)
-      : controls_(formControls), store_(programStore), services_(desktop), files_(programFiles) {}
+  Saving(const FilesContext& context, const ProgramFiles& programFiles)
+      : context_(context), programFiles_(programFiles) {}
 
   /// `SHOW SAVEAS`, under the skip rule.
   void ShowSaveAs();
@@ -34,10 +30,8 @@ class Saving {
   bool RescueEditorText(const Folders& folders) const;
 
  private:
-  FormControls& controls_;
-  const ProgramStore& store_;
-  Services& services_;
-  const ProgramFiles& files_;
+  FilesContext context_;
+  const ProgramFiles& programFiles_;
 };
 
 }  // namespace zerimo

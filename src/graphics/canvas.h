@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 namespace zerimo {
 

@@ -8,8 +8,7 @@ namespace zerimo {
 /// The colour primitives: `SETPC`, `SETBG`, `TEXTCOLOR`, `TEXTBACKGROUND`.
 class Colours {
  public:
-  Colours(const DrawingContext& drawingContext, TurtleFigure& turtleFigure)
-      : context_(drawingContext), figure_(turtleFigure) {}
+  Colours(const DrawingContext& context, TurtleFigure& turtleFigure) : context_(context), turtleFigure_(turtleFigure) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -27,7 +26,7 @@ class Colours {
   void SelectSquare(double number);
 
   DrawingContext context_;
-  TurtleFigure& figure_;
+  TurtleFigure& turtleFigure_;
 };
 
 }  // namespace zerimo

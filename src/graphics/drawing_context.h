@@ -1,22 +1,22 @@
 #pragma once
 
 #include "base/services.h"
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 #include "graphics/surface.h"
 #include "interpreter/arguments.h"
 #include "interpreter/dispatch.h"
-#include "interpreter/turtle_state.h"
+#include "interpreter/turtle.h"
 
 namespace zerimo {
 
 /// What the drawing primitives work on.
 struct DrawingContext {
-  TurtleState& Turtle;
+  Turtle& turtle;
   Surface& Picture1;
-  FormControls& Controls;
-  const Arguments& Inputs;
-  Services& Desktop;
-  Dispatch& Primitives;
+  Controls& controls;
+  const Arguments& arguments;
+  Services& services;
+  Dispatch& dispatch;
 };
 
 }  // namespace zerimo

@@ -18,21 +18,21 @@ constexpr int Transparent = 1;
 }  // namespace
 
 void FloodFills::Bind() {
-  context_.Primitives.Bind(Action::FloodFill,
-                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
-  context_.Primitives.Bind(Action::FloodFillRGB,
-                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
+  context_.dispatch.Bind(Action::FloodFill,
+                         [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
+  context_.dispatch.Bind(Action::FloodFillRGB,
+                         [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
 }
 
 void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
-  const TurtleState& turtle = context_.Turtle;
+  const Turtle& turtle = context_.turtle;
   context_.Picture1.SetScaleMode(Pixels);
-  const std::int32_t color = LongNumber(context_.Inputs.WordNumber(call.Rest, 1));
+  const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
   PassOver([&] {
     (this->*procedure)(ToInt16(turtle.TurtleX / UnitsPerPixel), ToInt16(turtle.TurtleY / UnitsPerPixel), color);
   });
-  PassOver([&] { context_.Primitives.RefreshSurface(); });
+  PassOver([&] { context_.dispatch.RefreshSurface(); });
 }
 
 void FloodFills::FloodFill(std::int16_t x, std::int16_t y, double color) {
@@ -53,7 +53,7 @@ void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFi
   surface.SetScaleMode(SurfaceUnits);
   // What FILLSTYLE and FILL had set is not put back: circles are outlines from now on.
   surface.SetFillStyle(Transparent);
-  PassOver([&] { context_.Primitives.RefreshSurface(); });
+  PassOver([&] { context_.dispatch.RefreshSurface(); });
 }
 
 }  // namespace zerimo

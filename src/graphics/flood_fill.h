@@ -9,7 +9,7 @@ namespace zerimo {
 /// `FLOODFILL` and `FLOODFILLRGB`.
 class FloodFills {
  public:
-  explicit FloodFills(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit FloodFills(const DrawingContext& context) : context_(context) {}
 
   /// Sets the work of the primitives.
   void Bind();

@@ -24,7 +24,7 @@ void Motion::Bind() {
 }
 
 void Motion::BindMoves() {
-  Dispatch& primitives = context_.Primitives;
+  Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
   primitives.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
   primitives.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
@@ -37,9 +37,9 @@ void Motion::BindMoves() {
 }
 
 void Motion::BindPen() {
-  Dispatch& primitives = context_.Primitives;
+  Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
-  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.Turtle.PenState = 2; });
+  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = 2; });
   primitives.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
   primitives.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
   primitives.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
@@ -51,20 +51,20 @@ void Motion::BindPen() {
 }
 
 void Motion::Forward(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
   // The input is evaluated before the test for a missing one, unlike in most primitives.
-  if (context_.Primitives.TellMissingInput(call, Action::Forward)) return;
+  if (context_.dispatch.TellMissingInput(call, Action::Forward)) return;
   MoveBy(distance);
 }
 
 void Motion::Back(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
-  if (context_.Primitives.TellMissingInput(call, Action::Back)) return;
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  if (context_.dispatch.TellMissingInput(call, Action::Back)) return;
   MoveBy(-distance);
 }
 
 void Motion::MoveBy(double distance) {
-  TurtleState& turtle = context_.Turtle;
+  Turtle& turtle = context_.turtle;
   double newX = 0;
   double newY = 0;
   PassOver([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
@@ -80,29 +80,29 @@ void Motion::MoveBy(double distance) {
 
 bool Motion::AdmitsMove(double x, double y) const {
   const Surface& surface = context_.Picture1;
-  return context_.Turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
+  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
 }
 
 void Motion::Right(PrimitiveCall& call) {
   // After its box it goes on and turns by 0.
-  context_.Primitives.TellMissingInput(call, Action::Right);
-  Turn(context_.Inputs.Number(call.Rest));
+  context_.dispatch.TellMissingInput(call, Action::Right);
+  Turn(context_.arguments.Number(call.Rest));
 }
 
 void Motion::Left(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::Left)) return;
-  Turn(-context_.Inputs.Number(call.Rest));
+  if (context_.dispatch.TellMissingInput(call, Action::Left)) return;
+  Turn(-context_.arguments.Number(call.Rest));
 }
 
 void Motion::Turn(double degrees) {
-  TurtleState& turtle = context_.Turtle;
+  Turtle& turtle = context_.turtle;
   PassOver([&] { turtle.TurtleDir = Finite(turtle.TurtleDir + degrees * TurnPi / 180); });
 }
 
 void Motion::SetX(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::SetX)) return;
-  TurtleState& turtle = context_.Turtle;
-  const double distance = StepsToUnits(turtle, context_.Inputs.Number(call.Rest));
+  if (context_.dispatch.TellMissingInput(call, Action::SetX)) return;
+  Turtle& turtle = context_.turtle;
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
   PassOver([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
   if (!AdmitsSetX(target)) return Refuse();
@@ -111,31 +111,31 @@ void Motion::SetX(PrimitiveCall& call) {
 }
 
 bool Motion::AdmitsSetX(double x) const {
-  return context_.Turtle.FenceMode == 1 || (x >= 0 && x <= context_.Picture1.Width);
+  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= context_.Picture1.Width);
 }
 
 void Motion::SetY(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::SetY)) return;
-  TurtleState& turtle = context_.Turtle;
-  const double distance = StepsToUnits(turtle, context_.Inputs.Number(call.Rest));
+  if (context_.dispatch.TellMissingInput(call, Action::SetY)) return;
+  Turtle& turtle = context_.turtle;
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
-  PassOver([&] { target = Finite(context_.Controls.Form1.Height() / 2.0 - distance); });
+  PassOver([&] { target = Finite(context_.controls.Form1.Height() / 2.0 - distance); });
   if (!AdmitsSetY(target)) return Refuse();
   DrawTo(turtle.TurtleX, target);
   turtle.TurtleY = target;
 }
 
 bool Motion::AdmitsSetY(double y) const {
-  return context_.Turtle.FenceMode == 1 || (y >= 0 && y <= context_.Picture1.Height());
+  return context_.turtle.FenceMode == 1 || (y >= 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::SetXY(PrimitiveCall& call) {
-  TurtleState& turtle = context_.Turtle;
-  const double dx = StepsToUnits(turtle, context_.Inputs.WordNumber(call.Rest, 1));
+  Turtle& turtle = context_.turtle;
+  const double dx = StepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 1));
   // The vertical input has whole steps only.
-  const std::int16_t dy = WholeStepsToUnits(turtle, context_.Inputs.WordNumber(call.Rest, 2));
+  const std::int16_t dy = WholeStepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 2));
   const double centreX = context_.Picture1.Width / 2.0;
-  const double centreY = context_.Controls.Form1.Height() / 2.0;
+  const double centreY = context_.controls.Form1.Height() / 2.0;
   double targetX = 0;
   PassOver([&] { targetX = Finite(dx + centreX); });
   const std::int16_t targetY = WholeNumber(centreY - dy);
@@ -148,49 +148,49 @@ void Motion::SetXY(PrimitiveCall& call) {
 
 bool Motion::AdmitsSetXY(double x, double y) const {
   // The left and the top edge are refused here, unlike in `FD`.
-  return context_.Turtle.FenceMode == 1 ||
+  return context_.turtle.FenceMode == 1 ||
          (x > 0 && x <= context_.Picture1.Width && y > 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::DrawTo(double x, double y) {
-  const TurtleState& turtle = context_.Turtle;
+  const Turtle& turtle = context_.turtle;
   if (turtle.PenState == 2) return;
   PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
 }
 
-void Motion::Refuse() { context_.Desktop.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
+void Motion::Refuse() { context_.services.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
 
 void Motion::Resolution(PrimitiveCall& call) {
-  double value = context_.Inputs.Number(call.Rest);
+  double value = context_.arguments.Number(call.Rest);
   if (value == 0) value = 10;
   // After its box it goes on: a missing input gives 10.
-  context_.Primitives.TellMissingInput(call, Action::Resolution);
-  context_.Turtle.Resolution = value;
+  context_.dispatch.TellMissingInput(call, Action::Resolution);
+  context_.turtle.Resolution = value;
 }
 
-void Motion::Pen() { context_.Desktop.MessageBox(PenWords.at(context_.Turtle.PenState), box::Information, "Zerimo"); }
+void Motion::Pen() { context_.services.MessageBox(PenWords.at(context_.turtle.PenState), box::Information, "Zerimo"); }
 
 void Motion::PenDown() {
-  context_.Turtle.PenState = 1;
-  PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.Turtle.PenColor)); });
+  context_.turtle.PenState = 1;
+  PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.turtle.PenColor)); });
 }
 
 void Motion::PenErase() {
-  context_.Turtle.PenState = 3;
+  context_.turtle.PenState = 3;
   context_.Picture1.SetForeColor(context_.Picture1.BackColor());
 }
 
 void Motion::PenReverse() {
   // An erasing pen goes on erasing.
-  if (context_.Turtle.PenState == 2) {
+  if (context_.turtle.PenState == 2) {
     PenDown();
-  } else if (context_.Turtle.PenState == 1) {
-    context_.Turtle.PenState = 2;
+  } else if (context_.turtle.PenState == 1) {
+    context_.turtle.PenState = 2;
   }
 }
 
 void Motion::ShowFigure(bool visible) {
-  FormControls& controls = context_.Controls;
+  Controls& controls = context_.controls;
   controls.Shape2.SetVisible(visible);
   controls.Line1.SetVisible(visible);
   controls.Line2.SetVisible(visible);
@@ -198,20 +198,20 @@ void Motion::ShowFigure(bool visible) {
 }
 
 void Motion::LineWidth(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::LineWidth)) return;
-  const double width = context_.Inputs.Number(call.Rest);
+  if (context_.dispatch.TellMissingInput(call, Action::LineWidth)) return;
+  const double width = context_.arguments.Number(call.Rest);
   PassOver([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
 }
 
 void Motion::DrawMode(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::DrawMode)) return;
-  const double mode = context_.Inputs.Number(call.Rest);
+  if (context_.dispatch.TellMissingInput(call, Action::DrawMode)) return;
+  const double mode = context_.arguments.Number(call.Rest);
   PassOver([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
 }
 
 void Motion::ClearScreen() {
-  FormControls& controls = context_.Controls;
-  TurtleState& turtle = context_.Turtle;
+  Controls& controls = context_.controls;
+  Turtle& turtle = context_.turtle;
   controls.Image1.Hide();
   for (int index = 0; index < controls.Label20.Size; ++index) controls.Label20[index].Hide();
   turtle.TurtleDir = 0;

@@ -8,7 +8,7 @@ namespace zerimo {
 /// `DRAWMODE`, `CLEAN`, `CS`.
 class Motion {
  public:
-  explicit Motion(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit Motion(const DrawingContext& context) : context_(context) {}
 
   /// Sets the work of the primitives.
   void Bind();

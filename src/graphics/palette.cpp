@@ -29,19 +29,19 @@ Colour ColourOf(const ControlArray<ScrollBar, 3>& bars) {
 }  // namespace
 
 void Palette::Picture1MouseMove(float x, float y) {
-  const Window& form = context_.Controls.Form1;
-  const double resolution = context_.Turtle.Resolution;
+  const Window& form = context_.controls.Form1;
+  const double resolution = context_.turtle.Resolution;
   const double mouseX = Divide(x - form.Width / 2.0, resolution);
   const double mouseY = Divide(form.Height() / 2.0 - y, resolution);
   // Seen from the origin and not from the turtle, and with no quadrant: always between -90 and 90.
   double angle = mouseY != 0 ? std::atan(mouseX / mouseY) : HintPi / 2;
   angle = angle * 180 / HintPi;
   context_.Picture1.ToolTipText = "MouseX=" + Str(RoundHalfEven(mouseX)) + " MouseY=" + Str(RoundHalfEven(mouseY)) +
-                                 "   New Dir" + Str(RoundHalfEven(angle));
+                                  "   New Dir" + Str(RoundHalfEven(angle));
 }
 
 void Palette::Picture1Click() {
-  FormControls& controls = context_.Controls;
+  Controls& controls = context_.controls;
   controls.Form1.Left = 0;
   controls.Form1.Top = 0;
   int row = 0;
@@ -57,13 +57,13 @@ void Palette::Picture1DragDrop(Control& source, float x, float y) {
 }
 
 void Palette::Picture2MouseMove(float x, float y) {
-  context_.Controls.Label14.BackColor = White;
+  context_.controls.Label14.BackColor = White;
   PaletteGrabX = x;
   PaletteGrabY = ToInt16(y);
 }
 
 void Palette::Label13MouseDown(int index, MouseButton button, bool shift) {
-  FormControls& controls = context_.Controls;
+  Controls& controls = context_.controls;
   const std::string word = ChosenWord(button, shift);
   for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     frame->Left = controls.Label13[index].Left;
@@ -74,24 +74,24 @@ void Palette::Label13MouseDown(int index, MouseButton button, bool shift) {
 }
 
 void Palette::Label13MouseMove(int index) {
-  FormControls& controls = context_.Controls;
+  Controls& controls = context_.controls;
   for (int square = 0; square < controls.Label13.Size; ++square) controls.Label13[square].BorderStyle = 1;
   controls.Label13[index].BorderStyle = 0;
 }
 
-void Palette::Label14MouseMove() { context_.Controls.Label14.BackColor = Red; }
+void Palette::Label14MouseMove() { context_.controls.Label14.BackColor = Red; }
 
-void Palette::Label14Click() { context_.Primitives.Execute(UpperCase(Trimmed(context_.Controls.Label15.Caption))); }
+void Palette::Label14Click() { context_.dispatch.Execute(UpperCase(Trimmed(context_.controls.Label15.Caption))); }
 
 void Palette::HScroll1Change() {
-  const Colour colour = ColourOf(context_.Controls.HScroll1);
+  const Colour colour = ColourOf(context_.controls.HScroll1);
   // The background's code stays: an erasing pen goes on with the colour that it has.
   context_.Picture1.SetBackColor(colour);
-  context_.Controls.Label9.BackColor = colour;
+  context_.controls.Label9.BackColor = colour;
 }
 
 void Palette::HScroll2Change() {
-  FormControls& controls = context_.Controls;
+  Controls& controls = context_.controls;
   const Colour colour = ColourOf(controls.HScroll2);
   context_.Picture1.SetForeColor(colour);
   for (LightLine* line : {&controls.Line1, &controls.Line2, &controls.Line3}) line->BorderColor = colour;
@@ -102,8 +102,8 @@ void Palette::HScroll2Change() {
 void Palette::Check1Click() {
   // The flag alone decides, not the check mark nor what is visible.
   CoordinatesOn = !CoordinatesOn;
-  context_.Controls.Line5.SetVisible(CoordinatesOn);
-  context_.Controls.Line6.SetVisible(CoordinatesOn);
+  context_.controls.Line5.SetVisible(CoordinatesOn);
+  context_.controls.Line6.SetVisible(CoordinatesOn);
 }
 
 }  // namespace zerimo

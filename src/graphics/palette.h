@@ -11,7 +11,7 @@ enum class MouseButton { None, Left, Right, Middle };
 /// What the mouse does on the surface and on the panels that set colours by hand. None of it is under the skip rule.
 class Palette {
  public:
-  explicit Palette(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit Palette(const DrawingContext& context) : context_(context) {}
 
   /// The hint that follows the mouse; x and y are surface units. Fails at a `Resolution` of 0.
   void Picture1MouseMove(float x, float y);

@@ -28,7 +28,7 @@ void Shapes::Bind() {
 }
 
 void Shapes::BindFigures() {
-  Dispatch& primitives = context_.Primitives;
+  Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::Point, [this](PrimitiveCall& call) { Point(call); });
   primitives.Bind(Action::Dot, [this](PrimitiveCall& call) { Dot(call); });
   primitives.Bind(Action::Circle, [this](PrimitiveCall& call) { Circle(call); });
@@ -39,7 +39,7 @@ void Shapes::BindFigures() {
 }
 
 void Shapes::BindStamps() {
-  Dispatch& primitives = context_.Primitives;
+  Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::StampCircle, [this](PrimitiveCall& call) { StampCircle(call); });
   primitives.Bind(Action::StampOval, [this](PrimitiveCall& call) { StampOval(call); });
   primitives.Bind(Action::StampRect, [this](PrimitiveCall& call) { StampRect(call); });
@@ -55,23 +55,23 @@ void Shapes::Point(PrimitiveCall& call) {
   // Blue is not reduced: outside 0 to 255 it counts as 0.
   std::uint8_t blue = 0;
   PassOver([&] { blue = ToByte(Word(call, 3)); });
-  PassOver([&] { context_.Picture1.PSet(context_.Turtle.TurtleX, context_.Turtle.TurtleY, RGB(red, green, blue)); });
+  PassOver([&] { context_.Picture1.PSet(context_.turtle.TurtleX, context_.turtle.TurtleY, RGB(red, green, blue)); });
 }
 
 void Shapes::Dot(PrimitiveCall& call) {
   const double x = Units(call, 1);
-  const std::int16_t y = WholeStepsToUnits(context_.Turtle, Word(call, 2));
+  const std::int16_t y = WholeStepsToUnits(context_.turtle, Word(call, 2));
   if (PenIsUp()) return;
   // The pen's own colour, so that a dot shows even if the pen erases.
-  PassOver([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.Turtle.PenColor)); });
+  PassOver([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.turtle.PenColor)); });
 }
 
 void Shapes::Circle(PrimitiveCall& call) {
   const double x = Units(call, 1);
   const double y = Units(call, 2);
-  const std::int16_t radius = WholeStepsToUnits(context_.Turtle, Word(call, 3));
+  const std::int16_t radius = WholeStepsToUnits(context_.turtle, Word(call, 3));
   if (PenIsUp()) return;
-  PassOver([&] { context_.Picture1.Circle(CentreX() + x, context_.Controls.Screen.Height / 2.0 - y, radius); });
+  PassOver([&] { context_.Picture1.Circle(CentreX() + x, context_.controls.Screen.Height / 2.0 - y, radius); });
 }
 
 void Shapes::Line(PrimitiveCall& call) {
@@ -80,7 +80,7 @@ void Shapes::Line(PrimitiveCall& call) {
   const double x2 = Units(call, 3);
   // Of the four inputs only the last is whole; its product and the rounding are one statement.
   const std::int16_t y2 = WholeNumber(Word(call, 4));
-  const std::int16_t endY = WholeNumber(CentreY() - y2 * context_.Turtle.Resolution);
+  const std::int16_t endY = WholeNumber(CentreY() - y2 * context_.turtle.Resolution);
   if (PenIsUp()) return;
   PassOver([&] { context_.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
 }
@@ -138,25 +138,25 @@ void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing&
 }
 
 void Shapes::StampCircle(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::StampCircle)) return;
-  const double radius = StepsToUnits(context_.Turtle, context_.Inputs.Number(call.Rest));
-  PassOver([&] { context_.Picture1.Circle(context_.Turtle.TurtleX, context_.Turtle.TurtleY, radius); });
+  if (context_.dispatch.TellMissingInput(call, Action::StampCircle)) return;
+  const double radius = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  PassOver([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, radius); });
 }
 
 void Shapes::StampOval(PrimitiveCall& call) {
   const double width = Word(call, 1);
   const double height = Word(call, 2);
-  double longer = StepsToUnits(context_.Turtle, width);
-  const double high = StepsToUnits(context_.Turtle, height);
+  double longer = StepsToUnits(context_.turtle, width);
+  const double high = StepsToUnits(context_.turtle, height);
   double aspect = 0;
   PassOver([&] { aspect = Divide(high, longer); });
   if (high > longer) PassOver([&] { longer = Divide(longer, Divide(longer, high)); });
   if (width == 0 || height == 0) return;
-  PassOver([&] { context_.Picture1.Circle(context_.Turtle.TurtleX, context_.Turtle.TurtleY, longer / 2, aspect); });
+  PassOver([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, longer / 2, aspect); });
 }
 
 void Shapes::StampRect(PrimitiveCall& call) {
-  const TurtleState& turtle = context_.Turtle;
+  const Turtle& turtle = context_.turtle;
   const double x = Units(call, 1) / 2;
   const double y = Units(call, 2) / 2;
   PassOver(
@@ -179,25 +179,27 @@ void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
 }
 
 void Shapes::Fill(PrimitiveCall& call) {
-  const double number = context_.Inputs.Number(call.Rest);
+  const double number = context_.arguments.Number(call.Rest);
   std::int32_t code = 0;
   PassOver([&] { code = ColourCode(number); });
   PassOver([&] { context_.Picture1.SetFillColor(QBColor(code)); });
 }
 
 void Shapes::FillStyle(PrimitiveCall& call) {
-  const std::int32_t number = LongNumber(context_.Inputs.Number(call.Rest));
+  const std::int32_t number = LongNumber(context_.arguments.Number(call.Rest));
   PassOver([&] { context_.Picture1.SetFillStyle(number % 8); });
 }
 
-double Shapes::Word(PrimitiveCall& call, int nthWord) const { return context_.Inputs.WordNumber(call.Rest, nthWord); }
+double Shapes::Word(PrimitiveCall& call, int nthWord) const {
+  return context_.arguments.WordNumber(call.Rest, nthWord);
+}
 
 double Shapes::Units(PrimitiveCall& call, int nthWord) const {
-  return StepsToUnits(context_.Turtle, Word(call, nthWord));
+  return StepsToUnits(context_.turtle, Word(call, nthWord));
 }
 
 double Shapes::CentreX() const { return context_.Picture1.Width / 2.0; }
 
-double Shapes::CentreY() const { return context_.Controls.Form1.Height() / 2.0; }
+double Shapes::CentreY() const { return context_.controls.Form1.Height() / 2.0; }
 
 }  // namespace zerimo

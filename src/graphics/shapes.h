@@ -9,7 +9,7 @@ namespace zerimo {
 /// Shapes and stamps, `FILL` and `FILLSTYLE`. None of them moves the turtle or asks the fence.
 class Shapes {
  public:
-  explicit Shapes(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit Shapes(const DrawingContext& context) : context_(context) {}
 
   /// Sets the work of the primitives.
   void Bind();
@@ -43,7 +43,7 @@ class Shapes {
   /// The same for a stamp, with its inside in the colour too.
   void InStampColour(PrimitiveCall& call, const Drawing& draw);
 
-  bool PenIsUp() const { return context_.Turtle.PenState == 2; }
+  bool PenIsUp() const { return context_.turtle.PenState == 2; }
   double Word(PrimitiveCall& call, int nthWord) const;
   /// A word in turtle steps as surface units.
   double Units(PrimitiveCall& call, int nthWord) const;

@@ -5,7 +5,7 @@
 
 namespace zerimo {
 
-double StepsToUnits(const TurtleState& turtle, double steps) {
+double StepsToUnits(const Turtle& turtle, double steps) {
   double units = 0;
   PassOver([&] { units = Finite(steps * turtle.Resolution); });
   return units;
@@ -17,7 +17,7 @@ std::int16_t WholeNumber(double number) {
   return whole;
 }
 
-std::int16_t WholeStepsToUnits(const TurtleState& turtle, double steps) {
+std::int16_t WholeStepsToUnits(const Turtle& turtle, double steps) {
   return WholeNumber(StepsToUnits(turtle, WholeNumber(steps)));
 }
 

@@ -9,13 +9,13 @@
 namespace zerimo {
 
 /// Turtle steps times `Resolution`.
-double StepsToUnits(const TurtleState& turtle, double steps);
+double StepsToUnits(const Turtle& turtle, double steps);
 
 /// Rounded to 16 bits.
 std::int16_t WholeNumber(double number);
 
 /// Rounded to 16 bits before and after the multiplication with `Resolution`.
-std::int16_t WholeStepsToUnits(const TurtleState& turtle, double steps);
+std::int16_t WholeStepsToUnits(const Turtle& turtle, double steps);
 
 /// Rounded to 32 bits.
 std::int32_t LongNumber(double number);

@@ -20,62 +20,62 @@ int WholePixels(float units) { return static_cast<int>(RoundHalfEven(static_cast
 }  // namespace
 
 void Surface::CreateCanvas(float screenWidth, float screenHeight) {
-  canvas.Create(WholePixels(screenWidth), WholePixels(screenHeight), backColor);
+  canvas_.Create(WholePixels(screenWidth), WholePixels(screenHeight), backColor_);
 }
 
 void Surface::SetBackColor(Colour value) {
-  backColor = value;
-  canvas.Clear(value);
+  backColor_ = value;
+  canvas_.Clear(value);
   TellSet("BackColor", static_cast<double>(value));
 }
 
 void Surface::SetForeColor(Colour value) {
-  foreColor = value;
+  foreColor_ = value;
   TellSet("ForeColor", static_cast<double>(value));
 }
 
 void Surface::SetFillColor(Colour value) {
-  fillColor = value;
+  fillColor_ = value;
   TellSet("FillColor", static_cast<double>(value));
 }
 
 void Surface::SetFillStyle(std::int32_t value) {
   Require(value >= 0 && value <= 7);
-  fillStyle = value;
+  fillStyle_ = value;
   TellSet("FillStyle", static_cast<double>(value));
 }
 
 void Surface::SetDrawMode(std::int32_t value) {
   Require(value >= 1 && value <= 16);
-  drawMode = value;
+  drawMode_ = value;
   TellSet("DrawMode", static_cast<double>(value));
 }
 
 void Surface::SetDrawWidth(std::int32_t value) {
   Require(value >= 1);
-  drawWidth = value;
+  drawWidth_ = value;
   TellSet("DrawWidth", static_cast<double>(value));
 }
 
 void Surface::SetScaleMode(int value) {
   Require(value == 1 || value == 3);
-  scaleMode = value;
+  scaleMode_ = value;
   TellSet("ScaleMode", static_cast<double>(value));
 }
 
 void Surface::SetCurrentX(double value) {
-  currentX = ToSingle(value);
-  TellSet("CurrentX", currentX);
+  currentX_ = ToSingle(value);
+  TellSet("CurrentX", currentX_);
 }
 
 void Surface::SetCurrentY(double value) {
-  currentY = ToSingle(value);
-  TellSet("CurrentY", currentY);
+  currentY_ = ToSingle(value);
+  TellSet("CurrentY", currentY_);
 }
 
 void Surface::SetFontSize(double value) {
   Require(value > 0 && value <= LargestFontSize);
-  fontSize = value;
+  fontSize_ = value;
   TellSet("Font.Size", value);
 }
 
@@ -87,25 +87,25 @@ void Surface::SetHeight(float value) {
 
 void Surface::Line(double x1, double y1, double x2, double y2) {
   const surface_operation::Line line{ToSingle(x1), ToSingle(y1), ToSingle(x2), ToSingle(y2)};
-  canvas.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
-  currentX = line.X2;
-  currentY = line.Y2;
+  canvas_.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
+  currentX_ = line.X2;
+  currentY_ = line.Y2;
   Tell(line);
 }
 
 void Surface::Box(double x1, double y1, double x2, double y2) {
   const surface_operation::Box box{ToSingle(x1), ToSingle(y1), ToSingle(x2), ToSingle(y2)};
-  canvas.Box(PenStroke(), Inside(), ToPixels(box.X1, box.Y1), ToPixels(box.X2, box.Y2));
-  currentX = box.X2;
-  currentY = box.Y2;
+  canvas_.Box(PenStroke(), Inside(), ToPixels(box.X1, box.Y1), ToPixels(box.X2, box.Y2));
+  currentX_ = box.X2;
+  currentY_ = box.Y2;
   Tell(box);
 }
 
 void Surface::LineTo(double x2, double y2) {
-  const surface_operation::LineTo line{ToSingle(x2), ToSingle(y2), currentX, currentY};
-  canvas.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
-  currentX = line.X2;
-  currentY = line.Y2;
+  const surface_operation::LineTo line{ToSingle(x2), ToSingle(y2), currentX_, currentY_};
+  canvas_.Line(PenStroke(), ToPixels(line.X1, line.Y1), ToPixels(line.X2, line.Y2));
+  currentX_ = line.X2;
+  currentY_ = line.Y2;
   Tell(line);
 }
 
@@ -113,7 +113,7 @@ void Surface::Circle(double x, double y, double radius, std::optional<double> as
   surface_operation::Circle circle{ToSingle(x), ToSingle(y), ToSingle(radius), std::nullopt};
   if (aspect) circle.Aspect = ToSingle(*aspect);
   const Axes half = HalfAxes(circle);
-  canvas.Ellipse(PenStroke(), Inside(), ToPixels(circle.X, circle.Y), half.Across, half.Down);
+  canvas_.Ellipse(PenStroke(), Inside(), ToPixels(circle.X, circle.Y), half.Across, half.Down);
   Tell(circle);
 }
 
@@ -126,40 +126,40 @@ Surface::Axes Surface::HalfAxes(const surface_operation::Circle& circle) const {
 
 void Surface::PSet(double x, double y, Colour color) {
   const surface_operation::PSet point{ToSingle(x), ToSingle(y), color};
-  canvas.Point({color, drawWidth, drawMode}, ToPixels(point.X, point.Y));
+  canvas_.Point({color, drawWidth_, drawMode_}, ToPixels(point.X, point.Y));
   Tell(point);
 }
 
 Colour Surface::Point(double x, double y) const {
   const PixelPoint at = ToPixels(ToSingle(x), ToSingle(y));
-  return at.Y < Rows() ? canvas.ColourAt(at).value_or(-1) : -1;
+  return at.Y < Rows() ? canvas_.ColourAt(at).value_or(-1) : -1;
 }
 
 void Surface::Print(const std::string& text) {
-  canvas.Print(text, ToPixels(currentX, currentY), fontSize, foreColor);
+  canvas_.Print(text, ToPixels(currentX_, currentY_), fontSize_, foreColor_);
   Tell(surface_operation::Print{text});
 }
 
 void Surface::Cls() {
-  canvas.Clear(backColor);
+  canvas_.Clear(backColor_);
   Tell(surface_operation::Cls{});
 }
 
 void Surface::ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint) {
   const PixelPoint at{static_cast<double>(x), static_cast<double>(y)};
-  if (atPoint != -1) canvas.FloodFill(at, fillColor, Rows());
+  if (atPoint != -1) canvas_.FloodFill(at, fillColor_, Rows());
   Tell(surface_operation::FloodFill{x, y, atPoint});
 }
 
 int Surface::Rows() const { return static_cast<int>(std::ceil(static_cast<double>(Height()) / UnitsPerPixel)); }
 
 void Surface::SetPicture(const std::filesystem::path& file, const std::string& pictureName) {
-  canvas.LoadPicture(file, backColor);
+  canvas_.LoadPicture(file, backColor_);
   Tell(surface_operation::Picture{pictureName});
 }
 
 void Surface::SavePicture(const std::filesystem::path& file) const {
-  canvas.SavePicture(file, WholePixels(Width), WholePixels(Height()));
+  canvas_.SavePicture(file, WholePixels(Width), WholePixels(Height()));
 }
 
 PixelPoint Surface::ToPixels(double x, double y) const {
@@ -168,25 +168,25 @@ PixelPoint Surface::ToPixels(double x, double y) const {
 
 void Surface::ReadProperties(const PropertyReader& read) const {
   Control::ReadProperties(read);
-  read("BackColor", static_cast<double>(backColor));
-  read("ForeColor", static_cast<double>(foreColor));
-  read("FillColor", static_cast<double>(fillColor));
-  read("FillStyle", static_cast<double>(fillStyle));
-  read("DrawMode", static_cast<double>(drawMode));
-  read("DrawWidth", static_cast<double>(drawWidth));
-  read("ScaleMode", static_cast<double>(scaleMode));
-  read("CurrentX", currentX);
-  read("CurrentY", currentY);
-  read("Font.Size", fontSize);
+  read("BackColor", static_cast<double>(backColor_));
+  read("ForeColor", static_cast<double>(foreColor_));
+  read("FillColor", static_cast<double>(fillColor_));
+  read("FillStyle", static_cast<double>(fillStyle_));
+  read("DrawMode", static_cast<double>(drawMode_));
+  read("DrawWidth", static_cast<double>(drawWidth_));
+  read("ScaleMode", static_cast<double>(scaleMode_));
+  read("CurrentX", currentX_);
+  read("CurrentY", currentY_);
+  read("Font.Size", fontSize_);
   read("ToolTipText", ToolTipText);
 }
 
 void Surface::Tell(const SurfaceOperation& operation) const {
-  for (SurfaceRecorder* recorder : recorders) recorder->Record(*this, operation);
+  for (SurfaceRecorder* recorder : recorders_) recorder->Record(*this, operation);
 }
 
 void Surface::TellSet(const char* property, PropertyValue value) const {
-  if (!recorders.empty()) Tell(surface_operation::Set{property, std::move(value)});
+  if (!recorders_.empty()) Tell(surface_operation::Set{property, std::move(value)});
 }
 
 }  // namespace zerimo

@@ -6,7 +6,7 @@
 #include <string>
 #include <variant>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 #include "graphics/canvas.h"
 
 namespace zerimo {
@@ -68,11 +68,11 @@ class SurfaceRecorder {
 /// Surface units to a pixel: the whole system assumes this number.
 inline constexpr int UnitsPerPixel = 15;
 
-/// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into pixels,
+/// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into canvas,
 /// and hands the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
 class Surface : public Control {
  public:
-  Surface(std::string surfaceName, Canvas& pixels) : Control(std::move(surfaceName)), canvas_(pixels) {}
+  Surface(std::string surfaceName, Canvas& canvas) : Control(std::move(surfaceName)), canvas_(canvas) {}
 
   /// Makes the canvas as large as the screen (surface units), so that what a smaller height hides is kept.
   void CreateCanvas(float screenWidth, float screenHeight);
@@ -98,7 +98,7 @@ class Surface : public Control {
   /// Pixels, from 1.
   void SetDrawWidth(std::int32_t value);
   int ScaleMode() const { return scaleMode_; }
-  /// 1 surface units, 3 pixels.
+  /// 1 surface units, 3 canvas.
   void SetScaleMode(int value);
   float CurrentX() const { return currentX_; }
   void SetCurrentX(double value);
@@ -122,7 +122,7 @@ class Surface : public Control {
   Colour Point(double x, double y) const;
   void Print(const std::string& text);
   void Cls();
-  /// The fill of the platform: from a point in pixels over the colour that is read there, with the fill colour, and
+  /// The fill of the platform: from a point in canvas over the colour that is read there, with the fill colour, and
   /// not beyond the surface's height.
   void ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint);
   /// Loads a picture file as the background; `pictureName` is how the system names the file.
@@ -133,7 +133,7 @@ class Surface : public Control {
   /// The pixel that a point of the surface falls on, in the scale of now: the one conversion for all operations.
   PixelPoint ToPixels(double x, double y) const;
 
-  /// The half-axes of a circle or an oval in pixels: across and down.
+  /// The half-axes of a circle or an oval in canvas: across and down.
   struct Axes {
     double Across;
     double Down;

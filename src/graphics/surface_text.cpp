@@ -17,15 +17,15 @@ bool IsQuoted(const std::string& text) { return Trimmed(text).starts_with('"') &
 }  // namespace
 
 void SurfaceText::Bind() {
-  Dispatch& primitives = context_.Primitives;
+  Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
   primitives.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
   primitives.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
 }
 
 void SurfaceText::TextSize(PrimitiveCall& call) {
-  if (context_.Primitives.TellMissingInput(call, Action::TextSize)) return;
-  const double size = context_.Inputs.Number(call.Rest);
+  if (context_.dispatch.TellMissingInput(call, Action::TextSize)) return;
+  const double size = context_.arguments.Number(call.Rest);
   PassOver([&] { context_.Picture1.SetFontSize(size); });
 }
 
@@ -34,7 +34,7 @@ void SurfaceText::Write(PrimitiveCall& call) {
   if (IsQuoted(call.Rest)) {
     PassOver([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
   } else {
-    const double number = context_.Inputs.Number(call.Rest);
+    const double number = context_.arguments.Number(call.Rest);
     context_.Picture1.Print(Str(number));
   }
 }
@@ -47,10 +47,10 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   // The last comma counts, so that the text may hold commas.
   const int comma = LastPositionOf(whole, ',');
   std::string parameters(From(whole, comma + 1));
-  const double colour = context_.Inputs.WordNumber(parameters, 1);
-  const double x = StepsToUnits(context_.Turtle, context_.Inputs.WordNumber(parameters, 2));
-  const double y = StepsToUnits(context_.Turtle, context_.Inputs.WordNumber(parameters, 3));
-  const double size = context_.Inputs.WordNumber(parameters, 4);
+  const double colour = context_.arguments.WordNumber(parameters, 1);
+  const double x = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 2));
+  const double y = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 3));
+  const double size = context_.arguments.WordNumber(parameters, 4);
   PassOver([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
   // Here alone the height of the surface itself gives the centre.
   PassOver([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
@@ -69,8 +69,8 @@ void SurfaceText::PrintInColour(const std::string& text, double colour) {
 }
 
 void SurfaceText::BeginAtTurtle() {
-  PassOver([&] { context_.Picture1.SetCurrentX(context_.Turtle.TurtleX); });
-  PassOver([&] { context_.Picture1.SetCurrentY(context_.Turtle.TurtleY); });
+  PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
+  PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
 }
 
 }  // namespace zerimo

@@ -9,7 +9,7 @@ namespace zerimo {
 /// Text that becomes part of the picture: `WRITE`, `WRITERGB`, `TEXTSIZE`. The pen state does not matter.
 class SurfaceText {
  public:
-  explicit SurfaceText(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit SurfaceText(const DrawingContext& context) : context_(context) {}
 
   /// Sets the work of the primitives.
   void Bind();

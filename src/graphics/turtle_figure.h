@@ -2,14 +2,14 @@
 
 #include <cstdint>
 
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 namespace zerimo {
 
 /// The four light controls above the surface that show the turtle. They are moved, never painted into the picture.
 class TurtleFigure {
  public:
-  explicit TurtleFigure(FormControls& formControls) : controls_(formControls) {}
+  explicit TurtleFigure(Controls& controls) : controls_(controls) {}
 
   /// Moves the figure: a position in surface units and a heading in radians.
   void TurtlePos(double x, double y, double dir);
@@ -23,7 +23,7 @@ class TurtleFigure {
  private:
   void SetColour(Colour colour);
 
-  FormControls& controls_;
+  Controls& controls_;
 };
 
 }  // namespace zerimo

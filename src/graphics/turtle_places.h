@@ -7,7 +7,7 @@ namespace zerimo {
 /// Places, readings and homes of the turtle: `FENCE`, `WINDOW`, `XCOR`, `YCOR`, `GETXY`, the `HOME` family, `DRAW`.
 class TurtlePlaces {
  public:
-  explicit TurtlePlaces(const DrawingContext& drawingContext) : context_(drawingContext) {}
+  explicit TurtlePlaces(const DrawingContext& context) : context_(context) {}
 
   /// Sets the work of the primitives.
   void Bind();

@@ -19,14 +19,14 @@ double Arguments::WordNumber(std::string& rest, int nthWord) const {
 }
 
 void Arguments::ReplaceNames(std::string& text) const {
-  PassOver([&] { text = variables.ReplaceXcorAndYcor(text); });
-  PassOver([&] { text = variables.VarValReplacer(text); });
-  PassOver([&] { text = variables.GlobalVariableReplacer(text); });
+  PassOver([&] { text = variables_.ReplaceXcorAndYcor(text); });
+  PassOver([&] { text = variables_.VarValReplacer(text); });
+  PassOver([&] { text = variables_.GlobalVariableReplacer(text); });
 }
 
 double Arguments::Evaluate(std::string text) const {
   double value = 0;
-  PassOver([&] { value = arithmetic.ArithmeticEvaluator(text); });
+  PassOver([&] { value = arithmetic_.ArithmeticEvaluator(text); });
   return value;
 }
 

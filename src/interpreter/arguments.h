@@ -11,8 +11,8 @@ namespace zerimo {
 /// under the skip rule.
 class Arguments {
  public:
-  Arguments(const Variables& allVariables, const Arithmetic& evaluator)
-      : variables_(allVariables), arithmetic_(evaluator) {}
+  Arguments(const Variables& variables, const Arithmetic& arithmetic)
+      : variables_(variables), arithmetic_(arithmetic) {}
 
   /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is passed over; a value that could not
   /// be computed is 0.

@@ -99,7 +99,7 @@ double Arithmetic::ArithmeticEvaluator(std::string& expression) const { return E
 std::string Arithmetic::BracketRemover(std::string& expression) const {
   BracketPlaces places;
   while (Brackets(expression) >= 1) {
-    watch.Tick();
+    watch_.Tick();
     const int length = Length(expression);
     places.Find(expression);
     const std::string left(Left(expression, places.Open - 1));
@@ -123,15 +123,15 @@ double Arithmetic::Evaluator(std::string_view expression) const {
   // The order of these is the precedence. An operator alone in the first token is counted but never performed: such an
   // expression never returns.
   while (OperatorCounter(tokens, "%") >= 1) {
-    watch.Tick();
+    watch_.Tick();
     Remainder(tokens);
   }
   while (OperatorCounter(tokens, "/") >= 1) {
-    watch.Tick();
+    watch_.Tick();
     Divider(tokens);
   }
   while (OperatorCounter(tokens, "*") >= 1) {
-    watch.Tick();
+    watch_.Tick();
     Multiplier(tokens);
   }
   return AddandSub(tokens);

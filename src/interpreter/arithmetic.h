@@ -29,7 +29,7 @@ class TokenArray {
 class Arithmetic {
  public:
   /// `watch` is told of each round of a loop that may never end.
-  explicit Arithmetic(RunWatch& runWatch) : watch_(runWatch) {}
+  explicit Arithmetic(Watch& watch) : watch_(watch) {}
 
   /// The value of an expression; the caller's text comes back with its brackets replaced. Fails with division by
   /// zero, overflow, invalid argument or subscript; "%", "-/3" and their like never return.
@@ -42,7 +42,7 @@ class Arithmetic {
   double Evaluator(std::string_view expression) const;
 
  private:
-  RunWatch& watch_;
+  Watch& watch_;
 };
 
 /// The number of "(" in an expression.

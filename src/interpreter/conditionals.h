@@ -4,7 +4,8 @@
 #include <string_view>
 
 #include "interpreter/arithmetic.h"
-#include "interpreter/program_store.h"
+#include "interpreter/context.h"
+#include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -12,8 +13,8 @@ namespace zerimo {
 /// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines each time.
 class Conditionals {
  public:
-  Conditionals(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator)
-      : store_(programStore), variables_(allVariables), arithmetic_(evaluator) {}
+  explicit Conditionals(const ProgramContext& context)
+      : store_(context.store), variables_(context.variables), arithmetic_(context.arithmetic) {}
 
   /// The number of the next line to run for the `IF` on a line; 0 for a false `IF` without `ENDIF`. Fails as its
   /// condition does.
@@ -28,7 +29,7 @@ class Conditionals {
   /// The line of the `ENDIF` of this `IF`, or 0.
   int FindEndIf(int lineNumber) const;
 
-  ProgramStore& store_;
+  Store& store_;
   const Variables& variables_;
   const Arithmetic& arithmetic_;
 };

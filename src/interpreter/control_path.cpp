@@ -22,10 +22,10 @@ std::string_view WithoutLastComponent(std::string_view path) {
 }  // namespace
 
 std::string ControlPath::CurrentProcedureName() const {
-  if (path == ".") return {};
-  const int dot = LastPositionOf(path, '.');
-  const int dash = LastPositionOf(path, '-');
-  return std::string(Trimmed(Mid(path, dot + 1, dash - dot - 1)));
+  if (path_ == ".") return {};
+  const int dot = LastPositionOf(path_, '.');
+  const int dash = LastPositionOf(path_, '-');
+  return std::string(Trimmed(Mid(path_, dot + 1, dash - dot - 1)));
 }
 
 std::string FirstPartExtractor(std::string_view text) { return std::string(Left(text, LastPositionOf(text, '-'))); }

@@ -27,7 +27,7 @@ const std::string& MatchedText(MatchedBy match, const PrimitiveCall& call) {
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) { handlers[static_cast<std::size_t>(action)] = std::move(handler); }
+void Dispatch::Bind(Action action, Handler handler) { handlers_[static_cast<std::size_t>(action)] = std::move(handler); }
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
@@ -41,7 +41,7 @@ void Dispatch::RunGroup(MatchedBy group, PrimitiveCall& call) {
   // The tests do not stop at a match; only one name can match, since an action leaves the line and the word alone.
   for (const ActionFacts& facts : Actions()) {
     if (facts.Match != group || !Matches(facts, call)) continue;
-    const Handler& handler = handlers[static_cast<std::size_t>(facts.Does)];
+    const Handler& handler = handlers_[static_cast<std::size_t>(facts.Does)];
     PassOver([&] {
       if (handler) {
         handler(call);
@@ -63,14 +63,14 @@ bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
   const std::string text = "Required Paramiter Missing After " + call.Word;
   switch (missing) {
     case MissingInput::Information:
-      services.MessageBox(text, box::Information, "Zerimo Message");
+      services_.MessageBox(text, box::Information, "Zerimo Message");
       break;
     case MissingInput::Plain:
-      services.MessageBox(text);
+      services_.MessageBox(text);
       break;
     default:
       // The answer is not looked at.
-      services.MessageBox(text, box::AbortRetryIgnore, "Zerimo");
+      services_.MessageBox(text, box::AbortRetryIgnore, "Zerimo");
       break;
   }
   return true;

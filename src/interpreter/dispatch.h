@@ -34,7 +34,7 @@ class Dispatch {
  public:
   using Handler = std::function<void(PrimitiveCall&)>;
 
-  explicit Dispatch(Services& desktop) : services_(desktop) {}
+  explicit Dispatch(Services& services) : services_(services) {}
 
   /// Sets the work of an action. An action with none does nothing (but for its missing-input test).
   void Bind(Action action, Handler handler);

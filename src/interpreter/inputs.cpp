@@ -58,7 +58,7 @@ void Inputs::CreateLocalVariable(std::string_view commandLine) {
     variables_.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
   }
   variables_.RebuildList2();
-  path_.CurProcName = call.At(1);
+  controlPath_.CurProcName = call.At(1);
 }
 
 void Inputs::DeleteLocalVariable(std::string& procedureName) {

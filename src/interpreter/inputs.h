@@ -3,8 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "interpreter/context.h"
 #include "interpreter/control_path.h"
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -13,8 +14,8 @@ namespace zerimo {
 /// activation's entries from another's.
 class Inputs {
  public:
-  Inputs(ProgramStore& programStore, ControlPath& controlPath, Variables& allVariables)
-      : store_(programStore), path_(controlPath), variables_(allVariables) {}
+  explicit Inputs(const ProgramContext& context)
+      : store_(context.store), controlPath_(context.controlPath), variables_(context.variables) {}
 
   /// Pairs the words of a call with the words of the procedure's header. Fails (subscript) at more than 50 words or
   /// with no free slot.
@@ -24,8 +25,8 @@ class Inputs {
   void DeleteLocalVariable(std::string& procedureName);
 
  private:
-  ProgramStore& store_;
-  ControlPath& path_;
+  Store& store_;
+  ControlPath& controlPath_;
   Variables& variables_;
 };
 

@@ -140,7 +140,7 @@ std::string GiveWord(std::string& text, int nthWord) {
   return wanted;
 }
 
-std::int16_t HowManyInput(std::string_view command, const ProgramStore& store) {
+std::int16_t HowManyInput(std::string_view command, const Store& store) {
   for (const InputCount& count : InputCounts()) {
     if (count.Word == command) return count.Inputs;
   }
@@ -151,7 +151,7 @@ std::int16_t HowManyInput(std::string_view command, const ProgramStore& store) {
   return 0;
 }
 
-void DefinedStatement(ProgramStore& store, ListBox& list3, ListBox& list4) {
+void DefinedStatement(Store& store, ListBox& list3, ListBox& list4) {
   list3.Clear();
   for (int number = 1; !store.Line(number).empty(); ++number) {
     if (store.ClassOf(number) != StmtTo) continue;

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "controls/controls.h"
-#include "interpreter/program_store.h"
+#include "controls/control_kinds.h"
 #include "interpreter/statement_class.h"
+#include "interpreter/store.h"
 
 namespace zerimo {
 
@@ -23,9 +23,9 @@ std::string GiveWord(std::string& text, int nthWord);
 
 /// The number of inputs of a word, or a negative marker (`inputs::`). A word that is no primitive is looked up in the
 /// store. Fails (overflow) at a header with none or more than 255 blanks.
-std::int16_t HowManyInput(std::string_view command, const ProgramStore& store);
+std::int16_t HowManyInput(std::string_view command, const Store& store);
 
 /// Empties `List3` and adds to `List4` a line for each defined procedure.
-void DefinedStatement(ProgramStore& store, ListBox& list3, ListBox& list4);
+void DefinedStatement(Store& store, ListBox& list3, ListBox& list4);
 
 }  // namespace zerimo

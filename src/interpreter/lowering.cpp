@@ -99,14 +99,13 @@ const std::string& LineList::At(int index) const { return lines_[Checked(index, 
 
 void LineList::Set(int index, std::string line) { lines_[Checked(index, LastIndex)] = std::move(line); }
 
-Lowering::Lowering(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator,
-                   Services& desktop, Label& label17, Label& label18)
-    : store_(programStore),
-      variables_(allVariables),
-      arithmetic_(evaluator),
-      services_(desktop),
-      Label17(label17),
-      Label18(label18) {}
+Lowering::Lowering(const ProgramContext& context)
+    : store_(context.store),
+      variables_(context.variables),
+      arithmetic_(context.arithmetic),
+      services_(context.around.services),
+      Label17(context.around.controls.Label17),
+      Label18(context.around.controls.Label18) {}
 
 void Lowering::RemoveAllRepeats() {
   while (IsRepeatPresent() != 0) RemoveSingleRepeat();

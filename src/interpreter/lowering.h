@@ -5,10 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "base/services.h"
-#include "controls/controls.h"
 #include "interpreter/arithmetic.h"
-#include "interpreter/program_store.h"
+#include "interpreter/context.h"
+#include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -45,8 +44,7 @@ class LineList {
 /// Rewrites every `REPEAT` line of the store into a counter, a label, the body's statements, and a jump.
 class Lowering {
  public:
-  Lowering(ProgramStore& programStore, const Variables& allVariables, const Arithmetic& evaluator, Services& desktop,
-           Label& label17, Label& label18);
+  explicit Lowering(const ProgramContext& context);
 
   /// Grows by one "#" for each lowering: the counter's name.
   std::string RepeatCounterName;
@@ -77,7 +75,7 @@ class Lowering {
   void ForgetNames();
 
  private:
-  ProgramStore& store_;
+  Store& store_;
   const Variables& variables_;
   const Arithmetic& arithmetic_;
   Services& services_;

@@ -15,38 +15,36 @@ bool NothingRuns(const std::string& path) { return path == "." || path == " " ||
 
 }  // namespace
 
-Runner::Runner(ProgramStore& programStore, ControlPath& controlPath, Dispatch& dispatcher, Variables& allVariables,
-               Inputs& procedureInputs, Conditionals& theConditionals, Services& desktop, RunWatch& runWatch,
-               Label& label19)
-    : store_(programStore),
-      path_(controlPath),
-      dispatch_(dispatcher),
-      variables_(allVariables),
-      inputs_(procedureInputs),
-      conditionals_(theConditionals),
-      services_(desktop),
-      watch_(runWatch),
-      Label19(label19) {}
+Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals)
+    : store_(context.store),
+      controlPath_(context.controlPath),
+      dispatch_(dispatch),
+      variables_(context.variables),
+      inputs_(inputs),
+      conditionals_(conditionals),
+      services_(context.around.services),
+      watch_(context.around.watch),
+      Label19(context.around.controls.Label19) {}
 
 void Runner::Run1(std::string_view procedure) {
   Walk walk;
   PassOver([&] { walk.Line = store_.WhereProcedure(procedure); });
   if (walk.Line != 0) {
-    SetPath(path_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
+    SetPath(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
     // A walk past the end of the store has nothing left to run.
-    while (!NothingRuns(path_.CtrlStr()) && !walk.Over && walk.Line <= ProgramStore::LineCount) {
+    while (!NothingRuns(controlPath_.CtrlStr()) && !walk.Over && walk.Line <= Store::LineCount) {
       watch_.Step();
       PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
       Act(walk);
     }
   }
-  Label19.Caption = path_.CtrlStr();
+  Label19.Caption = controlPath_.CtrlStr();
 }
 
 void Runner::SetPath(std::string text) {
-  path_.SetCtrlStr(std::move(text));
+  controlPath_.SetCtrlStr(std::move(text));
   // Seen while a box holds the run.
-  Label19.Caption = path_.CtrlStr();
+  Label19.Caption = controlPath_.CtrlStr();
 }
 
 void Runner::Act(Walk& walk) {
@@ -113,13 +111,13 @@ void Runner::ActOnCall(Walk& walk) {
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
-    SetPath(path_.CtrlStr() + "-" + Str(walk.Line));
+    SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
   PassOver([&] { inputs_.CreateLocalVariable(store_.Line(walk.Line)); });
-  SetPath(FirstPartExtractor(path_.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
+  SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
   walk.Line = callee + 1;
-  SetPath(path_.CtrlStr() + "-" + Str(walk.Line));
+  SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
 }
 
 void Runner::ActOnTo(Walk& walk) {
@@ -128,20 +126,20 @@ void Runner::ActOnTo(Walk& walk) {
 }
 
 void Runner::ActOnEnd(Walk& walk) {
-  PassOver([&] { path_.CurProcName = path_.CurrentProcedureName(); });
-  const int dot = LastPositionOf(path_.CtrlStr(), '.');
+  PassOver([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
+  const int dot = LastPositionOf(controlPath_.CtrlStr(), '.');
   if (dot <= 1) {
     SetPath(".");
   } else {
-    SetPath(std::string(Left(path_.CtrlStr(), dot - 1)));
-    PassOver([&] { walk.Line = EndValExtractor(path_.CtrlStr()) + 1; });
+    SetPath(std::string(Left(controlPath_.CtrlStr(), dot - 1)));
+    PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
     WriteLinePlain(walk.Line);
   }
-  PassOver([&] { inputs_.DeleteLocalVariable(path_.CurProcName); });
+  PassOver([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
-  const std::string firstPart = FirstPartExtractor(path_.CtrlStr());
+  const std::string firstPart = FirstPartExtractor(controlPath_.CtrlStr());
   std::string label;
   PassOver([&] { label = From(store_.Line(walk.Line), 6); });
   PassOver([&] { walk.Line = conditionals_.LabelPos(label); });
@@ -155,7 +153,7 @@ void Runner::ActOnGoto(Walk& walk) {
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: behind an ENDIF the text is one ahead, and a line is skipped.
-  PassOver([&] { walk.Line = EndValExtractor(path_.CtrlStr()) + 1; });
+  PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
   WriteLinePlain(walk.Line);
 }
 
@@ -168,7 +166,7 @@ void Runner::ActOnEndIf(Walk& walk) {
 void Runner::ActOnElse(Walk& walk) {
   int ifs = 0;
   int endIfs = 0;
-  for (int number = walk.Line; number <= ProgramStore::LineCount; ++number) {
+  for (int number = walk.Line; number <= Store::LineCount; ++number) {
     if (store_.ClassOf(number) == StmtIf) ++ifs;
     if (store_.ClassOf(number) == StmtEndIf) ++endIfs;
     if (endIfs > ifs) {
@@ -193,14 +191,14 @@ void Runner::ActOnExpression(Walk& walk, std::string_view word) {
 }
 
 void Runner::Tidy() {
-  if (path_.CtrlStr() == "1") SetPath(".");
-  std::string text(Trimmed(path_.CtrlStr()));
+  if (controlPath_.CtrlStr() == "1") SetPath(".");
+  std::string text(Trimmed(controlPath_.CtrlStr()));
   PassOver([&] { text = RecursionChecker(text); });
   SetPath(std::move(text));
 }
 
-void Runner::WriteLineBlank(int line) { SetPath(FirstPartExtractor(path_.CtrlStr()) + Str(line)); }
+void Runner::WriteLineBlank(int line) { SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + Str(line)); }
 
-void Runner::WriteLinePlain(int line) { SetPath(FirstPartExtractor(path_.CtrlStr()) + StrTrimmed(line)); }
+void Runner::WriteLinePlain(int line) { SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + StrTrimmed(line)); }
 
 }  // namespace zerimo

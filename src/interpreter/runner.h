@@ -3,14 +3,12 @@
 #include <string>
 #include <string_view>
 
-#include "base/services.h"
-#include "base/watch.h"
-#include "controls/controls.h"
 #include "interpreter/conditionals.h"
+#include "interpreter/context.h"
 #include "interpreter/control_path.h"
 #include "interpreter/dispatch.h"
 #include "interpreter/inputs.h"
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -19,8 +17,7 @@ namespace zerimo {
 /// a call only lengthens the control string. Runs under the skip rule.
 class Runner {
  public:
-  Runner(ProgramStore& programStore, ControlPath& controlPath, Dispatch& dispatcher, Variables& allVariables,
-         Inputs& procedureInputs, Conditionals& theConditionals, Services& desktop, RunWatch& runWatch, Label& label19);
+  Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals);
 
   /// Runs a procedure, named without `TO`; an unknown name ends silently.
   void Run1(std::string_view procedure);
@@ -49,14 +46,14 @@ class Runner {
   void WriteLineBlank(int line);
   void WriteLinePlain(int line);
 
-  ProgramStore& store_;
-  ControlPath& path_;
+  Store& store_;
+  ControlPath& controlPath_;
   Dispatch& dispatch_;
   Variables& variables_;
   Inputs& inputs_;
   Conditionals& conditionals_;
   Services& services_;
-  RunWatch& watch_;
+  Watch& watch_;
   Label& Label19;
 };
 

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string>
 
-#include "controls/controls.h"
+#include "interpreter/context.h"
 #include "interpreter/lowering.h"
-#include "interpreter/program_store.h"
 #include "interpreter/runner.h"
+#include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -14,9 +14,12 @@ namespace zerimo {
 /// Runs a typed line: wraps it as a temporary procedure in the store, lowers it, runs it and removes it again.
 class TypedLines {
  public:
-  TypedLines(ProgramStore& programStore, Lowering& repeatLowering, Runner& procedureRunner, Variables& allVariables,
-             ListBox& list1)
-      : store_(programStore), lowering_(repeatLowering), runner_(procedureRunner), variables_(allVariables), List1(list1) {}
+  TypedLines(const ProgramContext& context, Lowering& lowering, Runner& runner)
+      : store_(context.store),
+        lowering_(lowering),
+        runner_(runner),
+        variables_(context.variables),
+        List1(context.around.controls.List1) {}
 
   /// Runs a filtered line; the caller's text is trimmed. Any failure but one inside the run itself leaves at once.
   void ComplexExecutor(std::string& complexData);
@@ -31,7 +34,7 @@ class TypedLines {
   void RemoveTemporaryProcedure(int firstLine);
   std::string TemporaryName() const { return "#TEMP$" + std::to_string(TempProcNo); }
 
-  ProgramStore& store_;
+  Store& store_;
   Lowering& lowering_;
   Runner& runner_;
   Variables& variables_;

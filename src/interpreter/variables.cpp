@@ -64,15 +64,15 @@ struct MakeWords {
 
 }  // namespace
 
-Variables::Variables(ProgramStore& programStore, ControlPath& controlPath, const TurtleState& turtleState,
-                     const Window& form, ListBox& list2, const Arithmetic& evaluator, RunWatch& runWatch)
-    : store(programStore),
-      path(controlPath),
-      turtle(turtleState),
-      Form1(form),
-      List2(list2),
-      arithmetic(evaluator),
-      watch(runWatch) {}
+Variables::Variables(const InterpreterContext& context, Store& store, ControlPath& controlPath,
+                     const Arithmetic& arithmetic)
+    : store_(store),
+      controlPath_(controlPath),
+      turtle_(context.turtle),
+      Form1(context.controls.Form1),
+      List2(context.controls.List2),
+      arithmetic_(arithmetic),
+      watch_(context.watch) {}
 
 const std::string& Variables::Slot(int number) const {
   if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
@@ -84,30 +84,30 @@ void Variables::SetSlot(int number, std::string text) {
   const auto index = static_cast<std::size_t>(number - 1);
   std::string& slot = VariableArray[index];
   // Only the first former text of a slot counts.
-  if (shownInList2) former.try_emplace(index, slot);
-  freeSlots += static_cast<int>(text.empty()) - static_cast<int>(slot.empty());
-  deletedSlots += static_cast<int>(text == " ") - static_cast<int>(slot == " ");
+  if (shownInList2_) former_.try_emplace(index, slot);
+  freeSlots_ += static_cast<int>(text.empty()) - static_cast<int>(slot.empty());
+  deletedSlots_ += static_cast<int>(text == " ") - static_cast<int>(slot == " ");
   slot = std::move(text);
 }
 
 void Variables::RebuildList2() {
   ListSlots();
   // With no free slot all are listed, and then the scan runs past the last one.
-  if (freeSlots == 0) throw Failure(FailureKind::SubscriptOutOfRange);
+  if (freeSlots_ == 0) throw Failure(FailureKind::SubscriptOutOfRange);
 }
 
 void Variables::ListSlots() {
-  former.clear();
-  shownInList2 = true;
+  former_.clear();
+  shownInList2_ = true;
   List2.SetLazily([this] { return ListedSlots(); });
 }
 
 std::vector<std::string> Variables::ListedSlots() {
-  shownInList2 = false;
+  shownInList2_ = false;
   std::vector<std::string> items;
   for (std::size_t index = 0; index < SlotCount; ++index) {
-    const auto kept = former.find(index);
-    const std::string& slot = kept == former.end() ? VariableArray[index] : kept->second;
+    const auto kept = former_.find(index);
+    const std::string& slot = kept == former_.end() ? VariableArray[index] : kept->second;
     if (slot.empty()) break;
     items.push_back(slot);
   }
@@ -124,28 +124,28 @@ void Variables::CreateGlobalVariable() {
   std::string name;
   StatementClass kind{};
   for (int number = 1; kind != StmtTo; ++number) {
-    kind = store.ClassOf(number);
+    kind = store_.ClassOf(number);
     if (kind == StmtMake) {
-      store.TrimLine(number);
-      const std::string& line = store.Line(number);
+      store_.TrimLine(number);
+      const std::string& line = store_.Line(number);
       const int lastBlank = LastPositionOf(line, ' ');
       // A double quote stays in the name, unlike in a MAKE that is run.
       name = Mid(line, 6, lastBlank - 6);
       value = From(line, lastBlank + 1);
     }
-    const double result = ExpressionEvaluator(Str(arithmetic.ArithmeticEvaluator(value)));
+    const double result = ExpressionEvaluator(Str(arithmetic_.ArithmeticEvaluator(value)));
     // The slot is the line's own number, whatever it held.
     if (kind == StmtMake) SetSlot(number, name + "=" + StrTrimmed(result));
   }
 }
 
 void Variables::VariableUpdate(int lineNumber) {
-  MakeWords make(store.Line(lineNumber));
+  MakeWords make(store_.Line(lineNumber));
   std::string& value = make.Value;
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);
-  const std::string result = StrTrimmed(arithmetic.ArithmeticEvaluator(value));
+  const std::string result = StrTrimmed(arithmetic_.ArithmeticEvaluator(value));
 
   SetLocal(EnclosingProcedure(lineNumber) + "." + make.Name + "=", result);
   // A local's new value goes to the global of that name too.
@@ -156,8 +156,8 @@ void Variables::VariableUpdate(int lineNumber) {
 
 std::string Variables::EnclosingProcedure(int lineNumber) const {
   int header = lineNumber;
-  while (store.ClassOf(header) != StmtTo) --header;
-  const std::string_view name = From(store.Line(header), 4);
+  while (store_.ClassOf(header) != StmtTo) --header;
+  const std::string_view name = From(store_.Line(header), 4);
   return std::string(name.substr(0, name.find(' ')));
 }
 
@@ -184,7 +184,7 @@ void Variables::SetGlobal(const std::string& name, const std::string& value) {
 
 void Variables::SpaceRemoverFromVariableArray() {
   while (SpacePresent()) {
-    watch.Tick();
+    watch_.Tick();
     for (int slot = 1; slot <= LastCompactedSlot; ++slot) {
       if (Slot(slot) != " ") continue;
       // The move reads one slot too far at its end: it fails when all is moved, so that one deleted slot goes a call.
@@ -195,7 +195,7 @@ void Variables::SpaceRemoverFromVariableArray() {
   }
 }
 
-bool Variables::SpacePresent() const { return deletedSlots > 0; }
+bool Variables::SpacePresent() const { return deletedSlots_ > 0; }
 
 std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
@@ -214,7 +214,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
 
 std::vector<std::string> Variables::LocalsOfProcedure() const {
   std::string name;
-  PassOver([&] { name = path.CurrentProcedureName(); });
+  PassOver([&] { name = controlPath_.CurrentProcedureName(); });
   const std::string key = name + ".";
   std::vector<std::string> locals;
   // What does not fit is passed over, and the walk goes on: without a free slot it never ends.
@@ -228,7 +228,7 @@ bool Variables::SlotGoesOn(int number) const {
   bool goesOn = true;
   PassOver([&] { goesOn = !Slot(number).empty(); });
   // With no free slot the scan runs past the last one and never ends.
-  while (number > SlotCount) watch.Tick();
+  while (number > SlotCount) watch_.Tick();
   return goesOn;
 }
 
@@ -236,7 +236,7 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
   // Not set back between the rounds: a name that is not declared takes the value of the one before it.
   double value = 0;
   do {
-    watch.Tick();
+    watch_.Tick();
     const std::string name = VariableFinder(expression);
     if (name.empty()) return expression;
     ReadGlobal(name, value);
@@ -260,8 +260,8 @@ void Variables::ReadGlobal(const std::string& name, double& value) const {
 }
 
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
-  const double x = RoundToDecimals(Divide(turtle.TurtleX - Form1.Width / 2.0, turtle.Resolution), 1);
-  const double y = RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle.TurtleY, turtle.Resolution), 1);
+  const double x = RoundToDecimals(Divide(turtle_.TurtleX - Form1.Width / 2.0, turtle_.Resolution), 1);
+  const double y = RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle_.TurtleY, turtle_.Resolution), 1);
   text = ReplaceAll(text, "XCOR", x);
   text = ReplaceAll(text, "YCOR", y);
   return text;

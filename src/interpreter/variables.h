@@ -7,12 +7,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "base/watch.h"
-#include "controls/controls.h"
 #include "interpreter/arithmetic.h"
+#include "interpreter/context.h"
 #include "interpreter/control_path.h"
-#include "interpreter/program_store.h"
-#include "interpreter/turtle_state.h"
+#include "interpreter/store.h"
 
 namespace zerimo {
 
@@ -22,8 +20,7 @@ class Variables {
  public:
   static constexpr int SlotCount = 500;
 
-  Variables(ProgramStore& programStore, ControlPath& controlPath, const TurtleState& turtleState, const Window& form,
-            ListBox& list2, const Arithmetic& evaluator, RunWatch& runWatch);
+  Variables(const InterpreterContext& context, Store& store, ControlPath& controlPath, const Arithmetic& arithmetic);
 
   /// A slot by its number; fails (subscript) outside 1 to 500.
   const std::string& Slot(int number) const;
@@ -68,13 +65,13 @@ class Variables {
   void ListSlots();
   std::vector<std::string> ListedSlots();
 
-  ProgramStore& store_;
-  ControlPath& path_;
-  const TurtleState& turtle_;
+  Store& store_;
+  ControlPath& controlPath_;
+  const Turtle& turtle_;
   const Window& Form1;
   ListBox& List2;
   const Arithmetic& arithmetic_;
-  RunWatch& watch_;
+  Watch& watch_;
   std::array<std::string, SlotCount> VariableArray;
   /// How many slots hold "" and " ".
   int freeSlots_ = SlotCount;

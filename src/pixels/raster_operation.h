@@ -2,7 +2,7 @@
 
 #include <QRgb>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 namespace zerimo {
 

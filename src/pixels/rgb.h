@@ -3,7 +3,7 @@
 #include <QRgb>
 #include <cstdint>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 
 namespace zerimo {
 

@@ -19,7 +19,7 @@ struct After : InMemorySession {
   explicit After(const std::string& script, const Settings& settings = {}) : InMemorySession(settings) { Run(script); }
 
   Form1& Form() { return Session.System(); }
-  FormControls& Controls() { return Form().Controls; }
+  Controls& Controls() { return Form().controls; }
   std::string Focus() {
     const Control* const focus = Controls().Focus.Focus();
     return focus == nullptr ? "" : focus->Name();
@@ -72,20 +72,20 @@ TEST(BatchSession, EnterOnARowGivesItTheFocusFirst) {
 
 TEST(BatchSession, HiddenRowIsEnteredAllTheSame) {
   After after("FS\n@type 2 RT 90\n@enter 2");
-  EXPECT_GT(after.Form().Turtle.TurtleDir, 1);
+  EXPECT_GT(after.Form().turtle.TurtleDir, 1);
   EXPECT_EQ(after.Focus(), "");
 }
 
 TEST(BatchSession, TypeSetsTheRowWithoutEnter) {
   After after("@type 3 FD 10");
   EXPECT_EQ(after.Controls().Text1[3].Text, "FD 10");
-  EXPECT_EQ(after.Form().Lines.TempProcNo, 0);
+  EXPECT_EQ(after.Form().interpreter.typedLines.TempProcNo, 0);
 }
 
 TEST(BatchSession, TextRunsTheChangeEvent) {
   After after("@text Text3 20");
   EXPECT_EQ(after.Controls().Text3.Text, "20");
-  EXPECT_EQ(after.Form().Turtle.Resolution, 20);
+  EXPECT_EQ(after.Form().turtle.Resolution, 20);
 }
 
 TEST(BatchSession, EnterKeyOnARowIsTyped) {
@@ -186,7 +186,7 @@ TEST(BatchSession, SelectNeedsAnEntry) {
 TEST(BatchSession, TicksEndWhenTheTimerIsOff) {
   After after("SLIDESHOW NOSUCH 10\n@tick Timer3 5");
   EXPECT_FALSE(after.Controls().Timer3.Enabled);
-  EXPECT_EQ(after.Form().Photos.SlideCounter, 0);
+  EXPECT_EQ(after.Form().files.pictures.SlideCounter, 0);
 }
 
 TEST(BatchSession, TimerThatIsOffDoesNotTick) { EXPECT_EQ(Events("caption", "@tick Timer4 3"), Lines{}); }

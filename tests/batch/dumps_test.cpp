@@ -20,24 +20,24 @@ class DumpsTest : public testing::Test {
 };
 
 TEST_F(DumpsTest, StoreEndsAtTheFirstEmptyLine) {
-  form.Store.SetLine(1, "TO A");
-  form.Store.SetLine(2, "END");
-  form.Store.SetLine(4, "STALE");
+  form.interpreter.store.SetLine(1, "TO A");
+  form.interpreter.store.SetLine(2, "END");
+  form.interpreter.store.SetLine(4, "STALE");
   EXPECT_EQ(DumpOf(form, action::DumpKind::Store).Finished(),
             R"({"event":"dump","what":"store","lines":["TO A","END"]})");
 }
 
 TEST_F(DumpsTest, StoreAllHasEveryLineThatIsNotEmpty) {
-  form.Store.SetLine(1, "TO A");
-  form.Store.SetLine(2000, "STALE");
+  form.interpreter.store.SetLine(1, "TO A");
+  form.interpreter.store.SetLine(2000, "STALE");
   EXPECT_EQ(DumpOf(form, action::DumpKind::StoreAll).Finished(),
             R"({"event":"dump","what":"storeall","lines":{"1":"TO A","2000":"STALE"}})");
 }
 
 TEST_F(DumpsTest, VariablesHaveTheirSlots) {
-  form.Names.SetSlot(1, "X=5");
-  form.Names.SetSlot(2, " ");
-  form.Names.SetSlot(500, "A.:N=1");
+  form.interpreter.variables.SetSlot(1, "X=5");
+  form.interpreter.variables.SetSlot(2, " ");
+  form.interpreter.variables.SetSlot(500, "A.:N=1");
   EXPECT_EQ(DumpOf(form, action::DumpKind::Variables).Finished(),
             R"({"event":"dump","what":"variables","slots":{"1":"X=5","2":" ","500":"A.:N=1"}})");
 }
@@ -52,12 +52,12 @@ TEST_F(DumpsTest, StateHasItsKeysInOrder) {
 }
 
 TEST_F(DumpsTest, FocusIsTheNameOfTheControlThatHasIt) {
-  form.Controls.Focus.SetFocus(form.Controls.Text1[2]);
+  form.controls.Focus.SetFocus(form.controls.Text1[2]);
   EXPECT_TRUE(DumpOf(form, action::DumpKind::State).Finished().ends_with(R"json("Focus":"Text1(2)"})json"));
 }
 
 TEST_F(DumpsTest, TextBoxHasItsProperties) {
-  form.Controls.Text1[1].Text = "FD 10";
+  form.controls.Text1[1].Text = "FD 10";
   EXPECT_EQ(
       Control("Text1(1)"),
       R"json({"event":"dump","what":"control","name":"Text1(1)","Visible":true,"Left":240,"Top":360,)json"
@@ -82,13 +82,13 @@ TEST_F(DumpsTest, LightLineHasItsEnds) {
 }
 
 TEST_F(DumpsTest, ListHasItsItems) {
-  form.Controls.List4.Add("?FD 10");
+  form.controls.List4.Add("?FD 10");
   EXPECT_NE(Control("List4").find(R"("Items":["?FD 10"],"BackColor")"), std::string::npos);
 }
 
 TEST_F(DumpsTest, FileListHasItsNameBeforeItsPath) {
-  form.Controls.File1.FileName = "FD";
-  form.Controls.File1.Path = "ZMHELP\\";
+  form.controls.File1.FileName = "FD";
+  form.controls.File1.Path = "ZMHELP\\";
   EXPECT_TRUE(Control("File1").ends_with(R"("Items":[],"FileName":"FD","Path":"ZMHELP\\"})"));
 }
 

@@ -24,7 +24,7 @@ class SessionReaderTest : public testing::Test {
     return std::get<Kind>(script.at(0).Act);
   }
 
-  FormControls& Controls() { return world.Session.System().Controls; }
+  Controls& Controls() { return world.Session.System().controls; }
 
   InMemorySession world;
 };

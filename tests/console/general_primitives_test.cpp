@@ -16,16 +16,16 @@ using Texts = std::vector<std::string>;
 
 class GeneralPrimitivesTest : public testing::Test, protected WholeSystem {
  protected:
-  void Execute(const std::string& line) { System.Primitives.Execute(line); }
+  void Execute(const std::string& line) { System.interpreter.dispatch.Execute(line); }
   /// The texts of the boxes that a line shows.
   Texts BoxesOf(const std::string& line) {
-    Desktop.Boxes.clear();
+    services.Boxes.clear();
     Execute(line);
     return Desktop.BoxTexts();
   }
   /// The entries that a line adds to the history.
   Texts PrintedBy(const std::string& line) {
-    Controls.List4.Clear();
+    controls.List4.Clear();
     Execute(line);
     return Controls.List4.Items();
   }
@@ -33,12 +33,12 @@ class GeneralPrimitivesTest : public testing::Test, protected WholeSystem {
 
 TEST_F(GeneralPrimitivesTest, SayDeveloperTellsTheMakers) {
   for (const char* line : {"SAYDEVELOPER", "SAYDEVELOPERS"}) {
-    Desktop.Boxes.clear();
+    services.Boxes.clear();
     Execute(line);
-    ASSERT_EQ(Desktop.Boxes.size(), 1U);
-    EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Zerimo is a Product of Vantrel,Designed by...\r\r* Mr. Ostrane Velk\r* Mr. "
-                                          "Ilmar Tessen\r* Mr. Dorrin Pask\r* Mr. Hadric Moll",
-                                          64, "Zerimo "}));
+    ASSERT_EQ(services.Boxes.size(), 1U);
+    EXPECT_EQ(services.Boxes[0], (ShownBox{"Zerimo is a Product of Vantrel,Designed by...\r\r* Mr. Ostrane Velk\r* Mr. "
+                                           "Ilmar Tessen\r* Mr. Dorrin Pask\r* Mr. Hadric Moll",
+                                           64, "Zerimo "}));
   }
 }
 
@@ -54,48 +54,48 @@ TEST_F(GeneralPrimitivesTest, CommandListWritesTheNamesAsTheyStand) {
   EXPECT_EQ(lines[90], "PENREVERSE\r");
   EXPECT_EQ(lines[93], "PENREVERSE\r");
   EXPECT_EQ(lines[95], "COMMANDLIST\r");
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(GeneralPrimitivesTest, CommandListThatCanNotBeWrittenIsPassedOver) {
   const TempFolder folder;
   folder.MakeFolder("Commands.ZMG/inside");
   Execute("COMMANDLIST");
-  EXPECT_TRUE(Desktop.Boxes.empty());
-  EXPECT_EQ(System.Primitives.OverflowCount, 1);
+  EXPECT_TRUE(services.Boxes.empty());
+  EXPECT_EQ(System.interpreter.dispatch.OverflowCount, 1);
 }
 
 TEST_F(GeneralPrimitivesTest, WaitSleepsWholeMilliseconds) {
   Execute("WAIT 250*2");
   Execute("WAIT 2.5");
-  EXPECT_EQ(Desktop.Sleeps, (std::vector<std::int32_t>{500, 2}));
+  EXPECT_EQ(services.Sleeps, (std::vector<std::int32_t>{500, 2}));
 }
 
 TEST_F(GeneralPrimitivesTest, WaitBeyond32BitsDoesNotSleep) {
   Execute("WAIT 3000000000");
-  EXPECT_TRUE(Desktop.Sleeps.empty());
+  EXPECT_TRUE(services.Sleeps.empty());
 }
 
 TEST_F(GeneralPrimitivesTest, WaitWithoutAnInputTellsItAndDoesNotSleep) {
   EXPECT_EQ(BoxesOf("WAIT"), (Texts{"Required Paramiter Missing After WAIT"}));
-  EXPECT_TRUE(Desktop.Sleeps.empty());
+  EXPECT_TRUE(services.Sleeps.empty());
 }
 
 TEST_F(GeneralPrimitivesTest, WaitOfAnUnknownNameIsNoMissingInput) {
   EXPECT_EQ(BoxesOf("WAIT X"), Texts{});
-  EXPECT_EQ(Desktop.Sleeps, (std::vector<std::int32_t>{0}));
+  EXPECT_EQ(services.Sleeps, (std::vector<std::int32_t>{0}));
 }
 
 TEST_F(GeneralPrimitivesTest, SoundBeepsAndTellsIt) {
   EXPECT_EQ(BoxesOf("SOUND"), (Texts{"Sound"}));
-  EXPECT_EQ(Desktop.Beeps, 1);
+  EXPECT_EQ(services.Beeps, 1);
   EXPECT_EQ(BoxesOf("SOUND 5"), Texts{});
-  EXPECT_EQ(Desktop.Beeps, 1);
+  EXPECT_EQ(services.Beeps, 1);
 }
 
 TEST_F(GeneralPrimitivesTest, MessageShowsATextOrANumber) {
   EXPECT_EQ(BoxesOf("MESSAGE \"HELLO  YOU\""), (Texts{"HELLO  YOU"}));
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"HELLO  YOU", 0, ""}));
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"HELLO  YOU", 0, ""}));
   EXPECT_EQ(BoxesOf("MESSAGE 2+3"), (Texts{" 5"}));
   EXPECT_EQ(BoxesOf("MESSAGE 2-3"), (Texts{"-1"}));
   EXPECT_EQ(BoxesOf("MESSAGE"), (Texts{" 0"}));
@@ -106,8 +106,8 @@ TEST_F(GeneralPrimitivesTest, MessageShowsATextOrANumber) {
 TEST_F(GeneralPrimitivesTest, MessageOfASingleQuoteShowsNothing) { EXPECT_EQ(BoxesOf("MESSAGE \""), Texts{}); }
 
 TEST_F(GeneralPrimitivesTest, MessageSetsTheCurrentPoint) {
-  System.Turtle.TurtleX = 1200;
-  System.Turtle.TurtleY = 900;
+  System.turtle.TurtleX = 1200;
+  System.turtle.TurtleY = 900;
   Execute("MESSAGE 1");
   EXPECT_EQ(System.Picture1.CurrentX(), 1200);
   EXPECT_EQ(System.Picture1.CurrentY(), 900);
@@ -160,39 +160,39 @@ TEST_F(GeneralPrimitivesTest, BareExpressionsShowTheirResult) {
   Type("2-3");
   Type("3=3");
   Type("3<2");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result:  3", "Result: -1", "Result: True", "Result: False"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Result:  3", "Result: -1", "Result: True", "Result: False"}));
 }
 
 TEST_F(GeneralPrimitivesTest, AFailingRelationIsFalse) {
   Type("1/0=1");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result: False"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Result: False"}));
 }
 
 TEST_F(GeneralPrimitivesTest, AFailingExpressionIsZero) {
   Type("1/0");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Result:  0"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Result:  0"}));
 }
 
 TEST_F(GeneralPrimitivesTest, NamesWithoutAnActionDoNothing) {
   for (const char* line : {"GETX", "GETY", "SAVE X", "REFRESH"}) Type(line);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(GeneralPrimitivesTest, AMissingInputLetsTheProcedureGoOn) {
   Fill({"TO A", "FD", "RT 90", "END"});
   Type("A");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Required Paramiter Missing After FD"}));
-  EXPECT_EQ(System.Turtle.TurtleY, 5760);
-  EXPECT_GT(System.Turtle.TurtleDir, 1.5);
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Required Paramiter Missing After FD"}));
+  EXPECT_EQ(System.turtle.TurtleY, 5760);
+  EXPECT_GT(System.turtle.TurtleDir, 1.5);
 }
 
 TEST_F(GeneralPrimitivesTest, AWholeRestIsOneExpression) {
   Execute("FD 10 + 5");
-  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 15 * 50);
+  EXPECT_EQ(System.turtle.TurtleY, 5760 - 15 * 50);
   Execute("BK 1 5");
-  EXPECT_EQ(System.Turtle.TurtleY, 5760);
+  EXPECT_EQ(System.turtle.TurtleY, 5760);
   Execute("FD 10 20");
-  EXPECT_EQ(System.Turtle.TurtleY, 5760 - 1020 * 50);
+  EXPECT_EQ(System.turtle.TurtleY, 5760 - 1020 * 50);
 }
 
 }  // namespace

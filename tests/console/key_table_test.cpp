@@ -46,7 +46,7 @@ const std::map<std::string, int> codes = {
 
 /// The control that a column of the table tells of; nothing where no control has the keys.
 Control* ControlOf(const std::string& column, WholeSystem& system) {
-  FormControls& controls = system.Controls;
+  Controls& controls = system.controls;
   const std::map<std::string, Control*> columns = {
       {"Rows", &controls.Text1[0]},          {"Text screen", &controls.List4}, {"Picture", &system.System.Picture1},
       {"Editor", &controls.Text2},           {"Help list", &controls.File1},   {"Anywhere else", nullptr},
@@ -58,13 +58,13 @@ Control* ControlOf(const std::string& column, WholeSystem& system) {
 /// What the window may look like when a key is pressed.
 const std::vector<std::function<void(WholeSystem&)>> looks = {
     [](WholeSystem&) {},
-    [](WholeSystem& system) { system.Press(system.Controls.Text1[0], key::F1); },
-    [](WholeSystem& system) { system.Press(system.Controls.Text1[0], key::F3); },
-    [](WholeSystem& system) { system.Press(system.Controls.Text1[0], key::F4); },
+    [](WholeSystem& system) { system.Press(system.controls.Text1[0], key::F1); },
+    [](WholeSystem& system) { system.Press(system.controls.Text1[0], key::F3); },
+    [](WholeSystem& system) { system.Press(system.controls.Text1[0], key::F4); },
     [](WholeSystem& system) {
-      system.Controls.Frame1.Show();
-      system.Controls.File1.Show();
-      system.Controls.RichTextBox1.Show();
+      system.controls.Frame1.Show();
+      system.controls.File1.Show();
+      system.controls.RichTextBox1.Show();
     },
 };
 
@@ -72,12 +72,12 @@ const std::vector<std::function<void(WholeSystem&)>> looks = {
 bool DoesSomething(const std::string& column, int keyCode, const std::function<void(WholeSystem&)>& look) {
   const TempFolder folder;
   WholeSystem system;
-  system.Controls.Text1[0].Text = "RT 1";
+  system.controls.Text1[0].Text = "RT 1";
   look(system);
   system.Desktop.InputAnswers.push_back("NAME");
   const auto before = system.EveryProperty();
   const std::string focus = system.Focus();
-  system.Press(system.Controls.Form1, keyCode);
+  system.Press(system.controls.Form1, keyCode);
   if (Control* const control = ControlOf(column, system)) system.Press(*control, keyCode);
   return system.EveryProperty() != before || system.Focus() != focus || !system.Desktop.Inputs.empty() ||
          folder.Count() > 0;

@@ -18,7 +18,7 @@ constexpr float Split = 11520 - 1935;
 
 class ScreenModesTest : public testing::Test, protected WholeSystem {
  protected:
-  void Execute(const char* line) { System.Primitives.Execute(line); }
+  void Execute(const char* line) { System.interpreter.dispatch.Execute(line); }
 };
 
 /// What a learner sees: which of the four big controls are visible, and how high the surface is.
@@ -50,7 +50,7 @@ TEST_P(ModesInOrder, ShowWhatTheyMust) {
   for (const char* line : GetParam().Lines) {
     if (line != nullptr) Execute(line);
   }
-  const Seen seen{Controls.Picture3.Visible(), Controls.List4.Visible(), Controls.Text2.Visible(),
+  const Seen seen{controls.Picture3.Visible(), controls.List4.Visible(), controls.Text2.Visible(),
                   System.Picture1.Height()};
   EXPECT_EQ(seen, GetParam().After);
 }
@@ -110,13 +110,13 @@ TEST_F(ScreenModesTest, EveryThreeStepsShowWhatTheLastOfEachLeft) {
   Seen expected{true, false, false, Split};
   const auto take = [&](const ModeStep& step) {
     if (step.Line != nullptr) Execute(step.Line);
-    if (step.KeyOnForm != 0) Press(Controls.Form1, step.KeyOnForm);
+    if (step.KeyOnForm != 0) Press(controls.Form1, step.KeyOnForm);
     if (step.KeyOnSurface != 0) Press(System.Picture1, step.KeyOnSurface);
     expected.Rows = step.Rows.value_or(expected.Rows);
     expected.History = step.History.value_or(expected.History);
     expected.Editor = step.Editor.value_or(expected.Editor);
     expected.Surface = step.Surface.value_or(expected.Surface);
-    const Seen seen{Controls.Picture3.Visible(), Controls.List4.Visible(), Controls.Text2.Visible(),
+    const Seen seen{controls.Picture3.Visible(), controls.List4.Visible(), controls.Text2.Visible(),
                     System.Picture1.Height()};
     EXPECT_EQ(seen, expected);
   };
@@ -131,7 +131,7 @@ TEST_F(ScreenModesTest, EveryThreeStepsShowWhatTheLastOfEachLeft) {
 }
 
 TEST_F(ScreenModesTest, SplitScreenMeasuresTheWindowAndTextScreenTheScreen) {
-  Controls.Form1.SetHeight(9000);
+  controls.Form1.SetHeight(9000);
   Execute("FS");
   EXPECT_EQ(System.Picture1.Height(), 9000);
   Execute("SS");
@@ -142,9 +142,9 @@ TEST_F(ScreenModesTest, SplitScreenMeasuresTheWindowAndTextScreenTheScreen) {
 
 TEST_F(ScreenModesTest, FullScreenStretchesTheTitlePictureAndSplitScreenLeavesIt) {
   Execute("FS");
-  EXPECT_EQ(Controls.Image1.Height(), Full);
+  EXPECT_EQ(controls.Image1.Height(), Full);
   Execute("SS");
-  EXPECT_EQ(Controls.Image1.Height(), Full);
+  EXPECT_EQ(controls.Image1.Height(), Full);
 }
 
 TEST_F(ScreenModesTest, FullScreenTakesTheFocusFromTheRows) {
@@ -153,45 +153,45 @@ TEST_F(ScreenModesTest, FullScreenTakesTheFocusFromTheRows) {
 }
 
 TEST_F(ScreenModesTest, SplitScreenGivesTheFocusToTheTopmostEmptyRow) {
-  for (int row = 0; row < 5; ++row) Controls.Text1[row].Text = "X";
-  Controls.Text1[1].Text = " ";
-  Controls.Text1[3].Text = "";
+  for (int row = 0; row < 5; ++row) controls.Text1[row].Text = "X";
+  controls.Text1[1].Text = " ";
+  controls.Text1[3].Text = "";
   Execute("SS");
   EXPECT_EQ(Focus(), "Text1(1)");
 }
 
 TEST_F(ScreenModesTest, SplitScreenWithAllRowsFilledLeavesTheFocus) {
-  for (int row = 0; row < 5; ++row) Controls.Text1[row].Text = "X";
-  Controls.Focus.SetFocus(Controls.Text1[3]);
+  for (int row = 0; row < 5; ++row) controls.Text1[row].Text = "X";
+  controls.Focus.SetFocus(controls.Text1[3]);
   Execute("SS");
   EXPECT_EQ(Focus(), "Text1(3)");
 }
 
 TEST_F(ScreenModesTest, TextScreenTellsTheProceduresAnewEachTime) {
   Fill({"TO BOX :S", "END", "TO STAR", "END"});
-  System.Store.ProcedureList();
+  System.interpreter.store.ProcedureList();
   Execute("TS");
   Execute("TS");
-  EXPECT_EQ(Controls.List4.Items(), (Texts{"BOX is Defined", "STAR is Defined", "BOX is Defined", "STAR is Defined"}));
-  EXPECT_TRUE(Controls.List3.Items().empty());
+  EXPECT_EQ(controls.List4.Items(), (Texts{"BOX is Defined", "STAR is Defined", "BOX is Defined", "STAR is Defined"}));
+  EXPECT_TRUE(controls.List3.Items().empty());
 }
 
 TEST_F(ScreenModesTest, TheNextTypedLineListsTheProceduresAgain) {
   Fill({"TO BOX :S", "END"});
   Execute("TS");
   Execute("SHOW DIA");
-  EXPECT_TRUE(Controls.List3.Items().empty());
+  EXPECT_TRUE(controls.List3.Items().empty());
   Type("RT 0");
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX :S"}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO BOX :S"}));
 }
 
 TEST_F(ScreenModesTest, AFoldListsTheProceduresAgain) {
-  Controls.Text2.Text = "TO BOX :S\r\nEND";
-  Press(Controls.Text2, key::F2);
-  Press(Controls.Text1[0], key::F3);
-  EXPECT_TRUE(Controls.List3.Items().empty());
-  Press(Controls.Text2, key::F2);
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX :S"}));
+  controls.Text2.Text = "TO BOX :S\r\nEND";
+  Press(controls.Text2, key::F2);
+  Press(controls.Text1[0], key::F3);
+  EXPECT_TRUE(controls.List3.Items().empty());
+  Press(controls.Text2, key::F2);
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO BOX :S"}));
 }
 
 TEST_F(ScreenModesTest, ALoadListsTheProceduresAgain) {
@@ -199,32 +199,32 @@ TEST_F(ScreenModesTest, ALoadListsTheProceduresAgain) {
   folder.Write("STAR.ZRM", "TO STAR\r\nEND\r\n");
   Fill({"TO BOX", "END"});
   Execute("TS");
-  EXPECT_TRUE(Controls.List3.Items().empty());
+  EXPECT_TRUE(controls.List3.Items().empty());
   Execute("LOAD STAR");
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO BOX", "TO STAR"}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO BOX", "TO STAR"}));
 }
 
 TEST_F(ScreenModesTest, TextScreenTypedInALineListsNoTemporaryProcedure) {
   Fill({"TO BOX", "END"});
   Type("TS");
-  EXPECT_EQ(Controls.List4.Items(), (Texts{"?TS", "BOX is Defined"}));
+  EXPECT_EQ(controls.List4.Items(), (Texts{"?TS", "BOX is Defined"}));
 }
 
 TEST_F(ScreenModesTest, ClearTextEmptiesHistoryAndRowsAndCallsTheOneShot) {
   Type("FD 1", 0);
-  Controls.Text1[3].Text = "X";
+  controls.Text1[3].Text = "X";
   Execute("CT");
-  EXPECT_TRUE(Controls.List4.Items().empty());
-  for (int row = 0; row < 5; ++row) EXPECT_EQ(Controls.Text1[row].Text, "");
-  EXPECT_TRUE(Controls.Timer2.Enabled);
+  EXPECT_TRUE(controls.List4.Items().empty());
+  for (int row = 0; row < 5; ++row) EXPECT_EQ(controls.Text1[row].Text, "");
+  EXPECT_TRUE(controls.Timer2.Enabled);
 }
 
 TEST_F(ScreenModesTest, GridGivenTwiceChangesNothing) {
   for (int time = 0; time < 2; ++time) {
     Execute("SHOW GRID");
-    EXPECT_TRUE(Controls.Line5.Visible());
-    EXPECT_TRUE(Controls.Line6.Visible());
-    EXPECT_FALSE(System.Mouse.CoordinatesOn);
+    EXPECT_TRUE(controls.Line5.Visible());
+    EXPECT_TRUE(controls.Line6.Visible());
+    EXPECT_FALSE(System.graphics.palette.CoordinatesOn);
   }
 }
 
@@ -234,49 +234,49 @@ TEST_F(ScreenModesTest, HideEndsPanelsClockDetailsAndAxes) {
   Execute("SHOW GRID");
   Execute("SHOW DETAILS");
   Execute("SHOW TIME");
-  Controls.Check1.Value = 1;
-  Controls.RichTextBox1.Show();
+  controls.Check1.Value = 1;
+  controls.RichTextBox1.Show();
   Execute("HIDE");
-  EXPECT_FALSE(Controls.Frame1.Visible());
-  EXPECT_FALSE(Controls.Picture2.Visible());
-  EXPECT_FALSE(Controls.Line5.Visible());
-  EXPECT_FALSE(Controls.Line6.Visible());
-  EXPECT_FALSE(Controls.Timer4.Enabled);
-  EXPECT_FALSE(System.Primitives.DetailsOn);
-  EXPECT_EQ(Controls.Form1.Caption(), "Zerimo");
-  EXPECT_TRUE(Controls.Picture3.Visible());
-  EXPECT_TRUE(Controls.RichTextBox1.Visible());
-  EXPECT_TRUE(Controls.Image1.Visible());
-  EXPECT_EQ(Controls.Check1.Value, 1);
+  EXPECT_FALSE(controls.Frame1.Visible());
+  EXPECT_FALSE(controls.Picture2.Visible());
+  EXPECT_FALSE(controls.Line5.Visible());
+  EXPECT_FALSE(controls.Line6.Visible());
+  EXPECT_FALSE(controls.Timer4.Enabled);
+  EXPECT_FALSE(System.interpreter.dispatch.DetailsOn);
+  EXPECT_EQ(controls.Form1.Caption(), "Zerimo");
+  EXPECT_TRUE(controls.Picture3.Visible());
+  EXPECT_TRUE(controls.RichTextBox1.Visible());
+  EXPECT_TRUE(controls.Image1.Visible());
+  EXPECT_EQ(controls.Check1.Value, 1);
 }
 
 TEST_F(ScreenModesTest, HideLeavesARunningSlideShow) {
-  Controls.Timer3.Enabled = true;
+  controls.Timer3.Enabled = true;
   Execute("HIDE");
-  EXPECT_TRUE(Controls.Timer3.Enabled);
+  EXPECT_TRUE(controls.Timer3.Enabled);
 }
 
 TEST_F(ScreenModesTest, ShowOpensThePanels) {
   for (const char* line : {"SHOW DIA", "SHOW DIAGNOSIS"}) {
-    Controls.Frame1.Hide();
+    controls.Frame1.Hide();
     Execute(line);
-    EXPECT_TRUE(Controls.Frame1.Visible()) << line;
+    EXPECT_TRUE(controls.Frame1.Visible()) << line;
   }
   for (const char* line : {"SHOW PAL", "SHOW PALLETE"}) {
-    Controls.Picture2.Hide();
+    controls.Picture2.Hide();
     Execute(line);
-    EXPECT_TRUE(Controls.Picture2.Visible()) << line;
+    EXPECT_TRUE(controls.Picture2.Visible()) << line;
   }
 }
 
 TEST_F(ScreenModesTest, ShowTakesItsWordInSmallLetters) {
   Execute("SHOW grid");
-  EXPECT_TRUE(Controls.Line5.Visible());
-  EXPECT_TRUE(Controls.Line6.Visible());
+  EXPECT_TRUE(controls.Line5.Visible());
+  EXPECT_TRUE(controls.Line6.Visible());
   Execute("SHOW grid");
-  EXPECT_TRUE(Controls.Line5.Visible());
+  EXPECT_TRUE(controls.Line5.Visible());
   Execute("show PAL");
-  EXPECT_FALSE(Controls.Picture2.Visible());
+  EXPECT_FALSE(controls.Picture2.Visible());
 }
 
 TEST_F(ScreenModesTest, ShowOfAnUnknownWordOrOfNoneDoesNothing) {
@@ -284,45 +284,45 @@ TEST_F(ScreenModesTest, ShowOfAnUnknownWordOrOfNoneDoesNothing) {
   for (const char* line : {"SHOW XYZ", "SHOW", "SHOW DI", "SHOW DIA NOW", "SHOW PALETTE", "SHOW \"DIA\""})
     Execute(line);
   EXPECT_EQ(EveryProperty(), before);
-  EXPECT_TRUE(Desktop.Boxes.empty());
-  EXPECT_TRUE(Desktop.Dialogs.empty());
-  EXPECT_FALSE(System.Primitives.DetailsOn);
+  EXPECT_TRUE(services.Boxes.empty());
+  EXPECT_TRUE(services.Dialogs.empty());
+  EXPECT_FALSE(System.interpreter.dispatch.DetailsOn);
 }
 
 TEST_F(ScreenModesTest, HideEndsTheClockThatShowTimeStarted) {
   Type("SHOW TIME");
-  EXPECT_TRUE(Controls.Timer4.Enabled);
-  System.Tick(Controls.Timer4);
-  ASSERT_EQ(Controls.Form1.Caption(), "Zerimo [ Time:12:34 ]");
+  EXPECT_TRUE(controls.Timer4.Enabled);
+  System.Tick(controls.Timer4);
+  ASSERT_EQ(controls.Form1.Caption(), "Zerimo [ Time:12:34 ]");
   Type("HIDE");
-  EXPECT_FALSE(Controls.Timer4.Enabled);
-  EXPECT_EQ(Controls.Form1.Caption(), "Zerimo");
+  EXPECT_FALSE(controls.Timer4.Enabled);
+  EXPECT_EQ(controls.Form1.Caption(), "Zerimo");
 }
 
 TEST_F(ScreenModesTest, ShowGridLeavesTheCheckMark) {
   Execute("SHOW GRID");
-  EXPECT_TRUE(Controls.Line5.Visible());
-  EXPECT_TRUE(Controls.Line6.Visible());
-  EXPECT_EQ(Controls.Check1.Value, 0);
-  EXPECT_FALSE(System.Mouse.CoordinatesOn);
+  EXPECT_TRUE(controls.Line5.Visible());
+  EXPECT_TRUE(controls.Line6.Visible());
+  EXPECT_EQ(controls.Check1.Value, 0);
+  EXPECT_FALSE(System.graphics.palette.CoordinatesOn);
 }
 
 TEST_F(ScreenModesTest, HideLeavesTheCheckMarkAndItsFlag) {
-  System.Click(Controls.Check1);
+  System.Click(controls.Check1);
   Execute("HIDE");
-  EXPECT_FALSE(Controls.Line5.Visible());
-  EXPECT_EQ(Controls.Check1.Value, 1);
-  EXPECT_TRUE(System.Mouse.CoordinatesOn);
+  EXPECT_FALSE(controls.Line5.Visible());
+  EXPECT_EQ(controls.Check1.Value, 1);
+  EXPECT_TRUE(System.graphics.palette.CoordinatesOn);
 }
 
 TEST_F(ScreenModesTest, HideLeavesTheTextScreenTheEditorAndTheRows) {
   Execute("TS");
   Execute("HIDE");
-  EXPECT_TRUE(Controls.List4.Visible());
-  EXPECT_TRUE(Controls.Picture3.Visible());
+  EXPECT_TRUE(controls.List4.Visible());
+  EXPECT_TRUE(controls.Picture3.Visible());
   Execute("EDIT");
   Execute("HIDE");
-  EXPECT_TRUE(Controls.Text2.Visible());
+  EXPECT_TRUE(controls.Text2.Visible());
 }
 
 TEST_F(ScreenModesTest, AModeRepeatedSetsTheSameAgain) {
@@ -342,7 +342,7 @@ TEST_F(ScreenModesTest, LongNamesWorkOnlyWhereTheyAreNotTyped) {
   EXPECT_EQ(System.Picture1.Height(), Full);
   Type("FD 1");
   Execute("CLEARTEXT");
-  EXPECT_TRUE(Controls.List4.Items().empty());
+  EXPECT_TRUE(controls.List4.Items().empty());
 }
 
 TEST_F(ScreenModesTest, ModesTakeNoSmallLettersAndNoInputs) {
@@ -354,28 +354,28 @@ TEST_F(ScreenModesTest, ModesTakeNoSmallLettersAndNoInputs) {
 TEST_F(ScreenModesTest, ModesWorkInAProcedure) {
   Fill({"TO A", "FS", "TS", "END"});
   Type("A");
-  EXPECT_FALSE(Controls.Picture3.Visible());
-  EXPECT_TRUE(Controls.List4.Visible());
+  EXPECT_FALSE(controls.Picture3.Visible());
+  EXPECT_TRUE(controls.List4.Visible());
   EXPECT_EQ(System.Picture1.Height(), Split);
 }
 
 TEST_F(ScreenModesTest, ShowDetailsStopsTheClock) {
   Execute("SHOW TIME");
-  EXPECT_TRUE(Controls.Timer4.Enabled);
+  EXPECT_TRUE(controls.Timer4.Enabled);
   Execute("SHOW DETAILS");
-  EXPECT_FALSE(Controls.Timer4.Enabled);
-  EXPECT_TRUE(System.Primitives.DetailsOn);
+  EXPECT_FALSE(controls.Timer4.Enabled);
+  EXPECT_TRUE(System.interpreter.dispatch.DetailsOn);
   Execute("SHOW TIME");
-  EXPECT_TRUE(System.Primitives.DetailsOn);
+  EXPECT_TRUE(System.interpreter.dispatch.DetailsOn);
 }
 
 TEST_F(ScreenModesTest, ShowDeveloperTellsTheTeam) {
   for (const char* line : {"SHOW DEVELOPER", "SHOW DEVELOPERS"}) {
-    Desktop.Boxes.clear();
+    services.Boxes.clear();
     Execute(line);
-    ASSERT_EQ(Desktop.Boxes.size(), 1U);
+    ASSERT_EQ(services.Boxes.size(), 1U);
     EXPECT_EQ(
-        Desktop.Boxes[0],
+        services.Boxes[0],
         (ShownBox{"This Product is Developed by\r----------------------------------\r*Mr. Dorrin Pask\r*Mr. Hadric "
                   "Moll\r*Mr. Ostrane Velk\r*Mr. Ilmar Tessen",
                   64, "Zerimo Team"}));
@@ -385,27 +385,27 @@ TEST_F(ScreenModesTest, ShowDeveloperTellsTheTeam) {
 TEST_F(ScreenModesTest, ShowProcedureListsTheUsersProcedures) {
   Fill({"TO SQUARE", "END", "TO STAR :N", "END"});
   Type("SHOW PROCEDURE");
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"[SQUARE]   [STAR :N]   ", 0, ""}));
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"[SQUARE]   [STAR :N]   ", 0, ""}));
 }
 
 TEST_F(ScreenModesTest, ShowOpenAndSaveAsAskTheDialogs) {
   Execute("SHOW OPEN");
   Execute("SHOW SAVEAS");
-  EXPECT_EQ(Desktop.Dialogs, (Texts{"open", "save Zerimo File(.ZRM)"}));
+  EXPECT_EQ(services.Dialogs, (Texts{"open", "save Zerimo File(.ZRM)"}));
 }
 
 TEST_F(ScreenModesTest, ModesLeaveTheTurtle) {
   Execute("FD 10");
-  const double y = System.Turtle.TurtleY;
+  const double y = System.turtle.TurtleY;
   for (const char* line : {"FS", "SS", "TS"}) Execute(line);
-  EXPECT_EQ(System.Turtle.TurtleY, y);
+  EXPECT_EQ(System.turtle.TurtleY, y);
 }
 
 TEST_F(ScreenModesTest, HelpViewKeepsItsPlaceInEveryMode) {
-  const float height = Controls.RichTextBox1.Height();
+  const float height = controls.RichTextBox1.Height();
   Execute("FS");
-  EXPECT_EQ(Controls.RichTextBox1.Height(), height);
+  EXPECT_EQ(controls.RichTextBox1.Height(), height);
 }
 
 }  // namespace

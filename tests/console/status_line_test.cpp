@@ -54,14 +54,14 @@ TEST_F(StatusLineTest, BelowTheCentreHasNoBlankBehindTheColon) {
 }
 
 TEST_F(StatusLineTest, ARoundedNothingHasNoSign) {
-  System.Turtle.TurtleX = 7680 - .3;
-  System.Turtle.TurtleY = 5760 + .5;
+  System.turtle.TurtleX = 7680 - .3;
+  System.turtle.TurtleY = 5760 + .5;
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Xpos: 0]  [Ypos: 0]")) << Caption();
 }
 
 TEST_F(StatusLineTest, PenStateTwoIsUp) {
-  System.Turtle.PenState = 2;
+  System.turtle.PenState = 2;
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Pen State:Pen Up]")) << Caption();
 }
@@ -93,7 +93,7 @@ TEST_F(StatusLineTest, RepeatedTurnsAreNotReduced) {
 
 TEST_F(StatusLineTest, DetailsComeOnceForEachPrimitive) {
   std::vector<std::string> captions;
-  Controls.Form1.OnCaption = [&captions](const std::string& text) { captions.push_back(text); };
+  controls.Form1.OnCaption = [&captions](const std::string& text) { captions.push_back(text); };
   Type("SHOW DETAILS");
   EXPECT_EQ(captions.size(), 1U);
   Type("REPEAT 3 [RT 1 PU]");
@@ -102,15 +102,15 @@ TEST_F(StatusLineTest, DetailsComeOnceForEachPrimitive) {
 
 TEST_F(StatusLineTest, DetailsStopTheClockAndKeepItsLastTextOnlyUntilTheyWrite) {
   Type("SHOW TIME");
-  System.Tick(Controls.Timer4);
+  System.Tick(controls.Timer4);
   Type("SHOW DETAILS");
-  EXPECT_FALSE(Controls.Timer4.Enabled);
+  EXPECT_FALSE(controls.Timer4.Enabled);
   EXPECT_TRUE(Shows("[Xpos: 0]")) << Caption();
 }
 
 TEST_F(StatusLineTest, PositionIsRoundedInSurfaceUnitsAndShowsDecimals) {
-  System.Turtle.TurtleX = 7680 + 10.5;
-  System.Turtle.TurtleY = 5760 - 11.5;
+  System.turtle.TurtleX = 7680 + 10.5;
+  System.turtle.TurtleY = 5760 - 11.5;
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Xpos: .2]  [Ypos: .24]")) << Caption();
 }
@@ -125,21 +125,21 @@ TEST_F(StatusLineTest, AHeadingBeyond16BitsLeavesTheCaption) {
 TEST_F(StatusLineTest, AResolutionOf0LeavesTheCaption) {
   Type("SHOW DETAILS");
   const std::string before = Caption();
-  System.Turtle.Resolution = 0;
+  System.turtle.Resolution = 0;
   Type("RT 10");
   EXPECT_EQ(Caption(), before);
 }
 
 TEST_F(StatusLineTest, ClockWritesTheTimeOfDay) {
-  Desktop.Time = "08:15";
-  System.Tick(Controls.Timer4);
+  services.Time = "08:15";
+  System.Tick(controls.Timer4);
   EXPECT_EQ(Caption(), "Zerimo [ Time:08:15 ]");
 }
 
 TEST_F(StatusLineTest, ClockAndDetailsOverwriteEachOther) {
   Type("SHOW DETAILS");
   Type("SHOW TIME");
-  System.Tick(Controls.Timer4);
+  System.Tick(controls.Timer4);
   EXPECT_EQ(Caption(), "Zerimo [ Time:12:34 ]");
   Type("REFRESH");
   EXPECT_TRUE(Caption().starts_with("Zerimo        [Xpos:"));
@@ -147,7 +147,7 @@ TEST_F(StatusLineTest, ClockAndDetailsOverwriteEachOther) {
 
 TEST_F(StatusLineTest, HideResetsTheCaption) {
   Type("SHOW TIME");
-  System.Tick(Controls.Timer4);
+  System.Tick(controls.Timer4);
   Type("HIDE");
   EXPECT_EQ(Caption(), "Zerimo");
 }

@@ -22,7 +22,7 @@ class DesktopTest : public testing::Test {
   explicit DesktopTest(const QRect& available = {0, 0, 1024, 768});
   ~DesktopTest() override;
 
-  FormControls& Controls() { return session->System().Controls; }
+  Controls& Controls() { return session->System().controls; }
   Form1& System() { return session->System(); }
   MainWindow& Shown() { return session->Shown(); }
   QWidget& WidgetOf(const Control& control) { return Shown().WidgetOf(control); }

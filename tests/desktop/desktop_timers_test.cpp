@@ -19,7 +19,7 @@ class TimersTest : public testing::Test {
     return ticks;
   }
 
-  FormControls controls{ScreenSize{}};
+  Controls controls{ScreenSize{}};
   int ticks = 0;
   bool busy = false;
   DesktopTimers timers{controls, [this](Timer&) { ++ticks; }, [this] { return busy; }};
@@ -87,7 +87,7 @@ class SlideShowTest : public DesktopTest {
     ASSERT_TRUE(slide.save(folder.filePath(QLatin1String(name)), "JPG", 100));
   }
 
-  std::int16_t Counter() { return System().Photos.SlideCounter; }
+  std::int16_t Counter() { return System().files.pictures.SlideCounter; }
   QColor TopLeft() { return WidgetOf(System().Picture1).grab({30, 30, 1, 1}).toImage().pixelColor(0, 0); }
 };
 
@@ -109,11 +109,11 @@ TEST_F(SlideShowTest, TheSlidesComeOneAfterTheOtherUntilANumberIsMissing) {
 TEST_F(SlideShowTest, TheShowStandsStillWhileALineRuns) {
   WriteSlide("TRIP1.JPG", Qt::red);
   Type("wait 150");
-  System().Primitives.Execute("SLIDESHOW TRIP 40");
+  System().interpreter.dispatch.Execute("SLIDESHOW TRIP 40");
   Press(Qt::Key_Return);
-  EXPECT_EQ(System().Photos.SlideFileName, "");
+  EXPECT_EQ(System().files.pictures.SlideFileName, "");
   EXPECT_TRUE(Controls().Timer3.Enabled);
-  EXPECT_TRUE(Until([this] { return !System().Photos.SlideFileName.empty(); }));
+  EXPECT_TRUE(Until([this] { return !System().files.pictures.SlideFileName.empty(); }));
 }
 
 }  // namespace

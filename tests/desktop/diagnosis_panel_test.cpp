@@ -29,9 +29,9 @@ TEST_F(DiagnosisPanelTest, TheFieldsShowTheValuesOfTheStart) {
 
 TEST_F(DiagnosisPanelTest, AResolutionIsTakenAsItIsTyped) {
   Retype(Field(Controls().Text3), "100");
-  EXPECT_EQ(System().Turtle.Resolution, 100);
+  EXPECT_EQ(System().turtle.Resolution, 100);
   Retype(Field(Controls().Text3), "abc");
-  EXPECT_EQ(System().Turtle.Resolution, 0);
+  EXPECT_EQ(System().turtle.Resolution, 0);
 }
 
 TEST_F(DiagnosisPanelTest, ALineWidthIsTakenAsItIsTyped) {

@@ -18,7 +18,7 @@ TEST_F(FileDialogsTest, AnOpenedProgramIsLoaded) {
   AnswerNextBox({Qt::Key_Return}, name.c_str());
   Enter("show open");
   EXPECT_EQ(Controls().List3.Items(), std::vector<std::string>{"TO BOX"});
-  EXPECT_EQ(System().Files.CurrentFileName.substr(0, 1), "\\");
+  EXPECT_EQ(System().files.programFiles.CurrentFileName.substr(0, 1), "\\");
 }
 
 TEST_F(FileDialogsTest, ACancelledDialogDoesNothing) {

@@ -70,13 +70,13 @@ TEST_F(ListsTest, AListThatNobodyLooksAtIsNotFilled) {
 
 TEST_F(ListsTest, AListIsFilledWhenItsPanelOpens) {
   Controls().List1.SetLazily([] { return std::vector<std::string>{" 1  TO A"}; });
-  session->Deliver([](Form1& form1) { form1.Controls.Frame1.Show(); });
+  session->Deliver([](Form1& form1) { form1.controls.Frame1.Show(); });
   EXPECT_EQ(WidgetAs<QListView>(Controls().List1).model()->index(0, 0).data().toString(), " 1  TO A");
 }
 
 TEST_F(ListsTest, TheHistoryOpensAtItsEnd) {
   session->Deliver([](Form1& form1) {
-    for (int entry = 0; entry < 5000; ++entry) form1.Controls.List4.Add("?RT 1");
+    for (int entry = 0; entry < 5000; ++entry) form1.controls.List4.Add("?RT 1");
   });
   Press(Qt::Key_F3);
   const QScrollBar& bar = *History().verticalScrollBar();
@@ -88,7 +88,7 @@ TEST_F(ListsTest, TheHistoryOpensAtItsEnd) {
 
 TEST_F(ListsTest, AReaderInTheHistoryStaysWhereHeIs) {
   session->Deliver([](Form1& form1) {
-    for (int entry = 0; entry < 500; ++entry) form1.Controls.List4.Add("?RT 1");
+    for (int entry = 0; entry < 500; ++entry) form1.controls.List4.Add("?RT 1");
   });
   Press(Qt::Key_F3);
   History().verticalScrollBar()->setValue(7);
@@ -103,7 +103,7 @@ TEST_F(ListsTest, TheLastEntryOfTheHistoryIsNotHiddenByTheRows) {
 
 TEST_F(ListsTest, WithoutTheRowsTheHistoryIsAsHighAsItSays) {
   Press(Qt::Key_F4);
-  session->Deliver([](Form1& form1) { form1.Controls.List4.Show(); });
+  session->Deliver([](Form1& form1) { form1.controls.List4.Show(); });
   EXPECT_EQ(History().height(), 768 - 129 + 13);
 }
 

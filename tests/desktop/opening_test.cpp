@@ -25,7 +25,7 @@ TEST_F(OpeningTest, AProgramIsLoadedAsShowOpenLoadsIt) {
   EXPECT_EQ(Controls().List4.Items(), Items{"? LOAD " + nameWithoutEnding});
   EXPECT_EQ(Controls().List3.Items(), Items{"TO BOX"});
   EXPECT_EQ(Controls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
-  EXPECT_EQ(System().Files.CurrentFileName, nameWithoutEnding);
+  EXPECT_EQ(System().files.programFiles.CurrentFileName, nameWithoutEnding);
   EXPECT_TRUE(Boxes.empty());
 }
 
@@ -109,7 +109,7 @@ TEST_F(OpeningTest, WhatIsToTellComesBeforeTheFile) {
 
 TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
   WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
-  session->Deliver([](Form1& form) { form.Controls.Timer2.Enabled = true; });
+  session->Deliver([](Form1& form) { form.controls.Timer2.Enabled = true; });
   session->Greet({}, PathOf("box.zrm"));
   EXPECT_TRUE(Controls().List3.Items().empty());
   EXPECT_TRUE(Until([this] { return Controls().List3.Items() == Items{"TO BOX"}; }));

@@ -13,10 +13,10 @@ using Texts = std::vector<std::string>;
 TEST_F(RowsTest, TheFirstRowHasTheFocusAfterTheStart) { EXPECT_EQ(Focused(), &Row(0)); }
 
 TEST_F(RowsTest, ALineTypedWithKeysRuns) {
-  const double start = System().Turtle.TurtleY;
+  const double start = System().turtle.TurtleY;
   Enter("fd   10");
   EXPECT_EQ(Controls().List4.Items(), Texts{"?FD 10"});
-  EXPECT_EQ(System().Turtle.TurtleY, start - 500);
+  EXPECT_EQ(System().turtle.TurtleY, start - 500);
 }
 
 TEST_F(RowsTest, EnterGivesTheFocusToTheNextRowAndKeepsTheText) {

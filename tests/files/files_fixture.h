@@ -29,25 +29,25 @@ class PictureList : public SurfaceRecorder {
 
 /// The interpreter with files, editor, pictures and help in a folder of its own. `AppFolder` is the folder "app" in
 /// it, and the current folder is another one, "work".
-class FilesTest : public ::testing::Test, protected Interpreter {
+class FilesTest : public ::testing::Test, protected BareInterpreter {
  protected:
   FilesTest() {
     Disk.MakeFolder("app");
     Disk.MakeFolder("work");
     std::filesystem::current_path(Disk.Path / "work");
     Picture1.AddRecorder(Loaded);
-    Files.Bind();
-    Edit.Bind();
-    Photos.Bind();
-    Help.Bind();
-    Primitives.Bind(Action::SplitScreen, [this](PrimitiveCall&) {
+    programFiles.Bind();
+    editor.Bind();
+    pictures.Bind();
+    helpPages.Bind();
+    dispatch.Bind(Action::SplitScreen, [this](PrimitiveCall&) {
       ++SplitScreens;
-      TextAtSplitScreen = Controls.Text2.Text;
+      TextAtSplitScreen = controls.Text2.Text;
     });
   }
 
   /// A path in `AppFolder` as the system writes it.
-  std::string InApp(const std::string& name) const { return Place.AppFolder + "\\" + name; }
+  std::string InApp(const std::string& name) const { return folders.AppFolder + "\\" + name; }
 
   std::vector<std::string> Listed(const ListBox& list) const { return list.Items(); }
 
@@ -56,11 +56,11 @@ class FilesTest : public ::testing::Test, protected Interpreter {
   EmptyCanvas Pixels;
   PictureList Loaded;
   Surface Picture1{"Picture1", Pixels};
-  Pictures Photos{Picture1, Controls, Stages, Primitives, Place};
-  ProgramFiles Files{Store, Repeats, Names, Controls, Desktop, Primitives, Place, Photos};
-  Editor Edit{Store, Repeats, Controls, Primitives};
-  Saving Save{Controls, Store, Desktop, Files};
-  HelpPages Help{Controls, Desktop, Primitives};
+  Pictures Photos{Picture1, controls, arguments, dispatch, folders};
+  ProgramFiles Files{store, lowering, variables, controls, services, dispatch, folders, pictures};
+  Editor Edit{store, lowering, controls, dispatch};
+  Saving Save{controls, store, services, programFiles};
+  HelpPages Help{controls, services, dispatch};
   int SplitScreens = 0;
   std::string TextAtSplitScreen;
 };

@@ -19,29 +19,29 @@ class ProgramFilesTest : public FilesTest {
 
 TEST_F(ProgramFilesTest, ALoadFillsTheStore) {
   Disk.Write("app/BOX.ZRM", "TO BOX\r\n\r\nFD 10\r\n\r\n\r\nEND\r\n");
-  Primitives.Execute("LOAD BOX");
+  dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"TO BOX", "FD 10", "END"}));
 }
 
 TEST_F(ProgramFilesTest, TheCountStandsOneBehindTheLastLine) {
   Disk.Write("app/BOX.ZRM", "TO BOX\r\nEND\r\n");
-  Primitives.Execute("LOAD BOX");
-  EXPECT_EQ(Store.FileDataCount, 3);
+  dispatch.Execute("LOAD BOX");
+  EXPECT_EQ(store.FileDataCount, 3);
 }
 
 TEST_F(ProgramFilesTest, TheCountStandsOnTheLastLineWithoutALineEnd) {
   Disk.Write("app/BOX.ZRM", "TO BOX\r\nEND");
-  Primitives.Execute("LOAD BOX");
-  EXPECT_EQ(Store.FileDataCount, 2);
+  dispatch.Execute("LOAD BOX");
+  EXPECT_EQ(store.FileDataCount, 2);
 }
 
 TEST_F(ProgramFilesTest, ALoadGivesTheEditorTheVeryBytes) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
   Disk.Write("app/ALL.ZRM", all);
-  Primitives.Execute("LOAD ALL");
-  EXPECT_EQ(Controls.Text2.Text, all);
-  EXPECT_EQ(Files.LoadedText, all);
+  dispatch.Execute("LOAD ALL");
+  EXPECT_EQ(controls.Text2.Text, all);
+  EXPECT_EQ(programFiles.LoadedText, all);
 }
 
 TEST_F(ProgramFilesTest, OfEveryByteValueOnlyThePrintableOnesReachTheStore) {
@@ -52,13 +52,13 @@ TEST_F(ProgramFilesTest, OfEveryByteValueOnlyThePrintableOnesReachTheStore) {
   std::string kept;
   for (int code = 126; code > 32; --code) kept += static_cast<char>(code);
   Disk.Write("app/ALL.ZRM", all);
-  Primitives.Execute("LOAD ALL");
+  dispatch.Execute("LOAD ALL");
   EXPECT_EQ(Program(), (Texts{kept}));
 }
 
 TEST_F(ProgramFilesTest, ATypedNameFindsASmallOne) {
   Disk.Write("app/box.zrm", "FD 10");
-  Primitives.Execute("LOAD BOX");
+  dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"FD 10"}));
 }
 
@@ -67,7 +67,7 @@ TEST_F(ProgramFilesTest, NamesWithDotsBlanksAndUmlauts) {
       "app/1. \xC3\x9C"
       "bung.zrm",
       "FD 10");
-  Primitives.Execute(
+  dispatch.Execute(
       "LOAD 1. \xDC"
       "BUNG");
   EXPECT_EQ(Program(), (Texts{"FD 10"}));
@@ -75,261 +75,261 @@ TEST_F(ProgramFilesTest, NamesWithDotsBlanksAndUmlauts) {
 
 TEST_F(ProgramFilesTest, SmallLettersStay) {
   Disk.Write("app/BOX.ZRM", "to box\r\nfd 10\r\nend");
-  Primitives.Execute("LOAD BOX");
+  dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"to box", "fd 10", "end"}));
 }
 
 TEST_F(ProgramFilesTest, ALoadAddsBehindWhatIsThere) {
   Disk.Write("app/A.ZRM", "FD 1\r\n");
-  Primitives.Execute("LOAD A");
-  Primitives.Execute("LOAD A");
+  dispatch.Execute("LOAD A");
+  dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"FD 1", "FD 1"}));
-  EXPECT_EQ(Controls.Text2.Text, "FD 1\r\nFD 1\r\n");
+  EXPECT_EQ(controls.Text2.Text, "FD 1\r\nFD 1\r\n");
 }
 
 TEST_F(ProgramFilesTest, NoLineEndIsPutBetweenTwoLoads) {
   Disk.Write("app/A.ZRM", "FD 1");
-  Controls.Text2.Text = "BK 1";
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Controls.Text2.Text, "BK 1FD 1");
+  controls.Text2.Text = "BK 1";
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(controls.Text2.Text, "BK 1FD 1");
 }
 
 TEST_F(ProgramFilesTest, ANameWithAFolderDoesNotUseAppFolder) {
   Disk.Write("work/X/A.ZRM", "FD 1");
-  Primitives.Execute("LOAD X\\A");
+  dispatch.Execute("LOAD X\\A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
 TEST_F(ProgramFilesTest, ADriveLetterDoesNotUseAppFolder) {
   Disk.Write("x/a.zrm", "FD 1");
-  Primitives.Execute("LOAD C:" + Disk.Path.string() + "\\X\\A");
+  dispatch.Execute("LOAD C:" + Disk.Path.string() + "\\X\\A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
 TEST_F(ProgramFilesTest, CurrentFileNameIsTheTrimmedArgument) {
-  Primitives.Execute("LOAD  my box");
-  EXPECT_EQ(Files.CurrentFileName, "my box");
+  dispatch.Execute("LOAD  my box");
+  EXPECT_EQ(programFiles.CurrentFileName, "my box");
 }
 
 TEST_F(ProgramFilesTest, CurrentFileNameKeepsItsFolder) {
-  Primitives.Execute("LOAD C:\\X\\A");
-  EXPECT_EQ(Files.CurrentFileName, "C:\\X\\A");
+  dispatch.Execute("LOAD C:\\X\\A");
+  EXPECT_EQ(programFiles.CurrentFileName, "C:\\X\\A");
 }
 
 TEST_F(ProgramFilesTest, ABlankInFrontOfTheNameIsPartOfIt) {
   Disk.Write("app/BOX.ZRM", "FD 1");
-  Primitives.Execute("LOAD  BOX");
-  EXPECT_EQ(Desktop.Boxes, (std::vector{UnableToLoad(InApp(" BOX.ZRM"))}));
+  dispatch.Execute("LOAD  BOX");
+  EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp(" BOX.ZRM"))}));
 }
 
 TEST_F(ProgramFilesTest, AMissingInputIsTold) {
   for (const char* line : {"LOAD", "LOAD  "}) {
-    Desktop.Boxes.clear();
-    Primitives.Execute(line);
-    EXPECT_EQ(Desktop.Boxes, (std::vector{ShownBox{"Required Paramiter Missing After LOAD", 2, "Zerimo"}}));
+    services.Boxes.clear();
+    dispatch.Execute(line);
+    EXPECT_EQ(services.Boxes, (std::vector{ShownBox{"Required Paramiter Missing After LOAD", 2, "Zerimo"}}));
   }
 }
 
 TEST_F(ProgramFilesTest, AMissingInputDoesNothingElse) {
-  Files.CurrentFileName = "FORMER";
+  programFiles.CurrentFileName = "FORMER";
   Fill({"REPEAT 2 [FD 1]"});
-  Primitives.Execute("LOAD");
-  EXPECT_EQ(Files.CurrentFileName, "FORMER");
+  dispatch.Execute("LOAD");
+  EXPECT_EQ(programFiles.CurrentFileName, "FORMER");
   EXPECT_EQ(Program(), (Texts{"REPEAT 2 [FD 1]"}));
 }
 
 TEST_F(ProgramFilesTest, AMissingFileIsTold) {
-  Primitives.Execute("LOAD NONE");
-  EXPECT_EQ(Desktop.Boxes, (std::vector{UnableToLoad(InApp("NONE.ZRM"))}));
+  dispatch.Execute("LOAD NONE");
+  EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("NONE.ZRM"))}));
 }
 
 TEST_F(ProgramFilesTest, AFolderOfThatNameIsTold) {
   Disk.MakeFolder("app/BOX.ZRM");
-  Primitives.Execute("LOAD BOX");
-  EXPECT_EQ(Desktop.Boxes, (std::vector{UnableToLoad(InApp("BOX.ZRM"))}));
+  dispatch.Execute("LOAD BOX");
+  EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("BOX.ZRM"))}));
 }
 
 TEST_F(ProgramFilesTest, AMissingFileLeavesAllAsItWas) {
   Fill({"FD 1"});
-  Controls.Text2.Text = "TEXT";
-  Files.LoadedText = "FORMER";
-  Primitives.Execute("LOAD NONE");
+  controls.Text2.Text = "TEXT";
+  programFiles.LoadedText = "FORMER";
+  dispatch.Execute("LOAD NONE");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
-  EXPECT_EQ(Controls.Text2.Text, "TEXT");
-  EXPECT_EQ(Files.LoadedText, "FORMER");
+  EXPECT_EQ(controls.Text2.Text, "TEXT");
+  EXPECT_EQ(programFiles.LoadedText, "FORMER");
 }
 
 TEST_F(ProgramFilesTest, EveryAnswerToTheBoxDoesTheSame) {
   for (const Answer answer : {Answer::Abort, Answer::Retry, Answer::Ignore}) {
-    Desktop.Boxes.clear();
-    Desktop.BoxAnswers = {answer};
-    EXPECT_NO_THROW(Primitives.Execute("LOAD NONE"));
-    EXPECT_EQ(Desktop.Boxes.size(), 1U);
+    services.Boxes.clear();
+    services.BoxAnswers = {answer};
+    EXPECT_NO_THROW(dispatch.Execute("LOAD NONE"));
+    EXPECT_EQ(services.Boxes.size(), 1U);
   }
 }
 
 TEST_F(ProgramFilesTest, GlobalsAreReadAlsoWhenTheFileIsMissing) {
   Fill({"MAKE \"A 5", "TO BOX", "END"});
-  Primitives.Execute("LOAD NONE");
-  EXPECT_EQ(Names.Slot(1), "\"A=5");
+  dispatch.Execute("LOAD NONE");
+  EXPECT_EQ(variables.Slot(1), "\"A=5");
 }
 
 TEST_F(ProgramFilesTest, RepeatsAreLoweredAlsoWhenTheFileIsMissing) {
   Fill({"REPEAT 2 [FD 1]"});
-  Primitives.Execute("LOAD NONE");
+  dispatch.Execute("LOAD NONE");
   EXPECT_EQ(Program(), (Texts{"MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=2", "GOTO $", "ENDIF"}));
 }
 
 TEST_F(ProgramFilesTest, GlobalsOfTheFileAreMade) {
   Disk.Write("app/A.ZRM", "MAKE \"A 5\r\nTO BOX\r\nEND");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Names.Slot(1), "\"A=5");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(variables.Slot(1), "\"A=5");
 }
 
 TEST_F(ProgramFilesTest, RepeatsOfTheFileAreLowered) {
   Disk.Write("app/A.ZRM", "REPEAT 2 [FD 1]");
-  Primitives.Execute("LOAD A");
+  dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=2", "GOTO $", "ENDIF"}));
 }
 
 TEST_F(ProgramFilesTest, ALoopWithBlanksAsItsWriterMeant) {
   Disk.Write("app/A.ZRM", "REPEAT 4 [ FD 10 RT 90 ]");
-  Primitives.Execute("LOAD A");
+  dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"MAKE # 1", "LABEL $", "FD 10", "RT 90", "MAKE # #+1", "IF #<=4", "GOTO $", "ENDIF"}));
 }
 
 TEST_F(ProgramFilesTest, ALoadListsTheStore) {
   Disk.Write("app/A.ZRM", " TO BOX \r\nEND\r\n");
-  Controls.List1.Add("FORMER");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Listed(Controls.List1), (Texts{" 1  TO BOX", " 2  END"}));
-  EXPECT_EQ(Listed(Controls.List3), (Texts{"TO BOX"}));
+  controls.List1.Add("FORMER");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(Listed(controls.List1), (Texts{" 1  TO BOX", " 2  END"}));
+  EXPECT_EQ(Listed(controls.List3), (Texts{"TO BOX"}));
 }
 
 TEST_F(ProgramFilesTest, LinesAreTrimmedInTheStore) {
   Disk.Write("app/A.ZRM", "  FD 10  \r\n");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Store.Line(1), "FD 10");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(store.Line(1), "FD 10");
 }
 
 TEST_F(ProgramFilesTest, ALineOfBlanksEndsTheProgram) {
   Disk.Write("app/A.ZRM", "FD 1\r\n   \r\nTO BOX\r\nEND\r\n");
-  Primitives.Execute("LOAD A");
+  dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
-  EXPECT_EQ(Store.Line(3), "TO BOX");
+  EXPECT_EQ(store.Line(3), "TO BOX");
 }
 
 TEST_F(ProgramFilesTest, ALineOfBlanksIsListedAndTheListingGoesOn) {
   Disk.Write("app/A.ZRM", "FD 1\r\n   \r\nFD 3\r\n");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Listed(Controls.List1), (Texts{" 1  FD 1", " 2  ", " 3  FD 3"}));
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(Listed(controls.List1), (Texts{" 1  FD 1", " 2  ", " 3  FD 3"}));
 }
 
 TEST_F(ProgramFilesTest, WhatStandsBehindALineOfBlanksCanNotBeReached) {
   Disk.Write("app/A.ZRM", "TO A\r\nEND\r\n   \r\nTO B\r\nEND\r\n");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Store.WhereProcedure("A"), 1);
-  EXPECT_EQ(Store.WhereProcedure("B"), 0);
-  EXPECT_EQ(Listed(Controls.List3), (Texts{"TO A"}));
-  EXPECT_EQ(Store.ProcedureListInStringForm(), "[A]   ");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(store.WhereProcedure("A"), 1);
+  EXPECT_EQ(store.WhereProcedure("B"), 0);
+  EXPECT_EQ(Listed(controls.List3), (Texts{"TO A"}));
+  EXPECT_EQ(store.ProcedureListInStringForm(), "[A]   ");
 }
 
 TEST_F(ProgramFilesTest, A1999LineProgramLoads) {
   Disk.Write("app/A.ZRM", Statements(1999));
-  Primitives.Execute("LOAD A");
-  EXPECT_TRUE(Desktop.Boxes.empty());
-  EXPECT_EQ(Listed(Controls.List1).size(), 1999U);
+  dispatch.Execute("LOAD A");
+  EXPECT_TRUE(services.Boxes.empty());
+  EXPECT_EQ(Listed(controls.List1).size(), 1999U);
 }
 
 TEST_F(ProgramFilesTest, TheSearchForAnEmptyLineFailsInAFullStore) {
   Disk.Write("app/A.ZRM", Statements(2000));
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Desktop.Boxes, (std::vector{UnableToLoad(InApp("A.ZRM"))}));
-  EXPECT_EQ(Store.Line(2000), "FD 1");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("A.ZRM"))}));
+  EXPECT_EQ(store.Line(2000), "FD 1");
 }
 
 TEST_F(ProgramFilesTest, Line2001IsTold) {
   Disk.Write("app/A.ZRM", Statements(2001));
-  Controls.List1.Add("FORMER");
-  Controls.List3.Add("FORMER");
-  Primitives.Execute("LOAD A");
-  EXPECT_EQ(Desktop.Boxes, (std::vector{UnableToLoad(InApp("A.ZRM"))}));
-  EXPECT_EQ(Store.Line(2000), "FD 1");
-  EXPECT_EQ(Controls.Text2.Text, Statements(2001));
-  EXPECT_EQ(Listed(Controls.List1), (Texts{"FORMER"}));
-  EXPECT_EQ(Listed(Controls.List3), (Texts{"FORMER"}));
+  controls.List1.Add("FORMER");
+  controls.List3.Add("FORMER");
+  dispatch.Execute("LOAD A");
+  EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("A.ZRM"))}));
+  EXPECT_EQ(store.Line(2000), "FD 1");
+  EXPECT_EQ(controls.Text2.Text, Statements(2001));
+  EXPECT_EQ(Listed(controls.List1), (Texts{"FORMER"}));
+  EXPECT_EQ(Listed(controls.List3), (Texts{"FORMER"}));
 }
 
 TEST_F(ProgramFilesTest, MakeArrayLeavesWithItsFailure) {
-  EXPECT_EQ(FailureOf([&] { Files.MakeArray("NONE.ZRM"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { programFiles.MakeArray("NONE.ZRM"); }), FailureKind::FileNotFound);
 }
 
 TEST_F(ProgramFilesTest, MakeArrayLeavesTheEditorAlone) {
   Disk.Write("work/A.ZRM", "FD 1");
-  Files.MakeArray("A.ZRM");
+  programFiles.MakeArray("A.ZRM");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
-  EXPECT_EQ(Controls.Text2.Text, "");
+  EXPECT_EQ(controls.Text2.Text, "");
 }
 
 TEST_F(ProgramFilesTest, FileLoadTrimsThePath) {
   Disk.Write("work/A.ZRM", "FD 1");
-  Files.FileLoad("  A");
+  programFiles.FileLoad("  A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
 TEST_F(ProgramFilesTest, ShowOpenLoadsAProgram) {
   Disk.Write("work/sub/Box.zrm", "FD 1");
-  Desktop.OpenAnswers = {" sub\\Box.zrm "};
-  Files.ShowOpen();
+  services.OpenAnswers = {" sub\\Box.zrm "};
+  programFiles.ShowOpen();
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
-  EXPECT_EQ(Listed(Controls.List4), (Texts{"? LOAD sub\\Box"}));
-  EXPECT_EQ(Files.CurrentFileName, "sub\\Box");
+  EXPECT_EQ(Listed(controls.List4), (Texts{"? LOAD sub\\Box"}));
+  EXPECT_EQ(programFiles.CurrentFileName, "sub\\Box");
 }
 
 TEST_F(ProgramFilesTest, ShowOpenWithoutANameDoesNothing) {
-  Desktop.OpenAnswers = {"  "};
-  Files.ShowOpen();
-  EXPECT_TRUE(Desktop.Boxes.empty());
-  EXPECT_TRUE(Listed(Controls.List4).empty());
+  services.OpenAnswers = {"  "};
+  programFiles.ShowOpen();
+  EXPECT_TRUE(services.Boxes.empty());
+  EXPECT_TRUE(Listed(controls.List4).empty());
 }
 
 TEST_F(ProgramFilesTest, ShowOpenAsksTheOpenDialog) {
-  Files.ShowOpen();
-  EXPECT_EQ(Desktop.Dialogs, (Texts{"open"}));
+  programFiles.ShowOpen();
+  EXPECT_EQ(services.Dialogs, (Texts{"open"}));
 }
 
 TEST_F(ProgramFilesTest, ShowOpenRefusesOtherFiles) {
   for (const char* name : {"C:\\A.TXT", "C:\\A.ICO", "C:\\A.CUR", "A", "ZRM"}) {
-    Desktop.Boxes.clear();
-    Desktop.OpenAnswers = {name};
-    Files.ShowOpen();
-    EXPECT_EQ(Desktop.Boxes, (std::vector{ShownBox{"Invalid File Format", 16, "Zerimo"}})) << name;
+    services.Boxes.clear();
+    services.OpenAnswers = {name};
+    programFiles.ShowOpen();
+    EXPECT_EQ(services.Boxes, (std::vector{ShownBox{"Invalid File Format", 16, "Zerimo"}})) << name;
   }
 }
 
 TEST_F(ProgramFilesTest, ShowOpenShowsAPicture) {
   Disk.Write("work/sub/Sea.jpg", "picture");
-  Desktop.OpenAnswers = {"sub\\Sea.jpg"};
-  Files.ShowOpen();
+  services.OpenAnswers = {"sub\\Sea.jpg"};
+  programFiles.ShowOpen();
   EXPECT_EQ(Loaded.Paths, (Texts{"sub\\Sea.jpg"}));
-  EXPECT_EQ(Listed(Controls.List4), (Texts{"? LOADPICTURE SUB\\SEA"}));
+  EXPECT_EQ(Listed(controls.List4), (Texts{"? LOADPICTURE SUB\\SEA"}));
 }
 
 TEST_F(ProgramFilesTest, ShowOpenEchoesAPictureThatFails) {
   for (const char* name : {"X\\A.BMP", "X\\A.gif"}) {
-    Controls.List4.Clear();
-    Desktop.OpenAnswers = {name};
-    Files.ShowOpen();
-    EXPECT_EQ(Listed(Controls.List4), (Texts{"? LOADPICTURE X\\A"})) << name;
+    controls.List4.Clear();
+    services.OpenAnswers = {name};
+    programFiles.ShowOpen();
+    EXPECT_EQ(Listed(controls.List4), (Texts{"? LOADPICTURE X\\A"})) << name;
   }
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(ProgramFilesTest, ShowOpenOnTheBareEndingTellsAMissingInput) {
-  Desktop.OpenAnswers = {".ZRM"};
-  Files.ShowOpen();
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Required Paramiter Missing After LOAD"}));
-  EXPECT_EQ(Listed(Controls.List4), (Texts{"? LOAD "}));
+  services.OpenAnswers = {".ZRM"};
+  programFiles.ShowOpen();
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Required Paramiter Missing After LOAD"}));
+  EXPECT_EQ(Listed(controls.List4), (Texts{"? LOAD "}));
 }
 
 }  // namespace

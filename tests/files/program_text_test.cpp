@@ -22,8 +22,8 @@ void PrintTo(const Filling& one, std::ostream* out) { *out << one.Name; }
 class FillStoreTable : public ::testing::TestWithParam<Filling> {};
 
 TEST_P(FillStoreTable, GivesStatements) {
-  FormControls controls{ScreenSize{}};
-  ProgramStore store{controls.List3};
+  Controls controls{ScreenSize{}};
+  Store store{controls.List3};
   std::int16_t number = 1;
   FillStore(store, GetParam().Text, number);
   Texts statements;
@@ -60,34 +60,34 @@ TEST_F(FillStoreTest, OnlyCodes32To126AreKept) {
     if (code >= 32 && code <= 126) kept += static_cast<char>(code);
   }
   std::int16_t number = 1;
-  FillStore(Store, all, number);
-  EXPECT_EQ(Store.Line(1), kept);
+  FillStore(store, all, number);
+  EXPECT_EQ(store.Line(1), kept);
 }
 
 TEST_F(FillStoreTest, ALineMayHaveAnyLength) {
   std::int16_t number = 1;
-  FillStore(Store, std::string(100000, 'A'), number);
-  EXPECT_EQ(Store.Line(1).size(), 100000U);
+  FillStore(store, std::string(100000, 'A'), number);
+  EXPECT_EQ(store.Line(1).size(), 100000U);
 }
 
 TEST_F(FillStoreTest, StaleLinesGetTheTextJoined) {
   Fill({"STALE"}, 2);
   std::int16_t number = 1;
-  FillStore(Store, "FD 1\rFD 2", number);
+  FillStore(store, "FD 1\rFD 2", number);
   EXPECT_EQ(Program(), (Texts{"FD 1", "STALEFD 2"}));
 }
 
 TEST_F(FillStoreTest, Line2000IsTheLast) {
   std::int16_t number = 2000;
-  FillStore(Store, "FD 1\r\n", number);
-  EXPECT_EQ(Store.Line(2000), "FD 1");
+  FillStore(store, "FD 1\r\n", number);
+  EXPECT_EQ(store.Line(2000), "FD 1");
   EXPECT_EQ(number, 2001);
 }
 
 TEST_F(FillStoreTest, Line2001Fails) {
   std::int16_t number = 2000;
-  EXPECT_EQ(FailureOf([&] { FillStore(Store, "FD 1\r\nFD 2", number); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Store.Line(2000), "FD 1");
+  EXPECT_EQ(FailureOf([&] { FillStore(store, "FD 1\r\nFD 2", number); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(store.Line(2000), "FD 1");
 }
 
 }  // namespace

@@ -17,13 +17,13 @@ class TempFolder {
     std::random_device random;
     Path = std::filesystem::temp_directory_path() /
            ("zerimo-test-" + std::to_string(random()) + "-" + std::to_string(random()));
-    std::filesystem::create_directories(Path);
-    std::filesystem::current_path(Path);
+    std::filesystem::create_directories(controlPath);
+    std::filesystem::current_path(controlPath);
   }
   ~TempFolder() {
     std::error_code error;
     std::filesystem::current_path(former, error);
-    std::filesystem::remove_all(Path, error);
+    std::filesystem::remove_all(controlPath, error);
   }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
@@ -48,7 +48,7 @@ class TempFolder {
     return std::distance(std::filesystem::directory_iterator(Path / name), {});
   }
 
-  std::filesystem::path Path;
+  std::filesystem::path controlPath;
 
  private:
   std::filesystem::path former;

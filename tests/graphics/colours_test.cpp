@@ -22,7 +22,7 @@ TEST_P(ColourOfCode, IsTheOneOfTheTable) {
   const TableRow row = GetParam();
   Do("SETPC " + std::to_string(row.Code));
   EXPECT_EQ(Picture1.ForeColor(), row.Red + 256 * row.Green + 65536 * row.Blue);
-  EXPECT_EQ(Turtle.PenColor, row.Code);
+  EXPECT_EQ(turtle.PenColor, row.Code);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, ColourOfCode,
@@ -45,7 +45,7 @@ class ReducedCode : public DrawingTest, public testing::WithParamInterface<Reduc
 TEST_P(ReducedCode, IsTheRemainderOfTheRoundedInput) {
   const std::string input = GetParam().Input;
   Do("SETBG " + input);
-  EXPECT_EQ(Turtle.BGColor, GetParam().Code);
+  EXPECT_EQ(turtle.BGColor, GetParam().Code);
 }
 
 INSTANTIATE_TEST_SUITE_P(Inputs, ReducedCode,
@@ -58,16 +58,16 @@ INSTANTIATE_TEST_SUITE_P(Inputs, ReducedCode,
 
 TEST_F(ColoursTest, SetPCColoursPenFigureFramesAndCaption) {
   EXPECT_EQ(Do("SETPC 4"), Texts{"ForeColor=128"});
-  EXPECT_EQ(Turtle.PenColor, 4);
-  EXPECT_EQ(Controls.Shape2.BorderColor, 128);
-  EXPECT_EQ(Controls.Line1.BorderColor, 128);
-  EXPECT_EQ(Controls.Line2.BorderColor, 128);
-  EXPECT_EQ(Controls.Line3.BorderColor, 128);
+  EXPECT_EQ(turtle.PenColor, 4);
+  EXPECT_EQ(controls.Shape2.BorderColor, 128);
+  EXPECT_EQ(controls.Line1.BorderColor, 128);
+  EXPECT_EQ(controls.Line2.BorderColor, 128);
+  EXPECT_EQ(controls.Line3.BorderColor, 128);
   for (const Shape* frame : {&Controls.Shape5, &Controls.Shape7}) {
-    EXPECT_EQ(frame->Left, Controls.Label13[4].Left);
-    EXPECT_EQ(frame->Top, Controls.Label13[4].Top);
+    EXPECT_EQ(frame->Left, controls.Label13[4].Left);
+    EXPECT_EQ(frame->Top, controls.Label13[4].Top);
   }
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc  4");
+  EXPECT_EQ(controls.Label15.Caption, "Setpc  4");
 }
 
 TEST_F(ColoursTest, SetPCWithThePenUpChangesTheForegroundAtOnce) {
@@ -77,49 +77,49 @@ TEST_F(ColoursTest, SetPCWithThePenUpChangesTheForegroundAtOnce) {
 TEST_F(ColoursTest, SetPCWhileErasingBeforeTheFirstSetBGLeavesTheForeground) {
   Do("PE");
   EXPECT_EQ(Do("SETPC 2"), Nothing);
-  EXPECT_EQ(Turtle.PenColor, 2);
-  EXPECT_EQ(Controls.Shape2.BorderColor, QBColor(2));
+  EXPECT_EQ(turtle.PenColor, 2);
+  EXPECT_EQ(controls.Shape2.BorderColor, QBColor(2));
 }
 
 TEST_F(ColoursTest, SetPCWhileErasingGoesOnErasing) {
   Do("SETBG 1", "PE");
   EXPECT_EQ(Do("SETPC 2"), Texts{"ForeColor=8388608"});
-  EXPECT_EQ(Turtle.PenColor, 2);
-  EXPECT_EQ(Controls.Shape2.BorderColor, QBColor(2));
+  EXPECT_EQ(turtle.PenColor, 2);
+  EXPECT_EQ(controls.Shape2.BorderColor, QBColor(2));
 }
 
 TEST_F(ColoursTest, NegativeSetPCSetsTheOldColourAgainAndItsCaptionOnly) {
   Do("SETPC 4");
   EXPECT_EQ(Do("SETPC -1"), Texts{"ForeColor=128"});
-  EXPECT_EQ(Turtle.PenColor, 4);
-  EXPECT_EQ(Controls.Shape2.BorderColor, 128);
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[4].Left);
-  EXPECT_EQ(Controls.Shape7.Top, Controls.Label13[4].Top);
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc -1");
+  EXPECT_EQ(turtle.PenColor, 4);
+  EXPECT_EQ(controls.Shape2.BorderColor, 128);
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[4].Left);
+  EXPECT_EQ(controls.Shape7.Top, controls.Label13[4].Top);
+  EXPECT_EQ(controls.Label15.Caption, "Setpc -1");
 }
 
 TEST_F(ColoursTest, SetPC20TakesCode4AndLeavesTheFrames) {
   EXPECT_EQ(Do("SETPC 20"), Texts{"ForeColor=128"});
-  EXPECT_EQ(Turtle.PenColor, 4);
-  EXPECT_EQ(Controls.Shape2.BorderColor, 128);
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[15].Left);
-  EXPECT_EQ(Controls.Shape7.Top, Controls.Label13[15].Top);
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc  20");
+  EXPECT_EQ(turtle.PenColor, 4);
+  EXPECT_EQ(controls.Shape2.BorderColor, 128);
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[15].Left);
+  EXPECT_EQ(controls.Shape7.Top, controls.Label13[15].Top);
+  EXPECT_EQ(controls.Label15.Caption, "Setpc  20");
 }
 
 TEST_F(ColoursTest, SetPCBeyond32BitsKeepsTheCode) {
   EXPECT_EQ(Do("SETPC 3000000000"), Texts{"ForeColor=16777215"});
-  EXPECT_EQ(Turtle.PenColor, 15);
-  EXPECT_EQ(Controls.Shape2.BorderColor, 0xFFFFFF);
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc  3000000000");
+  EXPECT_EQ(turtle.PenColor, 15);
+  EXPECT_EQ(controls.Shape2.BorderColor, 0xFFFFFF);
+  EXPECT_EQ(controls.Label15.Caption, "Setpc  3000000000");
 }
 
 TEST_F(ColoursTest, FractionIsRoundedForTheCodeAndTheFramesButNotForTheCaption) {
   Do("SETPC 2.5");
-  EXPECT_EQ(Turtle.PenColor, 2);
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[2].Left);
-  EXPECT_EQ(Controls.Shape7.Top, Controls.Label13[2].Top);
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc  2.5");
+  EXPECT_EQ(turtle.PenColor, 2);
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[2].Left);
+  EXPECT_EQ(controls.Shape7.Top, controls.Label13[2].Top);
+  EXPECT_EQ(controls.Label15.Caption, "Setpc  2.5");
 }
 
 // SETBG.
@@ -128,14 +128,14 @@ TEST_F(ColoursTest, SetBGClearsTheSurfaceAndKeepsTheTurtle) {
   Pixels.Calls.clear();
   Do("SETBG 1");
   EXPECT_EQ(Pixels.Calls, Texts{"Clear 8388608"});
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
-  EXPECT_EQ(Turtle.TurtleDir, 0);
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleDir, 0);
 }
 
 TEST_F(ColoursTest, SetBGWithThePenDownSetsThePenColour) {
   EXPECT_EQ(Do("SETBG 1"), Texts({"BackColor=8388608", "ForeColor=16777215"}));
-  EXPECT_EQ(Turtle.BGColor, 1);
+  EXPECT_EQ(turtle.BGColor, 1);
 }
 
 TEST_F(ColoursTest, SetBGWithThePenUpLeavesTheForeground) {
@@ -150,25 +150,25 @@ TEST_F(ColoursTest, SetBGWhileErasingErasesWithTheNewBackground) {
 TEST_F(ColoursTest, SetBGMovesTheFramesAndWritesTheCaption) {
   Do("SETBG 6");
   for (const Shape* frame : {&Controls.Shape5, &Controls.Shape7}) {
-    EXPECT_EQ(frame->Left, Controls.Label13[6].Left);
-    EXPECT_EQ(frame->Top, Controls.Label13[6].Top);
+    EXPECT_EQ(frame->Left, controls.Label13[6].Left);
+    EXPECT_EQ(frame->Top, controls.Label13[6].Top);
   }
-  EXPECT_EQ(Controls.Label15.Caption, "Setbg  6");
-  EXPECT_EQ(Controls.Shape2.BorderColor, 0xFFFFFF);
+  EXPECT_EQ(controls.Label15.Caption, "Setbg  6");
+  EXPECT_EQ(controls.Shape2.BorderColor, 0xFFFFFF);
 }
 
 TEST_F(ColoursTest, SetBGBeyondTheSquaresReducesTheCodeAlone) {
   Do("SETBG 20");
   EXPECT_EQ(Picture1.BackColor(), 128);
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[15].Left);
-  EXPECT_EQ(Controls.Label15.Caption, "Setbg  20");
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[15].Left);
+  EXPECT_EQ(controls.Label15.Caption, "Setbg  20");
 }
 
 TEST_F(ColoursTest, NegativeSetBGKeepsTheCodeAndTheBackgroundStays) {
   EXPECT_EQ(Do("SETBG -1"), Texts{"ForeColor=16777215"});
-  EXPECT_EQ(Turtle.BGColor, -1);
+  EXPECT_EQ(turtle.BGColor, -1);
   EXPECT_EQ(Picture1.BackColor(), 8388736);
-  EXPECT_EQ(Controls.Label15.Caption, "Setbg -1");
+  EXPECT_EQ(controls.Label15.Caption, "Setbg -1");
 }
 
 TEST_F(ColoursTest, NegativeSetBGWhileErasingFailsUntilTheNextSetBG) {
@@ -180,109 +180,109 @@ TEST_F(ColoursTest, NegativeSetBGWhileErasingFailsUntilTheNextSetBG) {
 // FillBack.
 
 TEST_F(ColoursTest, FillBackSetsTheLatticeRowByRow) {
-  Turtle.BGColor = 5;
+  turtle.BGColor = 5;
   Picture1.Width = 101;
   Picture1.SetHeight(51);
   Recorder.Operations.clear();
-  Colouring.FillBack(4);
+  colours.FillBack(4);
   EXPECT_EQ(Recorder.Operations, Texts({"PSet 1 1 128", "PSet 51 1 128", "PSet 101 1 128", "PSet 1 51 128",
                                         "PSet 51 51 128", "PSet 101 51 128"}));
-  EXPECT_EQ(Turtle.BGColor, 4);
+  EXPECT_EQ(turtle.BGColor, 4);
   EXPECT_EQ(Picture1.BackColor(), 8388736);
 }
 
 TEST_F(ColoursTest, FillBackRoundsTheWidthAlone) {
-  Turtle.BGColor = 5;
+  turtle.BGColor = 5;
   Picture1.Width = 50.5;
   Picture1.SetHeight(50.9F);
   Recorder.Operations.clear();
-  Colouring.FillBack(4);
+  colours.FillBack(4);
   EXPECT_EQ(Recorder.Operations, Texts{"PSet 1 1 128"});
   Picture1.Width = 51.5;
-  Turtle.BGColor = 5;
+  turtle.BGColor = 5;
   Recorder.Operations.clear();
-  Colouring.FillBack(4);
+  colours.FillBack(4);
   EXPECT_EQ(Recorder.Operations, Texts({"PSet 1 1 128", "PSet 51 1 128"}));
 }
 
 TEST_F(ColoursTest, FillBackPassesOverPointsOfAnotherColour) {
-  Turtle.BGColor = 6;
+  turtle.BGColor = 6;
   Recorder.Operations.clear();
-  Colouring.FillBack(4);
+  colours.FillBack(4);
   EXPECT_EQ(Recorder.Operations, Nothing);
-  EXPECT_EQ(Turtle.BGColor, 4);
+  EXPECT_EQ(turtle.BGColor, 4);
 }
 
 TEST_F(ColoursTest, FillBackFailsWhileTheBackgroundIsNoCode) {
-  EXPECT_THROW(Colouring.FillBack(4), Failure);
-  EXPECT_EQ(Turtle.BGColor, 8388736);
+  EXPECT_THROW(colours.FillBack(4), Failure);
+  EXPECT_EQ(turtle.BGColor, 8388736);
 }
 
 TEST_F(ColoursTest, FillBackFailsAtACodeOutsideOfTheTable) {
-  Turtle.BGColor = 5;
-  EXPECT_THROW(Colouring.FillBack(16), Failure);
-  EXPECT_EQ(Turtle.BGColor, 5);
+  turtle.BGColor = 5;
+  EXPECT_THROW(colours.FillBack(16), Failure);
+  EXPECT_EQ(turtle.BGColor, 5);
 }
 
 TEST_F(ColoursTest, FillBackFailsAtAWidthBeyond16Bits) {
-  Turtle.BGColor = 6;
+  turtle.BGColor = 6;
   Picture1.Width = 40000;
-  EXPECT_THROW(Colouring.FillBack(4), Failure);
+  EXPECT_THROW(colours.FillBack(4), Failure);
 }
 
 // TEXTCOLOR and TEXTBACKGROUND.
 
 TEST_F(ColoursTest, TextColorColoursRowsPromptAndTextScreen) {
   EXPECT_EQ(Do("TEXTCOLOR 19"), Nothing);
-  for (int row = 0; row < 5; ++row) EXPECT_EQ(Controls.Text1[row].ForeColor, QBColor(3));
-  EXPECT_EQ(Controls.Prompt.ForeColor, QBColor(3));
-  EXPECT_EQ(Controls.List4.ForeColor, QBColor(3));
-  EXPECT_EQ(Controls.Label15.Caption, "TEXTCOLOR  19");
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[15].Left);
+  for (int row = 0; row < 5; ++row) EXPECT_EQ(controls.Text1[row].ForeColor, QBColor(3));
+  EXPECT_EQ(controls.Prompt.ForeColor, QBColor(3));
+  EXPECT_EQ(controls.List4.ForeColor, QBColor(3));
+  EXPECT_EQ(controls.Label15.Caption, "TEXTCOLOR  19");
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[15].Left);
 }
 
 TEST_F(ColoursTest, TextBackgroundColoursTheSameControlsAndKeepsTheSlipOfItsCaption) {
   EXPECT_EQ(Do("TEXTBACKGROUND 3"), Nothing);
-  for (int row = 0; row < 5; ++row) EXPECT_EQ(Controls.Text1[row].BackColor, QBColor(3));
-  EXPECT_EQ(Controls.Prompt.BackColor, QBColor(3));
-  EXPECT_EQ(Controls.List4.BackColor, QBColor(3));
-  EXPECT_EQ(Controls.Label15.Caption, "TEXTCOLOR  3");
+  for (int row = 0; row < 5; ++row) EXPECT_EQ(controls.Text1[row].BackColor, QBColor(3));
+  EXPECT_EQ(controls.Prompt.BackColor, QBColor(3));
+  EXPECT_EQ(controls.List4.BackColor, QBColor(3));
+  EXPECT_EQ(controls.Label15.Caption, "TEXTCOLOR  3");
 }
 
 TEST_F(ColoursTest, TextColoursMoveTheFrames) {
   Do("TEXTCOLOR 3");
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[3].Left);
-  EXPECT_EQ(Controls.Shape7.Top, Controls.Label13[3].Top);
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[3].Left);
+  EXPECT_EQ(controls.Shape7.Top, controls.Label13[3].Top);
   Do("TEXTBACKGROUND 8");
-  EXPECT_EQ(Controls.Shape5.Top, Controls.Label13[8].Top);
-  EXPECT_EQ(Controls.Shape7.Left, Controls.Label13[8].Left);
+  EXPECT_EQ(controls.Shape5.Top, controls.Label13[8].Top);
+  EXPECT_EQ(controls.Shape7.Left, controls.Label13[8].Left);
 }
 
 TEST_F(ColoursTest, NegativeTextColoursWriteTheCaptionOnly) {
-  const Colour fore = Controls.Text1[0].ForeColor;
-  const Colour back = Controls.List4.BackColor;
+  const Colour fore = controls.Text1[0].ForeColor;
+  const Colour back = controls.List4.BackColor;
   Do("TEXTCOLOR -1");
-  EXPECT_EQ(Controls.Label15.Caption, "TEXTCOLOR -1");
+  EXPECT_EQ(controls.Label15.Caption, "TEXTCOLOR -1");
   Do("TEXTBACKGROUND -2");
-  EXPECT_EQ(Controls.Label15.Caption, "TEXTCOLOR -2");
-  EXPECT_EQ(Controls.Text1[0].ForeColor, fore);
-  EXPECT_EQ(Controls.List4.BackColor, back);
-  EXPECT_EQ(Controls.Shape5.Left, Controls.Label13[15].Left);
+  EXPECT_EQ(controls.Label15.Caption, "TEXTCOLOR -2");
+  EXPECT_EQ(controls.Text1[0].ForeColor, fore);
+  EXPECT_EQ(controls.List4.BackColor, back);
+  EXPECT_EQ(controls.Shape5.Left, controls.Label13[15].Left);
 }
 
 class MissingColour : public DrawingTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(MissingColour, ShowsTheBoxAndEnds) {
   EXPECT_EQ(Do(GetParam()), Nothing);
-  EXPECT_EQ(Desktop.Boxes, std::vector<ShownBox>({{std::string(MissingText) + GetParam(), 2, "Zerimo"}}));
-  EXPECT_EQ(Controls.Label15.Caption, "Setpc 15");
+  EXPECT_EQ(services.Boxes, std::vector<ShownBox>({{std::string(MissingText) + GetParam(), 2, "Zerimo"}}));
+  EXPECT_EQ(controls.Label15.Caption, "Setpc 15");
 }
 
 INSTANTIATE_TEST_SUITE_P(Words, MissingColour, testing::Values("SETPC", "SETBG", "TEXTCOLOR", "TEXTBACKGROUND"));
 
 TEST_F(ColoursTest, CleaningTouchesNoColour) {
   EXPECT_EQ(Do("SETPC 4", "CS", "CLEAN"), Texts({"ForeColor=128", "Cls", "Cls"}));
-  EXPECT_EQ(Turtle.PenColor, 4);
+  EXPECT_EQ(turtle.PenColor, 4);
 }
 
 }  // namespace

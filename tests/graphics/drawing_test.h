@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 #include "graphics/colours.h"
 #include "graphics/drawing_context.h"
 #include "graphics/flood_fill.h"
@@ -23,8 +23,8 @@
 #include "interpreter/arithmetic.h"
 #include "interpreter/control_path.h"
 #include "interpreter/dispatch.h"
-#include "interpreter/program_store.h"
-#include "interpreter/turtle_state.h"
+#include "interpreter/store.h"
+#include "interpreter/turtle.h"
 #include "interpreter/variables.h"
 #include "support/fake_services.h"
 #include "support/limited_watch.h"
@@ -38,59 +38,59 @@ using Texts = std::vector<std::string>;
 class DrawingTest : public testing::Test {
  protected:
   DrawingTest() {
-    Controls.Form1.Width = 12000;
-    Controls.Form1.SetHeight(9000);
-    Picture1.CreateCanvas(Controls.Screen.Width, Controls.Screen.Height);
+    controls.Form1.Width = 12000;
+    controls.Form1.SetHeight(9000);
+    Picture1.CreateCanvas(controls.Screen.Width, controls.Screen.Height);
     Picture1.Width = 10000;
     Picture1.SetHeight(8000);
     Picture1.SetFontSize(12);
-    Turtle.TurtleX = 1000;
-    Turtle.TurtleY = 2000;
-    Turtle.BGColor = Picture1.BackColor();
-    Places.Bind();
-    Moves.Bind();
-    Colouring.Bind();
-    Figures.Bind();
-    Floods.Bind();
-    Writing.Bind();
-    Primitives.TurtlePos = [this] { Figure.TurtlePos(Turtle.TurtleX, Turtle.TurtleY, Turtle.TurtleDir); };
-    Primitives.RefreshSurface = [this] { ++Refreshes; };
+    turtle.TurtleX = 1000;
+    turtle.TurtleY = 2000;
+    turtle.BGColor = Picture1.BackColor();
+    turtlePlaces.Bind();
+    motion.Bind();
+    colours.Bind();
+    shapes.Bind();
+    floodFills.Bind();
+    surfaceText.Bind();
+    dispatch.TurtlePos = [this] { turtleFigure.TurtlePos(turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir); };
+    dispatch.RefreshSurface = [this] { ++Refreshes; };
     Picture1.AddRecorder(Recorder);
   }
 
   /// Carries out primitive lines and returns the surface's operations.
   template <typename... Lines>
-  Texts Do(Lines... lines) {
+  Texts Do(typedLines... lines) {
     Recorder.Operations.clear();
-    (Primitives.Execute(lines), ...);
+    (dispatch.Execute(lines), ...);
     return Recorder.Operations;
   }
 
-  void FenceIn() { Turtle.FenceMode = 2; }
+  void FenceIn() { turtle.FenceMode = 2; }
 
   ScreenSize Size{15360, 11520};
-  FormControls Controls{Size};
-  FakeServices Desktop;
-  LimitedWatch Watch;
+  Controls Controls{Size};
+  FakeServices services;
+  LimitedWatch watch;
   SpyCanvas Pixels;
   OperationTexts Recorder;
   Surface Picture1{"Picture1", Pixels};
-  TurtleState Turtle;
-  ControlPath Path;
-  ProgramStore Store{Controls.List3};
-  Arithmetic Evaluation{Watch};
-  Variables Names{Store, Path, Turtle, Controls.Form1, Controls.List2, Evaluation, Watch};
-  Arguments Stages{Names, Evaluation};
-  Dispatch Primitives{Desktop};
-  DrawingContext Drawing{Turtle, Picture1, Controls, Stages, Desktop, Primitives};
-  TurtleFigure Figure{Controls};
-  TurtlePlaces Places{Drawing};
-  Motion Moves{Drawing};
-  Colours Colouring{Drawing, Figure};
-  Shapes Figures{Drawing};
-  FloodFills Floods{Drawing};
-  SurfaceText Writing{Drawing};
-  Palette Mouse{Drawing};
+  Turtle turtle;
+  ControlPath controlPath;
+  Store Store{controls.List3};
+  Arithmetic Evaluation{watch};
+  Variables Names{store, controlPath, turtle, controls.Form1, controls.List2, arithmetic, watch};
+  Arguments Stages{variables, arithmetic};
+  Dispatch Primitives{services};
+  DrawingContext Drawing{turtle, Picture1, controls, arguments, services, dispatch};
+  TurtleFigure Figure{controls};
+  TurtlePlaces Places{drawing};
+  Motion Moves{drawing};
+  Colours Colouring{drawing, turtleFigure};
+  Shapes Figures{drawing};
+  FloodFills Floods{drawing};
+  SurfaceText Writing{drawing};
+  Palette Mouse{drawing};
   int Refreshes = 0;
 };
 

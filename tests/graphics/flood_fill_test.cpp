@@ -44,10 +44,10 @@ TEST_P(FloodFillInput, IsOneWordAndNotReduced) {
   Picture1.SetFillColor(77);
   Do(GetParam().Line);
   EXPECT_EQ(Pixels.Calls, Texts{"FloodFill 67 133 " + std::to_string(GetParam().Fill)});
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, FloodFillInput,
+INSTANTIATE_TEST_SUITE_P(typedLines, FloodFillInput,
                          testing::Values(FillInputRow{"FLOODFILL 20", 77}, FillInputRow{"FLOODFILL -1", 77},
                                          FillInputRow{"FLOODFILL 40000", 77}, FillInputRow{"FLOODFILL 4 9", 128},
                                          FillInputRow{"FLOODFILL 3.5", 128}, FillInputRow{"FLOODFILL", 0},
@@ -61,14 +61,14 @@ TEST_F(FloodFillTest, FillsWithThePenUp) {
 }
 
 TEST_F(FloodFillTest, PixelIsRoundedHalfToEven) {
-  Turtle.TurtleX = 7.5;
-  Turtle.TurtleY = 22.5;
+  turtle.TurtleX = 7.5;
+  turtle.TurtleY = 22.5;
   Do("FLOODFILL 4");
   EXPECT_EQ(Pixels.Calls, Texts{"FloodFill 0 2 128"});
 }
 
 TEST_F(FloodFillTest, OutsideOfTheSurfaceNothingIsPainted) {
-  Turtle.TurtleX = -100;
+  turtle.TurtleX = -100;
   EXPECT_EQ(Do("FLOODFILL 4")[4], "FloodFill -7 133 -1");
   EXPECT_TRUE(Pixels.Calls.empty());
   EXPECT_EQ(Picture1.FillColor(), 128);
@@ -76,7 +76,7 @@ TEST_F(FloodFillTest, OutsideOfTheSurfaceNothingIsPainted) {
 }
 
 TEST_F(FloodFillTest, BelowTheHeightOfTheSurfaceNothingIsPainted) {
-  Turtle.TurtleY = 8010;
+  turtle.TurtleY = 8010;
   EXPECT_EQ(Do("FLOODFILL 4")[4], "FloodFill 67 534 -1");
   EXPECT_TRUE(Pixels.Calls.empty());
   Picture1.SetHeight(9000);
@@ -84,18 +84,18 @@ TEST_F(FloodFillTest, BelowTheHeightOfTheSurfaceNothingIsPainted) {
 }
 
 TEST_F(FloodFillTest, PositionBeyond16BitsLeavesTheScaleInPixelsUntilTheNextFill) {
-  Turtle.TurtleX = 15.0 * 32768;
+  turtle.TurtleX = 15.0 * 32768;
   EXPECT_EQ(Do("FLOODFILL 4"), Texts{"ScaleMode=3"});
   EXPECT_EQ(Picture1.ScaleMode(), 3);
   EXPECT_EQ(Refreshes, 2);
-  Turtle.TurtleX = 1000;
+  turtle.TurtleX = 1000;
   Do("FLOODFILL 4");
   EXPECT_EQ(Picture1.ScaleMode(), 1);
 }
 
 TEST_F(FloodFillTest, ProceduresFillFromAPixel) {
-  Floods.FloodFill(3, 4, 2.5);
-  Floods.FloodFillRGB(5, 6, 1000);
+  floodFills.FloodFill(3, 4, 2.5);
+  floodFills.FloodFillRGB(5, 6, 1000);
   EXPECT_EQ(Pixels.Calls, Texts({"FloodFill 3 4 32768", "FloodFill 5 6 1000"}));
 }
 

@@ -17,19 +17,19 @@ const std::string Huge = "1" + std::string(40, '0');
 
 TEST_F(MotionTest, ForwardGoesUpTheScreen) {
   EXPECT_EQ(Do("FD 10"), Texts{"Line 1000 2000 1000 1500"});
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 1500);
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 1500);
 }
 
 TEST_F(MotionTest, BackGoesDownTheScreen) {
   EXPECT_EQ(Do("BK 10"), Texts{"Line 1000 2000 1000 2500"});
-  EXPECT_EQ(Turtle.TurtleY, 2500);
+  EXPECT_EQ(turtle.TurtleY, 2500);
 }
 
 TEST_F(MotionTest, LongNamesAreTheSame) {
   EXPECT_EQ(Do("FORWARD 10", "BACK 20"), Texts({"Line 1000 2000 1000 1500", "Line 1000 1500 1000 2500"}));
   Do("RIGHT 90", "LEFT 30");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleDir, 60 * 3.1415937 / 180);
+  EXPECT_DOUBLE_EQ(turtle.TurtleDir, 60 * 3.1415937 / 180);
 }
 
 TEST_F(MotionTest, NegativeInputsReverseTheMove) {
@@ -38,60 +38,60 @@ TEST_F(MotionTest, NegativeInputsReverseTheMove) {
 
 TEST_F(MotionTest, RightThenForwardGoesRight) {
   Do("RT 90", "FD 10");
-  EXPECT_NEAR(Turtle.TurtleX, 1500, 0.001);
-  EXPECT_NEAR(Turtle.TurtleY, 2000, 0.001);
+  EXPECT_NEAR(turtle.TurtleX, 1500, 0.001);
+  EXPECT_NEAR(turtle.TurtleY, 2000, 0.001);
 }
 
 TEST_F(MotionTest, BackAlongASlantedHeading) {
-  Turtle.TurtleDir = 0.5;
+  turtle.TurtleDir = 0.5;
   Do("BK 10");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleX, 1000 + 500 * std::sin(-0.5));
-  EXPECT_DOUBLE_EQ(Turtle.TurtleY, 2000 + 500 * std::cos(-0.5));
+  EXPECT_DOUBLE_EQ(turtle.TurtleX, 1000 + 500 * std::sin(-0.5));
+  EXPECT_DOUBLE_EQ(turtle.TurtleY, 2000 + 500 * std::cos(-0.5));
 }
 
 TEST_F(MotionTest, WholeRestIsTheExpression) { EXPECT_EQ(Do("FD 10 + 5"), Texts{"Line 1000 2000 1000 1250"}); }
 
 TEST_F(MotionTest, PositionIsNeverRounded) {
   Do("FD .333", "FD .333");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleY, 2000 - 2 * 16.65);
+  EXPECT_DOUBLE_EQ(turtle.TurtleY, 2000 - 2 * 16.65);
 }
 
 TEST_F(MotionTest, LineGetsSingles) {
   Do("FD .1", "FD .1");
   EXPECT_EQ(Recorder.Operations.back(), "Line 1000 1995 1000 1990");
-  Turtle.TurtleY = 0.1;
+  turtle.TurtleY = 0.1;
   EXPECT_EQ(Do("FD 0"), Texts{"Line 1000 0.1 1000 0.1"});
 }
 
 TEST_F(MotionTest, ProductOverflowingCountsAsZero) {
-  Turtle.Resolution = 1E300;
+  turtle.Resolution = 1E300;
   EXPECT_EQ(Do("FD " + Huge), Texts{"Line 1000 2000 1000 2000"});
 }
 
 TEST_F(MotionTest, MoveBeyondSinglesDrawsNothingButMoves) {
   EXPECT_EQ(Do("FD " + Huge), Nothing);
-  EXPECT_DOUBLE_EQ(Turtle.TurtleY, 2000 - 50 * 1E40);
+  EXPECT_DOUBLE_EQ(turtle.TurtleY, 2000 - 50 * 1E40);
 }
 
 TEST_F(MotionTest, FullTurnLeavesTheHeadingBesideTwoPi) {
   Do("RT 360");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleDir, 6.2831874);
+  EXPECT_DOUBLE_EQ(turtle.TurtleDir, 6.2831874);
 }
 
 TEST_F(MotionTest, LeftTurnsAgainstTheClock) {
   Do("LT 90");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleDir, -90 * 3.1415937 / 180);
+  EXPECT_DOUBLE_EQ(turtle.TurtleDir, -90 * 3.1415937 / 180);
 }
 
 TEST_F(MotionTest, HeadingGrowsWithoutBound) {
   Do("RT 3600", "RT 3600");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleDir, 7200 * 3.1415937 / 180);
+  EXPECT_DOUBLE_EQ(turtle.TurtleDir, 7200 * 3.1415937 / 180);
 }
 
 TEST_F(MotionTest, ResolutionDoesNotEnterTurns) {
-  Turtle.Resolution = 1;
+  turtle.Resolution = 1;
   Do("RT 180");
-  EXPECT_DOUBLE_EQ(Turtle.TurtleDir, 3.1415937);
+  EXPECT_DOUBLE_EQ(turtle.TurtleDir, 3.1415937);
 }
 
 // The fence.
@@ -110,14 +110,15 @@ class FencedForward : public DrawingTest, public testing::WithParamInterface<Fen
 
 TEST_P(FencedForward, IsAdmittedUpToTheEdge) {
   FenceIn();
-  Turtle.TurtleX = GetParam().X;
-  Turtle.TurtleY = GetParam().Y;
-  Turtle.TurtleDir = GetParam().Dir;
+  turtle.TurtleX = GetParam().X;
+  turtle.TurtleY = GetParam().Y;
+  turtle.TurtleDir = GetParam().Dir;
   EXPECT_EQ(Do(GetParam().Line).size(), GetParam().Admitted ? 1U : 0U);
-  EXPECT_EQ(Desktop.Boxes, GetParam().Admitted ? std::vector<ShownBox>{} : std::vector<ShownBox>({{FenceText, 0, ""}}));
+  EXPECT_EQ(services.Boxes,
+            GetParam().Admitted ? std::vector<ShownBox>{} : std::vector<ShownBox>({{FenceText, 0, ""}}));
   if (!GetParam().Admitted) {
-    EXPECT_EQ(Turtle.TurtleX, GetParam().X);
-    EXPECT_EQ(Turtle.TurtleY, GetParam().Y);
+    EXPECT_EQ(turtle.TurtleX, GetParam().X);
+    EXPECT_EQ(turtle.TurtleY, GetParam().Y);
   }
 }
 
@@ -135,33 +136,33 @@ INSTANTIATE_TEST_SUITE_P(Edges, FencedForward,
 
 TEST_F(MotionTest, FenceRoundsTheLowerEdgeAloneToASingle) {
   FenceIn();
-  Turtle.TurtleY = 8000.0001;
+  turtle.TurtleY = 8000.0001;
   EXPECT_EQ(Do("FD 0").size(), 1U);
-  Turtle.TurtleX = 10000.0001;
+  turtle.TurtleX = 10000.0001;
   EXPECT_EQ(Do("FD 0"), Nothing);
 }
 
 TEST_F(MotionTest, FencedMoveOfZeroOutsideShowsTheMessage) {
   FenceIn();
-  Turtle.TurtleX = -1;
+  turtle.TurtleX = -1;
   EXPECT_EQ(Do("FD 0"), Nothing);
-  EXPECT_EQ(Desktop.BoxTexts(), Texts{FenceText});
+  EXPECT_EQ(services.BoxTexts(), Texts{FenceText});
 }
 
 TEST_F(MotionTest, FenceTestThatFailsAdmitsTheMove) {
   FenceIn();
   EXPECT_EQ(Do("BK " + Huge), Nothing);
-  EXPECT_TRUE(Desktop.Boxes.empty());
-  EXPECT_DOUBLE_EQ(Turtle.TurtleY, 2000 + 50 * 1E40);
+  EXPECT_TRUE(services.Boxes.empty());
+  EXPECT_DOUBLE_EQ(turtle.TurtleY, 2000 + 50 * 1E40);
 }
 
 TEST_F(MotionTest, WindowLetsTheTurtleLeave) {
   EXPECT_EQ(Do("FD 100"), Texts{"Line 1000 2000 1000 -3000"});
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(MotionTest, ResolutionZeroedByTheBoxMovesNowhere) {
-  Turtle.Resolution = 0;
+  turtle.Resolution = 0;
   EXPECT_EQ(Do("FD 10"), Texts{"Line 1000 2000 1000 2000"});
 }
 
@@ -169,27 +170,27 @@ TEST_F(MotionTest, ResolutionZeroedByTheBoxMovesNowhere) {
 
 TEST_F(MotionTest, SetXTakesTheWidthOfTheSurface) {
   EXPECT_EQ(Do("SETX 2.5"), Texts{"Line 1000 2000 5125 2000"});
-  EXPECT_EQ(Turtle.TurtleX, 5125);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleX, 5125);
+  EXPECT_EQ(turtle.TurtleY, 2000);
 }
 
 TEST_F(MotionTest, SetYTakesTheHeightOfTheForm) {
   EXPECT_EQ(Do("SETY 2.5"), Texts{"Line 1000 2000 1000 4375"});
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 4375);
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 4375);
 }
 
 TEST_F(MotionTest, SetXYDrawsToThePoint) {
   EXPECT_EQ(Do("SETXY 2.5 3"), Texts{"Line 1000 2000 5125 4350"});
-  EXPECT_EQ(Turtle.TurtleX, 5125);
-  EXPECT_EQ(Turtle.TurtleY, 4350);
+  EXPECT_EQ(turtle.TurtleX, 5125);
+  EXPECT_EQ(turtle.TurtleY, 4350);
 }
 
 TEST_F(MotionTest, SetXYWithThePenUpDrawsNothing) {
   Do("PU");
   EXPECT_EQ(Do("SETXY 2 3", "SETX 4", "SETY 5"), Nothing);
-  EXPECT_EQ(Turtle.TurtleX, 5200);
-  EXPECT_EQ(Turtle.TurtleY, 4250);
+  EXPECT_EQ(turtle.TurtleX, 5200);
+  EXPECT_EQ(turtle.TurtleY, 4250);
 }
 
 struct WholeStep {
@@ -205,9 +206,9 @@ void PrintTo(const WholeStep& one, std::ostream* out) {
 class SetXYHeight : public DrawingTest, public testing::WithParamInterface<WholeStep> {};
 
 TEST_P(SetXYHeight, IsRoundedBeforeAndAfterTheProduct) {
-  Turtle.Resolution = GetParam().Resolution;
+  turtle.Resolution = GetParam().Resolution;
   Do(GetParam().Line);
-  EXPECT_EQ(Turtle.TurtleY, GetParam().Y);
+  EXPECT_EQ(turtle.TurtleY, GetParam().Y);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, SetXYHeight,
@@ -219,23 +220,23 @@ INSTANTIATE_TEST_SUITE_P(Steps, SetXYHeight,
                                          WholeStep{1, "SETXY 0 32768", 4500}));
 
 TEST_F(MotionTest, SetXYStoresTheHeightThatItsLineRounds) {
-  Controls.Form1.SetHeight(9001);
-  Turtle.Resolution = 1;
+  controls.Form1.SetHeight(9001);
+  turtle.Resolution = 1;
   EXPECT_EQ(Do("SETXY 0 1"), Texts{"Line 1000 2000 5000 4500"});
-  EXPECT_EQ(Turtle.TurtleY, 4499.5);
+  EXPECT_EQ(turtle.TurtleY, 4499.5);
   EXPECT_EQ(Do("SETXY 0 0"), Texts{"Line 5000 4499.5 5000 4500"});
-  EXPECT_EQ(Turtle.TurtleY, 4500.5);
+  EXPECT_EQ(turtle.TurtleY, 4500.5);
 }
 
 TEST_F(MotionTest, SetXYTargetBeyond16BitsDrawsToTheTopEdge) {
   EXPECT_EQ(Do("SETXY 0 -600"), Texts{"Line 1000 2000 5000 0"});
-  EXPECT_EQ(Turtle.TurtleY, 34500);
+  EXPECT_EQ(turtle.TurtleY, 34500);
 }
 
 TEST_F(MotionTest, SetXYMissingWordsCountAsZero) {
   EXPECT_EQ(Do("SETXY 2"), Texts{"Line 1000 2000 5100 4500"});
   EXPECT_EQ(Do("SETXY"), Texts{"Line 5100 4500 5000 4500"});
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 struct FencedTarget {
@@ -250,10 +251,10 @@ class FencedSet : public DrawingTest, public testing::WithParamInterface<FencedT
 TEST_P(FencedSet, IsAdmittedWithItsOwnEdges) {
   FenceIn();
   EXPECT_EQ(Do(GetParam().Line).size(), GetParam().Admitted ? 1U : 0U);
-  EXPECT_EQ(Desktop.BoxTexts(), GetParam().Admitted ? Nothing : Texts{FenceText});
+  EXPECT_EQ(services.BoxTexts(), GetParam().Admitted ? Nothing : Texts{FenceText});
   if (!GetParam().Admitted) {
-    EXPECT_EQ(Turtle.TurtleX, 1000);
-    EXPECT_EQ(Turtle.TurtleY, 2000);
+    EXPECT_EQ(turtle.TurtleX, 1000);
+    EXPECT_EQ(turtle.TurtleY, 2000);
   }
 }
 
@@ -269,9 +270,9 @@ INSTANTIATE_TEST_SUITE_P(Edges, FencedSet,
 
 TEST_F(MotionTest, FencedSetXYLooksAtTheRoundedHeight) {
   FenceIn();
-  Controls.Form1.SetHeight(9001);
+  controls.Form1.SetHeight(9001);
   EXPECT_EQ(Do("SETXY 0 90"), Nothing);
-  EXPECT_EQ(Desktop.BoxTexts(), Texts{FenceText});
+  EXPECT_EQ(services.BoxTexts(), Texts{FenceText});
 }
 
 // Missing inputs.
@@ -290,11 +291,11 @@ class MissingInputOfMotion : public DrawingTest, public testing::WithParamInterf
 
 TEST_P(MissingInputOfMotion, ShowsItsOwnBoxAndDrawsNothing) {
   EXPECT_EQ(Do(GetParam().Word), Nothing);
-  EXPECT_EQ(Desktop.Boxes,
+  EXPECT_EQ(services.Boxes,
             std::vector<ShownBox>({{std::string(MissingText) + GetParam().Word, GetParam().Style, GetParam().Title}}));
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
-  EXPECT_EQ(Turtle.TurtleDir, 0);
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleDir, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Words, MissingInputOfMotion,
@@ -308,87 +309,87 @@ INSTANTIATE_TEST_SUITE_P(Words, MissingInputOfMotion,
 
 TEST_F(MotionTest, ResolutionAloneGives10AfterItsBox) {
   Do("RESOLUTION");
-  EXPECT_EQ(Turtle.Resolution, 10);
-  EXPECT_EQ(Desktop.Boxes.size(), 1U);
+  EXPECT_EQ(turtle.Resolution, 10);
+  EXPECT_EQ(services.Boxes.size(), 1U);
 }
 
 TEST_F(MotionTest, ResolutionZeroGives10) {
   Do("RESOLUTION 0");
-  EXPECT_EQ(Turtle.Resolution, 10);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_EQ(turtle.Resolution, 10);
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(MotionTest, ResolutionTakesAnyOtherValue) {
-  Controls.Text3.Text = "50";
+  controls.Text3.Text = "50";
   Do("RESOLUTION 2.5");
-  EXPECT_EQ(Turtle.Resolution, 2.5);
-  EXPECT_EQ(Controls.Text3.Text, "50");
+  EXPECT_EQ(turtle.Resolution, 2.5);
+  EXPECT_EQ(controls.Text3.Text, "50");
   Do("RESOLUTION -50");
   EXPECT_EQ(Do("FD 10"), Texts{"Line 1000 2000 1000 2500"});
 }
 
 TEST_F(MotionTest, ResolutionKeepsThePositionInSurfaceUnits) {
   Do("RESOLUTION 100", "XCOR");
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Desktop.BoxTexts(), Texts{"-40"});
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(services.BoxTexts(), Texts{"-40"});
 }
 
 // The pen.
 
 TEST_F(MotionTest, PenTellsItsState) {
   Do("PEN", "PU", "PEN", "PE", "PEN");
-  EXPECT_EQ(Desktop.Boxes,
+  EXPECT_EQ(services.Boxes,
             std::vector<ShownBox>({{"Pen Down", 64, "Zerimo"}, {"Pen Up", 64, "Zerimo"}, {"Pen Erase", 64, "Zerimo"}}));
 }
 
 TEST_F(MotionTest, PenUpLeavesTheForeground) {
   EXPECT_EQ(Do("PU"), Nothing);
-  EXPECT_EQ(Turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, 2);
 }
 
 TEST_F(MotionTest, PenDownSetsTheColourOfThePen) {
-  Turtle.PenColor = 12;
+  turtle.PenColor = 12;
   EXPECT_EQ(Do("PD"), Texts{"ForeColor=255"});
-  EXPECT_EQ(Turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, 1);
 }
 
 TEST_F(MotionTest, PenEraseSetsTheColourOfTheBackground) {
   EXPECT_EQ(Do("PE"), Texts{"ForeColor=8388736"});
-  EXPECT_EQ(Turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenState, 3);
 }
 
 TEST_F(MotionTest, PenReverseTurnsDownAndUp) {
   EXPECT_EQ(Do("PX"), Nothing);
-  EXPECT_EQ(Turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, 2);
   EXPECT_EQ(Do("PX"), Texts{"ForeColor=16777215"});
-  EXPECT_EQ(Turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, 1);
 }
 
 TEST_F(MotionTest, PenReverseWhileErasingGoesOnErasing) {
   EXPECT_EQ(Do("PE", "PX"), Texts{"ForeColor=8388736"});
-  EXPECT_EQ(Turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenState, 3);
 }
 
 TEST_F(MotionTest, LongPenNamesAreTheSameAndTheRestIsIgnored) {
   Do("PENUP 5");
-  EXPECT_EQ(Turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, 2);
   Do("PENDOWN 5");
-  EXPECT_EQ(Turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, 1);
   Do("PENERASE 5");
-  EXPECT_EQ(Turtle.PenState, 3);
-  Turtle.PenState = 1;
+  EXPECT_EQ(turtle.PenState, 3);
+  turtle.PenState = 1;
   Do("PENREVERSE 5");
-  EXPECT_EQ(Turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, 2);
 }
 
 TEST_F(MotionTest, UpMoveDownLeavesNoLineAndTheColourIsBack) {
   EXPECT_EQ(Do("PU", "FD 10", "PD"), Texts{"ForeColor=16777215"});
-  EXPECT_EQ(Turtle.TurtleY, 1500);
+  EXPECT_EQ(turtle.TurtleY, 1500);
 }
 
 TEST_F(MotionTest, EraseUpDownIsDownInThePenColour) {
   EXPECT_EQ(Do("PE", "PU", "PD"), Texts({"ForeColor=8388736", "ForeColor=16777215"}));
-  EXPECT_EQ(Turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, 1);
 }
 
 TEST_F(MotionTest, ErasingMoveDrawsInTheBackground) {
@@ -412,24 +413,24 @@ TEST_F(MotionTest, HiddenFigureMovesOn) {
     EXPECT_FALSE(part->Visible());
   }
   Do("ST");
-  EXPECT_TRUE(Controls.Shape2.Visible());
-  EXPECT_TRUE(Controls.Line1.Visible());
-  EXPECT_TRUE(Controls.Line2.Visible());
-  EXPECT_TRUE(Controls.Line3.Visible());
-  EXPECT_NEAR(Controls.Shape2.Top, 1500 - 310, 0.01);
+  EXPECT_TRUE(controls.Shape2.Visible());
+  EXPECT_TRUE(controls.Line1.Visible());
+  EXPECT_TRUE(controls.Line2.Visible());
+  EXPECT_TRUE(controls.Line3.Visible());
+  EXPECT_NEAR(controls.Shape2.Top, 1500 - 310, 0.01);
 }
 
 TEST_F(MotionTest, LongFigureNamesAreTheSame) {
   Do("HIDETURTLE");
-  EXPECT_FALSE(Controls.Shape2.Visible());
+  EXPECT_FALSE(controls.Shape2.Visible());
   Do("SHOWTURTLE");
-  EXPECT_TRUE(Controls.Shape2.Visible());
+  EXPECT_TRUE(controls.Shape2.Visible());
 }
 
 TEST_F(MotionTest, FigureNamesAreMatchedAlone) {
   Do("HT 1", "PEN 1", "CLEAN 1");
-  EXPECT_TRUE(Controls.Shape2.Visible());
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(controls.Shape2.Visible());
+  EXPECT_TRUE(services.Boxes.empty());
   EXPECT_EQ(Recorder.Operations, Nothing);
 }
 
@@ -444,13 +445,13 @@ class LineWidthInput : public DrawingTest, public testing::WithParamInterface<Se
 
 TEST_P(LineWidthInput, IsRoundedTo16BitsOrRefused) {
   Picture1.SetDrawWidth(9);
-  Controls.Text4.Text = "1";
+  controls.Text4.Text = "1";
   Do(GetParam().Line);
   EXPECT_EQ(Picture1.DrawWidth(), GetParam().Value);
-  EXPECT_EQ(Controls.Text4.Text, "1");
+  EXPECT_EQ(controls.Text4.Text, "1");
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, LineWidthInput,
+INSTANTIATE_TEST_SUITE_P(typedLines, LineWidthInput,
                          testing::Values(Setting{"LW 3", 3}, Setting{"LW 2.5", 2}, Setting{"LW 3.5", 4},
                                          Setting{"LW .5", 9}, Setting{"LW 0", 9}, Setting{"LW -1", 9},
                                          Setting{"LW 32767", 32767}, Setting{"LW 32768", 9}, Setting{"LW", 9},
@@ -463,7 +464,7 @@ TEST_P(DrawModeInput, IsRoundedTo16BitsOrRefused) {
   EXPECT_EQ(Picture1.DrawMode(), GetParam().Value);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, DrawModeInput,
+INSTANTIATE_TEST_SUITE_P(typedLines, DrawModeInput,
                          testing::Values(Setting{"DRAWMODE 1", 1}, Setting{"DRAWMODE 16", 16},
                                          Setting{"DRAWMODE 6.5", 6}, Setting{"DRAWMODE 7.5", 8},
                                          Setting{"DRAWMODE 0", 13}, Setting{"DRAWMODE 17", 13},
@@ -471,36 +472,36 @@ INSTANTIATE_TEST_SUITE_P(Lines, DrawModeInput,
                                          Setting{"DRAWMODE", 13}));
 
 TEST_F(MotionTest, CleanClearsAndKeepsTheTurtle) {
-  Turtle.TurtleDir = 1;
-  Turtle.PenState = 3;
+  turtle.TurtleDir = 1;
+  turtle.PenState = 3;
   EXPECT_EQ(Do("CLEAN"), Texts{"Cls"});
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
-  EXPECT_EQ(Turtle.TurtleDir, 1);
-  EXPECT_EQ(Turtle.PenState, 3);
-  EXPECT_TRUE(Controls.Image1.Visible());
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleDir, 1);
+  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_TRUE(controls.Image1.Visible());
 }
 
 TEST_F(MotionTest, ClearScreenTakesTheTitleAwayAndGoesToTheMiddleOfTheForm) {
-  Turtle.TurtleDir = 1;
+  turtle.TurtleDir = 1;
   EXPECT_EQ(Do("CS"), Texts{"Cls"});
-  EXPECT_FALSE(Controls.Image1.Visible());
-  for (int index = 0; index < 4; ++index) EXPECT_FALSE(Controls.Label20[index].Visible());
-  EXPECT_EQ(Turtle.TurtleX, 6000);
-  EXPECT_EQ(Turtle.TurtleY, 4500);
-  EXPECT_EQ(Turtle.TurtleDir, 0);
+  EXPECT_FALSE(controls.Image1.Visible());
+  for (int index = 0; index < 4; ++index) EXPECT_FALSE(controls.Label20[index].Visible());
+  EXPECT_EQ(turtle.TurtleX, 6000);
+  EXPECT_EQ(turtle.TurtleY, 4500);
+  EXPECT_EQ(turtle.TurtleDir, 0);
 }
 
 TEST_F(MotionTest, ClearScreenKeepsPenFenceAndResolution) {
   FenceIn();
-  Turtle.PenState = 3;
-  Turtle.PenColor = 4;
-  Turtle.Resolution = 7;
+  turtle.PenState = 3;
+  turtle.PenColor = 4;
+  turtle.Resolution = 7;
   EXPECT_EQ(Do("CLEARSCREEN 1", "CS"), Texts({"Cls", "Cls"}));
-  EXPECT_EQ(Turtle.FenceMode, 2);
-  EXPECT_EQ(Turtle.PenState, 3);
-  EXPECT_EQ(Turtle.PenColor, 4);
-  EXPECT_EQ(Turtle.Resolution, 7);
+  EXPECT_EQ(turtle.FenceMode, 2);
+  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenColor, 4);
+  EXPECT_EQ(turtle.Resolution, 7);
 }
 
 TEST_F(MotionTest, RefreshOnlyRefreshes) {

@@ -41,12 +41,12 @@ TEST_F(ShapesTest, DotTakesTheSurfacesWidthAndTheFormsHeight) {
 TEST_F(ShapesTest, DotHasWholeStepsInHeight) {
   EXPECT_EQ(Do("DOT 0 2.5"), Texts{"PSet 5000 4400 16777215"});
   EXPECT_EQ(Do("DOT 0 1000"), Texts{"PSet 5000 4500 16777215"});
-  Turtle.Resolution = 0.5;
+  turtle.Resolution = 0.5;
   EXPECT_EQ(Do("DOT 0 5"), Texts{"PSet 5000 4498 16777215"});
 }
 
 TEST_F(ShapesTest, DotShowsThePenColourWhileErasing) {
-  Turtle.PenColor = 4;
+  turtle.PenColor = 4;
   Do("PE");
   EXPECT_EQ(Do("DOT 0 0"), Texts{"PSet 5000 4500 128"});
   Do("LINE 0 0 1 1");
@@ -58,14 +58,14 @@ TEST_F(ShapesTest, DotShowsThePenColourWhileErasing) {
 TEST_F(ShapesTest, CircleTakesTheScreensHeight) { EXPECT_EQ(Do("CIRCLE 1.5 2.5 3"), Texts{"Circle 5075 5635 150"}); }
 
 TEST_F(ShapesTest, CircleAndDotAgreeInHeightIfFormAndScreenDo) {
-  Controls.Form1.SetHeight(11520);
+  controls.Form1.SetHeight(11520);
   EXPECT_EQ(Do("CIRCLE 0 0 2", "DOT 0 0"), Texts({"Circle 5000 5760 100", "PSet 5000 5760 16777215"}));
 }
 
 TEST_F(ShapesTest, CircleHasAWholeRadius) {
   EXPECT_EQ(Do("CIRCLE 0 0 2.5"), Texts{"Circle 5000 5760 100"});
   EXPECT_EQ(Do("CIRCLE 0 0 3.5"), Texts{"Circle 5000 5760 200"});
-  Turtle.Resolution = 0.5;
+  turtle.Resolution = 0.5;
   EXPECT_EQ(Do("CIRCLE 0 0 3"), Texts{"Circle 5000 5760 2"});
 }
 
@@ -81,7 +81,7 @@ TEST_F(ShapesTest, StampCircleStandsAroundTheTurtle) {
 
 TEST_F(ShapesTest, StampCircleWithoutInputShowsTheBox) {
   EXPECT_EQ(Do("STAMPCIRCLE"), Nothing);
-  EXPECT_EQ(Desktop.Boxes, std::vector<ShownBox>({{std::string(MissingText) + "STAMPCIRCLE", 2, "Zerimo"}}));
+  EXPECT_EQ(services.Boxes, std::vector<ShownBox>({{std::string(MissingText) + "STAMPCIRCLE", 2, "Zerimo"}}));
 }
 
 TEST_F(ShapesTest, FirstCircleIsAFilledBlackDisc) {
@@ -103,10 +103,10 @@ TEST_F(ShapesTest, LineHasAWholeLastInputAlone) {
 }
 
 TEST_F(ShapesTest, LineRoundsTheHeightOfItsEndOnce) {
-  Turtle.Resolution = 0.5;
+  turtle.Resolution = 0.5;
   EXPECT_EQ(Do("LINE 0 0 0 3"), Texts{"Line 5000 4500 5000 4498"});
   EXPECT_EQ(Do("LINE 0 0 0 1"), Texts{"Line 5000 4500 5000 4500"});
-  Controls.Form1.SetHeight(9001);
+  controls.Form1.SetHeight(9001);
   EXPECT_EQ(Do("LINE 0 0 0 1"), Texts{"Line 5000 4500.5 5000 4500"});
 }
 
@@ -117,7 +117,7 @@ TEST_F(ShapesTest, LineWithALargeLastInputEndsAtHeightZero) {
 }
 
 TEST_F(ShapesTest, LineWhoseLastProductOverflowsEndsAtHeightZero) {
-  Turtle.Resolution = 1E308;
+  turtle.Resolution = 1E308;
   EXPECT_EQ(Do("LINE 0 0 0 2"), Texts{"Line 5000 4500 5000 0"});
 }
 
@@ -128,7 +128,7 @@ TEST_F(ShapesTest, LineLastInputBeyond16BitsCountsAsZero) {
 TEST_F(ShapesTest, MissingWordsCountAsZeroWithoutAMessage) {
   EXPECT_EQ(Do("LINE 1", "CIRCLE", "DOT", "STAMPRECT"), Texts({"Line 5050 4500 5000 4500", "Circle 5000 5760 0",
                                                                "PSet 5000 4500 16777215", "Box 1000 2000 1000 2000"}));
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(ShapesTest, LineRGBDrawsInItsColourAndPutsThePensBack) {
@@ -229,7 +229,7 @@ TEST_F(ShapesTest, StampOvalOfNoWidthOrHeightDrawsNothing) {
   EXPECT_EQ(Do("STAMPOVAL 0 3"), Nothing);
   EXPECT_EQ(Do("STAMPOVAL 3 0"), Nothing);
   EXPECT_EQ(Do("STAMPOVAL 0 0"), Nothing);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(ShapesTest, StampRectIsABoxAroundTheTurtle) {
@@ -268,7 +268,7 @@ void PrintTo(const PenRow& one, std::ostream* out) { *out << Quoted(one.Line) <<
 class PenUpShape : public DrawingTest, public testing::WithParamInterface<PenRow> {};
 
 TEST_P(PenUpShape, IsDrawnOnlyIfItIsAStamp) {
-  Turtle.PenState = 2;
+  turtle.PenState = 2;
   Do(GetParam().Line);
   EXPECT_EQ(!Pixels.Calls.empty(), GetParam().DrawnWithThePenUp);
 }
@@ -280,12 +280,12 @@ TEST_P(PenUpShape, IsDrawnWithThePenErasing) {
 
 TEST_P(PenUpShape, LeavesTheTurtleAndAsksNoFence) {
   FenceIn();
-  Turtle.TurtleX = -7000;
+  turtle.TurtleX = -7000;
   Do(GetParam().Line);
-  EXPECT_EQ(Turtle.TurtleX, -7000);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
-  EXPECT_EQ(Turtle.TurtleDir, 0);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_EQ(turtle.TurtleX, -7000);
+  EXPECT_EQ(turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleDir, 0);
+  EXPECT_TRUE(services.Boxes.empty());
   EXPECT_FALSE(Pixels.Calls.empty());
 }
 
@@ -298,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(Shapes, PenUpShape,
                                          PenRow{"STAMPOVALRGB 4 2 255", true}, PenRow{"STAMPRECTRGB 2 2 255", true}));
 
 TEST_F(ShapesTest, LineRGBWithThePenUpStillSetsAndPutsBackItsColour) {
-  Turtle.PenState = 2;
+  turtle.PenState = 2;
   EXPECT_EQ(Do("LINERGB 0 0 1 1 255"), Texts({"ForeColor=255", "ForeColor=16777215"}));
 }
 
@@ -316,7 +316,7 @@ class FillInput : public DrawingTest, public testing::WithParamInterface<FillRow
 TEST_P(FillInput, IsReducedOrRefused) { EXPECT_EQ(Do(GetParam().Line), GetParam().Operations); }
 
 INSTANTIATE_TEST_SUITE_P(
-    Lines, FillInput,
+    typedLines, FillInput,
     testing::Values(FillRow{"FILL 4", {"FillColor=128"}}, FillRow{"FILL 20", {"FillColor=128"}},
                     FillRow{"FILL 3.5", {"FillColor=128"}}, FillRow{"FILL 2 + 2", {"FillColor=128"}},
                     FillRow{"FILL", {"FillColor=0"}}, FillRow{"FILL -1", {}}, FillRow{"FILLSTYLE 7", {"FillStyle=7"}},
@@ -326,7 +326,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ShapesTest, FillAndFillStyleHaveNoTestForAMissingInput) {
   Do("FILL", "FILLSTYLE");
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 }  // namespace

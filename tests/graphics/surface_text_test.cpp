@@ -20,7 +20,7 @@ TEST_F(SurfaceTextTest, TextSizeThatTheFontRefusesStays) {
 
 TEST_F(SurfaceTextTest, TextSizeWithoutInputShowsTheBox) {
   EXPECT_EQ(Do("TEXTSIZE"), Nothing);
-  EXPECT_EQ(Desktop.Boxes, std::vector<ShownBox>({{std::string(MissingText) + "TEXTSIZE", 2, "Zerimo"}}));
+  EXPECT_EQ(services.Boxes, std::vector<ShownBox>({{std::string(MissingText) + "TEXTSIZE", 2, "Zerimo"}}));
 }
 
 struct Written {
@@ -34,10 +34,10 @@ class WriteInput : public DrawingTest, public testing::WithParamInterface<Writte
 
 TEST_P(WriteInput, IsPrintedAtTheTurtle) {
   EXPECT_EQ(Do(GetParam().Line), Texts({"CurrentX=1000", "CurrentY=2000", std::string("Print ") + GetParam().Text}));
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, WriteInput,
+INSTANTIATE_TEST_SUITE_P(typedLines, WriteInput,
                          testing::Values(Written{"WRITE \"A B\"", "A B"}, Written{"WRITE \"\"", ""},
                                          Written{"WRITE \"XCOR\"", "XCOR"}, Written{"WRITE \"A\"B\"", "A\"B"},
                                          Written{"WRITE 2+3", " 5"}, Written{"WRITE 2-3", "-1"},
@@ -57,15 +57,15 @@ TEST_F(SurfaceTextTest, WriteObeysNoPenState) {
 }
 
 TEST_F(SurfaceTextTest, WriteLeavesTheTurtle) {
-  Turtle.TurtleDir = 1;
+  turtle.TurtleDir = 1;
   Do("WRITE \"A B\"");
-  EXPECT_EQ(Turtle.TurtleX, 1000);
-  EXPECT_EQ(Turtle.TurtleY, 2000);
-  EXPECT_EQ(Turtle.TurtleDir, 1);
+  EXPECT_EQ(turtle.TurtleX, 1000);
+  EXPECT_EQ(turtle.TurtleY, 2000);
+  EXPECT_EQ(turtle.TurtleDir, 1);
 }
 
 TEST_F(SurfaceTextTest, WriteBeyondSinglesPrintsAtTheOldPoint) {
-  Turtle.TurtleX = 1E300;
+  turtle.TurtleX = 1E300;
   EXPECT_EQ(Do("WRITE \"A\""), Texts({"CurrentY=2000", "Print A"}));
 }
 

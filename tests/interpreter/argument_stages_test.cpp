@@ -10,23 +10,23 @@ namespace {
 
 class ArgumentStagesTest : public SlotsFixture {
  protected:
-  ArgumentStagesTest() { Path.SetCtrlStr(".P- 2"); }
+  ArgumentStagesTest() { controlPath.SetCtrlStr(".P- 2"); }
 };
 
 TEST_F(ArgumentStagesTest, ANumberPassesTheFourStages) {
-  Turtle.TurtleX += 100;
+  turtle.TurtleX += 100;
   Slots({"P.:A=3", "B=4"});
-  EXPECT_EQ(Stages.Number("XCOR*100+:A*10+B"), 234);
+  EXPECT_EQ(arguments.Number("XCOR*100+:A*10+B"), 234);
 }
 
-TEST_F(ArgumentStagesTest, BlanksAreNoHarm) { EXPECT_EQ(Stages.Number("10 + 5"), 15); }
+TEST_F(ArgumentStagesTest, BlanksAreNoHarm) { EXPECT_EQ(arguments.Number("10 + 5"), 15); }
 
 TEST_F(ArgumentStagesTest, NamesAreReplacedInPlace) {
   Slots({"P.:A=3", "B=4"});
   std::string text = "(:A+B)";
-  Stages.ReplaceNames(text);
+  arguments.ReplaceNames(text);
   EXPECT_EQ(text, "(3+4)");
-  EXPECT_EQ(Stages.Evaluate(text), 7);
+  EXPECT_EQ(arguments.Evaluate(text), 7);
 }
 
 }  // namespace

@@ -16,17 +16,17 @@ namespace {
 
 class ArithmeticLimitsTest : public testing::Test {
  protected:
-  double Value(std::string expression) const { return Evaluation.ArithmeticEvaluator(expression); }
+  double Value(std::string expression) const { return arithmetic.ArithmeticEvaluator(expression); }
   std::optional<FailureKind> FailureOfValue(const std::string& expression) const {
     return FailureOf([&] { Value(expression); });
   }
   std::string WithoutBrackets(std::string expression) const {
-    Evaluation.BracketRemover(expression);
+    arithmetic.BracketRemover(expression);
     return expression;
   }
 
-  LimitedWatch Watch;
-  Arithmetic Evaluation{Watch};
+  LimitedWatch watch;
+  Arithmetic Evaluation{watch};
 };
 
 struct ValueOfText {
@@ -129,7 +129,7 @@ TEST_F(ArithmeticLimitsTest, ABracketThatIsNotClosedFails) {
 
 TEST_F(ArithmeticLimitsTest, AFailureInABracketLeavesTheTextOfThatRound) {
   std::string expression = "(1)+(2/0)";
-  EXPECT_EQ(FailureOf([&] { Evaluation.ArithmeticEvaluator(expression); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(FailureOf([&] { arithmetic.ArithmeticEvaluator(expression); }), FailureKind::DivisionByZero);
   EXPECT_EQ(expression, "1+(2/0)");
 }
 
@@ -163,7 +163,7 @@ TEST_F(ArithmeticLimitsTest, RemainderBeyond32BitsFails) {
 
 TEST_F(ArithmeticLimitsTest, ALoneOperatorNeverReturns) {
   for (const char* expression : {"%", " %", "-/3", "-*3", "+/3", "-%3", "(%)+1"}) {
-    Watch.AllowTicks(1000);
+    watch.AllowTicks(1000);
     EXPECT_THROW(Value(expression), Stopped) << expression;
   }
 }

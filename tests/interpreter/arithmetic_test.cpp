@@ -14,7 +14,7 @@ namespace {
 
 class ArithmeticTest : public testing::Test {
  protected:
-  double Value(std::string expression) { return Evaluation.ArithmeticEvaluator(expression); }
+  double Value(std::string expression) { return arithmetic.ArithmeticEvaluator(expression); }
 
   void ExpectFailure(const std::string& expression, FailureKind kind) {
     try {
@@ -26,7 +26,7 @@ class ArithmeticTest : public testing::Test {
   }
 
   LimitedWatch Watch{1000, 10000};
-  Arithmetic Evaluation{Watch};
+  Arithmetic Evaluation{watch};
 };
 
 struct Expression {
@@ -101,15 +101,15 @@ TEST_F(ArithmeticTest, HundredTokensAreTooMany) {
 
 TEST_F(ArithmeticTest, TheCallersBracketsAreReplaced) {
   std::string expression = "2 * (3+4) ";
-  EXPECT_EQ(Evaluation.ArithmeticEvaluator(expression), 14);
+  EXPECT_EQ(arithmetic.ArithmeticEvaluator(expression), 14);
   EXPECT_EQ(expression, "2 *7");
 }
 
 TEST_F(ArithmeticTest, ABracketsValueIsText) {
   std::string expression = "1-(2-5)";
-  EXPECT_EQ(Evaluation.BracketRemover(expression), "1--3");
+  EXPECT_EQ(arithmetic.BracketRemover(expression), "1--3");
   expression = "(1/4)";
-  EXPECT_EQ(Evaluation.BracketRemover(expression), ".25");
+  EXPECT_EQ(arithmetic.BracketRemover(expression), ".25");
 }
 
 class NeverReturns : public ArithmeticTest, public testing::WithParamInterface<const char*> {};

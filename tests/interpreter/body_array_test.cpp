@@ -10,7 +10,7 @@ namespace {
 class BodyArrayTest : public SlotsFixture {
  protected:
   /// The statements up to the first empty one.
-  Texts Split(std::string body) { return Listed(Repeats.CreateBodyArray(body)); }
+  Texts Split(std::string body) { return Listed(lowering.CreateBodyArray(body)); }
   static Texts Listed(const BodyArray& statements) {
     Texts texts;
     for (int index = 1; index <= BodyArray::LastIndex && !statements.At(index).empty(); ++index) {
@@ -69,7 +69,7 @@ TEST_F(CreateBodyArrayTest, TheEmptyTextHasNoStatement) { EXPECT_EQ(Split(""), T
 
 TEST_F(CreateBodyArrayTest, BlanksInFrontMakeAnEmptyStatementFirst) {
   std::string body = " FD 10 RT 90 ";
-  const BodyArray statements = Repeats.CreateBodyArray(body);
+  const BodyArray statements = lowering.CreateBodyArray(body);
   EXPECT_EQ(statements.At(1), "");
   EXPECT_EQ(statements.At(2), "FD 10");
   EXPECT_EQ(statements.At(3), "RT 90");
@@ -78,14 +78,14 @@ TEST_F(CreateBodyArrayTest, BlanksInFrontMakeAnEmptyStatementFirst) {
 
 TEST_F(CreateBodyArrayTest, ConsumesItsCallersText) {
   std::string body = "FD 10 RT 90";
-  Repeats.CreateBodyArray(body);
+  lowering.CreateBodyArray(body);
   EXPECT_EQ(body, "");
 }
 
 TEST_F(CreateBodyArrayTest, ANestedRepeatGoesToItsClosingBracket) {
   EXPECT_EQ(Split("FD :N REPEAT 2 [RT 45] BK :N"), (Texts{"FD :N", "REPEAT 2 [RT 45]", "BK :N"}));
   EXPECT_EQ(Split("REPEAT 2[FD 1 REPEAT 3[RT 1]PU]CS"), (Texts{"REPEAT 2[FD 1 REPEAT 3[RT 1]PU]", "CS"}));
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(CreateBodyArrayTest, TheCharacterBehindTheFirstBracketIsNotLookedAt) {
@@ -97,16 +97,16 @@ TEST_F(CreateBodyArrayTest, TheCharacterBehindTheFirstBracketIsNotLookedAt) {
 
 TEST_F(CreateBodyArrayTest, ARepeatWithoutABracketTellsItAndEndsTheSplitting) {
   EXPECT_EQ(Split("FD 1 REPEAT 3 RT 5 PU"), (Texts{"FD 1"}));
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Missing [", 0, ""}));
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"Missing [", 0, ""}));
 }
 
 TEST_F(CreateBodyArrayTest, ARepeatThatIsNotClosedTellsItAndEndsTheSplitting) {
   EXPECT_EQ(Split("FD 1 REPEAT 3 [RT 5 PU"), (Texts{"FD 1"}));
   EXPECT_EQ(Split("FD 1 REPEAT 3 []"), (Texts{"FD 1"}));
-  ASSERT_EQ(Desktop.Boxes.size(), 2U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"] Absent", 0, ""}));
-  EXPECT_EQ(Desktop.Boxes[1], (ShownBox{"] Absent", 0, ""}));
+  ASSERT_EQ(services.Boxes.size(), 2U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"] Absent", 0, ""}));
+  EXPECT_EQ(services.Boxes[1], (ShownBox{"] Absent", 0, ""}));
 }
 
 TEST_F(CreateBodyArrayTest, WithoutASecondQuoteAllTheRestIsTheStatement) {
@@ -121,9 +121,9 @@ TEST_F(CreateBodyArrayTest, ABlankAtTheEndOfAStatementStays) {
 }
 
 TEST_F(CreateBodyArrayTest, AnotherFailureMakesADotToo) {
-  Store.SetLine(1, "TO BOX" + Repeated(" :A", 255));
+  store.SetLine(1, "TO BOX" + Repeated(" :A", 255));
   std::string body = "FD 1 BOX 2";
-  EXPECT_TRUE(Repeats.CreateBodyArray(body).IsDot());
+  EXPECT_TRUE(lowering.CreateBodyArray(body).IsDot());
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace {
 
 class ConditionsTest : public SlotsFixture {
  protected:
-  int NextBehindIf(int lineNumber) { return Conditions.Ifprocessor(lineNumber); }
+  int NextBehindIf(int lineNumber) { return conditionals.Ifprocessor(lineNumber); }
 };
 
 using IfprocessorTest = ConditionsTest;
@@ -47,8 +47,8 @@ TEST_F(IfprocessorTest, AnArithmeticConditionIsTrueUnless0) {
 }
 
 TEST_F(IfprocessorTest, TheConditionReadsPositionLocalsAndGlobals) {
-  Turtle.TurtleX += 100;
-  Path.SetCtrlStr(".P- 2");
+  turtle.TurtleX += 100;
+  controlPath.SetCtrlStr(".P- 2");
   Slots({"P.:A=1", "B=3"});
   Fill({"TO P :A", "IF XCOR+:A=B", "FD 1", "ENDIF", "END"});
   EXPECT_EQ(NextBehindIf(2), 3);
@@ -58,13 +58,13 @@ TEST_F(IfprocessorTest, TheLineStays) {
   Slots({"B=3"});
   Fill({"TO P", "IF (B)=3", "FD 1", "ENDIF", "END"});
   EXPECT_EQ(NextBehindIf(2), 3);
-  EXPECT_EQ(Store.Line(2), "IF (B)=3");
+  EXPECT_EQ(store.Line(2), "IF (B)=3");
 }
 
 TEST_F(IfprocessorTest, SetsFileDataCountToTheLastUsedLine) {
   Fill({"TO P", "IF 1", "FD 1", "ENDIF", "END", "TO Q", "END", "", "STALE"});
   NextBehindIf(2);
-  EXPECT_EQ(Store.FileDataCount, 7);
+  EXPECT_EQ(store.FileDataCount, 7);
 }
 
 TEST_F(IfprocessorTest, FailsWhereNoEndStopsTheScan) {
@@ -73,16 +73,16 @@ TEST_F(IfprocessorTest, FailsWhereNoEndStopsTheScan) {
 }
 
 TEST_F(IfprocessorTest, FailsInAFullStoreAndLeavesFileDataCount) {
-  for (int number = 1; number <= 2000; ++number) Store.SetLine(number, "ENDIF");
+  for (int number = 1; number <= 2000; ++number) store.SetLine(number, "ENDIF");
   Fill({"TO P", "IF 1", "ENDIF", "END"});
-  Store.FileDataCount = 5;
+  store.FileDataCount = 5;
   EXPECT_EQ(FailureOf([&] { NextBehindIf(2); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Store.FileDataCount, 5);
+  EXPECT_EQ(store.FileDataCount, 5);
 }
 
 TEST_F(LabelPosTest, TheNameIsComparedWhole) {
   Fill({"TO P", "LABEL XY", "LABEL x", "END"});
-  EXPECT_EQ(Conditions.LabelPos("X"), 0);
+  EXPECT_EQ(conditionals.LabelPos("X"), 0);
 }
 
 }  // namespace

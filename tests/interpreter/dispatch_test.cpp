@@ -19,28 +19,28 @@ class DispatchTest : public testing::Test {
  protected:
   DispatchTest() {
     for (const ActionFacts& facts : Actions()) {
-      Primitives.Bind(facts.Does, [this, &facts](PrimitiveCall& call) {
-        if (!Primitives.TellMissingInput(call, facts.Does)) Done.push_back(std::string(facts.Name));
+      dispatch.Bind(facts.Does, [this, &facts](PrimitiveCall& call) {
+        if (!dispatch.TellMissingInput(call, facts.Does)) Done.push_back(std::string(facts.Name));
       });
     }
   }
 
-  FakeServices Desktop;
-  Dispatch Primitives{Desktop};
+  FakeServices services;
+  Dispatch Primitives{services};
   Texts Done;
 };
 
 TEST_F(DispatchTest, TrimsItsCallersText) {
   std::string line = "  FD 10  ";
-  Primitives.Executor(line);
+  dispatch.Executor(line);
   EXPECT_EQ(line, "FD 10");
   EXPECT_EQ(Done, Texts{"FD"});
 }
 
 TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
   PrimitiveCall seen;
-  Primitives.Bind(Action::Forward, [&](PrimitiveCall& call) { seen = call; });
-  Primitives.Execute("FD 10 + 5");
+  dispatch.Bind(Action::Forward, [&](PrimitiveCall& call) { seen = call; });
+  dispatch.Execute("FD 10 + 5");
   EXPECT_EQ(seen.CommandLine, "FD 10 + 5");
   EXPECT_EQ(seen.Word, "FD");
   EXPECT_EQ(seen.Rest, "10 + 5");
@@ -50,13 +50,13 @@ TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
 class WholeLineName : public DispatchTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(WholeLineName, IsMatchedAloneOnly) {
-  Primitives.Execute(GetParam());
+  dispatch.Execute(GetParam());
   EXPECT_EQ(Done.size(), 1U);
-  Primitives.Execute(std::string(GetParam()) + " 1");
+  dispatch.Execute(std::string(GetParam()) + " 1");
   EXPECT_EQ(Done.size(), 1U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, WholeLineName,
+INSTANTIATE_TEST_SUITE_P(variables, WholeLineName,
                          testing::Values("SAYDEVELOPER", "SAYDEVELOPERS", "COMMANDLIST", "FENCE", "XCOR", "YCOR",
                                          "WINDOW", "DRAW", "GETXY", "PEN", "FS", "FULLSCREEN", "SS", "SPLITSCREEN",
                                          "EDIT", "TS", "TEXTSCREEN", "CT", "CLEARTEXT", "BYE", "QUIT", "CLEAN", "HT",
@@ -65,12 +65,12 @@ INSTANTIATE_TEST_SUITE_P(Names, WholeLineName,
 class WordName : public DispatchTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(WordName, IsMatchedWithAnInputBehindIt) {
-  Primitives.Execute(std::string(GetParam()) + " 1 2 3 4 5 6");
+  dispatch.Execute(std::string(GetParam()) + " 1 2 3 4 5 6");
   EXPECT_EQ(Done.size(), 1U);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, WordName,
+INSTANTIATE_TEST_SUITE_P(variables, WordName,
                          testing::Values("STAMPCIRCLE", "DRAWMODE", "LW", "TEXTSIZE", "WAIT", "FD", "FORWARD", "BK",
                                          "BACK", "RESOLUTION", "RT", "RIGHT", "LT", "LEFT", "PX", "PENREVERSE", "PU",
                                          "PENUP", "PD", "PENDOWN", "PE", "PENERASE", "STAMPOVAL", "STAMPRECT", "SETPC",
@@ -83,18 +83,18 @@ INSTANTIATE_TEST_SUITE_P(Names, WordName,
                                          "REMAINDER"));
 
 TEST_F(DispatchTest, UnknownWordsAndNamesWithoutActionDoNothing) {
-  for (const char* line : {"GETX", "GETY", "SAVE X", "fd 10", "BOX", "REPEAT 4", ""}) Primitives.Execute(line);
+  for (const char* line : {"GETX", "GETY", "SAVE X", "fd 10", "BOX", "REPEAT 4", ""}) dispatch.Execute(line);
   EXPECT_EQ(Done, Texts{});
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(DispatchTest, LongNameOfLineWidthNeverGetsAnInput) {
-  Primitives.Execute("LINEWIDTH 3");
+  dispatch.Execute("LINEWIDTH 3");
   EXPECT_EQ(Done, Texts{});
-  Primitives.Execute("LINEWIDTH");
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Required Paramiter Missing After LINEWIDTH", 2, "Zerimo"}));
-  Primitives.Execute("LW 3");
+  dispatch.Execute("LINEWIDTH");
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"Required Paramiter Missing After LINEWIDTH", 2, "Zerimo"}));
+  dispatch.Execute("LW 3");
   EXPECT_EQ(Done, Texts{"LW"});
 }
 
@@ -111,10 +111,10 @@ void PrintTo(const MissingBox& one, std::ostream* out) {
 class MissingInputOf : public DispatchTest, public testing::WithParamInterface<MissingBox> {};
 
 TEST_P(MissingInputOf, IsToldInItsBox) {
-  Primitives.Execute(GetParam().Line);
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{std::string("Required Paramiter Missing After ") + GetParam().Line,
-                                        GetParam().Style, GetParam().Title}));
+  dispatch.Execute(GetParam().Line);
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{std::string("Required Paramiter Missing After ") + GetParam().Line,
+                                         GetParam().Style, GetParam().Title}));
   EXPECT_EQ(Done, Texts{});
 }
 
@@ -134,79 +134,79 @@ INSTANTIATE_TEST_SUITE_P(Boxes, MissingInputOf,
 
 TEST_F(DispatchTest, OtherPrimitivesHaveNoTestForAMissingInput) {
   for (const char* line : {"SETXY", "FILL", "FILLSTYLE", "CIRCLE", "HELP", "SUM", "WRITE", "FLOODFILL", "SHOW"}) {
-    Primitives.Execute(line);
+    dispatch.Execute(line);
   }
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
   EXPECT_EQ(Done.size(), 9U);
 }
 
 TEST_F(DispatchTest, TailRunsInItsOrderAfterEveryPrimitive) {
   Texts tail;
-  Primitives.TurtlePos = [&] { tail.push_back("TurtlePos"); };
-  Primitives.TitleText = [&] { tail.push_back("TitleText"); };
-  Primitives.RefreshSurface = [&] { tail.push_back("Refresh"); };
-  Primitives.Execute("REFRESH");
+  dispatch.TurtlePos = [&] { tail.push_back("TurtlePos"); };
+  dispatch.TitleText = [&] { tail.push_back("TitleText"); };
+  dispatch.RefreshSurface = [&] { tail.push_back("Refresh"); };
+  dispatch.Execute("REFRESH");
   EXPECT_EQ(tail, (Texts{"TurtlePos", "Refresh"}));
   tail.clear();
-  Primitives.DetailsOn = true;
-  Primitives.Execute("NOTHING");
+  dispatch.DetailsOn = true;
+  dispatch.Execute("NOTHING");
   EXPECT_EQ(tail, (Texts{"TurtlePos", "TitleText", "Refresh"}));
 }
 
 TEST_F(DispatchTest, AFailureInTheTailIsPassedOver) {
-  Primitives.DetailsOn = true;
-  Primitives.TitleText = [] { throw Failure(FailureKind::Overflow); };
+  dispatch.DetailsOn = true;
+  dispatch.TitleText = [] { throw Failure(FailureKind::Overflow); };
   bool refreshed = false;
-  Primitives.RefreshSurface = [&] { refreshed = true; };
-  Primitives.Execute("REFRESH");
+  dispatch.RefreshSurface = [&] { refreshed = true; };
+  dispatch.Execute("REFRESH");
   EXPECT_TRUE(refreshed);
-  EXPECT_EQ(Primitives.OverflowCount, 1);
+  EXPECT_EQ(dispatch.OverflowCount, 1);
 }
 
 TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
   int taken = 0;
-  Primitives.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
-  Primitives.Execute("HELP");
+  dispatch.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  dispatch.Execute("HELP");
   EXPECT_EQ(taken, 0);
-  Primitives.OverflowCount = 32767;
-  Primitives.Execute("HELP");
+  dispatch.OverflowCount = 32767;
+  dispatch.Execute("HELP");
   EXPECT_EQ(taken, 1);
 }
 
 TEST_F(DispatchTest, AFailureThatAnActionTakesOverEndsTheTail) {
   const auto fail = [] { throw Failure(FailureKind::Overflow); };
   int taken = 0;
-  Primitives.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
-  Primitives.DetailsOn = true;
-  Primitives.RefreshSurface = fail;
-  Primitives.Execute("HELP");
+  dispatch.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  dispatch.DetailsOn = true;
+  dispatch.RefreshSurface = fail;
+  dispatch.Execute("HELP");
   EXPECT_EQ(taken, 1) << "by the refreshing of the surface";
-  Primitives.TitleText = fail;
-  Primitives.Execute("HELP");
+  dispatch.TitleText = fail;
+  dispatch.Execute("HELP");
   EXPECT_EQ(taken, 2) << "by the status line alone";
-  Primitives.TurtlePos = fail;
-  Primitives.Execute("HELP");
+  dispatch.TurtlePos = fail;
+  dispatch.Execute("HELP");
   EXPECT_EQ(taken, 3) << "by the figure alone";
-  EXPECT_EQ(Primitives.OverflowCount, 0);
+  EXPECT_EQ(dispatch.OverflowCount, 0);
 }
 
 TEST_F(DispatchTest, TailWithoutAWindowOnlyCounts) {
-  Primitives.DetailsOn = true;
-  Primitives.Execute("REFRESH");
-  EXPECT_EQ(Primitives.OverflowCount, 1);
+  dispatch.DetailsOn = true;
+  dispatch.Execute("REFRESH");
+  EXPECT_EQ(dispatch.OverflowCount, 1);
 }
 
 TEST_F(DispatchTest, CountStopsAt32767WithoutABox) {
-  for (int call = 0; call < 40000; ++call) Primitives.Execute("REFRESH");
-  EXPECT_EQ(Primitives.OverflowCount, 32767);
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  for (int call = 0; call < 40000; ++call) dispatch.Execute("REFRESH");
+  EXPECT_EQ(dispatch.OverflowCount, 32767);
+  EXPECT_TRUE(services.Boxes.empty());
   EXPECT_EQ(Done.size(), 40000U);
 }
 
 TEST_F(DispatchTest, TheEndOfTheSystemLeavesAtOnce) {
-  Primitives.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
-  EXPECT_THROW(Primitives.Execute("QUIT"), Ended);
-  EXPECT_EQ(Primitives.OverflowCount, 0);
+  dispatch.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
+  EXPECT_THROW(dispatch.Execute("QUIT"), Ended);
+  EXPECT_EQ(dispatch.OverflowCount, 0);
 }
 
 }  // namespace

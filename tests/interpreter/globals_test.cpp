@@ -13,7 +13,7 @@ class MakeTest : public SlotsFixture {
   /// Carries out a `MAKE` in the procedure BOX.
   void Make(const char* line) {
     Fill({"TO BOX :N", line, "END"});
-    Names.VariableUpdate(2);
+    variables.VariableUpdate(2);
   }
   std::optional<FailureKind> FailureOfMake(const char* line) {
     return FailureOf([&] { Make(line); });
@@ -26,55 +26,55 @@ using SpaceRemoverFromVariableArrayTest = MakeTest;
 
 TEST_F(CreateGlobalVariableTest, ReadsTheMakeLinesAboveTheFirstTo) {
   Fill({"MAKE A 5", "MAKE B 2+3*4", "TO P", "MAKE C 7", "END"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(FirstSlots(4), (Texts{"A=5", "B=14", "", ""}));
 }
 
 TEST_F(CreateGlobalVariableTest, TheNameGoesToTheLastBlank) {
   Fill({"MAKE A B 5", "MAKE C 2 + 3", "TO P", "END"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(FirstSlots(2), (Texts{"A B=5", "C 2 +=3"}));
 }
 
 TEST_F(CreateGlobalVariableTest, TrimsTheLineInTheStore) {
   Fill({"MAKE A 5  ", "TO P", "END"});
-  Names.CreateGlobalVariable();
-  EXPECT_EQ(Store.Line(1), "MAKE A 5");
-  EXPECT_EQ(Names.Slot(1), "A=5");
+  variables.CreateGlobalVariable();
+  EXPECT_EQ(store.Line(1), "MAKE A 5");
+  EXPECT_EQ(variables.Slot(1), "A=5");
 }
 
 TEST_F(CreateGlobalVariableTest, TheSlotIsTheLinesNumber) {
   Slots({"X=1", "Y=2", "Z=3"});
   Fill({"FD 1", "MAKE A 5", "TO P", "END"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(FirstSlots(3), (Texts{"X=1", "A=5", "Z=3"}));
 }
 
 TEST_F(CreateGlobalVariableTest, AnotherLineLeavesAFreeSlotThatEndsLaterScans) {
   Fill({"FD 1", "MAKE A 5", "TO P", "END"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(FirstSlots(2), (Texts{"", "A=5"}));
   std::string expression = "A";
-  EXPECT_EQ(Names.GlobalVariableReplacer(expression), "");
+  EXPECT_EQ(variables.GlobalVariableReplacer(expression), "");
 }
 
 TEST_F(CreateGlobalVariableTest, StoresTheTextOfTheNumber) {
   Fill({"MAKE A 1/3", "MAKE B 0-.5", "MAKE C (1+1)*2", "MAKE D 1E15", "TO P", "END"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(FirstSlots(4), (Texts{"A=.333333333333333", "B=-.5", "C=4", "D=1E+15"}));
 }
 
 TEST_F(CreateGlobalVariableTest, AValueThatFailsLeavesAtOnce) {
   Fill({"MAKE A 5", "MAKE B 1/0", "MAKE C 6", "TO P", "END"});
-  EXPECT_EQ(FailureOf([&] { Names.CreateGlobalVariable(); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(FailureOf([&] { variables.CreateGlobalVariable(); }), FailureKind::DivisionByZero);
   EXPECT_EQ(FirstSlots(3), (Texts{"A=5", "", ""}));
 }
 
 TEST_F(CreateGlobalVariableTest, FailsAtAMakeOnLine501) {
-  for (int number = 1; number <= 501; ++number) Store.SetLine(number, "MAKE A " + std::to_string(number));
+  for (int number = 1; number <= 501; ++number) store.SetLine(number, "MAKE A " + std::to_string(number));
   Fill({"TO P", "END"}, 502);
-  EXPECT_EQ(FailureOf([&] { Names.CreateGlobalVariable(); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(500), "A=500");
+  EXPECT_EQ(FailureOf([&] { variables.CreateGlobalVariable(); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(variables.Slot(500), "A=500");
 }
 
 TEST_F(VariableUpdateTest, ANewNameBecomesAGlobalBehindTheLastSlot) {
@@ -85,7 +85,7 @@ TEST_F(VariableUpdateTest, ANewNameBecomesAGlobalBehindTheLastSlot) {
 
 TEST_F(VariableUpdateTest, TwoBlanksMakeAnEmptyName) {
   Make("MAKE  A 5");
-  EXPECT_EQ(Names.Slot(1), "=0");
+  EXPECT_EQ(variables.Slot(1), "=0");
 }
 
 TEST_F(VariableUpdateTest, AGlobalIsChangedInItsSlot) {
@@ -96,31 +96,31 @@ TEST_F(VariableUpdateTest, AGlobalIsChangedInItsSlot) {
 
 TEST_F(VariableUpdateTest, AValueIsStoredWith15DigitsAndNoBlank) {
   Make("MAKE A 1/3");
-  EXPECT_EQ(Names.Slot(1), "A=.333333333333333");
+  EXPECT_EQ(variables.Slot(1), "A=.333333333333333");
   Make("MAKE A 0-1/4");
-  EXPECT_EQ(Names.Slot(1), "A=-.25");
+  EXPECT_EQ(variables.Slot(1), "A=-.25");
 }
 
 TEST_F(VariableUpdateTest, AGlobalIsReadWithTwoDecimals) {
   Slots({"A=.125"});
   Make("MAKE B A");
-  EXPECT_EQ(Names.Slot(2), "B=.12");
+  EXPECT_EQ(variables.Slot(2), "B=.12");
 }
 
 TEST_F(VariableUpdateTest, TheTurtlesPositionIsPutIn) {
-  Turtle.TurtleX += 100;
+  turtle.TurtleX += 100;
   Make("MAKE A XCOR*3");
-  EXPECT_EQ(Names.Slot(1), "A=6");
+  EXPECT_EQ(variables.Slot(1), "A=6");
 }
 
 TEST_F(VariableUpdateTest, ALocalIsWrittenAndTheGlobalOfItsNameToo) {
-  Path.SetCtrlStr(".BOX- 2");
+  controlPath.SetCtrlStr(".BOX- 2");
   Slots({"BOX.:N=5"});
   Make("MAKE \"N :N+1");
   EXPECT_EQ(FirstSlots(3), (Texts{"BOX.:N=6", ":N=6", ""}));
   std::string expression = ":N+:N";
-  expression = Names.VarValReplacer(expression);
-  EXPECT_EQ(Names.GlobalVariableReplacer(expression), "6+6");
+  expression = variables.VarValReplacer(expression);
+  EXPECT_EQ(variables.GlobalVariableReplacer(expression), "6+6");
 }
 
 TEST_F(VariableUpdateTest, ALocalOfAnotherProcedureStays) {
@@ -132,7 +132,7 @@ TEST_F(VariableUpdateTest, ALocalOfAnotherProcedureStays) {
 TEST_F(VariableUpdateTest, TheEnclosingProcedureIsThatOfTheLine) {
   Fill({"TO A :N", "END", "TO B :N", "MAKE \"N 9", "END"});
   Slots({"A.:N=1", "B.:N=2"});
-  Names.VariableUpdate(4);
+  variables.VariableUpdate(4);
   EXPECT_EQ(FirstSlots(3), (Texts{"A.:N=1", "B.:N=9", ":N=9"}));
 }
 
@@ -177,40 +177,40 @@ TEST_F(VariableUpdateTest, AValueThatFailsWritesNothing) {
 
 TEST_F(VariableUpdateTest, FailsWithoutAHeaderAboveIt) {
   Fill({"MAKE A 5"});
-  EXPECT_EQ(FailureOf([&] { Names.VariableUpdate(1); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(1), "");
+  EXPECT_EQ(FailureOf([&] { variables.VariableUpdate(1); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(variables.Slot(1), "");
 }
 
 TEST_F(VariableUpdateTest, TheLastFreeSlotIsFilledBeforeTheFailure) {
   FillAllSlots("X=1");
-  Names.SetSlot(500, "");
+  variables.SetSlot(500, "");
   EXPECT_EQ(FailureOfMake("MAKE A 5"), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(500), "A=5");
+  EXPECT_EQ(variables.Slot(500), "A=5");
 }
 
 TEST_F(SpaceRemoverFromVariableArrayTest, TheLastSlotStaysTwice) {
   Slots({" "});
-  Names.SetSlot(499, "Y=1");
-  Names.SetSlot(500, "Z=1");
-  EXPECT_EQ(FailureOf([&] { Names.SpaceRemoverFromVariableArray(); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(498), "Y=1");
-  EXPECT_EQ(Names.Slot(499), "Z=1");
-  EXPECT_EQ(Names.Slot(500), "Z=1");
+  variables.SetSlot(499, "Y=1");
+  variables.SetSlot(500, "Z=1");
+  EXPECT_EQ(FailureOf([&] { variables.SpaceRemoverFromVariableArray(); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(variables.Slot(498), "Y=1");
+  EXPECT_EQ(variables.Slot(499), "Z=1");
+  EXPECT_EQ(variables.Slot(500), "Z=1");
 }
 
 TEST_F(SpaceRemoverFromVariableArrayTest, ReachesSlot100) {
-  Names.SetSlot(100, " ");
-  EXPECT_EQ(FailureOf([&] { Names.SpaceRemoverFromVariableArray(); }), FailureKind::SubscriptOutOfRange);
-  EXPECT_FALSE(Names.SpacePresent());
+  variables.SetSlot(100, " ");
+  EXPECT_EQ(FailureOf([&] { variables.SpaceRemoverFromVariableArray(); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_FALSE(variables.SpacePresent());
 }
 
 TEST_F(SpaceRemoverFromVariableArrayTest, SpacePresentSeesAllSlots) {
-  EXPECT_FALSE(Names.SpacePresent());
-  Names.SetSlot(500, " ");
-  EXPECT_TRUE(Names.SpacePresent());
-  Names.SetSlot(500, " ");
-  Names.SetSlot(500, "  ");
-  EXPECT_FALSE(Names.SpacePresent());
+  EXPECT_FALSE(variables.SpacePresent());
+  variables.SetSlot(500, " ");
+  EXPECT_TRUE(variables.SpacePresent());
+  variables.SetSlot(500, " ");
+  variables.SetSlot(500, "  ");
+  EXPECT_FALSE(variables.SpacePresent());
 }
 
 }  // namespace

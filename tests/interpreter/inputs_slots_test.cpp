@@ -21,15 +21,15 @@ class InputsSlotsTest : public SlotsFixture {
  protected:
   InputsSlotsTest() { Fill({"TO BOX :N", "FD :N", "END", "TO TWO :A :B", "END"}); }
 
-  void Call(const std::string& line) { Locals.CreateLocalVariable(line); }
+  void Call(const std::string& line) { inputs.CreateLocalVariable(line); }
   std::optional<FailureKind> FailureOfCall(const std::string& line) {
     return FailureOf([&] { Call(line); });
   }
-  void End(std::string name) { Locals.DeleteLocalVariable(name); }
+  void End(std::string name) { inputs.DeleteLocalVariable(name); }
   /// The value of an expression in a running procedure.
   double ValueIn(const char* path, std::string expression) {
-    Path.SetCtrlStr(path);
-    return Stages.Number(std::move(expression));
+    controlPath.SetCtrlStr(path);
+    return arguments.Number(std::move(expression));
   }
 };
 
@@ -38,32 +38,32 @@ using DeleteLocalVariableTest = InputsSlotsTest;
 
 TEST_F(CreateLocalVariableTest, AValueIsTextAndIsNotEvaluated) {
   Call("BOX 2+3");
-  EXPECT_EQ(Names.Slot(1), "BOX.:N=2+3");
+  EXPECT_EQ(variables.Slot(1), "BOX.:N=2+3");
   EXPECT_EQ(ValueIn(".BOX- 2", "3*:N"), 9);
 }
 
 TEST_F(CreateLocalVariableTest, OnlyTheFirstOccurrenceIsALocals) {
   Slots({"A.:X=4", ":X=7"});
-  Path.SetCtrlStr(".A- 2");
+  controlPath.SetCtrlStr(".A- 2");
   Call("BOX :X+:X");
-  EXPECT_EQ(Names.Slot(3), "BOX.:N=4+7");
+  EXPECT_EQ(variables.Slot(3), "BOX.:N=4+7");
 }
 
 TEST_F(CreateLocalVariableTest, GlobalsArePutInWithTwoDecimals) {
   Slots({"G=1.239"});
   Call("BOX G*2");
-  EXPECT_EQ(Names.Slot(2), "BOX.:N=1.24*2");
+  EXPECT_EQ(variables.Slot(2), "BOX.:N=1.24*2");
 }
 
 TEST_F(CreateLocalVariableTest, XcorIsNoPositionHere) {
-  Turtle.TurtleX += 100;
+  turtle.TurtleX += 100;
   Call("BOX XCOR+1");
-  EXPECT_EQ(Names.Slot(1), "BOX.:N=+1");
+  EXPECT_EQ(variables.Slot(1), "BOX.:N=+1");
 }
 
 TEST_F(CreateLocalVariableTest, TwoBlanksEndThePairing) {
   Call("TWO  1 2");
-  EXPECT_EQ(Names.Slot(1), "");
+  EXPECT_EQ(variables.Slot(1), "");
   Call("TWO 1  2");
   EXPECT_EQ(FirstSlots(2), (Texts{"TWO.:A=1", ""}));
 }
@@ -92,14 +92,14 @@ TEST_F(CreateLocalVariableTest, WritesFromTheFirstDeletedSlotOnWithoutALook) {
 
 TEST_F(CreateLocalVariableTest, RebuildsList2) {
   Call("BOX 50");
-  EXPECT_EQ(Controls.List2.Items(), (Texts{"BOX.:N=50"}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{"BOX.:N=50"}));
 }
 
 TEST_F(CreateLocalVariableTest, PairsTheWordsOf50) {
-  Store.SetLine(6, "TO P" + Numbered(48, ":"));
+  store.SetLine(6, "TO P" + Numbered(48, ":"));
   EXPECT_EQ(FailureOfCall("P" + Numbered(48)), std::nullopt);
-  EXPECT_EQ(Names.Slot(48), "P.:48=48");
-  EXPECT_EQ(Names.Slot(49), "");
+  EXPECT_EQ(variables.Slot(48), "P.:48=48");
+  EXPECT_EQ(variables.Slot(49), "");
 }
 
 TEST_F(CreateLocalVariableTest, FailsAtTheCalls51stWord) {
@@ -110,28 +110,28 @@ TEST_F(CreateLocalVariableTest, FailsAtTheCalls51stWord) {
 
 TEST_F(CreateLocalVariableTest, FailsAtTheHeaders51stWord) {
   // The header's first word, in front of its name, is the empty one.
-  Store.SetLine(6, "TO P" + Numbered(49, ":"));
+  store.SetLine(6, "TO P" + Numbered(49, ":"));
   EXPECT_EQ(FailureOfCall("P 1"), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(1), "");
+  EXPECT_EQ(variables.Slot(1), "");
 }
 
 TEST_F(CreateLocalVariableTest, FailsWithNoFreeSlot) {
   FillAllSlots("X=1");
   EXPECT_EQ(FailureOfCall("BOX 5"), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Path.CurProcName, "");
+  EXPECT_EQ(controlPath.CurProcName, "");
 }
 
 TEST_F(CreateLocalVariableTest, AnInputThatFillsTheTableStays) {
   FillAllSlots("X=1");
-  Names.SetSlot(500, "");
+  variables.SetSlot(500, "");
   EXPECT_EQ(FailureOfCall("BOX 5"), FailureKind::SubscriptOutOfRange);
-  EXPECT_EQ(Names.Slot(500), "BOX.:N=5");
-  EXPECT_EQ(Path.CurProcName, "");
+  EXPECT_EQ(variables.Slot(500), "BOX.:N=5");
+  EXPECT_EQ(controlPath.CurProcName, "");
 }
 
 TEST_F(CreateLocalVariableTest, ARecursiveCallsEntriesPileUpInSlotOrder) {
   Call("BOX 1");
-  Path.SetCtrlStr(".BOX- 2");
+  controlPath.SetCtrlStr(".BOX- 2");
   Call("BOX :N+1");
   EXPECT_EQ(FirstSlots(3), (Texts{"BOX.:N=1", "BOX.:N=1+1", ""}));
   // One occurrence reads the outermost activation's value.
@@ -142,7 +142,7 @@ TEST_F(CreateLocalVariableTest, ARecursiveCallsEntriesPileUpInSlotOrder) {
 TEST_F(DeleteLocalVariableTest, LooksAtTheTrimmedSlot) {
   Slots({"  BOX.:N=1"});
   End("BOX");
-  EXPECT_EQ(Names.Slot(1), " ");
+  EXPECT_EQ(variables.Slot(1), " ");
 }
 
 TEST_F(DeleteLocalVariableTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
@@ -154,13 +154,13 @@ TEST_F(DeleteLocalVariableTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
 TEST_F(DeleteLocalVariableTest, RebuildsList2) {
   Slots({"BOX.:N=1", "G=2"});
   End("BOX");
-  EXPECT_EQ(Controls.List2.Items(), (Texts{" ", "G=2"}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{" ", "G=2"}));
 }
 
 TEST_F(DeleteLocalVariableTest, LeavesList2WithNothingToDelete) {
   Slots({"G=2"});
   End("BOX");
-  EXPECT_TRUE(Controls.List2.Items().empty());
+  EXPECT_TRUE(controls.List2.Items().empty());
 }
 
 TEST_F(DeleteLocalVariableTest, InAFullTableTheFirstRebuildFails) {
@@ -180,8 +180,8 @@ TEST_F(InputsSlotsTest, AfterAMakeASecondCallWritesInAFreeSlot) {
   Slots({"G=1"});
   Call("BOX 1");
   End("BOX");
-  Store.SetLine(2, "MAKE G 2");
-  EXPECT_EQ(FailureOf([&] { Names.VariableUpdate(2); }), FailureKind::SubscriptOutOfRange);
+  store.SetLine(2, "MAKE G 2");
+  EXPECT_EQ(FailureOf([&] { variables.VariableUpdate(2); }), FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(FirstSlots(2), (Texts{"G=2", ""}));
   Call("BOX 2");
   EXPECT_EQ(FirstSlots(3), (Texts{"G=2", "BOX.:N=2", ""}));

@@ -10,99 +10,99 @@
 namespace zerimo {
 namespace {
 
-class InputsTest : public testing::Test, protected Interpreter {};
+class InputsTest : public testing::Test, protected BareInterpreter {};
 
 TEST_F(InputsTest, ACallPairsItsWordsWithTheHeader) {
   Fill({"TO BOX :N :M", "END"});
-  Locals.CreateLocalVariable("BOX 50 7");
-  EXPECT_EQ(Names.Slot(1), "BOX.:N=50");
-  EXPECT_EQ(Names.Slot(2), "BOX.:M=7");
-  EXPECT_EQ(Path.CurProcName, "BOX");
-  EXPECT_EQ(Controls.List2.Items().size(), 2U);
+  inputs.CreateLocalVariable("BOX 50 7");
+  EXPECT_EQ(variables.Slot(1), "BOX.:N=50");
+  EXPECT_EQ(variables.Slot(2), "BOX.:M=7");
+  EXPECT_EQ(controlPath.CurProcName, "BOX");
+  EXPECT_EQ(controls.List2.Items().size(), 2U);
 }
 
 TEST_F(InputsTest, TheEndDeletesTheEntries) {
   Fill({"TO BOX :N", "END"});
-  Locals.CreateLocalVariable("BOX 50");
+  inputs.CreateLocalVariable("BOX 50");
   std::string name = " BOX ";
-  Locals.DeleteLocalVariable(name);
+  inputs.DeleteLocalVariable(name);
   EXPECT_EQ(name, "BOX");
-  EXPECT_EQ(Names.Slot(1), " ");
+  EXPECT_EQ(variables.Slot(1), " ");
 }
 
 TEST_F(InputsTest, DeletingTakesAllActivationsOfThatNameOnly) {
-  Names.SetSlot(1, "BOX.:N=1");
-  Names.SetSlot(2, "BOXES.:N=1");
-  Names.SetSlot(3, "BOX.:N=2");
-  Names.SetSlot(4, ":N=3");
+  variables.SetSlot(1, "BOX.:N=1");
+  variables.SetSlot(2, "BOXES.:N=1");
+  variables.SetSlot(3, "BOX.:N=2");
+  variables.SetSlot(4, ":N=3");
   std::string name = "BOX";
-  Locals.DeleteLocalVariable(name);
-  EXPECT_EQ(Names.Slot(1), " ");
-  EXPECT_EQ(Names.Slot(2), "BOXES.:N=1");
-  EXPECT_EQ(Names.Slot(3), " ");
-  EXPECT_EQ(Names.Slot(4), ":N=3");
+  inputs.DeleteLocalVariable(name);
+  EXPECT_EQ(variables.Slot(1), " ");
+  EXPECT_EQ(variables.Slot(2), "BOXES.:N=1");
+  EXPECT_EQ(variables.Slot(3), " ");
+  EXPECT_EQ(variables.Slot(4), ":N=3");
 }
 
 TEST_F(InputsTest, AnArgumentIsTextAndNotEvaluated) {
   Fill({"TO BOX :N", "END"});
-  Locals.CreateLocalVariable("BOX 1+1");
-  EXPECT_EQ(Names.Slot(1), "BOX.:N=1+1");
-  Path.SetCtrlStr(".BOX- 2");
-  EXPECT_EQ(Stages.Number("2*:N"), 3);
+  inputs.CreateLocalVariable("BOX 1+1");
+  EXPECT_EQ(variables.Slot(1), "BOX.:N=1+1");
+  controlPath.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(arguments.Number("2*:N"), 3);
 }
 
 TEST_F(InputsTest, AnArgumentIsReadInTheCallersScope) {
   Fill({"TO A :X", "B :X+1", "END", "TO B :Y", "END"});
-  Names.SetSlot(1, "A.:X=5");
-  Path.SetCtrlStr(".A- 2");
-  Locals.CreateLocalVariable("B :X+1");
-  EXPECT_EQ(Names.Slot(2), "B.:Y=5+1");
+  variables.SetSlot(1, "A.:X=5");
+  controlPath.SetCtrlStr(".A- 2");
+  inputs.CreateLocalVariable("B :X+1");
+  EXPECT_EQ(variables.Slot(2), "B.:Y=5+1");
 }
 
 TEST_F(InputsTest, AGlobalZeroLeavesAnEmptyValue) {
   Fill({"TO BOX :N", "END"});
-  Names.SetSlot(1, "Z=0");
-  Locals.CreateLocalVariable("BOX Z");
-  EXPECT_EQ(Names.Slot(2), "BOX.:N=");
+  variables.SetSlot(1, "Z=0");
+  inputs.CreateLocalVariable("BOX Z");
+  EXPECT_EQ(variables.Slot(2), "BOX.:N=");
 }
 
 TEST_F(InputsTest, TooFewArgumentsLeaveInputsUndefinedAndSurplusOnesAreIgnored) {
   Fill({"TO BOX :N :M", "END"});
-  Locals.CreateLocalVariable("BOX 1");
-  EXPECT_EQ(Names.Slot(2), "");
-  Locals.CreateLocalVariable("BOX 1 2 3");
-  EXPECT_EQ(Names.Slot(4), "");
+  inputs.CreateLocalVariable("BOX 1");
+  EXPECT_EQ(variables.Slot(2), "");
+  inputs.CreateLocalVariable("BOX 1 2 3");
+  EXPECT_EQ(variables.Slot(4), "");
 }
 
 TEST_F(InputsTest, TwoBlanksEndThePairing) {
   Fill({"TO BOX :N :M", "END"});
-  Locals.CreateLocalVariable("BOX  1 2");
-  EXPECT_EQ(Names.Slot(1), "");
-  EXPECT_EQ(Path.CurProcName, "BOX");
+  inputs.CreateLocalVariable("BOX  1 2");
+  EXPECT_EQ(variables.Slot(1), "");
+  EXPECT_EQ(controlPath.CurProcName, "BOX");
 }
 
 TEST_F(InputsTest, AnInputNeedsNoColon) {
   Fill({"TO BOX N", "END"});
-  Locals.CreateLocalVariable("BOX 4");
-  EXPECT_EQ(Names.Slot(1), "BOX.N=4");
+  inputs.CreateLocalVariable("BOX 4");
+  EXPECT_EQ(variables.Slot(1), "BOX.N=4");
 }
 
 TEST_F(InputsTest, ADeletedSlotIsFilledAndWhatStandsBehindIsOverwritten) {
   Fill({"TO BOX :N :M", "END"});
-  Names.SetSlot(1, " ");
-  Names.SetSlot(2, "G=1");
-  Locals.CreateLocalVariable("BOX 5 6");
-  EXPECT_EQ(Names.Slot(1), "BOX.:N=5");
-  EXPECT_EQ(Names.Slot(2), "BOX.:M=6");
+  variables.SetSlot(1, " ");
+  variables.SetSlot(2, "G=1");
+  inputs.CreateLocalVariable("BOX 5 6");
+  EXPECT_EQ(variables.Slot(1), "BOX.:N=5");
+  EXPECT_EQ(variables.Slot(2), "BOX.:M=6");
 }
 
 TEST_F(InputsTest, RecursionReadsTheOutermostActivation) {
   Fill({"TO R :N", "END"});
-  Locals.CreateLocalVariable("R 1");
-  Path.SetCtrlStr(".R- 2");
-  Locals.CreateLocalVariable("R 2");
-  EXPECT_EQ(Names.Slot(2), "R.:N=2");
-  EXPECT_EQ(Stages.Number(":N"), 1);
+  inputs.CreateLocalVariable("R 1");
+  controlPath.SetCtrlStr(".R- 2");
+  inputs.CreateLocalVariable("R 2");
+  EXPECT_EQ(variables.Slot(2), "R.:N=2");
+  EXPECT_EQ(arguments.Number(":N"), 1);
 }
 
 std::string ManyWords(int count) {
@@ -113,23 +113,23 @@ std::string ManyWords(int count) {
 
 TEST_F(InputsTest, FiftyWordsAreTheMost) {
   Fill({"TO BOX :N", "END"});
-  EXPECT_NO_THROW(Locals.CreateLocalVariable(ManyWords(50)));
-  EXPECT_THROW(Locals.CreateLocalVariable(ManyWords(51)), Failure);
+  EXPECT_NO_THROW(inputs.CreateLocalVariable(ManyWords(50)));
+  EXPECT_THROW(inputs.CreateLocalVariable(ManyWords(51)), Failure);
 }
 
 TEST_F(InputsTest, AFullTableFails) {
   Fill({"TO BOX :N", "END"});
-  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "X=1");
-  EXPECT_THROW(Locals.CreateLocalVariable("BOX 1"), Failure);
+  for (int number = 1; number <= 500; ++number) variables.SetSlot(number, "X=1");
+  EXPECT_THROW(inputs.CreateLocalVariable("BOX 1"), Failure);
 }
 
 TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
   Fill({"TO BOX :N :M", "END"});
-  for (int number = 1; number <= 499; ++number) Names.SetSlot(number, "X=1");
+  for (int number = 1; number <= 499; ++number) variables.SetSlot(number, "X=1");
   Watch = LimitedWatch(1, 200);
   // The second argument's scan for locals finds no free slot any more.
-  EXPECT_THROW(Locals.CreateLocalVariable("BOX 1 2"), Stopped);
-  EXPECT_EQ(Names.Slot(500), "BOX.:N=1");
+  EXPECT_THROW(inputs.CreateLocalVariable("BOX 1 2"), Stopped);
+  EXPECT_EQ(variables.Slot(500), "BOX.:N=1");
 }
 
 TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
@@ -138,15 +138,15 @@ TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
   // The activation that takes the last slot hangs in its first expression.
   EXPECT_THROW(Type("R 1"), Stopped);
   EXPECT_EQ(Calls.size(), 499U);
-  EXPECT_EQ(Names.Slot(500), "R.:N=1");
+  EXPECT_EQ(variables.Slot(500), "R.:N=1");
 }
 
 TEST_F(InputsTest, ASecondCallTakesTheDeletedSlotAgain) {
   Fill({"TO BOX :N", "FD :N", "END"});
   Type("BOX 5");
-  EXPECT_EQ(Names.Slot(1), " ");
+  EXPECT_EQ(variables.Slot(1), " ");
   Type("BOX 6");
-  EXPECT_EQ(Names.Slot(2), "");
+  EXPECT_EQ(variables.Slot(2), "");
   EXPECT_EQ(Calls.back(), "FD 6");
 }
 

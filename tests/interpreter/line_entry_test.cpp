@@ -94,7 +94,7 @@ class LineEntryTest : public testing::Test {
  protected:
   ListBox List3{"List3"};
   ListBox List4{"List4"};
-  ProgramStore Store{List3};
+  Store Store{List3};
 };
 
 struct WordsByInputs {
@@ -131,51 +131,51 @@ const std::vector<WordsByInputs>& InputsOfWords() {
 
 TEST_F(LineEntryTest, InputsOfThePrimitivesAreFixed) {
   for (const WordsByInputs& row : InputsOfWords()) {
-    for (const char* const word : row.Words) EXPECT_EQ(HowManyInput(word, Store), row.Inputs) << word;
+    for (const char* const word : row.Words) EXPECT_EQ(HowManyInput(word, store), row.Inputs) << word;
   }
 }
 
 TEST_F(LineEntryTest, OtherWordsHaveNoInput) {
   for (const char* const word : {"NOWHERE", "REFRESH", "END", "ELSE", "fd", "FULLSCREEN", ""}) {
-    EXPECT_EQ(HowManyInput(word, Store), 0) << word;
+    EXPECT_EQ(HowManyInput(word, store), 0) << word;
   }
 }
 
 TEST_F(LineEntryTest, InputsOfAProcedureAreTheBlanksOfItsHeaderLessOne) {
-  Store.SetLine(1, "TO STAR");
-  Store.SetLine(2, "END");
-  Store.SetLine(3, "TO BOX :S ");
-  Store.SetLine(4, "END");
-  Store.SetLine(5, "TO ARC :R :A");
-  Store.SetLine(6, "END");
-  EXPECT_EQ(HowManyInput("STAR", Store), 0);
-  EXPECT_EQ(HowManyInput("BOX", Store), 1);
-  EXPECT_EQ(HowManyInput("ARC", Store), 2);
-  EXPECT_EQ(HowManyInput("AR", Store), 0);
+  store.SetLine(1, "TO STAR");
+  store.SetLine(2, "END");
+  store.SetLine(3, "TO BOX :S ");
+  store.SetLine(4, "END");
+  store.SetLine(5, "TO ARC :R :A");
+  store.SetLine(6, "END");
+  EXPECT_EQ(HowManyInput("STAR", store), 0);
+  EXPECT_EQ(HowManyInput("BOX", store), 1);
+  EXPECT_EQ(HowManyInput("ARC", store), 2);
+  EXPECT_EQ(HowManyInput("AR", store), 0);
 }
 
 TEST_F(LineEntryTest, TheBlanksOfAHeaderAreCountedInAByte) {
-  Store.SetLine(1, "TO A" + std::string(253, ' ') + "B");
-  EXPECT_EQ(HowManyInput("A", Store), 253);
-  Store.SetLine(1, "TO A" + std::string(254, ' ') + "B");
-  EXPECT_EQ(HowManyInput("A", Store), 254);
-  Store.SetLine(1, "TO A" + std::string(255, ' ') + "B");
-  EXPECT_THROW(HowManyInput("A", Store), Failure);
+  store.SetLine(1, "TO A" + std::string(253, ' ') + "B");
+  EXPECT_EQ(HowManyInput("A", store), 253);
+  store.SetLine(1, "TO A" + std::string(254, ' ') + "B");
+  EXPECT_EQ(HowManyInput("A", store), 254);
+  store.SetLine(1, "TO A" + std::string(255, ' ') + "B");
+  EXPECT_THROW(HowManyInput("A", store), Failure);
   // No blank is left behind the trimming.
-  Store.SetLine(1, "GOTO ");
-  EXPECT_THROW(HowManyInput("", Store), Failure);
+  store.SetLine(1, "GOTO ");
+  EXPECT_THROW(HowManyInput("", store), Failure);
 }
 
 TEST_F(LineEntryTest, AWordMayBeFoundInAnotherLineThanItsHeader) {
-  Store.SetLine(1, "GOTO BOX");
-  Store.SetLine(2, "TO BOX :S :T");
-  EXPECT_EQ(HowManyInput("BOX", Store), 0);
+  store.SetLine(1, "GOTO BOX");
+  store.SetLine(2, "TO BOX :S :T");
+  EXPECT_EQ(HowManyInput("BOX", store), 0);
 }
 
 TEST_F(LineEntryTest, LookUpsFailInAStoreWithoutAnEmptyLine) {
-  for (int number = 1; number <= 2000; ++number) Store.SetLine(number, "FD 1");
-  EXPECT_THROW(HowManyInput("NOWHERE", Store), Failure);
-  EXPECT_THROW(DefinedStatement(Store, List3, List4), Failure);
+  for (int number = 1; number <= 2000; ++number) store.SetLine(number, "FD 1");
+  EXPECT_THROW(HowManyInput("NOWHERE", store), Failure);
+  EXPECT_THROW(DefinedStatement(store, List3, List4), Failure);
 }
 
 TEST(GiveWord, GivesTheNthWordAndLeavesABlank) {
@@ -216,22 +216,22 @@ TEST(GiveWord, FortyNineWordsAreTheMost) {
 
 TEST_F(LineEntryTest, DefinedStatementTellsTheUsersProceduresAndEmptiesList3) {
   List3.Add("TO OLD");
-  Store.SetLine(1, "TO BOX :S");
-  Store.SetLine(2, "END");
-  Store.SetLine(3, "TO #TEMP$1");
-  Store.SetLine(4, "TS");
-  Store.SetLine(5, "END");
-  DefinedStatement(Store, List3, List4);
+  store.SetLine(1, "TO BOX :S");
+  store.SetLine(2, "END");
+  store.SetLine(3, "TO #TEMP$1");
+  store.SetLine(4, "TS");
+  store.SetLine(5, "END");
+  DefinedStatement(store, List3, List4);
   EXPECT_TRUE(List3.Items().empty());
   EXPECT_EQ(List4.Items(), (std::vector<std::string>{"BOX is Defined"}));
-  EXPECT_EQ(Store.Line(1), "TO BOX :S ");
+  EXPECT_EQ(store.Line(1), "TO BOX :S ");
 }
 
 TEST_F(LineEntryTest, DefinedStatementLeavesOutNamesWithADollar) {
-  Store.SetLine(1, "TO A$B");
-  Store.SetLine(2, "TO A#B");
-  Store.SetLine(3, "TO AB :N$");
-  DefinedStatement(Store, List3, List4);
+  store.SetLine(1, "TO A$B");
+  store.SetLine(2, "TO A#B");
+  store.SetLine(3, "TO AB :N$");
+  DefinedStatement(store, List3, List4);
   EXPECT_EQ(List4.Items(), (std::vector<std::string>{"AB is Defined"}));
 }
 

@@ -16,15 +16,15 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class LoweringTest : public testing::Test, protected Interpreter {
+class LoweringTest : public testing::Test, protected BareInterpreter {
  protected:
   Texts Lowered(std::initializer_list<const char*> lines) {
     Fill(lines);
-    Repeats.RemoveAllRepeats();
+    lowering.RemoveAllRepeats();
     return Program();
   }
   Texts Split(std::string body) {
-    const BodyArray statements = Repeats.CreateBodyArray(body);
+    const BodyArray statements = lowering.CreateBodyArray(body);
     if (statements.IsDot()) return {"."};
     Texts texts;
     for (int index = 1; index <= BodyArray::LastIndex && !statements.At(index).empty(); ++index) {
@@ -38,21 +38,21 @@ TEST_F(LoweringTest, NestedRepeatsAreTakenApartFromTheOutside) {
   EXPECT_EQ(Lowered({"TO BOX :N", "REPEAT 4 [FD :N REPEAT 2 [RT 45] BK :N]", "END"}),
             (Texts{"TO BOX :N", "MAKE # 1", "LABEL $", "FD :N", "MAKE ## 1", "LABEL $$", "RT 45", "MAKE ## ##+1",
                    "IF ##<=2", "GOTO $$", "ENDIF", "BK :N", "MAKE # #+1", "IF #<=4", "GOTO $", "ENDIF", "END"}));
-  EXPECT_EQ(Controls.Label17.Caption, "#- 2");
-  EXPECT_EQ(Controls.Label18.Caption, "$- 2");
+  EXPECT_EQ(controls.Label17.Caption, "#- 2");
+  EXPECT_EQ(controls.Label18.Caption, "$- 2");
 }
 
 TEST_F(LoweringTest, OneRoundLowersTheTopmostLine) {
   Fill({"TO BOX :N", "REPEAT 4 [FD :N REPEAT 2 [RT 45] BK :N]", "END"});
-  Repeats.RemoveSingleRepeat();
+  lowering.RemoveSingleRepeat();
   EXPECT_EQ(Program(), (Texts{"TO BOX :N", "MAKE # 1", "LABEL $", "FD :N", "REPEAT 2 [RT 45]", "BK :N", "MAKE # #+1",
                               "IF #<=4", "GOTO $", "ENDIF", "END"}));
 }
 
 TEST_F(LoweringTest, TheCountIsCopiedAsItIs) {
   EXPECT_EQ(Lowered({"REPEAT :N*2 [FD 10]"})[4], "IF #<=:N*2");
-  EXPECT_EQ(Repeats.RepeatNum("REPEAT 2 + 1 [FD 10]"), "2 + 1");
-  Store.MakeEmptyFileDataArray();
+  EXPECT_EQ(lowering.RepeatNum("REPEAT 2 + 1 [FD 10]"), "2 + 1");
+  store.MakeEmptyFileDataArray();
   EXPECT_EQ(Lowered({"REPEAT 2 + 1 [FD 10]"})[4], "IF ##<=2 + 1");
 }
 
@@ -61,7 +61,7 @@ TEST_F(LoweringTest, RepeatsInARowGetTheNextNames) {
   EXPECT_EQ(lines[0], "MAKE # 1");
   EXPECT_EQ(lines[7], "MAKE ## 1");
   EXPECT_EQ(lines[8], "LABEL $$");
-  Store.MakeEmptyFileDataArray();
+  store.MakeEmptyFileDataArray();
   EXPECT_EQ(Lowered({"REPEAT 2 [FD 1]"})[0], "MAKE ### 1");
 }
 
@@ -87,8 +87,8 @@ INSTANTIATE_TEST_SUITE_P(Repeat, RoundsOf,
 
 TEST_F(LoweringTest, TheCountIsEvaluatedInEveryRound) {
   Fill({"MAKE :N 5", "TO A", "REPEAT :N [MAKE \"N :N-1 FD 1]", "END"});
-  Repeats.RemoveAllRepeats();
-  Names.CreateGlobalVariable();
+  lowering.RemoveAllRepeats();
+  variables.CreateGlobalVariable();
   Type("A");
   // 5 rounds shrink to 3: the counter meets the falling count half-way.
   EXPECT_EQ(Calls.size(), 3U);
@@ -96,20 +96,20 @@ TEST_F(LoweringTest, TheCountIsEvaluatedInEveryRound) {
 
 TEST_F(LoweringTest, ACountBeyond16BitsFailsAndTheLineStays) {
   Fill({"REPEAT 40000 [FD 10]"});
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
   EXPECT_EQ(Program(), (Texts{"REPEAT 40000 [FD 10]"}));
-  EXPECT_EQ(Repeats.RepeatCounterName, "#");
-  EXPECT_EQ(Repeats.RepeatLabelName, "$");
+  EXPECT_EQ(lowering.RepeatCounterName, "#");
+  EXPECT_EQ(lowering.RepeatLabelName, "$");
 }
 
 TEST_F(LoweringTest, ACountThatDividesByZeroFails) {
   Fill({"REPEAT 1/0 [FD 10]"});
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
 }
 
 TEST_F(LoweringTest, BlanksInsideTheBracketsDoNotMatter) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 10 ]"})[2], "FD 10");
-  Store.MakeEmptyFileDataArray();
+  store.MakeEmptyFileDataArray();
   EXPECT_EQ(Lowered({"REPEAT 4 [ FD 10 RT 90 ]"}),
             (Texts{"MAKE ## 1", "LABEL $$", "FD 10", "RT 90", "MAKE ## ##+1", "IF ##<=4", "GOTO $$", "ENDIF"}));
 }
@@ -120,29 +120,29 @@ TEST_F(LoweringTest, AnEmptyBodyGivesTheLoopAlone) {
 
 TEST_F(LoweringTest, AnOuterRepeatWithoutABracketHasNoBody) {
   EXPECT_EQ(Lowered({"REPEAT 3"}), (Texts{"MAKE # 1", "LABEL $", "MAKE # #+1", "IF #<=3", "GOTO $", "ENDIF"}));
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(LoweringTest, AnOuterRepeatWithoutAClosingBracketLosesItsLastCharacter) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 10"})[2], "FD 1");
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(LoweringTest, ANestedRepeatWithoutABracketIsToldTwice) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 1 REPEAT 2 RT 1]"}),
             (Texts{"MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=3", "GOTO $", "ENDIF"}));
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"Missing [", "Missing ["}));
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Missing [", 0, ""}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"Missing [", "Missing ["}));
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"Missing [", 0, ""}));
 }
 
 TEST_F(LoweringTest, ANestedRepeatWithoutAClosingBracketIsToldTwice) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 1 REPEAT 2 [RT 1]"})[2], "FD 1");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"] Absent", "] Absent"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"] Absent", "] Absent"}));
 }
 
 TEST_F(LoweringTest, ANestedEmptyBodyIsNotClosedByItsOwnBracket) {
   EXPECT_EQ(Split("REPEAT 2 [] FD 1"), Texts{});
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"] Absent"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"] Absent"}));
   EXPECT_EQ(Split("REPEAT 2 [ ] FD 1"), (Texts{"REPEAT 2 [ ]", "FD 1"}));
 }
 
@@ -153,11 +153,11 @@ TEST_F(LoweringTest, ARepeatWithLeadingBlanksOrInSmallLettersIsNotLowered) {
 
 TEST_F(LoweringTest, BodyIsWhatStandsBetweenTheFirstBracketAndTheLastCharacter) {
   Fill({"REPEAT 2 [FD 1]X", "REPEAT 2", "REPEAT 2 [", "REPEAT 2 []"});
-  EXPECT_EQ(Repeats.BodyFinder(1), "FD 1]");
-  EXPECT_EQ(Repeats.BodyFinder(2), "");
-  EXPECT_EQ(Repeats.BodyFinder(3), "");
-  EXPECT_EQ(Repeats.BodyFinder(4), "");
-  EXPECT_EQ(Repeats.BodyFinder(0), "");
+  EXPECT_EQ(lowering.BodyFinder(1), "FD 1]");
+  EXPECT_EQ(lowering.BodyFinder(2), "");
+  EXPECT_EQ(lowering.BodyFinder(3), "");
+  EXPECT_EQ(lowering.BodyFinder(4), "");
+  EXPECT_EQ(lowering.BodyFinder(0), "");
 }
 
 TEST_F(LoweringTest, StatementsAreCutByTheirInputs) {
@@ -209,34 +209,34 @@ std::string RepeatOf(int statements) {
 }
 
 TEST_F(LoweringTest, NinetyThreeStatementsAreTheMost) {
-  Store.SetLine(1, RepeatOf(93));
-  Repeats.RemoveAllRepeats();
+  store.SetLine(1, RepeatOf(93));
+  lowering.RemoveAllRepeats();
   EXPECT_EQ(Program().size(), 99U);
 }
 
 TEST_F(LoweringTest, NinetyFourStatementsFailWhenTheListIsReadBack) {
-  Store.SetLine(1, RepeatOf(94));
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  store.SetLine(1, RepeatOf(94));
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
 }
 
 TEST_F(LoweringTest, NinetyFiveStatementsFailAndTheLineStays) {
-  Store.SetLine(1, RepeatOf(95));
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  store.SetLine(1, RepeatOf(95));
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
   EXPECT_EQ(Program(), (Texts{RepeatOf(95)}));
 }
 
 TEST_F(LoweringTest, AThousandLinesBehindARepeatAreTheMost) {
   Fill({"REPEAT 2 [PU]"});
-  for (int number = 2; number <= 1001; ++number) Store.SetLine(number, "PU");
-  EXPECT_NO_THROW(Repeats.RemoveAllRepeats());
-  Store.SetLine(1, "REPEAT 2 [PU]");
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  for (int number = 2; number <= 1001; ++number) store.SetLine(number, "PU");
+  EXPECT_NO_THROW(lowering.RemoveAllRepeats());
+  store.SetLine(1, "REPEAT 2 [PU]");
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
 }
 
 TEST_F(LoweringTest, AStoreThatOverflowsFails) {
-  for (int number = 1; number <= 1997; ++number) Store.SetLine(number, "PU");
-  Store.SetLine(1998, "REPEAT 2 [PU]");
-  EXPECT_THROW(Repeats.RemoveAllRepeats(), Failure);
+  for (int number = 1; number <= 1997; ++number) store.SetLine(number, "PU");
+  store.SetLine(1998, "REPEAT 2 [PU]");
+  EXPECT_THROW(lowering.RemoveAllRepeats(), Failure);
 }
 
 TEST_F(LoweringTest, FirstpartEndsAtTheFirstBlank) {

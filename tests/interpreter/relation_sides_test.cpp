@@ -13,10 +13,10 @@ namespace {
 
 class RelationSidesTest : public testing::Test {
  protected:
-  bool Holds(std::string condition) const { return RelationEvaluator(condition, Evaluation); }
+  bool Holds(std::string condition) const { return RelationEvaluator(condition, arithmetic); }
 
-  LimitedWatch Watch;
-  Arithmetic Evaluation{Watch};
+  LimitedWatch watch;
+  Arithmetic Evaluation{watch};
 };
 
 struct TruthOfText {
@@ -56,7 +56,7 @@ TEST_F(RelationSidesTest, ACarriageReturnBehindTheFirstComparisonHidesNothing) {
 
 TEST_F(RelationSidesTest, WithAComparisonTheCallersTextStays) {
   std::string condition = "(1+2)=(3)";
-  EXPECT_TRUE(RelationEvaluator(condition, Evaluation));
+  EXPECT_TRUE(RelationEvaluator(condition, arithmetic));
   EXPECT_EQ(condition, "(1+2)=(3)");
 }
 

@@ -9,10 +9,10 @@ namespace {
 
 class ReplacerTest : public SlotsFixture {
  protected:
-  std::string Locally(std::string expression) { return Names.VarValReplacer(expression); }
-  std::string Globally(std::string expression) { return Names.GlobalVariableReplacer(expression); }
-  std::string WithPosition(std::string expression) { return Names.ReplaceXcorAndYcor(expression); }
-  double Value(std::string expression) { return Evaluation.ArithmeticEvaluator(expression); }
+  std::string Locally(std::string expression) { return variables.VarValReplacer(expression); }
+  std::string Globally(std::string expression) { return variables.GlobalVariableReplacer(expression); }
+  std::string WithPosition(std::string expression) { return variables.ReplaceXcorAndYcor(expression); }
+  double Value(std::string expression) { return arithmetic.ArithmeticEvaluator(expression); }
 };
 
 using VarValReplacerTest = ReplacerTest;
@@ -20,51 +20,51 @@ using GlobalVariableReplacerTest = ReplacerTest;
 using ReplaceXcorAndYcorTest = ReplacerTest;
 
 TEST_F(VarValReplacerTest, PutsTheValueInAsText) {
-  Path.SetCtrlStr(".#TEMP$1- 9.BOX- 3");
+  controlPath.SetCtrlStr(".#TEMP$1- 9.BOX- 3");
   Slots({"BOX.:N=2+3"});
   EXPECT_EQ(Locally("3*:N"), "3*2+3");
 }
 
 TEST_F(VarValReplacerTest, SeesTheRunningProceduresEntriesOnly) {
-  Path.SetCtrlStr(".OUT- 9.BOX- 3");
+  controlPath.SetCtrlStr(".OUT- 9.BOX- 3");
   Slots({"OUT.:A=1", ":B=2", "BOXES.:C=3", "BOX.:D=4", "ABOX.:E=5"});
   EXPECT_EQ(Locally(":A+:B+:C+:D+:E"), ":A+:B+:C+4+:E");
 }
 
 TEST_F(VarValReplacerTest, AHashInASlotCountsAsItsStart) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   Slots({"X.:A=#BOX.5"});
   EXPECT_EQ(Locally(":A"), "#BOX.5");
 }
 
 TEST_F(VarValReplacerTest, TheNameGoesToTheFirstEqualsSign) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   Slots({"BOX.:N=1=2"});
   EXPECT_EQ(Locally(":N"), "1=2");
 }
 
 TEST_F(VarValReplacerTest, AnEmptyValueTakesTheNameAway) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   Slots({"BOX.:N="});
   EXPECT_EQ(Locally("5+:N"), "5+");
 }
 
 TEST_F(VarValReplacerTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   Slots({" ", "BOX.:A=1", "", "BOX.:B=2"});
   EXPECT_EQ(Locally(":A+:B"), "1+:B");
 }
 
 TEST_F(VarValReplacerTest, TrimsTheCallersText) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   Slots({"BOX.:A=1"});
   std::string expression = "  :A + 2 ";
-  EXPECT_EQ(Names.VarValReplacer(expression), "1 + 2");
+  EXPECT_EQ(variables.VarValReplacer(expression), "1 + 2");
   EXPECT_EQ(expression, "1 + 2");
 }
 
 TEST_F(VarValReplacerTest, AnEntryWithNoNameTakesTheNameBeforeIt) {
-  Path.SetCtrlStr(".BOX- 3");
+  controlPath.SetCtrlStr(".BOX- 3");
   // The first "=" stands before the first ".": no name can be cut out there, and that statement is passed over.
   Slots({"BOX.:A=1", "Q=#BOX.:C"});
   EXPECT_EQ(Locally(":A+:A"), "1+#BOX.:C");
@@ -93,7 +93,7 @@ TEST_F(GlobalVariableReplacerTest, RoundsToTwoDecimalsWithATieToTheEvenDigit) {
   EXPECT_EQ(Globally("Y"), ".38");
   EXPECT_EQ(Globally("Z"), "1.23");
   EXPECT_EQ(Globally("W"), "");
-  EXPECT_EQ(Names.Slot(3), "Z=1.2345");
+  EXPECT_EQ(variables.Slot(3), "Z=1.2345");
 }
 
 TEST_F(GlobalVariableReplacerTest, MatchesTheWholeNameAtTheSlotsStart) {
@@ -122,7 +122,7 @@ TEST_F(GlobalVariableReplacerTest, BlanksInsideTheTextStay) {
 TEST_F(GlobalVariableReplacerTest, ChangesTheCallersText) {
   Slots({"A=5"});
   std::string expression = " 2*A ";
-  EXPECT_EQ(Names.GlobalVariableReplacer(expression), "2*5");
+  EXPECT_EQ(variables.GlobalVariableReplacer(expression), "2*5");
   EXPECT_EQ(expression, "2*5");
 }
 
@@ -139,30 +139,30 @@ TEST_F(GlobalVariableReplacerTest, TheLargestValuesInExponentFormNeverLeaveEithe
 
 TEST_F(GlobalVariableReplacerTest, FindsANameAlsoInAFullTable) {
   FillAllSlots("X=1");
-  Names.SetSlot(500, "LAST=9");
+  variables.SetSlot(500, "LAST=9");
   EXPECT_EQ(Globally("LAST"), "9");
 }
 
 TEST_F(ReplaceXcorAndYcorTest, KeepsThePaddingOfEachReplacement) {
-  Turtle.TurtleX += 100;
-  Turtle.TurtleY += 50;
+  turtle.TurtleX += 100;
+  turtle.TurtleY += 50;
   EXPECT_EQ(WithPosition("XCOR"), " 2 ");
   EXPECT_EQ(WithPosition("YCOR"), " -1 ");
   EXPECT_EQ(WithPosition("5"), " 5 ");
 }
 
 TEST_F(ReplaceXcorAndYcorTest, ReplacesAllDelimitedOccurrencesByTextsWithABlank) {
-  Turtle.TurtleX += 100;
-  Turtle.TurtleY -= 150;
+  turtle.TurtleX += 100;
+  turtle.TurtleY -= 150;
   EXPECT_EQ(WithPosition("XCOR+XCOR*YCOR-YCOR"), " 2+ 2* 3- 3 ");
 }
 
 TEST_F(ReplaceXcorAndYcorTest, RoundsToOneDecimalWithATieToTheEvenDigit) {
-  Turtle.TurtleX += 12.5;
+  turtle.TurtleX += 12.5;
   EXPECT_EQ(WithPosition("XCOR"), " .2 ");
-  Turtle.TurtleX += 5;
+  turtle.TurtleX += 5;
   EXPECT_EQ(WithPosition("XCOR"), " .4 ");
-  Turtle.TurtleX += 5;
+  turtle.TurtleX += 5;
   EXPECT_EQ(WithPosition("XCOR"), " .4 ");
 }
 
@@ -172,19 +172,19 @@ TEST_F(ReplaceXcorAndYcorTest, ALongerWordIsNotReplacedAndBlocks) {
 }
 
 TEST_F(ReplaceXcorAndYcorTest, MeasuresFromTheMiddleOfTheWindow) {
-  Controls.Form1.Width = 3000;
-  Controls.Form1.SetHeight(2000);
-  Turtle.TurtleX = 2000;
-  Turtle.TurtleY = 500;
+  controls.Form1.Width = 3000;
+  controls.Form1.SetHeight(2000);
+  turtle.TurtleX = 2000;
+  turtle.TurtleY = 500;
   EXPECT_EQ(WithPosition("XCOR"), " 10 ");
   EXPECT_EQ(WithPosition("YCOR"), " 10 ");
 }
 
 TEST_F(ReplaceXcorAndYcorTest, FailsWithNoResolution) {
-  Turtle.Resolution = 0;
-  Turtle.TurtleX += 1;
+  turtle.Resolution = 0;
+  turtle.TurtleX += 1;
   std::string text = "5";
-  EXPECT_EQ(FailureOf([&] { Names.ReplaceXcorAndYcor(text); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(FailureOf([&] { variables.ReplaceXcorAndYcor(text); }), FailureKind::DivisionByZero);
   EXPECT_EQ(text, "5");
 }
 

@@ -16,7 +16,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 /// Notes the control string at the beginning of each step.
-class NotingWatch : public RunWatch {
+class NotingWatch : public Watch {
  public:
   explicit NotingWatch(const ControlPath& controlPath) : path(controlPath) {}
   void Step() override { Steps.push_back(path.CtrlStr()); }
@@ -27,29 +27,29 @@ class NotingWatch : public RunWatch {
   const ControlPath& path;
 };
 
-class RunnerTest : public testing::Test, protected Interpreter {
+class RunnerTest : public testing::Test, protected BareInterpreter {
  protected:
   /// The control string at the beginning of each step of a run, and at its end.
   Texts StepsOf(const char* procedure) {
-    NotingWatch watch(Path);
-    Runner runner(Store, Path, Primitives, Names, Locals, Conditions, Desktop, watch, Controls.Label19);
+    NotingWatch watch(controlPath);
+    Runner runner(store, controlPath, dispatch, variables, inputs, conditionals, services, watch, controls.Label19);
     runner.Run1(procedure);
-    watch.Steps.push_back(Path.CtrlStr());
+    watch.Steps.push_back(controlPath.CtrlStr());
     return watch.Steps;
   }
 
   /// Runs a procedure that does not end for a number of steps.
   void RunFor(int steps, const char* procedure) {
-    Watch.Allow(steps);
+    watch.Allow(steps);
     EXPECT_THROW(Interpreter::Run.Run1(procedure), Stopped);
   }
 };
 
 TEST_F(RunnerTest, AnUnknownNameLeavesThePath) {
-  Path.SetCtrlStr(".OLD- 3");
+  controlPath.SetCtrlStr(".OLD- 3");
   Interpreter::Run.Run1("NOWHERE");
-  EXPECT_EQ(Path.CtrlStr(), ".OLD- 3");
-  EXPECT_EQ(Controls.Label19.Caption, ".OLD- 3");
+  EXPECT_EQ(controlPath.CtrlStr(), ".OLD- 3");
+  EXPECT_EQ(controls.Label19.Caption, ".OLD- 3");
 }
 
 TEST_F(RunnerTest, ThePathFollowsTheWalk) {
@@ -57,8 +57,8 @@ TEST_F(RunnerTest, ThePathFollowsTheWalk) {
   Interpreter::Run.Run1("#TEMP$7");
   EXPECT_EQ(Calls, (Texts{"FD 10", "RT 90"}));
   EXPECT_EQ(Paths, (Texts{".#TEMP$7- 5.BOX- 2", ".#TEMP$7-6"}));
-  EXPECT_EQ(Path.CtrlStr(), ".");
-  EXPECT_EQ(Controls.Label19.Caption, ".");
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
+  EXPECT_EQ(controls.Label19.Caption, ".");
 }
 
 TEST_F(RunnerTest, ThePathAtEachStepOfACall) {
@@ -80,12 +80,12 @@ TEST_F(RunnerTest, ThePathBehindAnElse) {
 
 TEST_F(RunnerTest, TheControlStringIsShownAsItChanges) {
   Texts shown;
-  Primitives.Bind(Action::Forward, [&](PrimitiveCall&) { shown.push_back(Controls.Label19.Caption); });
-  Primitives.Bind(Action::ArithmeticLine, [&](PrimitiveCall&) { shown.push_back(Controls.Label19.Caption); });
+  dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
+  dispatch.Bind(Action::ArithmeticLine, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
   Fill({"TO A", "FD 1", "1+2", "END", "TO B", "A", "FD 2", "END"});
   Interpreter::Run.Run1("B");
   EXPECT_EQ(shown, (Texts{".B- 6.A- 2", ".B- 6.A- 3", ".B-7"}));
-  EXPECT_EQ(Controls.Label19.Caption, ".");
+  EXPECT_EQ(controls.Label19.Caption, ".");
 }
 
 TEST_F(RunnerTest, ThePathBehindATo) {
@@ -101,13 +101,13 @@ TEST_F(RunnerTest, AnUnknownWordIsSkippedAndThePathKeepsTheOldNumber) {
   EXPECT_EQ(Paths[0], ".B- 7.A- 2- 3");
   EXPECT_EQ(Paths[1], ".B- 7.A- 2- 4");
   EXPECT_EQ(Paths[2], ".B-8");
-  EXPECT_EQ(Store.Line(2), "NOWHERE 5 ");
-  EXPECT_TRUE(Desktop.Boxes.empty());
+  EXPECT_EQ(store.Line(2), "NOWHERE 5 ");
+  EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberBehindAnUnknownWord) {
   std::string name;
-  Primitives.Bind(Action::Forward, [&](PrimitiveCall&) { name = Path.CurrentProcedureName(); });
+  dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { name = controlPath.CurrentProcedureName(); });
   Fill({"TO A", "NOWHERE", "FD 1", "END"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(name, "A-2");
@@ -116,7 +116,7 @@ TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberBehindAnUnknownWord) {
 TEST_F(RunnerTest, PrimitiveLinesAreTrimmedInTheStore) {
   Fill({"TO A", "FD 1 ", "END"});
   Interpreter::Run.Run1("A");
-  EXPECT_EQ(Store.Line(2), "FD 1");
+  EXPECT_EQ(store.Line(2), "FD 1");
 }
 
 TEST_F(RunnerTest, RecursionBehindAPrimitiveKeepsThePathsLength) {
@@ -130,14 +130,14 @@ TEST_F(RunnerTest, RecursionBehindAPrimitiveKeepsThePathsLength) {
 TEST_F(RunnerTest, RecursionDirectlyBehindTheHeaderKeepsThePathsLength) {
   Fill({"TO A", "A", "END"});
   RunFor(100, "A");
-  EXPECT_EQ(Path.CtrlStr(), ".A- 2");
+  EXPECT_EQ(controlPath.CtrlStr(), ".A- 2");
 }
 
 TEST_F(RunnerTest, RecursionBehindALabelGrowsThePath) {
   // The label's number has no blank, so that the two components differ as texts.
   Fill({"TO A", "LABEL X", "A", "END"});
   RunFor(100, "A");
-  EXPECT_GT(std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.'), 20);
+  EXPECT_GT(std::count(controlPath.CtrlStr().begin(), controlPath.CtrlStr().end(), '.'), 20);
 }
 
 /// What stands in front of a recursive call, and how many components the path has after a while.
@@ -153,7 +153,7 @@ class RecursionBehind : public RunnerTest, public testing::WithParamInterface<In
 TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
   Fill({"TO A", GetParam().Line, "A", "END", "TO B", "END"});
   RunFor(120, "A");
-  const auto components = std::count(Path.CtrlStr().begin(), Path.CtrlStr().end(), '.');
+  const auto components = std::count(controlPath.CtrlStr().begin(), controlPath.CtrlStr().end(), '.');
   if (GetParam().Grows) {
     EXPECT_GT(components, 20);
   } else {
@@ -163,7 +163,7 @@ TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
 
 // A bare expression looks for the recursion before its act, when the inner component still has the number of its own
 // line; an ENDIF writes a number too high, and a return from a call one without its blank.
-INSTANTIATE_TEST_SUITE_P(Lines, RecursionBehind,
+INSTANTIATE_TEST_SUITE_P(typedLines, RecursionBehind,
                          testing::Values(InFrontOfTheCall{"FD 1", false}, InFrontOfTheCall{"MAKE X 1", false},
                                          InFrontOfTheCall{"LABEL X", true}, InFrontOfTheCall{"1+2", true},
                                          InFrontOfTheCall{"1=2", true}, InFrontOfTheCall{"ENDIF", true},
@@ -174,7 +174,7 @@ TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
   Fill({"TO B :N", "IF :N>0", "B :N-1", "ENDIF", "PRINT :N", "END", "TO M", "B 2", "END"});
   RunFor(201, "M");
   EXPECT_TRUE(Calls.empty());
-  EXPECT_EQ(Path.CtrlStr(), ".M- 8.B- 3");
+  EXPECT_EQ(controlPath.CtrlStr(), ".M- 8.B- 3");
 }
 
 TEST_F(RunnerTest, TenLevelsReturnOnce) {
@@ -200,42 +200,42 @@ TEST_F(RunnerTest, GotoWithAnUnknownLabelTellsItAndLeavesThePath) {
   Fill({"TO A", "FD 1", "GOTO X", "FD 2", "END"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"UnDeclared Label: X in Goto Statement", 0, ""}));
-  EXPECT_EQ(Path.CtrlStr(), ".A- 3");
-  EXPECT_EQ(Controls.Label19.Caption, ".A- 3");
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"UnDeclared Label: X in Goto Statement", 0, ""}));
+  EXPECT_EQ(controlPath.CtrlStr(), ".A- 3");
+  EXPECT_EQ(controls.Label19.Caption, ".A- 3");
 }
 
 TEST_F(RunnerTest, ARunAfterAnUnknownLabelIsAppendedToTheOldPath) {
   Fill({"TO A", "FD 1", "END"});
-  Path.SetCtrlStr(".#TEMP$1- 8");
+  controlPath.SetCtrlStr(".#TEMP$1- 8");
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Paths, (Texts{".#TEMP$1- 8A-2"}));
-  EXPECT_EQ(Path.CtrlStr(), ".");
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
 
 TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
   Fill({"TO A", "FD 1", "END", "TO OLD", "FD 8", "FD 9", "END"});
-  Path.SetCtrlStr(".OLD- 5.X- 2");
+  controlPath.SetCtrlStr(".OLD- 5.X- 2");
   Interpreter::Run.Run1("A");
   // The END of the new run returns into the old path: behind line 5.
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 9"}));
-  EXPECT_EQ(Path.CtrlStr(), ".");
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
 
 TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
   Fill({"TO A", "FD 1", "END"});
-  Path.SetCtrlStr("X.");
+  controlPath.SetCtrlStr("X.");
   Interpreter::Run.Run1("A");
   // The END cuts the path down to "X", which has no number: the line behind 0 is the whole path.
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
-  EXPECT_EQ(Path.CtrlStr(), ".");
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
 
 TEST_F(RunnerTest, ATrailingBlankMakesAnotherLabel) {
   Fill({"TO A", "GOTO X", "END", "TO B", "LABEL X ", "END"});
   Interpreter::Run.Run1("A");
-  EXPECT_EQ(Desktop.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
+  EXPECT_EQ(services.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
 }
 
 TEST_F(RunnerTest, GotoGoesToTheLabelLine) {
@@ -287,22 +287,22 @@ TEST_F(RunnerTest, ElseWithoutEndifEndsTheRun) {
   Fill({"TO A", "FD 1", "ELSE", "FD 2", "END"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
-  ASSERT_EQ(Desktop.Boxes.size(), 1U);
-  EXPECT_EQ(Desktop.Boxes[0], (ShownBox{"Misplaced Else", 0, ""}));
-  EXPECT_EQ(Path.CtrlStr(), ".");
+  ASSERT_EQ(services.Boxes.size(), 1U);
+  EXPECT_EQ(services.Boxes[0], (ShownBox{"Misplaced Else", 0, ""}));
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
 
 TEST_F(RunnerTest, AConditionThatAlwaysFailsNeverEndsTheRun) {
   Fill({"TO A", "IF 1/0", "FD 1", "ENDIF", "END"});
   RunFor(500, "A");
   EXPECT_TRUE(Calls.empty());
-  EXPECT_EQ(Path.CtrlStr(), ".A- 2");
+  EXPECT_EQ(controlPath.CtrlStr(), ".A- 2");
 }
 
 TEST_F(RunnerTest, AFalseIfWithoutEndifNeverEndsTheRun) {
   Fill({"TO A", "IF 0", "FD 1", "END"});
   RunFor(500, "A");
-  EXPECT_EQ(Path.CtrlStr(), ".A- 0");
+  EXPECT_EQ(controlPath.CtrlStr(), ".A- 0");
 }
 
 TEST_F(RunnerTest, AWalkWithoutEndGoesOnIntoTheNextLines) {
@@ -316,11 +316,11 @@ TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
   // The blank that the look at its first word leaves.
-  EXPECT_EQ(Store.Line(3), " ");
+  EXPECT_EQ(store.Line(3), " ");
 }
 
 TEST_F(RunnerTest, AFailingPrimitiveLetsTheNextLineRun) {
-  Primitives.Bind(Action::Right, [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
+  dispatch.Bind(Action::Right, [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
   Fill({"TO A", "RT 1", "FD 1", "END"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
@@ -341,19 +341,19 @@ TEST_F(RunnerTest, AWalkPastLine2000EndsTheRunAndLeavesThePath) {
   Fill({"TO A", "FD 1"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
-  EXPECT_TRUE(Path.CtrlStr().starts_with(".A- 3- 4- 5"));
-  EXPECT_TRUE(Path.CtrlStr().ends_with("- 2001"));
-  EXPECT_EQ(Controls.Label19.Caption, Path.CtrlStr());
+  EXPECT_TRUE(controlPath.CtrlStr().starts_with(".A- 3- 4- 5"));
+  EXPECT_TRUE(controlPath.CtrlStr().ends_with("- 2001"));
+  EXPECT_EQ(controls.Label19.Caption, controlPath.CtrlStr());
 }
 
 TEST_F(RunnerTest, BareExpressionsGoToTheirOwnActions) {
   Texts lines;
   const auto note = [&](PrimitiveCall& call) {
     lines.push_back(call.CommandLine);
-    Paths.push_back(Path.CtrlStr());
+    Paths.push_back(controlPath.CtrlStr());
   };
-  Primitives.Bind(Action::ArithmeticLine, note);
-  Primitives.Bind(Action::RelationLine, note);
+  dispatch.Bind(Action::ArithmeticLine, note);
+  dispatch.Bind(Action::RelationLine, note);
   Fill({"TO A", "1+2", "A=3", "FD 1", "END"});
   Interpreter::Run.Run1("A");
   EXPECT_EQ(lines, (Texts{"AEXP 1+2", "REXP A=3"}));
@@ -364,8 +364,8 @@ TEST_F(RunnerTest, ALineOfTooManyWordsCallsTheFormerName) {
   std::string tooManyWords = "X";
   for (int word = 1; word < 60; ++word) tooManyWords += " W";
   Fill({"TO B", "FD 1", "END", "TO A", "B"});
-  Store.SetLine(6, tooManyWords);
-  Store.SetLine(7, "END");
+  store.SetLine(6, tooManyWords);
+  store.SetLine(7, "END");
   Interpreter::Run.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 1"}));
 }
@@ -373,8 +373,8 @@ TEST_F(RunnerTest, ALineOfTooManyWordsCallsTheFormerName) {
 TEST_F(RunnerTest, EndDeletesTheInputsOfItsProcedure) {
   Fill({"TO BOX :N", "FD :N", "END", "TO A", "BOX 50", "END"});
   Interpreter::Run.Run1("A");
-  EXPECT_EQ(Names.Slot(1), " ");
-  EXPECT_EQ(Path.CurProcName, "A");
+  EXPECT_EQ(variables.Slot(1), " ");
+  EXPECT_EQ(controlPath.CurProcName, "A");
 }
 
 }  // namespace

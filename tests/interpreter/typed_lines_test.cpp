@@ -12,13 +12,13 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class TypedLinesTest : public testing::Test, protected Interpreter {
+class TypedLinesTest : public testing::Test, protected BareInterpreter {
  protected:
   /// A store of `lines` lines that ends with a procedure.
   void FillUpTo(int lines) {
-    Store.SetLine(1, "TO A");
-    for (int number = 2; number < lines; ++number) Store.SetLine(number, "FD 1");
-    Store.SetLine(lines, "END");
+    store.SetLine(1, "TO A");
+    for (int number = 2; number < lines; ++number) store.SetLine(number, "FD 1");
+    store.SetLine(lines, "END");
   }
 };
 
@@ -27,71 +27,71 @@ TEST_F(TypedLinesTest, ALineRunsAsATemporaryProcedureAndIsRemoved) {
   EXPECT_EQ(Calls, (Texts{"FD 10", "RT 90"}));
   EXPECT_EQ(Paths, (Texts{".#TEMP$1-2", ".#TEMP$1- 3"}));
   EXPECT_EQ(Program(), Texts{});
-  EXPECT_EQ(Path.CtrlStr(), ".");
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
 
 TEST_F(TypedLinesTest, LinesAreNumberedAndStandAtLine1OfAnEmptyStore) {
   Type("FD 1");
   Type("FD 2");
   EXPECT_EQ(Paths, (Texts{".#TEMP$1-2", ".#TEMP$2-2"}));
-  EXPECT_TRUE(Controls.List1.Items().empty());
+  EXPECT_TRUE(controls.List1.Items().empty());
 }
 
 TEST_F(TypedLinesTest, AnEmptyLineCountsAndRunsAnEmptyProcedure) {
   Fill({"TO A", "FD 1", "END"});
-  Controls.List1.Add("OLD");
+  controls.List1.Add("OLD");
   EXPECT_TRUE(Type(""));
-  EXPECT_EQ(Lines.TempProcNo, 1);
+  EXPECT_EQ(typedLines.TempProcNo, 1);
   EXPECT_TRUE(Calls.empty());
-  EXPECT_EQ(Controls.List1.Items(), (Texts{" 1  TO A", " 2  FD 1", " 3  END"}));
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO A"}));
+  EXPECT_EQ(controls.List1.Items(), (Texts{" 1  TO A", " 2  FD 1", " 3  END"}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO A"}));
 }
 
 TEST_F(TypedLinesTest, ALineStandsDirectlyBehindTheProgram) {
   FillUpTo(30);
   EXPECT_TRUE(Type("FD 5"));
   EXPECT_EQ(Paths, (Texts{".#TEMP$1-32"}));
-  EXPECT_EQ(Store.Line(30), "END");
-  EXPECT_EQ(Store.Line(31), "");
+  EXPECT_EQ(store.Line(30), "END");
+  EXPECT_EQ(store.Line(31), "");
 }
 
 TEST_F(TypedLinesTest, GlobalsAreReadAgainFromTheTopOfTheStore) {
   Fill({"MAKE \"A 5", "TO P", "END"});
   EXPECT_TRUE(Type("FD 1"));
-  EXPECT_EQ(Names.Slot(1), "\"A=5");
+  EXPECT_EQ(variables.Slot(1), "\"A=5");
 }
 
 TEST_F(TypedLinesTest, WithoutAProgramTheGlobalsFailAndTheListsStay) {
-  Controls.List1.Add("OLD");
+  controls.List1.Add("OLD");
   EXPECT_FALSE(Type("FD 1"));
-  EXPECT_EQ(Controls.List1.Items(), (Texts{"OLD"}));
+  EXPECT_EQ(controls.List1.Items(), (Texts{"OLD"}));
 }
 
 TEST_F(TypedLinesTest, TheCountOverflowsAt32767AndNothingRuns) {
-  Lines.TempProcNo = 32766;
+  typedLines.TempProcNo = 32766;
   Type("FD 1");
   EXPECT_EQ(Calls.size(), 1U);
-  EXPECT_EQ(Lines.TempProcNo, 32767);
+  EXPECT_EQ(typedLines.TempProcNo, 32767);
   EXPECT_FALSE(Type("FD 2"));
   EXPECT_EQ(Calls.size(), 1U);
-  EXPECT_EQ(Lines.TempProcNo, 32767);
+  EXPECT_EQ(typedLines.TempProcNo, 32767);
   EXPECT_EQ(Program(), Texts{});
 }
 
 TEST_F(TypedLinesTest, AFullStoreOnlyCounts) {
   FillUpTo(2000);
   EXPECT_FALSE(Type("FD 5"));
-  EXPECT_EQ(Lines.TempProcNo, 1);
+  EXPECT_EQ(typedLines.TempProcNo, 1);
   EXPECT_TRUE(Calls.empty());
-  EXPECT_EQ(Store.Line(2000), "END");
+  EXPECT_EQ(store.Line(2000), "END");
 }
 
 TEST_F(TypedLinesTest, AStoreThatFillsUpLeavesAPieceWithoutEnd) {
   FillUpTo(1998);
   EXPECT_FALSE(Type("FD 5"));
   EXPECT_TRUE(Calls.empty());
-  EXPECT_EQ(Store.Line(1999), "TO #TEMP$1");
-  EXPECT_EQ(Store.Line(2000), "FD 5");
+  EXPECT_EQ(store.Line(1999), "TO #TEMP$1");
+  EXPECT_EQ(store.Line(2000), "FD 5");
 }
 
 TEST_F(TypedLinesTest, APieceWithoutEndIsSweptByTheNextLine) {
@@ -102,87 +102,87 @@ TEST_F(TypedLinesTest, APieceWithoutEndIsSweptByTheNextLine) {
 
 TEST_F(TypedLinesTest, AStoreThatEndsAtLine499IsNotRefreshed) {
   FillUpTo(499);
-  Controls.List1.Add("OLD");
+  controls.List1.Add("OLD");
   EXPECT_FALSE(Type("FD 5"));
   EXPECT_EQ(Calls, (Texts{"FD 5"}));
-  EXPECT_EQ(Store.Line(500), "");
-  EXPECT_EQ(Controls.List1.Items(), (Texts{"OLD"}));
+  EXPECT_EQ(store.Line(500), "");
+  EXPECT_EQ(controls.List1.Items(), (Texts{"OLD"}));
 }
 
 TEST_F(TypedLinesTest, BehindLine499NeitherGlobalsNorProceduresAreReadAgain) {
   FillUpTo(499);
-  Store.SetLine(1, "MAKE \"G 5");
-  Store.SetLine(2, "TO A");
-  Controls.List3.Add("OLD");
+  store.SetLine(1, "MAKE \"G 5");
+  store.SetLine(2, "TO A");
+  controls.List3.Add("OLD");
   EXPECT_FALSE(Type("FD 5"));
-  EXPECT_EQ(Names.Slot(1), "");
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"OLD"}));
+  EXPECT_EQ(variables.Slot(1), "");
+  EXPECT_EQ(controls.List3.Items(), (Texts{"OLD"}));
 }
 
 TEST_F(TypedLinesTest, TheLastEndThatMovesAnythingStandsAtLine499) {
   FillUpTo(496);
   EXPECT_TRUE(Type("FD 5"));
-  EXPECT_EQ(Store.Line(497), "");
+  EXPECT_EQ(store.Line(497), "");
 }
 
 TEST_F(TypedLinesTest, AnEndAtLine500MovesToTheEndOfTheStoreAndFails) {
   FillUpTo(497);
-  Store.SetLine(1500, "STALE");
+  store.SetLine(1500, "STALE");
   EXPECT_FALSE(Type("FD 5"));
-  EXPECT_EQ(Store.Line(498), "");
-  EXPECT_EQ(Store.Line(1497), "STALE");
+  EXPECT_EQ(store.Line(498), "");
+  EXPECT_EQ(store.Line(1497), "STALE");
 }
 
 TEST_F(TypedLinesTest, AMarkInTheProgramIsSweptWithWhatFollows) {
   FillUpTo(60);
-  Store.SetLine(50, "PRINT \"TO #\"");
+  store.SetLine(50, "PRINT \"TO #\"");
   EXPECT_TRUE(Type("FD 5"));
   EXPECT_EQ(Program().size(), 49U);
 }
 
 TEST_F(TypedLinesTest, ASweepThatDoesNotFitLeavesProgramAndLists) {
   FillUpTo(150);
-  Store.SetLine(149, "PRINT \"TO #\"");
-  Controls.List1.Add("OLD");
-  Controls.List3.Add("OLD");
+  store.SetLine(149, "PRINT \"TO #\"");
+  controls.List1.Add("OLD");
+  controls.List3.Add("OLD");
   EXPECT_FALSE(Type("FD 5"));
   EXPECT_EQ(Calls, (Texts{"FD 5"}));
   EXPECT_EQ(Program().size(), 150U);
-  EXPECT_EQ(Controls.List1.Items(), (Texts{"OLD"}));
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"OLD"}));
+  EXPECT_EQ(controls.List1.Items(), (Texts{"OLD"}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"OLD"}));
 }
 
 TEST_F(TypedLinesTest, TheBlanksThatTheRunLeavesAreTrimmedAndListed) {
   Fill({"TO A :N", "NOWHERE :N", "END"});
   EXPECT_TRUE(Type("A 1"));
-  EXPECT_EQ(Store.Line(2), "NOWHERE :N");
-  EXPECT_EQ(Controls.List1.Items(), (Texts{" 1  TO A :N", " 2  NOWHERE :N", " 3  END"}));
-  EXPECT_EQ(Controls.List3.Items(), (Texts{"TO A :N"}));
+  EXPECT_EQ(store.Line(2), "NOWHERE :N");
+  EXPECT_EQ(controls.List1.Items(), (Texts{" 1  TO A :N", " 2  NOWHERE :N", " 3  END"}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO A :N"}));
 }
 
 TEST_F(TypedLinesTest, AFailureInTheRunLeavesNothingBehind) {
   Fill({"TO A", "END"});
-  Primitives.Bind(Action::Sound, [](PrimitiveCall&) { throw Failure(FailureKind::FileAccess); });
+  dispatch.Bind(Action::Sound, [](PrimitiveCall&) { throw Failure(FailureKind::FileAccess); });
   EXPECT_TRUE(Type("SOUND"));
   EXPECT_TRUE(Type("GOTO X"));
   EXPECT_EQ(Program(), (Texts{"TO A", "END"}));
-  EXPECT_EQ(Path.CtrlStr(), ".#TEMP$2-4");
+  EXPECT_EQ(controlPath.CtrlStr(), ".#TEMP$2-4");
 }
 
 TEST_F(TypedLinesTest, AnEndBeforeLine500MovesOnlyUpToThere) {
   FillUpTo(400);
-  Store.SetLine(600, "STALE");
+  store.SetLine(600, "STALE");
   EXPECT_TRUE(Type("FD 5"));
-  EXPECT_EQ(Store.Line(401), "");
-  EXPECT_EQ(Store.Line(600), "STALE");
+  EXPECT_EQ(store.Line(401), "");
+  EXPECT_EQ(store.Line(600), "STALE");
 }
 
 TEST_F(TypedLinesTest, StaleLinesBehindMoveDown) {
   Fill({"TO A", "END"});
-  Store.SetLine(8, "STALE");
+  store.SetLine(8, "STALE");
   EXPECT_TRUE(Type("FD 5"));
-  EXPECT_EQ(Store.Line(8), "");
-  EXPECT_EQ(Store.Line(5), "STALE");
+  EXPECT_EQ(store.Line(8), "");
+  EXPECT_EQ(store.Line(5), "STALE");
 }
 
 TEST_F(TypedLinesTest, TwoHundredStatementsStayWithoutEndAndDoNotRun) {
@@ -223,7 +223,7 @@ TEST_F(TypedLinesTest, ATypedNegativeStepIsAnArithmeticLine) {
 TEST_F(TypedLinesTest, TheCallersTextIsConsumed) {
   Fill({"TO A", "END"});
   std::string line = "  NOWHERE  ";
-  Lines.ComplexExecutor(line);
+  typedLines.ComplexExecutor(line);
   EXPECT_EQ(line, "");
 }
 

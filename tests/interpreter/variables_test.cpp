@@ -14,31 +14,31 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class VariablesTest : public testing::Test, protected Interpreter {
+class VariablesTest : public testing::Test, protected BareInterpreter {
  protected:
   void FillSlots(std::initializer_list<const char*> slots) {
     int number = 1;
-    for (const char* slot : slots) Names.SetSlot(number++, slot);
+    for (const char* slot : slots) variables.SetSlot(number++, slot);
   }
   Texts Slots() const {
     Texts slots;
-    for (int number = 1; !Names.Slot(number).empty(); ++number) slots.push_back(Names.Slot(number));
+    for (int number = 1; !variables.Slot(number).empty(); ++number) slots.push_back(variables.Slot(number));
     return slots;
   }
-  std::string Globals(std::string text) { return Names.GlobalVariableReplacer(text); }
-  std::string Locals(std::string text) { return Names.VarValReplacer(text); }
-  std::string Coordinates(std::string text) { return Names.ReplaceXcorAndYcor(text); }
+  std::string Globals(std::string text) { return variables.GlobalVariableReplacer(text); }
+  std::string Locals(std::string text) { return variables.VarValReplacer(text); }
+  std::string Coordinates(std::string text) { return variables.ReplaceXcorAndYcor(text); }
   /// Carries out a MAKE in a procedure A; what leaves it is passed over, as the runner does.
   void Make(const char* line) {
     Fill({"TO A", line, "END"});
-    PassOver([&] { Names.VariableUpdate(2); });
+    PassOver([&] { variables.VariableUpdate(2); });
   }
 };
 
 TEST_F(VariablesTest, SlotsOutsideTheTableFail) {
-  EXPECT_THROW(Names.Slot(0), Failure);
-  EXPECT_THROW(Names.Slot(501), Failure);
-  EXPECT_THROW(Names.SetSlot(501, "X"), Failure);
+  EXPECT_THROW(variables.Slot(0), Failure);
+  EXPECT_THROW(variables.Slot(501), Failure);
+  EXPECT_THROW(variables.SetSlot(501, "X"), Failure);
 }
 
 TEST_F(VariablesTest, FinderTakesTheFirstNameWithoutDigits) {
@@ -92,8 +92,8 @@ TEST_F(VariablesTest, TextreplaceConsidersTheFirstOccurrenceOnly) {
 TEST_F(VariablesTest, UndeclaredNamesVanish) {
   EXPECT_EQ(Globals("X"), "");
   EXPECT_EQ(Globals("X+5"), "+5");
-  EXPECT_EQ(Stages.Number("X"), 0);
-  EXPECT_EQ(Stages.Number("X+5"), 5);
+  EXPECT_EQ(arguments.Number("X"), 0);
+  EXPECT_EQ(arguments.Number("X+5"), 5);
   EXPECT_EQ(Globals("12"), "12");
 }
 
@@ -101,14 +101,14 @@ TEST_F(VariablesTest, ZerosVanish) {
   FillSlots({"X=0"});
   EXPECT_EQ(Globals("X"), "");
   EXPECT_EQ(Globals("5*X"), "5*");
-  EXPECT_EQ(Stages.Number("5*X"), 0);
+  EXPECT_EQ(arguments.Number("5*X"), 0);
   EXPECT_EQ(Globals("5/X"), "5/");
 }
 
 TEST_F(VariablesTest, ANegativeValueMakesADoubleMinus) {
   FillSlots({"X=-3"});
   EXPECT_EQ(Globals("5-X"), "5--3");
-  EXPECT_EQ(Stages.Number("5-X"), 2);
+  EXPECT_EQ(arguments.Number("5-X"), 2);
 }
 
 TEST_F(VariablesTest, GlobalsAreReadWithTwoDecimalsHalfToEven) {
@@ -146,7 +146,7 @@ TEST_F(VariablesTest, AGlobalInExponentFormNeverLeavesTheReplacer) {
 }
 
 TEST_F(VariablesTest, ScansWithoutAFreeSlotNeverEnd) {
-  Names.ForgetAll();
+  variables.ForgetAll();
   Watch = LimitedWatch(1, 200);
   EXPECT_THROW(Globals("A"), Stopped);
   EXPECT_THROW(Locals("A"), Stopped);
@@ -154,15 +154,15 @@ TEST_F(VariablesTest, ScansWithoutAFreeSlotNeverEnd) {
 
 TEST_F(VariablesTest, LocalsOfTheRunningProcedureAreReplacedOnce) {
   FillSlots({"BOX.:X=5", "STAR.:X=9"});
-  Path.SetCtrlStr(".#TEMP$1- 9.BOX- 2");
+  controlPath.SetCtrlStr(".#TEMP$1- 9.BOX- 2");
   EXPECT_EQ(Locals(":X+:X"), "5+:X");
   EXPECT_EQ(Locals(" 1 "), "1");
 }
 
 TEST_F(VariablesTest, TheSecondOccurrenceReadsTheGlobal) {
   FillSlots({"BOX.:X=5", ":X=7"});
-  Path.SetCtrlStr(".BOX- 2");
-  EXPECT_EQ(Stages.Number(":X+:X"), 12);
+  controlPath.SetCtrlStr(".BOX- 2");
+  EXPECT_EQ(arguments.Number(":X+:X"), 12);
 }
 
 TEST_F(VariablesTest, AtTopLevelNoLocalMatches) {
@@ -172,27 +172,27 @@ TEST_F(VariablesTest, AtTopLevelNoLocalMatches) {
 
 TEST_F(VariablesTest, ALocalWithADigitInItsNameIsRead) {
   FillSlots({"BOX.A1=7"});
-  Path.SetCtrlStr(".BOX- 2");
+  controlPath.SetCtrlStr(".BOX- 2");
   EXPECT_EQ(Locals("A1+1"), "7+1");
 }
 
 TEST_F(VariablesTest, AnOccurrenceInALongerWordBlocksALocal) {
   FillSlots({"BOX.A=7", "A=3"});
-  Path.SetCtrlStr(".BOX- 2");
+  controlPath.SetCtrlStr(".BOX- 2");
   EXPECT_EQ(Locals("AB+A"), "AB+A");
   // The "A" at the end is then read as a global.
-  EXPECT_EQ(Stages.Number("AB+A"), 3);
+  EXPECT_EQ(arguments.Number("AB+A"), 3);
 }
 
 TEST_F(VariablesTest, EntriesOfTheSameNameTakeOneOccurrenceEach) {
   FillSlots({"R.:N=1", "R.:N=2"});
-  Path.SetCtrlStr(".R- 2");
+  controlPath.SetCtrlStr(".R- 2");
   EXPECT_EQ(Locals(":N*:N*:N"), "1*2*:N");
 }
 
 TEST_F(VariablesTest, TwentyEntriesAreKept) {
-  for (int number = 1; number <= 25; ++number) Names.SetSlot(number, "R.:N=" + std::to_string(number));
-  Path.SetCtrlStr(".R- 2");
+  for (int number = 1; number <= 25; ++number) variables.SetSlot(number, "R.:N=" + std::to_string(number));
+  controlPath.SetCtrlStr(".R- 2");
   std::string text = ":N";
   for (int more = 1; more < 22; ++more) text += "+:N";
   const std::string replaced = Locals(text);
@@ -201,22 +201,22 @@ TEST_F(VariablesTest, TwentyEntriesAreKept) {
 }
 
 TEST_F(VariablesTest, TwentyEntriesDoNotEndTheWalkOverTheSlots) {
-  for (int number = 1; number <= 499; ++number) Names.SetSlot(number, "R.:N=1");
-  Path.SetCtrlStr(".R- 2");
+  for (int number = 1; number <= 499; ++number) variables.SetSlot(number, "R.:N=1");
+  controlPath.SetCtrlStr(".R- 2");
   EXPECT_EQ(Locals(":N"), "1");
   // Now no slot is free.
-  Names.SetSlot(500, "R.:N=1");
+  variables.SetSlot(500, "R.:N=1");
   Watch = LimitedWatch(1, 200);
   EXPECT_THROW(Locals(":N"), Stopped);
 }
 
 TEST_F(VariablesTest, CoordinatesAreReplacedWithOneDecimal) {
-  Turtle.TurtleX = 7680 + 125;
-  Turtle.TurtleY = 5760 + 112.5;
+  turtle.TurtleX = 7680 + 125;
+  turtle.TurtleY = 5760 + 112.5;
   EXPECT_EQ(Coordinates("XCOR"), " 2.5 ");
   EXPECT_EQ(Coordinates("XCOR+XCOR"), " 2.5+ 2.5 ");
   EXPECT_EQ(Coordinates("YCOR"), " -2.2 ");
-  EXPECT_EQ(Stages.Number("XCOR*2+YCOR"), 2.8);
+  EXPECT_EQ(arguments.Number("XCOR*2+YCOR"), 2.8);
 }
 
 TEST_F(VariablesTest, CoordinatesInLongerWordsBlock) {
@@ -226,7 +226,7 @@ TEST_F(VariablesTest, CoordinatesInLongerWordsBlock) {
 }
 
 TEST_F(VariablesTest, CoordinatesFailAtAResolutionOf0) {
-  Turtle.Resolution = 0;
+  turtle.Resolution = 0;
   EXPECT_THROW(Coordinates("1"), Failure);
 }
 
@@ -279,87 +279,87 @@ TEST_F(VariablesTest, MakeLeavesANamelessEntry) {
 TEST_F(VariablesTest, MakeShowsTheSlotsAsTheyWereBeforeTheClosing) {
   FillSlots({"X=1", "Y=2", " ", " "});
   Make("MAKE X 5");
-  EXPECT_EQ(Controls.List2.Items(), (Texts{"X=5", "Y=2", " ", " "}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{"X=5", "Y=2", " ", " "}));
   // One deleted slot goes a call.
   EXPECT_EQ(Slots(), (Texts{"X=5", "Y=2", " "}));
 }
 
 TEST_F(VariablesTest, MakeInAFullTableNeverReturns) {
-  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "X=1");
+  for (int number = 1; number <= 500; ++number) variables.SetSlot(number, "X=1");
   Watch = LimitedWatch(1, 200);
   Fill({"TO A", "MAKE A 7", "END"});
   // The value's scan for locals comes before the search for a slot.
-  EXPECT_THROW(Names.VariableUpdate(2), Stopped);
+  EXPECT_THROW(variables.VariableUpdate(2), Stopped);
 }
 
 TEST_F(VariablesTest, MakeInATableFullOfLocalsNeverReturnsEither) {
-  for (int number = 1; number <= 500; ++number) Names.SetSlot(number, "A.:N=1");
-  Path.SetCtrlStr(".A- 2");
+  for (int number = 1; number <= 500; ++number) variables.SetSlot(number, "A.:N=1");
+  controlPath.SetCtrlStr(".A- 2");
   Watch = LimitedWatch(1, 200);
   EXPECT_THROW(Make("MAKE B 7"), Stopped);
-  EXPECT_EQ(Names.Slot(500), "A.:N=1");
+  EXPECT_EQ(variables.Slot(500), "A.:N=1");
 }
 
 TEST_F(VariablesTest, MakeAfterTheRefreshNeverReturns) {
-  Names.ForgetAll();
+  variables.ForgetAll();
   Watch = LimitedWatch(1, 500);
   Fill({"TO A", "MAKE A 7", "END"});
-  EXPECT_THROW(Names.VariableUpdate(2), Stopped);
+  EXPECT_THROW(variables.VariableUpdate(2), Stopped);
 }
 
 TEST_F(VariablesTest, ClosingFailsAfterOneSlotHasGone) {
   FillSlots({"A=1", " ", "B=2", " ", "C=3"});
-  EXPECT_THROW(Names.SpaceRemoverFromVariableArray(), Failure);
+  EXPECT_THROW(variables.SpaceRemoverFromVariableArray(), Failure);
   EXPECT_EQ(Slots(), (Texts{"A=1", "B=2", " ", "C=3"}));
 }
 
 TEST_F(VariablesTest, ClosingNeverReturnsForADeletedSlotAbove100) {
-  for (int number = 1; number <= 100; ++number) Names.SetSlot(number, "X=1");
-  Names.SetSlot(101, " ");
+  for (int number = 1; number <= 100; ++number) variables.SetSlot(number, "X=1");
+  variables.SetSlot(101, " ");
   Watch = LimitedWatch(1, 200);
-  EXPECT_THROW(Names.SpaceRemoverFromVariableArray(), Stopped);
+  EXPECT_THROW(variables.SpaceRemoverFromVariableArray(), Stopped);
 }
 
 TEST_F(VariablesTest, ClosingWithoutADeletedSlotDoesNothing) {
   FillSlots({"A=1"});
-  EXPECT_FALSE(Names.SpacePresent());
-  EXPECT_NO_THROW(Names.SpaceRemoverFromVariableArray());
+  EXPECT_FALSE(variables.SpacePresent());
+  EXPECT_NO_THROW(variables.SpaceRemoverFromVariableArray());
 }
 
 TEST_F(VariablesTest, GlobalsOfTheProgramStandInTheSlotsOfTheirLines) {
   Fill({"MAKE \"A 2+3", "FD 1", "MAKE B (1+1)*2", "TO P", "MAKE C 1", "END"});
-  Names.CreateGlobalVariable();
-  EXPECT_EQ(Names.Slot(1), "\"A=5");
-  EXPECT_EQ(Names.Slot(2), "");
-  EXPECT_EQ(Names.Slot(3), "B=4");
-  EXPECT_EQ(Names.Slot(5), "");
+  variables.CreateGlobalVariable();
+  EXPECT_EQ(variables.Slot(1), "\"A=5");
+  EXPECT_EQ(variables.Slot(2), "");
+  EXPECT_EQ(variables.Slot(3), "B=4");
+  EXPECT_EQ(variables.Slot(5), "");
 }
 
 TEST_F(VariablesTest, GlobalsOfTheProgramTakeTheLastWordAsValueAndReplaceNoName) {
   Fill({"MAKE A 1", "MAKE LONG NAME 7", "MAKE B A", "TO P"});
-  Names.CreateGlobalVariable();
+  variables.CreateGlobalVariable();
   EXPECT_EQ(Slots(), (Texts{"A=1", "LONG NAME=7", "B=0"}));
 }
 
 TEST_F(VariablesTest, GlobalsOfAProgramWithoutAProcedureFail) {
   Fill({"MAKE A 1"});
-  EXPECT_THROW(Names.CreateGlobalVariable(), Failure);
-  EXPECT_EQ(Names.Slot(1), "A=1");
+  EXPECT_THROW(variables.CreateGlobalVariable(), Failure);
+  EXPECT_EQ(variables.Slot(1), "A=1");
 }
 
 TEST_F(VariablesTest, ListHoldsWhatTheSlotsHeldWhenItWasMade) {
   FillSlots({"A=1", "B=2"});
-  Names.RebuildList2();
+  variables.RebuildList2();
   FillSlots({"A=9", "B=9", "C=9"});
-  EXPECT_EQ(Controls.List2.Items(), (Texts{"A=1", "B=2"}));
-  Names.RebuildList2();
-  EXPECT_EQ(Controls.List2.Items(), (Texts{"A=9", "B=9", "C=9"}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{"A=1", "B=2"}));
+  variables.RebuildList2();
+  EXPECT_EQ(controls.List2.Items(), (Texts{"A=9", "B=9", "C=9"}));
 }
 
 TEST_F(VariablesTest, ListAfterForgettingHas500Blanks) {
-  Names.ForgetAll();
-  Names.SetSlot(1, "X=1");
-  EXPECT_EQ(Controls.List2.Items(), Texts(500, " "));
+  variables.ForgetAll();
+  variables.SetSlot(1, "X=1");
+  EXPECT_EQ(controls.List2.Items(), Texts(500, " "));
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace zerimo {
 namespace {
 
-TEST(Primitives, CommandListHas96NamesWithPenreverseTwice) {
+TEST(dispatch, CommandListHas96NamesWithPenreverseTwice) {
   const auto names = CommandListNames();
   ASSERT_EQ(names.size(), 96U);
   EXPECT_EQ(names[90], "PENREVERSE");
@@ -20,7 +20,7 @@ TEST(Primitives, CommandListHas96NamesWithPenreverseTwice) {
   EXPECT_EQ(std::set<std::string_view>(names.begin(), names.end()).size(), 95U);
 }
 
-TEST(Primitives, CommandListKeepsItsOrder) {
+TEST(dispatch, CommandListKeepsItsOrder) {
   const std::vector<std::string_view> expected = {"FD",           "TEXTSIZE",
                                                   "BK",           "LT",
                                                   "RT",           "PU",
@@ -83,7 +83,7 @@ std::vector<std::string_view> NamesInOrder() {
   return names;
 }
 
-TEST(Primitives, NamesAreTestedInTheirOrder) {
+TEST(dispatch, NamesAreTestedInTheirOrder) {
   const std::vector<std::string_view> expected = {"SAYDEVELOPER", "SAYDEVELOPERS",
                                                   "COMMANDLIST",  "FENCE",
                                                   "XCOR",         "YCOR",
@@ -136,12 +136,12 @@ TEST(Primitives, NamesAreTestedInTheirOrder) {
   EXPECT_EQ(NamesInOrder(), expected);
 }
 
-TEST(Primitives, ActionsStandInTheOrderOfTheirNumbers) {
+TEST(dispatch, ActionsStandInTheOrderOfTheirNumbers) {
   int number = 0;
   for (const ActionFacts& facts : Actions()) EXPECT_EQ(static_cast<int>(facts.Does), number++) << facts.Name;
 }
 
-TEST(Primitives, NamesWithoutAnActionAreFour) {
+TEST(dispatch, NamesWithoutAnActionAreFour) {
   std::set<std::string> without;
   for (const std::string_view name : CommandListNames()) {
     const auto names = [&](const ActionFacts& facts) { return facts.Name == name || facts.OtherName == name; };
@@ -150,7 +150,7 @@ TEST(Primitives, NamesWithoutAnActionAreFour) {
   EXPECT_EQ(without, (std::set<std::string>{"GETX", "GETY", "SAVE", "REPEAT"}));
 }
 
-TEST(Primitives, LongNamesOutsideCommandListAreReachedOnlyDirectly) {
+TEST(dispatch, LongNamesOutsideCommandListAreReachedOnlyDirectly) {
   const auto names = CommandListNames();
   for (const char* word : {"FULLSCREEN", "SPLITSCREEN", "TEXTSCREEN", "CLEARTEXT", "SAYDEVELOPERS", "AEXP", "REXP"}) {
     EXPECT_EQ(std::count(names.begin(), names.end(), word), 0) << word;

@@ -6,7 +6,7 @@
 namespace zerimo {
 
 /// Stops a run after a number of steps or of rounds in any other loop that may never end.
-class LimitedWatch : public RunWatch {
+class LimitedWatch : public Watch {
  public:
   explicit LimitedWatch(int mostSteps = 1'000'000, int mostTicks = 1'000'000)
       : stepsLeft(mostSteps), ticksLeft(mostTicks) {}

@@ -14,22 +14,22 @@ namespace zerimo {
 /// The whole system over a canvas without pixels, started and with the focus on row 0.
 struct WholeSystem {
   explicit WholeSystem(ScreenSize screen = {}, const std::string& appFolder = ".")
-      : System(screen, appFolder, Desktop, Watch, Pixels), Controls(System.Controls) {
+      : System(screen, appFolder, services, watch, Pixels), Controls(System.controls) {
     System.Load();
-    System.Tick(Controls.Timer2);
+    System.Tick(controls.Timer2);
   }
 
   /// Types a line on a row and presses Enter.
   void Type(const std::string& line, int row = 0) {
-    Controls.Text1[row].Text = line;
-    System.KeyDown(Controls.Text1[row], key::Enter);
+    controls.Text1[row].Text = line;
+    System.KeyDown(controls.Text1[row], key::Enter);
   }
 
   void Press(Control& control, int keyCode) { System.KeyDown(control, keyCode); }
 
   /// The name of the control that has the focus, or the empty text.
   std::string Focus() const {
-    const Control* focus = Controls.Focus.Focus();
+    const Control* focus = controls.Focus.Focus();
     return focus == nullptr ? std::string() : focus->Name();
   }
 
@@ -39,7 +39,7 @@ struct WholeSystem {
     const auto read = [&all](const std::string& owner) {
       return [&all, owner](const char* name, const PropertyValue& value) { all[owner + "." + name] = value; };
     };
-    Controls.ForEach([&](const Control& control) { control.ReadProperties(read(control.Name())); });
+    controls.ForEach([&](const Control& control) { control.ReadProperties(read(control.Name())); });
     System.Picture1.ReadProperties(read(System.Picture1.Name()));
     for (const Timer* timer : {&Controls.Timer2, &Controls.Timer3, &Controls.Timer4}) {
       timer->ReadProperties(read(timer->Name()));
@@ -50,14 +50,14 @@ struct WholeSystem {
   /// Writes a program into the store from line 1 on.
   void Fill(std::initializer_list<const char*> lines) {
     int number = 1;
-    for (const char* line : lines) System.Store.SetLine(number++, line);
+    for (const char* line : lines) System.interpreter.store.SetLine(number++, line);
   }
 
   FakeServices Desktop;
   LimitedWatch Watch;
   EmptyCanvas Pixels;
   Form1 System;
-  FormControls& Controls;
+  Controls& Controls;
 };
 
 }  // namespace zerimo

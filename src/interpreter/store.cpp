@@ -1,4 +1,4 @@
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 
 #include <utility>
 #include <vector>
@@ -30,44 +30,44 @@ class WorkingCopy {
 
 }  // namespace
 
-std::size_t ProgramStore::Index(int number) const {
+std::size_t Store::Index(int number) const {
   if (number < 1 || number > LineCount) throw Failure(FailureKind::SubscriptOutOfRange);
   return static_cast<std::size_t>(number - 1);
 }
 
-const std::string& ProgramStore::Line(int number) const { return FileDataArray[Index(number)]; }
+const std::string& Store::Line(int number) const { return FileDataArray[Index(number)]; }
 
-void ProgramStore::SetLine(int number, std::string text) { Put(Index(number), std::move(text)); }
+void Store::SetLine(int number, std::string text) { Put(Index(number), std::move(text)); }
 
-void ProgramStore::Put(std::size_t index, std::string text) noexcept {
+void Store::Put(std::size_t index, std::string text) noexcept {
   if (FileDataArray[index] == text) return;
-  classes[index] = 0;
+  classes_[index] = 0;
   FileDataArray[index] = std::move(text);
 }
 
-StatementClass ProgramStore::ClassOf(int number) const {
+StatementClass Store::ClassOf(int number) const {
   const std::size_t index = Index(number);
-  if (classes[index] == 0) classes[index] = WhatIsThis(FileDataArray[index]);
-  return static_cast<StatementClass>(classes[index]);
+  if (classes_[index] == 0) classes_[index] = WhatIsThis(FileDataArray[index]);
+  return static_cast<StatementClass>(classes_[index]);
 }
 
-void ProgramStore::TrimLine(int number) {
+void Store::TrimLine(int number) {
   const std::string& line = Line(number);
   const std::string_view trimmed = Trimmed(line);
   if (trimmed.size() != line.size()) SetLine(number, std::string(trimmed));
 }
 
-int ProgramStore::FirstEmptyLine() const {
+int Store::FirstEmptyLine() const {
   int number = 1;
   while (!Line(number).empty()) ++number;
   return number;
 }
 
-void ProgramStore::MakeEmptyFileDataArray() {
+void Store::MakeEmptyFileDataArray() {
   for (int number = 1; !Line(number).empty(); ++number) SetLine(number, "");
 }
 
-std::int16_t ProgramStore::WhereProcedure(std::string_view procedure) const {
+std::int16_t Store::WhereProcedure(std::string_view procedure) const {
   const std::string marked = "#TO " + std::string(procedure);
   const std::string_view pattern = std::string_view(marked).substr(1);
   for (int number = 1; !Line(number).empty(); ++number) {
@@ -81,7 +81,7 @@ std::int16_t ProgramStore::WhereProcedure(std::string_view procedure) const {
   return 0;
 }
 
-std::int16_t ProgramStore::HowMany(std::string_view procedure, std::string_view command) const {
+std::int16_t Store::HowMany(std::string_view procedure, std::string_view command) const {
   if (FileDataCount > HowManyLines) throw Failure(FailureKind::SubscriptOutOfRange);
   std::int16_t count = 0;
   for (int number = WhereProcedure(procedure); number <= FileDataCount && Line(number) != "END"; ++number) {
@@ -90,14 +90,14 @@ std::int16_t ProgramStore::HowMany(std::string_view procedure, std::string_view 
   return count;
 }
 
-bool ProgramStore::IsTempProcedurePresent() const {
+bool Store::IsTempProcedurePresent() const {
   for (int number = 1; !Line(number).empty(); ++number) {
     if (Contains(Line(number), "TO #")) return true;
   }
   return false;
 }
 
-void ProgramStore::TempFileDataArray() {
+void Store::TempFileDataArray() {
   int number = 1;
   for (; !Contains(Line(number), "TO #"); ++number) {
     if (Line(number).empty()) return;
@@ -117,18 +117,18 @@ void ProgramStore::TempFileDataArray() {
   SetLine(target, "");
 }
 
-void ProgramStore::RefreshFileDataArray() {
+void Store::RefreshFileDataArray() {
   while (IsTempProcedurePresent()) TempFileDataArray();
 }
 
-void ProgramStore::ProcedureList() {
+void Store::ProcedureList() {
   List3.Clear();
   for (int number = 1; !Line(number).empty(); ++number) {
     if (ClassOf(number) == StmtTo) List3.Add(Line(number));
   }
 }
 
-std::string ProgramStore::ProcedureListInStringForm() const {
+std::string Store::ProcedureListInStringForm() const {
   std::string list;
   for (int number = 1; !Line(number).empty(); ++number) {
     const std::string& line = Line(number);
@@ -137,7 +137,7 @@ std::string ProgramStore::ProcedureListInStringForm() const {
   return list;
 }
 
-void ListStore(ProgramStore& store, ListBox& list1) {
+void ListStore(Store& store, ListBox& list1) {
   list1.Clear();
   for (int number = 1; !store.Line(number).empty(); ++number) {
     store.TrimLine(number);

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-#include "controls/controls.h"
+#include "controls/control_kinds.h"
 #include "interpreter/statement_class.h"
 
 namespace zerimo {
@@ -15,12 +15,12 @@ namespace zerimo {
 /// The program store: 2000 text lines, numbered from 1. The first empty line ends it: every search stops there,
 /// whatever stale text lies behind it. A procedure is a run of lines from its `TO` line to its `END`; one whose name
 /// begins with # is temporary and carries a typed line.
-class ProgramStore {
+class Store {
  public:
   static constexpr int LineCount = 2000;
 
   /// Fills `List3` with the `TO` lines.
-  explicit ProgramStore(ListBox& list3) : List3(list3) {}
+  explicit Store(ListBox& list3) : List3(list3) {}
 
   /// A line by its number; fails (subscript) outside 1 to 2000.
   const std::string& Line(int number) const;
@@ -83,7 +83,7 @@ class ProgramStore {
 /// ends, also by a failure.
 class LentLine {
  public:
-  LentLine(ProgramStore& programStore, int lineNumber)
+  LentLine(Store& programStore, int lineNumber)
       : Text(programStore.Line(lineNumber)), store_(programStore), index_(programStore.Index(lineNumber)) {}
   ~LentLine() { store_.Put(index_, std::move(Text)); }
   LentLine(const LentLine&) = delete;
@@ -92,12 +92,12 @@ class LentLine {
   std::string Text;
 
  private:
-  ProgramStore& store_;
+  Store& store_;
   std::size_t index_;
 };
 
 /// Shows the whole store in a list, each line with its number and two blanks in front, trimming the lines in the store
 /// up to the first empty one.
-void ListStore(ProgramStore& store, ListBox& list1);
+void ListStore(Store& store, ListBox& list1);
 
 }  // namespace zerimo

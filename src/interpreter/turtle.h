@@ -6,7 +6,7 @@ namespace zerimo {
 
 /// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edge of the
 /// surface, `TurtleDir` is in radians, 0 up and growing clockwise, never normalised.
-struct TurtleState {
+struct Turtle {
   double TurtleX = 0;
   double TurtleY = 0;
   double TurtleDir = 0;

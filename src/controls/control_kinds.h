@@ -1,0 +1,260 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+/// The controls of the window as plain data. The system reads and writes these; a shell shows them and turns the
+/// user's events into calls of Form1's handlers. Places and sizes are singles in surface units (15 to a pixel),
+/// relative to the control's panel; colours are red + 256 * green + 65536 * blue.
+namespace zerimo {
+
+class Control;
+
+/// A colour value: red + 256 * green + 65536 * blue.
+using Colour = std::int32_t;
+
+/// The value of one property as it is told to the outside.
+using PropertyValue = std::variant<bool, double, float, std::string, std::vector<std::string>>;
+
+/// Receives the properties of a control, name and value, in the settled order.
+using PropertyReader = std::function<void(const char* name, const PropertyValue& value)>;
+
+/// Who has the focus in a window. At most one control has it; a control that becomes hidden, itself or with its
+/// panel, loses it, and then nothing has it until something is given it.
+class FocusKeeper {
+ public:
+  /// The control that has the focus, or nothing.
+  Control* Focus() const { return focus_; }
+
+  /// Gives the focus to a control; fails (focus refused) if the control or a panel that it lies on is hidden.
+  void SetFocus(Control& control);
+
+  /// To be called when the visibility of any control has changed.
+  void VisibilityChanged();
+
+ private:
+  Control* focus_ = nullptr;
+};
+
+/// What all visible controls have.
+class Control {
+ public:
+  Control(std::string name, Control* panel = nullptr, FocusKeeper* keeper = nullptr);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  /// The control's name, with its index if it is an element of an array: "List4", "Text1(0)".
+  const std::string& Name() const { return name_; }
+  /// The control that it lies on; nothing for the window itself and for what lies on the window.
+  Control* Panel() const { return panel_; }
+
+  bool Visible() const { return visible_; }
+  void SetVisible(bool value);
+  void Show() { SetVisible(true); }
+  void Hide() { SetVisible(false); }
+  /// Visible itself and with all panels that it lies on.
+  bool IsOnScreen() const;
+
+  float Left = 0;
+  float Top = 0;
+  float Width = 0;
+
+  float Height() const { return height; }
+  virtual void SetHeight(float value) { height = value; }
+
+  /// Tells the properties: first the visible ones of every control, then the kind's own.
+  virtual void ReadProperties(const PropertyReader& read) const;
+
+ protected:
+  float height = 0;
+
+ private:
+  std::string name_;
+  Control* panel_;
+  FocusKeeper* keeper_;
+  bool visible_ = true;
+};
+
+/// The main window.
+class Window : public Control {
+ public:
+  using Control::Control;
+  /// The title bar's text.
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string text);
+  /// Called for each assignment of the caption if set.
+  std::function<void(const std::string& text)> OnCaption;
+  void ReadProperties(const PropertyReader& read) const override;
+
+ private:
+  std::string caption_;
+};
+
+/// A text box of one line or many; lines end with carriage return and line feed.
+class TextBox : public Control {
+ public:
+  using Control::Control;
+  std::string Text;
+  Colour BackColor = 0xFFFFFF;
+  Colour ForeColor = 0;
+  double FontSize = 8.25;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A list of texts. Every change counts `Version` up, so that a shell shows only what is new.
+class ListBox : public Control {
+ public:
+  using Control::Control;
+
+  const std::vector<std::string>& Items() const;
+  void Add(std::string item);
+  void Clear();
+
+  /// Puts off filling the list: `fill` is called for the items when somebody first asks for them. What it gives must
+  /// stay what the list holds at this moment.
+  void SetLazily(std::function<std::vector<std::string>()> fill);
+
+  std::uint64_t Version() const { return version_; }
+  /// Counts the clearings, so that a shell knows whether a new version only adds behind the old one.
+  std::uint64_t Clearings() const { return clearings_; }
+
+  /// Called for each assignment if set: with the item for an addition, with nothing for a clearing.
+  std::function<void(const std::string* item)> OnChange;
+
+  Colour BackColor = 0xFFFFFF;
+  Colour ForeColor = 0;
+  double FontSize = 8.25;
+  void ReadProperties(const PropertyReader& read) const override;
+
+ private:
+  mutable std::vector<std::string> items_;
+  mutable std::function<std::vector<std::string>()> pending_;
+  std::uint64_t version_ = 0;
+  std::uint64_t clearings_ = 0;
+};
+
+/// A line of text that the user can't change; also used where a label is a colour square.
+class Label : public Control {
+ public:
+  using Control::Control;
+  std::string Caption;
+  Colour BackColor = 0xC8D0D4;
+  Colour ForeColor = 0;
+  /// 0 no border, 1 a single one.
+  int BorderStyle = 0;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A panel: a frame with a caption, or a picture box that only carries controls.
+class PanelBox : public Control {
+ public:
+  using Control::Control;
+  /// A picture box has none.
+  std::string Caption;
+  Colour BackColor = 0xC8D0D4;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// The title picture over the surface.
+class ImageBox : public Control {
+ public:
+  using Control::Control;
+};
+
+class Button : public Control {
+ public:
+  using Control::Control;
+  std::string Caption;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+class CheckBox : public Control {
+ public:
+  using Control::Control;
+  std::string Caption;
+  /// 0 not marked, 1 marked.
+  int Value = 0;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A scroll bar with a range from 0 to 255.
+class ScrollBar : public Control {
+ public:
+  using Control::Control;
+  static constexpr int Least = 0;
+  static constexpr int Greatest = 255;
+  int Value = 0;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A light figure above the surface or the palette: a circle or a frame.
+class Shape : public Control {
+ public:
+  using Control::Control;
+  Colour BorderColor = 0;
+  /// Pixels.
+  int BorderWidth = 1;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A light line above the surface. Its ends are in surface units.
+class LightLine : public Control {
+ public:
+  using Control::Control;
+  float X1 = 0;
+  float Y1 = 0;
+  float X2 = 0;
+  float Y2 = 0;
+  Colour BorderColor = 0;
+  /// Pixels.
+  int BorderWidth = 1;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// A timer. It ticks only when the system is back in the event loop.
+class Timer {
+ public:
+  explicit Timer(std::string timerName, std::int32_t interval, bool enabled)
+      : Interval(interval), Enabled(enabled), name_(std::move(timerName)) {}
+  const std::string& Name() const { return name_; }
+  /// Milliseconds; 0 never ticks.
+  std::int32_t Interval;
+  bool Enabled;
+  void ReadProperties(const PropertyReader& read) const;
+
+ private:
+  std::string name_;
+};
+
+/// The list of the files of a folder.
+class FileListBox : public Control {
+ public:
+  using Control::Control;
+  /// The folder as the system names it.
+  std::string Path;
+  std::vector<std::string> Items;
+  /// The selected entry, or empty.
+  std::string FileName;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+/// The rich-text view. `Document` is the page in its rich-text form (RTF), whatever form the file had.
+class RichTextView : public Control {
+ public:
+  using Control::Control;
+  /// The file that was loaded last.
+  std::string FileName;
+  /// The page's words without their form.
+  std::string Text;
+  /// The page in RTF.
+  std::string Document;
+  /// Counts the loads, so that a shell shows what is new.
+  std::uint64_t Version = 0;
+  void ReadProperties(const PropertyReader& read) const override;
+};
+
+}  // namespace zerimo
