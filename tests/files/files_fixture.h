@@ -5,11 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "files/editor.h"
-#include "files/help_pages.h"
-#include "files/pictures.h"
-#include "files/program_files.h"
-#include "files/saving.h"
+#include "files/files.h"
 #include "files/temp_folder.h"
 #include "graphics/canvas.h"
 #include "graphics/surface.h"
@@ -36,10 +32,7 @@ class FilesTest : public ::testing::Test, protected BareInterpreter {
     Disk.MakeFolder("work");
     std::filesystem::current_path(Disk.Path / "work");
     Picture1.AddRecorder(Loaded);
-    programFiles.Bind();
-    editor.Bind();
-    pictures.Bind();
-    helpPages.Bind();
+    files.Bind();
     dispatch.Bind(Action::SplitScreen, [this](PrimitiveCall&) {
       ++SplitScreens;
       TextAtSplitScreen = controls.Text2.Text;
@@ -52,15 +45,16 @@ class FilesTest : public ::testing::Test, protected BareInterpreter {
   std::vector<std::string> Listed(const ListBox& list) const { return list.Items(); }
 
   TempFolder Disk;
-  Folders Place{Disk.Path.string() + "/app"};
+  Folders folders{Disk.Path.string() + "/app"};
   EmptyCanvas Pixels;
   PictureList Loaded;
   Surface Picture1{"Picture1", Pixels};
-  Pictures Photos{Picture1, controls, arguments, dispatch, folders};
-  ProgramFiles Files{store, lowering, variables, controls, services, dispatch, folders, pictures};
-  Editor Edit{store, lowering, controls, dispatch};
-  Saving Save{controls, store, services, programFiles};
-  HelpPages Help{controls, services, dispatch};
+  Files files{{interpreter, controls, services, folders}, Picture1};
+  Pictures& pictures = files.pictures;
+  ProgramFiles& programFiles = files.programFiles;
+  Editor& editor = files.editor;
+  Saving& saving = files.saving;
+  HelpPages& helpPages = files.helpPages;
   int SplitScreens = 0;
   std::string TextAtSplitScreen;
 };

@@ -7,25 +7,11 @@
 
 #include "base/failure.h"
 #include "controls/controls.h"
-#include "graphics/colours.h"
-#include "graphics/drawing_context.h"
-#include "graphics/flood_fill.h"
-#include "graphics/motion.h"
+#include "graphics/graphics.h"
 #include "graphics/operation_texts.h"
-#include "graphics/palette.h"
-#include "graphics/shapes.h"
 #include "graphics/spy_canvas.h"
 #include "graphics/surface.h"
-#include "graphics/surface_text.h"
-#include "graphics/turtle_figure.h"
-#include "graphics/turtle_places.h"
-#include "interpreter/arguments.h"
-#include "interpreter/arithmetic.h"
-#include "interpreter/control_path.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/store.h"
-#include "interpreter/turtle.h"
-#include "interpreter/variables.h"
+#include "interpreter/interpreter.h"
 #include "support/fake_services.h"
 #include "support/limited_watch.h"
 
@@ -47,12 +33,7 @@ class DrawingTest : public testing::Test {
     turtle.TurtleX = 1000;
     turtle.TurtleY = 2000;
     turtle.BGColor = Picture1.BackColor();
-    turtlePlaces.Bind();
-    motion.Bind();
-    colours.Bind();
-    shapes.Bind();
-    floodFills.Bind();
-    surfaceText.Bind();
+    graphics.Bind();
     dispatch.TurtlePos = [this] { turtleFigure.TurtlePos(turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir); };
     dispatch.RefreshSurface = [this] { ++Refreshes; };
     Picture1.AddRecorder(Recorder);
@@ -69,28 +50,24 @@ class DrawingTest : public testing::Test {
   void FenceIn() { turtle.FenceMode = 2; }
 
   ScreenSize Size{15360, 11520};
-  Controls Controls{Size};
+  Controls controls{Size};
   FakeServices services;
   LimitedWatch watch;
   SpyCanvas Pixels;
   OperationTexts Recorder;
   Surface Picture1{"Picture1", Pixels};
   Turtle turtle;
-  ControlPath controlPath;
-  Store Store{controls.List3};
-  Arithmetic Evaluation{watch};
-  Variables Names{store, controlPath, turtle, controls.Form1, controls.List2, arithmetic, watch};
-  Arguments Stages{variables, arithmetic};
-  Dispatch Primitives{services};
-  DrawingContext Drawing{turtle, Picture1, controls, arguments, services, dispatch};
-  TurtleFigure Figure{controls};
-  TurtlePlaces Places{drawing};
-  Motion Moves{drawing};
-  Colours Colouring{drawing, turtleFigure};
-  Shapes Figures{drawing};
-  FloodFills Floods{drawing};
-  SurfaceText Writing{drawing};
-  Palette Mouse{drawing};
+  Interpreter interpreter{{services, watch, controls, turtle}};
+  Store& store = interpreter.store;
+  Variables& variables = interpreter.variables;
+  Arguments& arguments = interpreter.arguments;
+  Dispatch& dispatch = interpreter.dispatch;
+  DrawingContext drawing{turtle, Picture1, controls, arguments, services, dispatch};
+  Graphics graphics{drawing};
+  TurtleFigure& turtleFigure = graphics.turtleFigure;
+  Colours& colours = graphics.colours;
+  FloodFills& floodFills = graphics.floodFills;
+  Palette& palette = graphics.palette;
   int Refreshes = 0;
 };
 

@@ -26,7 +26,7 @@ class ArithmeticLimitsTest : public testing::Test {
   }
 
   LimitedWatch watch;
-  Arithmetic Evaluation{watch};
+  Arithmetic arithmetic{watch};
 };
 
 struct ValueOfText {

@@ -25,8 +25,8 @@ class ArithmeticTest : public testing::Test {
     }
   }
 
-  LimitedWatch Watch{1000, 10000};
-  Arithmetic Evaluation{watch};
+  LimitedWatch watch{1000, 10000};
+  Arithmetic arithmetic{watch};
 };
 
 struct Expression {

@@ -26,7 +26,7 @@ class DispatchTest : public testing::Test {
   }
 
   FakeServices services;
-  Dispatch Primitives{services};
+  Dispatch dispatch{services};
   Texts Done;
 };
 

@@ -126,7 +126,7 @@ TEST_F(InputsTest, AFullTableFails) {
 TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
   Fill({"TO BOX :N :M", "END"});
   for (int number = 1; number <= 499; ++number) variables.SetSlot(number, "X=1");
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   // The second argument's scan for locals finds no free slot any more.
   EXPECT_THROW(inputs.CreateLocalVariable("BOX 1 2"), Stopped);
   EXPECT_EQ(variables.Slot(500), "BOX.:N=1");
@@ -134,7 +134,7 @@ TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
 
 TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
   Fill({"TO R :N", "FD 1", "R 1", "END"});
-  Watch = LimitedWatch(1'000'000, 2000);
+  watch = LimitedWatch(1'000'000, 2000);
   // The activation that takes the last slot hangs in its first expression.
   EXPECT_THROW(Type("R 1"), Stopped);
   EXPECT_EQ(Calls.size(), 499U);

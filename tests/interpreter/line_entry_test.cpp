@@ -94,7 +94,7 @@ class LineEntryTest : public testing::Test {
  protected:
   ListBox List3{"List3"};
   ListBox List4{"List4"};
-  Store Store{List3};
+  Store store{List3};
 };
 
 struct WordsByInputs {

@@ -16,7 +16,7 @@ class RelationSidesTest : public testing::Test {
   bool Holds(std::string condition) const { return RelationEvaluator(condition, arithmetic); }
 
   LimitedWatch watch;
-  Arithmetic Evaluation{watch};
+  Arithmetic arithmetic{watch};
 };
 
 struct TruthOfText {

@@ -133,7 +133,7 @@ TEST_F(GlobalVariableReplacerTest, AValueThatIsNoNumberOf64BitsKeepsTheOneBefore
 
 TEST_F(GlobalVariableReplacerTest, TheLargestValuesInExponentFormNeverLeaveEither) {
   Slots({"A=5", "B=1E+308"});
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(Globally("A+B"), Stopped);
 }
 

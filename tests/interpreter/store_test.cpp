@@ -11,7 +11,7 @@
 namespace zerimo {
 namespace {
 
-class ProgramStoreTest : public testing::Test {
+class StoreTest : public testing::Test {
  protected:
   void Fill(std::initializer_list<const char*> lines, int first = 1) {
     for (const char* line : lines) store.SetLine(first++, line);
@@ -26,18 +26,18 @@ class ProgramStoreTest : public testing::Test {
   }
 
   ListBox List3{"List3"};
-  Store Store{List3};
+  Store store{List3};
 };
 
 using Texts = std::vector<std::string>;
 
-TEST_F(ProgramStoreTest, EmptyStoreFindsNothing) {
+TEST_F(StoreTest, EmptyStoreFindsNothing) {
   EXPECT_EQ(store.WhereProcedure("BOX"), 0);
   EXPECT_EQ(store.ProcedureListInStringForm(), "");
   EXPECT_FALSE(store.IsTempProcedurePresent());
 }
 
-TEST_F(ProgramStoreTest, LinesBelowOneAndAboveTwoThousandFail) {
+TEST_F(StoreTest, LinesBelowOneAndAboveTwoThousandFail) {
   EXPECT_THROW(store.Line(0), Failure);
   EXPECT_THROW(store.Line(2001), Failure);
   EXPECT_THROW(store.SetLine(0, "X"), Failure);
@@ -46,7 +46,7 @@ TEST_F(ProgramStoreTest, LinesBelowOneAndAboveTwoThousandFail) {
   EXPECT_EQ(store.Line(2000), "X");
 }
 
-TEST_F(ProgramStoreTest, ProcedureIsFoundByItsWholeNameInEitherOrder) {
+TEST_F(StoreTest, ProcedureIsFoundByItsWholeNameInEitherOrder) {
   Fill({"TO BOX", "END", "TO BOXES :N", "END"});
   EXPECT_EQ(store.WhereProcedure("BOX"), 1);
   EXPECT_EQ(store.WhereProcedure("BOXES"), 3);
@@ -55,29 +55,29 @@ TEST_F(ProgramStoreTest, ProcedureIsFoundByItsWholeNameInEitherOrder) {
   EXPECT_EQ(store.WhereProcedure("BOXES"), 1);
 }
 
-TEST_F(ProgramStoreTest, ProcedureNamesKeepCaseAndTheLinesStart) {
+TEST_F(StoreTest, ProcedureNamesKeepCaseAndTheLinesStart) {
   Fill({"PRINT \"TO BOX\"", "to BOX", "TO box"});
   EXPECT_EQ(store.WhereProcedure("BOX"), 0);
 }
 
-TEST_F(ProgramStoreTest, TemporaryNumbersAreNotPrefixes) {
+TEST_F(StoreTest, TemporaryNumbersAreNotPrefixes) {
   Fill({"TO #TEMP$12", "END"});
   EXPECT_EQ(store.WhereProcedure("#TEMP$1"), 0);
   EXPECT_EQ(store.WhereProcedure("#TEMP$12"), 1);
 }
 
-TEST_F(ProgramStoreTest, SearchStopsAtTheFirstEmptyLine) {
+TEST_F(StoreTest, SearchStopsAtTheFirstEmptyLine) {
   Fill({"TO A", "END", "", "TO B", "END"});
   EXPECT_EQ(store.WhereProcedure("B"), 0);
 }
 
-TEST_F(ProgramStoreTest, SearchInAFullStoreFails) {
+TEST_F(StoreTest, SearchInAFullStoreFails) {
   FillMany(2000);
   EXPECT_THROW(store.WhereProcedure("X"), Failure);
   EXPECT_THROW(store.FirstEmptyLine(), Failure);
 }
 
-TEST_F(ProgramStoreTest, EmptyingStopsAtAGapAndStaleTextSurvives) {
+TEST_F(StoreTest, EmptyingStopsAtAGapAndStaleTextSurvives) {
   Fill({"A", "B", "", "STALE"});
   store.MakeEmptyFileDataArray();
   EXPECT_EQ(store.Line(1), "");
@@ -85,25 +85,25 @@ TEST_F(ProgramStoreTest, EmptyingStopsAtAGapAndStaleTextSurvives) {
   EXPECT_EQ(store.Line(4), "STALE");
 }
 
-TEST_F(ProgramStoreTest, EmptyingAFullStoreFailsBehindItsLastLine) {
+TEST_F(StoreTest, EmptyingAFullStoreFailsBehindItsLastLine) {
   FillMany(2000);
   EXPECT_THROW(store.MakeEmptyFileDataArray(), Failure);
   EXPECT_EQ(store.Line(1), "");
   EXPECT_EQ(store.Line(2000), "");
 }
 
-TEST_F(ProgramStoreTest, AMarkAnywhereInALineCountsAsATemporaryProcedure) {
+TEST_F(StoreTest, AMarkAnywhereInALineCountsAsATemporaryProcedure) {
   Fill({"PRINT \"TO #\""});
   EXPECT_TRUE(store.IsTempProcedurePresent());
 }
 
-TEST_F(ProgramStoreTest, SweepTakesTheFirstTemporaryProcedure) {
+TEST_F(StoreTest, SweepTakesTheFirstTemporaryProcedure) {
   Fill({"TO A", "END", "TO #TEMP$1", "FD 10", "END", "TO B", "END"});
   store.TempFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"TO A", "END", "TO B", "END"}));
 }
 
-TEST_F(ProgramStoreTest, SweepEmptiesOnlyOneLineBehind) {
+TEST_F(StoreTest, SweepEmptiesOnlyOneLineBehind) {
   Fill({"TO A", "END", "TO #TEMP$1", "FD 10", "END"});
   store.TempFileDataArray();
   EXPECT_EQ(store.Line(3), "");
@@ -111,25 +111,25 @@ TEST_F(ProgramStoreTest, SweepEmptiesOnlyOneLineBehind) {
   EXPECT_EQ(store.Line(5), "END");
 }
 
-TEST_F(ProgramStoreTest, SweepStopsBehindAnEndif) {
+TEST_F(StoreTest, SweepStopsBehindAnEndif) {
   Fill({"TO #TEMP$1", "IF 1", "ENDIF", "FD 1", "END"});
   store.RefreshFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"FD 1", "END"}));
 }
 
-TEST_F(ProgramStoreTest, SweepStartsAtAPrintedMark) {
+TEST_F(StoreTest, SweepStartsAtAPrintedMark) {
   Fill({"FD 1", "PRINT \"TO #\"", "FD 2", "END", "FD 3"});
   store.RefreshFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"FD 1", "FD 3"}));
 }
 
-TEST_F(ProgramStoreTest, SweepOfSeveralProcedures) {
+TEST_F(StoreTest, SweepOfSeveralProcedures) {
   Fill({"TO #TEMP$1", "END", "TO A", "END", "TO #TEMP$2", "FD 1"});
   store.RefreshFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"TO A", "END"}));
 }
 
-TEST_F(ProgramStoreTest, SweepWithMoreThanAHundredLinesIsAbandoned) {
+TEST_F(StoreTest, SweepWithMoreThanAHundredLinesIsAbandoned) {
   FillMany(101);
   Fill({"TO #TEMP$1", "END"}, 102);
   EXPECT_THROW(store.RefreshFileDataArray(), Failure);
@@ -137,53 +137,53 @@ TEST_F(ProgramStoreTest, SweepWithMoreThanAHundredLinesIsAbandoned) {
   EXPECT_EQ(store.Line(102), "TO #TEMP$1");
 }
 
-TEST_F(ProgramStoreTest, SweepWithNinetyNineLinesWorks) {
+TEST_F(StoreTest, SweepWithNinetyNineLinesWorks) {
   FillMany(99);
   Fill({"TO #TEMP$1", "END"}, 100);
   store.RefreshFileDataArray();
   EXPECT_EQ(Lines().size(), 99U);
 }
 
-TEST_F(ProgramStoreTest, SweepWithExactlyAHundredLinesFailsBehindTheCopy) {
+TEST_F(StoreTest, SweepWithExactlyAHundredLinesFailsBehindTheCopy) {
   FillMany(100);
   Fill({"TO #TEMP$1", "END"}, 101);
   EXPECT_THROW(store.RefreshFileDataArray(), Failure);
   EXPECT_EQ(store.Line(101), "TO #TEMP$1");
 }
 
-TEST_F(ProgramStoreTest, SweepThatFindsNothingDoesNothing) {
+TEST_F(StoreTest, SweepThatFindsNothingDoesNothing) {
   FillMany(150);
   store.TempFileDataArray();
   EXPECT_EQ(Lines().size(), 150U);
 }
 
-TEST_F(ProgramStoreTest, SweepWithoutAnEndTakesAllUpToTheFirstEmptyLine) {
+TEST_F(StoreTest, SweepWithoutAnEndTakesAllUpToTheFirstEmptyLine) {
   Fill({"FD 1", "TO #TEMP$1", "FD 2", "", "FD 3"});
   store.TempFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"FD 1"}));
   EXPECT_EQ(store.Line(5), "FD 3");
 }
 
-TEST_F(ProgramStoreTest, SweepDoesNotSeeStaleLines) {
+TEST_F(StoreTest, SweepDoesNotSeeStaleLines) {
   Fill({"FD 1", "", "TO #TEMP$1", "END"});
   EXPECT_FALSE(store.IsTempProcedurePresent());
   store.RefreshFileDataArray();
   EXPECT_EQ(store.Line(3), "TO #TEMP$1");
 }
 
-TEST_F(ProgramStoreTest, ProcedureListShowsTheHeadersWhole) {
+TEST_F(StoreTest, ProcedureListShowsTheHeadersWhole) {
   List3.Add("OLD");
   Fill({"MAKE \"A 1", "TO BOX :S", "FD :S", "END", "TO #TEMP$3", "END"});
   store.ProcedureList();
   EXPECT_EQ(List3.Items(), (Texts{"TO BOX :S", "TO #TEMP$3"}));
 }
 
-TEST_F(ProgramStoreTest, ProcedureListAsTextLeavesOutTheSystemsOwn) {
+TEST_F(StoreTest, ProcedureListAsTextLeavesOutTheSystemsOwn) {
   Fill({"TO BOX :S", "END", "TO STAR", "END", "TO #TEMP$3", "END"});
   EXPECT_EQ(store.ProcedureListInStringForm(), "[BOX :S]   [STAR]   ");
 }
 
-TEST_F(ProgramStoreTest, HowManyCountsExactLinesUpToTheEnd) {
+TEST_F(StoreTest, HowManyCountsExactLinesUpToTheEnd) {
   Fill({"TO A", "FD 1", "FD 1 ", "FD 1", "END", "FD 1"});
   store.FileDataCount = 6;
   EXPECT_EQ(store.HowMany("A", "FD 1"), 2);
@@ -191,13 +191,13 @@ TEST_F(ProgramStoreTest, HowManyCountsExactLinesUpToTheEnd) {
   EXPECT_THROW(store.HowMany("A", "FD 1"), Failure);
 }
 
-TEST_F(ProgramStoreTest, HowManyCountsUpToTheLastUsedLine) {
+TEST_F(StoreTest, HowManyCountsUpToTheLastUsedLine) {
   Fill({"TO A", "FD 1", "FD 1", "FD 1"});
   store.FileDataCount = 3;
   EXPECT_EQ(store.HowMany("A", "FD 1"), 2);
 }
 
-TEST_F(ProgramStoreTest, HowManyTakesAThousandLinesAndNeedsTheProcedure) {
+TEST_F(StoreTest, HowManyTakesAThousandLinesAndNeedsTheProcedure) {
   FillMany(998);
   Fill({"TO A", "FD 1", "END"}, 999);
   store.FileDataCount = 1000;
@@ -205,7 +205,7 @@ TEST_F(ProgramStoreTest, HowManyTakesAThousandLinesAndNeedsTheProcedure) {
   EXPECT_THROW(store.HowMany("B", "FD 1"), Failure);
 }
 
-TEST_F(ProgramStoreTest, ListOfTheStoreTrimsItsLines) {
+TEST_F(StoreTest, ListOfTheStoreTrimsItsLines) {
   ListBox list1{"List1"};
   Fill({"TO A ", " FD 10", "END"});
   ListStore(store, list1);
@@ -213,7 +213,7 @@ TEST_F(ProgramStoreTest, ListOfTheStoreTrimsItsLines) {
   EXPECT_EQ(store.Line(2), "FD 10");
 }
 
-TEST_F(ProgramStoreTest, ListOfTheStoreListsALineOfBlanksAndGoesOn) {
+TEST_F(StoreTest, ListOfTheStoreListsALineOfBlanksAndGoesOn) {
   ListBox list1{"List1"};
   Fill({"FD 1", "  ", "FD 2"});
   ListStore(store, list1);
@@ -221,7 +221,7 @@ TEST_F(ProgramStoreTest, ListOfTheStoreListsALineOfBlanksAndGoesOn) {
   EXPECT_EQ(store.Line(2), "");
 }
 
-TEST_F(ProgramStoreTest, ALentLineIsWrittenBackAlsoAfterAFailure) {
+TEST_F(StoreTest, ALentLineIsWrittenBackAlsoAfterAFailure) {
   Fill({"FD 10"});
   PassOver([&] {
     LentLine line(store, 1);
@@ -231,7 +231,7 @@ TEST_F(ProgramStoreTest, ALentLineIsWrittenBackAlsoAfterAFailure) {
   EXPECT_EQ(store.Line(1), "FD 10 ");
 }
 
-TEST_F(ProgramStoreTest, ClassFollowsTheText) {
+TEST_F(StoreTest, ClassFollowsTheText) {
   Fill({"FD 10"});
   EXPECT_EQ(store.ClassOf(1), StmtPrimitive);
   store.SetLine(1, "END");

@@ -141,13 +141,13 @@ TEST_F(VariablesTest, ADeletedSlotIsPassedOverInReading) {
 
 TEST_F(VariablesTest, AGlobalInExponentFormNeverLeavesTheReplacer) {
   FillSlots({"A=1E+15"});
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(Globals("A"), Stopped);
 }
 
 TEST_F(VariablesTest, ScansWithoutAFreeSlotNeverEnd) {
   variables.ForgetAll();
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(Globals("A"), Stopped);
   EXPECT_THROW(Locals("A"), Stopped);
 }
@@ -206,7 +206,7 @@ TEST_F(VariablesTest, TwentyEntriesDoNotEndTheWalkOverTheSlots) {
   EXPECT_EQ(Locals(":N"), "1");
   // Now no slot is free.
   variables.SetSlot(500, "R.:N=1");
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(Locals(":N"), Stopped);
 }
 
@@ -286,7 +286,7 @@ TEST_F(VariablesTest, MakeShowsTheSlotsAsTheyWereBeforeTheClosing) {
 
 TEST_F(VariablesTest, MakeInAFullTableNeverReturns) {
   for (int number = 1; number <= 500; ++number) variables.SetSlot(number, "X=1");
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   Fill({"TO A", "MAKE A 7", "END"});
   // The value's scan for locals comes before the search for a slot.
   EXPECT_THROW(variables.VariableUpdate(2), Stopped);
@@ -295,14 +295,14 @@ TEST_F(VariablesTest, MakeInAFullTableNeverReturns) {
 TEST_F(VariablesTest, MakeInATableFullOfLocalsNeverReturnsEither) {
   for (int number = 1; number <= 500; ++number) variables.SetSlot(number, "A.:N=1");
   controlPath.SetCtrlStr(".A- 2");
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(Make("MAKE B 7"), Stopped);
   EXPECT_EQ(variables.Slot(500), "A.:N=1");
 }
 
 TEST_F(VariablesTest, MakeAfterTheRefreshNeverReturns) {
   variables.ForgetAll();
-  Watch = LimitedWatch(1, 500);
+  watch = LimitedWatch(1, 500);
   Fill({"TO A", "MAKE A 7", "END"});
   EXPECT_THROW(variables.VariableUpdate(2), Stopped);
 }
@@ -316,7 +316,7 @@ TEST_F(VariablesTest, ClosingFailsAfterOneSlotHasGone) {
 TEST_F(VariablesTest, ClosingNeverReturnsForADeletedSlotAbove100) {
   for (int number = 1; number <= 100; ++number) variables.SetSlot(number, "X=1");
   variables.SetSlot(101, " ");
-  Watch = LimitedWatch(1, 200);
+  watch = LimitedWatch(1, 200);
   EXPECT_THROW(variables.SpaceRemoverFromVariableArray(), Stopped);
 }
 

@@ -6,18 +6,7 @@
 
 #include "base/numbers.h"
 #include "controls/controls.h"
-#include "interpreter/arguments.h"
-#include "interpreter/arithmetic.h"
-#include "interpreter/conditionals.h"
-#include "interpreter/control_path.h"
-#include "interpreter/dispatch.h"
-#include "interpreter/inputs.h"
-#include "interpreter/lowering.h"
-#include "interpreter/runner.h"
-#include "interpreter/store.h"
-#include "interpreter/turtle.h"
-#include "interpreter/typed_lines.h"
-#include "interpreter/variables.h"
+#include "interpreter/interpreter.h"
 #include "support/fake_services.h"
 #include "support/limited_watch.h"
 
@@ -58,21 +47,24 @@ struct BareInterpreter {
     return PassOver([&] { typedLines.ComplexExecutor(line); });
   }
 
-  Controls Controls{ScreenSize{}};
+  Controls controls{ScreenSize{}};
   FakeServices services;
   LimitedWatch watch;
   Turtle turtle;
-  ControlPath controlPath;
-  Store Store{controls.List3};
-  Arithmetic Evaluation{watch};
-  Variables Names{store, controlPath, turtle, controls.Form1, controls.List2, arithmetic, watch};
-  Arguments Stages{variables, arithmetic};
-  Inputs Locals{store, controlPath, variables};
-  Lowering Repeats{store, variables, arithmetic, services, controls.Label17, controls.Label18};
-  Conditionals Conditions{store, variables, arithmetic};
-  Dispatch Primitives{services};
-  Runner Run{store, controlPath, dispatch, variables, inputs, conditionals, services, watch, controls.Label19};
-  TypedLines Lines{store, lowering, runner, variables, controls.List1};
+  Interpreter interpreter{{services, watch, controls, turtle}};
+
+  // The parts, so that a test reads as the system does.
+  ControlPath& controlPath = interpreter.controlPath;
+  Store& store = interpreter.store;
+  Arithmetic& arithmetic = interpreter.arithmetic;
+  Variables& variables = interpreter.variables;
+  Arguments& arguments = interpreter.arguments;
+  Inputs& inputs = interpreter.inputs;
+  Lowering& lowering = interpreter.lowering;
+  Conditionals& conditionals = interpreter.conditionals;
+  Dispatch& dispatch = interpreter.dispatch;
+  Runner& runner = interpreter.runner;
+  TypedLines& typedLines = interpreter.typedLines;
 
   std::vector<std::string> Calls;
   /// The control string at each of the calls.

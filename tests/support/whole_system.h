@@ -14,7 +14,7 @@ namespace zerimo {
 /// The whole system over a canvas without pixels, started and with the focus on row 0.
 struct WholeSystem {
   explicit WholeSystem(ScreenSize screen = {}, const std::string& appFolder = ".")
-      : System(screen, appFolder, services, watch, Pixels), Controls(System.controls) {
+      : System(screen, appFolder, services, watch, Pixels), controls(System.controls) {
     System.Load();
     System.Tick(controls.Timer2);
   }
@@ -53,11 +53,11 @@ struct WholeSystem {
     for (const char* line : lines) System.interpreter.store.SetLine(number++, line);
   }
 
-  FakeServices Desktop;
-  LimitedWatch Watch;
+  FakeServices services;
+  LimitedWatch watch;
   EmptyCanvas Pixels;
   Form1 System;
-  Controls& Controls;
+  Controls& controls;
 };
 
 }  // namespace zerimo
