@@ -108,8 +108,8 @@ TEST_F(Form1EventsTest, TypingInTheEditorChangesNothingElse) {
 
 TEST_F(Form1EventsTest, OtherControlsDoNothingWithTheMouse) {
   const std::string pending = controls.Label15.Caption;
-  for (Control* control : {static_cast<Control*>(&Controls.Label16), static_cast<Control*>(&Controls.Prompt),
-                           static_cast<Control*>(&Controls.Text1[2]), static_cast<Control*>(&Controls.Label20[1])}) {
+  for (Control* control : {static_cast<Control*>(&controls.Label16), static_cast<Control*>(&controls.Prompt),
+                           static_cast<Control*>(&controls.Text1[2]), static_cast<Control*>(&controls.Label20[1])}) {
     System.Click(*control);
     System.MouseMove(*control, 10, 10);
     System.MouseDown(*control, MouseButton::Left, false, 10, 10);

@@ -201,7 +201,7 @@ TEST_F(KeysTest, EscOnARowClosesThePanelsAndNothingElse) {
 }
 
 TEST_F(KeysTest, EscClosesTheHelpViewFromThePageAndTheList) {
-  for (Control* control : {static_cast<Control*>(&Controls.RichTextBox1), static_cast<Control*>(&Controls.File1)}) {
+  for (Control* control : {static_cast<Control*>(&controls.RichTextBox1), static_cast<Control*>(&controls.File1)}) {
     controls.RichTextBox1.Show();
     controls.File1.Show();
     Press(*control, key::Esc);
@@ -211,7 +211,7 @@ TEST_F(KeysTest, EscClosesTheHelpViewFromThePageAndTheList) {
 }
 
 TEST_F(KeysTest, F1OpensTheEditor) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text1[2]), static_cast<Control*>(&Controls.List4),
+  for (Control* control : {static_cast<Control*>(&controls.Text1[2]), static_cast<Control*>(&controls.List4),
                            static_cast<Control*>(&System.Picture1)}) {
     controls.Text2.Hide();
     Press(*control, key::F1);
@@ -221,15 +221,15 @@ TEST_F(KeysTest, F1OpensTheEditor) {
 }
 
 TEST_F(KeysTest, F1IsNotForTheEditorThePagesAndTheForm) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text2), static_cast<Control*>(&Controls.RichTextBox1),
-                           static_cast<Control*>(&Controls.File1), static_cast<Control*>(&Controls.Form1)}) {
+  for (Control* control : {static_cast<Control*>(&controls.Text2), static_cast<Control*>(&controls.RichTextBox1),
+                           static_cast<Control*>(&controls.File1), static_cast<Control*>(&controls.Form1)}) {
     Press(*control, key::F1);
     EXPECT_FALSE(controls.Text2.Visible()) << control->Name();
   }
 }
 
 TEST_F(KeysTest, F2OnRowsAndHistoryIsTheSplitScreen) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4)}) {
+  for (Control* control : {static_cast<Control*>(&controls.Text1[0]), static_cast<Control*>(&controls.List4)}) {
     System.Picture1.SetHeight(Full);
     controls.List4.Show();
     Press(*control, key::F2);
@@ -259,8 +259,8 @@ TEST_F(KeysTest, F2OnTheFormBringsTheRowsBackWithoutTheFocus) {
 }
 
 TEST_F(KeysTest, F3IsTheTextScreen) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4),
-                           static_cast<Control*>(&System.Picture1), static_cast<Control*>(&Controls.Text2)}) {
+  for (Control* control : {static_cast<Control*>(&controls.Text1[0]), static_cast<Control*>(&controls.List4),
+                           static_cast<Control*>(&System.Picture1), static_cast<Control*>(&controls.Text2)}) {
     controls.List4.Hide();
     Press(*control, key::F3);
     EXPECT_TRUE(controls.List4.Visible()) << control->Name();
@@ -268,8 +268,8 @@ TEST_F(KeysTest, F3IsTheTextScreen) {
 }
 
 TEST_F(KeysTest, F4IsTheFullScreenButNotOnTheSurface) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4),
-                           static_cast<Control*>(&Controls.Text2)}) {
+  for (Control* control : {static_cast<Control*>(&controls.Text1[0]), static_cast<Control*>(&controls.List4),
+                           static_cast<Control*>(&controls.Text2)}) {
     System.Picture1.SetHeight(Split);
     Press(*control, key::F4);
     EXPECT_EQ(System.Picture1.Height(), Full) << control->Name();
@@ -280,8 +280,8 @@ TEST_F(KeysTest, F4IsTheFullScreenButNotOnTheSurface) {
 }
 
 TEST_F(KeysTest, F9AsksForAProgramFile) {
-  for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4),
-                           static_cast<Control*>(&System.Picture1), static_cast<Control*>(&Controls.Text2)}) {
+  for (Control* control : {static_cast<Control*>(&controls.Text1[0]), static_cast<Control*>(&controls.List4),
+                           static_cast<Control*>(&System.Picture1), static_cast<Control*>(&controls.Text2)}) {
     services.Inputs.clear();
     services.Boxes.clear();
     services.InputAnswers.push_back("no such file");
@@ -329,7 +329,7 @@ TEST_F(KeysTest, F3AndF4InTheEditorLeaveTheStoreAndTheText) {
 }
 
 TEST_F(KeysTest, F2OnTheSurfaceAndOnTheFormLeavesTheEditorWithoutAFold) {
-  for (Control* control : {static_cast<Control*>(&System.Picture1), static_cast<Control*>(&Controls.Form1)}) {
+  for (Control* control : {static_cast<Control*>(&System.Picture1), static_cast<Control*>(&controls.Form1)}) {
     Type("EDIT");
     controls.Text2.Text = "to a\r\nend";
     Press(*control, key::F2);
@@ -349,9 +349,9 @@ TEST_F(KeysTest, AFailureOfTheFoldOrTheSaveIsNotCaught) {
 
 TEST_F(KeysTest, F5ToF8AndF12DoNothing) {
   for (int code : {116, 117, 118, 119, 123}) {
-    for (Control* control : {static_cast<Control*>(&Controls.Text1[0]), static_cast<Control*>(&Controls.List4),
-                             static_cast<Control*>(&System.Picture1), static_cast<Control*>(&Controls.Text2),
-                             static_cast<Control*>(&Controls.Form1)}) {
+    for (Control* control : {static_cast<Control*>(&controls.Text1[0]), static_cast<Control*>(&controls.List4),
+                             static_cast<Control*>(&System.Picture1), static_cast<Control*>(&controls.Text2),
+                             static_cast<Control*>(&controls.Form1)}) {
       Press(*control, code);
     }
   }
@@ -369,19 +369,19 @@ struct ActingKeys {
 TEST_F(KeysTest, OtherKeysDoNothing) {
   using namespace key;
   const ActingKeys table[] = {
-      {&Controls.Text1[2], {Esc, Enter, F1, F2, F3, F4, F9, Up, Down}},
-      {&Controls.List4, {F1, F2, F3, F4, F9}},
+      {&controls.Text1[2], {Esc, Enter, F1, F2, F3, F4, F9, Up, Down}},
+      {&controls.List4, {F1, F2, F3, F4, F9}},
       {&System.Picture1, {F1, F2, F3, F9}},
-      {&Controls.Text2, {F2, F3, F4, F9, F10}},
-      {&Controls.RichTextBox1, {Esc, F11}},
-      {&Controls.File1, {Esc}},
-      {&Controls.Form1, {F2}},
-      {&Controls.Text3, {}},
-      {&Controls.Text4, {}},
-      {&Controls.Prompt, {}},
+      {&controls.Text2, {F2, F3, F4, F9, F10}},
+      {&controls.RichTextBox1, {Esc, F11}},
+      {&controls.File1, {Esc}},
+      {&controls.Form1, {F2}},
+      {&controls.Text3, {}},
+      {&controls.Text4, {}},
+      {&controls.Prompt, {}},
   };
-  for (Control* panel : {static_cast<Control*>(&Controls.Frame1), static_cast<Control*>(&Controls.RichTextBox1),
-                         static_cast<Control*>(&Controls.List4)}) {
+  for (Control* panel : {static_cast<Control*>(&controls.Frame1), static_cast<Control*>(&controls.RichTextBox1),
+                         static_cast<Control*>(&controls.List4)}) {
     panel->Show();
   }
   System.Picture1.SetHeight(1234);

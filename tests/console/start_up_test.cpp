@@ -56,16 +56,16 @@ TEST_F(StartUp, PlacesTheDiagnosisPanelAboveTheMiddle) {
 
 TEST_F(StartUp, ShowsWhatALearnerNeedsAndHidesTheRest) {
   for (const Control* control :
-       {static_cast<const Control*>(&Controls.Picture3), static_cast<const Control*>(&Controls.Image1),
-        static_cast<const Control*>(&Controls.Shape2), static_cast<const Control*>(&Controls.Line1),
-        static_cast<const Control*>(&Controls.Line2), static_cast<const Control*>(&Controls.Line3)}) {
+       {static_cast<const Control*>(&controls.Picture3), static_cast<const Control*>(&controls.Image1),
+        static_cast<const Control*>(&controls.Shape2), static_cast<const Control*>(&controls.Line1),
+        static_cast<const Control*>(&controls.Line2), static_cast<const Control*>(&controls.Line3)}) {
     EXPECT_TRUE(control->Visible()) << control->Name();
   }
   for (const Control* control :
-       {static_cast<const Control*>(&Controls.List4), static_cast<const Control*>(&Controls.Text2),
-        static_cast<const Control*>(&Controls.Frame1), static_cast<const Control*>(&Controls.Picture2),
-        static_cast<const Control*>(&Controls.File1), static_cast<const Control*>(&Controls.RichTextBox1),
-        static_cast<const Control*>(&Controls.Line5), static_cast<const Control*>(&Controls.Line6)}) {
+       {static_cast<const Control*>(&controls.List4), static_cast<const Control*>(&controls.Text2),
+        static_cast<const Control*>(&controls.Frame1), static_cast<const Control*>(&controls.Picture2),
+        static_cast<const Control*>(&controls.File1), static_cast<const Control*>(&controls.RichTextBox1),
+        static_cast<const Control*>(&controls.Line5), static_cast<const Control*>(&controls.Line6)}) {
     EXPECT_FALSE(control->Visible()) << control->Name();
   }
   for (int index = 0; index < 4; ++index) EXPECT_TRUE(controls.Label20[index].Visible());
@@ -194,7 +194,7 @@ TEST_F(StartUp, EveryControlIsFoundByItsName) {
   }
   EXPECT_EQ(System.FindControl("Text1(5)"), nullptr);
   EXPECT_EQ(System.FindControl("text1(0)"), nullptr);
-  EXPECT_EQ(System.FindTimer("Timer3"), &Controls.Timer3);
+  EXPECT_EQ(System.FindTimer("Timer3"), &controls.Timer3);
   EXPECT_EQ(System.FindTimer("Timer1"), nullptr);
 }
 

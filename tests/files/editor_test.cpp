@@ -16,7 +16,7 @@ TEST_F(EditorTest, EditShowsTheEditor) {
   EXPECT_FALSE(controls.List4.Visible());
   EXPECT_TRUE(controls.Text2.Visible());
   EXPECT_FALSE(controls.Picture3.Visible());
-  EXPECT_EQ(controls.Focus.Focus(), &Controls.Text2);
+  EXPECT_EQ(controls.Focus.Focus(), &controls.Text2);
 }
 
 TEST_F(EditorTest, EditTwiceHasNoFurtherEffect) {
@@ -24,7 +24,7 @@ TEST_F(EditorTest, EditTwiceHasNoFurtherEffect) {
   dispatch.Execute("EDIT");
   dispatch.Execute("EDIT");
   EXPECT_TRUE(controls.Text2.Visible());
-  EXPECT_EQ(controls.Focus.Focus(), &Controls.Text2);
+  EXPECT_EQ(controls.Focus.Focus(), &controls.Text2);
   EXPECT_EQ(controls.Text2.Text, "FD 10");
 }
 

@@ -63,7 +63,7 @@ TEST_F(ColoursTest, SetPCColoursPenFigureFramesAndCaption) {
   EXPECT_EQ(controls.Line1.BorderColor, 128);
   EXPECT_EQ(controls.Line2.BorderColor, 128);
   EXPECT_EQ(controls.Line3.BorderColor, 128);
-  for (const Shape* frame : {&Controls.Shape5, &Controls.Shape7}) {
+  for (const Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     EXPECT_EQ(frame->Left, controls.Label13[4].Left);
     EXPECT_EQ(frame->Top, controls.Label13[4].Top);
   }
@@ -149,7 +149,7 @@ TEST_F(ColoursTest, SetBGWhileErasingErasesWithTheNewBackground) {
 
 TEST_F(ColoursTest, SetBGMovesTheFramesAndWritesTheCaption) {
   Do("SETBG 6");
-  for (const Shape* frame : {&Controls.Shape5, &Controls.Shape7}) {
+  for (const Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     EXPECT_EQ(frame->Left, controls.Label13[6].Left);
     EXPECT_EQ(frame->Top, controls.Label13[6].Top);
   }

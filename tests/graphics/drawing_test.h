@@ -41,7 +41,7 @@ class DrawingTest : public testing::Test {
 
   /// Carries out primitive lines and returns the surface's operations.
   template <typename... Lines>
-  Texts Do(typedLines... lines) {
+  Texts Do(Lines... lines) {
     Recorder.Operations.clear();
     (dispatch.Execute(lines), ...);
     return Recorder.Operations;

@@ -408,8 +408,8 @@ TEST_F(MotionTest, ForegroundWrittenElsewhereColoursTheNextLine) {
 
 TEST_F(MotionTest, HiddenFigureMovesOn) {
   EXPECT_EQ(Do("HT", "FD 10").size(), 1U);
-  for (const Control* part : {static_cast<Control*>(&Controls.Shape2), static_cast<Control*>(&Controls.Line1),
-                              static_cast<Control*>(&Controls.Line2), static_cast<Control*>(&Controls.Line3)}) {
+  for (const Control* part : {static_cast<Control*>(&controls.Shape2), static_cast<Control*>(&controls.Line1),
+                              static_cast<Control*>(&controls.Line2), static_cast<Control*>(&controls.Line3)}) {
     EXPECT_FALSE(part->Visible());
   }
   Do("ST");

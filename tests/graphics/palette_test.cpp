@@ -65,13 +65,13 @@ TEST_F(PaletteTest, ClickGivesTheFocusToTheFirstEmptyRow) {
   controls.Text1[0].Text = "FD 10";
   controls.Text1[1].Text = "  ";
   palette.Picture1Click();
-  EXPECT_EQ(controls.Focus.Focus(), &Controls.Text1[1]);
+  EXPECT_EQ(controls.Focus.Focus(), &controls.Text1[1]);
 }
 
 TEST_F(PaletteTest, ClickGivesTheFocusToTheLastRowIfTheOthersHaveText) {
   for (int row = 0; row < 4; ++row) controls.Text1[row].Text = "FD 10";
   palette.Picture1Click();
-  EXPECT_EQ(controls.Focus.Focus(), &Controls.Text1[4]);
+  EXPECT_EQ(controls.Focus.Focus(), &controls.Text1[4]);
 }
 
 TEST_F(PaletteTest, ClickSwitchesTheFocusTimerOn) {
@@ -145,7 +145,7 @@ class Square : public DrawingTest, public testing::WithParamInterface<int> {};
 TEST_P(Square, IsFramedMarkedAndNamedWhenChosen) {
   const int index = GetParam();
   palette.Label13MouseDown(index, MouseButton::Left, false);
-  for (const Shape* frame : {&Controls.Shape5, &Controls.Shape7}) {
+  for (const Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     EXPECT_EQ(frame->Left, controls.Label13[index].Left);
     EXPECT_EQ(frame->Top, controls.Label13[index].Top);
   }

@@ -97,7 +97,7 @@ TEST_F(ConditionalsTest, ATrailingBlankOnEitherSidePreventsAMatch) {
 
 TEST_F(ConditionalsTest, AGotoOnTrailingBlankLabelsIsReported) {
   Fill({"TO A", "GOTO X", "LABEL X ", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(services.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
 }
 

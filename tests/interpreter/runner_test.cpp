@@ -31,30 +31,31 @@ class RunnerTest : public testing::Test, protected BareInterpreter {
  protected:
   /// The control string at the beginning of each step of a run, and at its end.
   Texts StepsOf(const char* procedure) {
-    NotingWatch watch(controlPath);
-    Runner runner(store, controlPath, dispatch, variables, inputs, conditionals, services, watch, controls.Label19);
-    runner.Run1(procedure);
-    watch.Steps.push_back(controlPath.CtrlStr());
-    return watch.Steps;
+    NotingWatch noting(controlPath);
+    Runner({{services, noting, controls, turtle}, store, controlPath, variables, arithmetic}, dispatch, inputs,
+           conditionals)
+        .Run1(procedure);
+    noting.Steps.push_back(controlPath.CtrlStr());
+    return noting.Steps;
   }
 
   /// Runs a procedure that does not end for a number of steps.
   void RunFor(int steps, const char* procedure) {
     watch.Allow(steps);
-    EXPECT_THROW(BareInterpreter::runner.Run1(procedure), Stopped);
+    EXPECT_THROW(runner.Run1(procedure), Stopped);
   }
 };
 
 TEST_F(RunnerTest, AnUnknownNameLeavesThePath) {
   controlPath.SetCtrlStr(".OLD- 3");
-  BareInterpreter::runner.Run1("NOWHERE");
+  runner.Run1("NOWHERE");
   EXPECT_EQ(controlPath.CtrlStr(), ".OLD- 3");
   EXPECT_EQ(controls.Label19.Caption, ".OLD- 3");
 }
 
 TEST_F(RunnerTest, ThePathFollowsTheWalk) {
   Fill({"TO BOX :S", "FD :S", "END", "TO #TEMP$7", "BOX 10", "RT 90", "END"});
-  BareInterpreter::runner.Run1("#TEMP$7");
+  runner.Run1("#TEMP$7");
   EXPECT_EQ(Calls, (Texts{"FD 10", "RT 90"}));
   EXPECT_EQ(Paths, (Texts{".#TEMP$7- 5.BOX- 2", ".#TEMP$7-6"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
@@ -83,20 +84,20 @@ TEST_F(RunnerTest, TheControlStringIsShownAsItChanges) {
   dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
   dispatch.Bind(Action::ArithmeticLine, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
   Fill({"TO A", "FD 1", "1+2", "END", "TO B", "A", "FD 2", "END"});
-  BareInterpreter::runner.Run1("B");
+  runner.Run1("B");
   EXPECT_EQ(shown, (Texts{".B- 6.A- 2", ".B- 6.A- 3", ".B-7"}));
   EXPECT_EQ(controls.Label19.Caption, ".");
 }
 
 TEST_F(RunnerTest, ThePathBehindATo) {
   Fill({"TO A", "FD 1", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Paths, (Texts{".A-2", ".A- 3"}));
 }
 
 TEST_F(RunnerTest, AnUnknownWordIsSkippedAndThePathKeepsTheOldNumber) {
   Fill({"TO A", "NOWHERE 5", "FD 1", "FD 2", "END", "TO B", "A", "FD 3", "END"});
-  BareInterpreter::runner.Run1("B");
+  runner.Run1("B");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2", "FD 3"}));
   EXPECT_EQ(Paths[0], ".B- 7.A- 2- 3");
   EXPECT_EQ(Paths[1], ".B- 7.A- 2- 4");
@@ -109,13 +110,13 @@ TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberBehindAnUnknownWord) {
   std::string name;
   dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { name = controlPath.CurrentProcedureName(); });
   Fill({"TO A", "NOWHERE", "FD 1", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(name, "A-2");
 }
 
 TEST_F(RunnerTest, PrimitiveLinesAreTrimmedInTheStore) {
   Fill({"TO A", "FD 1 ", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(store.Line(2), "FD 1");
 }
 
@@ -179,26 +180,26 @@ TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
 
 TEST_F(RunnerTest, TenLevelsReturnOnce) {
   Fill({"TO B", "MAKE N N-1", "IF N>0", "B", "ENDIF", "PRINT 1", "END", "TO M", "MAKE N 10", "B", "PRINT 2", "END"});
-  BareInterpreter::runner.Run1("M");
+  runner.Run1("M");
   // From the innermost level, and from the outermost one behind its call.
   EXPECT_EQ(Calls, (Texts{"PRINT 1", "PRINT 1", "PRINT 2"}));
 }
 
 TEST_F(RunnerTest, WhatStandsBehindARecursiveCallRunsOnce) {
   Fill({"TO B :N", "FD :N", "IF :N>0", "B :N-1", "ENDIF", "RT 1", "END", "TO M", "B 0", "END"});
-  BareInterpreter::runner.Run1("M");
+  runner.Run1("M");
   EXPECT_EQ(Calls, (Texts{"FD 0", "RT 1"}));
 }
 
 TEST_F(RunnerTest, NestedCallsReturnBehindTheCallWithTheCallersInputs) {
   Fill({"TO IN :X", "FD :X", "END", "TO OUT :Y", "IN 1", "FD :Y", "IN 2", "FD :Y", "END", "TO M", "OUT 7", "END"});
-  BareInterpreter::runner.Run1("M");
+  runner.Run1("M");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 7", "FD 2", "FD 7"}));
 }
 
 TEST_F(RunnerTest, GotoWithAnUnknownLabelTellsItAndLeavesThePath) {
   Fill({"TO A", "FD 1", "GOTO X", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   ASSERT_EQ(services.Boxes.size(), 1U);
   EXPECT_EQ(services.Boxes[0], (ShownBox{"UnDeclared Label: X in Goto Statement", 0, ""}));
@@ -209,7 +210,7 @@ TEST_F(RunnerTest, GotoWithAnUnknownLabelTellsItAndLeavesThePath) {
 TEST_F(RunnerTest, ARunAfterAnUnknownLabelIsAppendedToTheOldPath) {
   Fill({"TO A", "FD 1", "END"});
   controlPath.SetCtrlStr(".#TEMP$1- 8");
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Paths, (Texts{".#TEMP$1- 8A-2"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
@@ -217,7 +218,7 @@ TEST_F(RunnerTest, ARunAfterAnUnknownLabelIsAppendedToTheOldPath) {
 TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
   Fill({"TO A", "FD 1", "END", "TO OLD", "FD 8", "FD 9", "END"});
   controlPath.SetCtrlStr(".OLD- 5.X- 2");
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   // The END of the new run returns into the old path: behind line 5.
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 9"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
@@ -226,7 +227,7 @@ TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
 TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
   Fill({"TO A", "FD 1", "END"});
   controlPath.SetCtrlStr("X.");
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   // The END cuts the path down to "X", which has no number: the line behind 0 is the whole path.
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
@@ -234,58 +235,58 @@ TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
 
 TEST_F(RunnerTest, ATrailingBlankMakesAnotherLabel) {
   Fill({"TO A", "GOTO X", "END", "TO B", "LABEL X ", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(services.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
 }
 
 TEST_F(RunnerTest, GotoGoesToTheLabelLine) {
   Fill({"TO A", "GOTO X", "FD 1", "LABEL X", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));
   EXPECT_EQ(Paths, (Texts{".A-5"}));
 }
 
 TEST_F(RunnerTest, GotoIntoAnotherProcedureGoesOnThereUnderTheOldName) {
   Fill({"TO A", "GOTO X", "END", "TO B", "LABEL X", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));
   EXPECT_EQ(Paths, (Texts{".A-6"}));
 }
 
 TEST_F(RunnerTest, ALabelBehindAnEndifSkipsALine) {
   Fill({"TO A", "IF 1", "ENDIF", "LABEL X", "FD 1", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));
 }
 
 TEST_F(RunnerTest, EndifWritesTheNumberOneAhead) {
   Fill({"TO A", "IF 1", "ENDIF", "FD 1", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Paths, (Texts{".A- 5"}));
 }
 
 TEST_F(RunnerTest, TrueBranchJumpsBehindTheMatchingEndif) {
   Fill({"TO A", "IF 1", "FD 1", "ELSE", "IF 1", "FD 2", "ENDIF", "FD 3", "ENDIF", "FD 4", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 4"}));
   EXPECT_EQ(Paths[1], ".A- 10");
 }
 
 TEST_F(RunnerTest, FalseBranchStartsBehindTheElse) {
   Fill({"TO A", "IF 0", "FD 1", "ELSE", "FD 2", "ENDIF", "FD 3", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2", "FD 3"}));
 }
 
 TEST_F(RunnerTest, ElseStepsOverInnerConditions) {
   Fill({"TO A", "IF 1", "ELSE", "IF 1", "IF 1", "ENDIF", "ENDIF", "FD 1", "ENDIF", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));
 }
 
 TEST_F(RunnerTest, ElseWithoutEndifEndsTheRun) {
   Fill({"TO A", "FD 1", "ELSE", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   ASSERT_EQ(services.Boxes.size(), 1U);
   EXPECT_EQ(services.Boxes[0], (ShownBox{"Misplaced Else", 0, ""}));
@@ -307,13 +308,13 @@ TEST_F(RunnerTest, AFalseIfWithoutEndifNeverEndsTheRun) {
 
 TEST_F(RunnerTest, AWalkWithoutEndGoesOnIntoTheNextLines) {
   Fill({"TO A", "FD 1", "TO B", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
 }
 
 TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
   Fill({"TO A", "FD 1", "", "FD 2", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
   // The blank that the look at its first word leaves.
   EXPECT_EQ(store.Line(3), " ");
@@ -322,13 +323,13 @@ TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
 TEST_F(RunnerTest, AFailingPrimitiveLetsTheNextLineRun) {
   dispatch.Bind(Action::Right, [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
   Fill({"TO A", "RT 1", "FD 1", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
 }
 
 TEST_F(RunnerTest, AFailingMakeLetsTheNextLineRun) {
   Fill({"TO A", "MAKE \"N 1/0", "FD 1", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
 }
 
@@ -339,7 +340,7 @@ TEST_F(RunnerTest, ANameWithADashIsCutInThePath) {
 
 TEST_F(RunnerTest, AWalkPastLine2000EndsTheRunAndLeavesThePath) {
   Fill({"TO A", "FD 1"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_TRUE(controlPath.CtrlStr().starts_with(".A- 3- 4- 5"));
   EXPECT_TRUE(controlPath.CtrlStr().ends_with("- 2001"));
@@ -355,7 +356,7 @@ TEST_F(RunnerTest, BareExpressionsGoToTheirOwnActions) {
   dispatch.Bind(Action::ArithmeticLine, note);
   dispatch.Bind(Action::RelationLine, note);
   Fill({"TO A", "1+2", "A=3", "FD 1", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(lines, (Texts{"AEXP 1+2", "REXP A=3"}));
   EXPECT_EQ(Paths, (Texts{".A-2", ".A- 3", ".A- 4"}));
 }
@@ -366,13 +367,13 @@ TEST_F(RunnerTest, ALineOfTooManyWordsCallsTheFormerName) {
   Fill({"TO B", "FD 1", "END", "TO A", "B"});
   store.SetLine(6, tooManyWords);
   store.SetLine(7, "END");
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 1"}));
 }
 
 TEST_F(RunnerTest, EndDeletesTheInputsOfItsProcedure) {
   Fill({"TO BOX :N", "FD :N", "END", "TO A", "BOX 50", "END"});
-  BareInterpreter::runner.Run1("A");
+  runner.Run1("A");
   EXPECT_EQ(variables.Slot(1), " ");
   EXPECT_EQ(controlPath.CurProcName, "A");
 }

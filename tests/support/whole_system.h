@@ -41,7 +41,7 @@ struct WholeSystem {
     };
     controls.ForEach([&](const Control& control) { control.ReadProperties(read(control.Name())); });
     System.Picture1.ReadProperties(read(System.Picture1.Name()));
-    for (const Timer* timer : {&Controls.Timer2, &Controls.Timer3, &Controls.Timer4}) {
+    for (const Timer* timer : {&controls.Timer2, &controls.Timer3, &controls.Timer4}) {
       timer->ReadProperties(read(timer->Name()));
     }
     return all;
