@@ -17,8 +17,8 @@ class TempFolder {
     std::random_device random;
     Path = std::filesystem::temp_directory_path() /
            ("zerimo-test-" + std::to_string(random()) + "-" + std::to_string(random()));
-    std::filesystem::create_directories(controlPath);
-    std::filesystem::current_path(controlPath);
+    std::filesystem::create_directories(Path);
+    std::filesystem::current_path(Path);
   }
   ~TempFolder() {
     std::error_code error;
@@ -48,7 +48,7 @@ class TempFolder {
     return std::distance(std::filesystem::directory_iterator(Path / name), {});
   }
 
-  std::filesystem::path controlPath;
+  std::filesystem::path Path;
 
  private:
   std::filesystem::path former;
