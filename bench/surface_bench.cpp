@@ -7,10 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "pixels/image_canvas.h"
+#include "pictures/image_canvas.h"
+#include "pictures/text_painter.h"
 #include "pixels/rgb.h"
-#include "pixels/text_painter.h"
 #include "ratio_reporter.h"
+#include "reference/pixels/image_canvas.h"
 
 namespace zerimo {
 
@@ -43,12 +44,6 @@ std::vector<Ends> Star(double length) {
   return lines;
 }
 
-ImageCanvas MakeCanvas() {
-  ImageCanvas canvas;
-  canvas.Create(Columns, Rows, Back);
-  return canvas;
-}
-
 QImage MakeImage() {
   QImage image = MakeTextImage(Columns, Rows, QImage::Format_RGB32);
   image.fill(ToRgb(Back));
@@ -61,8 +56,10 @@ QPen PlainPen(int width) {
 
 QPoint Whole(PixelPoint point) { return {static_cast<int>(point.X), static_cast<int>(point.Y)}; }
 
-void OurLines(benchmark::State& state, double length, int width) {
-  ImageCanvas canvas = MakeCanvas();
+template <typename SomeCanvas>
+void CanvasLines(benchmark::State& state, double length, int width) {
+  SomeCanvas canvas;
+  canvas.Create(Columns, Rows, Back);
   const std::vector<Ends> lines = Star(length);
   std::size_t next = 0;
   for (auto _ : state) {
@@ -90,7 +87,8 @@ struct ClosedShape {
 };
 
 void OurShape(benchmark::State& state, const ClosedShape& shape) {
-  ImageCanvas canvas = MakeCanvas();
+  ImageCanvas canvas;
+  canvas.Create(Columns, Rows, Back);
   const Stroke stroke{Pen, shape.Width, 13};
   const Filling filling{Inside, shape.IsFilled ? 0 : 1};
   const PixelPoint middle{Columns / 2.0, Rows / 2.0};
@@ -124,7 +122,8 @@ void PlainShape(benchmark::State& state, const ClosedShape& shape) {
 Colour FloodColour(int round) { return round % 2 == 0 ? Pen : Inside; }
 
 void OurFlood(benchmark::State& state) {
-  ImageCanvas canvas = MakeCanvas();
+  ImageCanvas canvas;
+  canvas.Create(Columns, Rows, Back);
   int round = 0;
   for (auto _ : state) canvas.FloodFill({Columns / 2.0, Rows / 2.0}, FloodColour(round++), Rows);
 }
@@ -139,7 +138,8 @@ void PlainFlood(benchmark::State& state) {
 }
 
 void OurText(benchmark::State& state) {
-  ImageCanvas canvas = MakeCanvas();
+  ImageCanvas canvas;
+  canvas.Create(Columns, Rows, Back);
   for (auto _ : state) canvas.Print(Text, {Columns / 2.0, Rows / 2.0}, PointSize, Pen);
 }
 
@@ -162,7 +162,9 @@ void RegisterPair(const std::string& name, Ours ours, Plain plain, Inputs... inp
 void RegisterAll() {
   for (const int width : {1, 4}) {
     for (const int length : {3, 33, 333}) {
-      RegisterPair("line of " + std::to_string(length) + ", width " + std::to_string(width), OurLines, PlainLines,
+      const std::string name = "line of " + std::to_string(length) + ", width " + std::to_string(width);
+      RegisterPair(name, CanvasLines<ImageCanvas>, PlainLines, static_cast<double>(length), width);
+      RegisterPair(name + ", to former", CanvasLines<ImageCanvas>, CanvasLines<reference::ImageCanvas>,
                    static_cast<double>(length), width);
     }
   }

@@ -25,7 +25,6 @@ BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& jo
     }
   };
   form_.controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
-  form_.Picture1.AddRecorder(trace_);
 }
 
 Script BatchSession::Read(std::string_view utf8) { return ReadSession(utf8, form_); }
@@ -180,7 +179,10 @@ void BatchSession::Do(const action::AnswerDialog& act) {
   }
 }
 
-void BatchSession::Do(const action::Trace& act) { trace_.On = act.On; }
+void BatchSession::Do(const action::Trace& act) {
+  form_.Picture1.RemoveRecorder(trace_);
+  if (act.On) form_.Picture1.AddRecorder(trace_);
+}
 
 void BatchSession::Do(const action::Dump& act) { journal_.Write(DumpOf(form_, act.What)); }
 

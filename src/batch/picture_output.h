@@ -3,8 +3,8 @@
 #include <filesystem>
 
 #include "graphics/surface.h"
-#include "pixels/image_canvas.h"
-#include "pixels/svg_picture.h"
+#include "pictures/image_canvas.h"
+#include "pictures/svg_picture.h"
 
 namespace zerimo::batch {
 

@@ -41,7 +41,7 @@ struct Writer {
 }  // namespace
 
 void SurfaceTrace::Record(const Surface&, const SurfaceOperation& operation) {
-  if (On && journal_.HasTranscript()) journal_.Write(std::visit(Writer{}, operation));
+  if (journal_.HasTranscript()) journal_.Write(std::visit(Writer{}, operation));
 }
 
 }  // namespace zerimo::batch

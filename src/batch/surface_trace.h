@@ -5,12 +5,10 @@
 
 namespace zerimo::batch {
 
-/// Writes each operation of the surface into the journal while it is on.
+/// Writes each operation of the surface that it listens to into the journal.
 class SurfaceTrace final : public SurfaceRecorder {
  public:
   explicit SurfaceTrace(Journal& journal) : journal_(journal) {}
-
-  bool On = false;
 
   void Record(const Surface& surface, const SurfaceOperation& operation) override;
 

@@ -7,7 +7,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/panel_views.h"
-#include "pixels/image_canvas.h"
+#include "pictures/image_canvas.h"
 
 namespace zerimo {
 

@@ -9,7 +9,7 @@
 #include "desktop/events.h"
 #include "desktop/frame_watch.h"
 #include "desktop/main_window.h"
-#include "pixels/image_canvas.h"
+#include "pictures/image_canvas.h"
 
 namespace zerimo {
 

@@ -39,7 +39,7 @@ SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form, ImageCanvas& imageCan
 }
 
 void SurfaceWidget::Sync() {
-  const QRect drawn = canvas.TakeDirty();
+  const QRect drawn = ToQRect(canvas.TakeDirty());
   if (!drawn.isEmpty()) update(drawn);
   const QRegion changed = overlay.TakeChanged();
   if (!changed.isEmpty()) update(changed);

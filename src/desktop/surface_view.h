@@ -4,7 +4,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/overlay.h"
-#include "pixels/image_canvas.h"
+#include "pictures/image_canvas.h"
 
 namespace zerimo {
 

@@ -21,6 +21,8 @@ struct Stroke {
   int Width = 1;
   /// The raster operation, 1 to 16 (13 copies the pen, 6 inverts, 7 is exclusive or).
   int DrawMode = 13;
+
+  bool operator==(const Stroke&) const = default;
 };
 
 /// How the inside of closed shapes is painted.

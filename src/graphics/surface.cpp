@@ -137,7 +137,7 @@ Colour Surface::Point(double x, double y) const {
 
 void Surface::Print(const std::string& text) {
   canvas_.Print(text, ToPixels(currentX_, currentY_), fontSize_, foreColor_);
-  Tell(surface_operation::Print{text});
+  if (!recorders_.empty()) TellRecorders(surface_operation::Print{text});
 }
 
 void Surface::Cls() {
@@ -181,12 +181,12 @@ void Surface::ReadProperties(const PropertyReader& read) const {
   read("ToolTipText", ToolTipText);
 }
 
-void Surface::Tell(const SurfaceOperation& operation) const {
+void Surface::TellRecorders(const SurfaceOperation& operation) const {
   for (SurfaceRecorder* recorder : recorders_) recorder->Record(*this, operation);
 }
 
 void Surface::TellSet(const char* property, PropertyValue value) const {
-  if (!recorders_.empty()) Tell(surface_operation::Set{property, std::move(value)});
+  if (!recorders_.empty()) TellRecorders(surface_operation::Set{property, std::move(value)});
 }
 
 }  // namespace zerimo

@@ -146,7 +146,12 @@ class Surface : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 
  private:
-  void Tell(const SurfaceOperation& operation) const;
+  /// Nothing is made of the operation while no recorder listens.
+  template <typename Operation>
+  void Tell(const Operation& operation) const {
+    if (!recorders_.empty()) TellRecorders(operation);
+  }
+  void TellRecorders(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
   double ScaleDivisor() const { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
   /// How many rows of the canvas the height covers, if only in part.

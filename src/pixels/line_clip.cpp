@@ -23,7 +23,7 @@ struct Ends {
 /// For a line that is not steep: its ends where it enters and leaves the reach sideways.
 std::optional<Ends> CutSideways(Ends line) {
   const double slope = (line.To.Y - line.From.Y) / (line.To.X - line.From.X);
-  // Reckoned from the nearer end, which is the more exact one.
+  // Worked out from the nearer end, which is the more exact one.
   const PixelPoint nearer = Size(line.From) <= Size(line.To) ? line.From : line.To;
   const double offset = nearer.Y - slope * nearer.X;
   for (PixelPoint* end : {&line.From, &line.To}) {
@@ -47,7 +47,11 @@ std::optional<Ends> Cut(Ends line) {
   return steep ? Ends{Swapped(cut->From), Swapped(cut->To)} : *cut;
 }
 
-int Whole(double place) { return static_cast<int>(std::nearbyint(place)); }
+/// Most places are whole already.
+int Whole(double place) {
+  const int cut = static_cast<int>(place);
+  return cut == place ? cut : static_cast<int>(std::nearbyint(place));
+}
 
 }  // namespace
 

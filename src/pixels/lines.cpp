@@ -3,41 +3,43 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
-#include "pixels/pixel_range.h"
+#include "pixels/pixel_rect.h"
 
 namespace zerimo {
 
 namespace {
 
-/// The places across a line's long side, step by step along it: exact, and the half counts as the next pixel.
+/// The places across a line's long side, step by step along it: exact, and a half counts as the next pixel.
 class Steps {
  public:
   Steps(int longSide, int shortSide, int start)
-      : length(longSide), rise(std::abs(shortSide)), direction(shortSide < 0 ? -1 : 1) {
-    const std::int64_t travelled = 2 * static_cast<std::int64_t>(start) * rise + length;
-    offset = static_cast<int>(travelled / (2 * static_cast<std::int64_t>(length)));
-    remainder = travelled % (2 * static_cast<std::int64_t>(length));
+      : length_(longSide), rise_(std::abs(shortSide)), direction_(shortSide < 0 ? -1 : 1), remainder_(longSide) {
+    if (start == 0) return;
+    const std::int64_t travelled = 2 * static_cast<std::int64_t>(start) * rise_ + length_;
+    offset_ = static_cast<int>(travelled / (2 * static_cast<std::int64_t>(length_)));
+    remainder_ = travelled % (2 * static_cast<std::int64_t>(length_));
   }
 
-  int Offset() const { return direction * offset; }
+  int Offset() const { return direction_ * offset_; }
 
   /// One step along the long side; tells whether the place across has changed.
   bool Advance() {
-    remainder += 2 * static_cast<std::int64_t>(rise);
-    if (remainder < 2 * static_cast<std::int64_t>(length)) return false;
-    remainder -= 2 * static_cast<std::int64_t>(length);
-    ++offset;
+    remainder_ += 2 * static_cast<std::int64_t>(rise_);
+    if (remainder_ < 2 * static_cast<std::int64_t>(length_)) return false;
+    remainder_ -= 2 * static_cast<std::int64_t>(length_);
+    ++offset_;
     return true;
   }
 
  private:
-  int length;
-  int rise;
-  int direction;
-  int offset;
-  std::int64_t remainder;
+  int length_;
+  int rise_;
+  int direction_;
+  int offset_ = 0;
+  std::int64_t remainder_;
 };
 
 void PaintLyingLine(SpanPainter& painter, WholeLine line) {
@@ -69,92 +71,80 @@ void PaintSteepLine(SpanPainter& painter, WholeLine line) {
   }
 }
 
-/// A stretch of a row, in fractions of pixels; empty if it ends before it begins.
-struct Stretch {
-  double From = HUGE_VAL;
-  double To = -HUGE_VAL;
-
-  void Unite(double from, double to) {
-    From = std::min(From, from);
-    To = std::max(To, to);
-  }
-  void Intersect(double a, double b) {
-    From = std::max(From, std::min(a, b));
-    To = std::min(To, std::max(a, b));
-  }
-};
-
-/// All points that are not farther than half the width from a line.
-class Capsule {
+/// The two long sides of a line that goes down, and the ends that are square to them.
+class Flanks {
  public:
-  Capsule(const WholeLine& line, int width)
-      : radius(width / 2.0),
-        shift(width % 2 == 0 ? 0.5 : 0),
-        aX(line.X1 - shift),
-        aY(line.Y1 - shift),
-        bX(line.X2 - shift),
-        bY(line.Y2 - shift),
-        dX(bX - aX),
-        dY(bY - aY) {
-    const double square = dX * dX + dY * dY;
-    if (dY != 0) {
-      sideSlope = dX / dY;
-      sideReach = radius * std::sqrt(square) / std::abs(dY);
+  Flanks(const WholeLine& line, int width, int columns)
+      : columns_(columns),
+        aX_(line.X1 - (width % 2 == 0 ? 0.5 : 0)),
+        aY_(line.Y1 - (width % 2 == 0 ? 0.5 : 0)),
+        dX_(line.X2 - line.X1),
+        dY_(line.Y2 - line.Y1) {
+    const double square = dX_ * dX_ + dY_ * dY_;
+    if (dY_ != 0) {
+      sideSlope_ = dX_ / dY_;
+      sideReach_ = width / 2.0 * std::sqrt(square) / dY_;
     }
-    if (dX != 0) {
-      endSlope = -dY / dX;
-      endReach = square / dX;
+    if (dX_ != 0) {
+      endSlope_ = -dY_ / dX_;
+      endReach_ = square / dX_;
     }
   }
 
-  double Top() const { return std::min(aY, bY) - radius; }
-  double Bottom() const { return std::max(aY, bY) + radius; }
-
-  Stretch AtRow(double y) const {
-    Stretch stretch;
-    AddEnd(stretch, aX, y - aY);
-    AddEnd(stretch, bX, y - bY);
-    AddBody(stretch, y - aY);
-    return stretch;
+  /// The columns in a row that neither end touches, cut at the edges of the canvas.
+  ColumnSpan BetweenEnds(int row) const {
+    const double middle = aX_ + (row - aY_) * sideSlope_;
+    return Columns(middle - sideReach_, middle + sideReach_);
   }
+
+  /// The columns in any row between the two ends; what is round at the ends may add to them.
+  ColumnSpan AtRow(int row) const {
+    if (dY_ == 0) return NoColumns;
+    const double y = row - aY_;
+    const double middle = aX_ + y * sideSlope_;
+    double from = middle - sideReach_;
+    double to = middle + sideReach_;
+    if (dX_ != 0) {
+      const double end = aX_ + y * endSlope_;
+      from = std::max(from, std::min(end, end + endReach_));
+      to = std::min(to, std::max(end, end + endReach_));
+    } else if (y < 0 || y > dY_) {
+      return NoColumns;
+    }
+    return from <= to ? Columns(from, to) : NoColumns;
+  }
+
+  static constexpr ColumnSpan NoColumns{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
 
  private:
-  void AddEnd(Stretch& stretch, double centre, double distance) const {
-    const double square = (radius - distance) * (radius + distance);
-    if (square < 0) return;
-    const double half = std::sqrt(square);
-    stretch.Unite(centre - half, centre + half);
+  ColumnSpan Columns(double from, double to) const {
+    return {FirstFrom(from, 0, columns_), LastTo(to, -1, columns_ - 1)};
   }
 
-  /// The rectangle between the round ends; a level one adds nothing to them.
-  void AddBody(Stretch& stretch, double y) const {
-    if (dY == 0) return;
-    const double middle = aX + y * sideSlope;
-    Stretch body{middle - sideReach, middle + sideReach};
-    if (dX != 0) {
-      const double end = aX + y * endSlope;
-      body.Intersect(end, end + endReach);
-    } else if (y * dY < 0 || std::abs(y) > std::abs(dY)) {
-      return;
-    }
-    if (body.From <= body.To) stretch.Unite(body.From, body.To);
-  }
-
-  double radius;
-  double shift;
-  double aX;
-  double aY;
-  double bX;
-  double bY;
-  double dX;
-  double dY;
+  int columns_;
+  double aX_;
+  double aY_;
+  double dX_;
+  double dY_;
   /// Sideways per row along the two long sides, and their distance from the middle in a row.
-  double sideSlope = 0;
-  double sideReach = 0;
+  double sideSlope_ = 0;
+  double sideReach_ = 0;
   /// The same for the two ends.
-  double endSlope = 0;
-  double endReach = 0;
+  double endSlope_ = 0;
+  double endReach_ = 0;
 };
+
+void Unite(ColumnSpan& span, const ColumnSpan& other) {
+  span = {std::min(span.First, other.First), std::max(span.Last, other.Last)};
+}
+
+/// Adds the pen's columns in a row where the pen is put on the point.
+void UniteEnd(ColumnSpan& span, const RoundPen& pen, int x, int y, int row) {
+  const int penRow = row - y + pen.Above();
+  if (static_cast<unsigned>(penRow) >= static_cast<unsigned>(pen.Width())) return;
+  const ColumnSpan end = pen.Row(penRow);
+  Unite(span, {x + end.First, x + end.Last});
+}
 
 }  // namespace
 
@@ -168,16 +158,28 @@ void PaintThinLine(SpanPainter& painter, const WholeLine& line) {
   }
 }
 
-void PaintWideLine(SpanPainter& painter, const WholeLine& line, int width) {
+void PaintWideLine(SpanPainter& painter, WholeLine line, const RoundPen& pen) {
   const bool backward = std::pair(line.Y1, line.X1) > std::pair(line.Y2, line.X2);
-  const Capsule capsule(backward ? WholeLine{line.X2, line.Y2, line.X1, line.Y1} : line, width);
-  const int top = Clamped(std::ceil(capsule.Top()), 0, painter.Rows());
-  const int bottom = Clamped(std::floor(capsule.Bottom()), -1, painter.Rows() - 1);
-  for (int row = top; row <= bottom; ++row) {
-    const Stretch stretch = capsule.AtRow(row);
-    painter.PaintSpan(row, Clamped(std::ceil(stretch.From), 0, painter.Columns()),
-                      Clamped(std::floor(stretch.To), -1, painter.Columns() - 1));
+  if (backward) line = {line.X2, line.Y2, line.X1, line.Y1};
+  const Flanks flanks(line, pen.Width(), painter.Columns());
+  const auto paintEnds = [&](int first, int last) {
+    for (int row = first; row <= last; ++row) {
+      ColumnSpan span = flanks.AtRow(row);
+      UniteEnd(span, pen, line.X1, line.Y1, row);
+      UniteEnd(span, pen, line.X2, line.Y2, row);
+      painter.PaintSpan(row, span.First, span.Last);
+    }
+  };
+  const int top = std::max(line.Y1 - pen.Above(), 0);
+  const int bottom = std::min(line.Y2 - pen.Above() + pen.Width(), painter.Rows()) - 1;
+  const int afterUpperEnd = std::clamp(line.Y1 - pen.Above() + pen.Width(), top, std::max(top, bottom + 1));
+  const int lowerEnd = std::clamp(line.Y2 - pen.Above(), afterUpperEnd, std::max(afterUpperEnd, bottom + 1));
+  paintEnds(top, afterUpperEnd - 1);
+  for (int row = afterUpperEnd; row < lowerEnd; ++row) {
+    const ColumnSpan span = flanks.BetweenEnds(row);
+    painter.PaintSpan(row, span.First, span.Last);
   }
+  paintEnds(lowerEnd, bottom);
 }
 
 }  // namespace zerimo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pixels/line_clip.h"
+#include "pixels/round_pen.h"
 #include "pixels/span_painter.h"
 
 namespace zerimo {
@@ -11,6 +12,6 @@ void PaintThinLine(SpanPainter& painter, const WholeLine& line);
 
 /// A line with round ends, from 2 pixels wide. A pixel belongs to it if its centre is not farther from the line than
 /// half the width; an even width lies by half a pixel to the left and above.
-void PaintWideLine(SpanPainter& painter, const WholeLine& line, int width);
+void PaintWideLine(SpanPainter& painter, WholeLine line, const RoundPen& pen);
 
 }  // namespace zerimo

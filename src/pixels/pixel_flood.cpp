@@ -1,7 +1,6 @@
 #include "pixels/pixel_flood.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <vector>
 
 namespace zerimo {
@@ -21,67 +20,61 @@ constexpr int Block = 64;
 
 /// Whether all pixels of a block have a colour. The ends are looked at first, for the short runs of a maze; the loop
 /// has no branches, so that pixels are compared side by side.
-bool IsAll(const QRgb* block, QRgb colour) {
+bool IsAll(const Pixel* block, Pixel colour) {
   if (block[0] != colour || block[Block - 1] != colour) return false;
-  QRgb difference = 0;
+  Pixel difference = 0;
   for (int n = 0; n < Block; ++n) difference |= block[n] ^ colour;
   return difference == 0;
 }
 
 class Flood {
  public:
-  Flood(QImage& image, QRgb oldColour, QRgb newColour, int floodRows)
-      : bits(reinterpret_cast<QRgb*>(image.bits())),
-        pixelsPerRow(static_cast<std::ptrdiff_t>(image.bytesPerLine()) / 4),
-        columns(image.width()),
-        rows(floodRows),
-        old(oldColour),
-        fill(newColour) {}
+  Flood(PixelBuffer& pixels, Pixel old, Pixel fill, int rows)
+      : pixels_(pixels), columns_(pixels.Columns()), rows_(rows), old_(old), fill_(fill) {}
 
-  QRect From(QPoint at) {
-    top = bottom = at.y();
-    left = right = at.x();
-    Add({at.y(), at.x(), at.x(), 1});
+  PixelRect From(int column, int row) {
+    changed_ = {column, row, column, row};
+    Add({row, column, column, 1});
     FillRuns(Take());
     // The first row was reached from nowhere, so both its sides are open.
-    Add({at.y() - 1, left, right, -1});
-    while (!open.empty()) FillRuns(Take());
-    return {QPoint(left, top), QPoint(right, bottom)};
+    Add({row - 1, changed_.Left, changed_.Right, -1});
+    while (!open_.empty()) FillRuns(Take());
+    return changed_;
   }
 
  private:
   void Add(const Stretch& stretch) {
-    if (stretch.Row >= 0 && stretch.Row < rows && stretch.First <= stretch.Last) open.push_back(stretch);
+    if (stretch.Row >= 0 && stretch.Row < rows_ && stretch.First <= stretch.Last) open_.push_back(stretch);
   }
 
   /// Runs that only a pixel parts, and that lead to one run in the next row, become one stretch.
   void AddAhead(const Stretch& stretch) {
-    if (stretch.Row < 0 || stretch.Row >= rows) return;
-    if (!open.empty() && LeadsToOneRun(open.back(), stretch)) {
-      open.back().Last = stretch.Last;
+    if (stretch.Row < 0 || stretch.Row >= rows_) return;
+    if (!open_.empty() && LeadsToOneRun(open_.back(), stretch)) {
+      open_.back().Last = stretch.Last;
     } else {
-      open.push_back(stretch);
+      open_.push_back(stretch);
     }
   }
 
   bool LeadsToOneRun(const Stretch& before, const Stretch& stretch) const {
     if (before.Row != stretch.Row || before.Direction != stretch.Direction) return false;
     if (before.Last + 2 != stretch.First) return false;
-    const QRgb* gap = bits + stretch.Row * pixelsPerRow + before.Last;
-    return gap[0] == old && gap[1] == old && gap[2] == old;
+    const Pixel* gap = pixels_.Row(stretch.Row) + before.Last;
+    return gap[0] == old_ && gap[1] == old_ && gap[2] == old_;
   }
 
   Stretch Take() {
-    const Stretch stretch = open.back();
-    open.pop_back();
+    const Stretch stretch = open_.back();
+    open_.pop_back();
     return stretch;
   }
 
   /// Fills the runs of the old colour that touch a stretch, and notes where they lead to.
   void FillRuns(const Stretch& stretch) {
-    QRgb* row = bits + stretch.Row * pixelsPerRow;
+    Pixel* row = pixels_.Row(stretch.Row);
     for (int column = stretch.First; column <= stretch.Last; ++column) {
-      if (row[column] != old) continue;
+      if (row[column] != old_) continue;
       const int first = FillLeft(row, column);
       column = FillRight(row, column) - 1;
       Note(stretch, first, column);
@@ -89,58 +82,51 @@ class Flood {
   }
 
   /// Fills the pixels of the old colour before a column; returns the first of them, or the column.
-  int FillLeft(QRgb* row, int column) const {
-    if (column == 0 || row[column - 1] != old) return column;
-    for (; column >= Block && IsAll(row + column - Block, old); column -= Block) {
-      std::fill_n(row + column - Block, Block, fill);
+  int FillLeft(Pixel* row, int column) const {
+    if (column == 0 || row[column - 1] != old_) return column;
+    for (; column >= Block && IsAll(row + column - Block, old_); column -= Block) {
+      std::fill_n(row + column - Block, Block, fill_);
     }
-    for (; column > 0 && row[column - 1] == old; --column) row[column - 1] = fill;
+    for (; column > 0 && row[column - 1] == old_; --column) row[column - 1] = fill_;
     return column;
   }
 
-  /// Fills the pixels of the old colour from a column on; returns the column behind them.
-  int FillRight(QRgb* row, int column) const {
-    if (column + 1 == columns || row[column + 1] != old) {
-      row[column] = fill;
+  /// Fills the pixels of the old colour from a column on; returns the column after them.
+  int FillRight(Pixel* row, int column) const {
+    if (column + 1 == columns_ || row[column + 1] != old_) {
+      row[column] = fill_;
       return column + 1;
     }
-    for (; column + Block <= columns && IsAll(row + column, old); column += Block) {
-      std::fill_n(row + column, Block, fill);
+    for (; column + Block <= columns_ && IsAll(row + column, old_); column += Block) {
+      std::fill_n(row + column, Block, fill_);
     }
-    for (; column < columns && row[column] == old; ++column) row[column] = fill;
+    for (; column < columns_ && row[column] == old_; ++column) row[column] = fill_;
     return column;
   }
 
   void Note(const Stretch& stretch, int first, int last) {
-    top = std::min(top, stretch.Row);
-    bottom = std::max(bottom, stretch.Row);
-    left = std::min(left, first);
-    right = std::max(right, last);
+    changed_ = United(changed_, {first, stretch.Row, last, stretch.Row});
     AddAhead({stretch.Row + stretch.Direction, first, last, stretch.Direction});
     // Where a run reaches beyond the stretch it may lead back around a corner.
     Add({stretch.Row - stretch.Direction, first, stretch.First - 2, -stretch.Direction});
     Add({stretch.Row - stretch.Direction, stretch.Last + 2, last, -stretch.Direction});
   }
 
-  QRgb* bits;
-  std::ptrdiff_t pixelsPerRow;
-  int columns;
-  int rows;
-  QRgb old;
-  QRgb fill;
-  std::vector<Stretch> open;
-  int left = 0;
-  int top = 0;
-  int right = 0;
-  int bottom = 0;
+  PixelBuffer& pixels_;
+  int columns_;
+  int rows_;
+  Pixel old_;
+  Pixel fill_;
+  std::vector<Stretch> open_;
+  PixelRect changed_;
 };
 
 }  // namespace
 
-QRect FloodPixels(QImage& image, QPoint at, QRgb fill, int rows) {
-  const QRgb old = image.pixel(at);
+PixelRect FloodPixels(PixelBuffer& pixels, int column, int row, Pixel fill, int rows) {
+  const Pixel old = pixels.Row(row)[column];
   if (old == fill) return {};
-  return Flood(image, old, fill, rows).From(at);
+  return Flood(pixels, old, fill, rows).From(column, row);
 }
 
 }  // namespace zerimo

@@ -1,13 +1,11 @@
 #include "pixels/raster_operation.h"
 
-#include "pixels/rgb.h"
-
 namespace zerimo {
 
 namespace {
 
-constexpr QRgb ColourBits = 0x00FFFFFF;
-constexpr QRgb Opaque = 0xFF000000;
+constexpr Pixel ColourBits = 0x00FFFFFF;
+constexpr Pixel Opaque = 0xFF000000;
 
 }  // namespace
 
@@ -17,10 +15,10 @@ RasterOperation MakeRasterOperation(int drawMode, Colour pen) {
   const auto resultWhere = [table](unsigned penBit, unsigned pixelBit) {
     return (table >> (2 * penBit + pixelBit) & 1U) != 0 ? ColourBits : 0U;
   };
-  const QRgb set = ToRgb(pen) & ColourBits;
-  const QRgb clear = ~set & ColourBits;
-  const QRgb overClear = (set & resultWhere(1, 0)) | (clear & resultWhere(0, 0));
-  const QRgb overSet = (set & resultWhere(1, 1)) | (clear & resultWhere(0, 1));
+  const Pixel set = ToRgb(pen) & ColourBits;
+  const Pixel clear = ~set & ColourBits;
+  const Pixel overClear = (set & resultWhere(1, 0)) | (clear & resultWhere(0, 0));
+  const Pixel overSet = (set & resultWhere(1, 1)) | (clear & resultWhere(0, 1));
   return {overClear ^ overSet, overClear | Opaque};
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
-#include <QRgb>
-
-#include "controls/control_kinds.h"
+#include "pixels/rgb.h"
 
 namespace zerimo {
 
 /// A raster operation together with the pen's colour. Whatever the operation, a pixel becomes (pixel and Keep) xor
 /// Toggle, and stays opaque.
 struct RasterOperation {
-  QRgb Keep;
-  QRgb Toggle;
+  Pixel Keep;
+  Pixel Toggle;
 
-  QRgb Apply(QRgb pixel) const { return (pixel & Keep) ^ Toggle; }
+  Pixel Apply(Pixel pixel) const { return (pixel & Keep) ^ Toggle; }
   /// Whether what is below makes no difference: every pixel becomes Toggle.
   bool IsPlain() const { return Keep == 0; }
 };

@@ -1,42 +1,39 @@
 #pragma once
 
-#include <QImage>
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstring>
 
 #include "pixels/hatch.h"
+#include "pixels/pixel_buffer.h"
 #include "pixels/raster_operation.h"
 
 namespace zerimo {
 
-/// Paints runs of pixels of one image (Format_RGB32) by a raster operation, through a hatch pattern. What lies outside
-/// the image is passed over. A shape gives each of its pixels once, so that inverting operations come out right.
+/// Paints runs of pixels of one buffer by a raster operation, through a hatch pattern. What lies outside the buffer is
+/// skipped. A shape gives each of its pixels once, so that inverting operations come out right.
 class SpanPainter {
  public:
-  SpanPainter(QImage& image, RasterOperation rasterOperation, const HatchPattern& hatchPattern = HatchPatterns[0])
-      : bits(reinterpret_cast<QRgb*>(image.bits())),
-        pixelsPerRow(static_cast<std::ptrdiff_t>(image.bytesPerLine()) / 4),
-        columns(image.width()),
-        rows(image.height()),
-        operation(rasterOperation),
-        hatch(hatchPattern) {}
+  SpanPainter(PixelBuffer& pixels, RasterOperation operation, const HatchPattern& hatch = HatchPatterns[0])
+      : bits_(pixels.Row(0)), columns_(pixels.Columns()), rows_(pixels.Rows()), operation_(operation), hatch_(hatch) {}
 
-  int Columns() const { return columns; }
-  int Rows() const { return rows; }
+  int Columns() const { return columns_; }
+  int Rows() const { return rows_; }
 
-  /// One pixel inside the image; the hatch does not count.
+  /// One pixel inside the buffer; the hatch does not count.
   void PaintPixel(int column, int row) {
-    QRgb& pixel = Row(row)[column];
-    pixel = operation.Apply(pixel);
+    Pixel& pixel = Row(row)[column];
+    pixel = operation_.Apply(pixel);
   }
 
-  /// The pixels of a row from the first column to the last one, both included.
+  /// The pixels of a row of the buffer from the first column to the last one, both included.
   void PaintSpan(int row, int first, int last) {
-    if (row < 0 || row >= rows) return;
+    if (static_cast<unsigned>(row) >= static_cast<unsigned>(rows_)) return;
     first = std::max(first, 0);
-    last = std::min(last, columns - 1);
+    last = std::min(last, columns_ - 1);
     if (first > last) return;
-    const unsigned mask = hatch[static_cast<std::size_t>(row % 8)];
+    const unsigned mask = hatch_[static_cast<std::size_t>(row % 8)];
     if (mask == 0xFF) {
       PaintRun(Row(row) + first, last - first + 1);
     } else if (mask != 0) {
@@ -45,31 +42,45 @@ class SpanPainter {
   }
 
  private:
-  QRgb* Row(int row) const { return bits + row * pixelsPerRow; }
+  /// Pixels that a plain operation writes at once.
+  static constexpr int Block = 4;
 
-  void PaintRun(QRgb* pixel, int count) {
-    if (operation.IsPlain()) {
-      std::fill_n(pixel, count, operation.Toggle);
+  Pixel* Row(int row) const { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
+
+  void PaintRun(Pixel* pixel, int count) {
+    if (!operation_.IsPlain()) {
+      std::for_each(pixel, pixel + count, [this](Pixel& each) { each = operation_.Apply(each); });
+    } else if (count < Block || count > LongestShort) {
+      std::fill_n(pixel, count, operation_.Toggle);
     } else {
-      std::for_each(pixel, pixel + count, [this](QRgb& each) { each = operation.Apply(each); });
+      PaintShort(pixel, count);
     }
   }
 
-  void PaintHatched(QRgb* row, int first, int last, unsigned mask) {
+  /// The usual run of a pen, a few pixels long: block by block, the last block over the one before it.
+  void PaintShort(Pixel* pixel, int count) {
+    std::array<Pixel, Block> block;
+    block.fill(operation_.Toggle);
+    for (int done = 0; done + Block <= count; done += Block) std::memcpy(pixel + done, block.data(), sizeof block);
+    std::memcpy(pixel + count - Block, block.data(), sizeof block);
+  }
+
+  void PaintHatched(Pixel* row, int first, int last, unsigned mask) {
     for (int phase = 0; phase < 8; ++phase) {
       if ((mask >> phase & 1U) == 0) continue;
       for (int column = first + ((phase - first) & 7); column <= last; column += 8) {
-        row[column] = operation.Apply(row[column]);
+        row[column] = operation_.Apply(row[column]);
       }
     }
   }
 
-  QRgb* bits;
-  std::ptrdiff_t pixelsPerRow;
-  int columns;
-  int rows;
-  RasterOperation operation;
-  const HatchPattern& hatch;
+  static constexpr int LongestShort = 32;
+
+  Pixel* bits_;
+  int columns_;
+  int rows_;
+  RasterOperation operation_;
+  const HatchPattern& hatch_;
 };
 
 }  // namespace zerimo

@@ -11,10 +11,7 @@ namespace {
 
 class SurfaceTraceTest : public testing::Test {
  protected:
-  SurfaceTraceTest() {
-    surface.AddRecorder(trace);
-    trace.On = true;
-  }
+  SurfaceTraceTest() { surface.AddRecorder(trace); }
 
   std::string Event(const std::string& rest) { return "{\"event\":\"surface\",\"op\":" + rest + "}\n"; }
 
@@ -109,8 +106,8 @@ TEST_F(SurfaceTraceTest, RefusedWriteIsNone) {
   EXPECT_EQ(transcript.str(), "");
 }
 
-TEST_F(SurfaceTraceTest, NothingIsWrittenWhileItIsOff) {
-  trace.On = false;
+TEST_F(SurfaceTraceTest, NothingIsWrittenOnceItNoLongerListens) {
+  surface.RemoveRecorder(trace);
   surface.Cls();
   EXPECT_EQ(transcript.str(), "");
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "pixels/image_canvas.h"
+#include "pictures/image_canvas.h"
 
 namespace zerimo {
 
@@ -31,8 +31,8 @@ class CanvasTest : public ::testing::Test {
   /// How many pixels have the colour.
   int Count(Colour colour) const {
     int count = 0;
-    for (int y = 0; y < canvas.Image().height(); ++y) {
-      for (int x = 0; x < canvas.Image().width(); ++x) count += At(x, y) == colour ? 1 : 0;
+    for (int y = 0; y < canvas.Pixels().Rows(); ++y) {
+      for (int x = 0; x < canvas.Pixels().Columns(); ++x) count += At(x, y) == colour ? 1 : 0;
     }
     return count;
   }
@@ -40,8 +40,8 @@ class CanvasTest : public ::testing::Test {
   /// The rectangle around the pixels that have not the colour of the ground.
   QRect Drawn() const {
     QRect drawn;
-    for (int y = 0; y < canvas.Image().height(); ++y) {
-      for (int x = 0; x < canvas.Image().width(); ++x) {
+    for (int y = 0; y < canvas.Pixels().Rows(); ++y) {
+      for (int x = 0; x < canvas.Pixels().Columns(); ++x) {
         if (At(x, y) != Ground) drawn |= QRect(x, y, 1, 1);
       }
     }

@@ -12,25 +12,25 @@ namespace {
 
 using ChangedArea = CanvasTest;
 
-TEST_F(ChangedArea, IsTheWholeCanvasAtTheStart) { EXPECT_EQ(canvas.TakeDirty(), QRect(0, 0, 96, 96)); }
+TEST_F(ChangedArea, IsTheWholeCanvasAtTheStart) { EXPECT_EQ(ToQRect(canvas.TakeDirty()), QRect(0, 0, 96, 96)); }
 
 TEST_F(ChangedArea, IsEmptyOnceTaken) {
   canvas.TakeDirty();
-  EXPECT_TRUE(canvas.TakeDirty().isEmpty());
+  EXPECT_TRUE(ToQRect(canvas.TakeDirty()).isEmpty());
 }
 
 TEST_F(ChangedArea, GrowsWithEachOperation) {
   canvas.TakeDirty();
   canvas.Point(Pen(White), {10, 10});
   canvas.Point(Pen(White), {30, 20});
-  EXPECT_EQ(canvas.LastChange(), QRect(30, 20, 1, 1));
-  EXPECT_EQ(canvas.TakeDirty(), QRect(QPoint(10, 10), QPoint(30, 20)));
+  EXPECT_EQ(ToQRect(canvas.LastChange()), QRect(30, 20, 1, 1));
+  EXPECT_EQ(ToQRect(canvas.TakeDirty()), QRect(QPoint(10, 10), QPoint(30, 20)));
 }
 
 TEST_F(ChangedArea, StaysInsideTheCanvas) {
   canvas.TakeDirty();
   canvas.Line(Pen(White, 9), {-1e9, 40}, {1e9, 60});
-  EXPECT_TRUE(QRect(0, 0, 96, 96).contains(canvas.TakeDirty()));
+  EXPECT_TRUE(QRect(0, 0, 96, 96).contains(ToQRect(canvas.TakeDirty())));
 }
 
 TEST_F(ChangedArea, IsEmptyWhereNothingIsSeen) {
@@ -40,7 +40,7 @@ TEST_F(ChangedArea, IsEmptyWhereNothingIsSeen) {
   canvas.Ellipse(Pen(White), {Red, Solid}, {300, 300}, 20, 20);
   canvas.Print("Text", {300, 10}, 12, White);
   canvas.FloodFill({300, 10}, Red, Rows);
-  EXPECT_TRUE(canvas.TakeDirty().isEmpty());
+  EXPECT_TRUE(ToQRect(canvas.TakeDirty()).isEmpty());
 }
 
 struct Operation {
@@ -57,8 +57,8 @@ TEST_P(ChangedAreaOf, HoldsAllThatChanged) {
   GetParam().Draw(canvas);
   const QRect drawn = Drawn();
   EXPECT_FALSE(drawn.isEmpty());
-  EXPECT_TRUE(canvas.LastChange().contains(drawn));
-  EXPECT_TRUE(canvas.TakeDirty().contains(drawn));
+  EXPECT_TRUE(ToQRect(canvas.LastChange()).contains(drawn));
+  EXPECT_TRUE(ToQRect(canvas.TakeDirty()).contains(drawn));
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, ChangedAreaOf,

@@ -1,4 +1,4 @@
-#include "pixels/svg_picture.h"
+#include "pictures/svg_picture.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "canvas_fixture.h"
+#include "pictures/text_painter.h"
 
 namespace zerimo {
 

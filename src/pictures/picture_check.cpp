@@ -1,4 +1,4 @@
-#include "pixels/picture_check.h"
+#include "pictures/picture_check.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -10,17 +10,17 @@ namespace {
 /// Walks through bytes. Past the end everything reads as zero, and the walk is no longer inside.
 class ByteWalk {
  public:
-  explicit ByteWalk(const QByteArray& content) : bytes(content) {}
+  explicit ByteWalk(const QByteArray& content) : bytes_(content) {}
 
-  bool IsInside() const { return position <= bytes.size(); }
-  bool IsAtEnd() const { return position >= bytes.size(); }
-  void Skip(std::int64_t count) { position += count; }
-  void GoTo(std::int64_t place) { position = place; }
-  std::int64_t Size() const { return bytes.size(); }
+  bool IsInside() const { return position_ <= bytes_.size(); }
+  bool IsAtEnd() const { return position_ >= bytes_.size(); }
+  void Skip(std::int64_t count) { position_ += count; }
+  void GoTo(std::int64_t place) { position_ = place; }
+  std::int64_t Size() const { return bytes_.size(); }
 
   unsigned Byte() {
-    const unsigned value = position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0U;
-    ++position;
+    const unsigned value = position_ < bytes_.size() ? static_cast<unsigned char>(bytes_[position_]) : 0U;
+    ++position_;
     return value;
   }
   unsigned BigEndian16() {
@@ -41,8 +41,8 @@ class ByteWalk {
   }
 
  private:
-  const QByteArray& bytes;
-  qsizetype position = 0;
+  const QByteArray& bytes_;
+  qsizetype position_ = 0;
 };
 
 struct BitmapHeader {
@@ -79,7 +79,7 @@ bool IsWholeBitmap(const ByteWalk& walk) {
   return header.PixelsAt + rowBytes * (std::abs(header.Height) - 1) + (rowBits + 7) / 8 <= walk.Size();
 }
 
-/// Passes over the entropy-coded data behind a scan's header, to the marker that ends it.
+/// Skips the entropy-coded data after a scan's header, up to the marker that ends it.
 void SkipScan(ByteWalk& walk) {
   while (!walk.IsAtEnd()) {
     if (walk.Byte() != 0xFF) continue;

@@ -1,4 +1,4 @@
-#include "pixels/svg_picture.h"
+#include "pictures/svg_picture.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "pixels/picture_file.h"
+#include "pictures/picture_file.h"
 #include "pixels/raster_operation.h"
 #include "pixels/rgb.h"
 
@@ -14,7 +14,7 @@ namespace zerimo {
 
 namespace {
 
-/// Boxes and ellipses that reach farther out are kept as pixels, since many viewers reckon in singles.
+/// Boxes and ellipses that reach farther out are kept as pixels, since many viewers work in singles.
 constexpr double FarthestPlace = 1 << 20;
 constexpr int WidestPen = 1 << 16;
 
@@ -46,9 +46,9 @@ struct SvgRecorder::Keeper {
   void operator()(const surface_operation::Cls&) const { Recorder.Restart(); }
   void operator()(const surface_operation::Picture&) const {
     Recorder.Restart();
-    Recorder.KeepPixels(Recorder.canvas.LastChange());
+    Recorder.KeepPixels(Recorder.canvas_.LastChange());
   }
-  void operator()(const surface_operation::FloodFill&) const { Recorder.KeepPixels(Recorder.canvas.LastChange()); }
+  void operator()(const surface_operation::FloodFill&) const { Recorder.KeepPixels(Recorder.canvas_.LastChange()); }
   void operator()(const surface_operation::Line& line) const {
     KeepLine(From.PenStroke(), From.ToPixels(line.X1, line.Y1), From.ToPixels(line.X2, line.Y2));
   }
@@ -65,7 +65,7 @@ struct SvgRecorder::Keeper {
     const PixelPoint from{std::min(a.X, b.X), std::min(a.Y, b.Y)};
     const PixelPoint to{std::max(a.X, b.X), std::max(a.Y, b.Y)};
     const std::optional<SvgPen> pen = PenOf(From.PenStroke());
-    if (!pen || !IsNear(from) || !IsNear(to)) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    if (!pen || !IsNear(from) || !IsNear(to)) return Recorder.KeepPixels(Recorder.canvas_.LastChange());
     Recorder.KeepShape(svg_shape::Box{*pen, InsideOf(From), from, to});
   }
   void operator()(const surface_operation::Circle& circle) const {
@@ -73,12 +73,12 @@ struct SvgRecorder::Keeper {
     const Surface::Axes axes = From.HalfAxes(circle);
     const PixelPoint half{WholeHalfAxis(axes.Across), WholeHalfAxis(axes.Down)};
     const std::optional<SvgPen> pen = PenOf(From.PenStroke());
-    if (!pen || !IsNear(centre) || !IsNear(half)) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    if (!pen || !IsNear(centre) || !IsNear(half)) return Recorder.KeepPixels(Recorder.canvas_.LastChange());
     Recorder.KeepShape(svg_shape::Ellipse{*pen, InsideOf(From), centre, half.X, half.Y});
   }
   void operator()(const surface_operation::Print& print) const {
     const PixelPoint at = From.ToPixels(From.CurrentX(), From.CurrentY());
-    if (!Recorder.canvas.LastChange().isEmpty()) {
+    if (!Recorder.canvas_.LastChange().IsEmpty()) {
       Recorder.KeepShape(svg_shape::Text{print.Text, at, From.FontSize(), ToRgb(From.ForeColor())});
     }
   }
@@ -86,7 +86,7 @@ struct SvgRecorder::Keeper {
  private:
   void KeepLine(const Stroke& stroke, PixelPoint from, PixelPoint to) const {
     const std::optional<SvgPen> pen = PenOf(stroke);
-    if (!pen) return Recorder.KeepPixels(Recorder.canvas.LastChange());
+    if (!pen) return Recorder.KeepPixels(Recorder.canvas_.LastChange());
     if (const auto ends = ClipLine(from, to)) Recorder.KeepShape(svg_shape::Line{*pen, *ends});
   }
 };
@@ -96,31 +96,31 @@ void SvgRecorder::Record(const Surface& surface, const SurfaceOperation& operati
 }
 
 QByteArray SvgRecorder::Picture(int width, int height, Colour background) const {
-  return SvgDocument(shapes, {width, height}, ToRgb(background));
+  return SvgDocument(shapes_, {width, height}, ToRgb(background));
 }
 
 void SvgRecorder::Restart() {
-  shapes.clear();
-  patchBytes = 0;
+  shapes_.clear();
+  patchBytes_ = 0;
 }
 
 void SvgRecorder::KeepShape(SvgShape shape) {
-  shapes.push_back(std::move(shape));
-  if (shapes.size() <= MostShapes) return;
+  shapes_.push_back(std::move(shape));
+  if (shapes_.size() <= MostShapes) return;
   Restart();
-  KeepPixels(canvas.Image().rect());
+  KeepPixels(canvas_.Pixels().Bounds());
 }
 
-void SvgRecorder::KeepPixels(const QRect& area) {
-  if (area.isEmpty()) return;
-  QImage pixels = canvas.Image().copy(area);
-  patchBytes += pixels.sizeInBytes();
-  const bool isMany = patchBytes > MostCanvases * canvas.Image().sizeInBytes();
+void SvgRecorder::KeepPixels(const PixelRect& area) {
+  if (area.IsEmpty()) return;
+  QImage pixels = canvas_.Image().copy(ToQRect(area));
+  patchBytes_ += pixels.sizeInBytes();
+  const bool isMany = patchBytes_ > MostCanvases * canvas_.Image().sizeInBytes();
   if (isMany) {
     Restart();
-    return KeepPixels(canvas.Image().rect());
+    return KeepPixels(canvas_.Pixels().Bounds());
   }
-  KeepShape(svg_shape::Patch{std::move(pixels), area.topLeft()});
+  KeepShape(svg_shape::Patch{std::move(pixels), ToQRect(area).topLeft()});
 }
 
 void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,

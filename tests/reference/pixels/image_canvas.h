@@ -5,12 +5,10 @@
 #include <optional>
 
 #include "graphics/canvas.h"
-#include "pixels/text_painter.h"
 
-namespace zerimo {
+namespace zerimo::reference {
 
-/// A canvas whose pixels are an image (Format_RGB32). Nothing is smoothed, and a closed shape gives each of its pixels
-/// once. Printing text needs a QGuiApplication.
+/// The plain canvas: every operation is worked out anew, pixel row by pixel row. It has no text and no picture files.
 class ImageCanvas : public Canvas {
  public:
   /// At least one pixel. Fails (invalid argument) if there can be no image of that size.
@@ -23,9 +21,9 @@ class ImageCanvas : public Canvas {
   void Point(const Stroke& stroke, PixelPoint at) override;
   std::optional<Colour> ColourAt(PixelPoint at) const override;
   void FloodFill(PixelPoint at, Colour fill, int rows) override;
-  void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) override;
-  void LoadPicture(const std::filesystem::path& file, Colour background) override;
-  void SavePicture(const std::filesystem::path& file, int width, int height) const override;
+  void Print(std::string_view, PixelPoint, double, Colour) override {}
+  void LoadPicture(const std::filesystem::path&, Colour) override {}
+  void SavePicture(const std::filesystem::path&, int, int) const override {}
 
   const QImage& Image() const { return image; }
 
@@ -38,16 +36,10 @@ class ImageCanvas : public Canvas {
  private:
   bool Covers(PixelPoint at) const;
   void Changed(const QRect& area);
-  const TextFont& FontOf(double pointSize);
 
   QImage image;
   QRect dirty;
   QRect lastChange;
-  std::optional<TextFont> lastFont;
 };
 
-/// The half-axis of an ellipse in whole pixels: it covers the columns or rows from its centre less that to its centre
-/// and that. A half counts as a pixel.
-double WholeHalfAxis(double halfAxis);
-
-}  // namespace zerimo
+}  // namespace zerimo::reference

@@ -1,20 +1,18 @@
-#include "pixels/image_canvas.h"
+#include "reference/pixels/image_canvas.h"
 
-#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
 
 #include "base/failure.h"
-#include "pixels/ellipse_spans.h"
-#include "pixels/lines.h"
-#include "pixels/picture_file.h"
-#include "pixels/pixel_flood.h"
-#include "pixels/pixel_range.h"
 #include "pixels/rgb.h"
+#include "reference/pixels/ellipse_spans.h"
+#include "reference/pixels/lines.h"
+#include "reference/pixels/pixel_flood.h"
+#include "reference/pixels/pixel_range.h"
 
-namespace zerimo {
+namespace zerimo::reference {
 
 namespace {
 
@@ -60,12 +58,12 @@ void PaintRow(SpanPainter& outline, SpanPainter& inside, int row, const ShapeRow
   outline.PaintSpan(row, shape.InsideLast + 1, shape.Last);
 }
 
-}  // namespace
-
 double WholeHalfAxis(double halfAxis) { return std::floor(std::abs(halfAxis) + 0.5); }
 
+}  // namespace
+
 void ImageCanvas::Create(int width, int height, Colour background) {
-  image = MakeTextImage(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
+  image = QImage(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
   if (image.isNull()) throw Failure(FailureKind::InvalidArgument);
   Clear(background);
 }
@@ -144,21 +142,6 @@ void ImageCanvas::FloodFill(PixelPoint at, Colour fill, int rows) {
   Changed(FloodPixels(image, {static_cast<int>(at.X), static_cast<int>(at.Y)}, ToRgb(fill), floodRows));
 }
 
-void ImageCanvas::Print(std::string_view text, PixelPoint at, double pointSize, Colour color) {
-  Changed(PaintText(image, FontOf(pointSize), text, at, ToRgb(color)));
-}
-
-void ImageCanvas::LoadPicture(const std::filesystem::path& file, Colour background) {
-  const QImage picture = ReadPictureFile(file, image.size());
-  Clear(background);
-  QPainter(&image).drawImage(QPoint(0, 0), picture);
-}
-
-void ImageCanvas::SavePicture(const std::filesystem::path& file, int width, int height) const {
-  const QRect part = QRect(0, 0, std::max(width, 1), std::max(height, 1)) & image.rect();
-  WritePictureFile(part == image.rect() ? image : image.copy(part), file);
-}
-
 QRect ImageCanvas::TakeDirty() { return std::exchange(dirty, {}); }
 
 void ImageCanvas::Changed(const QRect& area) {
@@ -166,9 +149,4 @@ void ImageCanvas::Changed(const QRect& area) {
   dirty |= lastChange;
 }
 
-const TextFont& ImageCanvas::FontOf(double pointSize) {
-  if (!lastFont || lastFont->PointSize() != pointSize) lastFont.emplace(pointSize);
-  return *lastFont;
-}
-
-}  // namespace zerimo
+}  // namespace zerimo::reference

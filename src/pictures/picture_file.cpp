@@ -1,9 +1,10 @@
-#include "pixels/picture_file.h"
+#include "pictures/picture_file.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
 #include <QSaveFile>
 #include <algorithm>
 #include <array>
@@ -13,7 +14,8 @@
 #include <system_error>
 
 #include "base/failure.h"
-#include "pixels/picture_check.h"
+#include "pictures/picture_check.h"
+#include "pictures/pixel_image.h"
 
 namespace zerimo {
 
@@ -53,9 +55,8 @@ QByteArray ReadContent(const std::filesystem::path& file) {
   return source.readAll();
 }
 
-}  // namespace
-
-QImage ReadPictureFile(const std::filesystem::path& file, QSize largest) {
+/// At most that large, transparent parts as they are.
+QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
   QByteArray content = ReadContent(file);
   QBuffer device(&content);
   device.open(QIODevice::ReadOnly);
@@ -73,7 +74,17 @@ QImage ReadPictureFile(const std::filesystem::path& file, QSize largest) {
   return picture;
 }
 
-void WritePictureFile(const QImage& image, const std::filesystem::path& file) {
+}  // namespace
+
+PixelBuffer QtPictureFiles::Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) {
+  const QImage picture = ReadPicture(file, QSize(mostColumns, mostRows));
+  PixelBuffer pixels(picture.width(), picture.height(), background);
+  QImage image = ImageOver(pixels);
+  QPainter(&image).drawImage(QPoint(0, 0), picture);
+  return pixels;
+}
+
+void QtPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, const std::filesystem::path& file) {
   const std::string ending = EndingOf(file);
   const auto* format = std::find_if(WritableFormats.begin(), WritableFormats.end(),
                                     [&ending](const WritableFormat& each) { return each.Ending == ending; });
@@ -82,7 +93,9 @@ void WritePictureFile(const QImage& image, const std::filesystem::path& file) {
   QBuffer device(&content);
   QImageWriter writer(&device, format->Format);
   if (ending == ".jpg" || ending == ".jpeg") writer.setQuality(JpegQuality);
-  Require(writer.write(image), FailureKind::FileAccess);
+  const QImage image = ImageOver(pixels);
+  const QRect part = QRect(0, 0, columns, rows) & image.rect();
+  Require(writer.write(part == image.rect() ? image : image.copy(part)), FailureKind::FileAccess);
   WriteWholeFile(content, file);
 }
 

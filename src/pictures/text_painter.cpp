@@ -1,4 +1,4 @@
-#include "pixels/text_painter.h"
+#include "pictures/text_painter.h"
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
@@ -7,14 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "pixels/pixel_range.h"
+#include "pictures/pixel_image.h"
 
 namespace zerimo {
 
 namespace {
-
-/// 96 dots to the inch.
-constexpr int DotsPerMetre = 3780;
 
 QFont MakeFont(double pointSize) {
   QFont font(QStringList{"Arial", "Liberation Sans"});
@@ -45,23 +42,23 @@ VisibleText CutSideways(const TextFont& font, std::string_view text, double x, i
 
 }  // namespace
 
-TextFont::TextFont(double pointSize) : points(pointSize) {
+TextFont::TextFont(double pointSize) : points_(pointSize) {
   QImage device = MakeTextImage(1, 1, QImage::Format_RGB32);
-  font = QFont(MakeFont(pointSize), &device);
-  const QFontMetricsF metrics(font, &device);
-  ascent = static_cast<int>(std::lround(metrics.ascent()));
-  height = static_cast<int>(std::ceil(metrics.height()));
-  rawFont = QRawFont::fromFont(font);
+  font_ = QFont(MakeFont(pointSize), &device);
+  const QFontMetricsF metrics(font_, &device);
+  ascent_ = static_cast<int>(std::lround(metrics.ascent()));
+  height_ = static_cast<int>(std::ceil(metrics.height()));
+  rawFont_ = QRawFont::fromFont(font_);
   std::string printable;
   for (int code = 0; code < 256; ++code) {
     if (IsPrintable(static_cast<char>(code))) printable += static_cast<char>(code);
   }
-  const QVector<quint32> indexes = rawFont.glyphIndexesForString(PrintableText(printable));
-  const QVector<QPointF> steps = rawFont.advancesForGlyphIndexes(indexes);
+  const QVector<quint32> indexes = rawFont_.glyphIndexesForString(PrintableText(printable));
+  const QVector<QPointF> steps = rawFont_.advancesForGlyphIndexes(indexes);
   for (qsizetype n = 0; n < indexes.size(); ++n) {
     const auto code = static_cast<unsigned char>(printable[static_cast<std::size_t>(n)]);
-    glyphs[code] = indexes[n];
-    advances[code] = steps[n].x();
+    glyphs_[code] = indexes[n];
+    advances_[code] = steps[n].x();
   }
 }
 
@@ -79,12 +76,12 @@ QGlyphRun TextFont::GlyphsOf(std::string_view text) const {
   double x = 0;
   for (const char character : text) {
     if (!IsPrintable(character)) continue;
-    indexes.append(glyphs[static_cast<unsigned char>(character)]);
+    indexes.append(glyphs_[static_cast<unsigned char>(character)]);
     places.append(QPointF(x, 0));
     x += WidthOf(character);
   }
   QGlyphRun run;
-  run.setRawFont(rawFont);
+  run.setRawFont(rawFont_);
   run.setGlyphIndexes(indexes);
   run.setPositions(places);
   return run;
@@ -104,28 +101,28 @@ QString PrintableText(std::string_view text) {
   return printable;
 }
 
-QImage MakeTextImage(int width, int height, QImage::Format format) {
-  QImage image(width, height, format);
-  image.setDotsPerMeterX(DotsPerMetre);
-  image.setDotsPerMeterY(DotsPerMetre);
-  return image;
-}
-
-QRect PaintText(QImage& image, const TextFont& font, std::string_view text, PixelPoint at, QRgb colour) {
+PixelRect TextPainter::Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) {
+  const TextFont& font = FontOf(pointSize);
   // Letters may stick out of their line by as much as its height, but not more.
-  if (at.Y > image.height() + font.Height() || at.Y < -2.0 * font.Height() || at.X > image.width() + font.Height()) {
+  if (at.Y > pixels.Rows() + font.Height() || at.Y < -2.0 * font.Height() || at.X > pixels.Columns() + font.Height()) {
     return {};
   }
-  const VisibleText visible = CutSideways(font, text, at.X, image.width());
+  const VisibleText visible = CutSideways(font, text, at.X, pixels.Columns());
   const QGlyphRun glyphs = font.GlyphsOf(visible.Text);
   if (glyphs.isEmpty()) return {};
+  QImage image = ImageOver(pixels);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::TextAntialiasing, false);
-  painter.setPen(QColor::fromRgb(colour));
+  painter.setPen(QColor::fromRgb(color));
   painter.drawGlyphRun(QPointF(visible.X, at.Y + font.Ascent()), glyphs);
   const double end = visible.X + font.WidthOf(visible.Text);
   return OnCanvas(visible.X - font.Height(), at.Y - font.Height(), end + font.Height(), at.Y + 2 * font.Height(),
-                  image.size());
+                  pixels.Columns(), pixels.Rows());
+}
+
+const TextFont& TextPainter::FontOf(double pointSize) {
+  if (!lastFont_ || lastFont_->PointSize() != pointSize) lastFont_.emplace(pointSize);
+  return *lastFont_;
 }
 
 }  // namespace zerimo

@@ -2,14 +2,13 @@
 
 #include <QFont>
 #include <QGlyphRun>
-#include <QImage>
 #include <QRawFont>
-#include <QRect>
 #include <QString>
 #include <array>
+#include <optional>
 #include <string_view>
 
-#include "graphics/canvas.h"
+#include "pixels/text_drawer.h"
 
 namespace zerimo {
 
@@ -19,27 +18,27 @@ class TextFont {
  public:
   explicit TextFont(double pointSize);
 
-  double PointSize() const { return points; }
-  const QFont& Font() const { return font; }
+  double PointSize() const { return points_; }
+  const QFont& Font() const { return font_; }
   /// Pixels from the top of a line of text to its base line.
-  int Ascent() const { return ascent; }
+  int Ascent() const { return ascent_; }
   /// Pixels from the top of a line of text to its bottom.
-  int Height() const { return height; }
+  int Height() const { return height_; }
   /// Pixels that the printable characters of a text take.
   double WidthOf(std::string_view text) const;
   /// The printable characters of a text, side by side: no ligatures and no kerning, one glyph for a character.
   QGlyphRun GlyphsOf(std::string_view text) const;
-  double WidthOf(char character) const { return advances[static_cast<unsigned char>(character)]; }
+  double WidthOf(char character) const { return advances_[static_cast<unsigned char>(character)]; }
 
  private:
-  double points;
-  QFont font;
-  QRawFont rawFont;
-  int ascent;
-  int height;
+  double points_;
+  QFont font_;
+  QRawFont rawFont_;
+  int ascent_;
+  int height_;
   /// By the character's code.
-  std::array<quint32, 256> glyphs{};
-  std::array<double, 256> advances{};
+  std::array<quint32, 256> glyphs_{};
+  std::array<double, 256> advances_{};
 };
 
 /// Control characters print nothing and take no room.
@@ -48,11 +47,15 @@ bool IsPrintable(char character);
 /// The printable characters of a text.
 QString PrintableText(std::string_view text);
 
-/// An image of that size with the resolution that text is measured by.
-QImage MakeTextImage(int width, int height, QImage::Format format);
+/// Text by Qt. Needs a QGuiApplication.
+class TextPainter : public TextDrawer {
+ public:
+  PixelRect Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) override;
 
-/// Prints a line of text, not smoothed, with its top left corner at a point, and returns the rectangle of the image
-/// that may have changed.
-QRect PaintText(QImage& image, const TextFont& font, std::string_view text, PixelPoint at, QRgb colour);
+ private:
+  const TextFont& FontOf(double pointSize);
+
+  std::optional<TextFont> lastFont_;
+};
 
 }  // namespace zerimo

@@ -3,7 +3,7 @@
 #include <QRect>
 #include <algorithm>
 
-namespace zerimo {
+namespace zerimo::reference {
 
 /// A column or row that may lie anywhere, as a whole number between two limits. Not-a-number gives the lower limit.
 inline int Clamped(double place, int least, int greatest) {
@@ -20,4 +20,4 @@ inline QRect OnCanvas(double left, double top, double right, double bottom, QSiz
   return {QPoint(firstColumn, firstRow), QPoint(lastColumn, lastRow)};
 }
 
-}  // namespace zerimo
+}  // namespace zerimo::reference

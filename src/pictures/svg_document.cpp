@@ -4,9 +4,9 @@
 #include <cmath>
 #include <map>
 
-#include "pixels/svg_hatch.h"
-#include "pixels/svg_shapes.h"
-#include "pixels/text_painter.h"
+#include "pictures/svg_hatch.h"
+#include "pictures/svg_shapes.h"
+#include "pictures/text_painter.h"
 
 namespace zerimo {
 
@@ -30,28 +30,28 @@ double PenMiddle(const SvgPen& pen) { return pen.Width % 2 == 0 ? 0 : 0.5; }
 
 class Writer {
  public:
-  Writer(QByteArray& target, QSize pictureSize) : xml(&target), size(pictureSize) {}
+  Writer(QByteArray& target, QSize pictureSize) : xml_(&target), size_(pictureSize) {}
 
   void Document(const std::vector<SvgShape>& shapes, QRgb background) {
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(1);
-    xml.writeStartDocument();
-    xml.writeStartElement("svg");
-    xml.writeDefaultNamespace("http://www.w3.org/2000/svg");
-    xml.writeNamespace("http://www.w3.org/1999/xlink", "xlink");
-    Sized(size);
-    xml.writeAttribute("viewBox", QString("0 0 %1 %2").arg(size.width()).arg(size.height()));
-    xml.writeAttribute("shape-rendering", "crispEdges");
-    xml.writeEmptyElement("rect");
-    Sized(size);
-    xml.writeAttribute("fill", Name(background));
+    xml_.setAutoFormatting(true);
+    xml_.setAutoFormattingIndent(1);
+    xml_.writeStartDocument();
+    xml_.writeStartElement("svg");
+    xml_.writeDefaultNamespace("http://www.w3.org/2000/svg");
+    xml_.writeNamespace("http://www.w3.org/1999/xlink", "xlink");
+    Sized(size_);
+    xml_.writeAttribute("viewBox", QString("0 0 %1 %2").arg(size_.width()).arg(size_.height()));
+    xml_.writeAttribute("shape-rendering", "crispEdges");
+    xml_.writeEmptyElement("rect");
+    Sized(size_);
+    xml_.writeAttribute("fill", Name(background));
     for (const SvgShape& shape : shapes) std::visit([this](const auto& each) { Write(each); }, shape);
     EndPath();
-    xml.writeEndDocument();
+    xml_.writeEndDocument();
   }
 
  private:
-  void Attribute(const char* name, double number) { xml.writeAttribute(name, Number(number)); }
+  void Attribute(const char* name, double number) { xml_.writeAttribute(name, Number(number)); }
 
   void Sized(QSizeF of) {
     Attribute("width", of.width());
@@ -66,24 +66,24 @@ class Writer {
   /// Lines of the same pen that follow each other become one path.
   void Write(const svg_shape::Line& line) {
     if (IsPoint(line.Ends)) return WritePoint(line);
-    if (!path.isEmpty() && line.Pen != pathPen) EndPath();
-    const bool goesOn = !path.isEmpty() && line.Ends.X1 == pathEnd.x() && line.Ends.Y1 == pathEnd.y();
+    if (!path_.isEmpty() && line.Pen != pathPen_) EndPath();
+    const bool goesOn = !path_.isEmpty() && line.Ends.X1 == pathEnd_.x() && line.Ends.Y1 == pathEnd_.y();
     const double middle = PenMiddle(line.Pen);
-    if (!goesOn) path += QString("M%1 %2").arg(Number(line.Ends.X1 + middle), Number(line.Ends.Y1 + middle));
-    path += QString("L%1 %2").arg(Number(line.Ends.X2 + middle), Number(line.Ends.Y2 + middle));
-    pathPen = line.Pen;
-    pathEnd = QPoint(line.Ends.X2, line.Ends.Y2);
+    if (!goesOn) path_ += QString("M%1 %2").arg(Number(line.Ends.X1 + middle), Number(line.Ends.Y1 + middle));
+    path_ += QString("L%1 %2").arg(Number(line.Ends.X2 + middle), Number(line.Ends.Y2 + middle));
+    pathPen_ = line.Pen;
+    pathEnd_ = QPoint(line.Ends.X2, line.Ends.Y2);
   }
 
   void EndPath() {
-    if (path.isEmpty()) return;
-    xml.writeEmptyElement("path");
-    xml.writeAttribute("d", path);
-    xml.writeAttribute("fill", "none");
-    Drawn(pathPen);
-    xml.writeAttribute("stroke-linecap", "round");
-    xml.writeAttribute("stroke-linejoin", "round");
-    path.clear();
+    if (path_.isEmpty()) return;
+    xml_.writeEmptyElement("path");
+    xml_.writeAttribute("d", path_);
+    xml_.writeAttribute("fill", "none");
+    Drawn(pathPen_);
+    xml_.writeAttribute("stroke-linecap", "round");
+    xml_.writeAttribute("stroke-linejoin", "round");
+    path_.clear();
   }
 
   void WritePoint(const svg_shape::Line& line) {
@@ -96,7 +96,7 @@ class Writer {
     } else {
       Ellipse(QRectF(at - QPointF(half, half), at + QPointF(half, half)));
     }
-    xml.writeAttribute("fill", Name(line.Pen.Color));
+    xml_.writeAttribute("fill", Name(line.Pen.Color));
   }
 
   void Write(const svg_shape::Box& box) {
@@ -117,12 +117,12 @@ class Writer {
     const QRectF hollow = bounds.adjusted(width, width, -width, -width);
     if (hollow.width() <= 0 || hollow.height() <= 0) {
       Closed(bounds, isEllipse);
-      xml.writeAttribute("fill", Name(pen.Color));
+      xml_.writeAttribute("fill", Name(pen.Color));
       return;
     }
-    WriteHatch(HatchLines(inside.Style, hollow, isEllipse, size), inside);
+    WriteHatch(HatchLines(inside.Style, hollow, isEllipse, size_), inside);
     Closed(bounds.adjusted(width / 2, width / 2, -width / 2, -width / 2), isEllipse);
-    xml.writeAttribute("fill", inside.Style == Solid ? Name(inside.Color) : "none");
+    xml_.writeAttribute("fill", inside.Style == Solid ? Name(inside.Color) : "none");
     Drawn(pen);
   }
 
@@ -132,24 +132,24 @@ class Writer {
     for (const QLineF& line : lines) {
       hatch += QString("M%1 %2L%3 %4").arg(Number(line.x1()), Number(line.y1()), Number(line.x2()), Number(line.y2()));
     }
-    xml.writeEmptyElement("path");
-    xml.writeAttribute("d", hatch);
-    xml.writeAttribute("fill", "none");
+    xml_.writeEmptyElement("path");
+    xml_.writeAttribute("d", hatch);
+    xml_.writeAttribute("fill", "none");
     Drawn({inside.Color, 1});
   }
 
   void Write(const svg_shape::Text& text) {
     EndPath();
     const TextFont& font = FontOf(text.PointSize);
-    xml.writeStartElement("text");
+    xml_.writeStartElement("text");
     Placed({text.At.X, text.At.Y + font.Ascent()});
-    xml.writeAttribute("font-family", "Arial, Liberation Sans, sans-serif");
-    Attribute("font-size", text.PointSize * PixelsPerPoint);
+    xml_.writeAttribute("font-family", "Arial, Liberation Sans, sans-serif");
+    Attribute("font-size_", text.PointSize * PixelsPerPoint);
     Attribute("textLength", font.WidthOf(text.Characters));
-    xml.writeAttribute("xml:space", "preserve");
-    xml.writeAttribute("fill", Name(text.Color));
-    xml.writeCharacters(PrintableText(text.Characters));
-    xml.writeEndElement();
+    xml_.writeAttribute("xml:space", "preserve");
+    xml_.writeAttribute("fill", Name(text.Color));
+    xml_.writeCharacters(PrintableText(text.Characters));
+    xml_.writeEndElement();
   }
 
   void Write(const svg_shape::Patch& patch) {
@@ -157,11 +157,11 @@ class Writer {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     patch.Pixels.save(&buffer, "PNG");
-    xml.writeEmptyElement("image");
+    xml_.writeEmptyElement("image");
     Placed(patch.At);
     Sized(patch.Pixels.size());
-    xml.writeAttribute("image-rendering", "optimizeSpeed");
-    xml.writeAttribute("xlink:href", "data:image/png;base64," + QString::fromLatin1(bytes.toBase64()));
+    xml_.writeAttribute("image-rendering", "optimizeSpeed");
+    xml_.writeAttribute("xlink:href", "data:image/png;base64," + QString::fromLatin1(bytes.toBase64()));
   }
 
   void Closed(const QRectF& bounds, bool isEllipse) {
@@ -173,13 +173,13 @@ class Writer {
   }
 
   void Rectangle(const QRectF& bounds) {
-    xml.writeEmptyElement("rect");
+    xml_.writeEmptyElement("rect");
     Placed(bounds.topLeft());
     Sized(bounds.size());
   }
 
   void Ellipse(const QRectF& bounds) {
-    xml.writeEmptyElement("ellipse");
+    xml_.writeEmptyElement("ellipse");
     Attribute("cx", bounds.center().x());
     Attribute("cy", bounds.center().y());
     Attribute("rx", bounds.width() / 2);
@@ -187,19 +187,19 @@ class Writer {
   }
 
   void Drawn(const SvgPen& pen) {
-    xml.writeAttribute("stroke", Name(pen.Color));
+    xml_.writeAttribute("stroke", Name(pen.Color));
     Attribute("stroke-width", pen.Width);
   }
 
-  const TextFont& FontOf(double pointSize) { return fonts.try_emplace(pointSize, pointSize).first->second; }
+  const TextFont& FontOf(double pointSize) { return fonts_.try_emplace(pointSize, pointSize).first->second; }
 
-  QXmlStreamWriter xml;
-  QSize size;
+  QXmlStreamWriter xml_;
+  QSize size_;
   /// The path that grows, in its pen, with the place where it has come to.
-  QString path;
-  SvgPen pathPen;
-  QPoint pathEnd;
-  std::map<double, TextFont> fonts;
+  QString path_;
+  SvgPen pathPen_;
+  QPoint pathEnd_;
+  std::map<double, TextFont> fonts_;
 };
 
 }  // namespace

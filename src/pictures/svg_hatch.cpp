@@ -1,4 +1,4 @@
-#include "pixels/svg_hatch.h"
+#include "pictures/svg_hatch.h"
 
 #include <algorithm>
 #include <cmath>

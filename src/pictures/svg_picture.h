@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "graphics/surface.h"
-#include "pixels/image_canvas.h"
-#include "pixels/svg_shapes.h"
+#include "pictures/image_canvas.h"
+#include "pictures/svg_shapes.h"
 
 namespace zerimo {
 
@@ -17,12 +17,12 @@ namespace zerimo {
 /// becomes one patch of pixels, so that memory stays bounded.
 class SvgRecorder : public SurfaceRecorder {
  public:
-  /// The canvas behind the surface that will be recorded, with nothing drawn on it yet.
-  explicit SvgRecorder(const ImageCanvas& pixels) : canvas(pixels) {}
+  /// The canvas under the surface that will be recorded, with nothing drawn on it yet.
+  explicit SvgRecorder(const ImageCanvas& pixels) : canvas_(pixels) {}
 
   void Record(const Surface& surface, const SurfaceOperation& operation) override;
 
-  const std::vector<SvgShape>& Shapes() const { return shapes; }
+  const std::vector<SvgShape>& Shapes() const { return shapes_; }
 
   /// The picture as an SVG file, in pixels, as large as told.
   QByteArray Picture(int width, int height, Colour background) const;
@@ -36,12 +36,12 @@ class SvgRecorder : public SurfaceRecorder {
 
   void Restart();
   void KeepShape(SvgShape shape);
-  void KeepPixels(const QRect& area);
+  void KeepPixels(const PixelRect& area);
 
-  const ImageCanvas& canvas;
-  std::vector<SvgShape> shapes;
+  const ImageCanvas& canvas_;
+  std::vector<SvgShape> shapes_;
   /// Bytes of the patches among the shapes.
-  qsizetype patchBytes = 0;
+  qsizetype patchBytes_ = 0;
 };
 
 /// Writes what a canvas shows, as large as told, by the file's ending: .svg from the recorded shapes, else pixels

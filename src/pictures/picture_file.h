@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <filesystem>
+#include <string>
+
+#include "pixels/picture_files.h"
+
+namespace zerimo {
+
+/// Picture files by Qt. A truncated or very large picture is an invalid one.
+class QtPictureFiles : public PictureFiles {
+ public:
+  PixelBuffer Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) override;
+  void Write(const PixelBuffer& pixels, int columns, int rows, const std::filesystem::path& file) override;
+};
+
+/// Writes a file as a whole or, with a failure (file access), not at all.
+void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file);
+
+/// The ending of a file name, in small letters and with its point.
+std::string EndingOf(const std::filesystem::path& file);
+
+}  // namespace zerimo

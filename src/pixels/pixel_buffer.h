@@ -1,0 +1,41 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+#include "pixels/pixel_rect.h"
+#include "pixels/rgb.h"
+
+namespace zerimo {
+
+/// Rows of opaque 32-bit pixels, one after the other from the top, with nothing between them: what a toolkit or a page
+/// can show without a copy.
+class PixelBuffer {
+ public:
+  PixelBuffer() = default;
+  /// Both sizes from 1. Fails with an exception of the library if there is no memory for it.
+  PixelBuffer(int columns, int rows, Pixel pixel)
+      : columns_(columns),
+        rows_(rows),
+        pixels_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), pixel) {}
+
+  int Columns() const { return columns_; }
+  int Rows() const { return rows_; }
+  PixelRect Bounds() const { return {0, 0, columns_ - 1, rows_ - 1}; }
+
+  /// The pixels of a row of the buffer; the rows below it follow.
+  Pixel* Row(int row) { return pixels_.data() + Offset(row); }
+  const Pixel* Row(int row) const { return pixels_.data() + Offset(row); }
+
+  void Fill(Pixel pixel) { std::fill(pixels_.begin(), pixels_.end(), pixel); }
+
+ private:
+  std::ptrdiff_t Offset(int row) const { return static_cast<std::ptrdiff_t>(row) * columns_; }
+
+  int columns_ = 0;
+  int rows_ = 0;
+  std::vector<Pixel> pixels_;
+};
+
+}  // namespace zerimo

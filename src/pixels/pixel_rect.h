@@ -1,0 +1,53 @@
+#pragma once
+
+#include <algorithm>
+
+namespace zerimo {
+
+/// A rectangle of pixels, edges included; empty if an edge lies before the opposite one.
+struct PixelRect {
+  int Left = 0;
+  int Top = 0;
+  int Right = -1;
+  int Bottom = -1;
+
+  bool operator==(const PixelRect&) const = default;
+
+  bool IsEmpty() const { return Left > Right || Top > Bottom; }
+  int Columns() const { return Right - Left + 1; }
+  int Rows() const { return Bottom - Top + 1; }
+};
+
+/// The smallest rectangle around two; an empty one adds nothing.
+inline PixelRect United(const PixelRect& one, const PixelRect& other) {
+  if (one.IsEmpty()) return other;
+  if (other.IsEmpty()) return one;
+  return {std::min(one.Left, other.Left), std::min(one.Top, other.Top), std::max(one.Right, other.Right),
+          std::max(one.Bottom, other.Bottom)};
+}
+
+/// A column or row that may lie anywhere, as a whole number between two limits. Not-a-number gives the lower limit.
+inline int Clamped(double place, int least, int greatest) {
+  if (!(place > least)) return least;
+  return place < greatest ? static_cast<int>(place) : greatest;
+}
+
+/// The first whole number at or after a place that may lie anywhere, between two limits.
+inline int FirstFrom(double place, int least, int greatest) {
+  const int cut = Clamped(place, least, greatest);
+  return cut < place && cut < greatest ? cut + 1 : cut;
+}
+
+/// The last whole number at or before a place that may lie anywhere, between two limits.
+inline int LastTo(double place, int least, int greatest) {
+  const int cut = Clamped(place, least, greatest);
+  return cut > place && cut > least ? cut - 1 : cut;
+}
+
+/// The part of a rectangle (edges included) that lies on a canvas of that size; an empty one if there is none.
+inline PixelRect OnCanvas(double left, double top, double right, double bottom, int columns, int rows) {
+  return {Clamped(left, 0, columns), Clamped(top, 0, rows), Clamped(right, -1, columns - 1),
+          Clamped(bottom, -1, rows - 1)};
+}
+
+}  // namespace zerimo

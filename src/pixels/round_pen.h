@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace zerimo {
+
+/// The columns of a row, both ends included; none if the first lies after the last.
+struct ColumnSpan {
+  int First;
+  int Last;
+};
+
+/// The pixels of a round point of some width: those whose centre is not farther from its middle than half the width. An
+/// even width lies by half a pixel to the left and above. The rows of the usual widths are worked out once.
+class RoundPen {
+ public:
+  /// Pixels, from 1.
+  explicit RoundPen(int width);
+
+  int Width() const { return width_; }
+  /// Rows above the one that the pen is put on.
+  int Above() const { return width_ / 2; }
+
+  /// The columns in a row of the pen, 0 to its width less one from the top, seen from the column that it is put on.
+  ColumnSpan Row(int row) const { return width_ <= WidestKept ? kept_[static_cast<std::size_t>(row)] : WorkOut(row); }
+
+ private:
+  static constexpr int WidestKept = 64;
+
+  ColumnSpan WorkOut(int row) const;
+
+  int width_;
+  std::array<ColumnSpan, WidestKept> kept_;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "graphics/canvas.h"
+#include "pixels/pixel_buffer.h"
+
+namespace zerimo {
+
+/// What prints text on pixels. A toolkit or a page brings one.
+class TextDrawer {
+ public:
+  virtual ~TextDrawer() = default;
+
+  /// Prints a line of single-byte text, not smoothed, with its top left corner at a point that may lie anywhere.
+  /// Points are those of a screen with 96 dots to the inch. Returns the rectangle of the buffer that may have changed.
+  virtual PixelRect Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) = 0;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,62 @@
+#include "reference/pixels/ellipse_spans.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace zerimo::reference {
+
+namespace {
+
+/// Up to here the quick conversion to a whole number holds.
+constexpr double LargestWhole = 1 << 30;
+/// Half-axes beyond this are infinite for all purposes.
+constexpr double LargestAxis = 1e100;
+/// Up to this width the pen is followed row by row; a wider one is followed in that many steps.
+constexpr int ExactPen = 512;
+
+double WholePart(double place) {
+  return place < LargestWhole ? static_cast<double>(static_cast<int>(place)) : std::floor(place);
+}
+
+}  // namespace
+
+EllipseSpans::EllipseSpans(double wholeA, double wholeB, int outlineWidth, double firstRow, int count) {
+  const double a = std::min(wholeA, LargestAxis);
+  const double b = std::min(wholeB, LargestAxis);
+  const double ratio = (a + 0.5) / (b + 0.5);
+  // A pen that is wider than the ellipse leaves no inside.
+  const bool hasInside = outlineWidth <= a && outlineWidth <= b;
+  const auto rows = static_cast<std::size_t>(count);
+  outer.assign(rows + static_cast<std::size_t>(hasInside ? outlineWidth : 0), -1);
+  double row = firstRow;
+  for (double& each : outer) {
+    if (row > b) break;
+    each = WholePart(ratio * std::sqrt((b + 0.5 - row) * (b + 0.5 + row)));
+    ++row;
+  }
+  if (!hasInside) {
+    inner.assign(rows, -1);
+    return;
+  }
+  inner.assign(rows, LargestAxis);
+  for (const Place& place : PenOf(outlineWidth)) {
+    const double* above = outer.data() + place.Row;
+    for (std::size_t n = 0; n < rows; ++n) inner[n] = std::min(inner[n], above[n] - place.Column);
+  }
+}
+
+std::vector<EllipseSpans::Place> EllipseSpans::PenOf(int outlineWidth) {
+  const int steps = std::min(outlineWidth, ExactPen);
+  const double width = outlineWidth;
+  std::vector<Place> pen;
+  pen.reserve(static_cast<std::size_t>(steps) + 1);
+  for (int step = 0; step <= steps; ++step) {
+    const double angle = std::numbers::pi / 2 * step / steps;
+    const int row = steps == outlineWidth ? step : static_cast<int>(std::lround(width * std::sin(angle)));
+    pen.push_back({row, WholePart(std::sqrt((width - row) * (width + row)))});
+  }
+  return pen;
+}
+
+}  // namespace zerimo::reference

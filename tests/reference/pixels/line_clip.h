@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+
+#include "graphics/canvas.h"
+
+namespace zerimo::reference {
+
+/// The ends of a line in whole pixels.
+struct WholeLine {
+  int X1;
+  int Y1;
+  int X2;
+  int Y2;
+};
+
+/// How far from the origin the ends of a clipped line lie at most. Lines that stay within it are not changed.
+inline constexpr int ClipReach = 1 << 24;
+
+/// The widest stroke that makes a difference.
+inline constexpr int WidestStroke = 1 << 22;
+
+/// Cuts a line that leaves the reach, before its ends become whole numbers. Nothing is left of a line that comes
+/// nowhere near a canvas.
+std::optional<WholeLine> ClipLine(PixelPoint from, PixelPoint to);
+
+}  // namespace zerimo::reference

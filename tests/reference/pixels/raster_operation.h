@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QRgb>
+
+#include "controls/control_kinds.h"
+
+namespace zerimo::reference {
+
+/// A raster operation together with the pen's colour. Whatever the operation, a pixel becomes (pixel and Keep) xor
+/// Toggle, and stays opaque.
+struct RasterOperation {
+  QRgb Keep;
+  QRgb Toggle;
+
+  QRgb Apply(QRgb pixel) const { return (pixel & Keep) ^ Toggle; }
+  /// Whether what is below makes no difference: every pixel becomes Toggle.
+  bool IsPlain() const { return Keep == 0; }
+};
+
+/// `drawMode` is 1 to 16.
+RasterOperation MakeRasterOperation(int drawMode, Colour pen);
+
+}  // namespace zerimo::reference
