@@ -36,9 +36,8 @@ const ActionFacts* FactsOfName(std::string_view name) {
 }
 
 std::optional<int> InputsOfName(std::string_view name) {
-  const auto counts = InputCounts();
-  const auto found = std::ranges::find_if(counts, [&](const InputCount& count) { return count.Word == name; });
-  return found == counts.end() ? std::nullopt : std::optional<int>(found->Inputs);
+  const WordFacts* const word = FindWord(name);
+  return word == nullptr || word->Inputs == inputs::NotCounted ? std::nullopt : std::optional<int>(word->Inputs);
 }
 
 std::string Joined(const std::vector<std::string>& words) {
