@@ -74,12 +74,12 @@ bool DoesSomething(const std::string& column, int keyCode, const std::function<v
   WholeSystem system;
   system.controls.Text1[0].Text = "RT 1";
   look(system);
-  system.Desktop.InputAnswers.push_back("NAME");
+  system.services.InputAnswers.push_back("NAME");
   const auto before = system.EveryProperty();
   const std::string focus = system.Focus();
   system.Press(system.controls.Form1, keyCode);
   if (Control* const control = ControlOf(column, system)) system.Press(*control, keyCode);
-  return system.EveryProperty() != before || system.Focus() != focus || !system.Desktop.Inputs.empty() ||
+  return system.EveryProperty() != before || system.Focus() != focus || !system.services.Inputs.empty() ||
          folder.Count() > 0;
 }
 
