@@ -1,6 +1,7 @@
 #include "claims.h"
 
 #include <QJsonArray>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <regex>
@@ -28,6 +29,12 @@ struct ClaimedText {
     return IsBeginning ? deed.starts_with(Text) : TrimmedRight(deed) == TrimmedRight(Text);
   }
 };
+
+QStringList NumbersInOrder(const QJsonObject& entries) {
+  QStringList numbers = entries.keys();
+  std::ranges::sort(numbers, {}, [](const QString& number) { return number.toInt(); });
+  return numbers;
+}
 
 class ClaimCheck {
  public:
@@ -135,6 +142,15 @@ class ClaimCheck {
       lines += (lines.empty() ? "" : " / ") + line.toString().toStdString();
     Expect(lines == words[1], "it is " + lines);
   }
+  void VariablesAre(Words words) {
+    const QJsonObject entries = Dump("variables")["slots"].toObject();
+    std::string all;
+    for (const QString& number : NumbersInOrder(entries)) {
+      const std::string slot = entries[number].toString().toStdString();
+      all += (all.empty() ? "" : " / ") + (slot == " " ? "(deleted)" : slot);
+    }
+    Expect(all == words[1], "they are " + all);
+  }
   void StepIs(Words words) { Expect(IsNear(State("Resolution"), words[1]), "another step"); }
 
   void PenIs(Words words) { ExpectColour("Picture1", "ForeColor", words[1]); }
@@ -205,6 +221,7 @@ const std::vector<ClaimCheck::Sentence>& ClaimCheck::Sentences() {
       {std::regex("It goes on for ever\\."), &ClaimCheck::GoesOn},
       {std::regex("The control string is (.*)"), &ClaimCheck::ControlStringIs},
       {std::regex("The program is: (.*)"), &ClaimCheck::ProgramIs},
+      {std::regex("The variables are: (.*)"), &ClaimCheck::VariablesAre},
       {std::regex("It beeps\\."), &ClaimCheck::Beeps},
       {std::regex("Zerimo ends\\."), &ClaimCheck::Ends},
       {std::regex("A file window opens\\."), &ClaimCheck::FileWindow},

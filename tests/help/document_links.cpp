@@ -35,8 +35,10 @@ std::set<std::string> AnchorsOf(const std::filesystem::path& document) {
 
 std::vector<std::filesystem::path> AllDocuments(const std::filesystem::path& sourceFolder) {
   std::vector<std::filesystem::path> documents = {sourceFolder / "README.md"};
-  for (const auto& entry : std::filesystem::directory_iterator(sourceFolder / "docs")) {
-    if (entry.path().extension() == ".md") documents.push_back(entry.path());
+  for (const char* const folder : {"docs", "src", "tests", "help", "packaging"}) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(sourceFolder / folder)) {
+      if (entry.path().extension() == ".md") documents.push_back(entry.path());
+    }
   }
   return documents;
 }
