@@ -16,7 +16,7 @@ std::string TextOf(const Paragraph& paragraph) {
   return text;
 }
 
-/// A line to do behind a claim begins the next example.
+/// A line to type or write after a claim begins the next example.
 Example& ExampleToDo(std::vector<Example>& examples) {
   if (examples.empty() || !examples.back().Claims.empty()) examples.emplace_back();
   return examples.back();
