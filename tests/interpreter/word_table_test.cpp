@@ -73,7 +73,7 @@ TEST(dispatch, CommandListKeepsItsOrder) {
   EXPECT_EQ(std::vector<std::string_view>(names.begin(), names.end()), expected);
 }
 
-/// The names of the actions in the order of their tests, the other name of an action behind its first.
+/// The names of the actions in the order of their tests, the other name of an action after its first.
 std::vector<std::string_view> NamesInOrder() {
   std::vector<std::string_view> names;
   for (const ActionFacts& facts : Actions()) {
