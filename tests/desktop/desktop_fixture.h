@@ -45,7 +45,7 @@ class DesktopTest : public testing::Test {
   /// From the editor to row 0 without the fold.
   void LeaveEditor();
 
-  /// Lets the event loop work until a condition holds, at most some seconds. Tells whether it holds.
+  /// Lets the event loop work until a condition is true, at most some seconds. Returns whether it is true.
   static bool Until(const std::function<bool()>& condition);
   /// Lets the one-shot that gives the focus to row 0 fire.
   void Settle();

@@ -36,7 +36,7 @@ std::set<std::string> WordsIn(const RichText& page) {
   return {std::istream_iterator<std::string>(stream), {}};
 }
 
-/// The paragraph behind the heading of the related words.
+/// The paragraph after the heading of the related words.
 std::vector<std::string> RelatedWordsOf(const RichText& page) {
   const auto& paragraphs = page.Paragraphs;
   for (std::size_t i = 0; i + 1 < paragraphs.size(); ++i) {
@@ -47,7 +47,7 @@ std::vector<std::string> RelatedWordsOf(const RichText& page) {
   return {};
 }
 
-/// A name for a test: words such as "(SUM" hold characters that a test's name can not.
+/// A name for a test: words such as "(SUM" have characters that the name of a test can't have.
 std::string TestNameOf(const testing::TestParamInfo<std::string>& word) {
   return word.param.starts_with('(') ? "BRACKET_" + word.param.substr(1) : word.param;
 }
