@@ -1,5 +1,5 @@
-# What names the system everywhere: the version is that of project(), and everything else that is told outside stands
-# here. packaging/ makes the desktop entry, the metainfo, the man pages and the changelogs from it.
+# What identifies the system everywhere. The version is that of project(); everything else that others see is here.
+# packaging/ makes the desktop entry, the metainfo, the man pages and the changelogs from it.
 
 # The name in reverse order of a domain: of the desktop entry, the icons, the metainfo and the window.
 set(ZERIMO_ID io.github.zerimo_logo.Zerimo)

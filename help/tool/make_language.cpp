@@ -10,11 +10,11 @@ namespace {
 
 void Write(const std::string& document, const std::string& frameFile, const std::vector<zerimo::help::Topic>& topics) {
   std::ifstream frame(frameFile, std::ios::binary);
-  if (!frame) throw std::runtime_error("can not be read: " + frameFile);
+  if (!frame) throw std::runtime_error("can't be read: " + frameFile);
   const std::string text = zerimo::help::LanguageReference(frame, topics);
   std::ofstream file(document, std::ios::binary);
   file << text << std::flush;
-  if (!file) throw std::runtime_error("can not be written: " + document);
+  if (!file) throw std::runtime_error("can't be written: " + document);
 }
 
 }  // namespace

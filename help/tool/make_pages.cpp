@@ -15,14 +15,14 @@ using zerimo::help::Page;
 
 void ReadSource(const std::string& file, std::vector<Page>& pages) {
   std::ifstream source(file, std::ios::binary);
-  if (!source) throw std::runtime_error("can not be read: " + file);
+  if (!source) throw std::runtime_error("can't be read: " + file);
   zerimo::help::ReadPages(source, pages);
 }
 
 void WritePage(const std::filesystem::path& folder, const Page& page) {
   std::ofstream file(folder / page.Name, std::ios::binary);
   file << zerimo::WriteRtf(zerimo::help::LayOut(page)) << std::flush;
-  if (!file) throw std::runtime_error("can not be written: " + page.Name);
+  if (!file) throw std::runtime_error("can't be written: " + page.Name);
 }
 
 void MakePages(const std::filesystem::path& folder, const std::vector<Page>& pages) {

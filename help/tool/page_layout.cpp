@@ -45,7 +45,7 @@ ParagraphForm Spaced(int before, int after, int left = 0) {
   return form;
 }
 
-/// A heading that stands in front of the first line of these kinds.
+/// A heading that comes before the first line of these kinds.
 std::string_view HeadingOf(LineKind kind) {
   switch (kind) {
     case LineKind::Input:
@@ -97,7 +97,7 @@ class PageLayout {
     }
   }
 
-  /// Each heading stands once on a page.
+  /// Each heading comes once on a page.
   void AddHeadingOf(LineKind kind) {
     const std::string_view heading = HeadingOf(kind);
     if (!usesHeadings || heading.empty() || !shownHeadings.insert(heading).second) return;

@@ -49,7 +49,7 @@ void ReadPages(std::istream& source, std::vector<Page>& pages) {
     } else if (isInPage) {
       pages.back().Lines.push_back(ReadPageLine(line));
     } else {
-      throw std::runtime_error("text in front of the first page: " + line);
+      throw std::runtime_error("text before the first page: " + line);
     }
   }
 }

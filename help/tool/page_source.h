@@ -8,7 +8,7 @@
 /// The plain texts that the help pages are made from.
 namespace zerimo::help {
 
-/// What a line of a page is; the mark is what the line begins with in the source.
+/// The kinds of lines of a page, with the marks at the beginning of the line in the source.
 enum class LineKind {
   Text,     // no mark: a paragraph
   Heading,  // "* "
@@ -16,7 +16,7 @@ enum class LineKind {
   Point,    // "- "
   Typed,    // "? ": a line for a row
   Edited,   // "| ": a line for the editor
-  Claim,    // "> ": what comes out of the example above it
+  Claim,    // "> ": the result of the example above it
   Hint,     // "! "
   Related,  // "~ ": words with pages of their own
 };
@@ -38,8 +38,8 @@ struct Page {
 /// A line of the source, not empty and no page's first one.
 PageLine ReadPageLine(std::string_view line);
 
-/// Adds the pages of a source: each begins with "= " and its name. Blank lines part examples and are passed over. Fails
-/// (std::runtime_error) at text in front of the first page.
+/// Adds the pages of a source: each begins with "= " and its name. Blank lines divide examples and are skipped. Fails
+/// (std::runtime_error) at text before the first page.
 void ReadPages(std::istream& source, std::vector<Page>& pages);
 
 /// The mark of a kind, with its blank; empty for `Text`.

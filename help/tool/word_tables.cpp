@@ -36,9 +36,8 @@ const ActionFacts* FactsOfName(std::string_view name) {
 }
 
 std::optional<int> InputsOfName(std::string_view name) {
-  const auto counts = InputCounts();
-  const auto found = std::ranges::find_if(counts, [&](const InputCount& count) { return count.Word == name; });
-  return found == counts.end() ? std::nullopt : std::optional<int>(found->Inputs);
+  const WordFacts* const word = FindWord(name);
+  return word == nullptr || word->Inputs == inputs::NotCounted ? std::nullopt : std::optional<int>(word->Inputs);
 }
 
 std::string Joined(const std::vector<std::string>& words) {
@@ -132,7 +131,7 @@ class Reference {
     for (const Page& page : topic->Pages) WriteRow(page);
   }
 
-  /// A long name stands in the row of its short one.
+  /// A long name is in the row of its short one.
   void WriteRow(const Page& page) {
     const ActionFacts* const facts = FactsOfName(page.Name);
     if (!IsTyped(page.Name) && !IsProgramWord(page.Name))
@@ -175,7 +174,7 @@ class Reference {
     }
   }
 
-  /// The link that a heading of the frame gets.
+  /// The link to a heading of the frame.
   std::string Anchor() const {
     std::string anchor = heading;
     for (char& c : anchor) c = c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -192,7 +191,7 @@ class Reference {
 
 Topic ReadTopic(const std::string& file) {
   std::ifstream source(file, std::ios::binary);
-  if (!source) throw std::runtime_error("can not be read: " + file);
+  if (!source) throw std::runtime_error("can't be read: " + file);
   Topic topic{std::filesystem::path(file).stem().string(), {}};
   ReadPages(source, topic.Pages);
   return topic;

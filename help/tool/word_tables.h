@@ -17,7 +17,7 @@ struct Topic {
   std::vector<Page> Pages;
 };
 
-/// Reads a help source; fails (std::runtime_error) if it can not be read.
+/// Reads a help source; fails (std::runtime_error) if it can't be read.
 Topic ReadTopic(const std::string& file);
 
 /// The frame with each line "{{TOPIC}}" replaced by the table of that topic's words, the line "{{index}}" by all words

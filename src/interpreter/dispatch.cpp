@@ -27,7 +27,9 @@ const std::string& MatchedText(MatchedBy match, const PrimitiveCall& call) {
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) { handlers_[static_cast<std::size_t>(action)] = std::move(handler); }
+void Dispatch::Bind(Action action, Handler handler) {
+  handlers_[static_cast<std::size_t>(action)] = std::move(handler);
+}
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);

@@ -114,8 +114,8 @@ StatementClass WhatIsThis(std::string_view line) {
   const std::string_view head = Trimmed(blank == 0 ? line : Left(line, blank));
   const std::string_view tail = blank == 0 ? std::string_view{} : From(line, blank + 1);
 
-  const auto names = CommandListNames();
-  const bool isPrimitive = std::find(names.begin(), names.end(), head) != names.end();
+  const WordFacts* const word = FindWord(head);
+  const bool isPrimitive = word != nullptr && word->Place != 0;
   const StatementClass soFar = isPrimitive ? StmtPrimitive : StmtCall;
 
   for (const Keyword& keyword : Keywords) {
@@ -141,9 +141,8 @@ std::string GiveWord(std::string& text, int nthWord) {
 }
 
 std::int16_t HowManyInput(std::string_view command, const Store& store) {
-  for (const InputCount& count : InputCounts()) {
-    if (count.Word == command) return count.Inputs;
-  }
+  const WordFacts* const word = FindWord(command);
+  if (word != nullptr && word->Inputs != inputs::NotCounted) return word->Inputs;
   const std::string pattern = "TO " + std::string(command) + " ";
   for (int number = 1; !store.Line(number).empty(); ++number) {
     if (Contains(store.Line(number) + " ", pattern)) return InputsOfHeader(store.Line(number));

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-/// The one table of facts about the words of the language.
+/// The one table of facts about the words of the language: a row for each word. What else is here is derived from it.
 namespace zerimo {
 
 /// The actions of `Executor`, one for each row of its two groups of tests, in the order of the tests.
@@ -93,10 +93,11 @@ enum class Action : std::uint8_t {
   Product,
   Quotient,
   Remainder,
-  Count,
+  /// Of the words that `Executor` does not know.
+  None,
 };
 
-inline constexpr std::size_t ActionCount = static_cast<std::size_t>(Action::Count);
+inline constexpr std::size_t ActionCount = static_cast<std::size_t>(Action::None);
 
 /// What a name of an action is compared with.
 enum class MatchedBy : std::uint8_t { WholeLine, Word };
@@ -108,6 +109,40 @@ enum class MissingInput : std::uint8_t {
   Information,  // OK and the information mark; title "Zerimo Message"
   Plain,        // OK; no title
 };
+
+/// The markers among the input counts: what takes a bracket body or the rest of the text, and a word that is not
+/// counted.
+namespace inputs {
+inline constexpr std::int16_t Repeat = -1;
+inline constexpr std::int16_t Print = -2;
+inline constexpr std::int16_t Write = -3;
+inline constexpr std::int16_t Message = -4;
+inline constexpr std::int16_t BracketSum = -5;
+inline constexpr std::int16_t BracketProduct = -6;
+/// `HowManyInput` looks the word up in the store, like any name.
+inline constexpr std::int16_t NotCounted = -100;
+}  // namespace inputs
+
+/// Whether the word has a help page of its name.
+enum class HelpPage : std::uint8_t { None, Own };
+
+/// One word of the language. The rows of actions stand in the order of the tests, the short name of an action before
+/// its other one; words without an action follow.
+struct WordFacts {
+  std::string_view Word;
+  Action Does;
+  MatchedBy Match;
+  MissingInput Missing;
+  /// What `HowManyInput` tells: 0 to 6, or a marker of `inputs`.
+  std::int16_t Inputs;
+  /// Places in `CommandList`, 1 to 96; 0 for none.
+  int Place;
+  HelpPage Page;
+  int SecondPlace = 0;
+};
+
+/// The table.
+std::span<const WordFacts> AllWords();
 
 /// One action: its names, how they are matched and how a missing input is told.
 struct ActionFacts {
@@ -127,27 +162,12 @@ std::span<const ActionFacts, ActionCount> Actions();
 /// The facts of one action.
 const ActionFacts& FactsOf(Action action);
 
-/// A word that counts its inputs for `HowManyInput`: 0 to 6, or a marker.
-struct InputCount {
-  std::string_view Word;
-  std::int16_t Inputs;
-};
-
-/// The markers among the input counts: what takes a bracket body or the rest of the text.
-namespace inputs {
-inline constexpr std::int16_t Repeat = -1;
-inline constexpr std::int16_t Print = -2;
-inline constexpr std::int16_t Write = -3;
-inline constexpr std::int16_t Message = -4;
-inline constexpr std::int16_t BracketSum = -5;
-inline constexpr std::int16_t BracketProduct = -6;
-}  // namespace inputs
-
-/// The fixed table of `HowManyInput`, in its order.
-std::span<const InputCount> InputCounts();
+/// The facts of a word, or null if it is none of the language.
+const WordFacts* FindWord(std::string_view word);
 
 /// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty.
 inline constexpr int CommandListSize = 100;
+inline constexpr int CommandListUsed = 96;
 std::span<const std::string_view> CommandListNames();
 
 }  // namespace zerimo

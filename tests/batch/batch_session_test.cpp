@@ -19,9 +19,9 @@ struct After : InMemorySession {
   explicit After(const std::string& script, const Settings& settings = {}) : InMemorySession(settings) { Run(script); }
 
   Form1& Form() { return Session.System(); }
-  Controls& Controls() { return Form().controls; }
+  Controls& FormControls() { return Form().controls; }
   std::string Focus() {
-    const Control* const focus = Controls().Focus.Focus();
+    const Control* const focus = FormControls().Focus.Focus();
     return focus == nullptr ? "" : focus->Name();
   }
 };
@@ -49,7 +49,7 @@ TEST(BatchSession, TypedLinesGoToTheRowThatHasTheFocus) {
 
 TEST(BatchSession, TypedLineGoesToRow0IfNoRowHasTheFocus) {
   After after("PD\nEDIT\nPU");
-  EXPECT_EQ(after.Controls().Text1[0].Text, "PU");
+  EXPECT_EQ(after.FormControls().Text1[0].Text, "PU");
 }
 
 TEST(BatchSession, TypedLineReplacesTheTextOfTheRow) {
@@ -78,13 +78,13 @@ TEST(BatchSession, HiddenRowIsEnteredAllTheSame) {
 
 TEST(BatchSession, TypeSetsTheRowWithoutEnter) {
   After after("@type 3 FD 10");
-  EXPECT_EQ(after.Controls().Text1[3].Text, "FD 10");
+  EXPECT_EQ(after.FormControls().Text1[3].Text, "FD 10");
   EXPECT_EQ(after.Form().interpreter.typedLines.TempProcNo, 0);
 }
 
 TEST(BatchSession, TextRunsTheChangeEvent) {
   After after("@text Text3 20");
-  EXPECT_EQ(after.Controls().Text3.Text, "20");
+  EXPECT_EQ(after.FormControls().Text3.Text, "20");
   EXPECT_EQ(after.Form().turtle.Resolution, 20);
 }
 
@@ -100,13 +100,13 @@ TEST(BatchSession, KeyGoesToItsControl) {
 
 TEST(BatchSession, ClickGoesToItsControl) {
   After after("@click Check1");
-  EXPECT_TRUE(after.Controls().Line5.Visible());
+  EXPECT_TRUE(after.FormControls().Line5.Visible());
 }
 
 TEST(BatchSession, TimerThatAClickSwitchesOnFiresBeforeTheNextAction) {
   After after("@key Text1(0) Down\n@click Picture1");
   EXPECT_EQ(after.Focus(), "Text1(0)");
-  EXPECT_FALSE(after.Controls().Timer2.Enabled);
+  EXPECT_FALSE(after.FormControls().Timer2.Enabled);
 }
 
 TEST(BatchSession, MouseMoveHasItsPlaceInUnits) {
@@ -115,19 +115,19 @@ TEST(BatchSession, MouseMoveHasItsPlaceInUnits) {
 }
 
 TEST(BatchSession, MouseDownHasButtonAndShift) {
-  EXPECT_EQ(After("@mouse down Label13(3) 0 0 right").Controls().Label15.Caption, "Setbg 3");
-  EXPECT_EQ(After("@mouse down Label13(15) 0 0 left shift").Controls().Label15.Caption, "TEXTCOLOR 15");
+  EXPECT_EQ(After("@mouse down Label13(3) 0 0 right").FormControls().Label15.Caption, "Setbg 3");
+  EXPECT_EQ(After("@mouse down Label13(15) 0 0 left shift").FormControls().Label15.Caption, "TEXTCOLOR 15");
 }
 
 TEST(BatchSession, DropPlacesTheControl) {
   After after("@mouse move Picture2 100 50\n@drop Picture2 3000 2000");
-  EXPECT_EQ(after.Controls().Picture2.Left, 2900);
-  EXPECT_EQ(after.Controls().Picture2.Top, 1950);
+  EXPECT_EQ(after.FormControls().Picture2.Left, 2900);
+  EXPECT_EQ(after.FormControls().Picture2.Top, 1950);
 }
 
 TEST(BatchSession, ScrollSetsTheBarAndRunsItsEvent) {
   After after("@scroll HScroll1(2) 100");
-  EXPECT_EQ(after.Controls().HScroll1[2].Value, 100);
+  EXPECT_EQ(after.FormControls().HScroll1[2].Value, 100);
   EXPECT_EQ(after.Form().Picture1.BackColor(), 100 * 65536);
 }
 
@@ -185,7 +185,7 @@ TEST(BatchSession, SelectNeedsAnEntry) {
 
 TEST(BatchSession, TicksEndWhenTheTimerIsOff) {
   After after("SLIDESHOW NOSUCH 10\n@tick Timer3 5");
-  EXPECT_FALSE(after.Controls().Timer3.Enabled);
+  EXPECT_FALSE(after.FormControls().Timer3.Enabled);
   EXPECT_EQ(after.Form().files.pictures.SlideCounter, 0);
 }
 

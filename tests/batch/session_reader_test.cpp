@@ -24,7 +24,7 @@ class SessionReaderTest : public testing::Test {
     return std::get<Kind>(script.at(0).Act);
   }
 
-  Controls& Controls() { return world.Session.System().controls; }
+  Controls& FormControls() { return world.Session.System().controls; }
 
   InMemorySession world;
 };
@@ -84,9 +84,9 @@ TEST_F(SessionReaderTest, EscapesBelongToTypedOverTextsAlone) {
 }
 
 TEST_F(SessionReaderTest, EveryBoxThatCanBeTypedOver) {
-  EXPECT_EQ(Only<action::TypeOver>("@text Text2 A").Box, &Controls().Text2);
-  EXPECT_EQ(Only<action::TypeOver>("@text Text3 A").Box, &Controls().Text3);
-  EXPECT_EQ(Only<action::TypeOver>("@text Text4").Box, &Controls().Text4);
+  EXPECT_EQ(Only<action::TypeOver>("@text Text2 A").Box, &FormControls().Text2);
+  EXPECT_EQ(Only<action::TypeOver>("@text Text3 A").Box, &FormControls().Text3);
+  EXPECT_EQ(Only<action::TypeOver>("@text Text4").Box, &FormControls().Text4);
 }
 
 struct KeyCase {
@@ -100,7 +100,7 @@ class SessionKeys : public SessionReaderTest, public testing::WithParamInterface
 
 TEST_P(SessionKeys, HaveTheirCodes) {
   const auto press = Only<action::PressKey>(std::string("@key Text1(3) ") + GetParam().Name);
-  EXPECT_EQ(press.Target, &Controls().Text1[3]);
+  EXPECT_EQ(press.Target, &FormControls().Text1[3]);
   EXPECT_EQ(press.KeyCode, GetParam().Code);
 }
 
@@ -130,7 +130,7 @@ class SessionPresses : public SessionReaderTest, public testing::WithParamInterf
 
 TEST_P(SessionPresses, HaveButtonAndShift) {
   const auto press = Only<action::PressMouse>(std::string("@mouse down Label13(3) 10 20") + GetParam().Words);
-  EXPECT_EQ(press.Target, &Controls().Label13[3]);
+  EXPECT_EQ(press.Target, &FormControls().Label13[3]);
   EXPECT_EQ(press.X, 10);
   EXPECT_EQ(press.Y, 20);
   EXPECT_EQ(press.Button, GetParam().Button);
@@ -145,26 +145,26 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SessionReaderTest, DropHasASourceAndAPlace) {
   const auto drop = Only<action::Drop>("@drop Picture2 3000 2000");
-  EXPECT_EQ(drop.Source, &Controls().Picture2);
+  EXPECT_EQ(drop.Source, &FormControls().Picture2);
   EXPECT_EQ(drop.X, 3000);
   EXPECT_EQ(drop.Y, 2000);
 }
 
 TEST_F(SessionReaderTest, ScrollHasABarAndAValue) {
   const auto scroll = Only<action::Scroll>("@scroll HScroll2(1) 255");
-  EXPECT_EQ(scroll.Bar, &Controls().HScroll2[1]);
+  EXPECT_EQ(scroll.Bar, &FormControls().HScroll2[1]);
   EXPECT_EQ(scroll.Value, 255);
 }
 
 TEST_F(SessionReaderTest, SelectTakesTheWholeEntry) {
   EXPECT_EQ(Only<action::SelectEntry>("@select List4 ?FD 10 ").Entry, "?FD 10 ");
-  EXPECT_EQ(Only<action::SelectEntry>("@select File1 FD").List, &Controls().File1);
+  EXPECT_EQ(Only<action::SelectEntry>("@select File1 FD").List, &FormControls().File1);
 }
 
 TEST_F(SessionReaderTest, TickIsOnceIfNotTold) {
   EXPECT_EQ(Only<action::Tick>("@tick Timer3").Times, 1);
   EXPECT_EQ(Only<action::Tick>("@tick Timer4 7").Times, 7);
-  EXPECT_EQ(Only<action::Tick>("@tick Timer3").Ticking, &Controls().Timer3);
+  EXPECT_EQ(Only<action::Tick>("@tick Timer3").Ticking, &FormControls().Timer3);
 }
 
 TEST_F(SessionReaderTest, TimeIsAText) { EXPECT_EQ(Only<action::SetTime>("@time 9:05 AM").Text, "9:05 AM"); }
@@ -187,8 +187,8 @@ TEST_F(SessionReaderTest, DumpsAreKnownByName) {
   EXPECT_EQ(Only<action::Dump>("@dump storeall").What, action::DumpKind::StoreAll);
   EXPECT_EQ(Only<action::Dump>("@dump variables").What, action::DumpKind::Variables);
   EXPECT_EQ(Only<action::Dump>("@dump state").What, action::DumpKind::State);
-  EXPECT_EQ(Only<action::DumpControl>("@dump control Label20(3)").Shown, &Controls().Label20[3]);
-  EXPECT_EQ(Only<action::DumpControl>("@dump control Timer4").Ticking, &Controls().Timer4);
+  EXPECT_EQ(Only<action::DumpControl>("@dump control Label20(3)").Shown, &FormControls().Label20[3]);
+  EXPECT_EQ(Only<action::DumpControl>("@dump control Timer4").Ticking, &FormControls().Timer4);
 }
 
 TEST_F(SessionReaderTest, PictureTakesTheWholeName) {

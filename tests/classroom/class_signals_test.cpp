@@ -21,7 +21,7 @@ std::vector<pid_t> ChildrenOf(pid_t parent) {
     const std::string name = entry.path().filename();
     if (name.find_first_not_of("0123456789") != std::string::npos) continue;
     const std::string stat = BytesOf(entry.path() / "stat");
-    // Behind the name in brackets: the state and the parent.
+    // After the name in brackets come the state and the parent.
     const std::size_t end = stat.rfind(')');
     if (end == std::string::npos || stat.size() < end + 5) continue;
     if (std::atoi(stat.c_str() + end + 4) == parent) children.push_back(std::atoi(name.c_str()));

@@ -90,7 +90,7 @@ TEST_F(Form1EventsTest, HelpStaysOpenInItsPlaceWhileTheScreenModesChange) {
   folder.Write("ZMHELP/HELP", "welcome");
   for (const char* line : {"HELP", "FS", "TS", "SS"}) {
     Type(line);
-    EXPECT_TRUE(controls.File1.Visible() && Controls.RichTextBox1.Visible()) << line;
+    EXPECT_TRUE(controls.File1.Visible() && controls.RichTextBox1.Visible()) << line;
     EXPECT_EQ(controls.RichTextBox1.Height(), 9585) << line;
     EXPECT_EQ(controls.File1.Height(), 9585 + 150) << line;
   }

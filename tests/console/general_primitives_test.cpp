@@ -21,13 +21,13 @@ class GeneralPrimitivesTest : public testing::Test, protected WholeSystem {
   Texts BoxesOf(const std::string& line) {
     services.Boxes.clear();
     Execute(line);
-    return Desktop.BoxTexts();
+    return services.BoxTexts();
   }
   /// The entries that a line adds to the history.
   Texts PrintedBy(const std::string& line) {
     controls.List4.Clear();
     Execute(line);
-    return Controls.List4.Items();
+    return controls.List4.Items();
   }
 };
 

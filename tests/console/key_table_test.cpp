@@ -44,7 +44,7 @@ const std::map<std::string, int> codes = {
     {"F3", key::F3},   {"F4", key::F4},       {"F5", 116},       {"F6", 117},         {"F7", 118},     {"F8", 119},
     {"F9", key::F9},   {"F10", key::F10},     {"F11", key::F11}, {"F12", key::F12}};
 
-/// The control that a column of the table tells of; nothing where no control has the keys.
+/// The control that a column of the table is about; nothing where no control has the keys.
 Control* ControlOf(const std::string& column, WholeSystem& system) {
   Controls& controls = system.controls;
   const std::map<std::string, Control*> columns = {
@@ -74,12 +74,12 @@ bool DoesSomething(const std::string& column, int keyCode, const std::function<v
   WholeSystem system;
   system.controls.Text1[0].Text = "RT 1";
   look(system);
-  system.Desktop.InputAnswers.push_back("NAME");
+  system.services.InputAnswers.push_back("NAME");
   const auto before = system.EveryProperty();
   const std::string focus = system.Focus();
   system.Press(system.controls.Form1, keyCode);
   if (Control* const control = ControlOf(column, system)) system.Press(*control, keyCode);
-  return system.EveryProperty() != before || system.Focus() != focus || !system.Desktop.Inputs.empty() ||
+  return system.EveryProperty() != before || system.Focus() != focus || !system.services.Inputs.empty() ||
          folder.Count() > 0;
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 class StatusLineTest : public testing::Test, protected WholeSystem {
  protected:
-  const std::string& Caption() const { return Controls.Form1.Caption(); }
+  const std::string& Caption() const { return controls.Form1.Caption(); }
   bool Shows(const char* text) const { return Caption().find(text) != std::string::npos; }
 };
 

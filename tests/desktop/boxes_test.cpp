@@ -122,11 +122,11 @@ INSTANTIATE_TEST_SUITE_P(All, BoxStyles,
 TEST_F(BoxesTest, TheLastStateIsShownBehindABox) {
   Enter("show dia");
   QString shown;
-  WhileABoxStands([&] { shown = WidgetAs<QLabel>(Controls().Label19).text(); });
+  WhileABoxStands([&] { shown = WidgetAs<QLabel>(FormControls().Label19).text(); });
   Enter("message 5");
   // Where the run stands: on the one line of the second typed line's procedure.
   EXPECT_EQ(shown, ".#TEMP$2-2");
-  EXPECT_EQ(Controls().Label19.Caption, ".");
+  EXPECT_EQ(FormControls().Label19.Caption, ".");
 }
 
 TEST_F(BoxesTest, KeysMeantForTheWindowAreDroppedWhileABoxStands) {

@@ -90,7 +90,7 @@ bool DesktopTest::Until(const std::function<bool()>& condition) {
 }
 
 void DesktopTest::Settle() {
-  Until([this] { return !Controls().Timer2.Enabled; });
+  Until([this] { return !FormControls().Timer2.Enabled; });
 }
 
 void DesktopTest::AnswerNextBox(std::vector<Qt::Key> keys, const char* typed) {

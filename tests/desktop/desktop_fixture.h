@@ -22,7 +22,7 @@ class DesktopTest : public testing::Test {
   explicit DesktopTest(const QRect& available = {0, 0, 1024, 768});
   ~DesktopTest() override;
 
-  Controls& Controls() { return session->System().controls; }
+  Controls& FormControls() { return session->System().controls; }
   Form1& System() { return session->System(); }
   MainWindow& Shown() { return session->Shown(); }
   QWidget& WidgetOf(const Control& control) { return Shown().WidgetOf(control); }
@@ -30,8 +30,8 @@ class DesktopTest : public testing::Test {
   Widget& WidgetAs(const Control& control) {
     return dynamic_cast<Widget&>(WidgetOf(control));
   }
-  QLineEdit& Row(int index) { return WidgetAs<QLineEdit>(Controls().Text1[index]); }
-  QPlainTextEdit& Editor() { return WidgetAs<QPlainTextEdit>(Controls().Text2); }
+  QLineEdit& Row(int index) { return WidgetAs<QLineEdit>(FormControls().Text1[index]); }
+  QPlainTextEdit& Editor() { return WidgetAs<QPlainTextEdit>(FormControls().Text2); }
 
   /// The widget that keys go to.
   QWidget* Focused() const { return session->Shown().focusWidget(); }
@@ -45,7 +45,7 @@ class DesktopTest : public testing::Test {
   /// From the editor to row 0 without the fold.
   void LeaveEditor();
 
-  /// Lets the event loop work until a condition holds, at most some seconds. Tells whether it holds.
+  /// Lets the event loop work until a condition is true, at most some seconds. Returns whether it is true.
   static bool Until(const std::function<bool()>& condition);
   /// Lets the one-shot that gives the focus to row 0 fire.
   void Settle();

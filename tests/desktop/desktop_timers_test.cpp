@@ -100,7 +100,7 @@ TEST_F(SlideShowTest, TheSlidesComeOneAfterTheOtherUntilANumberIsMissing) {
   ASSERT_TRUE(Until([this] { return Counter() == 2; }));
   EXPECT_GT(TopLeft().blue(), 200);
   EXPECT_LT(TopLeft().red(), 50);
-  ASSERT_TRUE(Until([this] { return !Controls().Timer3.Enabled; }));
+  ASSERT_TRUE(Until([this] { return !FormControls().Timer3.Enabled; }));
   EXPECT_EQ(Counter(), 0);
   EXPECT_GT(TopLeft().blue(), 200);
   EXPECT_TRUE(Boxes.empty());
@@ -112,7 +112,7 @@ TEST_F(SlideShowTest, TheShowStandsStillWhileALineRuns) {
   System().interpreter.dispatch.Execute("SLIDESHOW TRIP 40");
   Press(Qt::Key_Return);
   EXPECT_EQ(System().files.pictures.SlideFileName, "");
-  EXPECT_TRUE(Controls().Timer3.Enabled);
+  EXPECT_TRUE(FormControls().Timer3.Enabled);
   EXPECT_TRUE(Until([this] { return !System().files.pictures.SlideFileName.empty(); }));
 }
 

@@ -23,102 +23,102 @@ class DiagnosisPanelTest : public DesktopTest {
 };
 
 TEST_F(DiagnosisPanelTest, TheFieldsShowTheValuesOfTheStart) {
-  EXPECT_EQ(Field(Controls().Text3).text(), "50");
-  EXPECT_EQ(Field(Controls().Text4).text(), "1");
+  EXPECT_EQ(Field(FormControls().Text3).text(), "50");
+  EXPECT_EQ(Field(FormControls().Text4).text(), "1");
 }
 
 TEST_F(DiagnosisPanelTest, AResolutionIsTakenAsItIsTyped) {
-  Retype(Field(Controls().Text3), "100");
+  Retype(Field(FormControls().Text3), "100");
   EXPECT_EQ(System().turtle.Resolution, 100);
-  Retype(Field(Controls().Text3), "abc");
+  Retype(Field(FormControls().Text3), "abc");
   EXPECT_EQ(System().turtle.Resolution, 0);
 }
 
 TEST_F(DiagnosisPanelTest, ALineWidthIsTakenAsItIsTyped) {
-  Retype(Field(Controls().Text4), "3");
+  Retype(Field(FormControls().Text4), "3");
   EXPECT_EQ(System().Picture1.DrawWidth(), 3);
-  Retype(Field(Controls().Text4), "-1");
+  Retype(Field(FormControls().Text4), "-1");
   EXPECT_EQ(System().Picture1.DrawWidth(), 3);
 }
 
 TEST_F(DiagnosisPanelTest, TheControlStringIsShown) {
-  EXPECT_EQ(WidgetAs<QLabel>(Controls().Label19).text().toStdString(), ".");
+  EXPECT_EQ(WidgetAs<QLabel>(FormControls().Label19).text().toStdString(), ".");
 }
 
 TEST_F(DiagnosisPanelTest, TheListsAreShown) {
   Enter("make a 10");
-  auto& list = WidgetAs<QAbstractItemView>(Controls().List2);
+  auto& list = WidgetAs<QAbstractItemView>(FormControls().List2);
   EXPECT_EQ(list.model()->index(0, 0).data().toString(), "A=10");
 }
 
 TEST_F(DiagnosisPanelTest, RefreshForgetsTheVariables) {
   Enter("make a 10");
-  QTest::mouseClick(&WidgetOf(Controls().Command2), Qt::LeftButton);
-  EXPECT_EQ(WidgetAs<QAbstractItemView>(Controls().List2).model()->rowCount(), 500);
-  EXPECT_EQ(WidgetAs<QLabel>(Controls().Label18).text(), "#- 0");
+  QTest::mouseClick(&WidgetOf(FormControls().Command2), Qt::LeftButton);
+  EXPECT_EQ(WidgetAs<QAbstractItemView>(FormControls().List2).model()->rowCount(), 500);
+  EXPECT_EQ(WidgetAs<QLabel>(FormControls().Label18).text(), "#- 0");
 }
 
 TEST_F(DiagnosisPanelTest, TheButtonClosesThePanelAndTheRowKeepsTheFocus) {
-  QTest::mouseClick(&WidgetOf(Controls().Command1), Qt::LeftButton);
-  EXPECT_FALSE(WidgetOf(Controls().Frame1).isVisible());
+  QTest::mouseClick(&WidgetOf(FormControls().Command1), Qt::LeftButton);
+  EXPECT_FALSE(WidgetOf(FormControls().Frame1).isVisible());
   EXPECT_EQ(Focused(), &Row(2));
 }
 
 TEST_F(DiagnosisPanelTest, EnterPressesAButtonThatHasTheFocus) {
-  WidgetOf(Controls().Command1).setFocus();
+  WidgetOf(FormControls().Command1).setFocus();
   Press(Qt::Key_Return);
-  EXPECT_FALSE(WidgetOf(Controls().Frame1).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().Frame1).isVisible());
 }
 
 TEST_F(DiagnosisPanelTest, TheCheckBoxShowsAndHidesTheAxes) {
-  auto& check = WidgetAs<QCheckBox>(Controls().Check1);
+  auto& check = WidgetAs<QCheckBox>(FormControls().Check1);
   check.setFocus();
   Press(Qt::Key_Space);
-  EXPECT_TRUE(Controls().Line5.Visible());
+  EXPECT_TRUE(FormControls().Line5.Visible());
   EXPECT_TRUE(check.isChecked());
-  EXPECT_EQ(Controls().Check1.Value, 1);
+  EXPECT_EQ(FormControls().Check1.Value, 1);
   Press(Qt::Key_Space);
-  EXPECT_FALSE(Controls().Line5.Visible());
+  EXPECT_FALSE(FormControls().Line5.Visible());
   EXPECT_FALSE(check.isChecked());
 }
 
 TEST_F(DiagnosisPanelTest, GridThenOneMarkLeavesTheAxesOn) {
   Enter("show grid");
-  QTest::mouseClick(&WidgetOf(Controls().Check1), Qt::LeftButton, {}, {8, 12});
-  EXPECT_TRUE(Controls().Line5.Visible());
-  QTest::mouseClick(&WidgetOf(Controls().Check1), Qt::LeftButton, {}, {8, 12});
-  EXPECT_FALSE(Controls().Line5.Visible());
+  QTest::mouseClick(&WidgetOf(FormControls().Check1), Qt::LeftButton, {}, {8, 12});
+  EXPECT_TRUE(FormControls().Line5.Visible());
+  QTest::mouseClick(&WidgetOf(FormControls().Check1), Qt::LeftButton, {}, {8, 12});
+  EXPECT_FALSE(FormControls().Line5.Visible());
 }
 
 TEST_F(DiagnosisPanelTest, AMovedBarColoursTheBackgroundAndItsPreview) {
-  auto& red = WidgetAs<QScrollBar>(Controls().HScroll1[0]);
+  auto& red = WidgetAs<QScrollBar>(FormControls().HScroll1[0]);
   red.setFocus();
   Press(Qt::Key_End);
-  EXPECT_EQ(Controls().HScroll1[0].Value, 255);
+  EXPECT_EQ(FormControls().HScroll1[0].Value, 255);
   EXPECT_EQ(System().Picture1.BackColor(), 255);
-  EXPECT_EQ(WidgetOf(Controls().Label9).grab().toImage().pixelColor(10, 30), QColor(255, 0, 0));
+  EXPECT_EQ(WidgetOf(FormControls().Label9).grab().toImage().pixelColor(10, 30), QColor(255, 0, 0));
 }
 
 TEST_F(DiagnosisPanelTest, AMovedBarColoursThePen) {
-  auto& green = WidgetAs<QScrollBar>(Controls().HScroll2[1]);
+  auto& green = WidgetAs<QScrollBar>(FormControls().HScroll2[1]);
   ASSERT_EQ(green.value(), 255);
   green.setFocus();
   Press(Qt::Key_Home);
   EXPECT_EQ(System().Picture1.ForeColor(), 0xFF00FF);
-  EXPECT_EQ(Controls().Line1.BorderColor, 0xFF00FF);
+  EXPECT_EQ(FormControls().Line1.BorderColor, 0xFF00FF);
 }
 
 TEST_F(DiagnosisPanelTest, ItDoesNotOverlapTheRows) {
-  const QRect panel = WidgetOf(Controls().Frame1).geometry();
-  EXPECT_FALSE(panel.intersects(WidgetOf(Controls().Picture3).geometry()));
+  const QRect panel = WidgetOf(FormControls().Frame1).geometry();
+  EXPECT_FALSE(panel.intersects(WidgetOf(FormControls().Picture3).geometry()));
   EXPECT_TRUE(Shown().rect().contains(panel));
 }
 
 TEST_F(DiagnosisPanelTest, ItsControlsDoNotOverlap) {
   const QList<QWidget*> children =
-      WidgetOf(Controls().Frame1).findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+      WidgetOf(FormControls().Frame1).findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   for (int one = 0; one < children.size(); ++one) {
-    EXPECT_TRUE(WidgetOf(Controls().Frame1).rect().contains(children[one]->geometry()));
+    EXPECT_TRUE(WidgetOf(FormControls().Frame1).rect().contains(children[one]->geometry()));
     for (int other = one + 1; other < children.size(); ++other) {
       EXPECT_FALSE(children[one]->geometry().intersects(children[other]->geometry()))
           << children[one]->objectName().toStdString() << " " << children[other]->objectName().toStdString();

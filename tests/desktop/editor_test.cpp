@@ -40,7 +40,7 @@ TEST_F(EditorTest, ItCoversTheWindowButForAStrip) {
 TEST_F(EditorTest, TheSystemsLinesEndWithCarriageReturnAndLineFeed) {
   TypeLines({"to a", "fd 10", "end"});
   Press(Qt::Key_F3);
-  EXPECT_EQ(Controls().Text2.Text, "to a\r\nfd 10\r\nend");
+  EXPECT_EQ(FormControls().Text2.Text, "to a\r\nfd 10\r\nend");
 }
 
 TEST_F(EditorTest, TheArrowsAndEnterKeepTheirOwnWork) {
@@ -54,7 +54,7 @@ TEST_F(EditorTest, TheFoldShowsTheTextInCapitalsAndTidied) {
   TypeLines({"to square", "  fd 10", "end"});
   Press(Qt::Key_F2);
   EXPECT_EQ(ShownText(), "TO SQUARE\n FD 10\nEND");
-  EXPECT_EQ(Controls().List3.Items(), std::vector<std::string>{"TO SQUARE"});
+  EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO SQUARE"});
 }
 
 TEST_F(EditorTest, TheFoldIsOneStepThatCanBeUndone) {
@@ -91,7 +91,7 @@ TEST_F(EditorTest, AnUndoneTextReachesTheSystem) {
   Reopen();
   Undo();
   Press(Qt::Key_F3);
-  EXPECT_EQ(Controls().Text2.Text, "");
+  EXPECT_EQ(FormControls().Text2.Text, "");
 }
 
 TEST_F(EditorTest, ALoadedFileIsOneStepThatCanBeUndone) {
@@ -110,16 +110,16 @@ TEST_F(EditorTest, ALoadedFileKeepsItsBytesAsLongAsNobodyTypes) {
   AnswerNextBox({Qt::Key_Return}, "A");
   Press(Qt::Key_F9);
   Reopen();
-  EXPECT_EQ(Controls().Text2.Text, bytes);
+  EXPECT_EQ(FormControls().Text2.Text, bytes);
 }
 
 TEST_F(EditorTest, AHardBlankStaysOneWhenTheTextIsEdited) {
-  Controls().Text2.Text = "A\xA0";
+  FormControls().Text2.Text = "A\xA0";
   LeaveEditor();
   Press(Qt::Key_F1);
   Type("B");
   Press(Qt::Key_F3);
-  EXPECT_EQ(Controls().Text2.Text, "BA\xA0");
+  EXPECT_EQ(FormControls().Text2.Text, "BA\xA0");
 }
 
 TEST_F(EditorTest, TheTabKeyPutsBlanksIn) {
@@ -132,14 +132,14 @@ TEST_F(EditorTest, ACharacterThatTheSystemDoesNotHaveBecomesAQuestionMark) {
   QApplication::clipboard()->setText(QString::fromUtf8("\xE2\x82\xAC\xC3\xA4"));
   Editor().paste();
   Press(Qt::Key_F3);
-  EXPECT_EQ(Controls().Text2.Text, "?\xE4");
+  EXPECT_EQ(FormControls().Text2.Text, "?\xE4");
 }
 
 TEST_F(EditorTest, PastedLinesKeepTheirEnds) {
   QApplication::clipboard()->setText("TO A\nEND");
   Editor().paste();
   Press(Qt::Key_F3);
-  EXPECT_EQ(Controls().Text2.Text, "TO A\r\nEND");
+  EXPECT_EQ(FormControls().Text2.Text, "TO A\r\nEND");
 }
 
 TEST_F(EditorTest, LinesOfEveryEndCanBePasted) {
@@ -177,7 +177,7 @@ TEST_F(EditorTest, TheSaveBoxOffersTheNameLoadedLast) {
 TEST_F(EditorTest, ThousandsOfLinesAreShownAndFoldedPromptly) {
   std::string text;
   for (int line = 0; line < 1900; ++line) text += "FD 10\r\n";
-  Controls().Text2.Text = text;
+  FormControls().Text2.Text = text;
   Press(Qt::Key_F3);
   EXPECT_EQ(Editor().document()->blockCount(), 1901);
 }

@@ -13,7 +13,7 @@ class AfterAFailure : public DesktopTest {
   /// A line width beyond 16 bits fails in a handler that is under no skip rule.
   void Fail() {
     Enter("show dia");
-    auto& field = WidgetAs<QLineEdit>(Controls().Text4);
+    auto& field = WidgetAs<QLineEdit>(FormControls().Text4);
     AnswerNextBox({Qt::Key_Return});
     field.selectAll();
     QTest::keyClicks(&field, "32768");
@@ -49,13 +49,13 @@ TEST_F(AfterAFailure, NothingRunsAnyMore) {
   Fail();
   QTest::keyClicks(&Row(0), "rt 1");
   QTest::keyClick(&Row(0), Qt::Key_Return);
-  EXPECT_EQ(Controls().List4.Items(), std::vector<std::string>{"?SHOW DIA"});
+  EXPECT_EQ(FormControls().List4.Items(), std::vector<std::string>{"?SHOW DIA"});
 }
 
 TEST_F(EndOfSessionTest, AMouseMoveAtAResolutionOfNothingEndsTheProgram) {
   Enter("cs");
   Enter("show dia");
-  auto& field = WidgetAs<QLineEdit>(Controls().Text3);
+  auto& field = WidgetAs<QLineEdit>(FormControls().Text3);
   field.selectAll();
   QTest::keyClick(&field, Qt::Key_Delete);
   ASSERT_FALSE(session->HasEnded());
@@ -83,7 +83,7 @@ TEST_F(EndOfSessionTest, ClosingTheIdleWindowEndsWithoutAQuestion) {
 }
 
 TEST_F(EndOfSessionTest, ClosingTheIdleWindowWritesNothing) {
-  Controls().Text2.Text = "TO A";
+  FormControls().Text2.Text = "TO A";
   Shown().close();
   EXPECT_FALSE(HasFile("Rescued.ZRM"));
 }

@@ -17,7 +17,7 @@ TEST_F(FileDialogsTest, AnOpenedProgramIsLoaded) {
   const std::string name = FullName("box.zrm");
   AnswerNextBox({Qt::Key_Return}, name.c_str());
   Enter("show open");
-  EXPECT_EQ(Controls().List3.Items(), std::vector<std::string>{"TO BOX"});
+  EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO BOX"});
   EXPECT_EQ(System().files.programFiles.CurrentFileName.substr(0, 1), "\\");
 }
 
@@ -25,7 +25,7 @@ TEST_F(FileDialogsTest, ACancelledDialogDoesNothing) {
   AnswerNextBox({Qt::Key_Escape});
   Enter("show open");
   EXPECT_EQ(Boxes.size(), 1u);
-  EXPECT_EQ(Controls().List4.Items(), std::vector<std::string>{"?SHOW OPEN"});
+  EXPECT_EQ(FormControls().List4.Items(), std::vector<std::string>{"?SHOW OPEN"});
 }
 
 TEST_F(FileDialogsTest, AnotherKindOfFileIsRefusedWithACriticalBox) {

@@ -18,8 +18,8 @@ class HelpViewTest : public DesktopTest {
     WriteFile("ZMHELP/FD", "FD moves the turtle.\r\n");
     WriteFile("ZMHELP/RT", "RT turns it.\r\n");
   }
-  QTextEdit& Page() { return WidgetAs<QTextEdit>(Controls().RichTextBox1); }
-  QListWidget& List() { return WidgetAs<QListWidget>(Controls().File1); }
+  QTextEdit& Page() { return WidgetAs<QTextEdit>(FormControls().RichTextBox1); }
+  QListWidget& List() { return WidgetAs<QListWidget>(FormControls().File1); }
   void PressEntry(int index, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(List().viewport(), button, {}, List().visualItemRect(List().item(index)).center());
   }
@@ -42,7 +42,7 @@ TEST_F(HelpViewTest, TheListStandsOnTheLeftAndThePageOnTheRight) {
 
 TEST_F(HelpViewTest, TheRowsStayInSightAndUsable) {
   Enter("help");
-  EXPECT_FALSE(Page().geometry().intersects(WidgetOf(Controls().Picture3).geometry()));
+  EXPECT_FALSE(Page().geometry().intersects(WidgetOf(FormControls().Picture3).geometry()));
   Enter("help fd");
   EXPECT_EQ(Page().toPlainText().trimmed(), "FD moves the turtle.");
 }

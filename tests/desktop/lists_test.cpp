@@ -55,12 +55,12 @@ TEST_F(ListEntriesTest, AllEntriesAreAsWideAsTheWidest) {
 
 class ListsTest : public DesktopTest {
  protected:
-  QListView& History() { return WidgetAs<QListView>(Controls().List4); }
+  QListView& History() { return WidgetAs<QListView>(FormControls().List4); }
 };
 
 TEST_F(ListsTest, AListThatNobodyLooksAtIsNotFilled) {
   bool filled = false;
-  Controls().List1.SetLazily([&] {
+  FormControls().List1.SetLazily([&] {
     filled = true;
     return std::vector<std::string>{"1"};
   });
@@ -69,9 +69,9 @@ TEST_F(ListsTest, AListThatNobodyLooksAtIsNotFilled) {
 }
 
 TEST_F(ListsTest, AListIsFilledWhenItsPanelOpens) {
-  Controls().List1.SetLazily([] { return std::vector<std::string>{" 1  TO A"}; });
+  FormControls().List1.SetLazily([] { return std::vector<std::string>{" 1  TO A"}; });
   session->Deliver([](Form1& form1) { form1.controls.Frame1.Show(); });
-  EXPECT_EQ(WidgetAs<QListView>(Controls().List1).model()->index(0, 0).data().toString(), " 1  TO A");
+  EXPECT_EQ(WidgetAs<QListView>(FormControls().List1).model()->index(0, 0).data().toString(), " 1  TO A");
 }
 
 TEST_F(ListsTest, TheHistoryOpensAtItsEnd) {
@@ -98,7 +98,7 @@ TEST_F(ListsTest, AReaderInTheHistoryStaysWhereHeIs) {
 
 TEST_F(ListsTest, TheLastEntryOfTheHistoryIsNotHiddenByTheRows) {
   Press(Qt::Key_F3);
-  EXPECT_FALSE(History().geometry().intersects(WidgetOf(Controls().Picture3).geometry()));
+  EXPECT_FALSE(History().geometry().intersects(WidgetOf(FormControls().Picture3).geometry()));
 }
 
 TEST_F(ListsTest, WithoutTheRowsTheHistoryIsAsHighAsItSays) {

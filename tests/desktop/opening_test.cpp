@@ -22,9 +22,9 @@ TEST_F(OpeningTest, AProgramIsLoadedAsShowOpenLoadsIt) {
   WriteFile("Box One.ZRM", "TO BOX\r\nFD 10\r\nEND\r\n");
   session->Greet({}, PathOf("Box One.ZRM"));
   const std::string nameWithoutEnding = SystemNameOf("Box One");
-  EXPECT_EQ(Controls().List4.Items(), Items{"? LOAD " + nameWithoutEnding});
-  EXPECT_EQ(Controls().List3.Items(), Items{"TO BOX"});
-  EXPECT_EQ(Controls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
+  EXPECT_EQ(FormControls().List4.Items(), Items{"? LOAD " + nameWithoutEnding});
+  EXPECT_EQ(FormControls().List3.Items(), Items{"TO BOX"});
+  EXPECT_EQ(FormControls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
   EXPECT_EQ(System().files.programFiles.CurrentFileName, nameWithoutEnding);
   EXPECT_TRUE(Boxes.empty());
 }
@@ -32,14 +32,14 @@ TEST_F(OpeningTest, AProgramIsLoadedAsShowOpenLoadsIt) {
 TEST_F(OpeningTest, NothingElseDiffersFromShowOpenThanTheTypedLine) {
   WriteFile("box.zrm", "TO BOX\r\nFD 10\r\nEND\r\n");
   session->Greet({}, PathOf("box.zrm"));
-  const Items history = Controls().List4.Items();
-  const Items lines = Controls().List1.Items();
+  const Items history = FormControls().List4.Items();
+  const Items lines = FormControls().List1.Items();
   const std::string name = PathOf("box.zrm").string();
   AnswerNextBox({Qt::Key_Return}, name.c_str());
   Enter("show open");
-  EXPECT_EQ(Controls().List4.Items(), (Items{history[0], "?SHOW OPEN", history[0]}));
+  EXPECT_EQ(FormControls().List4.Items(), (Items{history[0], "?SHOW OPEN", history[0]}));
   EXPECT_EQ(lines, (Items{" 1  TO BOX", " 2  FD 10", " 3  END"}));
-  EXPECT_EQ(Controls().List1.Items().size(), 2 * lines.size());
+  EXPECT_EQ(FormControls().List1.Items().size(), 2 * lines.size());
 }
 
 TEST_F(OpeningTest, ThePathMayHaveUmlautsAndBeginAtTheCurrentFolder) {
@@ -49,7 +49,7 @@ TEST_F(OpeningTest, ThePathMayHaveUmlautsAndBeginAtTheCurrentFolder) {
   file.write("TO BEAR\r\nEND\r\n");
   file.close();
   session->Greet({}, fs::path(u8"Schöne Bilder") / u8"Bär.zrm");
-  EXPECT_EQ(Controls().List3.Items(), Items{"TO BEAR"});
+  EXPECT_EQ(FormControls().List3.Items(), Items{"TO BEAR"});
 }
 
 TEST_F(OpeningTest, APictureIsShown) {
@@ -57,8 +57,8 @@ TEST_F(OpeningTest, APictureIsShown) {
   picture.fill(Qt::red);
   ASSERT_TRUE(picture.save(folder.filePath("red.bmp")));
   session->Greet({}, PathOf("red.bmp"));
-  ASSERT_EQ(Controls().List4.Items().size(), 1u);
-  EXPECT_EQ(Controls().List4.Items()[0].substr(0, 14), "? LOADPICTURE ");
+  ASSERT_EQ(FormControls().List4.Items().size(), 1u);
+  EXPECT_EQ(FormControls().List4.Items()[0].substr(0, 14), "? LOADPICTURE ");
   EXPECT_EQ(System().Picture1.Point(30, 30), RGB(255, 0, 0));
 }
 
@@ -75,7 +75,7 @@ TEST_F(OpeningTest, AMissingFileOfAnotherKindIsTold) {
   session->Greet({}, PathOf("missing.jpg"));
   ASSERT_EQ(Boxes.size(), 1u);
   EXPECT_EQ(Boxes[0].Text, "There is no file " + SystemNameOf("missing.jpg"));
-  EXPECT_TRUE(Controls().List4.Items().empty());
+  EXPECT_TRUE(FormControls().List4.Items().empty());
 }
 
 TEST_F(OpeningTest, AnotherKindOfFileIsRefused) {
@@ -97,22 +97,22 @@ TEST_F(OpeningTest, TheNextShowOpenAsksAgain) {
 TEST_F(OpeningTest, WhatIsToTellComesBeforeTheFile) {
   WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
   Items whileBoxStands{"not looked"};
-  WhileABoxStands([&] { whileBoxStands = Controls().List3.Items(); });
+  WhileABoxStands([&] { whileBoxStands = FormControls().List3.Items(); });
   session->Greet("Your folder can not be written.", PathOf("box.zrm"));
   ASSERT_EQ(Boxes.size(), 1u);
   EXPECT_EQ(Boxes[0].Text, "Your folder can not be written.");
   EXPECT_EQ(Boxes[0].Title, "Zerimo");
   EXPECT_FALSE(Boxes[0].Icon.isNull());
   EXPECT_TRUE(whileBoxStands.empty());
-  EXPECT_EQ(Controls().List3.Items(), Items{"TO BOX"});
+  EXPECT_EQ(FormControls().List3.Items(), Items{"TO BOX"});
 }
 
 TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
   WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
   session->Deliver([](Form1& form) { form.controls.Timer2.Enabled = true; });
   session->Greet({}, PathOf("box.zrm"));
-  EXPECT_TRUE(Controls().List3.Items().empty());
-  EXPECT_TRUE(Until([this] { return Controls().List3.Items() == Items{"TO BOX"}; }));
+  EXPECT_TRUE(FormControls().List3.Items().empty());
+  EXPECT_TRUE(Until([this] { return FormControls().List3.Items() == Items{"TO BOX"}; }));
   EXPECT_EQ(Focused(), &Row(0));
 }
 

@@ -15,10 +15,10 @@ class PalettePanelTest : public DesktopTest {
     Enter("cs");
     Enter("show pal");
   }
-  QWidget& Square(int code) { return WidgetOf(Controls().Label13[code]); }
-  QWidget& Apply() { return WidgetOf(Controls().Label14); }
-  QWidget& Panel() { return WidgetOf(Controls().Picture2); }
-  const std::string& Command() { return Controls().Label15.Caption; }
+  QWidget& Square(int code) { return WidgetOf(FormControls().Label13[code]); }
+  QWidget& Apply() { return WidgetOf(FormControls().Label14); }
+  QWidget& Panel() { return WidgetOf(FormControls().Picture2); }
+  const std::string& Command() { return FormControls().Label15.Caption; }
   void Drag(QWidget& from, QPoint grab, QPoint by) {
     QTest::mousePress(&from, Qt::LeftButton, {}, grab);
     // The panel follows the pointer, so that the place on it stays the same from the second step on.
@@ -67,8 +67,8 @@ TEST_F(PalettePanelTest, TheSquaresHaveTheColoursOfTheirCodes) {
 
 TEST_F(PalettePanelTest, AChosenSquareIsFramed) {
   QTest::mouseClick(&Square(3), Qt::LeftButton);
-  EXPECT_EQ(Controls().Shape5.Left, Controls().Label13[3].Left);
-  EXPECT_EQ(Controls().Shape7.Top, Controls().Label13[3].Top);
+  EXPECT_EQ(FormControls().Shape5.Left, FormControls().Label13[3].Left);
+  EXPECT_EQ(FormControls().Shape7.Top, FormControls().Label13[3].Top);
   const QPoint corner = Square(3).geometry().topLeft();
   EXPECT_EQ(Panel().grab().toImage().pixelColor(corner), QColor(0, 255, 0));
   EXPECT_EQ(Panel().grab().toImage().pixelColor(corner + QPoint(-1, 10)), QColor(255, 0, 0));
@@ -76,21 +76,21 @@ TEST_F(PalettePanelTest, AChosenSquareIsFramed) {
 
 TEST_F(PalettePanelTest, TheSquareUnderThePointerIsMarked) {
   QTest::mouseMove(&Square(5), {10, 10});
-  EXPECT_TRUE(Until([this] { return Controls().Label13[5].BorderStyle == 0; }));
-  EXPECT_EQ(Controls().Label13[4].BorderStyle, 1);
+  EXPECT_TRUE(Until([this] { return FormControls().Label13[5].BorderStyle == 0; }));
+  EXPECT_EQ(FormControls().Label13[4].BorderStyle, 1);
 }
 
 TEST_F(PalettePanelTest, ApplyTurnsRedUnderThePointerAndWhiteOnThePanel) {
   QTest::mouseMove(&Apply(), {10, 5});
-  EXPECT_TRUE(Until([this] { return Controls().Label14.BackColor == 255; }));
+  EXPECT_TRUE(Until([this] { return FormControls().Label14.BackColor == 255; }));
   EXPECT_EQ(Apply().grab().toImage().pixelColor(3, 3), QColor(255, 0, 0));
   QTest::mouseMove(&Panel(), {3, 100});
-  EXPECT_TRUE(Until([this] { return Controls().Label14.BackColor == 0xFFFFFF; }));
+  EXPECT_TRUE(Until([this] { return FormControls().Label14.BackColor == 0xFFFFFF; }));
 }
 
 TEST_F(PalettePanelTest, AClickOnApplyRightAfterTheStartRunsSetpc15) {
   Enter("setpc 4");
-  Controls().Label15.Caption = "Setpc 15";
+  FormControls().Label15.Caption = "Setpc 15";
   QTest::mouseClick(&Apply(), Qt::LeftButton);
   EXPECT_EQ(System().turtle.PenColor, 15);
 }
@@ -120,7 +120,7 @@ TEST_F(PalettePanelTest, TheKeyboardChoosesAndApplies) {
 }
 
 TEST_F(PalettePanelTest, AScreenReaderPressesASquare) {
-  WidgetAs<QAbstractButton>(Controls().Label13[2]).click();
+  WidgetAs<QAbstractButton>(FormControls().Label13[2]).click();
   EXPECT_EQ(Command(), "Setpc 2");
 }
 
@@ -134,7 +134,7 @@ TEST_F(PalettePanelTest, ItLandsWithTheOffsetWithWhichItWasTaken) {
   const QPoint before = Panel().pos();
   Drag(Panel(), {4, 200}, {-150, 90});
   EXPECT_EQ(Panel().pos(), before + QPoint(-150, 90));
-  EXPECT_EQ(Controls().Picture2.Left, static_cast<float>(15 * (before.x() - 150)));
+  EXPECT_EQ(FormControls().Picture2.Left, static_cast<float>(15 * (before.x() - 150)));
   EXPECT_EQ(System().graphics.palette.PaletteGrabX, 60);
   EXPECT_EQ(System().graphics.palette.PaletteGrabY, 3000);
 }
@@ -152,14 +152,14 @@ TEST_F(PalettePanelTest, DroppedOnTheRowsItGoesBackToItsPlace) {
 }
 
 TEST_F(PalettePanelTest, ItRollsUpIntoTheCornerAndUnrolls) {
-  QTest::mouseClick(&WidgetOf(Controls().Command4), Qt::LeftButton);
+  QTest::mouseClick(&WidgetOf(FormControls().Command4), Qt::LeftButton);
   EXPECT_EQ(Panel().geometry(), QRect(0, 0, 168, 21));
-  QTest::mouseClick(&WidgetOf(Controls().Command5), Qt::LeftButton);
+  QTest::mouseClick(&WidgetOf(FormControls().Command5), Qt::LeftButton);
   EXPECT_EQ(Panel().height(), 241);
 }
 
 TEST_F(PalettePanelTest, ItsButtonClosesIt) {
-  QTest::mouseClick(&WidgetOf(Controls().Command3), Qt::LeftButton);
+  QTest::mouseClick(&WidgetOf(FormControls().Command3), Qt::LeftButton);
   EXPECT_FALSE(Panel().isVisible());
 }
 

@@ -15,7 +15,7 @@ TEST_F(RowsTest, TheFirstRowHasTheFocusAfterTheStart) { EXPECT_EQ(Focused(), &Ro
 TEST_F(RowsTest, ALineTypedWithKeysRuns) {
   const double start = System().turtle.TurtleY;
   Enter("fd   10");
-  EXPECT_EQ(Controls().List4.Items(), Texts{"?FD 10"});
+  EXPECT_EQ(FormControls().List4.Items(), Texts{"?FD 10"});
   EXPECT_EQ(System().turtle.TurtleY, start - 500);
 }
 
@@ -28,7 +28,7 @@ TEST_F(RowsTest, EnterGivesTheFocusToTheNextRowAndKeepsTheText) {
 TEST_F(RowsTest, TheEnterKeyOfTheNumberPadEntersToo) {
   Type("rt 90");
   Press(Qt::Key_Enter);
-  EXPECT_EQ(Controls().List4.Items(), Texts{"?RT 90"});
+  EXPECT_EQ(FormControls().List4.Items(), Texts{"?RT 90"});
 }
 
 TEST_F(RowsTest, ALineOnTheLastRowScrollsTheRows) {
@@ -53,7 +53,7 @@ TEST_F(RowsTest, ScrollingWithTheDiagnosisPanelOpenMovesTheFocusToTheLineWidth) 
   Enter("show dia");
   for (int row = 1; row < 4; ++row) Enter("rt 1");
   Enter("rt 5");
-  EXPECT_EQ(Focused(), &WidgetOf(Controls().Text4));
+  EXPECT_EQ(Focused(), &WidgetOf(FormControls().Text4));
 }
 
 TEST_F(RowsTest, TheArrowsMoveAroundTheRows) {
@@ -67,19 +67,19 @@ TEST_F(RowsTest, TheArrowsMoveAroundTheRows) {
 
 TEST_F(RowsTest, AMouseClickOnARowGivesItTheFocusInTheData) {
   QTest::mouseClick(&Row(3), Qt::LeftButton);
-  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[3]);
+  EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[3]);
 }
 
 TEST_F(RowsTest, TheTabKeyMovesTheFocusInTheData) {
   Press(Qt::Key_Tab);
-  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[1]);
+  EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[1]);
 }
 
 TEST_F(RowsTest, AnOldLineRunsAgain) {
   Enter("rt 1");
   Press(Qt::Key_Up);
   Press(Qt::Key_Return);
-  EXPECT_EQ(Controls().List4.Items(), (Texts{"?RT 1", "?RT 1"}));
+  EXPECT_EQ(FormControls().List4.Items(), (Texts{"?RT 1", "?RT 1"}));
 }
 
 /// Rows 0 and 1 hold "rt 1" and "rt 2", and the focus has come to row 1 with Enter.
@@ -98,12 +98,12 @@ TEST_F(OldLines, ALineTypedWhereEnterLedTakesThePlaceOfTheOldOne) {
   ASSERT_EQ(Focused(), &Row(1));
   Enter("fd 3");
   EXPECT_EQ(Row(1).text(), "fd 3");
-  EXPECT_EQ(Controls().List4.Items().back(), "?FD 3");
+  EXPECT_EQ(FormControls().List4.Items().back(), "?FD 3");
 }
 
 TEST_F(OldLines, EnterAloneRunsTheOldOneAgain) {
   Press(Qt::Key_Return);
-  EXPECT_EQ(Controls().List4.Items().back(), "?RT 2");
+  EXPECT_EQ(FormControls().List4.Items().back(), "?RT 2");
 }
 
 TEST_F(OldLines, AClickOnTheDrawingMakesRoomForANewLineOnTheFirstRow) {
@@ -140,28 +140,28 @@ TEST_F(RowsTest, PastedLinesAndTabsBecomeOneLineWithBlanks) {
   QApplication::clipboard()->setText("\tfd\t10\nrt 90");
   Row(0).paste();
   Press(Qt::Key_Return);
-  EXPECT_EQ(Controls().List4.Items(), Texts{"?FD 10 RT 90"});
+  EXPECT_EQ(FormControls().List4.Items(), Texts{"?FD 10 RT 90"});
 }
 
 TEST_F(RowsTest, F1OpensTheEditorAndTypingGoesThere) {
   Press(Qt::Key_F1);
   EXPECT_TRUE(Editor().isVisible());
-  EXPECT_FALSE(WidgetOf(Controls().Picture3).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().Picture3).isVisible());
   EXPECT_EQ(Focused(), &Editor());
 }
 
 TEST_F(RowsTest, F3ShowsTheTextScreenAndF2TheDrawing) {
   Press(Qt::Key_F3);
-  EXPECT_TRUE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_TRUE(WidgetOf(FormControls().List4).isVisible());
   EXPECT_TRUE(Row(0).isVisible());
   Press(Qt::Key_F2);
-  EXPECT_FALSE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().List4).isVisible());
 }
 
 TEST_F(RowsTest, F4HidesTheRowsAndThenNothingHasTheFocus) {
   Press(Qt::Key_F4);
   EXPECT_FALSE(Row(0).isVisible());
-  EXPECT_EQ(Controls().Focus.Focus(), nullptr);
+  EXPECT_EQ(FormControls().Focus.Focus(), nullptr);
   EXPECT_EQ(WidgetOf(System().Picture1).height(), 768);
 }
 
@@ -184,20 +184,20 @@ TEST_F(RowsTest, F2OnTheSurfaceGivesTheFocusToTheFirstRow) {
 
 TEST_F(RowsTest, F1ToF4OnTheHistoryActToo) {
   Press(Qt::Key_F3);
-  QTest::mouseClick(WidgetAs<QAbstractScrollArea>(Controls().List4).viewport(), Qt::LeftButton);
-  ASSERT_EQ(Focused(), &WidgetOf(Controls().List4));
+  QTest::mouseClick(WidgetAs<QAbstractScrollArea>(FormControls().List4).viewport(), Qt::LeftButton);
+  ASSERT_EQ(Focused(), &WidgetOf(FormControls().List4));
   Press(Qt::Key_F2);
-  EXPECT_FALSE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().List4).isVisible());
   EXPECT_EQ(Focused(), &Row(0));
 }
 
 TEST_F(RowsTest, EscapeClosesThePanels) {
   Enter("show dia");
   Enter("show pal");
-  ASSERT_TRUE(WidgetOf(Controls().Frame1).isVisible());
+  ASSERT_TRUE(WidgetOf(FormControls().Frame1).isVisible());
   Press(Qt::Key_Escape);
-  EXPECT_FALSE(WidgetOf(Controls().Frame1).isVisible());
-  EXPECT_FALSE(WidgetOf(Controls().Picture2).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().Frame1).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().Picture2).isVisible());
 }
 
 TEST_F(RowsTest, F9AsksForAProgramAndLoadsIt) {
@@ -207,14 +207,14 @@ TEST_F(RowsTest, F9AsksForAProgramAndLoadsIt) {
   ASSERT_EQ(Boxes.size(), 1u);
   EXPECT_EQ(Boxes[0].Title, "Load Zerimo File");
   EXPECT_EQ(Boxes[0].Text, "Enter the File Name");
-  EXPECT_EQ(Controls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
+  EXPECT_EQ(FormControls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
 }
 
 TEST_F(RowsTest, F9WithACancelledBoxLoadsNothing) {
   AnswerNextBox({Qt::Key_Escape}, "Box");
   Press(Qt::Key_F9);
   EXPECT_EQ(Boxes.size(), 1u);
-  EXPECT_EQ(Controls().Text2.Text, "");
+  EXPECT_EQ(FormControls().Text2.Text, "");
 }
 
 TEST_F(RowsTest, CtEmptiesTheRowsAndTheOneShotGivesTheFocusToTheFirst) {
@@ -227,7 +227,7 @@ TEST_F(RowsTest, CtEmptiesTheRowsAndTheOneShotGivesTheFocusToTheFirst) {
 
 TEST_F(RowsTest, ACharacterThatTheSystemDoesNotHaveBecomesAQuestionMark) {
   Enter("print \"a\xE2\x82\xAC\xC3\xA4\"");
-  EXPECT_EQ(Controls().Text1[0].Text, "print \"a?\xE4\"");
+  EXPECT_EQ(FormControls().Text1[0].Text, "print \"a?\xE4\"");
 }
 
 TEST_F(RowsTest, PastedTypographicQuotesBecomePlain) {

@@ -30,9 +30,9 @@ TEST_F(RunsTest, ALineEnteredDuringARunRunsAfterwardsOnce) {
     QTest::keyClick(&Row(1), Qt::Key_Return);
   });
   Enter("wait 100");
-  EXPECT_EQ(Controls().List4.Items(), Texts{"?WAIT 100"});
-  EXPECT_TRUE(Until([this] { return Controls().List4.Items().size() == 2; }));
-  EXPECT_EQ(Controls().List4.Items(), (Texts{"?WAIT 100", "?RT 5"}));
+  EXPECT_EQ(FormControls().List4.Items(), Texts{"?WAIT 100"});
+  EXPECT_TRUE(Until([this] { return FormControls().List4.Items().size() == 2; }));
+  EXPECT_EQ(FormControls().List4.Items(), (Texts{"?WAIT 100", "?RT 5"}));
 }
 
 TEST_F(RunsTest, ALongTextTypedDuringARunArrivesWhole) {
@@ -55,23 +55,23 @@ TEST_F(RunsTest, AKeyThatSomethingLiesOnIsKeptForAWhileOnly) {
 
 TEST_F(RunsTest, AClickDuringARunActsAfterwards) {
   Enter("show dia");
-  During(30, [this] { QTest::mouseClick(&WidgetOf(Controls().Command1), Qt::LeftButton); });
+  During(30, [this] { QTest::mouseClick(&WidgetOf(FormControls().Command1), Qt::LeftButton); });
   Enter("wait 100");
-  EXPECT_TRUE(WidgetOf(Controls().Frame1).isVisible());
-  EXPECT_TRUE(Until([this] { return !WidgetOf(Controls().Frame1).isVisible(); }));
+  EXPECT_TRUE(WidgetOf(FormControls().Frame1).isVisible());
+  EXPECT_TRUE(Until([this] { return !WidgetOf(FormControls().Frame1).isVisible(); }));
 }
 
 TEST_F(RunsTest, ATimerThatComesDueDuringARunFiresOnceAfterwards) {
   int captions = 0;
-  Controls().Timer4.Interval = 10;
+  FormControls().Timer4.Interval = 10;
   Enter("show time");
-  Controls().Form1.OnCaption = [&](const std::string&) { ++captions; };
+  FormControls().Form1.OnCaption = [&](const std::string&) { ++captions; };
   During(5, [&] { captions = 0; });
   int whileRunning = -1;
   During(90, [&] { whileRunning = captions; });
   Enter("wait 100");
   EXPECT_EQ(whileRunning, 0);
-  Controls().Timer4.Interval = 10000;
+  FormControls().Timer4.Interval = 10000;
   EXPECT_TRUE(Until([&] { return captions > 0; }));
   QTest::qWait(30);
   EXPECT_EQ(captions, 1);
@@ -79,9 +79,9 @@ TEST_F(RunsTest, ATimerThatComesDueDuringARunFiresOnceAfterwards) {
 
 TEST_F(RunsTest, ATimerDoesNotTickWhileABoxStands) {
   int captions = 0;
-  Controls().Timer4.Interval = 5;
+  FormControls().Timer4.Interval = 5;
   Enter("show time");
-  Controls().Form1.OnCaption = [&](const std::string&) { ++captions; };
+  FormControls().Form1.OnCaption = [&](const std::string&) { ++captions; };
   int before = 0;
   int after = -1;
   WhileABoxStands([&] {
@@ -96,7 +96,7 @@ TEST_F(RunsTest, ATimerDoesNotTickWhileABoxStands) {
 TEST_F(RunsTest, WaitHoldsForItsTimeAndShowsTheStateBefore) {
   Enter("show dia");
   QString shown;
-  During(50, [&] { shown = WidgetAs<QLabel>(Controls().Label19).text(); });
+  During(50, [&] { shown = WidgetAs<QLabel>(FormControls().Label19).text(); });
   QElapsedTimer clock;
   clock.start();
   Enter("wait 100");
@@ -108,7 +108,7 @@ TEST_F(RunsTest, ThePictureGrowsWhileALineRuns) {
   Enter("show dia");
   Texts seen;
   for (int time = 40; time <= 200; time += 40) {
-    During(time, [&] { seen.push_back(WidgetAs<QLabel>(Controls().Label19).text().toStdString()); });
+    During(time, [&] { seen.push_back(WidgetAs<QLabel>(FormControls().Label19).text().toStdString()); });
   }
   During(250, [this] { Shown().close(); });
   Enter("repeat 30000 [rt 1]");
@@ -130,7 +130,7 @@ TEST_F(RunsTest, ClosingTheWindowEndsAnEvaluationThatDoesNotEnd) {
 }
 
 TEST_F(RunsTest, ClosingTheWindowDuringARunRescuesTheEditorsText) {
-  Controls().Text2.Text = "TO A\r\nEND";
+  FormControls().Text2.Text = "TO A\r\nEND";
   During(50, [this] { Shown().close(); });
   Enter("label a goto a");
   EXPECT_EQ(ReadFile("Rescued.ZRM"), "TO A\r\nEND");
@@ -155,7 +155,7 @@ TEST_F(RunsTest, ClosingTheWindowEndsAWait) {
 TEST_F(RunsTest, TheTextScreenFillsWhileALineRuns) {
   Press(Qt::Key_F3);
   int rows = 0;
-  auto& list = WidgetAs<QAbstractItemView>(Controls().List4);
+  auto& list = WidgetAs<QAbstractItemView>(FormControls().List4);
   During(100, [&] {
     rows = list.model()->rowCount();
     Shown().close();

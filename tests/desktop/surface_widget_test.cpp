@@ -15,7 +15,7 @@ class SurfaceWidgetTest : public DesktopTest {
     int step = 0;
     ASSERT_TRUE(Until([&] {
       Shown().move(120 + ++step, 80);
-      return Controls().Form1.Left != 0;
+      return FormControls().Form1.Left != 0;
     }));
   }
   std::string HintAt(int x, int y) {
@@ -34,9 +34,9 @@ TEST_F(SurfaceWidgetTest, TheTitlePictureGreetsTheUser) {
 
 TEST_F(SurfaceWidgetTest, TheCaptionsStandAfterDrawAndGoWithCs) {
   Enter("draw");
-  for (int index = 0; index < 4; ++index) EXPECT_TRUE(WidgetOf(Controls().Label20[index]).isVisible());
+  for (int index = 0; index < 4; ++index) EXPECT_TRUE(WidgetOf(FormControls().Label20[index]).isVisible());
   Enter("cs");
-  for (int index = 0; index < 4; ++index) EXPECT_FALSE(WidgetOf(Controls().Label20[index]).isVisible());
+  for (int index = 0; index < 4; ++index) EXPECT_FALSE(WidgetOf(FormControls().Label20[index]).isVisible());
 }
 
 TEST_F(SurfaceWidgetTest, WhatIsDrawnIsShown) {
@@ -103,7 +103,7 @@ TEST_F(SurfaceWidgetTest, TheTitlePictureGivesNoHint) {
 
 TEST_F(SurfaceWidgetTest, AClickGivesTheFocusToTheFirstEmptyRowAndThenToTheFirst) {
   Enter("cs");
-  Controls().Timer2.Interval = 50;
+  FormControls().Timer2.Interval = 50;
   QTest::mouseClick(&Surface(), Qt::LeftButton, {}, {300, 300});
   EXPECT_EQ(Focused(), &Row(1));
   Settle();
@@ -123,7 +123,7 @@ TEST_F(SurfaceWidgetTest, AClickBringsAMovedWindowBackIntoItsCorner) {
   DragWindowAway();
   QTest::mouseClick(&Surface(), Qt::LeftButton, {}, {300, 300});
   EXPECT_EQ(Shown().pos(), QPoint(0, 0));
-  EXPECT_EQ(Controls().Form1.Left, 0);
+  EXPECT_EQ(FormControls().Form1.Left, 0);
 }
 
 TEST_F(SurfaceWidgetTest, AClickOnTheTitlePictureBringsTheWindowBackToo) {
@@ -134,7 +134,7 @@ TEST_F(SurfaceWidgetTest, AClickOnTheTitlePictureBringsTheWindowBackToo) {
 }
 
 TEST_F(SurfaceWidgetTest, AClickOnACaptionLeavesTheFocusOnTheRow) {
-  QTest::mouseClick(&WidgetOf(Controls().Label20[1]), Qt::LeftButton);
+  QTest::mouseClick(&WidgetOf(FormControls().Label20[1]), Qt::LeftButton);
   EXPECT_EQ(Focused(), &Row(0));
 }
 

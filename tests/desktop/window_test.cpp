@@ -33,14 +33,14 @@ TEST_P(Screens, ShowAllRowsWholeAndUsable) {
     EXPECT_EQ(Row(row).height(), 25);
     QTest::mouseClick(&Row(row), Qt::LeftButton);
     QTest::keyClicks(&Row(row), "rt 1");
-    EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[row]);
+    EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[row]);
     EXPECT_EQ(Row(row).text(), "rt 1");
   }
 }
 
 TEST_P(Screens, TakeTheirSizeIntoTheData) {
-  EXPECT_EQ(Controls().Screen.Width, static_cast<float>(15 * GetParam().Width));
-  EXPECT_EQ(Controls().Screen.Height, static_cast<float>(15 * GetParam().Height));
+  EXPECT_EQ(FormControls().Screen.Width, static_cast<float>(15 * GetParam().Width));
+  EXPECT_EQ(FormControls().Screen.Height, static_cast<float>(15 * GetParam().Height));
 }
 
 TEST_P(Screens, KeepTheEditorInsideTheWindow) {
@@ -52,7 +52,7 @@ TEST_P(Screens, KeepThePanelsWithinReach) {
   Enter("show dia");
   Enter("show pal");
   for (const Control* panel :
-       {static_cast<Control*>(&Controls().Frame1), static_cast<Control*>(&Controls().Picture2)}) {
+       {static_cast<Control*>(&FormControls().Frame1), static_cast<Control*>(&FormControls().Picture2)}) {
     EXPECT_GE(WidgetOf(*panel).y(), 0);
     EXPECT_GE(WidgetOf(*panel).x(), 0);
   }
@@ -76,26 +76,26 @@ TEST_F(WindowTest, TheCaptionIsTheStatusLine) {
 }
 
 TEST_F(WindowTest, TheClockTellsTheTimeInTheDesktopsForm) {
-  Controls().Timer4.Interval = 5;
+  FormControls().Timer4.Interval = 5;
   Enter("show time");
   EXPECT_TRUE(Until([this] { return Shown().windowTitle().startsWith("Zerimo [ Time:"); }));
   EXPECT_TRUE(Shown().windowTitle().endsWith(" ]"));
 }
 
 TEST_F(WindowTest, TheRowsLieAtTheirPlaces) {
-  EXPECT_EQ(WidgetOf(Controls().Picture3).geometry(), QRect(0, 612, 1024, 129));
+  EXPECT_EQ(WidgetOf(FormControls().Picture3).geometry(), QRect(0, 612, 1024, 129));
   EXPECT_EQ(Row(4).geometry(), QRect(16, 96, 1008, 25));
-  EXPECT_EQ(WidgetOf(Controls().Prompt).geometry(), QRect(0, 0, 17, 121));
+  EXPECT_EQ(WidgetOf(FormControls().Prompt).geometry(), QRect(0, 0, 17, 121));
 }
 
 TEST_F(WindowTest, ATitleBarMovesTheRowsUp) {
   Shown().setFixedSize(1024, 728);
-  EXPECT_EQ(WidgetOf(Controls().Picture3).geometry(), QRect(0, 599, 1024, 129));
+  EXPECT_EQ(WidgetOf(FormControls().Picture3).geometry(), QRect(0, 599, 1024, 129));
 }
 
 TEST_F(WindowTest, EveryControlThatCanBeReachedHasAName) {
   int named = 0;
-  Controls().ForEach([&](Control& control) {
+  FormControls().ForEach([&](Control& control) {
     ControlView* view = Shown().FindView(control);
     if (view == nullptr) return;
     const QWidget& widget = view->Widget();
@@ -111,7 +111,7 @@ TEST_F(WindowTest, EveryControlThatCanBeReachedHasAName) {
 
 TEST_F(WindowTest, TheSmallButtonsHaveToolTips) {
   for (const Button* button :
-       {&Controls().Command1, &Controls().Command3, &Controls().Command4, &Controls().Command5}) {
+       {&FormControls().Command1, &FormControls().Command3, &FormControls().Command4, &FormControls().Command5}) {
     EXPECT_FALSE(WidgetOf(*button).toolTip().isEmpty()) << button->Name();
   }
 }
@@ -127,14 +127,14 @@ TEST_F(WindowTest, TheTabKeyReachesThePanelAfterTheRows) {
   Enter("show dia");
   Row(4).setFocus();
   Press(Qt::Key_Tab);
-  EXPECT_EQ(Focused()->parentWidget(), &WidgetOf(Controls().Frame1));
+  EXPECT_EQ(Focused()->parentWidget(), &WidgetOf(FormControls().Frame1));
 }
 
 TEST_F(WindowTest, TheTabKeyFindsTheFirstRowWhenNothingHasTheFocus) {
   Enter("show dia");
-  WidgetOf(Controls().Command1).setFocus();
+  WidgetOf(FormControls().Command1).setFocus();
   Press(Qt::Key_Return);
-  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   ASSERT_EQ(Focused(), &Shown());
   Press(Qt::Key_Tab);
   EXPECT_EQ(Focused(), &Row(0));
@@ -152,13 +152,13 @@ TEST_F(WindowTest, TypingGoesOnInTheLastRowWhenNothingHasTheFocus) {
   Enter("show dia");
   Press(Qt::Key_Down);
   ASSERT_EQ(Focused(), &Row(2));
-  WidgetOf(Controls().Command1).setFocus();
+  WidgetOf(FormControls().Command1).setFocus();
   Press(Qt::Key_Return);
-  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   QTest::keyClicks(&Shown(), "f");
   Type("d 10");
   EXPECT_EQ(Focused(), &Row(2));
-  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[2]);
+  EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[2]);
   EXPECT_EQ(Row(2).text(), "fd 10");
 }
 
@@ -166,17 +166,17 @@ TEST_F(WindowTest, KeysThatOnlyChangeOthersGiveNoFocus) {
   Press(Qt::Key_F4);
   for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_CapsLock}) {
     QTest::keyClick(&Shown(), key);
-    EXPECT_EQ(Controls().Focus.Focus(), nullptr) << key;
+    EXPECT_EQ(FormControls().Focus.Focus(), nullptr) << key;
   }
 }
 
 TEST_F(WindowTest, F2FromTheFullScreenLetsTheLearnerTypeOn) {
   Enter("rt 1");
   Press(Qt::Key_F4);
-  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   QTest::keyClick(&Shown(), Qt::Key_F2);
   EXPECT_TRUE(Row(0).isVisible());
-  EXPECT_EQ(Controls().Focus.Focus(), &Controls().Text1[0]);
+  EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[0]);
   EXPECT_EQ(Focused(), &Row(0));
 }
 
@@ -186,25 +186,25 @@ TEST_F(WindowTest, InFullScreenF1OpensTheEditorAndF3TheTextScreen) {
   EXPECT_EQ(Focused(), &Editor());
   Press(Qt::Key_F4);
   QTest::keyClick(&Shown(), Qt::Key_F3);
-  EXPECT_TRUE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_TRUE(WidgetOf(FormControls().List4).isVisible());
 }
 
 TEST_F(WindowTest, F2BringsEverythingBackFromTheTextScreenWithoutRows) {
   Press(Qt::Key_F1);
   Press(Qt::Key_F3);
-  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   ASSERT_FALSE(Row(0).isVisible());
   QTest::keyClick(&Shown(), Qt::Key_F2);
-  EXPECT_FALSE(WidgetOf(Controls().List4).isVisible());
+  EXPECT_FALSE(WidgetOf(FormControls().List4).isVisible());
   EXPECT_EQ(Focused(), &Row(0));
 }
 
 TEST_F(WindowTest, AfterTheHelpViewTypingGoesOnInTheRow) {
   WriteFile("ZMHELP/FD", "forward");
   Enter("help fd");
-  WidgetOf(Controls().RichTextBox1).setFocus();
+  WidgetOf(FormControls().RichTextBox1).setFocus();
   Press(Qt::Key_Escape);
-  ASSERT_EQ(Controls().Focus.Focus(), nullptr);
+  ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   QTest::keyClick(&Shown(), Qt::Key_R);
   EXPECT_EQ(Focused(), &Row(1));
   EXPECT_EQ(Row(1).text(), "r");

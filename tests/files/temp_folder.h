@@ -23,7 +23,7 @@ class TempFolder {
   ~TempFolder() {
     std::error_code error;
     std::filesystem::current_path(former, error);
-    std::filesystem::remove_all(controlPath, error);
+    std::filesystem::remove_all(Path, error);
   }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;

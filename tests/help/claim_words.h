@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-/// The words of the pages' claims and what they stand for.
+/// The words in the claims of the pages and what they mean.
 namespace zerimo::help {
 
 /// Without the blanks at its end, which a page does not show.
@@ -12,7 +12,7 @@ std::string TrimmedRight(std::string text);
 /// "4 line, 1 circle" for people.
 std::string ToText(const std::map<std::string, int>& drawn);
 
-/// Whether a number of the system is the one a page tells; a minus number stands in brackets there.
+/// Whether a number of the system is the one that a page claims; there a negative number is in brackets.
 bool IsNear(double value, const std::string& told);
 
 /// The colour value by a name of the status line; -1 if there is none.

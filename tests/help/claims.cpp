@@ -1,6 +1,7 @@
 #include "claims.h"
 
 #include <QJsonArray>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <regex>
@@ -16,10 +17,10 @@ constexpr double twipsAcross = 15360;
 constexpr double twipsDown = 11520;
 constexpr double degreesOfATurn = 180 / 3.1415937;
 
-/// Far more than any example needs that comes to an end.
+/// Far more steps than any example needs that ends.
 const std::vector<std::string> stepLimit = {"--steps", "20000"};
 
-/// A text that is claimed; a page may tell only how a long one begins.
+/// A text that is claimed; a page may give only the beginning of a long one.
 struct ClaimedText {
   std::string Text;
   bool IsBeginning = false;
@@ -28,6 +29,12 @@ struct ClaimedText {
     return IsBeginning ? deed.starts_with(Text) : TrimmedRight(deed) == TrimmedRight(Text);
   }
 };
+
+QStringList NumbersInOrder(const QJsonObject& entries) {
+  QStringList numbers = entries.keys();
+  std::ranges::sort(numbers, {}, [](const QString& number) { return number.toInt(); });
+  return numbers;
+}
 
 class ClaimCheck {
  public:
@@ -42,7 +49,7 @@ class ClaimCheck {
     CompareTexts("picture", pictures, deeds.Pictures);
     if (goesOn != !run.EventsOf("stopped").empty())
       broken.push_back(goesOn ? "it comes to an end" : "it goes on for ever");
-    if (waits != deeds.Waits) broken.push_back("the waits are others than claimed");
+    if (waits != deeds.Waits) broken.push_back("the waits differ from those claimed");
     if (drawn != deeds.Drawn) broken.push_back("drawn: " + ToText(deeds.Drawn) + ", claimed: " + ToText(drawn));
     return broken;
   }
@@ -64,7 +71,7 @@ class ClaimCheck {
       if (broken.size() != before) broken.back() += " (" + claim + ")";
       return;
     }
-    broken.push_back("a claim that is no sentence of the pages: " + claim);
+    broken.push_back("a claim that is not one of the known sentences: " + claim);
   }
 
   void Expect(bool holds, const std::string& what) {
@@ -75,7 +82,7 @@ class ClaimCheck {
                     const std::vector<std::string>& done) {
     for (std::size_t i = 0; i < std::max(claimed.size(), done.size()); ++i) {
       if (i >= claimed.size()) {
-        broken.push_back("no claim tells of the " + what + " \"" + done[i] + "\"");
+        broken.push_back("no claim mentions the " + what + " \"" + done[i] + "\"");
       } else if (i >= done.size()) {
         broken.push_back("there is no " + what + " \"" + claimed[i].Text + "\"");
       } else if (!claimed[i].Fits(done[i])) {
@@ -103,7 +110,7 @@ class ClaimCheck {
     for (std::string name; names >> name;) pictures.push_back({name});
   }
 
-  /// The comparisons tell the rest: what no claim tells must not happen.
+  /// The comparisons check the rest: nothing may happen that no claim mentions.
   void NothingHappens(Words) {
     for (const char* kind : {"surface", "box", "input", "dialog", "sleep", "beep", "caption", "ended"})
       Expect(run.EventsOf(kind).empty(), std::string("an event: ") + kind);
@@ -134,6 +141,15 @@ class ClaimCheck {
     for (const QJsonValue& line : Dump("store")["lines"].toArray())
       lines += (lines.empty() ? "" : " / ") + line.toString().toStdString();
     Expect(lines == words[1], "it is " + lines);
+  }
+  void VariablesAre(Words words) {
+    const QJsonObject entries = Dump("variables")["slots"].toObject();
+    std::string all;
+    for (const QString& number : NumbersInOrder(entries)) {
+      const std::string slot = entries[number].toString().toStdString();
+      all += (all.empty() ? "" : " / ") + (slot == " " ? "(deleted)" : slot);
+    }
+    Expect(all == words[1], "they are " + all);
   }
   void StepIs(Words words) { Expect(IsNear(State("Resolution"), words[1]), "another step"); }
 
@@ -205,6 +221,7 @@ const std::vector<ClaimCheck::Sentence>& ClaimCheck::Sentences() {
       {std::regex("It goes on for ever\\."), &ClaimCheck::GoesOn},
       {std::regex("The control string is (.*)"), &ClaimCheck::ControlStringIs},
       {std::regex("The program is: (.*)"), &ClaimCheck::ProgramIs},
+      {std::regex("The variables are: (.*)"), &ClaimCheck::VariablesAre},
       {std::regex("It beeps\\."), &ClaimCheck::Beeps},
       {std::regex("Zerimo ends\\."), &ClaimCheck::Ends},
       {std::regex("A file window opens\\."), &ClaimCheck::FileWindow},

@@ -14,7 +14,7 @@ namespace zerimo::help {
 struct Deeds {
   /// Texts of the boxes, with line breaks as the system sets them.
   std::vector<std::string> Boxes;
-  /// What was added to the history beside the typed lines.
+  /// What was added to the history besides the typed lines.
   std::vector<std::string> History;
   /// Texts printed on the surface.
   std::vector<std::string> Writings;
@@ -27,11 +27,11 @@ struct Deeds {
 
 Deeds DeedsOf(const BatchRun& run);
 
-/// The claims of an example that do not hold, and deeds that no claim tells of, each as a sentence. `folder` is where
+/// The claims of an example that are not true, and deeds that no claim mentions, each as a sentence. `folder` is where
 /// the example ran.
 std::vector<std::string> BrokenClaims(const Example& example, const BatchRun& run, const std::filesystem::path& folder);
 
-/// Tries an example in a fresh folder. What is wrong with it, a line each, with the lines of the example; empty if it
+/// Tries an example in a fresh folder. Returns what is wrong, a line each, with the lines of the example; empty if it
 /// does what its page claims.
 std::string ProblemsOf(const Example& example, const std::string& folderName);
 

@@ -10,14 +10,14 @@ constexpr int chordsOfAnEllipse = 51;
 
 std::string TextIn(const QJsonObject& event, const char* key) { return event[key].toString().toStdString(); }
 
-/// The entry that a typed line itself makes comes directly behind it.
+/// The entry that a typed line itself makes comes directly after it.
 std::vector<std::string> HistoryOf(const std::vector<QJsonObject>& events) {
   std::vector<std::string> history;
-  bool isBehindTyped = false;
+  bool isAfterTyped = false;
   for (const QJsonObject& event : events) {
     const bool isEntry = event["event"].toString() == "list" && event["op"].toString() == "add";
-    if (isEntry && !isBehindTyped) history.push_back(TextIn(event, "item"));
-    isBehindTyped = event["event"].toString() == "typed";
+    if (isEntry && !isAfterTyped) history.push_back(TextIn(event, "item"));
+    isAfterTyped = event["event"].toString() == "typed";
   }
   return history;
 }

@@ -1,5 +1,6 @@
 #include "document_links.h"
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
 #include <regex>
@@ -34,10 +35,13 @@ std::set<std::string> AnchorsOf(const std::filesystem::path& document) {
 }  // namespace
 
 std::vector<std::filesystem::path> AllDocuments(const std::filesystem::path& sourceFolder) {
-  std::vector<std::filesystem::path> documents = {sourceFolder / "README.md"};
-  for (const auto& entry : std::filesystem::directory_iterator(sourceFolder / "docs")) {
+  std::vector<std::filesystem::path> documents;
+  const auto addDocument = [&documents](const std::filesystem::directory_entry& entry) {
     if (entry.path().extension() == ".md") documents.push_back(entry.path());
-  }
+  };
+  std::ranges::for_each(std::filesystem::directory_iterator(sourceFolder), addDocument);
+  for (const char* const folder : {"docs", "src", "tests", "help", "packaging"})
+    std::ranges::for_each(std::filesystem::recursive_directory_iterator(sourceFolder / folder), addDocument);
   return documents;
 }
 

@@ -13,7 +13,8 @@ namespace {
 
 const std::filesystem::path sourceFolder = ZERIMO_SOURCE_DIR;
 
-constexpr std::array documents = {"README.md", "docs/language.md", "docs/quirks.md", "docs/user-guide.md"};
+constexpr std::array documents = {"README.md", "docs/interpreter.md", "docs/language.md", "docs/quirks.md",
+                                  "docs/user-guide.md"};
 
 std::string NameOf(const testing::TestParamInfo<const char*>& document) {
   std::string name = std::filesystem::path(document.param).stem().string();

@@ -16,14 +16,11 @@ namespace {
 
 const std::filesystem::path builtFolder = ZERIMO_APP_FOLDER;
 
-/// The words of the language that are no primitives.
-constexpr std::array languageWords = {"TO", "END", "MAKE", "IF", "ELSE", "ENDIF", "GOTO", "LABEL"};
-
-std::set<std::string> AllWords() {
-  const auto names = CommandListNames();
-  std::set<std::string> words(names.begin(), names.end());
-  words.insert(languageWords.begin(), languageWords.end());
-  words.erase("");
+std::set<std::string> WordsWithAPage() {
+  std::set<std::string> words;
+  for (const WordFacts& word : AllWords()) {
+    if (word.Page != HelpPage::None) words.emplace(word.Word);
+  }
   return words;
 }
 
@@ -39,7 +36,7 @@ std::set<std::string> WordsIn(const RichText& page) {
   return {std::istream_iterator<std::string>(stream), {}};
 }
 
-/// The paragraph behind the heading of the related words.
+/// The paragraph after the heading of the related words.
 std::vector<std::string> RelatedWordsOf(const RichText& page) {
   const auto& paragraphs = page.Paragraphs;
   for (std::size_t i = 0; i + 1 < paragraphs.size(); ++i) {
@@ -50,7 +47,7 @@ std::vector<std::string> RelatedWordsOf(const RichText& page) {
   return {};
 }
 
-/// A name for a test: words such as "(SUM" hold characters that a test's name can not.
+/// A name for a test: words such as "(SUM" have characters that the name of a test can't have.
 std::string TestNameOf(const testing::TestParamInfo<std::string>& word) {
   return word.param.starts_with('(') ? "BRACKET_" + word.param.substr(1) : word.param;
 }
@@ -66,12 +63,12 @@ TEST(HelpPages, EveryWordHasAPageAndEveryPageAWord) {
   std::set<std::string> pages;
   for (const auto& entry : std::filesystem::directory_iterator(builtFolder / "ZMHELP"))
     pages.insert(entry.path().filename().string());
-  EXPECT_EQ(pages, AllWords());
+  EXPECT_EQ(pages, WordsWithAPage());
 }
 
 TEST(HelpPages, TheGeneralPageNamesEveryWord) {
   const std::set<std::string> named = WordsIn(PageOf("HELP"));
-  for (const std::string& word : AllWords()) EXPECT_TRUE(named.contains(word)) << word;
+  for (const std::string& word : WordsWithAPage()) EXPECT_TRUE(named.contains(word)) << word;
 }
 
 TEST_P(HelpPage, IsRichTextThatBeginsWithItsName) {
@@ -82,7 +79,7 @@ TEST_P(HelpPage, IsRichTextThatBeginsWithItsName) {
 TEST_P(HelpPage, RelatesToWordsThatHavePages) {
   const std::vector<std::string> related = RelatedWordsOf(page);
   EXPECT_EQ(related.empty(), GetParam() == "HELP");
-  for (const std::string& word : related) EXPECT_TRUE(AllWords().contains(word)) << word;
+  for (const std::string& word : related) EXPECT_TRUE(WordsWithAPage().contains(word)) << word;
 }
 
 TEST_P(HelpPage, HasExamplesWithClaimsThatUseTheWord) {
@@ -101,6 +98,6 @@ TEST_P(HelpPage, ExamplesDoWhatThePageClaims) {
   for (const Example& example : ExamplesOf(page)) EXPECT_EQ(ProblemsOf(example, "help"), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Words, HelpPage, testing::ValuesIn(AllWords()), TestNameOf);
+INSTANTIATE_TEST_SUITE_P(Words, HelpPage, testing::ValuesIn(WordsWithAPage()), TestNameOf);
 
 }  // namespace zerimo::help

@@ -89,20 +89,18 @@ std::vector<std::string> WordsOf(const std::multimap<std::string, WordRow>& rows
 }
 
 std::vector<std::string> WordsOfTheSystem() {
-  const auto names = CommandListNames();
-  std::vector<std::string> words(names.begin(), names.end());
-  std::erase(words, "");
-  words.insert(words.end(), {"TO", "END", "MAKE", "IF", "ELSE", "ENDIF", "GOTO", "LABEL"});
+  std::vector<std::string> words;
+  for (const WordFacts& word : AllWords()) {
+    if (word.Page != HelpPage::None) words.emplace_back(word.Word);
+  }
   std::ranges::sort(words);
-  words.erase(std::ranges::unique(words).begin(), words.end());
   return words;
 }
 
-/// The number that the table of input counts has for a word; a word without one has no inputs.
+/// The number of inputs that the table has for a word; a word that is not counted has none.
 int InputsOf(const std::string& word) {
-  const auto counts = InputCounts();
-  const auto found = std::ranges::find_if(counts, [&](const InputCount& count) { return count.Word == word; });
-  return found == counts.end() ? 0 : found->Inputs;
+  const WordFacts* const facts = FindWord(word);
+  return facts == nullptr || facts->Inputs == inputs::NotCounted ? 0 : facts->Inputs;
 }
 
 const ActionFacts* FactsOfName(const std::string& name) {

@@ -16,7 +16,7 @@ std::string TextOf(const Paragraph& paragraph) {
   return text;
 }
 
-/// A line to do behind a claim begins the next example.
+/// A line to type or write after a claim begins the next example.
 Example& ExampleToDo(std::vector<Example>& examples) {
   if (examples.empty() || !examples.back().Claims.empty()) examples.emplace_back();
   return examples.back();
@@ -48,7 +48,7 @@ std::string SessionOf(const Example& example) {
   std::string session = "@trace surface\n";
   if (!example.Edited.empty()) session += "EDIT\n@text Text2 " + EditorText(example.Edited) + "\n@key Text2 F2\n";
   for (const std::string& line : example.Typed) session += line + "\n";
-  session += "@tick Timer3 50\n@tick Timer4\n@trace off\n@dump state\n@dump store\n";
+  session += "@tick Timer3 50\n@tick Timer4\n@trace off\n@dump state\n@dump store\n@dump variables\n";
   for (const char* control : {"Picture1", "Text1(0)", "Text2", "List4", "Picture3", "Frame1", "Picture2", "Line5",
                               "Line6", "Image1", "Shape2", "Form1"}) {
     session += std::string("@dump control ") + control + "\n";

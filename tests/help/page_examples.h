@@ -7,8 +7,8 @@
 
 namespace zerimo::help {
 
-/// One example of a page: what is written in the editor first, what is typed on the rows then, and what the page
-/// claims to come of it.
+/// One example of a page: what is written in the editor first, what is then typed on the rows, and what the page
+/// claims about the result.
 struct Example {
   std::vector<std::string> Edited;
   std::vector<std::string> Typed;
@@ -18,8 +18,8 @@ struct Example {
 /// The examples of a page as its reader sees them: paragraphs in the font of examples that begin with a mark.
 std::vector<Example> ExamplesOf(const RichText& page);
 
-/// The session that tries an example in a fresh system: the surface is traced, timers run on behind it, and the state
-/// is dumped at the end.
+/// The session that tries an example in a fresh system: the surface is traced, timers tick after it, and the state is
+/// dumped at the end.
 std::string SessionOf(const Example& example);
 
 /// Lines for people, each indented on a line of its own.

@@ -31,7 +31,7 @@ TokenList CutToTokens(const std::string& expression) {
     const std::string character(1, expression[at]);
     const bool cuts = at > 0 && IsOperator(character);
     const bool behindOperator = at > 0 && IsOperator(std::string(1, expression[at - 1]));
-    // Behind an operator a new token has begun, except that the sign in front holds the first token open.
+    // After an operator a new token has begun, except that a leading sign keeps the first token open.
     if (cuts && !behindOperator) fresh = true;
     if (fresh) tokens.emplace_back();
     if (cuts) {
@@ -115,7 +115,7 @@ std::string RandomExpression(std::mt19937& random, int depth) {
   return expression;
 }
 
-/// The value, or nothing for a failure; what never returns is told apart.
+/// The value, or nothing for a failure; what never returns is kept apart.
 template <typename Evaluate>
 std::string Outcome(Evaluate&& evaluate) {
   try {

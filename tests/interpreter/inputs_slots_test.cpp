@@ -10,7 +10,7 @@
 namespace zerimo {
 namespace {
 
-/// " 1 2 ... n", or with a mark in front of each number.
+/// " 1 2 ... n", or with a mark before each number.
 std::string Numbered(int count, const std::string& mark = "") {
   std::string words;
   for (int number = 1; number <= count; ++number) words += " " + mark + std::to_string(number);
@@ -109,7 +109,7 @@ TEST_F(CreateLocalVariableTest, FailsAtTheCalls51stWord) {
 }
 
 TEST_F(CreateLocalVariableTest, FailsAtTheHeaders51stWord) {
-  // The header's first word, in front of its name, is the empty one.
+  // The header's first word, before its name, is the empty one.
   store.SetLine(6, "TO P" + Numbered(49, ":"));
   EXPECT_EQ(FailureOfCall("P 1"), FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(variables.Slot(1), "");

@@ -181,7 +181,7 @@ TEST_F(LoweringLimitsTest, ABodyHolds93Statements) {
 TEST_F(LoweringLimitsTest, AListOf100LinesFailsWhenItHasBeenWritten) {
   Fill({"TO P", ("REPEAT 2 [" + Body(94) + "]").c_str(), "FD 1", "END"});
   EXPECT_EQ(FailureOfLowering(), FailureKind::SubscriptOutOfRange);
-  // All 100 lines stand in the store; those behind the REPEAT are lost.
+  // All 100 lines are in the store; those after the REPEAT are lost.
   EXPECT_EQ(store.Line(2), "MAKE # 1");
   EXPECT_EQ(store.Line(101), "ENDIF");
   EXPECT_EQ(store.Line(102), "");

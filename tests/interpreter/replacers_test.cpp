@@ -65,7 +65,7 @@ TEST_F(VarValReplacerTest, TrimsTheCallersText) {
 
 TEST_F(VarValReplacerTest, AnEntryWithNoNameTakesTheNameBeforeIt) {
   controlPath.SetCtrlStr(".BOX- 3");
-  // The first "=" stands before the first ".": no name can be cut out there, and that statement is passed over.
+  // The first "=" comes before the first ".": no name can be cut out there, and that statement is skipped.
   Slots({"BOX.:A=1", "Q=#BOX.:C"});
   EXPECT_EQ(Locally(":A+:A"), "1+#BOX.:C");
 }

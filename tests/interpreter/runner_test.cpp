@@ -141,7 +141,7 @@ TEST_F(RunnerTest, RecursionBehindALabelGrowsThePath) {
   EXPECT_GT(std::count(controlPath.CtrlStr().begin(), controlPath.CtrlStr().end(), '.'), 20);
 }
 
-/// What stands in front of a recursive call, and how many components the path has after a while.
+/// The line before a recursive call, and how many components the path has after a while.
 struct InFrontOfTheCall {
   const char* Line;
   bool Grows;
@@ -181,7 +181,7 @@ TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
 TEST_F(RunnerTest, TenLevelsReturnOnce) {
   Fill({"TO B", "MAKE N N-1", "IF N>0", "B", "ENDIF", "PRINT 1", "END", "TO M", "MAKE N 10", "B", "PRINT 2", "END"});
   runner.Run1("M");
-  // From the innermost level, and from the outermost one behind its call.
+  // From the innermost level, and from the outermost one after its call.
   EXPECT_EQ(Calls, (Texts{"PRINT 1", "PRINT 1", "PRINT 2"}));
 }
 
@@ -219,7 +219,7 @@ TEST_F(RunnerTest, ADeepOldPathIsWalkedOnAfterTheNewRun) {
   Fill({"TO A", "FD 1", "END", "TO OLD", "FD 8", "FD 9", "END"});
   controlPath.SetCtrlStr(".OLD- 5.X- 2");
   runner.Run1("A");
-  // The END of the new run returns into the old path: behind line 5.
+  // The END of the new run returns into the old path, to the line after line 5.
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 9"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
 }
@@ -228,7 +228,7 @@ TEST_F(RunnerTest, APathOfASingle1IsTheEndOfTheRun) {
   Fill({"TO A", "FD 1", "END"});
   controlPath.SetCtrlStr("X.");
   runner.Run1("A");
-  // The END cuts the path down to "X", which has no number: the line behind 0 is the whole path.
+  // The END cuts the path down to "X", which has no number: the line after 0 is the whole path.
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
 }

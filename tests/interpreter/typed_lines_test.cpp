@@ -237,7 +237,7 @@ TEST_F(TypedLinesTest, ACountOutOfRangeLeavesTheLineAndBlocksTheNextOnes) {
 TEST_F(TypedLinesTest, ABodyLineThatIsEndIsTakenForTheEnd) {
   Fill({"TO A", "END"});
   EXPECT_TRUE(Type("FD 1 END FD 2"));
-  // Moving starts behind the first END: what stood behind it stays until the next line sweeps nothing.
+  // Moving starts after the first END: what stood there stays, and the next line sweeps nothing.
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_EQ(Program(), (Texts{"TO A", "END", "FD 2", "END"}));
 }

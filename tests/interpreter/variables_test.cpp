@@ -28,7 +28,7 @@ class VariablesTest : public testing::Test, protected BareInterpreter {
   std::string Globals(std::string text) { return variables.GlobalVariableReplacer(text); }
   std::string Locals(std::string text) { return variables.VarValReplacer(text); }
   std::string Coordinates(std::string text) { return variables.ReplaceXcorAndYcor(text); }
-  /// Carries out a MAKE in a procedure A; what leaves it is passed over, as the runner does.
+  /// Carries out a MAKE in a procedure A; a failure that leaves it is skipped, as the runner does.
   void Make(const char* line) {
     Fill({"TO A", line, "END"});
     PassOver([&] { variables.VariableUpdate(2); });

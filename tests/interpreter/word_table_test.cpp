@@ -11,7 +11,7 @@
 namespace zerimo {
 namespace {
 
-TEST(dispatch, CommandListHas96NamesWithPenreverseTwice) {
+TEST(WordTableTest, CommandListHas96NamesWithPenreverseTwice) {
   const auto names = CommandListNames();
   ASSERT_EQ(names.size(), 96U);
   EXPECT_EQ(names[90], "PENREVERSE");
@@ -20,7 +20,7 @@ TEST(dispatch, CommandListHas96NamesWithPenreverseTwice) {
   EXPECT_EQ(std::set<std::string_view>(names.begin(), names.end()).size(), 95U);
 }
 
-TEST(dispatch, CommandListKeepsItsOrder) {
+TEST(WordTableTest, CommandListKeepsItsOrder) {
   const std::vector<std::string_view> expected = {"FD",           "TEXTSIZE",
                                                   "BK",           "LT",
                                                   "RT",           "PU",
@@ -73,7 +73,7 @@ TEST(dispatch, CommandListKeepsItsOrder) {
   EXPECT_EQ(std::vector<std::string_view>(names.begin(), names.end()), expected);
 }
 
-/// The names of the actions in the order of their tests, the other name of an action behind its first.
+/// The names of the actions in the order of their tests, the other name of an action after its first.
 std::vector<std::string_view> NamesInOrder() {
   std::vector<std::string_view> names;
   for (const ActionFacts& facts : Actions()) {
@@ -83,7 +83,7 @@ std::vector<std::string_view> NamesInOrder() {
   return names;
 }
 
-TEST(dispatch, NamesAreTestedInTheirOrder) {
+TEST(WordTableTest, NamesAreTestedInTheirOrder) {
   const std::vector<std::string_view> expected = {"SAYDEVELOPER", "SAYDEVELOPERS",
                                                   "COMMANDLIST",  "FENCE",
                                                   "XCOR",         "YCOR",
@@ -136,12 +136,12 @@ TEST(dispatch, NamesAreTestedInTheirOrder) {
   EXPECT_EQ(NamesInOrder(), expected);
 }
 
-TEST(dispatch, ActionsStandInTheOrderOfTheirNumbers) {
+TEST(WordTableTest, ActionsStandInTheOrderOfTheirNumbers) {
   int number = 0;
   for (const ActionFacts& facts : Actions()) EXPECT_EQ(static_cast<int>(facts.Does), number++) << facts.Name;
 }
 
-TEST(dispatch, NamesWithoutAnActionAreFour) {
+TEST(WordTableTest, NamesWithoutAnActionAreFour) {
   std::set<std::string> without;
   for (const std::string_view name : CommandListNames()) {
     const auto names = [&](const ActionFacts& facts) { return facts.Name == name || facts.OtherName == name; };
@@ -150,7 +150,7 @@ TEST(dispatch, NamesWithoutAnActionAreFour) {
   EXPECT_EQ(without, (std::set<std::string>{"GETX", "GETY", "SAVE", "REPEAT"}));
 }
 
-TEST(dispatch, LongNamesOutsideCommandListAreReachedOnlyDirectly) {
+TEST(WordTableTest, LongNamesOutsideCommandListAreReachedOnlyDirectly) {
   const auto names = CommandListNames();
   for (const char* word : {"FULLSCREEN", "SPLITSCREEN", "TEXTSCREEN", "CLEARTEXT", "SAYDEVELOPERS", "AEXP", "REXP"}) {
     EXPECT_EQ(std::count(names.begin(), names.end(), word), 0) << word;

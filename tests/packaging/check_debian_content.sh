@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The Debian package holds what belongs into it, where the system looks for it, and asks for what it needs.
+# The Debian package has everything that belongs in it, where the system looks for it, and depends on what it needs.
 # Usage: check_debian_content.sh PACKAGES ID SOURCES
 . "$(dirname "$0")/support.sh"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The version is written once, in the top CMakeLists.txt, and told alike everywhere.
+# The version is written once, in the top CMakeLists.txt, and is the same everywhere.
 # Usage: check_version.sh SOURCES GENERATED VERSION ZERIMO-BATCH
 . "$(dirname "$0")/support.sh"
 

@@ -1,4 +1,4 @@
-# What the checks of the packages share: a folder of their own, gone at the end, and failing with words.
+# Shared by the checks of the packages: a folder of their own, removed at the end, and failing with a message.
 set -euo pipefail
 
 work=$(mktemp -d)

@@ -15,7 +15,7 @@ QImage GoldenPicture(const std::string& name, const QImage& actual);
 /// and their difference side by side is written into the folder `pixel-differences`.
 ::testing::AssertionResult IsGolden(const std::string& name, const QImage& actual);
 
-/// Writes that picture and tells where it is.
+/// Writes that picture and returns where it is.
 std::string WriteDifference(const std::string& name, const QImage& expected, const QImage& actual);
 
 }  // namespace zerimo

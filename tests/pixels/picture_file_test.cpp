@@ -19,7 +19,7 @@ namespace zerimo {
 
 namespace {
 
-/// A GIF of 2 by 2 pixels, red and transparent, whose screen is as large as told.
+/// A GIF of 2 by 2 pixels, red and transparent, with a screen of the given size.
 QByteArray SmallGif(int width = 2, int height = 2) {
   QByteArray gif("GIF89a");
   for (const int side : {width, height})

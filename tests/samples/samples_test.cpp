@@ -53,7 +53,7 @@ std::vector<std::string> LinesOf(const std::filesystem::path& file) {
 
 std::vector<std::string> ProgramOf(const std::string& name) { return LinesOf(sampleFolder / (name + ".ZRM")); }
 
-/// The words behind a first word, such as the names behind `TO`, in one program.
+/// The words after a first word, such as the names after `TO`, in one program.
 std::vector<std::string> SecondWords(const std::string& name, const std::string& firstWord) {
   std::vector<std::string> words;
   for (const std::string& line : ProgramOf(name)) {

@@ -42,7 +42,7 @@ struct BareInterpreter {
     return lines;
   }
 
-  /// Runs a filtered line as a row's Enter key does; tells whether it went through.
+  /// Runs a filtered line as a row's Enter key does; returns whether it went through.
   bool Type(std::string line) {
     return PassOver([&] { typedLines.ComplexExecutor(line); });
   }
