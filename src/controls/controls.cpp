@@ -62,7 +62,7 @@ void Controls::DesignRows() {
 }
 
 void Controls::DesignSurface() {
-  const char* const captions[] = {"Welcome to Zerimo", "Vantrel", "Zerimo Version ", ZERIMO_SHORT_VERSION,
+  const char* const captions[] = {"Welcome to Zerimo", "Vantrel", ("Zerimo Version " ZERIMO_SHORT_VERSION),
                                   "First to Setup your World"};
   for (int index = 0; index < Label20.Size; ++index) {
     Place(Label20[index], 0, 0, 7200, 480);
