@@ -34,9 +34,11 @@ std::set<std::string> AnchorsOf(const std::filesystem::path& document) {
 }  // namespace
 
 std::vector<std::filesystem::path> AllDocuments(const std::filesystem::path& sourceFolder) {
-  std::vector<std::filesystem::path> documents = {sourceFolder / "README.md"};
-  for (const auto& entry : std::filesystem::directory_iterator(sourceFolder / "docs")) {
-    if (entry.path().extension() == ".md") documents.push_back(entry.path());
+  std::vector<std::filesystem::path> documents;
+  for (const auto& folder : {sourceFolder, sourceFolder / "docs"}) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      if (entry.path().extension() == ".md") documents.push_back(entry.path());
+    }
   }
   return documents;
 }

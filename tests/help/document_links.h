@@ -6,7 +6,7 @@
 
 namespace zerimo::help {
 
-/// README.md and the documents of docs/.
+/// The documents at the top of the tree and those of docs/.
 std::vector<std::filesystem::path> AllDocuments(const std::filesystem::path& sourceFolder);
 
 /// Where the links and pictures of a document lead, but for those into the network.
