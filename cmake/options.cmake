@@ -1,8 +1,14 @@
 # What every target of the project is compiled with.
 
+# The compiler cache knows files by their place in the tree, so that a fresh clone in another folder finds what this one
+# has compiled; debuggers, too, find the sources from the top of the tree.
 find_program(ZERIMO_CCACHE ccache)
 if(ZERIMO_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZERIMO_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${ZERIMO_CCACHE})
+  if(NOT MSVC)
+    add_compile_options(-fdebug-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  endif()
 endif()
 
 add_library(zerimo_options INTERFACE)
@@ -96,13 +102,15 @@ function(zerimo_guard_room name)
   target_sources(${name} PRIVATE ${stamp})
 endfunction()
 
-# zerimo_test(NAME SOURCES... LINKS... [LABELS...]): one test program; every test in it is a test of its own to ctest.
+# zerimo_test(NAME SOURCES... LINKS... [READS_TREE SOURCES...] [PROPERTIES...]): one test program; every test in it is a test
+# of its own to ctest. READS_TREE names the sources that know where the tree is, ZERIMO_SOURCE_DIR: they alone are compiled
+# anew in every clone.
 function(zerimo_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;READS_TREE;PROPERTIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest_main zerimo_options)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE ZERIMO_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  set_property(SOURCE ${ARG_READS_TREE} APPEND PROPERTY COMPILE_DEFINITIONS ZERIMO_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen" ${ARG_PROPERTIES})
 endfunction()

@@ -52,7 +52,9 @@ void Keys::EnterLine(int index) {
     if (index == lastRow) ScrollRows();
   }
   PassOver([&] { typedLines_.ComplexExecutor(line); });
-  if (index != lastRow) PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % context_.controls.Text1.Size]); });
+  if (index != lastRow)
+    PassOver(
+        [&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % context_.controls.Text1.Size]); });
 }
 
 void Keys::ScrollRows() {

@@ -43,8 +43,8 @@ void StatusLine::TitleText() {
   const double y = Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle_.TurtleY), turtle_.Resolution);
   const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / Pi);
   controls_.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
-                            "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
-                            "]  [BG Color: " + background + "]  [Pen State:" + state + "]");
+                             "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
+                             "]  [BG Color: " + background + "]  [Pen State:" + state + "]");
 }
 
 void StatusLine::Timer4Tick() { controls_.Form1.SetCaption("Zerimo [ Time:" + services_.TimeOfDay() + " ]"); }

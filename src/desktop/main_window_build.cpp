@@ -33,7 +33,7 @@ void MainWindow::Add(Source& control) {
 template <typename View, typename... Arrays>
 void MainWindow::AddAll(Arrays&... arrays) {
   const auto each = [this](auto& array) {
-    for (int index = 0; index < array.Size; ++index) Add<View>(array[index]);
+    for (int index = 0; index < array.Size; ++index) this->Add<View>(array[index]);
   };
   (each(arrays), ...);
 }

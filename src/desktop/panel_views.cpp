@@ -110,8 +110,7 @@ void PaletteFrame::DropAt(QPoint inWindow) {
 
 QRect PaletteView::Place(const Room& room) const { return WithinReach(InPixels(Source()), room.Client); }
 
-PaletteShapes::PaletteShapes(QWidget& parent, const Controls& formControls)
-    : QWidget(&parent), controls(formControls) {
+PaletteShapes::PaletteShapes(QWidget& parent, const Controls& formControls) : QWidget(&parent), controls(formControls) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

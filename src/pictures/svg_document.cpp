@@ -13,7 +13,6 @@ namespace zerimo {
 namespace {
 
 constexpr int Solid = 0;
-constexpr int Transparent = 1;
 /// Points up to this width are squares.
 constexpr int WidestSquare = 3;
 constexpr double PixelsPerPoint = 96.0 / 72;

@@ -1,0 +1,18 @@
+# The entry of this version in CHANGELOG.md, as the changelog of a Debian package has it: CHANGES.
+
+set(changelog ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changelog})
+file(READ ${changelog} text)
+set(heading "\n## ${PROJECT_VERSION}, ${ZERIMO_RELEASE_DATE}\n")
+string(FIND "${text}" "${heading}" start)
+if(start EQUAL -1)
+  message(FATAL_ERROR "CHANGELOG.md has no entry \"${PROJECT_VERSION}, ${ZERIMO_RELEASE_DATE}\"")
+endif()
+string(LENGTH "${heading}" length)
+math(EXPR start "${start} + ${length}")
+string(SUBSTRING "${text}" ${start} -1 text)
+string(REGEX REPLACE "\n## .*" "" text "${text}")
+string(STRIP "${text}" text)
+string(REPLACE "\n  " "\n    " text "\n${text}")
+string(REPLACE "\n- " "\n  * " text "${text}")
+string(STRIP "${text}" CHANGES)
