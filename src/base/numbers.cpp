@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "base/failure.h"
 
@@ -74,6 +75,18 @@ std::string DecimalNumber(std::string_view text) {
   return number;
 }
 
+/// A text of some digits and nothing else, which most are.
+std::optional<double> WholeNumber(std::string_view text) {
+  constexpr std::size_t mostDigits = 15;
+  if (text.empty() || text.size() > mostDigits) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char character : text) {
+    if (!IsDigit(character)) return std::nullopt;
+    value = value * 10 + (character - '0');
+  }
+  return static_cast<double>(value);
+}
+
 /// The exponent of a decimal number, 0 without one.
 double ExponentOf(std::string_view number) {
   const auto mark = number.find('e');
@@ -96,6 +109,7 @@ bool IsTooLarge(std::string_view number) {
 }  // namespace
 
 double Val(std::string_view text) {
+  if (const auto whole = WholeNumber(text)) return *whole;
   const std::string rest = WithoutSkipped(text);
   if (rest.size() > 1 && rest[0] == '&') {
     if (rest[1] == 'H' || rest[1] == 'h') return PrefixedNumber(std::string_view(rest).substr(2), 16);
@@ -112,24 +126,40 @@ double Val(std::string_view text) {
   return value;
 }
 
-std::string Str(double number) {
+namespace {
+
+using NumberBuffer = std::array<char, 40>;
+
+/// Writes a number as text without a leading blank.
+std::string_view WriteNumber(double number, NumberBuffer& buffer) {
   constexpr double exponentFormFrom = 1E15;
+  char* const first = buffer.data();
+  char* const last = first + buffer.size();
   if (std::abs(number) < exponentFormFrom && number == std::trunc(number)) {
-    const auto whole = static_cast<std::int64_t>(number);
-    return (whole < 0 ? "" : " ") + std::to_string(whole);
+    return {first, std::to_chars(first, last, static_cast<std::int64_t>(number)).ptr};
   }
-  std::array<char, 40> buffer{};
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(number), std::chars_format::general, 15);
-  std::string text(buffer.data(), end.ptr);
-  if (const auto mark = text.find('e'); mark != std::string::npos) text[mark] = 'E';
-  if (text.starts_with("0.")) text.erase(0, 1);
-  return (number < 0 ? "-" : " ") + text;
+  // One character is kept free for the sign.
+  char* digits = first + 1;
+  const auto end = std::to_chars(digits, last, std::abs(number), std::chars_format::general, 15).ptr;
+  if (char* const mark = std::find(digits, end, 'e'); mark != end) *mark = 'E';
+  if (digits[0] == '0' && digits[1] == '.') ++digits;
+  if (number < 0) *--digits = '-';
+  return {digits, end};
+}
+
+}  // namespace
+
+std::string Str(double number) {
+  NumberBuffer buffer;
+  const std::string_view text = WriteNumber(number, buffer);
+  std::string result;
+  if (text.front() != '-') result = ' ';
+  return result.append(text);
 }
 
 std::string StrTrimmed(double number) {
-  std::string text = Str(number);
-  return text.front() == ' ' ? text.substr(1) : text;
+  NumberBuffer buffer;
+  return std::string(WriteNumber(number, buffer));
 }
 
 double RoundHalfEven(double number) {

@@ -90,7 +90,7 @@ void ListBox::ReadProperties(const PropertyReader& read) const {
 
 void Label::ReadProperties(const PropertyReader& read) const {
   Control::ReadProperties(read);
-  read("Caption", Caption);
+  read("Caption", Caption.Text());
   read("BackColor", static_cast<double>(BackColor));
   read("ForeColor", static_cast<double>(ForeColor));
   read("BorderStyle", static_cast<double>(BorderStyle));

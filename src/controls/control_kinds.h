@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "controls/late_text.h"
+
 /// The controls of the window as plain data. The system reads and writes these; a shell shows them and turns the
 /// user's events into calls of Form1's handlers. Places and sizes are singles in surface units (15 to a pixel),
 /// relative to the control's panel; colours are red + 256 * green + 65536 * blue.
@@ -141,7 +143,7 @@ class ListBox : public Control {
 class Label : public Control {
  public:
   using Control::Control;
-  std::string Caption;
+  LateText Caption;
   Colour BackColor = 0xC8D0D4;
   Colour ForeColor = 0;
   /// 0 no border, 1 a single one.

@@ -30,8 +30,18 @@ void PlaceLine(LightLine& line, FigurePoint from, FigurePoint to) {
 }  // namespace
 
 void TurtleFigure::TurtlePos(double x, double y, double dir) {
-  const auto pointAt = [x, y](double radius, double angle) {
-    return FigurePoint{x + radius * std::cos(angle), y + radius * std::sin(angle)};
+  const Place place{x, y, dir};
+  if (place == place_) return;
+  // A move that fails has moved some of it: the next one moves all.
+  place_.reset();
+  MoveTo(place);
+  place_ = place;
+}
+
+void TurtleFigure::MoveTo(const Place& place) {
+  const double dir = place.Dir;
+  const auto pointAt = [&place](double radius, double angle) {
+    return FigurePoint{place.X + radius * std::cos(angle), place.Y + radius * std::sin(angle)};
   };
   Shape& head = controls_.Shape2;
   head.Width = ToSingle(2 * HeadRadius);

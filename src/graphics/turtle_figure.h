@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "controls/controls.h"
 
@@ -21,9 +22,18 @@ class TurtleFigure {
   void TurtleColorRGB(double red, double green, double blue);
 
  private:
+  struct Place {
+    double X;
+    double Y;
+    double Dir;
+    bool operator==(const Place&) const = default;
+  };
+  void MoveTo(const Place& place);
   void SetColour(Colour colour);
 
   Controls& controls_;
+  /// Where the figure stands; nobody else moves it.
+  std::optional<Place> place_;
 };
 
 }  // namespace zerimo

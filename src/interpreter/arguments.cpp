@@ -7,7 +7,9 @@
 
 namespace zerimo {
 
-double Arguments::Number(std::string text) const {
+double Arguments::Number(std::string_view input) const {
+  if (const auto value = variables_.Known().Value(input)) return *value;
+  std::string text(input);
   ReplaceNames(text);
   return Evaluate(std::move(text));
 }
@@ -15,7 +17,7 @@ double Arguments::Number(std::string text) const {
 double Arguments::WordNumber(std::string& rest, int nthWord) const {
   std::string word;
   PassOver([&] { word = GiveWord(rest, nthWord); });
-  return Number(std::move(word));
+  return Number(word);
 }
 
 void Arguments::ReplaceNames(std::string& text) const {

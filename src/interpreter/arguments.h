@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "interpreter/arithmetic.h"
 #include "interpreter/variables.h"
@@ -16,7 +17,7 @@ class Arguments {
 
   /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is passed over; a value that could not
   /// be computed is 0.
-  double Number(std::string text) const;
+  double Number(std::string_view input) const;
 
   /// The value of the n-th word of the caller's text, which `GiveWord` changes.
   double WordNumber(std::string& rest, int nthWord) const;

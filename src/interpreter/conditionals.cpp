@@ -10,15 +10,29 @@ namespace zerimo {
 
 std::int16_t Conditionals::Ifprocessor(int lineNumber) {
   store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine() - 1);
-  const int elseLine = FindElse(lineNumber);
-  const int endIfLine = FindEndIf(lineNumber);
-  std::string condition(From(store_.Line(lineNumber), PositionOf(store_.Line(lineNumber), " ") + 1));
+  const Branches branches = BranchesOf(lineNumber);
+  const int next = Holds(lineNumber)            ? lineNumber + 1
+                   : branches.ElseLine != 0 ? branches.ElseLine + 1
+                                                : branches.EndIfLine;
+  return static_cast<std::int16_t>(next);
+}
+
+bool Conditionals::Holds(int lineNumber) const {
+  const std::string& text = store_.FormOf(lineNumber).Condition;
+  if (const auto holds = variables_.Known().Holds(text); holds && variables_.CoordinatesExist()) return *holds;
+  std::string condition = text;
   condition = variables_.ReplaceXcorAndYcor(condition);
   condition = variables_.VarValReplacer(condition);
   condition = variables_.GlobalVariableReplacer(condition);
-  const bool holds = RelationEvaluator(condition, arithmetic_);
-  const int next = holds ? lineNumber + 1 : elseLine != 0 ? elseLine + 1 : endIfLine;
-  return static_cast<std::int16_t>(next);
+  return RelationEvaluator(condition, arithmetic_);
+}
+
+Conditionals::Branches Conditionals::BranchesOf(int lineNumber) {
+  auto& known = branches_.Get(store_.Changes(), [] { return std::unordered_map<int, Branches>(); });
+  if (const auto found = known.find(lineNumber); found != known.end()) return found->second;
+  const Branches branches{FindElse(lineNumber), FindEndIf(lineNumber)};
+  known.emplace(lineNumber, branches);
+  return branches;
 }
 
 int Conditionals::FindElse(int lineNumber) const {
@@ -57,7 +71,12 @@ int Conditionals::FindEndIf(int lineNumber) const {
   return 0;
 }
 
-std::int16_t Conditionals::LabelPos(std::string_view labelName) const {
+std::int16_t Conditionals::LabelPos(std::string_view labelName) {
+  auto& known = labels_.Get(store_.Changes(), [] { return TextMap<std::int16_t>(); });
+  return FindOrMake(known, labelName, [&] { return FindLabel(labelName); });
+}
+
+std::int16_t Conditionals::FindLabel(std::string_view labelName) const {
   const std::string wanted = "LABEL " + std::string(labelName);
   int found = 0;
   // There is no early exit: of several labels the last one wins.

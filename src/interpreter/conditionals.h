@@ -2,15 +2,17 @@
 
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 
 #include "interpreter/arithmetic.h"
 #include "interpreter/context.h"
+#include "interpreter/since_change.h"
 #include "interpreter/store.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
 
-/// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines each time.
+/// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines. What was found holds until a line changes.
 class Conditionals {
  public:
   explicit Conditionals(const ProgramContext& context)
@@ -21,9 +23,17 @@ class Conditionals {
   std::int16_t Ifprocessor(int lineNumber);
 
   /// The number of the last line that is exactly "LABEL " and the name, or 0.
-  std::int16_t LabelPos(std::string_view labelName) const;
+  std::int16_t LabelPos(std::string_view labelName);
 
  private:
+  struct Branches {
+    int ElseLine;
+    int EndIfLine;
+  };
+
+  bool Holds(int lineNumber) const;
+  Branches BranchesOf(int lineNumber);
+  std::int16_t FindLabel(std::string_view labelName) const;
   /// The line of the `ELSE` that is taken for this `IF`'s, or 0.
   int FindElse(int lineNumber) const;
   /// The line of the `ENDIF` of this `IF`, or 0.
@@ -32,6 +42,8 @@ class Conditionals {
   Store& store_;
   const Variables& variables_;
   const Arithmetic& arithmetic_;
+  SinceChange<std::unordered_map<int, Branches>> branches_;
+  SinceChange<TextMap<std::int16_t>> labels_;
 };
 
 }  // namespace zerimo

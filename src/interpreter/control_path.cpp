@@ -1,5 +1,9 @@
 #include "interpreter/control_path.h"
 
+#include <charconv>
+#include <utility>
+
+#include "base/failure.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -21,11 +25,88 @@ std::string_view WithoutLastComponent(std::string_view path) {
 
 }  // namespace
 
+const std::string& ControlPath::CtrlStr() const {
+  if (!textIsMade_) {
+    text_ = head_ + (reached_->Form == Lead::Blank ? Str(reached_->Line) : StrTrimmed(reached_->Line));
+    textIsMade_ = true;
+  }
+  return text_;
+}
+
+void ControlPath::SetCtrlStr(std::string text) {
+  head_ = FirstPartExtractor(text);
+  reached_ = head_.empty() ? std::nullopt : ReadReached(std::string_view(text).substr(head_.size()));
+  text_ = std::move(text);
+  textIsMade_ = true;
+  if (!reached_) head_ = text_;
+  HeadHasChanged();
+}
+
+/// Only what `WriteLine` writes: other spellings of a number stay text.
+std::optional<ControlPath::Reached> ControlPath::ReadReached(std::string_view text) {
+  constexpr std::size_t mostDigits = 9;
+  const Lead form = text.starts_with(' ') ? Lead::Blank : Lead::None;
+  const std::string_view digits = text.substr(form == Lead::Blank ? 1 : 0);
+  if (digits.empty() || digits.size() > mostDigits || (digits.front() == '0' && digits.size() > 1)) return std::nullopt;
+  if (digits.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
+  Reached reached{0, form};
+  std::from_chars(digits.data(), digits.data() + digits.size(), reached.Line);
+  return reached;
+}
+
+void ControlPath::HeadHasChanged() {
+  procedureName_.clear();
+  recursionAt_.reset();
+  PassOver([&] { procedureName_ = CurrentProcedureName(); });
+  if (!reached_) return;
+  const std::string_view last = LastComponent(head_);
+  const std::string_view before = LastComponent(WithoutLastComponent(head_));
+  if (before.starts_with(last)) recursionAt_ = ReadReached(before.substr(last.size()));
+}
+
+void ControlPath::WriteLine(int line, Lead lead) {
+  if (!reached_ || line < 0) {
+    return SetCtrlStr(FirstPartExtractor(CtrlStr()) + (lead == Lead::Blank ? Str(line) : StrTrimmed(line)));
+  }
+  reached_ = Reached{line, lead};
+  textIsMade_ = false;
+}
+
+void ControlPath::Enter(int callLine, std::string_view procedure, int firstLine) {
+  WriteLine(callLine, Lead::Blank);
+  SetCtrlStr(CtrlStr() + "." + std::string(procedure) + "-" + Str(firstLine));
+}
+
+bool ControlPath::Leave() {
+  const int dot = LastPositionOf(head_, '.');
+  if (dot <= 1) {
+    SetCtrlStr(".");
+    return false;
+  }
+  SetCtrlStr(std::string(Left(head_, dot - 1)));
+  return true;
+}
+
+std::int16_t ControlPath::LineReached() const {
+  return reached_ ? ToInt16(reached_->Line) : EndValExtractor(CtrlStr());
+}
+
+void ControlPath::Tidy() {
+  const bool isAsWritten = reached_ && !head_.starts_with(' ');
+  if (isAsWritten && reached_ != recursionAt_) return;
+  if (CtrlStr() == "1") SetCtrlStr(".");
+  std::string text(Trimmed(CtrlStr()));
+  PassOver([&] { text = RecursionChecker(text); });
+  SetCtrlStr(std::move(text));
+}
+
+bool ControlPath::NothingRuns() const { return !reached_ && (head_ == "." || head_ == " " || head_.empty()); }
+
 std::string ControlPath::CurrentProcedureName() const {
-  if (path_ == ".") return {};
-  const int dot = LastPositionOf(path_, '.');
-  const int dash = LastPositionOf(path_, '-');
-  return std::string(Trimmed(Mid(path_, dot + 1, dash - dot - 1)));
+  if (head_ == ".") return {};
+  const int dot = LastPositionOf(head_, '.');
+  const int dash = LastPositionOf(head_, '-');
+  return std::string(Trimmed(Mid(head_, dot + 1, dash - dot - 1)));
 }
 
 std::string FirstPartExtractor(std::string_view text) { return std::string(Left(text, LastPositionOf(text, '-'))); }

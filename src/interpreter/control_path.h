@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,12 +9,35 @@ namespace zerimo {
 
 /// The control string: the dotted path of the active procedures with the line reached in each, such as
 /// ".#TEMP$7- 5.BOX- 3". "." means that nothing runs. It is the only call stack.
+///
+/// The path is a head, which ends with its last "-", and the line number behind it; its text is made when somebody
+/// reads it. A path that is not of that form is kept as text.
 class ControlPath {
  public:
-  const std::string& CtrlStr() const { return path_; }
+  /// Whether a number is written with the blank of `Str` in front, or plain.
+  enum class Lead { Blank, None };
 
-  /// The one door by which the path changes.
-  void SetCtrlStr(std::string text) { path_ = std::move(text); }
+  const std::string& CtrlStr() const;
+
+  /// The path becomes any text.
+  void SetCtrlStr(std::string text);
+
+  /// Writes a line number behind the first part of the path (`FirstPartExtractor`).
+  void WriteLine(int line, Lead lead);
+
+  /// A call: the line of the call in place of the last number, then the procedure and its first line.
+  void Enter(int callLine, std::string_view procedure, int firstLine);
+
+  /// Takes away the last component; false if there was only one, so that nothing runs.
+  bool Leave();
+
+  /// The line reached (`EndValExtractor`).
+  std::int16_t LineReached() const;
+
+  /// Trims the path and drops its last component if it is the same text as the one before it (`RecursionChecker`).
+  void Tidy();
+
+  bool NothingRuns() const;
 
   /// Name of the procedure whose locals are being made or removed.
   std::string CurProcName;
@@ -22,8 +46,27 @@ class ControlPath {
   /// ".". Fails (invalid argument) if there is no such stretch.
   std::string CurrentProcedureName() const;
 
+  /// The same, empty where that fails.
+  const std::string& ProcedureName() const { return procedureName_; }
+
  private:
-  std::string path_ = ".";
+  struct Reached {
+    int Line;
+    Lead Form;
+    bool operator==(const Reached&) const = default;
+  };
+  static std::optional<Reached> ReadReached(std::string_view text);
+  void HeadHasChanged();
+
+  /// With `reached_` the head, else the whole path.
+  std::string head_ = ".";
+  std::optional<Reached> reached_;
+  mutable std::string text_ = ".";
+  mutable bool textIsMade_ = true;
+  // What follows from the head.
+  std::string procedureName_;
+  /// The line at which the last two components are the same text.
+  std::optional<Reached> recursionAt_;
 };
 
 /// The text up to and including its last "-"; no "-" gives the empty text.

@@ -10,6 +10,8 @@ namespace zerimo {
 
 namespace {
 
+constexpr std::int16_t MostCounted = 32767;
+
 PrimitiveCall Split(const std::string& line) {
   const int blank = PositionOf(line, " ");
   const int wordEnd = blank == 0 ? Length(line) : blank;
@@ -21,10 +23,6 @@ PrimitiveCall Split(const std::string& line) {
   return call;
 }
 
-const std::string& MatchedText(MatchedBy match, const PrimitiveCall& call) {
-  return match == MatchedBy::WholeLine ? call.CommandLine : call.Word;
-}
-
 }  // namespace
 
 void Dispatch::Bind(Action action, Handler handler) {
@@ -33,30 +31,23 @@ void Dispatch::Bind(Action action, Handler handler) {
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
-  PrimitiveCall call = Split(commandLine);
-  RunGroup(MatchedBy::WholeLine, call);
-  RunGroup(MatchedBy::Word, call);
-  Tail(call);
+  Execute(commandLine, ActionOf(commandLine));
 }
 
-void Dispatch::RunGroup(MatchedBy group, PrimitiveCall& call) {
-  // The tests do not stop at a match; only one name can match, since an action leaves the line and the word alone.
-  for (const ActionFacts& facts : Actions()) {
-    if (facts.Match != group || !Matches(facts, call)) continue;
-    const Handler& handler = handlers_[static_cast<std::size_t>(facts.Does)];
+void Dispatch::Execute(const std::string& line, Action action) {
+  // An action may change the line's place in the store: the call has a copy.
+  PrimitiveCall call = Split(line);
+  if (action != Action::None) {
+    const Handler& handler = handlers_[static_cast<std::size_t>(action)];
     PassOver([&] {
       if (handler) {
         handler(call);
       } else {
-        TellMissingInput(call, facts.Does);
+        TellMissingInput(call, action);
       }
     });
   }
-}
-
-bool Dispatch::Matches(const ActionFacts& facts, const PrimitiveCall& call) const {
-  if (facts.Name == MatchedText(facts.Match, call)) return true;
-  return !facts.OtherName.empty() && facts.OtherName == MatchedText(facts.OtherMatch, call);
+  Tail(call);
 }
 
 bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
@@ -84,7 +75,12 @@ void Dispatch::Tail(const PrimitiveCall& call) {
   if (!TailStatement(call, RefreshSurface)) return;
   // The count stays at 32767. A box for an overflowing refresh buffer would need a count of 50000, which 16 bits never
   // reach: no run is ever cut here.
-  TailStatement(call, [this] { OverflowCount = AddInt16(OverflowCount, 1); });
+  if (OverflowCount == MostCounted) return CountFails(call);
+  ++OverflowCount;
+}
+
+void Dispatch::CountFails(const PrimitiveCall& call) {
+  if (call.OnFailure) call.OnFailure();
 }
 
 bool Dispatch::TailStatement(const PrimitiveCall& call, const std::function<void()>& statement) {

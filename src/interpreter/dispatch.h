@@ -28,8 +28,8 @@ struct PrimitiveCall {
   bool InputIsMissing() const { return SavedRest.empty() || SavedRest == " "; }
 };
 
-/// Carries out primitive lines: the line's first word is compared with each primitive's name in a fixed order, and the
-/// action bound to the name does the work. Runs under the skip rule; so do the actions, statement by statement.
+/// Carries out primitive lines: the line and its first word are compared with each primitive's name, and the action
+/// bound to the name does the work. Runs under the skip rule; so do the actions, statement by statement.
 class Dispatch {
  public:
   using Handler = std::function<void(PrimitiveCall&)>;
@@ -45,6 +45,9 @@ class Dispatch {
   /// The same for a fixed text.
   void Execute(std::string commandLine) { Executor(commandLine); }
 
+  /// The same for a trimmed line whose action is known (`ActionOf`).
+  void Execute(const std::string& line, Action action);
+
   /// Shows the box for a missing input if the input is missing, and tells whether it was.
   bool TellMissingInput(const PrimitiveCall& call, Action action);
 
@@ -59,9 +62,9 @@ class Dispatch {
   std::int16_t OverflowCount = 0;
 
  private:
-  void RunGroup(MatchedBy group, PrimitiveCall& call);
-  bool Matches(const ActionFacts& facts, const PrimitiveCall& call) const;
   void Tail(const PrimitiveCall& call);
+  /// The count that is full fails each time; the failure is told without being thrown.
+  void CountFails(const PrimitiveCall& call);
   bool TailStatement(const PrimitiveCall& call, const std::function<void()>& statement);
 
   Services& services_;

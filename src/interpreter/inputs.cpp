@@ -1,59 +1,32 @@
 #include "interpreter/inputs.h"
 
-#include <array>
+#include <optional>
+#include <utility>
+#include <vector>
 
 #include "base/failure.h"
 #include "base/text.h"
 
 namespace zerimo {
 
-namespace {
+void Inputs::CreateLocalVariable(std::string_view commandLine) { CreateLocals(Words(commandLine)); }
 
-/// The words of a call or of a header: 50 texts, numbered from 1; the 51st is a subscript failure.
-class Words {
- public:
-  static constexpr int LastIndex = 50;
+void Inputs::CreateLocalVariable(int lineNumber) {
+  const LineForm& line = store_.FormOf(lineNumber);
+  if (!line.Call) return CreateLocalVariable(store_.Line(lineNumber));
+  CreateLocals(*line.Call);
+}
 
-  /// Cuts a text at its blanks, up to its end or a carriage return. Two blanks make an empty word.
-  explicit Words(std::string_view text) {
-    int number = 1;
-    for (const char character : text) {
-      if (character == '\r') break;
-      if (character == ' ') {
-        ++number;
-      } else {
-        Word(number) += character;
-      }
-    }
-  }
-
-  const std::string& At(int number) const { return words_[Index(number)]; }
-  bool Ends(int number) const { return At(number).empty() || At(number) == " "; }
-
- private:
-  static std::size_t Index(int number) {
-    if (number < 1 || number > LastIndex) throw Failure(FailureKind::SubscriptOutOfRange);
-    return static_cast<std::size_t>(number - 1);
-  }
-  std::string& Word(int number) { return words_[Index(number)]; }
-
-  std::array<std::string, LastIndex> words_;
-};
-
-}  // namespace
-
-void Inputs::CreateLocalVariable(std::string_view commandLine) {
-  const Words call(commandLine);
+void Inputs::CreateLocals(const Words& call) {
   const int header = store_.WhereProcedure(Trimmed(call.At(1)));
-  // From the third character on: the blank behind TO makes an empty first word.
-  const Words names(From(Trimmed(store_.Line(header)), 3));
+  const LineForm& line = store_.FormOf(header);
+  // What is found as a header need not be of that class.
+  const std::optional<Words> other = line.Header ? std::nullopt : std::optional(WordsOfHeader(store_.Line(header)));
+  const Words& names = other ? *other : *line.Header;
 
-  int slot = 1;
-  while (!variables_.Slot(slot).empty() && variables_.Slot(slot) != " ") ++slot;
+  int slot = variables_.FirstOpenSlot();
   for (int word = 2; !call.Ends(word) && !names.Ends(word + 1); ++word) {
-    std::string value = call.At(word);
-    value = variables_.VarValReplacer(value);
-    value = variables_.GlobalVariableReplacer(value);
+    std::string value = InputText(call.At(word));
     // The slots are filled one after the other without a look at what they hold.
     variables_.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
   }
@@ -61,15 +34,28 @@ void Inputs::CreateLocalVariable(std::string_view commandLine) {
   controlPath_.CurProcName = call.At(1);
 }
 
+std::string Inputs::InputText(const std::string& word) const {
+  if (const Formula* const formula = variables_.Known().Of(word)) {
+    const Operand* const operand = formula->OnlyOperand();
+    if (operand != nullptr && operand->What == Operand::Kind::Constant) return std::string(Trimmed(word));
+    if (operand != nullptr && operand->IsName()) {
+      if (auto text = variables_.TextOf(*operand)) return std::move(*text);
+    }
+  }
+  std::string text = word;
+  text = variables_.VarValReplacer(text);
+  return variables_.GlobalVariableReplacer(text);
+}
+
 void Inputs::DeleteLocalVariable(std::string& procedureName) {
   Trim(procedureName);
-  const std::string key = procedureName + ".";
-  for (int slot = 1; !variables_.Slot(slot).empty(); ++slot) {
-    const std::string_view entry = Trimmed(variables_.Slot(slot));
-    if (!entry.starts_with(key) && !Contains(entry, "#" + key)) continue;
+  const std::vector<int> slots = variables_.SlotsOfProcedure(procedureName);
+  for (const int slot : slots) {
     variables_.SetSlot(slot, " ");
     variables_.RebuildList2();
   }
+  // The search for more runs past the last slot.
+  if (!variables_.HasFreeSlot()) throw Failure(FailureKind::SubscriptOutOfRange);
 }
 
 }  // namespace zerimo

@@ -20,11 +20,17 @@ class Inputs {
   /// Pairs the words of a call with the words of the procedure's header. Fails (subscript) at more than 50 words or
   /// with no free slot.
   void CreateLocalVariable(std::string_view commandLine);
+  /// The same for a line of the store.
+  void CreateLocalVariable(int lineNumber);
 
   /// Turns every entry of a procedure into a deleted slot. The caller's text is trimmed.
   void DeleteLocalVariable(std::string& procedureName);
 
  private:
+  void CreateLocals(const Words& call);
+  /// A word of a call with its names replaced.
+  std::string InputText(const std::string& word) const;
+
   Store& store_;
   ControlPath& controlPath_;
   Variables& variables_;

@@ -20,6 +20,8 @@ int CountComparisons(std::string_view expression) {
   return count;
 }
 
+}  // namespace
+
 bool Compare(double left, std::string_view op, double right) {
   if (op == "<") return left < right;
   if (op == ">") return left > right;
@@ -30,8 +32,6 @@ bool Compare(double left, std::string_view op, double right) {
   // Only "==" is left, which is no operator: never true.
   return false;
 }
-
-}  // namespace
 
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic) {
   if (CountComparisons(expression) == 0) return arithmetic.ArithmeticEvaluator(expression) != 0;

@@ -5,13 +5,33 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "interpreter/line_entry.h"
 
 namespace zerimo {
 
 namespace {
 
-bool NothingRuns(const std::string& path) { return path == "." || path == " " || path.empty(); }
+using Lead = ControlPath::Lead;
+
+/// Shows the control string in a label as long as a run lasts, and keeps what it is at the end, however the run ends.
+class ShownPath {
+ public:
+  ShownPath(Label& label, const ControlPath& path) : label_(label), path_(path) {}
+  ~ShownPath() {
+    label_.Caption.Follow([this]() -> const std::string& { return path_.CtrlStr(); });
+    label_.Caption.Keep();
+  }
+  ShownPath(const ShownPath&) = delete;
+  ShownPath& operator=(const ShownPath&) = delete;
+
+  /// Seen while a box holds the run.
+  void Follow() {
+    label_.Caption.Follow([this]() -> const std::string& { return path_.CtrlStr(); });
+  }
+
+ private:
+  Label& label_;
+  const ControlPath& path_;
+};
 
 }  // namespace
 
@@ -27,24 +47,18 @@ Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs
       Label19(context.around.controls.Label19) {}
 
 void Runner::Run1(std::string_view procedure) {
+  ShownPath shown(Label19, controlPath_);
   Walk walk;
   PassOver([&] { walk.Line = store_.WhereProcedure(procedure); });
-  if (walk.Line != 0) {
-    SetPath(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
-    // A walk past the end of the store has nothing left to run.
-    while (!NothingRuns(controlPath_.CtrlStr()) && !walk.Over && walk.Line <= Store::LineCount) {
-      watch_.Step();
-      PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
-      Act(walk);
-    }
+  if (walk.Line == 0) return;
+  controlPath_.SetCtrlStr(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
+  shown.Follow();
+  // A walk past the end of the store has nothing left to run.
+  while (!controlPath_.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
+    watch_.Step();
+    PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
+    Act(walk);
   }
-  Label19.Caption = controlPath_.CtrlStr();
-}
-
-void Runner::SetPath(std::string text) {
-  controlPath_.SetCtrlStr(std::move(text));
-  // Seen while a box holds the run.
-  Label19.Caption = controlPath_.CtrlStr();
 }
 
 void Runner::Act(Walk& walk) {
@@ -52,7 +66,7 @@ void Runner::Act(Walk& walk) {
     case StmtPrimitive:
       PassOver([&] {
         store_.TrimLine(walk.Line);
-        dispatch_.Execute(store_.Line(walk.Line));
+        dispatch_.Execute(store_.Line(walk.Line), store_.FormOf(walk.Line).Primitive);
       });
       Advance(walk);
       break;
@@ -74,7 +88,7 @@ void Runner::Act(Walk& walk) {
     case StmtIf:
       // A condition that fails leaves the line counter: the IF runs again, for ever if it always fails.
       PassOver([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
-      WriteLineBlank(walk.Line);
+      controlPath_.WriteLine(walk.Line, Lead::Blank);
       break;
     case StmtEndIf:
       ActOnEndIf(walk);
@@ -83,7 +97,7 @@ void Runner::Act(Walk& walk) {
       ActOnElse(walk);
       break;
     case StmtMake:
-      PassOver([&] { variables_.VariableUpdate(walk.Line); });
+      PassOver([&] { variables_.Make(walk.Line); });
       Advance(walk);
       break;
     case StmtArithmetic:
@@ -93,74 +107,60 @@ void Runner::Act(Walk& walk) {
       ActOnExpression(walk, "REXP ");
       return;
   }
-  if (!walk.Over) Tidy();
+  if (!walk.Over) controlPath_.Tidy();
 }
 
-void Runner::Advance(Walk& walk) {
-  ++walk.Line;
-  WriteLineBlank(walk.Line);
-}
+void Runner::Advance(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::Blank); }
 
 void Runner::ActOnCall(Walk& walk) {
-  PassOver([&] {
-    LentLine line(store_, walk.Line);
-    walk.Name = GiveWord(line.Text, 1);
-  });
+  PassOver([&] { walk.Name = store_.TakeFirstWord(walk.Line); });
   int callee = 0;
   PassOver([&] { callee = store_.WhereProcedure(walk.Name); });
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
-    SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
+    controlPath_.SetCtrlStr(controlPath_.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
-  PassOver([&] { inputs_.CreateLocalVariable(store_.Line(walk.Line)); });
-  SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
+  PassOver([&] { inputs_.CreateLocalVariable(walk.Line); });
+  const int call = walk.Line;
   walk.Line = callee + 1;
-  SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
+  controlPath_.Enter(call, walk.Name, walk.Line);
 }
 
-void Runner::ActOnTo(Walk& walk) {
-  ++walk.Line;
-  WriteLinePlain(walk.Line);
-}
+void Runner::ActOnTo(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::None); }
 
 void Runner::ActOnEnd(Walk& walk) {
   PassOver([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
-  const int dot = LastPositionOf(controlPath_.CtrlStr(), '.');
-  if (dot <= 1) {
-    SetPath(".");
-  } else {
-    SetPath(std::string(Left(controlPath_.CtrlStr(), dot - 1)));
-    PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
-    WriteLinePlain(walk.Line);
+  if (controlPath_.Leave()) {
+    PassOver([&] { walk.Line = controlPath_.LineReached() + 1; });
+    controlPath_.WriteLine(walk.Line, Lead::None);
   }
   PassOver([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
-  const std::string firstPart = FirstPartExtractor(controlPath_.CtrlStr());
-  std::string label;
+  std::string_view label;
   PassOver([&] { label = From(store_.Line(walk.Line), 6); });
   PassOver([&] { walk.Line = conditionals_.LabelPos(label); });
   if (walk.Line == 0) {
-    services_.MessageBox("UnDeclared Label: " + label + " in Goto Statement");
+    services_.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
     walk.Over = true;
     return;
   }
-  SetPath(std::string(Trimmed(firstPart)) + StrTrimmed(walk.Line));
+  controlPath_.WriteLine(walk.Line, Lead::None);
 }
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: behind an ENDIF the text is one ahead, and a line is skipped.
-  PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
-  WriteLinePlain(walk.Line);
+  PassOver([&] { walk.Line = controlPath_.LineReached() + 1; });
+  controlPath_.WriteLine(walk.Line, Lead::None);
 }
 
 void Runner::ActOnEndIf(Walk& walk) {
   ++walk.Line;
   // One ahead of the counter.
-  WriteLineBlank(walk.Line + 1);
+  controlPath_.WriteLine(walk.Line + 1, Lead::Blank);
 }
 
 void Runner::ActOnElse(Walk& walk) {
@@ -171,12 +171,12 @@ void Runner::ActOnElse(Walk& walk) {
     if (store_.ClassOf(number) == StmtEndIf) ++endIfs;
     if (endIfs > ifs) {
       walk.Line = number + 1;
-      WriteLineBlank(walk.Line);
+      controlPath_.WriteLine(walk.Line, Lead::Blank);
       return;
     }
     if (store_.Line(number).empty()) {
       services_.MessageBox("Misplaced Else");
-      SetPath(".");
+      controlPath_.SetCtrlStr(".");
       break;
     }
   }
@@ -185,20 +185,9 @@ void Runner::ActOnElse(Walk& walk) {
 
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
   // Here alone the tidying comes before the act.
-  Tidy();
+  controlPath_.Tidy();
   PassOver([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
   Advance(walk);
 }
-
-void Runner::Tidy() {
-  if (controlPath_.CtrlStr() == "1") SetPath(".");
-  std::string text(Trimmed(controlPath_.CtrlStr()));
-  PassOver([&] { text = RecursionChecker(text); });
-  SetPath(std::move(text));
-}
-
-void Runner::WriteLineBlank(int line) { SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + Str(line)); }
-
-void Runner::WriteLinePlain(int line) { SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + StrTrimmed(line)); }
 
 }  // namespace zerimo

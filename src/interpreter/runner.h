@@ -41,10 +41,6 @@ class Runner {
   void ActOnEndIf(Walk& walk);
   void ActOnElse(Walk& walk);
   void ActOnExpression(Walk& walk, std::string_view word);
-  void Tidy();
-  void SetPath(std::string text);
-  void WriteLineBlank(int line);
-  void WriteLinePlain(int line);
 
   Store& store_;
   ControlPath& controlPath_;

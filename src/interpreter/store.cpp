@@ -1,5 +1,6 @@
 #include "interpreter/store.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int SweepLines = 100;
 constexpr int HowManyLines = 1000;
+/// A line with that many blanks has too many words.
+constexpr int MostBlanks = 50;
 
 /// The working copy of a sweep: line 101 is a subscript failure.
 class WorkingCopy {
@@ -41,14 +44,24 @@ void Store::SetLine(int number, std::string text) { Put(Index(number), std::move
 
 void Store::Put(std::size_t index, std::string text) noexcept {
   if (FileDataArray[index] == text) return;
-  classes_[index] = 0;
   FileDataArray[index] = std::move(text);
+  forms_[index].reset();
+  ++changes_;
 }
 
-StatementClass Store::ClassOf(int number) const {
+const LineForm& Store::FormOf(int number) const {
   const std::size_t index = Index(number);
-  if (classes_[index] == 0) classes_[index] = WhatIsThis(FileDataArray[index]);
-  return static_cast<StatementClass>(classes_[index]);
+  if (!forms_[index]) forms_[index] = std::make_unique<LineForm>(FileDataArray[index]);
+  return *forms_[index];
+}
+
+std::string Store::TakeFirstWord(int number) {
+  const std::string& line = Line(number);
+  // As an earlier call has left it: nothing changes any more.
+  const bool isTaken = line.size() > 1 && line.front() != ' ' && line.back() == ' ' && line[line.size() - 2] != ' ';
+  if (isTaken && std::ranges::count(line, ' ') < MostBlanks) return line.substr(0, line.find(' '));
+  LentLine lent(*this, number);
+  return GiveWord(lent.Text, 1);
 }
 
 void Store::TrimLine(int number) {
@@ -58,9 +71,11 @@ void Store::TrimLine(int number) {
 }
 
 int Store::FirstEmptyLine() const {
-  int number = 1;
-  while (!Line(number).empty()) ++number;
-  return number;
+  return firstEmptyLine_.Get(changes_, [this] {
+    int number = 1;
+    while (!Line(number).empty()) ++number;
+    return number;
+  });
 }
 
 void Store::MakeEmptyFileDataArray() {
@@ -68,6 +83,11 @@ void Store::MakeEmptyFileDataArray() {
 }
 
 std::int16_t Store::WhereProcedure(std::string_view procedure) const {
+  TextMap<std::int16_t>& known = procedures_.Get(changes_, [] { return TextMap<std::int16_t>(); });
+  return FindOrMake(known, procedure, [&] { return FindProcedure(procedure); });
+}
+
+std::int16_t Store::FindProcedure(std::string_view procedure) const {
   const std::string marked = "#TO " + std::string(procedure);
   const std::string_view pattern = std::string_view(marked).substr(1);
   for (int number = 1; !Line(number).empty(); ++number) {

@@ -3,11 +3,14 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "controls/control_kinds.h"
+#include "interpreter/line_form.h"
+#include "interpreter/since_change.h"
 #include "interpreter/statement_class.h"
 
 namespace zerimo {
@@ -28,8 +31,17 @@ class Store {
   /// The one door by which a line changes; fails (subscript) outside 1 to 2000.
   void SetLine(int number, std::string text);
 
-  /// The class of a line (`WhatIsThis`), kept beside the text until the text changes. Fails like `Line`.
-  StatementClass ClassOf(int number) const;
+  /// What follows from a line, kept beside the text until the text changes. Fails like `Line`.
+  const LineForm& FormOf(int number) const;
+
+  /// The class of a line (`WhatIsThis`). Fails like `Line`.
+  StatementClass ClassOf(int number) const { return FormOf(number).Class; }
+
+  /// Counts the changes of lines: what follows from several lines holds as long as it stays.
+  std::uint64_t Changes() const { return changes_; }
+
+  /// `GiveWord` for the first word of a line in place: it is trimmed and gets one blank behind it. Fails like that.
+  std::string TakeFirstWord(int number);
 
   /// Trims a line in place.
   void TrimLine(int number);
@@ -73,10 +85,15 @@ class Store {
   std::size_t Index(int number) const;
   void Put(std::size_t index, std::string text) noexcept;
 
+  std::int16_t FindProcedure(std::string_view procedure) const;
+
   ListBox& List3;
   std::array<std::string, LineCount> FileDataArray;
-  /// 0 while not known.
-  mutable std::array<std::uint8_t, LineCount> classes_{};
+  mutable std::array<std::unique_ptr<LineForm>, LineCount> forms_;
+  std::uint64_t changes_ = 0;
+  // What is known of the store as it is.
+  mutable SinceChange<int> firstEmptyLine_;
+  mutable SinceChange<TextMap<std::int16_t>> procedures_;
 };
 
 /// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan

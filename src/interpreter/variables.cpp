@@ -1,5 +1,7 @@
 #include "interpreter/variables.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "base/failure.h"
@@ -42,25 +44,11 @@ std::string ReplaceAll(std::string& text, std::string_view word, double number) 
   return text;
 }
 
-/// The words of a `MAKE` line: the name as the table keeps it and the text of the value.
-struct MakeWords {
-  std::string Name;
-  std::string Value;
-
-  explicit MakeWords(std::string_view line) {
-    int blanks = 0;
-    for (const char character : line) {
-      if (character == ' ') {
-        ++blanks;
-      } else if (blanks == 1) {
-        Name += character;
-      } else if (blanks == 2) {
-        Value += character;
-      }
-    }
-    if (Name.starts_with('"')) Name.front() = ':';
-  }
-};
+/// Whether a number's text is the same after it was read and written again.
+bool KeepsItsText(double number) {
+  const double size = std::abs(number);
+  return (size < 1E300 && size > 1E-300) || size == 0;
+}
 
 }  // namespace
 
@@ -72,7 +60,8 @@ Variables::Variables(const InterpreterContext& context, Store& store, ControlPat
       Form1(context.controls.Form1),
       List2(context.controls.List2),
       arithmetic_(arithmetic),
-      watch_(context.watch) {}
+      watch_(context.watch),
+      formulas_(*this, *this, controlPath) {}
 
 const std::string& Variables::Slot(int number) const {
   if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
@@ -83,11 +72,51 @@ void Variables::SetSlot(int number, std::string text) {
   if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
   const auto index = static_cast<std::size_t>(number - 1);
   std::string& slot = VariableArray[index];
-  // Only the first former text of a slot counts.
-  if (shownInList2_) former_.try_emplace(index, slot);
+  KeepFormer(index);
   freeSlots_ += static_cast<int>(text.empty()) - static_cast<int>(slot.empty());
   deletedSlots_ += static_cast<int>(text == " ") - static_cast<int>(slot == " ");
+  if (text.empty() || text == " ") openFrom_ = std::min(openFrom_, number);
+  if (!text.empty()) usedUpTo_ = std::max(usedUpTo_, number);
+  if (NamePart(slot) != NamePart(text)) names_.Change(index, NamePart(slot), NamePart(text));
   slot = std::move(text);
+  forms_[index] = SlotForm(slot);
+}
+
+void Variables::SetValue(int number, const std::string& value) {
+  const auto index = static_cast<std::size_t>(number - 1);
+  KeepFormer(index);
+  std::string& slot = VariableArray[index];
+  slot.replace(forms_[index].KeyLength, std::string::npos, value);
+  forms_[index] = SlotForm(slot);
+}
+
+void Variables::KeepFormer(std::size_t index) {
+  // Only the first former text of a slot counts.
+  if (!shownInList2_ || isFormer_[index]) return;
+  former_[index] = VariableArray[index];
+  isFormer_[index] = true;
+  formerSlots_.push_back(index);
+}
+
+int Variables::FirstOpenSlot() const {
+  while (!Slot(openFrom_).empty() && Slot(openFrom_) != " ") ++openFrom_;
+  return openFrom_;
+}
+
+const std::vector<int>& Variables::SlotsOfProcedure(const std::string& name) const {
+  ProcedureSlots& known = FindOrMake(procedures_, name, [] { return ProcedureSlots{}; });
+  if (known.Names != Names()) {
+    known.Names = 0;
+    known.Slots.clear();
+    const std::string key = name + ".";
+    for (int slot = 1; slot <= SlotCount && !Slot(slot).empty(); ++slot) {
+      const std::string_view entry = Trimmed(Slot(slot));
+      if (entry.starts_with(key) || Contains(entry, "#" + key)) known.Slots.push_back(slot);
+    }
+    // A "=" in the name may be that of a slot.
+    if (!Contains(name, "=")) known.Names = Names();
+  }
+  return known.Slots;
 }
 
 void Variables::RebuildList2() {
@@ -97,7 +126,8 @@ void Variables::RebuildList2() {
 }
 
 void Variables::ListSlots() {
-  former_.clear();
+  for (const std::size_t index : formerSlots_) isFormer_[index] = false;
+  formerSlots_.clear();
   shownInList2_ = true;
   List2.SetLazily([this] { return ListedSlots(); });
 }
@@ -106,8 +136,7 @@ std::vector<std::string> Variables::ListedSlots() {
   shownInList2_ = false;
   std::vector<std::string> items;
   for (std::size_t index = 0; index < SlotCount; ++index) {
-    const auto kept = former_.find(index);
-    const std::string& slot = kept == former_.end() ? VariableArray[index] : kept->second;
+    const std::string& slot = isFormer_[index] ? former_[index] : VariableArray[index];
     if (slot.empty()) break;
     items.push_back(slot);
   }
@@ -140,18 +169,48 @@ void Variables::CreateGlobalVariable() {
 }
 
 void Variables::VariableUpdate(int lineNumber) {
-  MakeWords make(store_.Line(lineNumber));
-  std::string& value = make.Value;
+  if (!Make(lineNumber)) throw Failure(FailureKind::SubscriptOutOfRange);
+}
+
+bool Variables::Make(int lineNumber) {
+  const LineForm& make = store_.FormOf(lineNumber);
+  const double value = ValueOf(make);
+  const std::string result = StrTrimmed(value);
+  const auto known = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make) : std::nullopt;
+  if (known) {
+    if (known->Local != 0) SetValue(known->Local, result);
+    if (known->Global != 0) SetValue(known->Global, result);
+  } else {
+    const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
+    if (const int slot = FindLocal(key); slot != 0) SetSlot(slot, key + result);
+    // A local's new value goes to the global of that name too.
+    if (const int slot = FindGlobal(make.Name); slot != 0) SetSlot(slot, make.Name + "=" + StrTrimmed(Val(result)));
+  }
+  ListSlots();
+  return freeSlots_ != 0 && CloseDeletedSlots();
+}
+
+double Variables::ValueOf(const LineForm& make) {
+  if (const auto value = formulas_.Value(make.Value); value && CoordinatesExist()) return *value;
+  std::string value = make.Value;
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);
-  const std::string result = StrTrimmed(arithmetic_.ArithmeticEvaluator(value));
+  return arithmetic_.ArithmeticEvaluator(value);
+}
 
-  SetLocal(EnclosingProcedure(lineNumber) + "." + make.Name + "=", result);
-  // A local's new value goes to the global of that name too.
-  SetGlobal(make.Name, result);
-  RebuildList2();
-  SpaceRemoverFromVariableArray();
+/// The slots that a `MAKE` writes to, if it leaves the names as they are.
+std::optional<Variables::MakeSlots> Variables::SlotsOf(int lineNumber, const LineForm& make) {
+  MakeSlots& slots = makes_[static_cast<std::size_t>(lineNumber)];
+  if (slots.Lines == store_.Changes() && slots.Names == Names()) return slots;
+  slots.Names = 0;
+  const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
+  const int local = FindLocal(key);
+  const int global = FindGlobal(make.Name);
+  const auto keeps = [this](int slot, std::string_view name) { return slot == 0 || NamePart(Slot(slot)) == name; };
+  if (!keeps(local, key) || !keeps(global, make.Name + "=")) return std::nullopt;
+  slots = {store_.Changes(), Names(), local, global};
+  return slots;
 }
 
 std::string Variables::EnclosingProcedure(int lineNumber) const {
@@ -161,38 +220,46 @@ std::string Variables::EnclosingProcedure(int lineNumber) const {
   return std::string(name.substr(0, name.find(' ')));
 }
 
-void Variables::SetLocal(const std::string& key, const std::string& value) {
+int Variables::FindLocal(const std::string& key) const {
   for (int slot = 1; !Slot(slot).empty(); ++slot) {
-    if (!SlotContains('#', Slot(slot), key)) continue;
-    SetSlot(slot, key + value);
-    return;
+    if (SlotContains('#', Slot(slot), key)) return slot;
   }
+  return 0;
 }
 
-void Variables::SetGlobal(const std::string& name, const std::string& value) {
+int Variables::FindGlobal(const std::string& name) const {
   const std::string key = name + "=";
-  bool isGlobal = false;
-  bool isNameless = false;
   int slot = 1;
   for (; !Slot(slot).empty() && Slot(slot) != " "; ++slot) {
-    isGlobal = SlotContains('$', Slot(slot), key);
-    isNameless = SlotContains('#', Slot(slot), "." + key);
-    if (isGlobal || isNameless) break;
+    if (SlotContains('#', Slot(slot), "." + key)) return 0;
+    if (SlotContains('$', Slot(slot), key)) return slot;
   }
-  if (!isNameless) SetSlot(slot, key + StrTrimmed(Val(value)));
+  return slot;
 }
 
 void Variables::SpaceRemoverFromVariableArray() {
+  if (!CloseDeletedSlots()) throw Failure(FailureKind::SubscriptOutOfRange);
+}
+
+bool Variables::CloseDeletedSlots() {
   while (SpacePresent()) {
     watch_.Tick();
     for (int slot = 1; slot <= LastCompactedSlot; ++slot) {
       if (Slot(slot) != " ") continue;
+      CloseSlot(slot);
       // The move reads one slot too far at its end: it fails when all is moved, so that one deleted slot goes a call.
-      for (int move = slot; move <= SlotCount; ++move) {
-        if (Slot(move) != Slot(move + 1)) SetSlot(move, Slot(move + 1));
-      }
+      return false;
     }
   }
+  return true;
+}
+
+void Variables::CloseSlot(int number) {
+  const int last = usedUpTo_;
+  for (int slot = number; slot < SlotCount && slot <= last; ++slot) {
+    if (Slot(slot) != Slot(slot + 1)) SetSlot(slot, Slot(slot + 1));
+  }
+  if (last < SlotCount) usedUpTo_ = last - 1;
 }
 
 bool Variables::SpacePresent() const { return deletedSlots_ > 0; }
@@ -200,7 +267,8 @@ bool Variables::SpacePresent() const { return deletedSlots_ > 0; }
 std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
-  for (const std::string& local : LocalsOfProcedure()) {
+  for (const int slot : LocalsOfProcedure()) {
+    const std::string& local = Slot(slot);
     PassOver([&] {
       const int dot = PositionOf(local, ".");
       name = Mid(local, dot + 1, PositionOf(local, "=") - dot - 1);
@@ -212,14 +280,12 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   return expression;
 }
 
-std::vector<std::string> Variables::LocalsOfProcedure() const {
-  std::string name;
-  PassOver([&] { name = controlPath_.CurrentProcedureName(); });
-  const std::string key = name + ".";
-  std::vector<std::string> locals;
+std::vector<int> Variables::LocalsOfProcedure() const {
+  const std::string key = controlPath_.ProcedureName() + ".";
+  std::vector<int> locals;
   // What does not fit is passed over, and the walk goes on: without a free slot it never ends.
   for (int number = 1; SlotGoesOn(number); ++number) {
-    if (locals.size() < MostLocals && SlotContains('#', Slot(number), key)) locals.push_back(Slot(number));
+    if (locals.size() < MostLocals && SlotContains('#', Slot(number), key)) locals.push_back(number);
   }
   return locals;
 }
@@ -250,18 +316,85 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
 }
 
 void Variables::ReadGlobal(const std::string& name, double& value) const {
-  const std::string key = name + "=";
+  const int number = GlobalSlot(name);
+  if (number == 0) return;
+  const std::string& slot = Slot(number);
+  PassOver([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
+}
+
+int Variables::GlobalSlot(std::string_view name) const {
+  const std::string key = std::string(name) + "=";
   for (int number = 1; SlotGoesOn(number); ++number) {
-    const std::string& slot = Slot(number);
-    if (!SlotContains('$', slot, key)) continue;
-    PassOver([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
-    return;
+    if (SlotContains('$', Slot(number), key)) return number;
+  }
+  return 0;
+}
+
+std::optional<NamesInUse> Variables::InUse() const {
+  // A "=" in a procedure's name may be that of a slot.
+  if (freeSlots_ == 0 || Contains(controlPath_.ProcedureName(), "=")) return std::nullopt;
+  NamesInUse names;
+  for (const int slot : LocalsOfProcedure()) {
+    const std::string& local = Slot(slot);
+    const int dot = PositionOf(local, ".");
+    const int equals = PositionOf(local, "=");
+    if (equals < dot) return std::nullopt;
+    names.Locals.push_back({std::string(Mid(local, dot + 1, equals - dot - 1)), slot});
+  }
+  names.GlobalSlot = [this](std::string_view name) { return GlobalSlot(name); };
+  return names;
+}
+
+std::optional<double> Variables::NumberOf(const Operand& operand) const {
+  // Above, a text has an exponent, or its second decimal is none of its digits.
+  constexpr double plainBelow = 1E13;
+  double number = 0;
+  if (operand.What == Operand::Kind::XCor || operand.What == Operand::Kind::YCor) {
+    if (!CoordinatesExist()) return std::nullopt;
+    number = operand.What == Operand::Kind::XCor ? X() : Y();
+  } else {
+    const SlotForm& form = FormOf(operand.Index);
+    if (!form.Number) return std::nullopt;
+    if (operand.What == Operand::Kind::Local) return form.Number;
+    number = *form.Number;
+    if (std::abs(number) < plainBelow && number != std::trunc(number)) number = RoundToDecimals(number, 2);
+  }
+  if (!(std::abs(number) < plainBelow)) return std::nullopt;
+  return number + 0.0;
+}
+
+std::optional<std::string> Variables::TextOf(const Operand& operand) const {
+  const std::optional<double> number = NumberOf(operand);
+  if (!number) return std::nullopt;
+  switch (operand.What) {
+    case Operand::Kind::Local:
+      return Slot(operand.Index).substr(FormOf(operand.Index).KeyLength);
+    case Operand::Kind::Global:
+      return *number == 0 ? std::string() : StrTrimmed(*number);
+    default:
+      return std::nullopt;
   }
 }
 
+bool Variables::CoordinatesExist() const {
+  // Far inside the numbers, so that no quotient leaves them.
+  constexpr double largest = 1E100;
+  const double resolution = std::abs(turtle_.Resolution);
+  return std::abs(turtle_.TurtleX) < largest && std::abs(turtle_.TurtleY) < largest && resolution > 1 / largest &&
+         resolution < largest;
+}
+
+double Variables::X() const {
+  return RoundToDecimals(Divide(turtle_.TurtleX - Form1.Width / 2.0, turtle_.Resolution), 1);
+}
+
+double Variables::Y() const {
+  return RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle_.TurtleY, turtle_.Resolution), 1);
+}
+
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
-  const double x = RoundToDecimals(Divide(turtle_.TurtleX - Form1.Width / 2.0, turtle_.Resolution), 1);
-  const double y = RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle_.TurtleY, turtle_.Resolution), 1);
+  const double x = X();
+  const double y = Y();
   text = ReplaceAll(text, "XCOR", x);
   text = ReplaceAll(text, "YCOR", y);
   return text;

@@ -2,21 +2,23 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "interpreter/arithmetic.h"
 #include "interpreter/context.h"
 #include "interpreter/control_path.h"
+#include "interpreter/formulas.h"
+#include "interpreter/slot_forms.h"
 #include "interpreter/store.h"
 
 namespace zerimo {
 
 /// All variables: 500 text slots, numbered from 1. A slot holds "" (free; most scans stop there), " " (deleted),
 /// NAME=value (a global) or PROCEDURE.NAME=value (a local).
-class Variables {
+class Variables : OperandSource {
  public:
   static constexpr int SlotCount = 500;
 
@@ -31,8 +33,12 @@ class Variables {
   /// Defines the globals of the `MAKE` lines above the first `TO`. Fails (subscript) in a store without a `TO`.
   void CreateGlobalVariable();
 
-  /// Carries out the `MAKE` on a line of the store.
+  /// Carries out the `MAKE` on a line of the store. Fails as its value does, and (subscript) after it has closed a
+  /// deleted slot or with no free one.
   void VariableUpdate(int lineNumber);
+
+  /// The same; false in place of the failures that come when all is done.
+  bool Make(int lineNumber);
 
   /// Closes deleted slots; always fails (subscript) after closing one, and never returns if only slots above 100 are
   /// deleted.
@@ -51,17 +57,69 @@ class Variables {
   /// Shows every slot up to the first free one in `List2`; fails (subscript) behind the last slot if none is free.
   void RebuildList2();
 
+  /// The number of the first slot that is free or deleted; fails (subscript) if there is none.
+  int FirstOpenSlot() const;
+
+  bool HasFreeSlot() const { return freeSlots_ != 0; }
+
+  /// The slots up to the first free one that hold entries of a procedure.
+  const std::vector<int>& SlotsOfProcedure(const std::string& name) const;
+
+  /// What a slot's value is.
+  const SlotForm& FormOf(int number) const { return forms_[static_cast<std::size_t>(number - 1)]; }
+
+  /// The number of the state of all names: what was searched in a state holds in it. Values that are numbers do not
+  /// count.
+  std::uint64_t Names() const { return names_.Now(); }
+
+  /// The names that a text is read with now; nothing if a search for them would never end.
+  std::optional<NamesInUse> InUse() const;
+
+  /// Whether the turtle's place can be told in steps: if not, every `MAKE` and every condition fails.
+  bool CoordinatesExist() const;
+
+  /// The text that a name, as the only operand, is replaced by; nothing if its value is no plain number.
+  std::optional<std::string> TextOf(const Operand& operand) const;
+
+  /// The formulas of the texts that are evaluated with these variables.
+  Formulas& Known() const { return formulas_; }
+
   /// Sets all slots to one blank and shows them all in `List2`.
   void ForgetAll();
 
  private:
+  /// Where a `MAKE` writes, for a state of the store and of the names; 0 for nowhere.
+  struct MakeSlots {
+    std::uint64_t Lines = 0;
+    std::uint64_t Names = 0;
+    int Local = 0;
+    int Global = 0;
+  };
+  struct ProcedureSlots {
+    std::uint64_t Names = 0;
+    std::vector<int> Slots;
+  };
+
+  std::optional<double> NumberOf(const Operand& operand) const override;
+  double X() const;
+  double Y() const;
+
+  double ValueOf(const LineForm& make);
   std::string EnclosingProcedure(int lineNumber) const;
-  void SetLocal(const std::string& key, const std::string& value);
-  void SetGlobal(const std::string& name, const std::string& value);
-  std::vector<std::string> LocalsOfProcedure() const;
+  std::optional<MakeSlots> SlotsOf(int lineNumber, const LineForm& make);
+  int FindLocal(const std::string& key) const;
+  /// The slot that a global is written to, 0 if a local without a procedure stands in its way.
+  int FindGlobal(const std::string& name) const;
+  /// A number takes the place of the value in a slot.
+  void SetValue(int number, const std::string& value);
+  bool CloseDeletedSlots();
+  void CloseSlot(int number);
+  std::vector<int> LocalsOfProcedure() const;
   /// Whether a scan goes on at a slot; never returns behind the last slot.
   bool SlotGoesOn(int number) const;
+  int GlobalSlot(std::string_view name) const;
   void ReadGlobal(const std::string& name, double& value) const;
+  void KeepFormer(std::size_t index);
   void ListSlots();
   std::vector<std::string> ListedSlots();
 
@@ -73,11 +131,21 @@ class Variables {
   const Arithmetic& arithmetic_;
   Watch& watch_;
   std::array<std::string, SlotCount> VariableArray;
+  std::array<SlotForm, SlotCount> forms_;
+  NameStates names_;
+  mutable Formulas formulas_;
+  std::vector<MakeSlots> makes_{Store::LineCount + 1};
+  mutable TextMap<ProcedureSlots> procedures_;
   /// How many slots hold "" and " ".
   int freeSlots_ = SlotCount;
   int deletedSlots_ = 0;
+  /// No slot in front of it is free or deleted; none from the other on is in use.
+  mutable int openFrom_ = 1;
+  int usedUpTo_ = 0;
   /// While `List2` is put off: the texts that slots had when it was made, for those that have changed since.
-  std::unordered_map<std::size_t, std::string> former_;
+  std::array<std::string, SlotCount> former_;
+  std::array<bool, SlotCount> isFormer_{};
+  std::vector<std::size_t> formerSlots_;
   bool shownInList2_ = false;
 };
 

@@ -203,6 +203,12 @@ const WordFacts* FindWord(std::string_view word) {
   return row == std::end(WordTable) ? nullptr : row;
 }
 
+Action ActionOf(std::string_view line) {
+  const WordFacts* const row = FindWord(line.substr(0, line.find(' ')));
+  const bool matches = row != nullptr && (row->Match == MatchedBy::Word || row->Word == line);
+  return matches ? row->Does : Action::None;
+}
+
 std::span<const std::string_view> CommandListNames() { return CommandNames; }
 
 }  // namespace zerimo

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace zerimo {
+
+/// A text that can be put off: while it follows a source, it is asked for only when somebody reads it.
+class LateText {
+ public:
+  using Source = std::function<const std::string&()>;
+
+  LateText() = default;
+  // A text is meant wherever one of these stands.
+  LateText(std::string text) : text_(std::move(text)) {}  // NOLINT(google-explicit-constructor)
+  LateText(const char* text) : text_(text) {}             // NOLINT(google-explicit-constructor)
+
+  /// From now on it is what the source gives, until something is assigned or `Keep` is called.
+  void Follow(Source source) { source_ = std::move(source); }
+  bool Follows() const { return source_ != nullptr; }
+
+  /// Keeps what the source gives now.
+  void Keep() {
+    if (source_) *this = LateText(source_());
+  }
+
+  const std::string& Text() const { return source_ ? source_() : text_; }
+  operator const std::string&() const { return Text(); }    // NOLINT(google-explicit-constructor)
+  operator std::string_view() const { return Text(); }      // NOLINT(google-explicit-constructor)
+  friend bool operator==(const LateText& one, std::string_view other) { return one.Text() == other; }
+  friend bool operator==(const LateText& one, const LateText& other) { return one.Text() == other.Text(); }
+
+ private:
+  std::string text_;
+  Source source_;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,191 @@
+#include "reference/base/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/failure.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+bool IsExponentMark(char character) {
+  return character == 'E' || character == 'e' || character == 'D' || character == 'd';
+}
+
+std::string WithoutSkipped(std::string_view text) {
+  std::string rest;
+  rest.reserve(text.size());
+  for (const char character : text) {
+    if (character != ' ' && character != '\t' && character != '\n') rest += character;
+  }
+  return rest;
+}
+
+int DigitValue(char character) {
+  if (IsDigit(character)) return character - '0';
+  if (character >= 'A' && character <= 'F') return character - 'A' + 10;
+  if (character >= 'a' && character <= 'f') return character - 'a' + 10;
+  return std::numeric_limits<int>::max();
+}
+
+double PrefixedNumber(std::string_view digits, int base) {
+  double value = 0;
+  for (const char character : digits) {
+    const int digit = DigitValue(character);
+    if (digit >= base) break;
+    value = value * base + digit;
+  }
+  return Finite(value);
+}
+
+/// Copies the longest decimal number at the front of `text` in the form that from_chars reads; empty if there is none.
+std::string DecimalNumber(std::string_view text) {
+  std::string number;
+  std::size_t at = 0;
+  bool digits = false;
+  bool point = false;
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) {
+    if (text[at] == '-') number += '-';
+    ++at;
+  }
+  for (; at < text.size() && (IsDigit(text[at]) || (text[at] == '.' && !point)); ++at) {
+    if (text[at] == '.') {
+      point = true;
+    } else {
+      digits = true;
+    }
+    number += text[at];
+  }
+  if (!digits) return {};
+  if (at < text.size() && IsExponentMark(text[at])) {
+    std::string exponent = "e";
+    ++at;
+    if (at < text.size() && (text[at] == '-' || text[at] == '+')) exponent += text[at++];
+    const std::size_t signLength = exponent.size();
+    while (at < text.size() && IsDigit(text[at])) exponent += text[at++];
+    if (exponent.size() > signLength) number += exponent;
+  }
+  return number;
+}
+
+/// The exponent of a decimal number, 0 without one.
+double ExponentOf(std::string_view number) {
+  const auto mark = number.find('e');
+  if (mark == std::string_view::npos) return 0;
+  const char* const first = number.data() + mark + (number[mark + 1] == '+' ? 2 : 1);
+  // What is too long to be read stays as it is here.
+  double exponent = *first == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+  std::from_chars(first, number.data() + number.size(), exponent);
+  return exponent;
+}
+
+/// Whether a decimal number that no 64-bit float can hold is too large (and not too small).
+bool IsTooLarge(std::string_view number) {
+  const std::string_view mantissa = number.substr(0, number.find('e'));
+  const auto firstDigit = static_cast<double>(mantissa.find_first_of("123456789"));
+  const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
+  return point - firstDigit + ExponentOf(number) > 0;
+}
+
+}  // namespace
+
+double Val(std::string_view text) {
+  const std::string rest = WithoutSkipped(text);
+  if (rest.size() > 1 && rest[0] == '&') {
+    if (rest[1] == 'H' || rest[1] == 'h') return PrefixedNumber(std::string_view(rest).substr(2), 16);
+    if (rest[1] == 'O' || rest[1] == 'o') return PrefixedNumber(std::string_view(rest).substr(2), 8);
+  }
+  const std::string number = DecimalNumber(rest);
+  if (number.empty()) return 0;
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec == std::errc::result_out_of_range) {
+    if (IsTooLarge(number)) throw Failure(FailureKind::Overflow);
+    return 0;
+  }
+  return value;
+}
+
+std::string Str(double number) {
+  constexpr double exponentFormFrom = 1E15;
+  if (std::abs(number) < exponentFormFrom && number == std::trunc(number)) {
+    const auto whole = static_cast<std::int64_t>(number);
+    return (whole < 0 ? "" : " ") + std::to_string(whole);
+  }
+  std::array<char, 40> buffer{};
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(number), std::chars_format::general, 15);
+  std::string text(buffer.data(), end.ptr);
+  if (const auto mark = text.find('e'); mark != std::string::npos) text[mark] = 'E';
+  if (text.starts_with("0.")) text.erase(0, 1);
+  return (number < 0 ? "-" : " ") + text;
+}
+
+std::string StrTrimmed(double number) {
+  std::string text = Str(number);
+  return text.front() == ' ' ? text.substr(1) : text;
+}
+
+double RoundHalfEven(double number) {
+  if (std::isnan(number)) throw Failure(FailureKind::Overflow);
+  const double below = std::floor(number);
+  const double rest = number - below;
+  if (rest < 0.5) return below;
+  if (rest > 0.5) return below + 1;
+  return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+double RoundToDecimals(double number, int decimals) {
+  // From here on a 64-bit float has no decimals.
+  constexpr double wholeFrom = 9007199254740992;
+  if (std::abs(Finite(number)) >= wholeFrom) return number;
+  const double factor = decimals == 0 ? 1 : decimals == 1 ? 10 : 100;
+  return RoundHalfEven(number * factor) / factor;
+}
+
+namespace {
+
+template <typename Whole>
+Whole ToWhole(double number) {
+  const double rounded = RoundHalfEven(number);
+  if (rounded < static_cast<double>(std::numeric_limits<Whole>::min()) ||
+      rounded > static_cast<double>(std::numeric_limits<Whole>::max())) {
+    throw Failure(FailureKind::Overflow);
+  }
+  return static_cast<Whole>(rounded);
+}
+
+}  // namespace
+
+std::int16_t ToInt16(double number) { return ToWhole<std::int16_t>(number); }
+
+std::int32_t ToInt32(double number) { return ToWhole<std::int32_t>(number); }
+
+std::uint8_t ToByte(double number) { return ToWhole<std::uint8_t>(number); }
+
+float ToSingle(double number) {
+  if (!(std::abs(number) <= static_cast<double>(std::numeric_limits<float>::max()))) {
+    throw Failure(FailureKind::Overflow);
+  }
+  return static_cast<float>(number);
+}
+
+std::int16_t AddInt16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<double>(a) + b); }
+
+double Finite(double number) {
+  if (!std::isfinite(number)) throw Failure(FailureKind::Overflow);
+  return number;
+}
+
+double Divide(double dividend, double divisor) {
+  if (divisor == 0) throw Failure(dividend == 0 ? FailureKind::Overflow : FailureKind::DivisionByZero);
+  return Finite(dividend / divisor);
+}
+
+}  // namespace zerimo::reference

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The conversions between numbers and texts, and the roundings. Everything in the system uses these.
+namespace zerimo::reference {
+
+/// The number at the beginning of a text. Blanks, tabs and line feeds are skipped wherever they stand; an optional
+/// sign, digits with at most one decimal point and an optional exponent ("E" or "D", either case) are read, and the
+/// prefixes "&H" and "&O" read hexadecimal and octal. Reading stops at the first character that can't go on; a text
+/// with no leading number is 0. A number beyond the 64-bit float's range fails (overflow).
+double Val(std::string_view text);
+
+/// A number as text: a leading blank if it is not negative, no zero before the point of a fraction (" .5"), at most
+/// 15 significant digits, the exponent form from 1E+15 upward and below 0.0001 (" 1E-05").
+std::string Str(double number);
+
+/// `Str` without the leading blank.
+std::string StrTrimmed(double number);
+
+/// To the nearest whole number, a half going to the even neighbour. Not-a-number fails (overflow).
+double RoundHalfEven(double number);
+
+/// The number times 10 to the power of `decimals` (0 to 2), rounded half to even, and divided again; a number too large
+/// to have decimals is left as it is. Fails (overflow) unless the number is finite.
+double RoundToDecimals(double number, int decimals);
+
+/// Rounded half to even; fails (overflow) outside -32768 to 32767.
+std::int16_t ToInt16(double number);
+
+/// Rounded half to even; fails (overflow) outside the 32-bit range.
+std::int32_t ToInt32(double number);
+
+/// Rounded half to even; fails (overflow) outside 0 to 255.
+std::uint8_t ToByte(double number);
+
+/// As a single; fails (overflow) beyond the range of singles.
+float ToSingle(double number);
+
+/// The sum in 16 bits; fails (overflow) out of range.
+std::int16_t AddInt16(std::int16_t a, std::int16_t b);
+
+/// The number itself if it is finite; fails (overflow) if a computation has left the 64-bit float's range.
+double Finite(double number);
+
+/// The quotient of two numbers: a zero divisor fails (division by zero; overflow for 0/0), and so does a result that
+/// is too large (overflow).
+double Divide(double dividend, double divisor);
+
+}  // namespace zerimo::reference

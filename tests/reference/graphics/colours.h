@@ -1,0 +1,32 @@
+#pragma once
+
+#include "reference/graphics/drawing_context.h"
+#include "reference/graphics/turtle_figure.h"
+
+namespace zerimo::reference {
+
+/// The colour primitives: `SETPC`, `SETBG`, `TEXTCOLOR`, `TEXTBACKGROUND`.
+class Colours {
+ public:
+  Colours(const DrawingContext& context, TurtleFigure& turtleFigure) : context_(context), turtleFigure_(turtleFigure) {}
+
+  /// Sets the work of the primitives.
+  void Bind();
+
+  /// Changes the background under a drawing, point by point on a lattice. Nothing calls it. Fails as its steps do.
+  void FillBack(std::int32_t newBGColor);
+
+ private:
+  void SetPC(PrimitiveCall& call);
+  void SetBG(PrimitiveCall& call);
+  void TextColor(PrimitiveCall& call);
+  void TextBackground(PrimitiveCall& call);
+
+  /// Moves the frames of the palette to the square of a number, which is not reduced to a code.
+  void SelectSquare(double number);
+
+  DrawingContext context_;
+  TurtleFigure& turtleFigure_;
+};
+
+}  // namespace zerimo::reference

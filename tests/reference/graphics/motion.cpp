@@ -1,0 +1,223 @@
+#include "reference/graphics/motion.h"
+
+#include <array>
+#include <cmath>
+
+#include "base/failure.h"
+#include "reference/base/numbers.h"
+#include "reference/graphics/step_numbers.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+/// Not pi, and not the number of the figure: a full turn leaves the heading at about 6.2831874.
+constexpr double TurnPi = 3.1415937;
+
+constexpr std::array<const char*, 4> PenWords = {"", "Pen Down", "Pen Up", "Pen Erase"};
+
+}  // namespace
+
+void Motion::Bind() {
+  BindMoves();
+  BindPen();
+}
+
+void Motion::BindMoves() {
+  Dispatch& primitives = context_.dispatch;
+  primitives.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
+  primitives.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
+  primitives.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
+  primitives.Bind(Action::Left, [this](PrimitiveCall& call) { Left(call); });
+  primitives.Bind(Action::SetX, [this](PrimitiveCall& call) { SetX(call); });
+  primitives.Bind(Action::SetY, [this](PrimitiveCall& call) { SetY(call); });
+  primitives.Bind(Action::SetXY, [this](PrimitiveCall& call) { SetXY(call); });
+  primitives.Bind(Action::Resolution, [this](PrimitiveCall& call) { Resolution(call); });
+  primitives.Bind(Action::ClearScreen, [this](PrimitiveCall&) { ClearScreen(); });
+}
+
+void Motion::BindPen() {
+  Dispatch& primitives = context_.dispatch;
+  primitives.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
+  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = 2; });
+  primitives.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
+  primitives.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
+  primitives.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
+  primitives.Bind(Action::HideTurtle, [this](PrimitiveCall&) { ShowFigure(false); });
+  primitives.Bind(Action::ShowTurtle, [this](PrimitiveCall&) { ShowFigure(true); });
+  primitives.Bind(Action::LineWidth, [this](PrimitiveCall& call) { LineWidth(call); });
+  primitives.Bind(Action::DrawMode, [this](PrimitiveCall& call) { DrawMode(call); });
+  primitives.Bind(Action::Clean, [this](PrimitiveCall&) { context_.Picture1.Cls(); });
+}
+
+void Motion::Forward(PrimitiveCall& call) {
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  // The input is evaluated before the test for a missing one, unlike in most primitives.
+  if (context_.dispatch.TellMissingInput(call, Action::Forward)) return;
+  MoveBy(distance);
+}
+
+void Motion::Back(PrimitiveCall& call) {
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  if (context_.dispatch.TellMissingInput(call, Action::Back)) return;
+  MoveBy(-distance);
+}
+
+void Motion::MoveBy(double distance) {
+  Turtle& turtle = context_.turtle;
+  double newX = 0;
+  double newY = 0;
+  PassOver([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
+  PassOver([&] { newY = Finite(turtle.TurtleY - distance * std::cos(-turtle.TurtleDir)); });
+  // A test that fails goes on with the move.
+  bool admitted = true;
+  PassOver([&] { admitted = AdmitsMove(newX, newY); });
+  if (!admitted) return Refuse();
+  DrawTo(newX, newY);
+  turtle.TurtleX = newX;
+  turtle.TurtleY = newY;
+}
+
+bool Motion::AdmitsMove(double x, double y) const {
+  const Surface& surface = context_.Picture1;
+  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
+}
+
+void Motion::Right(PrimitiveCall& call) {
+  // After its box it goes on and turns by 0.
+  context_.dispatch.TellMissingInput(call, Action::Right);
+  Turn(context_.arguments.Number(call.Rest));
+}
+
+void Motion::Left(PrimitiveCall& call) {
+  if (context_.dispatch.TellMissingInput(call, Action::Left)) return;
+  Turn(-context_.arguments.Number(call.Rest));
+}
+
+void Motion::Turn(double degrees) {
+  Turtle& turtle = context_.turtle;
+  PassOver([&] { turtle.TurtleDir = Finite(turtle.TurtleDir + degrees * TurnPi / 180); });
+}
+
+void Motion::SetX(PrimitiveCall& call) {
+  if (context_.dispatch.TellMissingInput(call, Action::SetX)) return;
+  Turtle& turtle = context_.turtle;
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
+  double target = 0;
+  PassOver([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
+  if (!AdmitsSetX(target)) return Refuse();
+  DrawTo(target, turtle.TurtleY);
+  turtle.TurtleX = target;
+}
+
+bool Motion::AdmitsSetX(double x) const {
+  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= context_.Picture1.Width);
+}
+
+void Motion::SetY(PrimitiveCall& call) {
+  if (context_.dispatch.TellMissingInput(call, Action::SetY)) return;
+  Turtle& turtle = context_.turtle;
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
+  double target = 0;
+  PassOver([&] { target = Finite(context_.controls.Form1.Height() / 2.0 - distance); });
+  if (!AdmitsSetY(target)) return Refuse();
+  DrawTo(turtle.TurtleX, target);
+  turtle.TurtleY = target;
+}
+
+bool Motion::AdmitsSetY(double y) const {
+  return context_.turtle.FenceMode == 1 || (y >= 0 && y <= context_.Picture1.Height());
+}
+
+void Motion::SetXY(PrimitiveCall& call) {
+  Turtle& turtle = context_.turtle;
+  const double dx = StepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 1));
+  // The vertical input has whole steps only.
+  const std::int16_t dy = WholeStepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 2));
+  const double centreX = context_.Picture1.Width / 2.0;
+  const double centreY = context_.controls.Form1.Height() / 2.0;
+  double targetX = 0;
+  PassOver([&] { targetX = Finite(dx + centreX); });
+  const std::int16_t targetY = WholeNumber(centreY - dy);
+  if (!AdmitsSetXY(targetX, targetY)) return Refuse();
+  DrawTo(targetX, targetY);
+  PassOver([&] { turtle.TurtleX = Finite(centreX + dx); });
+  // Not rounded: the turtle may stand half a unit beside the end of its line.
+  turtle.TurtleY = centreY - dy;
+}
+
+bool Motion::AdmitsSetXY(double x, double y) const {
+  // The left and the top edge are refused here, unlike in `FD`.
+  return context_.turtle.FenceMode == 1 ||
+         (x > 0 && x <= context_.Picture1.Width && y > 0 && y <= context_.Picture1.Height());
+}
+
+void Motion::DrawTo(double x, double y) {
+  const Turtle& turtle = context_.turtle;
+  if (turtle.PenState == 2) return;
+  PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+}
+
+void Motion::Refuse() { context_.services.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
+
+void Motion::Resolution(PrimitiveCall& call) {
+  double value = context_.arguments.Number(call.Rest);
+  if (value == 0) value = 10;
+  // After its box it goes on: a missing input gives 10.
+  context_.dispatch.TellMissingInput(call, Action::Resolution);
+  context_.turtle.Resolution = value;
+}
+
+void Motion::Pen() { context_.services.MessageBox(PenWords.at(context_.turtle.PenState), box::Information, "Zerimo"); }
+
+void Motion::PenDown() {
+  context_.turtle.PenState = 1;
+  PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.turtle.PenColor)); });
+}
+
+void Motion::PenErase() {
+  context_.turtle.PenState = 3;
+  context_.Picture1.SetForeColor(context_.Picture1.BackColor());
+}
+
+void Motion::PenReverse() {
+  // An erasing pen goes on erasing.
+  if (context_.turtle.PenState == 2) {
+    PenDown();
+  } else if (context_.turtle.PenState == 1) {
+    context_.turtle.PenState = 2;
+  }
+}
+
+void Motion::ShowFigure(bool visible) {
+  Controls& controls = context_.controls;
+  controls.Shape2.SetVisible(visible);
+  controls.Line1.SetVisible(visible);
+  controls.Line2.SetVisible(visible);
+  controls.Line3.SetVisible(visible);
+}
+
+void Motion::LineWidth(PrimitiveCall& call) {
+  if (context_.dispatch.TellMissingInput(call, Action::LineWidth)) return;
+  const double width = context_.arguments.Number(call.Rest);
+  PassOver([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
+}
+
+void Motion::DrawMode(PrimitiveCall& call) {
+  if (context_.dispatch.TellMissingInput(call, Action::DrawMode)) return;
+  const double mode = context_.arguments.Number(call.Rest);
+  PassOver([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
+}
+
+void Motion::ClearScreen() {
+  Controls& controls = context_.controls;
+  Turtle& turtle = context_.turtle;
+  controls.Image1.Hide();
+  for (int index = 0; index < controls.Label20.Size; ++index) controls.Label20[index].Hide();
+  turtle.TurtleDir = 0;
+  turtle.TurtleX = controls.Form1.Width / 2.0;
+  turtle.TurtleY = controls.Form1.Height() / 2.0;
+  context_.Picture1.Cls();
+}
+
+}  // namespace zerimo::reference

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+
+#include "reference/graphics/drawing_context.h"
+
+namespace zerimo::reference {
+
+/// Shapes and stamps, `FILL` and `FILLSTYLE`. None of them moves the turtle or asks the fence.
+class Shapes {
+ public:
+  explicit Shapes(const DrawingContext& context) : context_(context) {}
+
+  /// Sets the work of the primitives.
+  void Bind();
+
+ private:
+  void BindFigures();
+  void BindStamps();
+
+  void Point(PrimitiveCall& call);
+  void Dot(PrimitiveCall& call);
+  void Circle(PrimitiveCall& call);
+  void Line(PrimitiveCall& call);
+  void LineRGB(PrimitiveCall& call);
+  void Ellipse(PrimitiveCall& call);
+  void EllipseRGB(PrimitiveCall& call);
+  void StampCircle(PrimitiveCall& call);
+  void StampOval(PrimitiveCall& call);
+  void StampRect(PrimitiveCall& call);
+  void StampOvalRGB(PrimitiveCall& call);
+  void StampRectRGB(PrimitiveCall& call);
+  void Fill(PrimitiveCall& call);
+  void FillStyle(PrimitiveCall& call);
+
+  /// The ellipse of an `ELLIPSE` whose angle is the word with that number.
+  void EllipseWithAngle(PrimitiveCall& call, int angleWord);
+  /// An ellipse of half-axes a and b, turned by degrees, as a chain of chords. Fails as the surface does.
+  void DrawEllipse(float x, float y, float a, float b, float deg);
+  using Drawing = std::function<void(Shapes&, PrimitiveCall&)>;
+  /// Draws in the colour value that the word with that number tells; the foreground colour is put back.
+  void InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing& draw);
+  /// The same for a stamp, with its inside in the colour too.
+  void InStampColour(PrimitiveCall& call, const Drawing& draw);
+
+  bool PenIsUp() const { return context_.turtle.PenState == 2; }
+  double Word(PrimitiveCall& call, int nthWord) const;
+  /// A word in turtle steps as surface units.
+  double Units(PrimitiveCall& call, int nthWord) const;
+  double CentreX() const;
+  double CentreY() const;
+
+  DrawingContext context_;
+};
+
+}  // namespace zerimo::reference

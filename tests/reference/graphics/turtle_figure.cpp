@@ -1,0 +1,69 @@
+#include "reference/graphics/turtle_figure.h"
+
+#include <cmath>
+
+#include "reference/base/numbers.h"
+#include "reference/graphics/step_numbers.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+constexpr double BodyRadius = 150;
+constexpr double HeadRadius = 80;
+constexpr double Extension = 200;
+/// The turns of `RT` and `LT` use another number.
+constexpr double FigurePi = 3.1415927;
+
+struct FigurePoint {
+  double X;
+  double Y;
+};
+
+void PlaceLine(LightLine& line, FigurePoint from, FigurePoint to) {
+  line.X1 = ToSingle(from.X);
+  line.Y1 = ToSingle(from.Y);
+  line.X2 = ToSingle(to.X);
+  line.Y2 = ToSingle(to.Y);
+}
+
+}  // namespace
+
+void TurtleFigure::TurtlePos(double x, double y, double dir) {
+  const auto pointAt = [x, y](double radius, double angle) {
+    return FigurePoint{x + radius * std::cos(angle), y + radius * std::sin(angle)};
+  };
+  Shape& head = controls_.Shape2;
+  head.Width = ToSingle(2 * HeadRadius);
+  head.SetHeight(ToSingle(2 * HeadRadius));
+  const FigurePoint headCentre = pointAt(HeadRadius + BodyRadius, dir - FigurePi / 2);
+  head.Left = ToSingle(headCentre.X - head.Width / 2.0);
+  head.Top = ToSingle(headCentre.Y - head.Height() / 2.0);
+
+  const double reach = BodyRadius + Extension;
+  const FigurePoint rearRight = pointAt(reach, dir + FigurePi / 4);
+  const FigurePoint rearLeft = pointAt(reach, dir + 3 * FigurePi / 4);
+  PlaceLine(controls_.Line1, rearRight, rearLeft);
+  const FigurePoint frontRight = pointAt(reach, dir - FigurePi / 4);
+  const FigurePoint frontLeft = pointAt(reach, dir - 3 * FigurePi / 4);
+  const FigurePoint tip{(frontRight.X + frontLeft.X) / 2, (frontRight.Y + frontLeft.Y) / 2};
+  PlaceLine(controls_.Line2, tip, rearRight);
+  PlaceLine(controls_.Line3, tip, rearLeft);
+}
+
+void TurtleFigure::TurtleColor(double& colorCode) {
+  const std::int32_t code = ColourCode(colorCode);
+  colorCode = code;
+  SetColour(QBColor(code));
+}
+
+void TurtleFigure::TurtleColorRGB(double red, double green, double blue) {
+  SetColour(RGB(ToInt16(red), ToInt16(green), ToInt16(blue)));
+}
+
+void TurtleFigure::SetColour(Colour colour) {
+  controls_.Shape2.BorderColor = colour;
+  for (LightLine* line : {&controls_.Line1, &controls_.Line2, &controls_.Line3}) line->BorderColor = colour;
+}
+
+}  // namespace zerimo::reference

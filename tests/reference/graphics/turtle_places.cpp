@@ -1,0 +1,83 @@
+#include "reference/graphics/turtle_places.h"
+
+#include "base/failure.h"
+#include "reference/base/numbers.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+const char* const OutsideText = "The Fence command can not be used while the Turtle is at outside of the Screen";
+
+}  // namespace
+
+void TurtlePlaces::Bind() {
+  Dispatch& primitives = context_.dispatch;
+  primitives.Bind(Action::Fence, [this](PrimitiveCall&) { Fence(); });
+  primitives.Bind(Action::XCor, [this](PrimitiveCall&) { XCor(); });
+  primitives.Bind(Action::YCor, [this](PrimitiveCall&) { YCor(); });
+  primitives.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
+  primitives.Bind(Action::Draw, [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
+  primitives.Bind(Action::GetXY, [this](PrimitiveCall&) { GetXY(); });
+  primitives.Bind(Action::Home, [this](PrimitiveCall&) { Home(); });
+  primitives.Bind(Action::HomeX, [this](PrimitiveCall&) { HomeX(); });
+  primitives.Bind(Action::HomeY, [this](PrimitiveCall&) { HomeY(); });
+  primitives.Bind(Action::HomeXY, [this](PrimitiveCall&) { HomeXY(); });
+}
+
+void TurtlePlaces::Fence() {
+  Turtle& turtle = context_.turtle;
+  // The left edge counts as outside, the top edge as inside; a move is tested otherwise.
+  const bool outside = turtle.TurtleX > context_.Picture1.Width || turtle.TurtleX <= 0 ||
+                       turtle.TurtleY > context_.Picture1.Height() || turtle.TurtleY < 0;
+  if (outside) {
+    context_.services.MessageBox(OutsideText);
+  } else {
+    turtle.FenceMode = 2;
+  }
+}
+
+void TurtlePlaces::XCor() {
+  const Turtle& turtle = context_.turtle;
+  // Rounded in surface units, so that steps may show decimals; `GETXY` shows whole steps.
+  const double units = RoundHalfEven(turtle.TurtleX - context_.Picture1.Width / 2.0);
+  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));
+}
+
+void TurtlePlaces::YCor() {
+  const Turtle& turtle = context_.turtle;
+  const double units = RoundHalfEven(CentreY() - turtle.TurtleY);
+  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));
+}
+
+void TurtlePlaces::GetXY() {
+  const Turtle& turtle = context_.turtle;
+  const double x = RoundHalfEven(Divide(turtle.TurtleX - context_.Picture1.Width / 2.0, turtle.Resolution));
+  const double y = RoundHalfEven(Divide(CentreY() - turtle.TurtleY, turtle.Resolution));
+  context_.services.MessageBox(Str(x) + "  " + Str(y));
+}
+
+void TurtlePlaces::Home() {
+  context_.turtle.TurtleDir = 0;
+  HomeXY();
+}
+
+void TurtlePlaces::HomeX() { MoveHome(CentreX(), context_.turtle.TurtleY); }
+
+void TurtlePlaces::HomeY() { MoveHome(context_.turtle.TurtleX, CentreY()); }
+
+void TurtlePlaces::HomeXY() { MoveHome(CentreX(), CentreY()); }
+
+void TurtlePlaces::MoveHome(double x, double y) {
+  Turtle& turtle = context_.turtle;
+  // No fence is asked: the centre is always allowed.
+  if (turtle.PenState != 2) PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+  turtle.TurtleX = x;
+  turtle.TurtleY = y;
+}
+
+double TurtlePlaces::CentreX() const { return context_.controls.Form1.Width / 2.0; }
+
+double TurtlePlaces::CentreY() const { return context_.controls.Form1.Height() / 2.0; }
+
+}  // namespace zerimo::reference

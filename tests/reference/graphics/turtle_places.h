@@ -1,0 +1,32 @@
+#pragma once
+
+#include "reference/graphics/drawing_context.h"
+
+namespace zerimo::reference {
+
+/// Places, readings and homes of the turtle: `FENCE`, `WINDOW`, `XCOR`, `YCOR`, `GETXY`, the `HOME` family, `DRAW`.
+class TurtlePlaces {
+ public:
+  explicit TurtlePlaces(const DrawingContext& context) : context_(context) {}
+
+  /// Sets the work of the primitives.
+  void Bind();
+
+ private:
+  void Fence();
+  void XCor();
+  void YCor();
+  void GetXY();
+  void Home();
+  void HomeX();
+  void HomeY();
+  void HomeXY();
+
+  void MoveHome(double x, double y);
+  double CentreX() const;
+  double CentreY() const;
+
+  DrawingContext context_;
+};
+
+}  // namespace zerimo::reference

@@ -1,0 +1,33 @@
+#include "reference/interpreter/arguments.h"
+
+#include <utility>
+
+#include "base/failure.h"
+#include "reference/interpreter/line_entry.h"
+
+namespace zerimo::reference {
+
+double Arguments::Number(std::string text) const {
+  ReplaceNames(text);
+  return Evaluate(std::move(text));
+}
+
+double Arguments::WordNumber(std::string& rest, int nthWord) const {
+  std::string word;
+  PassOver([&] { word = GiveWord(rest, nthWord); });
+  return Number(std::move(word));
+}
+
+void Arguments::ReplaceNames(std::string& text) const {
+  PassOver([&] { text = variables_.ReplaceXcorAndYcor(text); });
+  PassOver([&] { text = variables_.VarValReplacer(text); });
+  PassOver([&] { text = variables_.GlobalVariableReplacer(text); });
+}
+
+double Arguments::Evaluate(std::string text) const {
+  double value = 0;
+  PassOver([&] { value = arithmetic_.ArithmeticEvaluator(text); });
+  return value;
+}
+
+}  // namespace zerimo::reference

@@ -1,0 +1,70 @@
+#include "reference/interpreter/conditionals.h"
+
+#include <string>
+
+#include "base/failure.h"
+#include "base/text.h"
+#include "reference/interpreter/relations.h"
+
+namespace zerimo::reference {
+
+std::int16_t Conditionals::Ifprocessor(int lineNumber) {
+  store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine() - 1);
+  const int elseLine = FindElse(lineNumber);
+  const int endIfLine = FindEndIf(lineNumber);
+  std::string condition(From(store_.Line(lineNumber), PositionOf(store_.Line(lineNumber), " ") + 1));
+  condition = variables_.ReplaceXcorAndYcor(condition);
+  condition = variables_.VarValReplacer(condition);
+  condition = variables_.GlobalVariableReplacer(condition);
+  const bool holds = RelationEvaluator(condition, arithmetic_);
+  const int next = holds ? lineNumber + 1 : elseLine != 0 ? elseLine + 1 : endIfLine;
+  return static_cast<std::int16_t>(next);
+}
+
+int Conditionals::FindElse(int lineNumber) const {
+  int open = 1;
+  int close = 0;
+  bool innerIf = false;
+  for (int number = lineNumber + 1; store_.ClassOf(number) != StmtEnd && open != close; ++number) {
+    switch (store_.ClassOf(number)) {
+      case StmtIf:
+        ++open;
+        innerIf = true;
+        break;
+      case StmtEndIf:
+        ++close;
+        // A flag and no depth: behind an inner ENDIF it is clear even inside a yet outer inner IF.
+        innerIf = false;
+        break;
+      case StmtElse:
+        if (!innerIf) return number;
+        break;
+      default:
+        break;
+    }
+  }
+  return 0;
+}
+
+int Conditionals::FindEndIf(int lineNumber) const {
+  int open = 0;
+  int close = 0;
+  for (int number = lineNumber; store_.ClassOf(number) != StmtEnd; ++number) {
+    if (store_.ClassOf(number) == StmtIf) ++open;
+    if (store_.ClassOf(number) == StmtEndIf) ++close;
+    if (open == close) return number;
+  }
+  return 0;
+}
+
+std::int16_t Conditionals::LabelPos(std::string_view labelName) const {
+  const std::string wanted = "LABEL " + std::string(labelName);
+  int found = 0;
+  // There is no early exit: of several labels the last one wins.
+  for (int number = 1; !store_.Line(number).empty(); ++number) {
+    if (store_.Line(number) == wanted) found = number;
+  }
+  return static_cast<std::int16_t>(found);
+}
+
+}  // namespace zerimo::reference

@@ -1,0 +1,225 @@
+#include "reference/interpreter/lowering.h"
+
+#include <utility>
+#include <vector>
+
+#include "base/failure.h"
+#include "reference/base/numbers.h"
+#include "base/text.h"
+#include "reference/interpreter/line_entry.h"
+#include "reference/interpreter/word_table.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+constexpr int LinesBehind = 1000;
+
+std::size_t Checked(int index, int last) {
+  if (index < 1 || index > last) throw Failure(FailureKind::SubscriptOutOfRange);
+  return static_cast<std::size_t>(index - 1);
+}
+
+bool IsRepeatLine(const std::string& line) { return line.starts_with("REPEAT ") || Contains(line, "#REPEAT "); }
+
+/// What one round of the splitting found: the length of the statement in front of the rest.
+struct Cut {
+  /// The characters of the body that the statement takes, blanks at its ends included.
+  int StatementEnd = 0;
+  /// Whether the body ends the splitting with a message.
+  const char* Message = nullptr;
+};
+
+/// A nested REPEAT: up to its closing bracket. The character directly behind the first bracket is not looked at.
+Cut CutRepeat(std::string_view body) {
+  const int open = PositionOf(body, "[");
+  if (open == 0) return {0, "Missing ["};
+  int opening = 1;
+  int closing = 0;
+  int position = open + 1;
+  while (opening != closing) {
+    ++position;
+    const std::string_view character = CharacterAt(body, position);
+    if (character.empty()) return {0, "] Absent"};
+    if (character == "[") ++opening;
+    if (character == "]") ++closing;
+  }
+  return {position, nullptr};
+}
+
+/// Up to the second double quote, or all of it.
+Cut CutQuoted(std::string_view body) {
+  int quotes = 0;
+  int position = 0;
+  while (quotes < 2 && position < Length(body)) {
+    ++position;
+    if (CharacterAt(body, position) == "\"") ++quotes;
+  }
+  return {position, nullptr};
+}
+
+/// A number of words, each ended by a blank, a "]" or the end.
+Cut CutWords(std::string_view body, int words) {
+  int position = 0;
+  while (words > 0) {
+    ++position;
+    const std::string_view character = CharacterAt(body, position);
+    if (character.empty()) return {Length(body), nullptr};
+    if (character == " " || character == "]") --words;
+  }
+  return {position - 1, nullptr};
+}
+
+Cut CutStatement(std::string_view body, std::int16_t inputCount) {
+  switch (inputCount) {
+    case inputs::Repeat:
+      return CutRepeat(body);
+    case inputs::Print:
+    case inputs::Write:
+    case inputs::Message:
+      return CutQuoted(body);
+    case inputs::BracketSum:
+    case inputs::BracketProduct:
+      return {Length(body), nullptr};
+    default:
+      return CutWords(body, inputCount + 1);
+  }
+}
+
+}  // namespace
+
+const std::string& BodyArray::At(int index) const {
+  if (dot_) throw Failure(FailureKind::TypeMismatch);
+  return statements_[Checked(index, LastIndex)];
+}
+
+void BodyArray::Set(int index, std::string statement) { statements_[Checked(index, LastIndex)] = std::move(statement); }
+
+const std::string& LineList::At(int index) const { return lines_[Checked(index, LastIndex)]; }
+
+void LineList::Set(int index, std::string line) { lines_[Checked(index, LastIndex)] = std::move(line); }
+
+Lowering::Lowering(const ProgramContext& context)
+    : store_(context.store),
+      variables_(context.variables),
+      arithmetic_(context.arithmetic),
+      services_(context.around.services),
+      Label17(context.around.controls.Label17),
+      Label18(context.around.controls.Label18) {}
+
+void Lowering::RemoveAllRepeats() {
+  while (IsRepeatPresent() != 0) RemoveSingleRepeat();
+}
+
+std::int16_t Lowering::IsRepeatPresent() const { return SearchRepeatPos() != 0 ? 1 : 0; }
+
+std::int16_t Lowering::SearchRepeatPos() const {
+  for (int number = 1; !store_.Line(number).empty(); ++number) {
+    if (IsRepeatLine(store_.Line(number))) return static_cast<std::int16_t>(number);
+  }
+  return 0;
+}
+
+void Lowering::RemoveSingleRepeat() {
+  // Only for its messages, which thus appear twice.
+  std::string body = BodyFinder(SearchRepeatPos());
+  CreateBodyArray(body);
+  RefreshRootArray(AddComponents());
+}
+
+std::string Lowering::BodyFinder(int lineNumber) const {
+  std::string body;
+  int open = 0;
+  PassOver([&] {
+    const std::string& line = store_.Line(lineNumber);
+    open = PositionOf(line, "[");
+    if (open == 0) open = Length(line) + 1;
+  });
+  PassOver([&] {
+    const std::string& line = store_.Line(lineNumber);
+    // The last character is taken for the closing bracket without a look.
+    body = Mid(line, open + 1, Length(line) - open - 1);
+  });
+  return body;
+}
+
+BodyArray Lowering::CreateBodyArray(std::string& body) const {
+  BodyArray statements;
+  try {
+    int index = 1;
+    do {
+      const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store_));
+      if (cut.Message != nullptr) {
+        services_.MessageBox(cut.Message);
+        return statements;
+      }
+      // A blank at its end stays: "LABEL " is a label with no name.
+      statements.Set(index, std::string(Left(body, cut.StatementEnd)));
+      body = std::string(From(body, cut.StatementEnd + 1));
+      ++index;
+      Trim(body);
+    } while (!body.empty());
+  } catch (const Failure&) {
+    statements.BecomeDot();
+  }
+  return statements;
+}
+
+std::string Lowering::RepeatNum(std::string_view line) const {
+  const std::string_view behind = From(line, 8);
+  const std::string_view count = behind.substr(0, behind.find('['));
+  // The value is dropped; a count that can't be evaluated now fails here.
+  std::string copy(count);
+  copy = variables_.VarValReplacer(copy);
+  copy = variables_.GlobalVariableReplacer(copy);
+  ToInt16(arithmetic_.ArithmeticEvaluator(copy));
+  return std::string(Trimmed(count));
+}
+
+LineList Lowering::AddComponents() {
+  const int position = SearchRepeatPos();
+  if (position != 0) {
+    RepeatCounterName += '#';
+    RepeatLabelName += '$';
+    Label17.Caption = "#-" + Str(static_cast<double>(RepeatCounterName.size()));
+    Label18.Caption = "$-" + Str(static_cast<double>(RepeatLabelName.size()));
+  }
+  const std::string count = RepeatNum(store_.Line(position));
+  const std::string& counter = RepeatCounterName;
+  std::string body = BodyFinder(position);
+  const BodyArray statements = CreateBodyArray(body);
+
+  LineList lines;
+  int index = 1;
+  lines.Set(index++, "MAKE " + counter + " 1");
+  lines.Set(index++, "LABEL " + RepeatLabelName);
+  for (int number = 1; number <= BodyArray::LastIndex; ++number) {
+    if (!statements.At(number).empty()) lines.Set(index++, statements.At(number));
+  }
+  lines.Set(index++, "MAKE " + counter + " " + counter + "+1");
+  lines.Set(index++, "IF " + counter + "<=" + count);
+  lines.Set(index++, "GOTO " + RepeatLabelName);
+  lines.Set(index++, "ENDIF");
+  return lines;
+}
+
+void Lowering::RefreshRootArray(const LineList& lines) {
+  const int position = SearchRepeatPos();
+  std::vector<std::string> behind;
+  for (int number = position + 1; !store_.Line(number).empty(); ++number) {
+    if (behind.size() == LinesBehind) throw Failure(FailureKind::SubscriptOutOfRange);
+    behind.push_back(store_.Line(number));
+  }
+  int target = position;
+  for (int index = 1; !lines.At(index).empty(); ++index) store_.SetLine(target++, lines.At(index));
+  for (const std::string& line : behind) store_.SetLine(target++, line);
+}
+
+void Lowering::ForgetNames() {
+  RepeatCounterName.clear();
+  RepeatLabelName.clear();
+}
+
+std::string Firstpart(std::string_view body) { return std::string(body.substr(0, body.find(' '))); }
+
+}  // namespace zerimo::reference

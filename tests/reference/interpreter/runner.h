@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "reference/interpreter/conditionals.h"
+#include "reference/interpreter/context.h"
+#include "reference/interpreter/control_path.h"
+#include "reference/interpreter/dispatch.h"
+#include "reference/interpreter/inputs.h"
+#include "reference/interpreter/store.h"
+#include "reference/interpreter/variables.h"
+
+namespace zerimo::reference {
+
+/// Walks the store line by line from the `TO` line of one procedure until the whole call tree is finished. One loop:
+/// a call only lengthens the control string. Runs under the skip rule.
+class Runner {
+ public:
+  Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals);
+
+  /// Runs a procedure, named without `TO`; an unknown name ends silently.
+  void Run1(std::string_view procedure);
+
+ private:
+  /// One walk's locals: they keep their values from line to line, so that a failed statement leaves the former one.
+  struct Walk {
+    int Line = 0;
+    StatementClass Class = StatementClass{};
+    std::string Name;
+    bool Over = false;
+  };
+
+  void Act(Walk& walk);
+  void Advance(Walk& walk);
+  void ActOnCall(Walk& walk);
+  void ActOnTo(Walk& walk);
+  void ActOnEnd(Walk& walk);
+  void ActOnGoto(Walk& walk);
+  void ActOnLabel(Walk& walk);
+  void ActOnEndIf(Walk& walk);
+  void ActOnElse(Walk& walk);
+  void ActOnExpression(Walk& walk, std::string_view word);
+  void Tidy();
+  void SetPath(std::string text);
+  void WriteLineBlank(int line);
+  void WriteLinePlain(int line);
+
+  Store& store_;
+  ControlPath& controlPath_;
+  Dispatch& dispatch_;
+  Variables& variables_;
+  Inputs& inputs_;
+  Conditionals& conditionals_;
+  Services& services_;
+  Watch& watch_;
+  Label& Label19;
+};
+
+}  // namespace zerimo::reference

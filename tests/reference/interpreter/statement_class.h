@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zerimo::reference {
+
+/// What a line is; the numbers are those that the system uses.
+enum StatementClass : std::uint8_t {
+  StmtPrimitive = 1,
+  StmtCall = 2,
+  StmtTo = 3,
+  StmtEnd = 4,
+  StmtGoto = 5,
+  StmtLabel = 6,
+  StmtIf = 7,
+  StmtEndIf = 8,
+  StmtElse = 9,
+  StmtMake = 10,
+  StmtArithmetic = 11,
+  StmtRelation = 12,
+};
+
+}  // namespace zerimo::reference

@@ -1,0 +1,140 @@
+#include "reference/interpreter/store.h"
+
+#include <utility>
+#include <vector>
+
+#include "base/failure.h"
+#include "reference/base/numbers.h"
+#include "base/text.h"
+#include "reference/interpreter/line_entry.h"
+
+namespace zerimo::reference {
+
+namespace {
+
+constexpr int SweepLines = 100;
+constexpr int HowManyLines = 1000;
+
+/// The working copy of a sweep: line 101 is a subscript failure.
+class WorkingCopy {
+ public:
+  void Add(const std::string& line) {
+    if (lines_.size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
+    lines_.push_back(line);
+  }
+  const std::vector<std::string>& Lines() const { return lines_; }
+
+ private:
+  std::vector<std::string> lines_;
+};
+
+}  // namespace
+
+std::size_t Store::Index(int number) const {
+  if (number < 1 || number > LineCount) throw Failure(FailureKind::SubscriptOutOfRange);
+  return static_cast<std::size_t>(number - 1);
+}
+
+const std::string& Store::Line(int number) const { return FileDataArray[Index(number)]; }
+
+void Store::SetLine(int number, std::string text) { Put(Index(number), std::move(text)); }
+
+void Store::Put(std::size_t index, std::string text) noexcept { FileDataArray[index] = std::move(text); }
+
+StatementClass Store::ClassOf(int number) const { return WhatIsThis(Line(number)); }
+
+void Store::TrimLine(int number) {
+  const std::string& line = Line(number);
+  const std::string_view trimmed = Trimmed(line);
+  if (trimmed.size() != line.size()) SetLine(number, std::string(trimmed));
+}
+
+int Store::FirstEmptyLine() const {
+  int number = 1;
+  while (!Line(number).empty()) ++number;
+  return number;
+}
+
+void Store::MakeEmptyFileDataArray() {
+  for (int number = 1; !Line(number).empty(); ++number) SetLine(number, "");
+}
+
+std::int16_t Store::WhereProcedure(std::string_view procedure) const {
+  const std::string marked = "#TO " + std::string(procedure);
+  const std::string_view pattern = std::string_view(marked).substr(1);
+  for (int number = 1; !Line(number).empty(); ++number) {
+    const std::string& line = Line(number);
+    // The # on both sides ties the match to the start of the line; a # inside the line can still make one.
+    const bool hit = line.starts_with(pattern) || Contains(line, marked);
+    if (!hit) continue;
+    const std::string_view next = CharacterAt(line, Length(pattern) + 1);
+    if (next.empty() || next == " ") return static_cast<std::int16_t>(number);
+  }
+  return 0;
+}
+
+std::int16_t Store::HowMany(std::string_view procedure, std::string_view command) const {
+  if (FileDataCount > HowManyLines) throw Failure(FailureKind::SubscriptOutOfRange);
+  std::int16_t count = 0;
+  for (int number = WhereProcedure(procedure); number <= FileDataCount && Line(number) != "END"; ++number) {
+    if (Line(number) == command) ++count;
+  }
+  return count;
+}
+
+bool Store::IsTempProcedurePresent() const {
+  for (int number = 1; !Line(number).empty(); ++number) {
+    if (Contains(Line(number), "TO #")) return true;
+  }
+  return false;
+}
+
+void Store::TempFileDataArray() {
+  int number = 1;
+  for (; !Contains(Line(number), "TO #"); ++number) {
+    if (Line(number).empty()) return;
+  }
+  WorkingCopy copy;
+  for (int kept = 1; kept < number; ++kept) copy.Add(Line(kept));
+  // Any "END" in a line ends the skip, that of an ENDIF too: the rest of such a procedure stays as ordinary lines.
+  while (!Line(number).empty() && !Contains(Line(number), "END")) ++number;
+  if (!Line(number).empty()) ++number;
+  for (; !Line(number).empty(); ++number) copy.Add(Line(number));
+
+  int target = 1;
+  for (const std::string& line : copy.Lines()) SetLine(target++, line);
+  // With all 100 lines in use there is no empty entry to end the copying back.
+  if (copy.Lines().size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
+  // Only this one line is emptied: the old lines behind it stay as stale text.
+  SetLine(target, "");
+}
+
+void Store::RefreshFileDataArray() {
+  while (IsTempProcedurePresent()) TempFileDataArray();
+}
+
+void Store::ProcedureList() {
+  List3.Clear();
+  for (int number = 1; !Line(number).empty(); ++number) {
+    if (ClassOf(number) == StmtTo) List3.Add(Line(number));
+  }
+}
+
+std::string Store::ProcedureListInStringForm() const {
+  std::string list;
+  for (int number = 1; !Line(number).empty(); ++number) {
+    const std::string& line = Line(number);
+    if (ClassOf(number) == StmtTo && !Contains(line, "#")) list += "[" + std::string(From(line, 4)) + "]   ";
+  }
+  return list;
+}
+
+void ListStore(Store& store, ListBox& list1) {
+  list1.Clear();
+  for (int number = 1; !store.Line(number).empty(); ++number) {
+    store.TrimLine(number);
+    list1.Add(Str(number) + "  " + store.Line(number));
+  }
+}
+
+}  // namespace zerimo::reference

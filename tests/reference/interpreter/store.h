@@ -1,0 +1,101 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "controls/control_kinds.h"
+#include "reference/interpreter/statement_class.h"
+
+namespace zerimo::reference {
+
+/// The program store: 2000 text lines, numbered from 1. The first empty line ends it: every search stops there,
+/// whatever stale text lies behind it. A procedure is a run of lines from its `TO` line to its `END`; one whose name
+/// begins with # is temporary and carries a typed line.
+class Store {
+ public:
+  static constexpr int LineCount = 2000;
+
+  /// Fills `List3` with the `TO` lines.
+  explicit Store(ListBox& list3) : List3(list3) {}
+
+  /// A line by its number; fails (subscript) outside 1 to 2000.
+  const std::string& Line(int number) const;
+
+  /// The one door by which a line changes; fails (subscript) outside 1 to 2000.
+  void SetLine(int number, std::string text);
+
+  /// The class of a line (`WhatIsThis`). Fails like `Line`.
+  StatementClass ClassOf(int number) const;
+
+  /// Trims a line in place.
+  void TrimLine(int number);
+
+  /// The number of the first empty line; fails (subscript) if there is none.
+  int FirstEmptyLine() const;
+
+  /// Number of the last used line: the write position of `MakeArray`, refreshed by `Ifprocessor`.
+  std::int16_t FileDataCount = 0;
+
+  /// Empties the lines from 1 up to the first empty one; stale text behind a gap survives. A store with no empty line
+  /// is emptied, and then it fails (subscript).
+  void MakeEmptyFileDataArray();
+
+  /// The number of the procedure's `TO` line, or 0.
+  std::int16_t WhereProcedure(std::string_view procedure) const;
+
+  /// How many lines of the procedure up to line `FileDataCount` are exactly `command`. Nothing calls it. Fails
+  /// (subscript) if `FileDataCount` is over 1000, and for an unknown procedure.
+  std::int16_t HowMany(std::string_view procedure, std::string_view command) const;
+
+  /// Whether "TO #" occurs anywhere in a line.
+  bool IsTempProcedurePresent() const;
+
+  /// Removes the first temporary procedure, if there is one. Fails (subscript), and leaves the store as it was, if
+  /// more than 100 lines would remain.
+  void TempFileDataArray();
+
+  /// Removes all temporary procedures; fails like `TempFileDataArray`.
+  void RefreshFileDataArray();
+
+  /// Fills `List3` with the `TO` lines, temporary ones too.
+  void ProcedureList();
+
+  /// The user's procedures as "[BOX :S]   [STAR]   ".
+  std::string ProcedureListInStringForm() const;
+
+ private:
+  friend class LentLine;
+
+  std::size_t Index(int number) const;
+  void Put(std::size_t index, std::string text) noexcept;
+
+  ListBox& List3;
+  std::array<std::string, LineCount> FileDataArray;
+};
+
+/// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan
+/// ends, also by a failure.
+class LentLine {
+ public:
+  LentLine(Store& programStore, int lineNumber)
+      : Text(programStore.Line(lineNumber)), store_(programStore), index_(programStore.Index(lineNumber)) {}
+  ~LentLine() { store_.Put(index_, std::move(Text)); }
+  LentLine(const LentLine&) = delete;
+  LentLine& operator=(const LentLine&) = delete;
+
+  std::string Text;
+
+ private:
+  Store& store_;
+  std::size_t index_;
+};
+
+/// Shows the whole store in a list, each line with its number and two blanks in front, trimming the lines in the store
+/// up to the first empty one.
+void ListStore(Store& store, ListBox& list1);
+
+}  // namespace zerimo::reference

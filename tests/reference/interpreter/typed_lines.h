@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "reference/interpreter/context.h"
+#include "reference/interpreter/lowering.h"
+#include "reference/interpreter/runner.h"
+#include "reference/interpreter/store.h"
+#include "reference/interpreter/variables.h"
+
+namespace zerimo::reference {
+
+/// Runs a typed line: wraps it as a temporary procedure in the store, lowers it, runs it and removes it again.
+class TypedLines {
+ public:
+  TypedLines(const ProgramContext& context, Lowering& lowering, Runner& runner)
+      : store_(context.store),
+        lowering_(lowering),
+        runner_(runner),
+        variables_(context.variables),
+        List1(context.around.controls.List1) {}
+
+  /// Runs a filtered line; the caller's text is trimmed. Any failure but one inside the run itself leaves at once.
+  void ComplexExecutor(std::string& complexData);
+
+  /// Typed lines so far; gives the number in a temporary procedure's name. At 32767 every typed line fails (overflow).
+  std::int16_t TempProcNo = 0;
+  /// The last line typed, in capitals and filtered.
+  std::string LastTypedLine;
+
+ private:
+  int WriteTemporaryProcedure(std::string& complexData);
+  void RemoveTemporaryProcedure(int firstLine);
+  std::string TemporaryName() const { return "#TEMP$" + std::to_string(TempProcNo); }
+
+  Store& store_;
+  Lowering& lowering_;
+  Runner& runner_;
+  Variables& variables_;
+  ListBox& List1;
+};
+
+}  // namespace zerimo::reference

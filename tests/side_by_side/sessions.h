@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace zerimo {
+
+/// Runs a random session on both interpreters; tells where they first differ, or nothing. Adds to `lines` the program
+/// lines that were run.
+std::optional<std::string> FirstDifference(unsigned seed, std::uint64_t& lines);
+
+}  // namespace zerimo
