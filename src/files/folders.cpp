@@ -8,7 +8,6 @@
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "files/confinement.h"
 #include "files/disk_files.h"
 #include "files/unicode_text.h"
 
@@ -75,26 +74,18 @@ std::optional<fs::path> LookUp(const fs::path& folder, fs::path::iterator part, 
   return std::nullopt;
 }
 
-std::optional<fs::path> LookUp(const fs::path& path) {
+/// Looks a path up that begins at a folder, unless it begins at a root.
+std::optional<fs::path> LookUp(const fs::path& folder, const fs::path& path) {
   std::error_code error;
-  if (fs::exists(path, error)) return path;
+  if (fs::exists(folder / path, error)) return folder / path;
   const fs::path relative = path.relative_path();
-  return LookUp(path.root_path(), relative.begin(), relative.end());
+  return LookUp(path.has_root_path() ? path.root_path() : folder, relative.begin(), relative.end());
 }
 
-fs::path WhereToWrite(const fs::path& path) {
-  if (auto found = LookUp(path)) return *found;
-  const auto folder = LookUp(path.parent_path());
-  return folder ? *folder / path.filename() : path;
-}
-
-/// What may not be read is as if it were not there.
-fs::path ToReadConfined(const Confinement& confinement, const fs::path& path) {
-  if (!Confinement::StaysBelow(path)) Fail(FailureKind::FileNotFound);
-  auto found = LookUp(path);
-  if (!found) found = LookUp(confinement.Shelf(), path.begin(), path.end());
-  if (found && !confinement.MayRead(*found)) Fail(FailureKind::FileNotFound);
-  return found.value_or(path);
+fs::path WhereToWrite(const fs::path& folder, const fs::path& path) {
+  if (auto found = LookUp(folder, path)) return *found;
+  const auto parent = LookUp(folder, path.parent_path());
+  return parent ? *parent / path.filename() : folder / path;
 }
 
 /// Refuses names that the disk would cut short or that name nothing.
@@ -113,22 +104,24 @@ std::string Folders::ToSystem(const fs::path& path) {
   return text;
 }
 
-fs::path Folders::ToRead(const std::string& systemPath) {
+fs::path Folders::ToRead(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
-  if (const Confinement* const confinement = Confinement::Current()) return ToReadConfined(*confinement, path);
-  return LookUp(path).value_or(path);
+  if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
+  auto found = LookUp(disk_.Folder(), path);
+  if (!found && disk_.Shelf()) found = LookUp(*disk_.Shelf(), path);
+  if (found && !disk_.MayRead(*found)) Fail(FailureKind::FileNotFound);
+  return found.value_or(disk_.Folder() / path);
 }
 
-fs::path Folders::ToWrite(const std::string& systemPath) {
-  const Confinement* const confinement = Confinement::Current();
+fs::path Folders::ToWrite(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
-  if (confinement != nullptr && !Confinement::StaysBelow(path)) Fail(FailureKind::FileAccess);
-  fs::path file = WhereToWrite(path);
-  if (confinement != nullptr && !confinement->MayWrite(file)) Fail(FailureKind::FileAccess);
+  if (!disk_.MayName(path)) Fail(FailureKind::FileAccess);
+  fs::path file = WhereToWrite(disk_.Folder(), path);
+  if (!disk_.MayWrite(file)) Fail(FailureKind::FileAccess);
   return file;
 }
 
-std::string Folders::ReadFile(const std::string& systemPath) {
+std::string Folders::ReadFile(const std::string& systemPath) const {
   RequireName(systemPath, FailureKind::FileNotFound);
   const fs::path file = ToRead(systemPath);
   std::error_code error;
@@ -146,7 +139,7 @@ std::string Folders::ReadFile(const std::string& systemPath) {
   return bytes;
 }
 
-void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) {
+void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) const {
   RequireName(systemPath, FailureKind::FileAccess);
   fs::path file = ToWrite(systemPath);
   std::error_code error;
@@ -163,7 +156,7 @@ void Folders::WriteFile(const std::string& systemPath, const std::string& bytes)
   WriteBeside(file, bytes);
 }
 
-std::vector<std::string> Folders::FilesIn(const std::string& systemPath) {
+std::vector<std::string> Folders::FilesIn(const std::string& systemPath) const {
   const fs::path folder = ToRead(systemPath);
   std::error_code error;
   if (!fs::is_directory(folder, error)) Fail(FailureKind::FileNotFound);

@@ -23,7 +23,7 @@ void Saving::ShowSaveAs() {
 
 void Saving::SaveAs(const std::string& saveAsFileName) {
   std::string text = context_.controls.Text2.Text;
-  Folders::WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
+  context_.folders.WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
 }
 
 void Saving::SaveFromEditor() {
@@ -36,9 +36,10 @@ void Saving::ShowProcedure() {
   PassOver([&] { context_.services.MessageBox(context_.interpreter.store.ProcedureListInStringForm()); });
 }
 
-bool Saving::RescueEditorText(const Folders& folders) const {
+bool Saving::RescueEditorText() const {
   if (context_.controls.Text2.Text.empty()) return false;
-  return PassOver([&] { Folders::WriteFile(folders.AppFolder + "\\Rescued.ZRM", context_.controls.Text2.Text); });
+  const Folders& folders = context_.folders;
+  return PassOver([&] { folders.WriteFile(folders.AppFolder + "\\Rescued.ZRM", context_.controls.Text2.Text); });
 }
 
 }  // namespace zerimo

@@ -25,9 +25,9 @@ class Saving {
   /// `SHOW PROCEDURE`: the user's procedures in a box.
   void ShowProcedure();
 
-  /// The editor's text as it stands to Rescued.ZRM in a folder, if there is any. Tells whether a file was written;
+  /// The editor's text as it stands to Rescued.ZRM in `AppFolder`, if there is any. Tells whether a file was written;
   /// never fails.
-  bool RescueEditorText(const Folders& folders) const;
+  bool RescueEditorText() const;
 
  private:
   FilesContext context_;

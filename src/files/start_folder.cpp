@@ -34,11 +34,11 @@ StartFolder PrepareStartFolder(const Surroundings& around) {
   return PrepareUserFolder(isInOneFolder ? around.ProgramFolder : around.ShareFolder, around.DocumentsFolder);
 }
 
-std::string AppFolderName(const fs::path& folder) {
+std::string AppFolderName(const fs::path& folder, const Disk& disk) {
   std::string name = Folders::ToSystem(folder);
   std::error_code error;
-  if (fs::equivalent(Folders::ToRead(name), folder, error)) return name;
-  return fs::equivalent(".", folder, error) ? "." : name;
+  if (fs::equivalent(Folders(name, disk).ToRead(name), folder, error)) return name;
+  return fs::equivalent(disk.Folder() / ".", folder, error) ? "." : name;
 }
 
 }  // namespace zerimo

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "files/disk.h"
+
 namespace zerimo {
 
 /// What the start finds around it. Folders need not be there.
@@ -32,7 +34,7 @@ struct StartFolder {
 StartFolder PrepareStartFolder(const Surroundings& around);
 
 /// A folder as `AppFolder`: the system's name of it. If that leads elsewhere, because the path has characters that the
-/// system does not have, and the folder is the current one, it is a full stop.
-std::string AppFolderName(const std::filesystem::path& folder);
+/// system does not have, and the folder is the one where the disk's relative paths begin, it is a full stop.
+std::string AppFolderName(const std::filesystem::path& folder, const Disk& disk = Disk());
 
 }  // namespace zerimo

@@ -11,32 +11,32 @@ namespace {
 
 class DiskFilesTest : public ::testing::Test {
  protected:
-  TempFolder Disk;
+  TempFolder Temp;
 };
 
 TEST_F(DiskFilesTest, AFolderThatTakesFilesCanBeWrittenAndKeepsNoneOfThem) {
-  EXPECT_TRUE(CanWriteInto(Disk.Path));
-  EXPECT_EQ(Disk.Count(), 0);
+  EXPECT_TRUE(CanWriteInto(Temp.Path));
+  EXPECT_EQ(Temp.Count(), 0);
 }
 
 TEST_F(DiskFilesTest, WhatIsNoFolderCanNotBeWritten) {
-  Disk.Write("file", "text");
-  EXPECT_FALSE(CanWriteInto(Disk.Path / "file"));
-  EXPECT_FALSE(CanWriteInto(Disk.Path / "missing"));
+  Temp.Write("file", "text");
+  EXPECT_FALSE(CanWriteInto(Temp.Path / "file"));
+  EXPECT_FALSE(CanWriteInto(Temp.Path / "missing"));
 }
 
 TEST_F(DiskFilesTest, BytesAreReadFromFilesAlone) {
-  Disk.Write("file", std::string("a\r\n\0b", 5));
-  EXPECT_EQ(BytesOf(Disk.Path / "file"), std::string("a\r\n\0b", 5));
-  EXPECT_EQ(BytesOf(Disk.Path), std::nullopt);
-  EXPECT_EQ(BytesOf(Disk.Path / "missing"), std::nullopt);
+  Temp.Write("file", std::string("a\r\n\0b", 5));
+  EXPECT_EQ(BytesOf(Temp.Path / "file"), std::string("a\r\n\0b", 5));
+  EXPECT_EQ(BytesOf(Temp.Path), std::nullopt);
+  EXPECT_EQ(BytesOf(Temp.Path / "missing"), std::nullopt);
 }
 
 TEST_F(DiskFilesTest, AFailureLeavesTheFormerFileAndNothingBesideIt) {
-  Disk.Write("place/inside", "text");
-  EXPECT_EQ(FailureOf([&] { WriteBeside(Disk.Path / "place", "new"); }), FailureKind::FileAccess);
-  EXPECT_EQ(Disk.Read("place/inside"), "text");
-  EXPECT_EQ(Disk.Count(), 1);
+  Temp.Write("place/inside", "text");
+  EXPECT_EQ(FailureOf([&] { WriteBeside(Temp.Path / "place", "new"); }), FailureKind::FileAccess);
+  EXPECT_EQ(Temp.Read("place/inside"), "text");
+  EXPECT_EQ(Temp.Count(), 1);
 }
 
 }  // namespace
