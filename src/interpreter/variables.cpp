@@ -31,14 +31,20 @@ bool SlotContains(char mark, const std::string& slot, const std::string& key) {
   return slot.starts_with(key) || Contains(slot, mark + key);
 }
 
-std::string ReplaceAll(std::string& text, std::string_view word, double number) {
+std::string ReplaceAll(std::string& text, std::string_view word, double number, Watch& watch) {
   const int times = Length(text);
   if (!Contains(text, word)) {
     // As many vain calls only pad the text.
     return times == 0 ? text : Textreplace(text, word, {});
   }
   const std::string replacement = Str(number);
-  for (int time = 1; time <= times; ++time) text = Textreplace(text, word, replacement);
+  for (int time = 1; time <= times; ++time) {
+    watch.Tick();
+    std::string replaced = Textreplace(text, word, replacement);
+    // Where one call replaces nothing, the others do not either.
+    if (replaced == text) break;
+    text = std::move(replaced);
+  }
   return text;
 }
 
@@ -262,8 +268,8 @@ void Variables::ReadGlobal(const std::string& name, double& value) const {
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
   const double x = RoundToDecimals(Divide(turtle_.TurtleX - Form1.Width / 2.0, turtle_.Resolution), 1);
   const double y = RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle_.TurtleY, turtle_.Resolution), 1);
-  text = ReplaceAll(text, "XCOR", x);
-  text = ReplaceAll(text, "YCOR", y);
+  text = ReplaceAll(text, "XCOR", x, watch_);
+  text = ReplaceAll(text, "YCOR", y, watch_);
   return text;
 }
 
