@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <system_error>
 
@@ -93,8 +94,19 @@ void RequireName(std::string_view systemPath, FailureKind kind) {
   if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
 }
 
-/// Whether a file that is there may be written; opening it so changes nothing.
-bool IsWritable(const fs::path& file) { return std::ofstream(file, std::ios::binary | std::ios::app).is_open(); }
+/// Whether a program that lies in the same folder might not start again if this file were written: its own files, and
+/// those that the toolkit looks for beside a program.
+bool IsOfProgram(const fs::path& file) {
+  static constexpr std::string_view names[] = {"ZERIMO",  "ZERIMO-BATCH", "ZERIMO.EXE", "ZERIMO-BATCH.EXE",
+                                               "ZMHELP",  "QT.CONF",      "QT6.CONF",   "QTLOGGING.INI",
+                                               "PLUGINS", "PLATFORMS",    "STYLES",     "IMAGEFORMATS"};
+  const std::string name = UpperCase(SystemName(file.filename()));
+  const bool isLibrary = name.ends_with(".DLL") || Contains(name, ".SO.") || name.ends_with(".SO");
+  if (!isLibrary && std::ranges::find(names, name) == std::end(names)) return false;
+  std::error_code error;
+  const fs::path folder = file.parent_path();
+  return fs::is_regular_file(folder / "zerimo", error) || fs::is_regular_file(folder / "zerimo.exe", error);
+}
 
 }  // namespace
 
@@ -117,7 +129,7 @@ fs::path Folders::ToWrite(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
   if (!disk_.MayName(path)) Fail(FailureKind::FileAccess);
   fs::path file = WhereToWrite(disk_.Folder(), path);
-  if (!disk_.MayWrite(file)) Fail(FailureKind::FileAccess);
+  if (!disk_.MayWrite(file) || IsOfProgram(file)) Fail(FailureKind::FileAccess);
   return file;
 }
 
@@ -141,19 +153,7 @@ std::string Folders::ReadFile(const std::string& systemPath) const {
 
 void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) const {
   RequireName(systemPath, FailureKind::FileAccess);
-  fs::path file = ToWrite(systemPath);
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  // A link whose target is not there yet and a device have nothing to lose.
-  const bool isDangling = !fs::exists(status) && fs::is_symlink(fs::symlink_status(file, error));
-  if (isDangling || fs::is_character_file(status)) return WriteThrough(file, bytes);
-  if (fs::exists(status)) {
-    if (!fs::is_regular_file(status) || !IsWritable(file)) Fail(FailureKind::FileAccess);
-    // The file behind a link is written, and the link stays.
-    file = fs::canonical(file, error);
-    if (error) Fail(FailureKind::FileAccess);
-  }
-  WriteBeside(file, bytes);
+  WriteBeside(ToWrite(systemPath), bytes);
 }
 
 std::vector<std::string> Folders::FilesIn(const std::string& systemPath) const {

@@ -32,14 +32,14 @@ class Folders {
   std::filesystem::path ToRead(const std::string& systemPath) const;
 
   /// The file to write: an existing one of that name in another case, else the name as it stands. Fails (file
-  /// access) only where the disk refuses it.
+  /// access) only where the disk refuses it, or where the file might keep a program in the same folder from starting.
   std::filesystem::path ToWrite(const std::string& systemPath) const;
 
   /// All bytes of a file. Fails (file not found, file access); a file beyond `LargestFile` fails too.
   std::string ReadFile(const std::string& systemPath) const;
   static constexpr std::size_t LargestFile = std::size_t{64} << 20;
 
-  /// Writes a file beside its place and renames it, so that a failure leaves the former one. Fails (file access).
+  /// Writes a file as `WriteBeside` does. Fails (file access).
   void WriteFile(const std::string& systemPath, const std::string& bytes) const;
 
   /// The names of the files in a folder, sorted without regard to case; no folders and no hidden files. Fails (file

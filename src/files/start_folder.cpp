@@ -30,8 +30,12 @@ StartFolder PrepareUserFolder(const fs::path& source, const fs::path& documents)
 
 StartFolder PrepareStartFolder(const Surroundings& around) {
   const bool isInOneFolder = HasHelpPages(around.ProgramFolder) || !HasHelpPages(around.ShareFolder);
-  if (isInOneFolder && around.CanWriteIntoProgramFolder) return {around.ProgramFolder, false, {}};
-  return PrepareUserFolder(isInOneFolder ? around.ProgramFolder : around.ShareFolder, around.DocumentsFolder);
+  const fs::path& source = isInOneFolder ? around.ProgramFolder : around.ShareFolder;
+  StartFolder start = isInOneFolder && around.CanWriteIntoProgramFolder
+                          ? StartFolder{around.ProgramFolder, false, {}}
+                          : PrepareUserFolder(source, around.DocumentsFolder);
+  RemoveLeftovers(start.Folder);
+  return start;
 }
 
 std::string AppFolderName(const fs::path& folder, const Disk& disk) {

@@ -30,7 +30,8 @@ struct StartFolder {
 
 /// The program's folder, if it can be written and is not merely that of all installed programs. Otherwise the folder
 /// `Zerimo` in the user's documents, which is made and brought up to date here (see `DeliverFiles`); where that can't
-/// be written and has no help pages either, the folder that it should have been filled from.
+/// be written and has no help pages either, the folder that it should have been filled from. What a save has left there
+/// that was killed is removed.
 StartFolder PrepareStartFolder(const Surroundings& around);
 
 /// A folder as `AppFolder`: the system's name of it. If that leads elsewhere, because the path has characters that the

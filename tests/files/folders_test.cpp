@@ -1,14 +1,14 @@
 #include "files/folders.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <sys/stat.h>
 
-#include <csignal>
 #include <optional>
 
 #include "base/failure.h"
 #include "files/files_fixture.h"
 #include "files/temp_folder.h"
+#include "support/full_disk.h"
 
 namespace zerimo {
 namespace {
@@ -197,30 +197,6 @@ TEST_F(FoldersTest, WhatCanNotBeWrittenFailsAndLeavesNothing) {
   EXPECT_EQ(Temp.Count(), 2);
 }
 
-TEST_F(FoldersTest, AFullDiskFails) {
-  EXPECT_EQ(FailureOf([&] { folders.WriteFile("\\dev\\full", "text"); }), FailureKind::FileAccess);
-}
-
-/// Lets no file grow beyond a size, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) : handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit limit{size, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, handler);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit former{};
-  void (*handler)(int);
-};
-
 TEST_F(FoldersTest, ADiskThatIsFullHalfWayLeavesTheFormerFile) {
   Temp.Write("BOX.ZRM", "FORMER");
   std::optional<FailureKind> failure;
@@ -233,9 +209,29 @@ TEST_F(FoldersTest, ADiskThatIsFullHalfWayLeavesTheFormerFile) {
   EXPECT_EQ(Temp.Count(), 1);
 }
 
-TEST_F(FoldersTest, ADeviceIsWrittenThrough) {
-  folders.WriteFile("\\dev\\null", "text");
+TEST_F(FoldersTest, ADeviceIsNotWritten) {
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile("\\dev\\null", "text"); }), FailureKind::FileAccess);
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST_F(FoldersTest, APipeIsNotWritten) {
+  ASSERT_EQ(mkfifo((Temp.Path / "PIPE.ZRM").c_str(), 0600), 0);
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile("PIPE.ZRM", "text"); }), FailureKind::FileAccess);
+  EXPECT_TRUE(fs::is_fifo(Temp.Path / "PIPE.ZRM"));
+}
+
+TEST_F(FoldersTest, NothingThatAProgramInTheFolderNeedsIsWritten) {
+  Temp.Write("zerimo", "program");
+  for (const char* name : {"qt.conf", "QT.CONF", "platforms", "Plugins", "zmhelp", "zerimo", "ZERIMO-BATCH",
+                           "libQt6Core.so.6", "qt6core.dll", ".\\qt.conf"}) {
+    EXPECT_EQ(FailureOf([&] { folders.WriteFile(name, "new"); }), FailureKind::FileAccess) << name;
+  }
+  EXPECT_EQ(Temp.Read("zerimo"), "program");
+  EXPECT_EQ(Temp.Count(), 1);
+  folders.WriteFile("QT.ZRM", "text");
+  Temp.MakeFolder("elsewhere");
+  folders.WriteFile("elsewhere\\qt.conf", "text");
+  EXPECT_TRUE(Temp.Has("QT.ZRM") && Temp.Has("elsewhere/qt.conf"));
 }
 
 TEST_F(FoldersTest, ListsFilesSortedWithoutFoldersAndHiddenOnes) {
