@@ -42,9 +42,10 @@ class Form1 {
   Control* FindControl(const std::string& name);
   Timer* FindTimer(const std::string& name);
 
-  /// For the end by a failure, or by closing during a run: the editor's text to Rescued.ZRM in `AppFolder`, if there
-  /// is any. Tells whether it was written.
-  bool RescueEditorText() const { return files.saving.RescueEditorText(); }
+  /// For the end by a failure, or by closing during a run: keeps the editor's text. See `Saving`.
+  std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const {
+    return files.saving.RescueEditorText(others);
+  }
 
   Controls controls;
   Surface Picture1;

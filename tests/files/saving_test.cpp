@@ -195,5 +195,25 @@ TEST_F(SavingTest, ARescueThatFailsIsTold) {
   EXPECT_FALSE(saving.RescueEditorText());
 }
 
+TEST_F(SavingTest, ARescueThatFailsInTheFirstFolderGoesToTheNext) {
+  Write("FD 10");
+  Temp.MakeFolder("app/Rescued.ZRM");
+  Temp.Write("no-folder", "");
+  const std::filesystem::path state = Temp.Path / "state/zerimo";
+  EXPECT_EQ(saving.RescueEditorText({Temp.Path / "no-folder", state, Temp.Path / "other"}), state / "Rescued.ZRM");
+  EXPECT_EQ(Temp.Read("state/zerimo/Rescued.ZRM"), "FD 10");
+  EXPECT_EQ(std::filesystem::status(state).permissions(), std::filesystem::perms::owner_all);
+  EXPECT_FALSE(Temp.Has("other"));
+}
+
+TEST_F(SavingTest, ARescueAmongTheTemporaryFilesHasAFolderOfItsOwn) {
+  const auto folders = FoldersForRescue("/state", "/tmp");
+  ASSERT_EQ(folders.size(), 2U);
+  EXPECT_EQ(folders[0], "/state");
+  EXPECT_EQ(folders[1].parent_path(), "/tmp");
+  EXPECT_NE(folders[1], FoldersForRescue("/state", "/tmp")[1]);
+  EXPECT_TRUE(FoldersForRescue({}, {}).empty());
+}
+
 }  // namespace
 }  // namespace zerimo
