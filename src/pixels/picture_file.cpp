@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSaveFile>
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -13,6 +12,7 @@
 #include <system_error>
 
 #include "base/failure.h"
+#include "files/disk_files.h"
 #include "pixels/picture_check.h"
 
 namespace zerimo {
@@ -83,13 +83,7 @@ void WritePictureFile(const QImage& image, const std::filesystem::path& file) {
   QImageWriter writer(&device, format->Format);
   if (ending == ".jpg" || ending == ".jpeg") writer.setQuality(JpegQuality);
   Require(writer.write(image), FailureKind::FileAccess);
-  WriteWholeFile(content, file);
-}
-
-void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file) {
-  QSaveFile target(NameOf(file));
-  Require(target.open(QIODevice::WriteOnly), FailureKind::FileAccess);
-  Require(target.write(content) == content.size() && target.commit(), FailureKind::FileAccess);
+  WriteBeside(file, content.toStdString());
 }
 
 std::string EndingOf(const std::filesystem::path& file) {

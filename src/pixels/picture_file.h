@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <filesystem>
@@ -15,9 +14,6 @@ QImage ReadPictureFile(const std::filesystem::path& file, QSize largest);
 /// Writes an image; the format follows from the file's ending (.bmp, .png, .jpg, .jpeg, any case). Fails (invalid
 /// argument for another ending, file access if it can't be written), and then leaves a former file as it was.
 void WritePictureFile(const QImage& image, const std::filesystem::path& file);
-
-/// Writes a file as a whole or, with a failure (file access), not at all.
-void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file);
 
 /// The ending of a file name, in small letters and with its point.
 std::string EndingOf(const std::filesystem::path& file);
