@@ -13,6 +13,7 @@
 #include "classroom/process_limits.h"
 #include "classroom/program_outline.h"
 #include "classroom/readable.h"
+#include "classroom/sandbox.h"
 
 namespace zerimo::classroom {
 
@@ -249,7 +250,10 @@ int RunPupil() {
   if (!order) return 1;
   TameProcess();
   WatchMemory();
-  const Outcome outcome = PupilSession(*order).Run();
+  const Pupil& who = order->Who;
+  const bool isContained = EnterSandbox({fs::current_path(), {who.Program.parent_path(), who.Program, who.Session}});
+  Outcome outcome = PupilSession(*order).Run();
+  if (!isContained) outcome.Notes.append("The operating system did not contain this run.");
   WriteOutcome(run_file::Outcome, outcome);
   return 0;
 }
