@@ -10,12 +10,13 @@
 
 namespace zerimo::batch {
 
-BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter)
+BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter,
+                           const Disk& disk)
     : journal_(journal),
       writePicture_(std::move(pictureWriter)),
       watch_(settings.Steps, settings.Seconds),
       services_(journal_, watch_, settings.Sleep),
-      form_(settings.Screen, settings.AppFolder, services_, watch_, canvas),
+      form_(settings.Screen, Folders(settings.AppFolder, disk), services_, watch_, canvas),
       trace_(journal_) {
   form_.controls.List4.OnChange = [this](const std::string* item) {
     if (item != nullptr) {

@@ -35,7 +35,8 @@ using PictureWriter = std::function<void(const Surface& surface, const std::stri
 /// what happens. Runs once.
 class BatchSession {
  public:
-  BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter = {});
+  BatchSession(const Settings& settings, Canvas& canvas, Journal& journal, PictureWriter pictureWriter = {},
+               const Disk& disk = Disk());
   BatchSession(const BatchSession&) = delete;
   BatchSession& operator=(const BatchSession&) = delete;
 

@@ -24,7 +24,7 @@ std::vector<fs::path> VisibleNamesIn(const fs::path& folder) {
   std::vector<fs::path> names;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
     const fs::path name = entry.path().filename();
-    if (NameOf(name).front() != u'.') names.push_back(name);
+    if (name.native().front() != '.') names.push_back(name);
   }
   std::ranges::sort(names, ComesBefore);
   return names;

@@ -13,7 +13,7 @@
 #include "classroom/process_limits.h"
 #include "classroom/program_outline.h"
 #include "classroom/readable.h"
-#include "files/confinement.h"
+#include "classroom/sandbox.h"
 
 namespace zerimo::classroom {
 
@@ -104,8 +104,6 @@ void WatchMemory() {
   std::set_new_handler(NoteMemory);
 }
 
-fs::path InRunFolder(const char* file) { return fs::path("..") / file; }
-
 }  // namespace
 
 PupilSession::PupilSession(const Order& givenOrder)
@@ -113,14 +111,13 @@ PupilSession::PupilSession(const Order& givenOrder)
       loadName(LoadNameOf(order.Who.Program)),
       transcriptFile(run_file::Transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
-      system(SettingsOf(order), pictures.Pixels(), journal, [](const Surface&, const std::string&) {}) {}
+      system(SettingsOf(order), pictures.Pixels(), journal, [](const Surface&, const std::string&) {},
+             Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {}
 
 Outcome PupilSession::Run() {
   try {
     ReadFiles();
     PlaceProgram();
-    fs::current_path(run_file::Scratch);
-    const Confinement confinement(order.Who.Program.parent_path());
     RunScript();
     WritePicture();
   } catch (const Reason& reason) {
@@ -242,7 +239,7 @@ Place PupilSession::WhereItStands(int line) {
 
 void PupilSession::WritePicture() {
   try {
-    pictures.Write(system.System().Picture1, InRunFolder(run_file::Picture));
+    pictures.Write(system.System().Picture1, run_file::Picture);
   } catch (const std::exception&) {
     outcome.Notes.append("The picture can not be written.");
   }
@@ -253,9 +250,11 @@ int RunPupil() {
   if (!order) return 1;
   TameProcess();
   WatchMemory();
-  const fs::path folder = fs::current_path();
-  const Outcome outcome = PupilSession(*order).Run();
-  WriteOutcome(folder / run_file::Outcome, outcome);
+  const Pupil& who = order->Who;
+  const bool isContained = EnterSandbox({fs::current_path(), {who.Program.parent_path(), who.Program, who.Session}});
+  Outcome outcome = PupilSession(*order).Run();
+  if (!isContained) outcome.Notes.append("The operating system did not contain this run.");
+  WriteOutcome(run_file::Outcome, outcome);
   return 0;
 }
 

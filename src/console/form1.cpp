@@ -1,5 +1,7 @@
 #include "console/form1.h"
 
+#include <utility>
+
 #include "base/failure.h"
 #include "base/numbers.h"
 
@@ -12,14 +14,14 @@ constexpr float BottomStrip = 400;
 
 }  // namespace
 
-Form1::Form1(ScreenSize screen, const std::string& appFolder, Services& services, Watch& watch, Canvas& canvas)
+Form1::Form1(ScreenSize screen, Folders places, Services& services, Watch& watch, Canvas& canvas)
     : controls(screen),
       Picture1("Picture1", canvas),
-      folders(appFolder),
+      folders(std::move(places)),
       interpreter({services, watch, controls, turtle}),
       graphics(Drawing(services)),
       files({interpreter, controls, services, folders}, Picture1),
-      generalPrimitives(Drawing(services), interpreter.arithmetic),
+      generalPrimitives(Drawing(services), interpreter.arithmetic, folders),
       statusLine(controls, turtle, services),
       screenModes(Drawing(services), interpreter.store, files),
       diagnosis(Drawing(services), interpreter),

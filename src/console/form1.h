@@ -19,8 +19,7 @@ namespace zerimo {
 /// with `Failure` (nothing caught it: the system has ended), `Ended` or `Stopped`; the shell ends the system then.
 class Form1 {
  public:
-  /// `appFolder` is the folder of the running program.
-  Form1(ScreenSize screen, const std::string& appFolder, Services& services, Watch& watch, Canvas& canvas);
+  Form1(ScreenSize screen, Folders folders, Services& services, Watch& watch, Canvas& canvas);
 
   /// The load event: to be called once, before any other event.
   void Load();
@@ -43,14 +42,15 @@ class Form1 {
   Control* FindControl(const std::string& name);
   Timer* FindTimer(const std::string& name);
 
-  /// For the end by a failure, or by closing during a run: the editor's text to Rescued.ZRM in `AppFolder`, if there
-  /// is any. Tells whether it was written.
-  bool RescueEditorText() const { return files.saving.RescueEditorText(folders); }
+  /// For the end by a failure, or by closing during a run: keeps the editor's text. See `Saving`.
+  std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const {
+    return files.saving.RescueEditorText(others);
+  }
 
   Controls controls;
   Surface Picture1;
   Turtle turtle;
-  Folders folders;
+  const Folders folders;
   Interpreter interpreter;
   Graphics graphics;
   Files files;

@@ -5,7 +5,6 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "files/folders.h"
 #include "interpreter/relations.h"
 
 namespace zerimo {
@@ -24,7 +23,7 @@ double RemainderOf(double a, std::int16_t b) {
   return static_cast<double>(static_cast<std::int64_t>(whole) % b);
 }
 
-double Reckon(Action action, double a, std::int16_t b) {
+double ResultOf(Action action, double a, std::int16_t b) {
   switch (action) {
     case Action::Sum:
       return Finite(a + b);
@@ -76,7 +75,7 @@ void GeneralPrimitives::SayDeveloper() {
 void GeneralPrimitives::WriteCommandList() {
   std::string lines;
   for (const std::string_view name : CommandListNames()) lines += std::string(name) + "\r\n";
-  Folders::WriteFile("Commands.ZMG", lines);
+  folders_.WriteFile("Commands.ZMG", lines);
 }
 
 void GeneralPrimitives::Wait(PrimitiveCall& call) {
@@ -121,7 +120,7 @@ void GeneralPrimitives::TwoInputs(PrimitiveCall& call, Action action) {
   std::int16_t b = 0;
   PassOver([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
   std::string result;
-  PassOver([&] { result = StrTrimmed(Reckon(action, a, b)); });
+  PassOver([&] { result = StrTrimmed(ResultOf(action, a, b)); });
   context_.services.MessageBox(result);
 }
 

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "files/folders.h"
 #include "graphics/drawing_context.h"
 
 namespace zerimo {
 
-/// The primitives that talk, wait and reckon: `PRINT`, `MESSAGE`, `WAIT`, `SOUND`, `COMMANDLIST`, `SUM` and its kin,
+/// The primitives that talk, wait and calculate: `PRINT`, `MESSAGE`, `WAIT`, `SOUND`, `COMMANDLIST`, `SUM` and the like,
 /// the credits, `BYE` and `QUIT`, and the bare expressions.
 class GeneralPrimitives {
  public:
-  GeneralPrimitives(const DrawingContext& context, const Arithmetic& arithmetic)
-      : context_(context), arithmetic_(arithmetic) {}
+  GeneralPrimitives(const DrawingContext& context, const Arithmetic& arithmetic, const Folders& folders)
+      : context_(context), arithmetic_(arithmetic), folders_(folders) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
  private:
@@ -27,6 +28,7 @@ class GeneralPrimitives {
 
   DrawingContext context_;
   const Arithmetic& arithmetic_;
+  const Folders& folders_;
 };
 
 }  // namespace zerimo

@@ -18,9 +18,9 @@ ScreenSize UnitsOf(const QRect& area) {
 }  // namespace
 
 Session::Session(const QRect& available, const std::string& appFolder)
-    : services(stage, QString::fromStdU16String(Folders::ToRead(appFolder).u16string())),
+    : services(stage, QString::fromStdU16String(Folders(appFolder).ToRead(appFolder).u16string())),
       watch(stage),
-      form1(UnitsOf(available), appFolder, services, watch, canvas),
+      form1(UnitsOf(available), Folders(appFolder), services, watch, canvas),
       window(form1, canvas, *this, available),
       timers(
           form1.controls, [this](Timer& timer) { Deliver([&](Form1& form) { form.Tick(timer); }); },
@@ -53,7 +53,7 @@ void Session::OpenFile(Form1& form, const std::filesystem::path& file) {
   const std::string name = Folders::ToSystem(std::filesystem::absolute(file));
   std::error_code error;
   // A missing program is told by `LOAD`; for a missing picture the system has no words of its own.
-  if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(Folders::ToRead(name), error)) {
+  if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(form.folders.ToRead(name), error)) {
     services.MessageBox("There is no file " + name, box::Critical, ProgramName);
     return;
   }

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <system_error>
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "files/confinement.h"
 #include "files/disk_files.h"
 #include "files/unicode_text.h"
 
@@ -75,26 +75,18 @@ std::optional<fs::path> LookUp(const fs::path& folder, fs::path::iterator part, 
   return std::nullopt;
 }
 
-std::optional<fs::path> LookUp(const fs::path& path) {
+/// Looks a path up that begins at a folder, unless it begins at a root.
+std::optional<fs::path> LookUp(const fs::path& folder, const fs::path& path) {
   std::error_code error;
-  if (fs::exists(path, error)) return path;
+  if (fs::exists(folder / path, error)) return folder / path;
   const fs::path relative = path.relative_path();
-  return LookUp(path.root_path(), relative.begin(), relative.end());
+  return LookUp(path.has_root_path() ? path.root_path() : folder, relative.begin(), relative.end());
 }
 
-fs::path WhereToWrite(const fs::path& path) {
-  if (auto found = LookUp(path)) return *found;
-  const auto folder = LookUp(path.parent_path());
-  return folder ? *folder / path.filename() : path;
-}
-
-/// What may not be read is as if it were not there.
-fs::path ToReadConfined(const Confinement& confinement, const fs::path& path) {
-  if (!Confinement::StaysBelow(path)) Fail(FailureKind::FileNotFound);
-  auto found = LookUp(path);
-  if (!found) found = LookUp(confinement.Shelf(), path.begin(), path.end());
-  if (found && !confinement.MayRead(*found)) Fail(FailureKind::FileNotFound);
-  return found.value_or(path);
+fs::path WhereToWrite(const fs::path& folder, const fs::path& path) {
+  if (auto found = LookUp(folder, path)) return *found;
+  const auto parent = LookUp(folder, path.parent_path());
+  return parent ? *parent / path.filename() : folder / path;
 }
 
 /// Refuses names that the disk would cut short or that name nothing.
@@ -102,8 +94,19 @@ void RequireName(std::string_view systemPath, FailureKind kind) {
   if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
 }
 
-/// Whether a file that is there may be written; opening it so changes nothing.
-bool IsWritable(const fs::path& file) { return std::ofstream(file, std::ios::binary | std::ios::app).is_open(); }
+/// Whether a program that lies in the same folder might not start again if this file were written: its own files, and
+/// those that the toolkit looks for beside a program.
+bool IsOfProgram(const fs::path& file) {
+  static constexpr std::string_view names[] = {"ZERIMO",  "ZERIMO-BATCH", "ZERIMO.EXE", "ZERIMO-BATCH.EXE",
+                                               "ZMHELP",  "QT.CONF",      "QT6.CONF",   "QTLOGGING.INI",
+                                               "PLUGINS", "PLATFORMS",    "STYLES",     "IMAGEFORMATS"};
+  const std::string name = UpperCase(SystemName(file.filename()));
+  const bool isLibrary = name.ends_with(".DLL") || Contains(name, ".SO.") || name.ends_with(".SO");
+  if (!isLibrary && std::ranges::find(names, name) == std::end(names)) return false;
+  std::error_code error;
+  const fs::path folder = file.parent_path();
+  return fs::is_regular_file(folder / "zerimo", error) || fs::is_regular_file(folder / "zerimo.exe", error);
+}
 
 }  // namespace
 
@@ -113,22 +116,24 @@ std::string Folders::ToSystem(const fs::path& path) {
   return text;
 }
 
-fs::path Folders::ToRead(const std::string& systemPath) {
+fs::path Folders::ToRead(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
-  if (const Confinement* const confinement = Confinement::Current()) return ToReadConfined(*confinement, path);
-  return LookUp(path).value_or(path);
+  if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
+  auto found = LookUp(disk_.Folder(), path);
+  if (!found && disk_.Shelf()) found = LookUp(*disk_.Shelf(), path);
+  if (found && !disk_.MayRead(*found)) Fail(FailureKind::FileNotFound);
+  return found.value_or(disk_.Folder() / path);
 }
 
-fs::path Folders::ToWrite(const std::string& systemPath) {
-  const Confinement* const confinement = Confinement::Current();
+fs::path Folders::ToWrite(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
-  if (confinement != nullptr && !Confinement::StaysBelow(path)) Fail(FailureKind::FileAccess);
-  fs::path file = WhereToWrite(path);
-  if (confinement != nullptr && !confinement->MayWrite(file)) Fail(FailureKind::FileAccess);
+  if (!disk_.MayName(path)) Fail(FailureKind::FileAccess);
+  fs::path file = WhereToWrite(disk_.Folder(), path);
+  if (!disk_.MayWrite(file) || IsOfProgram(file)) Fail(FailureKind::FileAccess);
   return file;
 }
 
-std::string Folders::ReadFile(const std::string& systemPath) {
+std::string Folders::ReadFile(const std::string& systemPath) const {
   RequireName(systemPath, FailureKind::FileNotFound);
   const fs::path file = ToRead(systemPath);
   std::error_code error;
@@ -146,24 +151,12 @@ std::string Folders::ReadFile(const std::string& systemPath) {
   return bytes;
 }
 
-void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) {
+void Folders::WriteFile(const std::string& systemPath, const std::string& bytes) const {
   RequireName(systemPath, FailureKind::FileAccess);
-  fs::path file = ToWrite(systemPath);
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  // A link whose target is not there yet and a device have nothing to lose.
-  const bool isDangling = !fs::exists(status) && fs::is_symlink(fs::symlink_status(file, error));
-  if (isDangling || fs::is_character_file(status)) return WriteThrough(file, bytes);
-  if (fs::exists(status)) {
-    if (!fs::is_regular_file(status) || !IsWritable(file)) Fail(FailureKind::FileAccess);
-    // The file behind a link is written, and the link stays.
-    file = fs::canonical(file, error);
-    if (error) Fail(FailureKind::FileAccess);
-  }
-  WriteBeside(file, bytes);
+  WriteBeside(ToWrite(systemPath), bytes);
 }
 
-std::vector<std::string> Folders::FilesIn(const std::string& systemPath) {
+std::vector<std::string> Folders::FilesIn(const std::string& systemPath) const {
   const fs::path folder = ToRead(systemPath);
   std::error_code error;
   if (!fs::is_directory(folder, error)) Fail(FailureKind::FileNotFound);

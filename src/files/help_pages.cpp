@@ -35,13 +35,13 @@ void HelpPages::Open(PrimitiveCall& call) {
 
 void HelpPages::SetFolder() {
   FileListBox& list = context_.controls.File1;
-  list.Items = Folders::FilesIn(PagesFolder);
+  list.Items = context_.folders.FilesIn(PagesFolder);
   list.Path = PagesFolder;
   list.FileName.clear();
 }
 
 void HelpPages::LoadPage(const std::string& file) {
-  const std::string bytes = Folders::ReadFile(file);
+  const std::string bytes = context_.folders.ReadFile(file);
   const bool isRich = IsRtf(bytes);
   const RichText page = isRich ? ReadRtf(bytes) : FromPlainText(IsUtf8(bytes) ? bytes : Utf8FromLatin1(bytes));
   RichTextView& view = context_.controls.RichTextBox1;
@@ -55,7 +55,7 @@ void HelpPages::File1MouseDown() { LoadPage(PagesFolder + context_.controls.File
 
 void HelpPages::SavePage() {
   const std::string name = context_.services.InputBox("Enter the file name", "Save for Help");
-  Folders::WriteFile(name, context_.controls.RichTextBox1.Document + "\r\n");
+  context_.folders.WriteFile(name, context_.controls.RichTextBox1.Document + "\r\n");
 }
 
 void HelpPages::CloseView() {

@@ -25,7 +25,7 @@ void Pictures::Bind() {
 }
 
 void Pictures::ShowPicture(const std::string& fileName) {
-  const std::filesystem::path file = Folders::ToRead(fileName);
+  const std::filesystem::path file = context_.folders.ToRead(fileName);
   std::error_code error;
   // A pipe of that name would hold the system for ever.
   if (!std::filesystem::is_regular_file(file, error)) throw Failure(FailureKind::FileNotFound);
@@ -37,7 +37,7 @@ void Pictures::SavePicture(PrimitiveCall& call) {
   // Also in front of a name that has a folder, unlike the other primitives.
   call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   call.Rest += ".Bmp";
-  PassOver([&] { Picture1.SavePicture(Folders::ToWrite(call.Rest)); });
+  PassOver([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest)); });
 }
 
 void Pictures::LoadPicture(PrimitiveCall& call) {

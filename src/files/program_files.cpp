@@ -42,7 +42,7 @@ void ProgramFiles::Load(PrimitiveCall& call) {
 void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
   const std::string path(Trimmed(nameOfTheFileWithoutExtension + ".ZRM"));
   try {
-    LoadedText = Folders::ReadFile(path);
+    LoadedText = context_.folders.ReadFile(path);
     // Behind what the editor holds, with no line end between the two.
     context_.controls.Text2.Text += LoadedText;
     MakeArray(path);
@@ -52,7 +52,7 @@ void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
 }
 
 void ProgramFiles::MakeArray(const std::string& file) {
-  const std::string text = Folders::ReadFile(file);
+  const std::string text = context_.folders.ReadFile(file);
   context_.interpreter.store.FileDataCount = static_cast<std::int16_t>(context_.interpreter.store.FirstEmptyLine());
   FillStore(context_.interpreter.store, text, context_.interpreter.store.FileDataCount);
   context_.interpreter.lowering.RemoveAllRepeats();

@@ -1,13 +1,20 @@
 #include "files/saving.h"
 
+#include <random>
+#include <system_error>
+
 #include "base/failure.h"
 #include "base/text.h"
+#include "files/disk_files.h"
 #include "interpreter/line_entry.h"
 
 namespace zerimo {
 
 namespace {
 
+namespace fs = std::filesystem;
+
+constexpr const char* RescuedName = "Rescued.ZRM";
 constexpr const char* LineEnd = "\r\n";
 
 }  // namespace
@@ -23,7 +30,7 @@ void Saving::ShowSaveAs() {
 
 void Saving::SaveAs(const std::string& saveAsFileName) {
   std::string text = context_.controls.Text2.Text;
-  Folders::WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
+  context_.folders.WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
 }
 
 void Saving::SaveFromEditor() {
@@ -36,9 +43,30 @@ void Saving::ShowProcedure() {
   PassOver([&] { context_.services.MessageBox(context_.interpreter.store.ProcedureListInStringForm()); });
 }
 
-bool Saving::RescueEditorText(const Folders& folders) const {
-  if (context_.controls.Text2.Text.empty()) return false;
-  return PassOver([&] { Folders::WriteFile(folders.AppFolder + "\\Rescued.ZRM", context_.controls.Text2.Text); });
+std::optional<fs::path> Saving::RescueEditorText(const std::vector<fs::path>& others) const {
+  const std::string& text = context_.controls.Text2.Text;
+  if (text.empty()) return std::nullopt;
+  const Folders& folders = context_.folders;
+  const std::string name = folders.AppFolder + "\\" + RescuedName;
+  if (PassOver([&] { folders.WriteFile(name, text); })) return folders.ToRead(name);
+  for (const fs::path& folder : others) {
+    std::error_code error;
+    const bool isNew = fs::create_directories(folder, error);
+    // Others may look into the folder around it.
+    if (isNew) fs::permissions(folder, fs::perms::owner_all, error);
+    if (PassOver([&] { WriteBeside(folder / RescuedName, text); })) return folder / RescuedName;
+  }
+  return std::nullopt;
+}
+
+std::vector<fs::path> FoldersForRescue(const fs::path& stateFolder, const fs::path& temporaryFolder) {
+  std::vector<fs::path> folders;
+  if (!stateFolder.empty()) folders.push_back(stateFolder);
+  if (!temporaryFolder.empty()) {
+    std::random_device random;
+    folders.push_back(temporaryFolder / ("zerimo-" + std::to_string(random()) + std::to_string(random())));
+  }
+  return folders;
 }
 
 }  // namespace zerimo

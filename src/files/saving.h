@@ -1,6 +1,9 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "files/files_context.h"
 #include "files/program_files.h"
@@ -25,13 +28,18 @@ class Saving {
   /// `SHOW PROCEDURE`: the user's procedures in a box.
   void ShowProcedure();
 
-  /// The editor's text as it stands to Rescued.ZRM in a folder, if there is any. Tells whether a file was written;
-  /// never fails.
-  bool RescueEditorText(const Folders& folders) const;
+  /// Writes the editor's text as it stands to Rescued.ZRM, in `AppFolder` or else in the first of other folders that
+  /// takes it; these are made if need be. The file, or nothing if there is no text or no folder took it. Never fails.
+  std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const;
 
  private:
   FilesContext context_;
   const ProgramFiles& programFiles_;
 };
+
+/// Where a rescue goes that `AppFolder` does not take: the folder of this program's state for the user whose home it
+/// is, and a folder with a new name among the temporary files. An empty path is left out.
+std::vector<std::filesystem::path> FoldersForRescue(const std::filesystem::path& stateFolder,
+                                                    const std::filesystem::path& temporaryFolder);
 
 }  // namespace zerimo

@@ -30,15 +30,19 @@ StartFolder PrepareUserFolder(const fs::path& source, const fs::path& documents)
 
 StartFolder PrepareStartFolder(const Surroundings& around) {
   const bool isInOneFolder = HasHelpPages(around.ProgramFolder) || !HasHelpPages(around.ShareFolder);
-  if (isInOneFolder && around.CanWriteIntoProgramFolder) return {around.ProgramFolder, false, {}};
-  return PrepareUserFolder(isInOneFolder ? around.ProgramFolder : around.ShareFolder, around.DocumentsFolder);
+  const fs::path& source = isInOneFolder ? around.ProgramFolder : around.ShareFolder;
+  StartFolder start = isInOneFolder && around.CanWriteIntoProgramFolder
+                          ? StartFolder{around.ProgramFolder, false, {}}
+                          : PrepareUserFolder(source, around.DocumentsFolder);
+  RemoveLeftovers(start.Folder);
+  return start;
 }
 
-std::string AppFolderName(const fs::path& folder) {
+std::string AppFolderName(const fs::path& folder, const Disk& disk) {
   std::string name = Folders::ToSystem(folder);
   std::error_code error;
-  if (fs::equivalent(Folders::ToRead(name), folder, error)) return name;
-  return fs::equivalent(".", folder, error) ? "." : name;
+  if (fs::equivalent(Folders(name, disk).ToRead(name), folder, error)) return name;
+  return fs::equivalent(disk.Folder() / ".", folder, error) ? "." : name;
 }
 
 }  // namespace zerimo

@@ -33,14 +33,20 @@ bool SlotContains(char mark, const std::string& slot, const std::string& key) {
   return slot.starts_with(key) || Contains(slot, mark + key);
 }
 
-std::string ReplaceAll(std::string& text, std::string_view word, double number) {
+std::string ReplaceAll(std::string& text, std::string_view word, double number, Watch& watch) {
   const int times = Length(text);
   if (!Contains(text, word)) {
     // As many vain calls only pad the text.
     return times == 0 ? text : Textreplace(text, word, {});
   }
   const std::string replacement = Str(number);
-  for (int time = 1; time <= times; ++time) text = Textreplace(text, word, replacement);
+  for (int time = 1; time <= times; ++time) {
+    watch.Tick();
+    std::string replaced = Textreplace(text, word, replacement);
+    // Where one call replaces nothing, the others do not either.
+    if (replaced == text) break;
+    text = std::move(replaced);
+  }
   return text;
 }
 
@@ -395,8 +401,8 @@ double Variables::Y() const {
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
   const double x = X();
   const double y = Y();
-  text = ReplaceAll(text, "XCOR", x);
-  text = ReplaceAll(text, "YCOR", y);
+  text = ReplaceAll(text, "XCOR", x, watch_);
+  text = ReplaceAll(text, "YCOR", y, watch_);
   return text;
 }
 

@@ -45,6 +45,10 @@ class ByteWalk {
   qsizetype position_ = 0;
 };
 
+/// More than any picture that is read; sizes computed from them stay within 64 bits.
+constexpr std::int64_t WidestBitmap = std::int64_t{1} << 26;
+constexpr std::int64_t MostBitsPerPixel = 64;
+
 struct BitmapHeader {
   std::int64_t PixelsAt;
   std::int64_t Width;
@@ -70,9 +74,20 @@ BitmapHeader ReadBitmapHeader(ByteWalk walk) {
   return header;
 }
 
+/// A run-length coding whose size is not told ends with the mark of the bitmap's end.
+bool IsWholeCoding(const BitmapHeader& header, ByteWalk walk) {
+  if (header.CodedSize < 0) return false;
+  if (header.CodedSize > 0) return header.PixelsAt + header.CodedSize <= walk.Size();
+  walk.GoTo(walk.Size() - 2);
+  return walk.BigEndian16() == 1;
+}
+
 bool IsWholeBitmap(const ByteWalk& walk) {
   const BitmapHeader header = ReadBitmapHeader(walk);
-  if (header.Compression == 1 || header.Compression == 2) return header.PixelsAt + header.CodedSize <= walk.Size();
+  if (header.PixelsAt < 0) return false;
+  if (header.Compression == 1 || header.Compression == 2) return IsWholeCoding(header, walk);
+  const bool isPossible = header.Width >= 0 && header.Width <= WidestBitmap && header.BitsPerPixel <= MostBitsPerPixel;
+  if (!isPossible) return false;
   const std::int64_t rowBits = header.Width * header.BitsPerPixel;
   const std::int64_t rowBytes = (rowBits + 31) / 32 * 4;
   // The filling bytes of the last row may be missing.

@@ -5,7 +5,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -14,6 +13,7 @@
 #include <system_error>
 
 #include "base/failure.h"
+#include "files/disk_files.h"
 #include "pictures/picture_check.h"
 #include "pictures/pixel_image.h"
 
@@ -96,13 +96,7 @@ void QtPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, con
   const QImage image = ImageOver(pixels);
   const QRect part = QRect(0, 0, columns, rows) & image.rect();
   Require(writer.write(part == image.rect() ? image : image.copy(part)), FailureKind::FileAccess);
-  WriteWholeFile(content, file);
-}
-
-void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file) {
-  QSaveFile target(NameOf(file));
-  Require(target.open(QIODevice::WriteOnly), FailureKind::FileAccess);
-  Require(target.write(content) == content.size() && target.commit(), FailureKind::FileAccess);
+  WriteBeside(file, content.toStdString());
 }
 
 std::string EndingOf(const std::filesystem::path& file) {

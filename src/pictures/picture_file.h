@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <filesystem>
 #include <string>
 
@@ -14,9 +13,6 @@ class QtPictureFiles : public PictureFiles {
   PixelBuffer Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) override;
   void Write(const PixelBuffer& pixels, int columns, int rows, const std::filesystem::path& file) override;
 };
-
-/// Writes a file as a whole or, with a failure (file access), not at all.
-void WriteWholeFile(const QByteArray& content, const std::filesystem::path& file);
 
 /// The ending of a file name, in small letters and with its point.
 std::string EndingOf(const std::filesystem::path& file);

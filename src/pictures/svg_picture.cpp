@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "files/disk_files.h"
 #include "pictures/picture_file.h"
 #include "pixels/raster_operation.h"
 #include "pixels/rgb.h"
@@ -126,7 +127,7 @@ void SvgRecorder::KeepPixels(const PixelRect& area) {
 void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
                   int height, Colour background) {
   if (EndingOf(file) == ".svg") {
-    WriteWholeFile(recorder.Picture(width, height, background), file);
+    WriteBeside(file, recorder.Picture(width, height, background).toStdString());
   } else {
     canvas.SavePicture(file, width, height);
   }

@@ -98,7 +98,7 @@ class Program {
     if (!outcome.Message.empty()) ComplainAt(outcome.Line, outcome.Message);
     if (!WritePicture(session))
       status = std::max(status, Complain(options.PictureFile + ": the picture can not be written"));
-    const bool written = (transcript == nullptr || transcript->good()) && std::cout.flush().good();
+    const bool written = (transcript == nullptr || transcript->flush().good()) && std::cout.flush().good();
     if (!written) status = std::max(status, Complain("the transcript can not be written"));
     return status;
   }

@@ -67,8 +67,8 @@ TEST_F(SurfaceTraceTest, FloodFillHasPixelsAndTheColourRead) {
 TEST_F(SurfaceTraceTest, PictureHasThePathThatTheSystemGaveIt) {
   const TempFolder folder;
   folder.Write("sea.jpg", "");
-  EXPECT_ANY_THROW(surface.SetPicture("none.jpg", "C:\\X\\NONE.JPG"));
-  surface.SetPicture("sea.jpg", "C:\\X\\SEA.JPG");
+  EXPECT_ANY_THROW(surface.SetPicture(folder.Path / "none.jpg", "C:\\X\\NONE.JPG"));
+  surface.SetPicture(folder.Path / "sea.jpg", "C:\\X\\SEA.JPG");
   EXPECT_EQ(transcript.str(), Event(R"("Picture","path":"C:\\X\\SEA.JPG")"));
 }
 

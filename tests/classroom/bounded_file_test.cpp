@@ -11,7 +11,7 @@ namespace {
 
 TEST(BoundedFile, KeepsTheBeginning) {
   const TempFolder disk;
-  BoundedFile file("f", 10);
+  BoundedFile file(disk.Path / "f", 10);
   std::ostream stream(&file);
   stream << "12345\n"
          << "6789012345\n"
@@ -23,7 +23,7 @@ TEST(BoundedFile, KeepsTheBeginning) {
 
 TEST(BoundedFile, TellsWhetherBytesAreLost) {
   const TempFolder disk;
-  BoundedFile file("f", 10);
+  BoundedFile file(disk.Path / "f", 10);
   std::ostream(&file) << "more than ten characters\n";
   EXPECT_FALSE(file.HasFailed());
   BoundedFile nowhere("no/such/folder/f", 10);
@@ -37,7 +37,7 @@ TEST(BoundedFile, TellsWhetherBytesAreLost) {
 
 TEST(BoundedFile, ALineIsOnTheDiskWhenItEnds) {
   const TempFolder disk;
-  BoundedFile file("f", 100);
+  BoundedFile file(disk.Path / "f", 100);
   std::ostream stream(&file);
   stream << "line" << '\n';
   EXPECT_EQ(disk.Read("f"), "line\n");

@@ -14,7 +14,7 @@ class ClassFolderTest : public testing::Test {
   /// "ANNA.ZRM" or "ANNA.ZRM by ANNA.session" for each program.
   std::vector<std::string> Found() const {
     std::vector<std::string> found;
-    for (const Pupil& pupil : PupilsOf(Disk.Path)) {
+    for (const Pupil& pupil : PupilsOf(Temp.Path)) {
       std::string words = pupil.Program.filename().string();
       if (!pupil.Session.empty()) words += " by " + pupil.Session.filename().string();
       found.push_back(words);
@@ -23,11 +23,11 @@ class ClassFolderTest : public testing::Test {
   }
 
   void Make(std::initializer_list<const char*> names) const {
-    for (const char* name : names) Disk.Write(name, "");
+    for (const char* name : names) Temp.Write(name, "");
   }
 
   using Words = std::vector<std::string>;
-  TempFolder Disk;
+  TempFolder Temp;
 };
 
 TEST_F(ClassFolderTest, ProgramsComeInTheOrderOfTheirNamesInAnyCase) {
@@ -41,13 +41,13 @@ TEST_F(ClassFolderTest, OtherFilesAndHiddenOnesAreNone) {
 }
 
 TEST_F(ClassFolderTest, WhateverIsCalledAProgramIsOne) {
-  fs::create_directory("FOLDER.ZRM");
-  fs::create_symlink("nowhere", "LINK.ZRM");
+  fs::create_directory(Temp.Path / "FOLDER.ZRM");
+  fs::create_symlink("nowhere", Temp.Path / "LINK.ZRM");
   EXPECT_EQ(Found(), (Words{"FOLDER.ZRM", "LINK.ZRM"}));
 }
 
 TEST_F(ClassFolderTest, FoldersBelowAreNotLookedInto) {
-  Disk.Write("sub/ANNA.ZRM", "");
+  Temp.Write("sub/ANNA.ZRM", "");
   EXPECT_EQ(Found(), Words{});
 }
 
@@ -67,7 +67,7 @@ TEST_F(ClassFolderTest, NamesNeedNotBeText) {
 }
 
 TEST_F(ClassFolderTest, AFolderThatIsNotThereFails) {
-  EXPECT_THROW(PupilsOf(Disk.Path / "missing"), fs::filesystem_error);
+  EXPECT_THROW(PupilsOf(Temp.Path / "missing"), fs::filesystem_error);
 }
 
 }  // namespace

@@ -13,8 +13,8 @@ TEST(Order, ComesBackAsItWasWritten) {
   order.Who = {"/a \"b\"\n/in\xFF.ZRM", "/s.session"};
   order.Limits = {2.5, 18'446'744'073'709'551'615U, 64};
   order.Screen = {12000, 9000};
-  WriteOrder("order", order);
-  const std::optional<Order> back = ReadOrder("order");
+  WriteOrder(disk.Path / "order", order);
+  const std::optional<Order> back = ReadOrder(disk.Path / "order");
   ASSERT_TRUE(back);
   EXPECT_EQ(back->Who.Program, order.Who.Program);
   EXPECT_EQ(back->Who.Session, order.Who.Session);
@@ -34,8 +34,8 @@ TEST(Order, OutcomeComesBackAsItWasWritten) {
   outcome.Where = {3, "LINE", "PROC", "FD 1"};
   outcome.Typed = {"A", "B"};
   outcome.Notes = {"N"};
-  WriteOutcome("outcome", outcome);
-  const std::optional<Outcome> back = ReadOutcome("outcome");
+  WriteOutcome(disk.Path / "outcome", outcome);
+  const std::optional<Outcome> back = ReadOutcome(disk.Path / "outcome");
   ASSERT_TRUE(back);
   EXPECT_EQ(back->How, Result::NotRun);
   EXPECT_EQ(back->By, "by");
@@ -53,8 +53,8 @@ TEST(Order, WhatIsNotWholeIsNothing) {
   disk.Write("half", "{\"result\":\"ended\"");
   disk.Write("list", "[]");
   for (const char* name : {"half", "list", "missing", "."}) {
-    EXPECT_FALSE(ReadOutcome(name)) << name;
-    EXPECT_FALSE(ReadOrder(name)) << name;
+    EXPECT_FALSE(ReadOutcome(disk.Path / name)) << name;
+    EXPECT_FALSE(ReadOrder(disk.Path / name)) << name;
   }
 }
 

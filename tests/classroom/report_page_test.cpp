@@ -103,7 +103,7 @@ TEST(ReportPage, HoldsThePicture) {
   const TempFolder disk;
   disk.Write("p.png", OnePixel.toStdString());
   PupilRun run = RunOf("A\"B.ZRM");
-  run.Picture = "p.png";
+  run.Picture = disk.Path / "p.png";
   EXPECT_TRUE(PageWith({run}).contains(
       "<img width=\"1\" height=\"1\" alt=\"Picture drawn by A&quot;B.ZRM\" src=\"data:image/png;base64," +
       QString::fromLatin1(OnePixel.toBase64()) + "\">"));

@@ -18,9 +18,9 @@ namespace fs = std::filesystem;
 class RunProcessTest : public testing::Test {
  protected:
   QString Script(const std::string& commands) {
-    Disk.Write("program", "#!/bin/sh\n" + commands + "\n");
-    fs::permissions("program", fs::perms::owner_all);
-    return QString::fromStdString((Disk.Path / "program").string());
+    Temp.Write("program", "#!/bin/sh\n" + commands + "\n");
+    fs::permissions(Temp.Path / "program", fs::perms::owner_all);
+    return QString::fromStdString((Temp.Path / "program").string());
   }
 
   /// Runs a script that gets some seconds, and none around.
@@ -28,7 +28,7 @@ class RunProcessTest : public testing::Test {
     Order order;
     order.Who.Program = "ANNA.ZRM";
     order.Limits.Seconds = seconds;
-    RunProcess process(order, Disk.Path / "run", 0);
+    RunProcess process(order, Temp.Path / "run", 0);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&process] { process.EndIfLate(); });
     timer.start(10);
@@ -48,7 +48,7 @@ class RunProcessTest : public testing::Test {
   char name[5] = "test";
   char* arguments[2] = {name, nullptr};
   QCoreApplication Application{count, arguments};
-  TempFolder Disk;
+  TempFolder Temp;
 };
 
 TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
@@ -57,7 +57,7 @@ TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
   ASSERT_TRUE(order);
   EXPECT_EQ(order->Who.Program, "ANNA.ZRM");
   EXPECT_EQ(order->Limits.Seconds, 30);
-  EXPECT_EQ(Disk.Read("arguments"), "--class-pupil\n");
+  EXPECT_EQ(Temp.Read("arguments"), "--class-pupil\n");
 }
 
 TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
@@ -104,7 +104,7 @@ TEST_F(RunProcessTest, OutputOfTheProcessGoesNowhere) {
 }
 
 TEST_F(RunProcessTest, APictureIsTakenUnlessItIsHuge) {
-  EXPECT_EQ(RunOf(Script("echo p > picture.png")).Picture, Disk.Path / "run/picture.png");
+  EXPECT_EQ(RunOf(Script("echo p > picture.png")).Picture, Temp.Path / "run/picture.png");
   const PupilRun run = RunOf(Script("truncate -s 9M picture.png"));
   EXPECT_EQ(run.Picture, fs::path());
   EXPECT_EQ(run.Went.Notes, QStringList{"The picture is too large for the report."});
@@ -112,12 +112,12 @@ TEST_F(RunProcessTest, APictureIsTakenUnlessItIsHuge) {
 
 TEST_F(RunProcessTest, WhatTheProgramWroteIsThrownAway) {
   RunOf(Script("mkdir scratch; echo x > scratch/X; echo x > transcript.jsonl"));
-  EXPECT_FALSE(Disk.Has("run/scratch"));
-  EXPECT_FALSE(Disk.Has("run/transcript.jsonl"));
+  EXPECT_FALSE(Temp.Has("run/scratch"));
+  EXPECT_FALSE(Temp.Has("run/transcript.jsonl"));
 }
 
 TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
-  Disk.MakeFolder("runs");
+  Temp.MakeFolder("runs");
   ClassRunner::Plan plan;
   plan.Jobs = 2;
   // The first one waits until the last one runs; each notes how many there are.
@@ -125,7 +125,7 @@ TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
       "touch ../$$.here; ls .. | grep -c here >> ../counts\n"
       "case $PWD in */0) while [ ! -e ../3 ]; do sleep 0.01; done;; esac\n"
       "rm ../$$.here; exit ${PWD##*/}");
-  plan.Folder = Disk.Path / "runs";
+  plan.Folder = Temp.Path / "runs";
   std::vector<std::string> done;
   ClassRunner runner(plan, {{"A", {}}, {"B", {}}, {"C", {}}, {"D", {}}},
                      [&done](const PupilRun& run, std::size_t number) {
@@ -138,7 +138,7 @@ TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
   EXPECT_EQ(order, "A0B1C2D3");
   EXPECT_EQ(done.size(), 4U);
   EXPECT_EQ(done.at(0), "B1");
-  EXPECT_EQ(Disk.Read("runs/counts").find_first_of("3456789"), std::string::npos);
+  EXPECT_EQ(Temp.Read("runs/counts").find_first_of("3456789"), std::string::npos);
 }
 
 }  // namespace

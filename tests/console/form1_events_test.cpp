@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "files/temp_folder.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -62,7 +61,6 @@ TEST_F(Form1EventsTest, BarsColourBackgroundAndPen) {
 }
 
 TEST_F(Form1EventsTest, PressOnTheFileListShowsThePage) {
-  const TempFolder folder;
   folder.Write("ZMHELP/FD", "go forward");
   controls.File1.FileName = "FD";
   System.MouseDown(controls.File1, MouseButton::Right, true, 0, 0);
@@ -86,7 +84,6 @@ TEST_F(Form1EventsTest, NeitherHideNorClearingTheScreenStopsASlideShow) {
 }
 
 TEST_F(Form1EventsTest, HelpStaysOpenInItsPlaceWhileTheScreenModesChange) {
-  const TempFolder folder;
   folder.Write("ZMHELP/HELP", "welcome");
   for (const char* line : {"HELP", "FS", "TS", "SS"}) {
     Type(line);

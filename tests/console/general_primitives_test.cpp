@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "files/temp_folder.h"
 #include "support/quoted.h"
 #include "support/whole_system.h"
 
@@ -43,7 +42,6 @@ TEST_F(GeneralPrimitivesTest, SayDeveloperTellsTheMakers) {
 }
 
 TEST_F(GeneralPrimitivesTest, CommandListWritesTheNamesAsTheyStand) {
-  const TempFolder folder;
   folder.Write("Commands.ZMG", "OLD");
   Execute("COMMANDLIST");
   std::stringstream bytes(folder.Read("Commands.ZMG"));
@@ -58,7 +56,6 @@ TEST_F(GeneralPrimitivesTest, CommandListWritesTheNamesAsTheyStand) {
 }
 
 TEST_F(GeneralPrimitivesTest, CommandListThatCanNotBeWrittenIsPassedOver) {
-  const TempFolder folder;
   folder.MakeFolder("Commands.ZMG/inside");
   Execute("COMMANDLIST");
   EXPECT_TRUE(services.Boxes.empty());

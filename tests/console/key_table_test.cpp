@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "files/temp_folder.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -70,7 +69,6 @@ const std::vector<std::function<void(WholeSystem&)>> looks = {
 
 /// Whether a key changes anything that one sees, asks something or writes a file. Every key goes to the window too.
 bool DoesSomething(const std::string& column, int keyCode, const std::function<void(WholeSystem&)>& look) {
-  const TempFolder folder;
   WholeSystem system;
   system.controls.Text1[0].Text = "RT 1";
   look(system);
@@ -80,7 +78,7 @@ bool DoesSomething(const std::string& column, int keyCode, const std::function<v
   system.Press(system.controls.Form1, keyCode);
   if (Control* const control = ControlOf(column, system)) system.Press(*control, keyCode);
   return system.EveryProperty() != before || system.Focus() != focus || !system.services.Inputs.empty() ||
-         folder.Count() > 0;
+         system.folder.Count() > 0;
 }
 
 bool DoesSomething(const std::string& column, int keyCode) {

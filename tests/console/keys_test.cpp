@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "files/temp_folder.h"
 #include "support/quoted.h"
 #include "support/whole_system.h"
 
@@ -72,7 +71,6 @@ TEST_F(KeysTest, AnOverflowInARunningLineLosesNothingButTheLine) {
 }
 
 TEST_F(KeysTest, TheNameForF9IsTakenAsItIsTyped) {
-  const TempFolder folder;
   folder.Write("Small Box.ZRM", "TO BOX\r\nEND\r\n");
   services.InputAnswers.push_back("Small Box");
   Press(controls.Text1[0], key::F9);

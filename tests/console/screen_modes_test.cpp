@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "files/temp_folder.h"
 #include "support/whole_system.h"
 
 namespace zerimo {
@@ -195,7 +194,6 @@ TEST_F(ScreenModesTest, AFoldListsTheProceduresAgain) {
 }
 
 TEST_F(ScreenModesTest, ALoadListsTheProceduresAgain) {
-  const TempFolder folder;
   folder.Write("STAR.ZRM", "TO STAR\r\nEND\r\n");
   Fill({"TO BOX", "END"});
   Execute("TS");

@@ -24,13 +24,12 @@ class PictureList : public SurfaceRecorder {
 };
 
 /// The interpreter with files, editor, pictures and help in a folder of its own. `AppFolder` is the folder "app" in
-/// it, and the current folder is another one, "work".
+/// it, and relative paths begin at another one, "work".
 class FilesTest : public ::testing::Test, protected BareInterpreter {
  protected:
   FilesTest() {
-    Disk.MakeFolder("app");
-    Disk.MakeFolder("work");
-    std::filesystem::current_path(Disk.Path / "work");
+    Temp.MakeFolder("app");
+    Temp.MakeFolder("work");
     Picture1.AddRecorder(Loaded);
     files.Bind();
     dispatch.Bind(Action::SplitScreen, [this](PrimitiveCall&) {
@@ -44,8 +43,8 @@ class FilesTest : public ::testing::Test, protected BareInterpreter {
 
   std::vector<std::string> Listed(const ListBox& list) const { return list.Items(); }
 
-  TempFolder Disk;
-  Folders folders{Disk.Path.string() + "/app"};
+  TempFolder Temp;
+  const Folders folders{Temp.Path.string() + "/app", Disk(Temp.Path / "work")};
   EmptyCanvas Pixels;
   PictureList Loaded;
   Surface Picture1{"Picture1", Pixels};

@@ -1,14 +1,14 @@
 #include "files/folders.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <sys/stat.h>
 
-#include <csignal>
 #include <optional>
 
 #include "base/failure.h"
 #include "files/files_fixture.h"
 #include "files/temp_folder.h"
+#include "support/full_disk.h"
 
 namespace zerimo {
 namespace {
@@ -17,234 +17,232 @@ namespace fs = std::filesystem;
 
 class FoldersTest : public ::testing::Test {
  protected:
-  TempFolder Disk;
+  TempFolder Temp;
+  const Folders folders{".", Disk(Temp.Path)};
 };
 
 TEST_F(FoldersTest, ABackslashDividesFolders) {
-  Disk.Write("a/b/C.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("a\\b\\C.ZRM"), "text");
+  Temp.Write("a/b/C.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("a\\b\\C.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, ASlashDividesFoldersToo) {
-  Disk.Write("a/b/C.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("a/b\\C.ZRM"), "text");
+  Temp.Write("a/b/C.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("a/b\\C.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, ADriveLetterIsNoFolder) {
-  Disk.Write("a/C.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("C:a\\C.ZRM"), "text");
-  EXPECT_EQ(Folders::ReadFile("d:" + Disk.Path.string() + "\\a\\C.ZRM"), "text");
+  Temp.Write("a/C.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("C:a\\C.ZRM"), "text");
+  EXPECT_EQ(folders.ReadFile("d:" + Temp.Path.string() + "\\a\\C.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, ADriveLetterInsideAPathIsAName) {
-  Disk.Write("a/X.ZRM", "text");
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("a\\C:\\X.ZRM"); }), FailureKind::FileNotFound);
+  Temp.Write("a/X.ZRM", "text");
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("a\\C:\\X.ZRM"); }), FailureKind::FileNotFound);
 }
 
 TEST_F(FoldersTest, TheExactNameComesFirst) {
-  Disk.Write("BOX.ZRM", "capitals");
-  Disk.Write("box.ZRM", "small");
-  EXPECT_EQ(Folders::ReadFile("BOX.ZRM"), "capitals");
-  EXPECT_EQ(Folders::ReadFile("box.ZRM"), "small");
+  Temp.Write("BOX.ZRM", "capitals");
+  Temp.Write("box.ZRM", "small");
+  EXPECT_EQ(folders.ReadFile("BOX.ZRM"), "capitals");
+  EXPECT_EQ(folders.ReadFile("box.ZRM"), "small");
 }
 
 TEST_F(FoldersTest, CaseDoesNotMatterInAnyPart) {
-  Disk.Write("Class Five/box.zrm", "text");
-  EXPECT_EQ(Folders::ReadFile("CLASS FIVE\\BOX.ZRM"), "text");
+  Temp.Write("Class Five/box.zrm", "text");
+  EXPECT_EQ(folders.ReadFile("CLASS FIVE\\BOX.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, OfSeveralCasesTheFirstInOrderIsTaken) {
-  Disk.Write("Box.ZRM", "second");
-  Disk.Write("BOx.ZRM", "first");
-  EXPECT_EQ(Folders::ReadFile("BOX.ZRM"), "first");
+  Temp.Write("Box.ZRM", "second");
+  Temp.Write("BOx.ZRM", "first");
+  EXPECT_EQ(folders.ReadFile("BOX.ZRM"), "first");
 }
 
 TEST_F(FoldersTest, ANeighbourFolderInAnotherCaseDoesNotHideTheFile) {
-  Disk.MakeFolder("Kim");
-  Disk.Write("kim/TRIP1.JPG", "picture");
-  EXPECT_EQ(Folders::ReadFile("KIM\\TRIP1.JPG"), "picture");
+  Temp.MakeFolder("Kim");
+  Temp.Write("kim/TRIP1.JPG", "picture");
+  EXPECT_EQ(folders.ReadFile("KIM\\TRIP1.JPG"), "picture");
 }
 
 TEST_F(FoldersTest, NamesWithDotsAndBlanks) {
-  Disk.Write("V1.0/my first.box.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("v1.0\\MY FIRST.BOX.ZRM"), "text");
+  Temp.Write("V1.0/my first.box.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("v1.0\\MY FIRST.BOX.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, UmlautsAreUtf8OnTheDisk) {
-  Disk.Write("gr\xC3\xBC\xC3\x9F.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("gr\xFC\xDF.ZRM"), "text");
-  EXPECT_EQ(Folders::ReadFile("GR\xDC\xDF.ZRM"), "text");
+  Temp.Write("gr\xC3\xBC\xC3\x9F.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("gr\xFC\xDF.ZRM"), "text");
+  EXPECT_EQ(folders.ReadFile("GR\xDC\xDF.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, ACharacterThatTheSystemLacksIsAQuestionMark) {
-  Disk.Write("\xD0\x90\xD0\xBD\xD1\x8F.ZRM", "text");
-  EXPECT_EQ(Folders::ReadFile("???.ZRM"), "text");
+  Temp.Write("\xD0\x90\xD0\xBD\xD1\x8F.ZRM", "text");
+  EXPECT_EQ(folders.ReadFile("???.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, NamesThatLookAlikeAreNotMistaken) {
-  Disk.Write("\xD0\x90.ZRM", "one");
-  Disk.Write("\xD0\x91.ZRM", "other");
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("?.ZRM"); }), FailureKind::FileNotFound);
+  Temp.Write("\xD0\x90.ZRM", "one");
+  Temp.Write("\xD0\x91.ZRM", "other");
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("?.ZRM"); }), FailureKind::FileNotFound);
 }
 
-TEST_F(FoldersTest, RelativePathsBeginAtTheCurrentFolder) {
-  Disk.Write("a/C.ZRM", "text");
-  fs::current_path(Disk.Path / "a");
-  EXPECT_EQ(Folders::ReadFile("C.ZRM"), "text");
-  EXPECT_EQ(Folders::ReadFile("..\\A\\c.zrm"), "text");
+TEST_F(FoldersTest, RelativePathsBeginAtTheFolderOfTheDisk) {
+  Temp.Write("a/C.ZRM", "text");
+  const Folders inA(".", Disk(Temp.Path / "a"));
+  EXPECT_EQ(inA.ReadFile("C.ZRM"), "text");
+  EXPECT_EQ(inA.ReadFile("..\\A\\c.zrm"), "text");
 }
 
 TEST_F(FoldersTest, WhatIsNotThereStaysAsItStands) {
-  EXPECT_EQ(Folders::ToRead("No\\Such.ZRM"), fs::path("No/Such.ZRM"));
-  EXPECT_EQ(Folders::ToWrite("No\\Such.ZRM"), fs::path("No/Such.ZRM"));
+  EXPECT_EQ(folders.ToRead("No\\Such.ZRM"), Temp.Path / "No/Such.ZRM");
+  EXPECT_EQ(folders.ToWrite("No\\Such.ZRM"), Temp.Path / "No/Such.ZRM");
+  EXPECT_EQ(Folders(".").ToRead("No\\Such.ZRM"), fs::path("No/Such.ZRM"));
 }
 
 TEST_F(FoldersTest, ReadingKeepsEveryByte) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
-  Disk.Write("ALL", all);
-  EXPECT_EQ(Folders::ReadFile("ALL"), all);
+  Temp.Write("ALL", all);
+  EXPECT_EQ(folders.ReadFile("ALL"), all);
 }
 
 TEST_F(FoldersTest, AnEmptyFileIsEmpty) {
-  Disk.Write("EMPTY", "");
-  EXPECT_EQ(Folders::ReadFile("EMPTY"), "");
+  Temp.Write("EMPTY", "");
+  EXPECT_EQ(folders.ReadFile("EMPTY"), "");
 }
 
 TEST_F(FoldersTest, WhatCanNotBeReadFails) {
-  Disk.MakeFolder("folder");
-  Disk.Write("file", "text");
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("missing"); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile(""); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("folder"); }), FailureKind::FileAccess);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("folder\\"); }), FailureKind::FileAccess);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("file\\inside"); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("file\\"); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile(std::string("file\0cut", 8)); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile(std::string(5000, 'A')); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("\\dev\\zero"); }), FailureKind::FileAccess);
+  Temp.MakeFolder("folder");
+  Temp.Write("file", "text");
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("missing"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile(""); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("folder"); }), FailureKind::FileAccess);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("folder\\"); }), FailureKind::FileAccess);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("file\\inside"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("file\\"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile(std::string("file\0cut", 8)); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile(std::string(5000, 'A')); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("\\dev\\zero"); }), FailureKind::FileAccess);
 }
 
 TEST_F(FoldersTest, AHugeFileFails) {
-  Disk.Write("HUGE", "");
-  fs::resize_file("HUGE", Folders::LargestFile + 1);
-  EXPECT_EQ(FailureOf([] { Folders::ReadFile("HUGE"); }), FailureKind::FileAccess);
+  Temp.Write("HUGE", "");
+  fs::resize_file(Temp.Path / "HUGE", Folders::LargestFile + 1);
+  EXPECT_EQ(FailureOf([&] { folders.ReadFile("HUGE"); }), FailureKind::FileAccess);
 }
 
 TEST_F(FoldersTest, WritingTakesTheNameAsItStands) {
-  Folders::WriteFile("New.ZRM", "text");
-  EXPECT_EQ(Disk.Read("New.ZRM"), "text");
-  EXPECT_EQ(Disk.Count(), 1);
+  folders.WriteFile("New.ZRM", "text");
+  EXPECT_EQ(Temp.Read("New.ZRM"), "text");
+  EXPECT_EQ(Temp.Count(), 1);
 }
 
 TEST_F(FoldersTest, WritingUsesAFileInAnotherCase) {
-  Disk.Write("box.zrm", "old");
-  Folders::WriteFile("BOX.ZRM", "new");
-  EXPECT_EQ(Disk.Read("box.zrm"), "new");
-  EXPECT_EQ(Disk.Count(), 1);
+  Temp.Write("box.zrm", "old");
+  folders.WriteFile("BOX.ZRM", "new");
+  EXPECT_EQ(Temp.Read("box.zrm"), "new");
+  EXPECT_EQ(Temp.Count(), 1);
 }
 
 TEST_F(FoldersTest, WritingFindsTheFolderInAnotherCase) {
-  Disk.MakeFolder("class");
-  Folders::WriteFile("CLASS\\Box.ZRM", "text");
-  EXPECT_EQ(Disk.Read("class/Box.ZRM"), "text");
+  Temp.MakeFolder("class");
+  folders.WriteFile("CLASS\\Box.ZRM", "text");
+  EXPECT_EQ(Temp.Read("class/Box.ZRM"), "text");
 }
 
 TEST_F(FoldersTest, WritingUmlauts) {
-  Folders::WriteFile(
+  folders.WriteFile(
       "\xDC"
       "bung.ZRM",
       "text");
-  EXPECT_EQ(Disk.Read("\xC3\x9C"
+  EXPECT_EQ(Temp.Read("\xC3\x9C"
                       "bung.ZRM"),
             "text");
 }
 
 TEST_F(FoldersTest, WritingKeepsThePermissions) {
-  Disk.Write("BOX.ZRM", "old");
-  fs::permissions("BOX.ZRM", fs::perms(0640));
-  Folders::WriteFile("BOX.ZRM", "new");
-  EXPECT_EQ(fs::status("BOX.ZRM").permissions(), fs::perms(0640));
+  Temp.Write("BOX.ZRM", "old");
+  fs::permissions(Temp.Path / "BOX.ZRM", fs::perms(0640));
+  folders.WriteFile("BOX.ZRM", "new");
+  EXPECT_EQ(fs::status(Temp.Path / "BOX.ZRM").permissions(), fs::perms(0640));
 }
 
 TEST_F(FoldersTest, WritingGoesThroughALink) {
-  Disk.Write("real.ZRM", "old");
-  fs::create_symlink("real.ZRM", "link.ZRM");
-  Folders::WriteFile("link.ZRM", "new");
-  EXPECT_EQ(Disk.Read("real.ZRM"), "new");
-  EXPECT_TRUE(fs::is_symlink("link.ZRM"));
+  Temp.Write("real.ZRM", "old");
+  fs::create_symlink("real.ZRM", Temp.Path / "link.ZRM");
+  folders.WriteFile("link.ZRM", "new");
+  EXPECT_EQ(Temp.Read("real.ZRM"), "new");
+  EXPECT_TRUE(fs::is_symlink(Temp.Path / "link.ZRM"));
 }
 
 TEST_F(FoldersTest, WritingGoesThroughALinkWhoseTargetIsMissing) {
-  fs::create_symlink("real.ZRM", "link.ZRM");
-  Folders::WriteFile("link.ZRM", "new");
-  EXPECT_EQ(Disk.Read("real.ZRM"), "new");
-  EXPECT_TRUE(fs::is_symlink("link.ZRM"));
+  fs::create_symlink("real.ZRM", Temp.Path / "link.ZRM");
+  folders.WriteFile("link.ZRM", "new");
+  EXPECT_EQ(Temp.Read("real.ZRM"), "new");
+  EXPECT_TRUE(fs::is_symlink(Temp.Path / "link.ZRM"));
 }
 
 TEST_F(FoldersTest, WhatCanNotBeWrittenFailsAndLeavesNothing) {
-  Disk.MakeFolder("folder");
-  Disk.Write("file", "text");
+  Temp.MakeFolder("folder");
+  Temp.Write("file", "text");
   for (const char* name : {"", "folder", "folder\\", "missing\\file", "file\\inside"}) {
-    EXPECT_EQ(FailureOf([&] { Folders::WriteFile(name, "new"); }), FailureKind::FileAccess) << name;
+    EXPECT_EQ(FailureOf([&] { folders.WriteFile(name, "new"); }), FailureKind::FileAccess) << name;
   }
   const std::string longName(300, 'A');
-  EXPECT_EQ(FailureOf([&] { Folders::WriteFile(longName, "new"); }), FailureKind::FileAccess);
-  EXPECT_EQ(FailureOf([] { Folders::WriteFile(std::string("file\0cut", 8), "new"); }), FailureKind::FileAccess);
-  EXPECT_EQ(Disk.Read("file"), "text");
-  EXPECT_EQ(Disk.Count(), 2);
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile(longName, "new"); }), FailureKind::FileAccess);
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile(std::string("file\0cut", 8), "new"); }), FailureKind::FileAccess);
+  EXPECT_EQ(Temp.Read("file"), "text");
+  EXPECT_EQ(Temp.Count(), 2);
 }
-
-TEST_F(FoldersTest, AFullDiskFails) {
-  EXPECT_EQ(FailureOf([] { Folders::WriteFile("\\dev\\full", "text"); }), FailureKind::FileAccess);
-}
-
-/// Lets no file grow beyond a size, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) : handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit limit{size, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, handler);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit former{};
-  void (*handler)(int);
-};
 
 TEST_F(FoldersTest, ADiskThatIsFullHalfWayLeavesTheFormerFile) {
-  Disk.Write("BOX.ZRM", "FORMER");
+  Temp.Write("BOX.ZRM", "FORMER");
   std::optional<FailureKind> failure;
   {
     const FullDisk full(10000);
-    failure = FailureOf([] { Folders::WriteFile("BOX.ZRM", std::string(100000, 'A')); });
+    failure = FailureOf([&] { folders.WriteFile("BOX.ZRM", std::string(100000, 'A')); });
   }
   EXPECT_EQ(failure, FailureKind::FileAccess);
-  EXPECT_EQ(Disk.Read("BOX.ZRM"), "FORMER");
-  EXPECT_EQ(Disk.Count(), 1);
+  EXPECT_EQ(Temp.Read("BOX.ZRM"), "FORMER");
+  EXPECT_EQ(Temp.Count(), 1);
 }
 
-TEST_F(FoldersTest, ADeviceIsWrittenThrough) {
-  Folders::WriteFile("\\dev\\null", "text");
+TEST_F(FoldersTest, ADeviceIsNotWritten) {
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile("\\dev\\null", "text"); }), FailureKind::FileAccess);
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+TEST_F(FoldersTest, APipeIsNotWritten) {
+  ASSERT_EQ(mkfifo((Temp.Path / "PIPE.ZRM").c_str(), 0600), 0);
+  EXPECT_EQ(FailureOf([&] { folders.WriteFile("PIPE.ZRM", "text"); }), FailureKind::FileAccess);
+  EXPECT_TRUE(fs::is_fifo(Temp.Path / "PIPE.ZRM"));
+}
+
+TEST_F(FoldersTest, NothingThatAProgramInTheFolderNeedsIsWritten) {
+  Temp.Write("zerimo", "program");
+  for (const char* name : {"qt.conf", "QT.CONF", "platforms", "Plugins", "zmhelp", "zerimo", "ZERIMO-BATCH",
+                           "libQt6Core.so.6", "qt6core.dll", ".\\qt.conf"}) {
+    EXPECT_EQ(FailureOf([&] { folders.WriteFile(name, "new"); }), FailureKind::FileAccess) << name;
+  }
+  EXPECT_EQ(Temp.Read("zerimo"), "program");
+  EXPECT_EQ(Temp.Count(), 1);
+  folders.WriteFile("QT.ZRM", "text");
+  Temp.MakeFolder("elsewhere");
+  folders.WriteFile("elsewhere\\qt.conf", "text");
+  EXPECT_TRUE(Temp.Has("QT.ZRM") && Temp.Has("elsewhere/qt.conf"));
+}
+
 TEST_F(FoldersTest, ListsFilesSortedWithoutFoldersAndHiddenOnes) {
-  for (const char* name : {"pages/RT", "pages/fd", "pages/BK", "pages/.hidden", "pages/sub/X"}) Disk.Write(name, "");
-  EXPECT_EQ(Folders::FilesIn("PAGES\\"), (Texts{"BK", "fd", "RT"}));
+  for (const char* name : {"pages/RT", "pages/fd", "pages/BK", "pages/.hidden", "pages/sub/X"}) Temp.Write(name, "");
+  EXPECT_EQ(folders.FilesIn("PAGES\\"), (Texts{"BK", "fd", "RT"}));
 }
 
 TEST_F(FoldersTest, ListingAMissingFolderFails) {
-  Disk.Write("file", "");
-  EXPECT_EQ(FailureOf([] { Folders::FilesIn("missing\\"); }), FailureKind::FileNotFound);
-  EXPECT_EQ(FailureOf([] { Folders::FilesIn("file"); }), FailureKind::FileNotFound);
+  Temp.Write("file", "");
+  EXPECT_EQ(FailureOf([&] { folders.FilesIn("missing\\"); }), FailureKind::FileNotFound);
+  EXPECT_EQ(FailureOf([&] { folders.FilesIn("file"); }), FailureKind::FileNotFound);
 }
 
 TEST(Folders, HasFolderLooksForABackslash) {

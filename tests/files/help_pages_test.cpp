@@ -8,7 +8,7 @@ namespace {
 
 class HelpPagesTest : public FilesTest {
  protected:
-  void Page(const std::string& name, const std::string& bytes) { Disk.Write("work/ZMHELP/" + name, bytes); }
+  void Page(const std::string& name, const std::string& bytes) { Temp.Write("work/ZMHELP/" + name, bytes); }
 
   RichTextView& View() { return controls.RichTextBox1; }
   bool IsOpen() { return View().Visible() && controls.File1.Visible(); }
@@ -97,7 +97,7 @@ TEST_F(HelpPagesTest, HelpListsThePages) {
 }
 
 TEST_F(HelpPagesTest, PagesStandInTheCurrentFolder) {
-  Disk.Write("app/ZMHELP/FD", "Forward");
+  Temp.Write("app/ZMHELP/FD", "Forward");
   dispatch.Execute("HELP FD");
   EXPECT_EQ(services.Boxes, (std::vector{NotAvailable("FD")}));
 }
@@ -176,7 +176,7 @@ TEST_F(HelpPagesTest, F11SavesThePageUnderTheAnswerAsItStands) {
   View().Document = "{\\rtf1 page}";
   services.InputAnswers = {"MINE"};
   helpPages.SavePage();
-  EXPECT_EQ(Disk.Read("work/MINE"), "{\\rtf1 page}\r\n");
+  EXPECT_EQ(Temp.Read("work/MINE"), "{\\rtf1 page}\r\n");
 }
 
 TEST_F(HelpPagesTest, F11WithAnEmptyAnswerFails) {

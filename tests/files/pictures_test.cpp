@@ -17,25 +17,25 @@ class PicturesTest : public FilesTest {
 
 TEST_F(PicturesTest, SavePictureWritesABitmapInAppFolder) {
   dispatch.Execute("SAVEPICTURE PIC");
-  EXPECT_TRUE(Disk.Has("app/PIC.Bmp"));
+  EXPECT_TRUE(Temp.Has("app/PIC.Bmp"));
 }
 
 TEST_F(PicturesTest, SavePictureUsesAFileInAnotherCase) {
-  Disk.Write("app/pic.bmp", "former");
+  Temp.Write("app/pic.bmp", "former");
   dispatch.Execute("SAVEPICTURE PIC");
-  EXPECT_EQ(Disk.Count("app"), 1);
+  EXPECT_EQ(Temp.Count("app"), 1);
 }
 
 TEST_F(PicturesTest, SavePictureWithAFolderFailsInSilence) {
   dispatch.Execute("SAVEPICTURE C:\\X\\PIC");
   EXPECT_TRUE(services.Boxes.empty());
-  EXPECT_EQ(Disk.Count("app"), 0);
+  EXPECT_EQ(Temp.Count("app"), 0);
 }
 
 TEST_F(PicturesTest, SavePicturePutsAppFolderInFrontOfAFolderToo) {
-  Disk.MakeFolder("app/X");
+  Temp.MakeFolder("app/X");
   dispatch.Execute("SAVEPICTURE X\\PIC");
-  EXPECT_TRUE(Disk.Has("app/X/PIC.Bmp"));
+  EXPECT_TRUE(Temp.Has("app/X/PIC.Bmp"));
 }
 
 TEST_F(PicturesTest, AMissingInputIsTold) {
@@ -44,31 +44,31 @@ TEST_F(PicturesTest, AMissingInputIsTold) {
     dispatch.Execute(word);
     EXPECT_EQ(services.Boxes, (std::vector{ShownBox{"Required Paramiter Missing After " + word, 2, "Zerimo"}}));
   }
-  EXPECT_EQ(Disk.Count("app"), 0);
+  EXPECT_EQ(Temp.Count("app"), 0);
   EXPECT_TRUE(Loaded.Paths.empty());
 }
 
 TEST_F(PicturesTest, LoadPictureTriesAllEndingsAndTheLastStays) {
-  for (const char* name : {"app/A.JPG", "app/A.BMP", "app/A.GIF", "app/A.ICO", "app/A.CUR"}) Disk.Write(name, "x");
+  for (const char* name : {"app/A.JPG", "app/A.BMP", "app/A.GIF", "app/A.ICO", "app/A.CUR"}) Temp.Write(name, "x");
   dispatch.Execute("LOADPICTURE A");
   EXPECT_EQ(Loaded.Paths, (Texts{InApp("A.CUR"), InApp("A.ICO"), InApp("A.GIF"), InApp("A.BMP"), InApp("A.JPG")}));
 }
 
 TEST_F(PicturesTest, OfBmpAndJpgTheJpgStays) {
-  Disk.Write("app/A.BMP", "x");
-  Disk.Write("app/A.JPG", "x");
+  Temp.Write("app/A.BMP", "x");
+  Temp.Write("app/A.JPG", "x");
   dispatch.Execute("LOADPICTURE A");
   EXPECT_EQ(Loaded.Paths.back(), InApp("A.JPG"));
 }
 
 TEST_F(PicturesTest, LoadPictureFindsSmallNames) {
-  Disk.Write("app/sea.bmp", "x");
+  Temp.Write("app/sea.bmp", "x");
   dispatch.Execute("LOADPICTURE SEA");
   EXPECT_EQ(Loaded.Paths, (Texts{InApp("SEA.BMP")}));
 }
 
 TEST_F(PicturesTest, LoadPictureWithAFolderDoesNotUseAppFolder) {
-  Disk.Write("work/X/A.GIF", "x");
+  Temp.Write("work/X/A.GIF", "x");
   dispatch.Execute("LOADPICTURE X\\A");
   EXPECT_EQ(Loaded.Paths, (Texts{"X\\A.GIF"}));
 }
@@ -80,14 +80,14 @@ TEST_F(PicturesTest, AMissingPictureIsSilent) {
 }
 
 TEST_F(PicturesTest, NoneIsANameLikeAnyOther) {
-  Disk.Write("app/NONE.BMP", "x");
+  Temp.Write("app/NONE.BMP", "x");
   dispatch.Execute("LOADPICTURE NONE");
   EXPECT_EQ(Loaded.Paths, (Texts{InApp("NONE.BMP")}));
 }
 
 TEST_F(PicturesTest, AFolderOrAPipeIsNoPicture) {
-  Disk.MakeFolder("app/A.JPG");
-  ASSERT_EQ(mkfifo((Disk.Path / "app/A.BMP").c_str(), 0600), 0);
+  Temp.MakeFolder("app/A.JPG");
+  ASSERT_EQ(mkfifo((Temp.Path / "app/A.BMP").c_str(), 0600), 0);
   dispatch.Execute("LOADPICTURE A");
   EXPECT_TRUE(Loaded.Paths.empty());
 }
@@ -142,8 +142,8 @@ TEST_F(PicturesTest, SlideShowNeedsTwoWords) {
 }
 
 TEST_F(PicturesTest, AShowEndsAtTheFirstMissingNumber) {
-  Disk.Write("app/TRIP1.JPG", "x");
-  Disk.Write("app/trip2.jpg", "x");
+  Temp.Write("app/TRIP1.JPG", "x");
+  Temp.Write("app/trip2.jpg", "x");
   dispatch.Execute("SLIDESHOW TRIP 1000");
   Tick(2);
   EXPECT_EQ(Loaded.Paths.size(), 2U);
@@ -157,7 +157,7 @@ TEST_F(PicturesTest, AShowEndsAtTheFirstMissingNumber) {
 }
 
 TEST_F(PicturesTest, TheNextShowBeginsAt1Again) {
-  Disk.Write("app/TRIP1.JPG", "x");
+  Temp.Write("app/TRIP1.JPG", "x");
   dispatch.Execute("SLIDESHOW TRIP 1000");
   Tick(2);
   dispatch.Execute("SLIDESHOW TRIP 1000");
@@ -172,8 +172,8 @@ TEST_F(PicturesTest, TheNameOfASlideIsInCapitals) {
 }
 
 TEST_F(PicturesTest, ASecondShowKeepsTheCounter) {
-  Disk.Write("app/TRIP1.JPG", "x");
-  Disk.Write("app/SEA2.JPG", "x");
+  Temp.Write("app/TRIP1.JPG", "x");
+  Temp.Write("app/SEA2.JPG", "x");
   dispatch.Execute("SLIDESHOW TRIP 1000");
   Tick(1);
   dispatch.Execute("SLIDESHOW SEA 500");

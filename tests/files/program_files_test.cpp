@@ -18,19 +18,19 @@ class ProgramFilesTest : public FilesTest {
 };
 
 TEST_F(ProgramFilesTest, ALoadFillsTheStore) {
-  Disk.Write("app/BOX.ZRM", "TO BOX\r\n\r\nFD 10\r\n\r\n\r\nEND\r\n");
+  Temp.Write("app/BOX.ZRM", "TO BOX\r\n\r\nFD 10\r\n\r\n\r\nEND\r\n");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"TO BOX", "FD 10", "END"}));
 }
 
 TEST_F(ProgramFilesTest, TheCountStandsOneBehindTheLastLine) {
-  Disk.Write("app/BOX.ZRM", "TO BOX\r\nEND\r\n");
+  Temp.Write("app/BOX.ZRM", "TO BOX\r\nEND\r\n");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(store.FileDataCount, 3);
 }
 
 TEST_F(ProgramFilesTest, TheCountStandsOnTheLastLineWithoutALineEnd) {
-  Disk.Write("app/BOX.ZRM", "TO BOX\r\nEND");
+  Temp.Write("app/BOX.ZRM", "TO BOX\r\nEND");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(store.FileDataCount, 2);
 }
@@ -38,7 +38,7 @@ TEST_F(ProgramFilesTest, TheCountStandsOnTheLastLineWithoutALineEnd) {
 TEST_F(ProgramFilesTest, ALoadGivesTheEditorTheVeryBytes) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
-  Disk.Write("app/ALL.ZRM", all);
+  Temp.Write("app/ALL.ZRM", all);
   dispatch.Execute("LOAD ALL");
   EXPECT_EQ(controls.Text2.Text, all);
   EXPECT_EQ(programFiles.LoadedText, all);
@@ -51,19 +51,19 @@ TEST_F(ProgramFilesTest, OfEveryByteValueOnlyThePrintableOnesReachTheStore) {
   }
   std::string kept;
   for (int code = 126; code > 32; --code) kept += static_cast<char>(code);
-  Disk.Write("app/ALL.ZRM", all);
+  Temp.Write("app/ALL.ZRM", all);
   dispatch.Execute("LOAD ALL");
   EXPECT_EQ(Program(), (Texts{kept}));
 }
 
 TEST_F(ProgramFilesTest, ATypedNameFindsASmallOne) {
-  Disk.Write("app/box.zrm", "FD 10");
+  Temp.Write("app/box.zrm", "FD 10");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"FD 10"}));
 }
 
 TEST_F(ProgramFilesTest, NamesWithDotsBlanksAndUmlauts) {
-  Disk.Write(
+  Temp.Write(
       "app/1. \xC3\x9C"
       "bung.zrm",
       "FD 10");
@@ -74,13 +74,13 @@ TEST_F(ProgramFilesTest, NamesWithDotsBlanksAndUmlauts) {
 }
 
 TEST_F(ProgramFilesTest, SmallLettersStay) {
-  Disk.Write("app/BOX.ZRM", "to box\r\nfd 10\r\nend");
+  Temp.Write("app/BOX.ZRM", "to box\r\nfd 10\r\nend");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(Program(), (Texts{"to box", "fd 10", "end"}));
 }
 
 TEST_F(ProgramFilesTest, ALoadAddsBehindWhatIsThere) {
-  Disk.Write("app/A.ZRM", "FD 1\r\n");
+  Temp.Write("app/A.ZRM", "FD 1\r\n");
   dispatch.Execute("LOAD A");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"FD 1", "FD 1"}));
@@ -88,21 +88,21 @@ TEST_F(ProgramFilesTest, ALoadAddsBehindWhatIsThere) {
 }
 
 TEST_F(ProgramFilesTest, NoLineEndIsPutBetweenTwoLoads) {
-  Disk.Write("app/A.ZRM", "FD 1");
+  Temp.Write("app/A.ZRM", "FD 1");
   controls.Text2.Text = "BK 1";
   dispatch.Execute("LOAD A");
   EXPECT_EQ(controls.Text2.Text, "BK 1FD 1");
 }
 
 TEST_F(ProgramFilesTest, ANameWithAFolderDoesNotUseAppFolder) {
-  Disk.Write("work/X/A.ZRM", "FD 1");
+  Temp.Write("work/X/A.ZRM", "FD 1");
   dispatch.Execute("LOAD X\\A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
 TEST_F(ProgramFilesTest, ADriveLetterDoesNotUseAppFolder) {
-  Disk.Write("x/a.zrm", "FD 1");
-  dispatch.Execute("LOAD C:" + Disk.Path.string() + "\\X\\A");
+  Temp.Write("x/a.zrm", "FD 1");
+  dispatch.Execute("LOAD C:" + Temp.Path.string() + "\\X\\A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
@@ -117,7 +117,7 @@ TEST_F(ProgramFilesTest, CurrentFileNameKeepsItsFolder) {
 }
 
 TEST_F(ProgramFilesTest, ABlankInFrontOfTheNameIsPartOfIt) {
-  Disk.Write("app/BOX.ZRM", "FD 1");
+  Temp.Write("app/BOX.ZRM", "FD 1");
   dispatch.Execute("LOAD  BOX");
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp(" BOX.ZRM"))}));
 }
@@ -144,7 +144,7 @@ TEST_F(ProgramFilesTest, AMissingFileIsTold) {
 }
 
 TEST_F(ProgramFilesTest, AFolderOfThatNameIsTold) {
-  Disk.MakeFolder("app/BOX.ZRM");
+  Temp.MakeFolder("app/BOX.ZRM");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("BOX.ZRM"))}));
 }
@@ -181,25 +181,25 @@ TEST_F(ProgramFilesTest, RepeatsAreLoweredAlsoWhenTheFileIsMissing) {
 }
 
 TEST_F(ProgramFilesTest, GlobalsOfTheFileAreMade) {
-  Disk.Write("app/A.ZRM", "MAKE \"A 5\r\nTO BOX\r\nEND");
+  Temp.Write("app/A.ZRM", "MAKE \"A 5\r\nTO BOX\r\nEND");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(variables.Slot(1), "\"A=5");
 }
 
 TEST_F(ProgramFilesTest, RepeatsOfTheFileAreLowered) {
-  Disk.Write("app/A.ZRM", "REPEAT 2 [FD 1]");
+  Temp.Write("app/A.ZRM", "REPEAT 2 [FD 1]");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=2", "GOTO $", "ENDIF"}));
 }
 
 TEST_F(ProgramFilesTest, ALoopWithBlanksAsItsWriterMeant) {
-  Disk.Write("app/A.ZRM", "REPEAT 4 [ FD 10 RT 90 ]");
+  Temp.Write("app/A.ZRM", "REPEAT 4 [ FD 10 RT 90 ]");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"MAKE # 1", "LABEL $", "FD 10", "RT 90", "MAKE # #+1", "IF #<=4", "GOTO $", "ENDIF"}));
 }
 
 TEST_F(ProgramFilesTest, ALoadListsTheStore) {
-  Disk.Write("app/A.ZRM", " TO BOX \r\nEND\r\n");
+  Temp.Write("app/A.ZRM", " TO BOX \r\nEND\r\n");
   controls.List1.Add("FORMER");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Listed(controls.List1), (Texts{" 1  TO BOX", " 2  END"}));
@@ -207,26 +207,26 @@ TEST_F(ProgramFilesTest, ALoadListsTheStore) {
 }
 
 TEST_F(ProgramFilesTest, LinesAreTrimmedInTheStore) {
-  Disk.Write("app/A.ZRM", "  FD 10  \r\n");
+  Temp.Write("app/A.ZRM", "  FD 10  \r\n");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(store.Line(1), "FD 10");
 }
 
 TEST_F(ProgramFilesTest, ALineOfBlanksEndsTheProgram) {
-  Disk.Write("app/A.ZRM", "FD 1\r\n   \r\nTO BOX\r\nEND\r\n");
+  Temp.Write("app/A.ZRM", "FD 1\r\n   \r\nTO BOX\r\nEND\r\n");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
   EXPECT_EQ(store.Line(3), "TO BOX");
 }
 
 TEST_F(ProgramFilesTest, ALineOfBlanksIsListedAndTheListingGoesOn) {
-  Disk.Write("app/A.ZRM", "FD 1\r\n   \r\nFD 3\r\n");
+  Temp.Write("app/A.ZRM", "FD 1\r\n   \r\nFD 3\r\n");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(Listed(controls.List1), (Texts{" 1  FD 1", " 2  ", " 3  FD 3"}));
 }
 
 TEST_F(ProgramFilesTest, WhatStandsBehindALineOfBlanksCanNotBeReached) {
-  Disk.Write("app/A.ZRM", "TO A\r\nEND\r\n   \r\nTO B\r\nEND\r\n");
+  Temp.Write("app/A.ZRM", "TO A\r\nEND\r\n   \r\nTO B\r\nEND\r\n");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(store.WhereProcedure("A"), 1);
   EXPECT_EQ(store.WhereProcedure("B"), 0);
@@ -235,21 +235,21 @@ TEST_F(ProgramFilesTest, WhatStandsBehindALineOfBlanksCanNotBeReached) {
 }
 
 TEST_F(ProgramFilesTest, A1999LineProgramLoads) {
-  Disk.Write("app/A.ZRM", Statements(1999));
+  Temp.Write("app/A.ZRM", Statements(1999));
   dispatch.Execute("LOAD A");
   EXPECT_TRUE(services.Boxes.empty());
   EXPECT_EQ(Listed(controls.List1).size(), 1999U);
 }
 
 TEST_F(ProgramFilesTest, TheSearchForAnEmptyLineFailsInAFullStore) {
-  Disk.Write("app/A.ZRM", Statements(2000));
+  Temp.Write("app/A.ZRM", Statements(2000));
   dispatch.Execute("LOAD A");
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("A.ZRM"))}));
   EXPECT_EQ(store.Line(2000), "FD 1");
 }
 
 TEST_F(ProgramFilesTest, Line2001IsTold) {
-  Disk.Write("app/A.ZRM", Statements(2001));
+  Temp.Write("app/A.ZRM", Statements(2001));
   controls.List1.Add("FORMER");
   controls.List3.Add("FORMER");
   dispatch.Execute("LOAD A");
@@ -265,20 +265,20 @@ TEST_F(ProgramFilesTest, MakeArrayLeavesWithItsFailure) {
 }
 
 TEST_F(ProgramFilesTest, MakeArrayLeavesTheEditorAlone) {
-  Disk.Write("work/A.ZRM", "FD 1");
+  Temp.Write("work/A.ZRM", "FD 1");
   programFiles.MakeArray("A.ZRM");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
   EXPECT_EQ(controls.Text2.Text, "");
 }
 
 TEST_F(ProgramFilesTest, FileLoadTrimsThePath) {
-  Disk.Write("work/A.ZRM", "FD 1");
+  Temp.Write("work/A.ZRM", "FD 1");
   programFiles.FileLoad("  A");
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
 }
 
 TEST_F(ProgramFilesTest, ShowOpenLoadsAProgram) {
-  Disk.Write("work/sub/Box.zrm", "FD 1");
+  Temp.Write("work/sub/Box.zrm", "FD 1");
   services.OpenAnswers = {" sub\\Box.zrm "};
   programFiles.ShowOpen();
   EXPECT_EQ(Program(), (Texts{"FD 1"}));
@@ -308,7 +308,7 @@ TEST_F(ProgramFilesTest, ShowOpenRefusesOtherFiles) {
 }
 
 TEST_F(ProgramFilesTest, ShowOpenShowsAPicture) {
-  Disk.Write("work/sub/Sea.jpg", "picture");
+  Temp.Write("work/sub/Sea.jpg", "picture");
   services.OpenAnswers = {"sub\\Sea.jpg"};
   programFiles.ShowOpen();
   EXPECT_EQ(Loaded.Paths, (Texts{"sub\\Sea.jpg"}));

@@ -19,52 +19,52 @@ TEST_F(SavingTest, ShowSaveAsAppendsTheEnding) {
   Write("FD 10");
   services.SaveAnswers = {"A"};
   saving.ShowSaveAs();
-  EXPECT_EQ(Disk.Read("work/A.ZRM"), "FD 10\r\n");
+  EXPECT_EQ(Temp.Read("work/A.ZRM"), "FD 10\r\n");
 }
 
 TEST_F(SavingTest, ShowSaveAsKeepsAnotherEnding) {
   Write("FD 10");
   services.SaveAnswers = {"A.TXT"};
   saving.ShowSaveAs();
-  EXPECT_EQ(Disk.Read("work/A.TXT"), "FD 10\r\n");
+  EXPECT_EQ(Temp.Read("work/A.TXT"), "FD 10\r\n");
 }
 
 TEST_F(SavingTest, AFullStopInAFolderCountsAsAnEnding) {
-  Disk.MakeFolder("work/V1.0");
+  Temp.MakeFolder("work/V1.0");
   Write("FD 10");
   services.SaveAnswers = {"C:V1.0\\A"};
   saving.ShowSaveAs();
-  EXPECT_EQ(Disk.Read("work/V1.0/A"), "FD 10\r\n");
+  EXPECT_EQ(Temp.Read("work/V1.0/A"), "FD 10\r\n");
 }
 
 TEST_F(SavingTest, ShowSaveAsWithoutANameStops) {
   Write("FD 10");
   services.SaveAnswers = {"   "};
   saving.ShowSaveAs();
-  EXPECT_EQ(Disk.Count("work"), 0);
+  EXPECT_EQ(Temp.Count("work"), 0);
 }
 
 TEST_F(SavingTest, ShowSaveAsDoesNotTrimTheName) {
   Write("FD 10");
   services.SaveAnswers = {" A "};
   saving.ShowSaveAs();
-  EXPECT_TRUE(Disk.Has("work/ A .ZRM"));
+  EXPECT_TRUE(Temp.Has("work/ A .ZRM"));
 }
 
 TEST_F(SavingTest, ShowSaveAsPassesOverAFailure) {
-  Disk.MakeFolder("work/A.ZRM");
+  Temp.MakeFolder("work/A.ZRM");
   for (const char* name : {"A", "missing\\A"}) {
     services.SaveAnswers = {name};
     EXPECT_NO_THROW(saving.ShowSaveAs()) << name;
   }
   EXPECT_TRUE(services.Boxes.empty());
-  EXPECT_EQ(Disk.Count("work"), 1);
+  EXPECT_EQ(Temp.Count("work"), 1);
 }
 
 TEST_F(SavingTest, SaveAsWritesTheFilteredText) {
   Write("  fd   10 + 5\r\n\r\n\r\nbk [ 10 ]  ");
   saving.SaveAs("A.ZRM");
-  EXPECT_EQ(Disk.Read("work/A.ZRM"), "fd 10+5\r\n\r\n\r\nbk[10]\r\n");
+  EXPECT_EQ(Temp.Read("work/A.ZRM"), "fd 10+5\r\n\r\n\r\nbk[10]\r\n");
 }
 
 TEST_F(SavingTest, SaveAsLeavesTheEditorAlone) {
@@ -74,30 +74,30 @@ TEST_F(SavingTest, SaveAsLeavesTheEditorAlone) {
 }
 
 TEST_F(SavingTest, SaveAsReplacesAFileWithoutAQuestion) {
-  Disk.Write("work/a.zrm", "a much longer former text");
+  Temp.Write("work/a.zrm", "a much longer former text");
   Write("FD 10");
   saving.SaveAs("A.ZRM");
-  EXPECT_EQ(Disk.Read("work/a.zrm"), "FD 10\r\n");
+  EXPECT_EQ(Temp.Read("work/a.zrm"), "FD 10\r\n");
   EXPECT_TRUE(services.Boxes.empty());
 }
 
 TEST_F(SavingTest, SaveAsFailsWhereItCanNotWrite) {
-  Disk.MakeFolder("work/A.ZRM");
+  Temp.MakeFolder("work/A.ZRM");
   EXPECT_EQ(FailureOf([&] { saving.SaveAs("A.ZRM"); }), FailureKind::FileAccess);
   EXPECT_EQ(FailureOf([&] { saving.SaveAs("\\dev\\full"); }), FailureKind::FileAccess);
 }
 
 TEST_F(SavingTest, ATextThatIsTooLongLeavesTheFormerFile) {
-  Disk.Write("work/A.ZRM", "FORMER");
+  Temp.Write("work/A.ZRM", "FORMER");
   Write(std::string(32767, 'A'));
   EXPECT_EQ(FailureOf([&] { saving.SaveAs("A.ZRM"); }), FailureKind::Overflow);
-  EXPECT_EQ(Disk.Read("work/A.ZRM"), "FORMER");
+  EXPECT_EQ(Temp.Read("work/A.ZRM"), "FORMER");
 }
 
 TEST_F(SavingTest, ATextOf32766CharactersIsSaved) {
   Write(std::string(32766, 'A'));
   saving.SaveAs("A.ZRM");
-  EXPECT_EQ(Disk.Read("work/A.ZRM").size(), 32768U);
+  EXPECT_EQ(Temp.Read("work/A.ZRM").size(), 32768U);
 }
 
 TEST_F(SavingTest, F10AsksWithTheCurrentFileName) {
@@ -110,16 +110,16 @@ TEST_F(SavingTest, F10AsksWithTheCurrentFileName) {
 }
 
 TEST_F(SavingTest, F10SavesInTheCurrentFolder) {
-  Disk.Write("app/PROG.ZRM", "fd 10");
+  Temp.Write("app/PROG.ZRM", "fd 10");
   dispatch.Execute("LOAD PROG");
   services.InputAnswers = {"PROG"};
   saving.SaveFromEditor();
-  EXPECT_EQ(Disk.Read("work/PROG.ZRM"), "fd 10\r\n");
-  EXPECT_EQ(Disk.Read("app/PROG.ZRM"), "fd 10");
+  EXPECT_EQ(Temp.Read("work/PROG.ZRM"), "fd 10\r\n");
+  EXPECT_EQ(Temp.Read("app/PROG.ZRM"), "fd 10");
 }
 
 TEST_F(SavingTest, BehindTheOpenDialogF10OffersTheWholePath) {
-  Disk.Write("x/Box.zrm", "fd 10");
+  Temp.Write("x/Box.zrm", "fd 10");
   services.OpenAnswers = {"..\\x\\Box.zrm"};
   programFiles.ShowOpen();
   saving.SaveFromEditor();
@@ -130,13 +130,13 @@ TEST_F(SavingTest, BehindTheOpenDialogF10OffersTheWholePath) {
 TEST_F(SavingTest, F10AlwaysAppendsTheEnding) {
   services.InputAnswers = {"A.ZRM"};
   saving.SaveFromEditor();
-  EXPECT_TRUE(Disk.Has("work/A.ZRM.ZRM"));
+  EXPECT_TRUE(Temp.Has("work/A.ZRM.ZRM"));
 }
 
 TEST_F(SavingTest, F10WithAnEmptyAnswerWritesTheBareEnding) {
   Write("FD 10");
   saving.SaveFromEditor();
-  EXPECT_EQ(Disk.Read("work/.ZRM"), "FD 10\r\n");
+  EXPECT_EQ(Temp.Read("work/.ZRM"), "FD 10\r\n");
 }
 
 TEST_F(SavingTest, F10FailsWhereItCanNotWrite) {
@@ -157,7 +157,7 @@ TEST_F(SavingTest, TheWordSaveDoesNothing) {
   Write("FD 10");
   dispatch.Execute("SAVE X");
   EXPECT_TRUE(services.Boxes.empty());
-  EXPECT_EQ(Disk.Count("work"), 0);
+  EXPECT_EQ(Temp.Count("work"), 0);
 }
 
 TEST_F(SavingTest, ShowProcedureShowsTheProcedures) {
@@ -174,25 +174,45 @@ TEST_F(SavingTest, ShowProcedureInAFullStoreShowsNothing) {
 
 TEST_F(SavingTest, TheEditorsTextIsRescuedAsItStands) {
   Write("  fd   10\r\n");
-  EXPECT_TRUE(saving.RescueEditorText(folders));
-  EXPECT_EQ(Disk.Read("app/Rescued.ZRM"), "  fd   10\r\n");
+  EXPECT_TRUE(saving.RescueEditorText());
+  EXPECT_EQ(Temp.Read("app/Rescued.ZRM"), "  fd   10\r\n");
 }
 
 TEST_F(SavingTest, ATextBeyondTheFilterIsRescued) {
   Write(std::string(40000, 'A'));
-  EXPECT_TRUE(saving.RescueEditorText(folders));
-  EXPECT_EQ(Disk.Read("app/Rescued.ZRM").size(), 40000U);
+  EXPECT_TRUE(saving.RescueEditorText());
+  EXPECT_EQ(Temp.Read("app/Rescued.ZRM").size(), 40000U);
 }
 
 TEST_F(SavingTest, AnEmptyEditorNeedsNoRescue) {
-  EXPECT_FALSE(saving.RescueEditorText(folders));
-  EXPECT_EQ(Disk.Count("app"), 0);
+  EXPECT_FALSE(saving.RescueEditorText());
+  EXPECT_EQ(Temp.Count("app"), 0);
 }
 
 TEST_F(SavingTest, ARescueThatFailsIsTold) {
   Write("FD 10");
-  Disk.MakeFolder("app/Rescued.ZRM");
-  EXPECT_FALSE(saving.RescueEditorText(folders));
+  Temp.MakeFolder("app/Rescued.ZRM");
+  EXPECT_FALSE(saving.RescueEditorText());
+}
+
+TEST_F(SavingTest, ARescueThatFailsInTheFirstFolderGoesToTheNext) {
+  Write("FD 10");
+  Temp.MakeFolder("app/Rescued.ZRM");
+  Temp.Write("no-folder", "");
+  const std::filesystem::path state = Temp.Path / "state/zerimo";
+  EXPECT_EQ(saving.RescueEditorText({Temp.Path / "no-folder", state, Temp.Path / "other"}), state / "Rescued.ZRM");
+  EXPECT_EQ(Temp.Read("state/zerimo/Rescued.ZRM"), "FD 10");
+  EXPECT_EQ(std::filesystem::status(state).permissions(), std::filesystem::perms::owner_all);
+  EXPECT_FALSE(Temp.Has("other"));
+}
+
+TEST_F(SavingTest, ARescueAmongTheTemporaryFilesHasAFolderOfItsOwn) {
+  const auto folders = FoldersForRescue("/state", "/tmp");
+  ASSERT_EQ(folders.size(), 2U);
+  EXPECT_EQ(folders[0], "/state");
+  EXPECT_EQ(folders[1].parent_path(), "/tmp");
+  EXPECT_NE(folders[1], FoldersForRescue("/state", "/tmp")[1]);
+  EXPECT_TRUE(FoldersForRescue({}, {}).empty());
 }
 
 }  // namespace

@@ -14,102 +14,102 @@ namespace fs = std::filesystem;
 class StartFolderTest : public ::testing::Test {
  protected:
   StartFolderTest() {
-    Disk.MakeFolder("bin");
-    around.ProgramFolder = Disk.Path / "bin";
+    Temp.MakeFolder("bin");
+    around.ProgramFolder = Temp.Path / "bin";
     around.CanWriteIntoProgramFolder = true;
-    around.ShareFolder = Disk.Path / "share";
-    around.DocumentsFolder = Disk.Path / "documents";
+    around.ShareFolder = Temp.Path / "share";
+    around.DocumentsFolder = Temp.Path / "documents";
   }
 
   void GiveFilesTo(const std::string& folder) const {
-    Disk.Write(folder + "/FLOWER.ZRM", "flower");
-    Disk.Write(folder + "/ZMHELP/FD", "page");
+    Temp.Write(folder + "/FLOWER.ZRM", "flower");
+    Temp.Write(folder + "/ZMHELP/FD", "page");
   }
 
-  TempFolder Disk;
+  TempFolder Temp;
   Surroundings around;
 };
 
 TEST_F(StartFolderTest, APortableProgramWorksInItsOwnFolder) {
   GiveFilesTo("bin");
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "bin");
+  EXPECT_EQ(start.Folder, Temp.Path / "bin");
   EXPECT_FALSE(start.IsCurrentFolder);
   EXPECT_TRUE(start.Unusable.empty());
-  EXPECT_FALSE(Disk.Has("documents"));
+  EXPECT_FALSE(Temp.Has("documents"));
 }
 
 TEST_F(StartFolderTest, APortableProgramTakesNoNoticeOfAnInstalledOne) {
   GiveFilesTo("bin");
   GiveFilesTo("share");
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Disk.Path / "bin");
+  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "bin");
 }
 
 TEST_F(StartFolderTest, AProgramWithNothingAroundItWorksInItsOwnFolder) {
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Disk.Path / "bin");
+  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "bin");
 }
 
 TEST_F(StartFolderTest, AnInstalledProgramWorksInTheDocuments) {
   GiveFilesTo("share");
   around.CanWriteIntoProgramFolder = false;
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "documents/Zerimo");
+  EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_TRUE(start.IsCurrentFolder);
   EXPECT_TRUE(start.Unusable.empty());
-  EXPECT_EQ(Disk.Read("documents/Zerimo/FLOWER.ZRM"), "flower");
-  EXPECT_EQ(Disk.Read("documents/Zerimo/ZMHELP/FD"), "page");
+  EXPECT_EQ(Temp.Read("documents/Zerimo/FLOWER.ZRM"), "flower");
+  EXPECT_EQ(Temp.Read("documents/Zerimo/ZMHELP/FD"), "page");
 }
 
 TEST_F(StartFolderTest, AnInstalledProgramWorksInTheDocumentsAlsoForOneWhoMayWriteEverywhere) {
   GiveFilesTo("share");
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Disk.Path / "documents/Zerimo");
+  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "documents/Zerimo");
 }
 
 TEST_F(StartFolderTest, APortableProgramThatCanNotBeWrittenWorksInTheDocuments) {
   GiveFilesTo("bin");
   around.CanWriteIntoProgramFolder = false;
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "documents/Zerimo");
-  EXPECT_EQ(Disk.Read("documents/Zerimo/FLOWER.ZRM"), "flower");
+  EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
+  EXPECT_EQ(Temp.Read("documents/Zerimo/FLOWER.ZRM"), "flower");
 }
 
 TEST_F(StartFolderTest, NothingToFillTheFolderFromLeavesItEmpty) {
   around.CanWriteIntoProgramFolder = false;
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "documents/Zerimo");
+  EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_TRUE(start.Unusable.empty());
-  EXPECT_EQ(Disk.Count("documents/Zerimo"), 0);
+  EXPECT_EQ(Temp.Count("documents/Zerimo"), 0);
 }
 
 TEST_F(StartFolderTest, ADocumentsFolderMayHaveBlanksAndUmlautsInItsName) {
   GiveFilesTo("share");
-  around.DocumentsFolder = Disk.Path / u8"Jörg Müller" / u8"Eigene Öfen";
+  around.DocumentsFolder = Temp.Path / u8"Jörg Müller" / u8"Eigene Öfen";
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / u8"Jörg Müller" / u8"Eigene Öfen" / "Zerimo");
+  EXPECT_EQ(start.Folder, Temp.Path / u8"Jörg Müller" / u8"Eigene Öfen" / "Zerimo");
   EXPECT_TRUE(fs::exists(start.Folder / "ZMHELP" / "FD"));
 }
 
 TEST_F(StartFolderTest, DocumentsThatCanNotBeWrittenLeaveTheInstalledFiles) {
   GiveFilesTo("share");
-  Disk.Write("documents", "a file in its place");
+  Temp.Write("documents", "a file in its place");
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "share");
+  EXPECT_EQ(start.Folder, Temp.Path / "share");
   EXPECT_TRUE(start.IsCurrentFolder);
-  EXPECT_EQ(start.Unusable, Disk.Path / "documents/Zerimo");
+  EXPECT_EQ(start.Unusable, Temp.Path / "documents/Zerimo");
 }
 
 TEST_F(StartFolderTest, AFolderWithTheHelpPagesIsUsedAlsoIfNotAllCanBeWritten) {
   GiveFilesTo("share");
   PrepareStartFolder(around);
-  Disk.Write("share/ZMHELP/NEW", "new page");
-  Disk.Write("share/TREE.ZRM", "tree");
-  fs::remove(Disk.Path / "documents/Zerimo/.zerimo-files");
+  Temp.Write("share/ZMHELP/NEW", "new page");
+  Temp.Write("share/TREE.ZRM", "tree");
+  fs::remove(Temp.Path / "documents/Zerimo/.zerimo-files");
   // A folder in the place of the list can't be replaced by it.
-  Disk.Write("documents/Zerimo/.zerimo-files/x", "");
+  Temp.Write("documents/Zerimo/.zerimo-files/x", "");
   const StartFolder start = PrepareStartFolder(around);
-  EXPECT_EQ(start.Folder, Disk.Path / "documents/Zerimo");
-  EXPECT_EQ(start.Unusable, Disk.Path / "documents/Zerimo");
-  EXPECT_TRUE(Disk.Has("documents/Zerimo/ZMHELP/NEW"));
+  EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
+  EXPECT_EQ(start.Unusable, Temp.Path / "documents/Zerimo");
+  EXPECT_TRUE(Temp.Has("documents/Zerimo/ZMHELP/NEW"));
 }
 
 TEST(AppFolderNameTest, IsThatOfTheSystem) {
@@ -124,13 +124,12 @@ TEST(AppFolderNameTest, MayHaveQuestionMarksForCharactersThatTheSystemDoesNotHav
   EXPECT_EQ(AppFolderName(disk.Path / u8"Документы"), Folders::ToSystem(disk.Path) + "\\?????????");
 }
 
-TEST(AppFolderNameTest, IsTheCurrentFolderIfItsNameIsNotFound) {
+TEST(AppFolderNameTest, IsAFullStopIfItsNameIsNotFound) {
   const TempFolder disk;
   const fs::path folder = disk.Path / u8"Документы";
   fs::create_directories(folder);
   fs::create_directories(disk.Path / u8"Программы");
-  fs::current_path(folder);
-  EXPECT_EQ(AppFolderName(folder), ".");
+  EXPECT_EQ(AppFolderName(folder, Disk(folder)), ".");
 }
 
 }  // namespace

@@ -6,23 +6,21 @@
 #include <random>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <system_error>
 
 namespace zerimo {
 
-/// A folder of its own for a test, gone at the end. While it stands it is the current folder.
+/// A folder of its own for a test, gone at the end.
 class TempFolder {
  public:
-  TempFolder() : former(std::filesystem::current_path()) {
+  TempFolder() {
     std::random_device random;
     Path = std::filesystem::temp_directory_path() /
            ("zerimo-test-" + std::to_string(random()) + "-" + std::to_string(random()));
     std::filesystem::create_directories(Path);
-    std::filesystem::current_path(Path);
   }
   ~TempFolder() {
     std::error_code error;
-    std::filesystem::current_path(former, error);
     std::filesystem::remove_all(Path, error);
   }
   TempFolder(const TempFolder&) = delete;
@@ -49,9 +47,6 @@ class TempFolder {
   }
 
   std::filesystem::path Path;
-
- private:
-  std::filesystem::path former;
 };
 
 }  // namespace zerimo

@@ -171,6 +171,19 @@ TEST_F(ReplaceXcorAndYcorTest, ALongerWordIsNotReplacedAndBlocks) {
   EXPECT_EQ(WithPosition("XCOR+XCORE"), " 0+XCORE ");
 }
 
+TEST_F(ReplaceXcorAndYcorTest, OfALongTextLooksAtTheWatchAtEachReplacement) {
+  std::string text;
+  for (int i = 0; i < 1000; ++i) text += "XCOR ";
+  watch.AllowTicks(500);
+  EXPECT_THROW(variables.ReplaceXcorAndYcor(text), Stopped);
+}
+
+TEST_F(ReplaceXcorAndYcorTest, EndsWhereNothingIsReplacedAnyMore) {
+  std::string text = "XCOR " + std::string(600'000, '1') + " ";
+  watch.AllowTicks(2);
+  EXPECT_TRUE(variables.ReplaceXcorAndYcor(text).ends_with("1 "));
+}
+
 TEST_F(ReplaceXcorAndYcorTest, MeasuresFromTheMiddleOfTheWindow) {
   controls.Form1.Width = 3000;
   controls.Form1.SetHeight(2000);

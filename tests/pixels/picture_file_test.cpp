@@ -14,6 +14,7 @@
 #include "base/failure.h"
 #include "canvas_fixture.h"
 #include "support/failure_of.h"
+#include "support/full_disk.h"
 
 namespace zerimo {
 
@@ -133,6 +134,48 @@ TEST_F(PictureFiles, TransparentPartsOfAPngShowTheBackground) {
   canvas.LoadPicture(Path("a.png"), Blue);
   EXPECT_EQ(At(3, 3), Red);
   EXPECT_EQ(At(4, 4), Blue);
+}
+
+/// The headers of a bitmap of 8 bits a pixel, with a palette of two colours, and what stands after them.
+QByteArray Bitmap(quint32 width, quint32 height, quint32 compression, quint32 codedSize, const QByteArray& pixels) {
+  QByteArray bytes;
+  const auto add32 = [&bytes](quint32 number) {
+    for (int shift = 0; shift < 32; shift += 8) bytes.append(static_cast<char>(number >> shift & 0xFF));
+  };
+  bytes.append("BM");
+  for (const quint32 number : {62U + static_cast<quint32>(pixels.size()), 0U, 62U, 40U, width, height, 0x00080001U,
+                               compression, codedSize, 0U, 0U, 2U, 0U, 0x00FF0000U, 0x000000FFU})
+    add32(number);
+  return bytes + pixels;
+}
+
+TEST_F(PictureFiles, ABitmapOfGreatestSizesIsInvalid) {
+  for (const quint32 width : {0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
+    Write("P.BMP", Bitmap(width, 0x80000000U, 0, 0, {}));
+    EXPECT_EQ(FailureOf([&] { canvas.LoadPicture(Path("P.BMP"), Blue); }), FailureKind::InvalidPicture) << width;
+  }
+}
+
+TEST_F(PictureFiles, ACodedBitmapThatTellsNoSizeIsWholeWithItsEnd) {
+  const QByteArray rows = QByteArray::fromHex(
+      "0201"
+      "0000"
+      "0200"
+      "0000");
+  Write("WHOLE.BMP", Bitmap(2, 2, 1, 0, rows + QByteArray::fromHex("0001")));
+  canvas.LoadPicture(Path("WHOLE.BMP"), Blue);
+  EXPECT_EQ(Count(Blue), 96 * 96 - 4);
+  Write("CUT.BMP", Bitmap(2, 2, 1, 0, rows.left(5)));
+  EXPECT_EQ(FailureOf([&] { canvas.LoadPicture(Path("CUT.BMP"), Blue); }), FailureKind::InvalidPicture);
+}
+
+TEST_F(PictureFiles, ASmallPictureOnAFullDiskFailsAndLeavesTheFormerOne) {
+  Write("P.BMP", "former");
+  {
+    const FullDisk full(20);
+    EXPECT_EQ(FailureOf([&] { canvas.SavePicture(Path("P.BMP"), 4, 4); }), FailureKind::FileAccess);
+  }
+  EXPECT_EQ(Read("P.BMP"), "former");
 }
 
 TEST_F(PictureFiles, ATruncatedGifIsInvalid) {

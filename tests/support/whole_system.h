@@ -5,16 +5,17 @@
 #include <vector>
 
 #include "console/form1.h"
+#include "files/temp_folder.h"
 #include "graphics/canvas.h"
 #include "support/fake_services.h"
 #include "support/limited_watch.h"
 
 namespace zerimo {
 
-/// The whole system over a canvas without pixels, started and with the focus on row 0.
+/// The whole system over a canvas without pixels, in a folder of its own, started and with the focus on row 0.
 struct WholeSystem {
-  explicit WholeSystem(ScreenSize screen = {}, const std::string& appFolder = ".")
-      : System(screen, appFolder, services, watch, Pixels), controls(System.controls) {
+  explicit WholeSystem(ScreenSize screen = {})
+      : System(screen, Folders(".", Disk(folder.Path)), services, watch, Pixels), controls(System.controls) {
     System.Load();
     System.Tick(controls.Timer2);
   }
@@ -53,6 +54,7 @@ struct WholeSystem {
     for (const char* line : lines) System.interpreter.store.SetLine(number++, line);
   }
 
+  TempFolder folder;
   FakeServices services;
   LimitedWatch watch;
   EmptyCanvas Pixels;

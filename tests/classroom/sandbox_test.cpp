@@ -1,0 +1,94 @@
+#include "classroom/sandbox.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <thread>
+
+#include "files/disk_files.h"
+#include "files/temp_folder.h"
+
+namespace zerimo::classroom {
+namespace {
+
+/// A folder of its own, one that is read, and a file outside of both.
+class SandboxTest : public ::testing::Test {
+ protected:
+  SandboxTest() {
+    Temp.MakeFolder("own");
+    Temp.Write("read/FILE", "theirs");
+    Temp.Write("OUTSIDE", "outside");
+  }
+
+  /// Whether something holds for a process in the sandbox.
+  template <typename Question>
+  bool Inside(Question question) const {
+    const pid_t child = fork();
+    if (child == 0) {
+      const bool isContained = EnterSandbox({Temp.Path / "own", {Temp.Path / "read"}});
+      _exit(isContained && question() ? 0 : 1);
+    }
+    int status = 0;
+    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  }
+
+  bool IsRefused(const char* name, int flags) const {
+    return Inside([&] { return open((Temp.Path / name).c_str(), flags, 0600) < 0 && errno == EACCES; });
+  }
+
+  TempFolder Temp;
+};
+
+TEST_F(SandboxTest, TheOwnFolderIsWrittenAndTheOtherRead) {
+  EXPECT_TRUE(Inside([&] {
+    WriteBeside(Temp.Path / "own/NEW", "new");
+    return BytesOf(Temp.Path / "own/NEW") == "new" && BytesOf(Temp.Path / "read/FILE") == "theirs";
+  }));
+  EXPECT_EQ(Temp.Read("own/NEW"), "new");
+}
+
+TEST_F(SandboxTest, NoOtherFileIsReachedWhateverTheCodeDoes) {
+  EXPECT_TRUE(IsRefused("OUTSIDE", O_RDONLY));
+  EXPECT_TRUE(IsRefused("OUTSIDE", O_WRONLY));
+  EXPECT_TRUE(IsRefused("NEW", O_WRONLY | O_CREAT));
+  EXPECT_TRUE(IsRefused("read/FILE", O_WRONLY));
+  EXPECT_TRUE(IsRefused("read/NEW", O_WRONLY | O_CREAT));
+  EXPECT_TRUE(Inside([] { return open("/etc/passwd", O_RDONLY) < 0 && errno == EACCES; }));
+  const std::string outside = (Temp.Path / "OUTSIDE").string();
+  EXPECT_TRUE(Inside([&] { return unlink(outside.c_str()) < 0; }));
+  EXPECT_TRUE(Inside([&] { return chmod(outside.c_str(), 0777) < 0; }));
+  EXPECT_TRUE(Inside([&] { return truncate(outside.c_str(), 0) < 0; }));
+  EXPECT_EQ(Temp.Read("OUTSIDE"), "outside");
+  EXPECT_EQ(Temp.Count("read"), 1);
+}
+
+TEST_F(SandboxTest, ALinkLeadsNowhereOutside) {
+  std::filesystem::create_symlink(Temp.Path / "OUTSIDE", Temp.Path / "own/LINK");
+  EXPECT_TRUE(IsRefused("own/LINK", O_RDONLY));
+}
+
+TEST_F(SandboxTest, NoNetworkAndNoOtherProcess) {
+  EXPECT_TRUE(Inside([] { return socket(AF_INET, SOCK_STREAM, 0) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(Inside([] { return socket(AF_UNIX, SOCK_STREAM, 0) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(Inside([] { return fork() < 0; }));
+  EXPECT_TRUE(Inside([] { return execl("/bin/true", "true", nullptr) < 0; }));
+  EXPECT_TRUE(Inside([] { return kill(getppid(), 0) < 0 && errno == EPERM; }));
+}
+
+TEST_F(SandboxTest, AThreadAndALimitOfItsOwnArePossible) {
+  EXPECT_TRUE(Inside([] {
+    std::thread([] {}).join();
+    const rlimit limit{0, 0};
+    return setrlimit(RLIMIT_CORE, &limit) == 0;
+  }));
+}
+
+}  // namespace
+}  // namespace zerimo::classroom
