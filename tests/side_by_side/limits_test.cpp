@@ -121,7 +121,8 @@ TEST_P(ValuesTest, CrossTheKindsOfNumbersInALoop) {
 INSTANTIATE_TEST_SUITE_P(Lines, ValuesTest,
                          testing::Values("MAKE \"N :N*10", "MAKE \"N :N-1", "MAKE \"N :N/3", "MAKE \"N (:N+1)*(2-:N)",
                                          "MAKE \"N -:N", "MAKE \"N 5-:N*2", "MAKE \"N :N%3-2", "MAKE \"N 2*(:N-3)/:N",
-                                         "MAKE \"N 1-:N-:N", "MAKE \"N (0-:N)*3+XCOR", "MAKE \"N :N+.005", "MAKE \"N 3*-2+:N"));
+                                         "MAKE \"N 1-:N-:N", "MAKE \"N (0-:N)*3+XCOR", "MAKE \"N :N+.005",
+                                         "MAKE \"N 3*-2+:N"));
 
 }  // namespace
 }  // namespace zerimo
