@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -27,10 +28,12 @@ class LateText {
   }
 
   const std::string& Text() const { return source_ ? source_() : text_; }
-  operator const std::string&() const { return Text(); }    // NOLINT(google-explicit-constructor)
-  operator std::string_view() const { return Text(); }      // NOLINT(google-explicit-constructor)
-  friend bool operator==(const LateText& one, std::string_view other) { return one.Text() == other; }
+  operator const std::string&() const { return Text(); }  // NOLINT(google-explicit-constructor)
+  operator std::string_view() const { return Text(); }    // NOLINT(google-explicit-constructor)
   friend bool operator==(const LateText& one, const LateText& other) { return one.Text() == other.Text(); }
+  template <typename Other>
+  requires std::convertible_to<const Other&, std::string_view>
+  friend bool operator==(const LateText& one, const Other& other) { return one.Text() == std::string_view(other); }
 
  private:
   std::string text_;
