@@ -207,11 +207,11 @@ TEST_F(SavingTest, ARescueThatFailsInTheFirstFolderGoesToTheNext) {
 }
 
 TEST_F(SavingTest, ARescueAmongTheTemporaryFilesHasAFolderOfItsOwn) {
-  const auto folders = FoldersForRescue("/state", "/tmp");
-  ASSERT_EQ(folders.size(), 2U);
-  EXPECT_EQ(folders[0], "/state");
-  EXPECT_EQ(folders[1].parent_path(), "/tmp");
-  EXPECT_NE(folders[1], FoldersForRescue("/state", "/tmp")[1]);
+  const auto places = FoldersForRescue("/state", "/tmp");
+  ASSERT_EQ(places.size(), 2U);
+  EXPECT_EQ(places[0], "/state");
+  EXPECT_EQ(places[1].parent_path(), "/tmp");
+  EXPECT_NE(places[1], FoldersForRescue("/state", "/tmp")[1]);
   EXPECT_TRUE(FoldersForRescue({}, {}).empty());
 }
 
