@@ -119,6 +119,8 @@ std::string Folders::ToSystem(const fs::path& path) {
 fs::path Folders::ToRead(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
   if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
+  // A drive letter alone names nothing, not even the folder where paths begin.
+  if (path.empty()) return path;
   auto found = LookUp(disk_.Folder(), path);
   if (!found && disk_.Shelf()) found = LookUp(*disk_.Shelf(), path);
   if (found && !disk_.MayRead(*found)) Fail(FailureKind::FileNotFound);
