@@ -207,19 +207,11 @@ TEST_F(SavingTest, ARescueThatFailsInTheFirstFolderGoesToTheNext) {
 }
 
 TEST_F(SavingTest, ARescueAmongTheTemporaryFilesHasAFolderOfItsOwn) {
-<<<<<<< HEAD
-  const auto candidates = FoldersForRescue("/state", "/tmp");
-  ASSERT_EQ(candidates.size(), 2U);
-  EXPECT_EQ(candidates[0], "/state");
-  EXPECT_EQ(candidates[1].parent_path(), "/tmp");
-  EXPECT_NE(candidates[1], FoldersForRescue("/state", "/tmp")[1]);
-=======
   const auto places = FoldersForRescue("/state", "/tmp");
   ASSERT_EQ(places.size(), 2U);
   EXPECT_EQ(places[0], "/state");
   EXPECT_EQ(places[1].parent_path(), "/tmp");
   EXPECT_NE(places[1], FoldersForRescue("/state", "/tmp")[1]);
->>>>>>> h-safe
   EXPECT_TRUE(FoldersForRescue({}, {}).empty());
 }
 
