@@ -13,10 +13,10 @@ namespace {
 
 constexpr double ButtonPoints = 9.75;
 constexpr int LargeStep = 16;
-/// The bars of an array stand for red, green and blue.
+/// The three bars of an array stand for red, green and blue.
 constexpr QRgb BarColours[] = {qRgb(240, 120, 120), qRgb(120, 210, 120), qRgb(130, 150, 250)};
 
-/// A click leaves the focus where the learner types.
+/// Only Tab moves the focus here: a click leaves it where the learner types.
 void SetUp(QWidget& widget) {
   widget.setFocusPolicy(Qt::TabFocus);
   widget.setFont(ControlFont(ButtonPoints));
@@ -24,53 +24,53 @@ void SetUp(QWidget& widget) {
 
 }  // namespace
 
-ButtonView::ButtonView(Button& control, QWidget& parent, Events& theEvents)
-    : ControlView(control, *new QPushButton(&parent)), button(control), shown(static_cast<QPushButton&>(Widget())) {
-  SetUp(shown);
-  QObject::connect(&shown, &QAbstractButton::clicked, &shown,
-                   [this, &theEvents] { theEvents.Deliver([this](Form1& form1) { form1.Click(button); }); });
+ButtonView::ButtonView(Button& control, QWidget& parent, Events& events)
+    : ControlView(control, *new QPushButton(&parent)), button_(control), shown_(static_cast<QPushButton&>(Widget())) {
+  SetUp(shown_);
+  QObject::connect(&shown_, &QAbstractButton::clicked, &shown_,
+                   [this, &events] { events.Deliver([this](Form1& form1) { form1.Click(button_); }); });
 }
 
 void ButtonView::SyncLook() {
-  const QString caption = ToQString(button.Caption);
-  if (shown.text() != caption) shown.setText(caption);
+  const QString caption = ToQString(button_.Caption);
+  if (shown_.text() != caption) shown_.setText(caption);
 }
 
-CheckView::CheckView(CheckBox& control, QWidget& parent, Events& theEvents)
-    : ControlView(control, *new QCheckBox(&parent)), box(control), shown(static_cast<QCheckBox&>(Widget())) {
-  SetUp(shown);
-  QObject::connect(&shown, &QAbstractButton::clicked, &shown,
-                   [this, &theEvents] { theEvents.Deliver([this](Form1& form1) { form1.Click(box); }); });
+CheckView::CheckView(CheckBox& control, QWidget& parent, Events& events)
+    : ControlView(control, *new QCheckBox(&parent)), box_(control), shown_(static_cast<QCheckBox&>(Widget())) {
+  SetUp(shown_);
+  QObject::connect(&shown_, &QAbstractButton::clicked, &shown_,
+                   [this, &events] { events.Deliver([this](Form1& form1) { form1.Click(box_); }); });
 }
 
 void CheckView::SyncLook() {
-  const QString caption = ToQString(box.Caption);
-  if (shown.text() != caption) shown.setText(caption);
-  if (shown.isChecked() != (box.Value != 0)) shown.setChecked(box.Value != 0);
+  const QString caption = ToQString(box_.Caption);
+  if (shown_.text() != caption) shown_.setText(caption);
+  if (shown_.isChecked() != (box_.Value != 0)) shown_.setChecked(box_.Value != 0);
 }
 
-BarView::BarView(ScrollBar& control, QWidget& parent, Events& theEvents)
+BarView::BarView(ScrollBar& control, QWidget& parent, Events& events)
     : ControlView(control, *new QScrollBar(Qt::Horizontal, &parent)),
-      bar(control),
-      shown(static_cast<QScrollBar&>(Widget())) {
-  shown.setFocusPolicy(Qt::TabFocus);
-  shown.setRange(ScrollBar::Least, ScrollBar::Greatest);
-  shown.setPageStep(LargeStep);
-  QPalette palette = shown.palette();
+      bar_(control),
+      shown_(static_cast<QScrollBar&>(Widget())) {
+  shown_.setFocusPolicy(Qt::TabFocus);
+  shown_.setRange(ScrollBar::Least, ScrollBar::Greatest);
+  shown_.setPageStep(LargeStep);
+  QPalette palette = shown_.palette();
   palette.setColor(QPalette::Button, BarColours[static_cast<std::size_t>(IndexInName(control.Name())) % 3]);
-  shown.setPalette(palette);
-  QObject::connect(&shown, &QScrollBar::valueChanged, &shown, [this, &theEvents](int value) {
-    theEvents.Deliver([this, value](Form1& form1) {
-      bar.Value = value;
-      form1.Change(bar);
+  shown_.setPalette(palette);
+  QObject::connect(&shown_, &QScrollBar::valueChanged, &shown_, [this, &events](int value) {
+    events.Deliver([this, value](Form1& form1) {
+      bar_.Value = value;
+      form1.Change(bar_);
     });
   });
 }
 
 void BarView::SyncLook() {
-  if (shown.value() == bar.Value) return;
-  const QSignalBlocker silent(shown);
-  shown.setValue(bar.Value);
+  if (shown_.value() == bar_.Value) return;
+  const QSignalBlocker silent(shown_);
+  shown_.setValue(bar_.Value);
 }
 
 }  // namespace zerimo

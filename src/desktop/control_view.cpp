@@ -23,13 +23,13 @@ QRect InPixels(const Control& control) {
 void ControlView::Sync(const Room& room) {
   if (!IsHeld()) {
     const QRect place = Place(room);
-    if (widget.geometry() != place) widget.setGeometry(place);
+    if (widget_.geometry() != place) widget_.setGeometry(place);
   }
   SyncLook();
-  if (widget.isHidden() == source.Visible()) widget.setVisible(source.Visible());
+  if (widget_.isHidden() == source_.Visible()) widget_.setVisible(source_.Visible());
 }
 
-QRect ControlView::Place(const Room&) const { return InPixels(source); }
+QRect ControlView::Place(const Room&) const { return InPixels(source_); }
 
 void ShowColours(QWidget& widget, Colour background, Colour text) {
   QPalette palette = widget.palette();

@@ -8,45 +8,45 @@
 
 namespace zerimo {
 
-/// What the window has to give, in its own coordinates.
+/// The space in the window, in its own coordinates.
 struct Room {
   QRect Client;
-  /// The part that the command rows leave.
+  /// The part above the command rows.
   QRect AboveRows;
 };
 
 /// The place of a control in pixels, from its place in surface units.
 QRect InPixels(const Control& control);
 
-/// Shows one control in one widget. The data is the truth: `Sync` copies what differs to the widget, and `Collect`
-/// copies what the user changed to the data. The widget belongs to its parent widget.
+/// Shows one control in one widget. The data is authoritative: `Sync` brings the widget up to date with it, and
+/// `Collect` copies what the user changed back to it. The widget belongs to its parent widget.
 class ControlView {
  public:
-  ControlView(Control& control, QWidget& shownIn) : source(control), widget(shownIn) {}
+  ControlView(Control& control, QWidget& shownIn) : source_(control), widget_(shownIn) {}
   virtual ~ControlView() = default;
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
-  Control& Source() const { return source; }
-  QWidget& Widget() const { return widget; }
+  Control& Source() const { return source_; }
+  QWidget& Widget() const { return widget_; }
 
   void Sync(const Room& room);
   virtual void Collect() {}
 
  protected:
-  /// Where the widget goes; in the data's place if the kind says nothing else.
+  /// Where the widget goes. By default, where the data says.
   virtual QRect Place(const Room& room) const;
-  /// Whether the user holds the widget in another place just now.
+  /// Whether the user is dragging the widget.
   virtual bool IsHeld() const { return false; }
-  /// Shows all but place and visibility.
+  /// Brings everything but place and visibility up to date.
   virtual void SyncLook() {}
 
  private:
-  Control& source;
-  QWidget& widget;
+  Control& source_;
+  QWidget& widget_;
 };
 
-/// Gives a widget a background and a text colour if it has others.
+/// Sets a widget's background and text colours unless they are set already.
 void ShowColours(QWidget& widget, Colour background, Colour text);
 
 }  // namespace zerimo

@@ -4,21 +4,21 @@
 
 namespace zerimo {
 
-/// What a screen reader and the tool tips say of a control.
+/// What a screen reader and the tool tip say about a control.
 struct ControlWords {
-  /// The control's name, that of an array without index.
+  /// The name of the control, or of its array without the index.
   std::string_view Control;
-  /// In an array, "%1" stands for the number from 1.
+  /// For an array, "%1" stands for the element's number, counted from 1.
   const char* Name;
   const char* Description;
-  /// Empty for controls that say enough themselves.
+  /// Empty for controls that explain themselves.
   const char* ToolTip;
 };
 
-/// The words of a control ("Text1(0)"), or nothing.
+/// The words for a control ("Text1(0)"), or null.
 const ControlWords* FindControlWords(std::string_view control);
 
-/// The index of an element of an array ("Text1(3)"), or 0.
+/// The index in the name of an array's element ("Text1(3)"), or 0.
 int IndexInName(std::string_view control);
 
 }  // namespace zerimo

@@ -30,31 +30,31 @@ QString TitleOr(const std::string& title) {
 
 }  // namespace
 
-DesktopServices::DesktopServices(Stage& theStage, QString dialogFolder)
-    : stage(theStage), folder(std::move(dialogFolder)) {}
+DesktopServices::DesktopServices(Stage& stage, QString dialogFolder)
+    : stage_(stage), folder_(std::move(dialogFolder)) {}
 
 Answer DesktopServices::MessageBox(const std::string& text, int style, const std::string& title) {
-  stage.ShowState();
-  MessageDialog dialog(stage.Window(), WithLineEnds(text), style, TitleOr(title));
-  stage.Stay(dialog);
+  stage_.ShowState();
+  MessageDialog dialog(stage_.Window(), WithLineEnds(text), style, TitleOr(title));
+  stage_.Stay(dialog);
   return dialog.Chosen();
 }
 
 std::string DesktopServices::InputBox(const std::string& prompt, const std::string& title,
                                       const std::string& defaultAnswer) {
-  stage.ShowState();
-  QInputDialog dialog(&stage.Window());
+  stage_.ShowState();
+  QInputDialog dialog(&stage_.Window());
   dialog.setWindowTitle(TitleOr(title));
   dialog.setLabelText(WithLineEnds(prompt));
   dialog.setTextValue(ToQString(defaultAnswer));
   dialog.setOkButtonText(QStringLiteral("&OK"));
   dialog.setCancelButtonText(QStringLiteral("&Cancel"));
   dialog.resize(InputWidth, dialog.sizeHint().height());
-  return stage.Stay(dialog) == QDialog::Accepted ? ToSystemText(dialog.textValue()) : std::string();
+  return stage_.Stay(dialog) == QDialog::Accepted ? ToSystemText(dialog.textValue()) : std::string();
 }
 
 std::string DesktopServices::ShowOpen() {
-  if (!offeredFile.empty()) return std::exchange(offeredFile, {});
+  if (!offeredFile_.empty()) return std::exchange(offeredFile_, {});
   return AskForFile(false, QStringLiteral("Zerimo files and pictures (*.zrm *.jpg *.bmp *.gif);;All files (*)"));
 }
 
@@ -63,26 +63,26 @@ std::string DesktopServices::ShowSave(const std::string& text) {
 }
 
 std::string DesktopServices::AskForFile(bool save, const QString& filter) {
-  stage.ShowState();
-  QFileDialog dialog(&stage.Window(), save ? QStringLiteral("Save As") : QStringLiteral("Open"), folder, filter);
+  stage_.ShowState();
+  QFileDialog dialog(&stage_.Window(), save ? QStringLiteral("Save As") : QStringLiteral("Open"), folder_, filter);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  // The system itself writes over a file without a question.
+  // The system overwrites files without asking.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  if (stage.Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  folder = dialog.directory().absolutePath();
+  if (stage_.Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  folder_ = dialog.directory().absolutePath();
   return Folders::ToSystem(dialog.selectedFiles().constFirst().toStdU16String());
 }
 
 void DesktopServices::Sleep(std::int32_t length) {
   if (length < 0) return;
   const auto end = Clock::now() + milliseconds(length);
-  stage.ShowState();
+  stage_.ShowState();
   for (auto now = Clock::now(); now < end; now = Clock::now()) {
     const auto rest = std::chrono::ceil<std::chrono::microseconds>(end - now);
     QThread::usleep(static_cast<unsigned long>(std::min<std::chrono::microseconds>(rest, SleepSlice).count()));
-    stage.AnswerDesktop();
+    stage_.AnswerDesktop();
   }
 }
 

@@ -9,14 +9,14 @@
 
 namespace zerimo {
 
-/// The boxes, dialogs, waits and sounds of the desktop. Before each of them the state is on the screen.
+/// The boxes, dialogs, waits and sounds of the desktop. The screen is brought up to date before each of them.
 class DesktopServices : public Services {
  public:
-  /// `dialogFolder` is where the file dialogs begin.
-  DesktopServices(Stage& theStage, QString dialogFolder);
+  /// `dialogFolder` is where the file dialogs open first.
+  DesktopServices(Stage& stage, QString dialogFolder);
 
-  /// The next file dialog to open a file is answered with this name (as the system writes it) and does not stand.
-  void OfferFile(std::string name) { offeredFile = std::move(name); }
+  /// Answers the next dialog that opens a file with this name, in the system's notation, without showing the dialog.
+  void OfferFile(std::string name) { offeredFile_ = std::move(name); }
 
   Answer MessageBox(const std::string& text, int style, const std::string& title) override;
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultAnswer) override;
@@ -29,9 +29,9 @@ class DesktopServices : public Services {
  private:
   std::string AskForFile(bool save, const QString& filter);
 
-  Stage& stage;
-  QString folder;
-  std::string offeredFile;
+  Stage& stage_;
+  QString folder_;
+  std::string offeredFile_;
 };
 
 }  // namespace zerimo

@@ -2,8 +2,8 @@
 
 namespace zerimo {
 
-/// One look on every desktop, so that the places and colours of the controls fit: light panels, and a caret that can
-/// be seen from afar.
+/// Gives the program the same look on every desktop, so that the sizes and colours of the controls fit: light panels,
+/// and a caret that can be seen from the back of a classroom.
 void SetDesktopStyle();
 
 }  // namespace zerimo

@@ -17,7 +17,7 @@ struct PlainTwin {
   char16_t Plain;
 };
 
-/// What word processors and web pages put in the place of plain characters.
+/// Characters that word processors and web pages use in place of plain ones.
 constexpr std::array<PlainTwin, 9> PlainTwins = {{
     {u'\u2018', u'\''},
     {u'\u2019', u'\''},
@@ -47,7 +47,7 @@ QString OnlyKnownCharacters(const QString& text) {
   QString known;
   known.reserve(text.size());
   for (const QChar character : text) {
-    // A character of two halves counts once.
+    // A surrogate pair counts as one character.
     if (!character.isLowSurrogate()) known += KnownCharacter(character);
   }
   return known;

@@ -4,11 +4,11 @@
 
 namespace zerimo {
 
-DesktopTimers::DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy)
-    : deliverTick(std::move(tick)), busy(std::move(isBusy)) {
+DesktopTimers::DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> busy)
+    : deliverTick_(std::move(tick)), busy_(std::move(busy)) {
   Timer* const timers[] = {&controls.Timer2, &controls.Timer3, &controls.Timer4};
-  for (std::size_t i = 0; i < clocks.size(); ++i) {
-    Clock& clock = clocks[i];
+  for (std::size_t i = 0; i < clocks_.size(); ++i) {
+    Clock& clock = clocks_[i];
     clock.Data = timers[i];
     clock.Running = std::make_unique<QTimer>();
     QObject::connect(clock.Running.get(), &QTimer::timeout, clock.Running.get(), [this, &clock] { ComeDue(clock); });
@@ -16,7 +16,7 @@ DesktopTimers::DesktopTimers(Controls& controls, std::function<void(Timer&)> tic
 }
 
 void DesktopTimers::Sync() {
-  for (Clock& clock : clocks) {
+  for (Clock& clock : clocks_) {
     const bool ticks = Ticks(*clock.Data);
     if (!ticks) {
       clock.Running->stop();
@@ -29,12 +29,12 @@ void DesktopTimers::Sync() {
 
 void DesktopTimers::ComeDue(Clock& clock) {
   if (!Ticks(*clock.Data)) return;
-  clock.IsDue = busy();
-  if (!clock.IsDue) deliverTick(*clock.Data);
+  clock.IsDue = busy_();
+  if (!clock.IsDue) deliverTick_(*clock.Data);
 }
 
 void DesktopTimers::FireDue() {
-  for (Clock& clock : clocks) {
+  for (Clock& clock : clocks_) {
     if (!clock.IsDue) continue;
     const auto fire = [this, &clock] {
       if (clock.IsDue) ComeDue(clock);

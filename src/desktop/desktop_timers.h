@@ -9,16 +9,16 @@
 
 namespace zerimo {
 
-/// Runs the timers as the data says. A timer that comes due while the system is busy fires once afterwards.
+/// Runs the system's timers. One that comes due while the system is busy fires once afterwards.
 class DesktopTimers {
  public:
-  /// `tick` delivers a tick; `isBusy` tells whether it would be lost.
-  DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> isBusy);
+  /// `tick` delivers a tick; `busy` tells whether the system can take none now.
+  DesktopTimers(Controls& controls, std::function<void(Timer&)> tick, std::function<bool()> busy);
 
-  /// Starts and stops the clocks after the data.
+  /// Starts and stops the clocks as the data says.
   void Sync();
 
-  /// Lets what came due meanwhile fire as soon as the event loop runs.
+  /// Lets the timers that came due while the system was busy fire from the event loop.
   void FireDue();
 
  private:
@@ -30,9 +30,9 @@ class DesktopTimers {
   static bool Ticks(const Timer& timer) { return timer.Enabled && timer.Interval > 0; }
   void ComeDue(Clock& clock);
 
-  std::function<void(Timer&)> deliverTick;
-  std::function<bool()> busy;
-  std::array<Clock, 3> clocks;
+  std::function<void(Timer&)> deliverTick_;
+  std::function<bool()> busy_;
+  std::array<Clock, 3> clocks_;
 };
 
 }  // namespace zerimo

@@ -14,10 +14,10 @@ namespace {
 
 constexpr QChar ParagraphEnd = QChar(u'\u2029');
 constexpr int CaretWidth = 2;
-/// A tab would vanish from the program and join its neighbours.
+/// Stands in for a tab, which the program would lose, joining the words around it.
 const char* const Tab = "  ";
 
-/// A place in the text by line and column.
+/// A place in the text by line and column, both from 0.
 struct CaretPlace {
   int Line = 0;
   int Column = 0;
@@ -52,7 +52,7 @@ EditorArea::EditorArea(QWidget& parent) : QPlainTextEdit(&parent) {
 }
 
 QString EditorArea::Text() const {
-  // The plain text would turn code 160 into a blank.
+  // `toPlainText` would turn code 160 into a blank.
   QString text = document()->toRawText();
   return text.replace(ParagraphEnd, QLatin1Char('\n'));
 }
@@ -91,28 +91,28 @@ void EditorArea::insertFromMimeData(const QMimeData* source) {
   QPlainTextEdit::insertFromMimeData(&known);
 }
 
-EditorView::EditorView(TextBox& textBox, QWidget& parent, Events&)
-    : ControlView(textBox, *new EditorArea(parent)), box(textBox), area(static_cast<EditorArea&>(Widget())) {
-  QObject::connect(&area, &QPlainTextEdit::textChanged, &area, [this] { touched = true; });
+EditorView::EditorView(TextBox& box, QWidget& parent, Events&)
+    : ControlView(box, *new EditorArea(parent)), box_(box), area_(static_cast<EditorArea&>(Widget())) {
+  QObject::connect(&area_, &QPlainTextEdit::textChanged, &area_, [this] { touched_ = true; });
 }
 
 void EditorView::Collect() {
-  if (!touched) return;
-  touched = false;
-  box.Text = WithCarriageReturns(area.Text());
-  shown = box.Text;
+  if (!touched_) return;
+  touched_ = false;
+  box_.Text = WithCarriageReturns(area_.Text());
+  shown_ = box_.Text;
 }
 
 QRect EditorView::Place(const Room& room) const { return InPixels(Source()).intersected(room.Client); }
 
 void EditorView::SyncLook() {
-  const QFont font = ControlFont(box.FontSize);
-  if (area.font() != font) area.setFont(font);
-  ShowColours(area, box.BackColor, box.ForeColor);
-  if (touched || box.Text == shown) return;
-  area.ReplaceText(WithLineEnds(box.Text));
-  shown = box.Text;
-  touched = false;
+  const QFont font = ControlFont(box_.FontSize);
+  if (area_.font() != font) area_.setFont(font);
+  ShowColours(area_, box_.BackColor, box_.ForeColor);
+  if (touched_ || box_.Text == shown_) return;
+  area_.ReplaceText(WithLineEnds(box_.Text));
+  shown_ = box_.Text;
+  touched_ = false;
 }
 
 }  // namespace zerimo

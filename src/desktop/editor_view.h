@@ -6,13 +6,12 @@
 
 namespace zerimo {
 
-/// A text area that lets no character in that the system does not have.
+/// A text area that admits only characters that the system has.
 class EditorArea : public QPlainTextEdit {
  public:
   explicit EditorArea(QWidget& parent);
 
-  /// Puts a text in the place of the one shown, as one step that can be undone. The caret stays at its place in the
-  /// text as far as that is still there.
+  /// Replaces the text in one step that can be undone. The caret keeps its line and column if they still exist.
   void ReplaceText(const QString& text);
 
   /// The text with the toolkit's line ends.
@@ -24,10 +23,10 @@ class EditorArea : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
 };
 
-/// `Text2`, the editor. The system's lines end with carriage return and line feed.
+/// `Text2`, the editor. In the data, lines end with carriage return and line feed.
 class EditorView : public ControlView {
  public:
-  EditorView(TextBox& textBox, QWidget& parent, Events& theEvents);
+  EditorView(TextBox& box, QWidget& parent, Events& events);
   void Collect() override;
 
  protected:
@@ -35,11 +34,11 @@ class EditorView : public ControlView {
   void SyncLook() override;
 
  private:
-  TextBox& box;
-  EditorArea& area;
-  /// The system's text that the area shows, if the user has not changed it since.
-  std::string shown;
-  bool touched = false;
+  TextBox& box_;
+  EditorArea& area_;
+  /// The data's text as the area last showed or collected it.
+  std::string shown_;
+  bool touched_ = false;
 };
 
 }  // namespace zerimo

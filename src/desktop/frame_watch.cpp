@@ -7,28 +7,37 @@ namespace zerimo {
 namespace {
 
 constexpr std::chrono::milliseconds Frame{16};
-/// The clock is read at one in so many rounds of the small loops.
+/// Small loops read the clock once in this many rounds.
 constexpr unsigned TicksPerLook = 16;
-/// Showing takes at most one part in so many of the time.
+/// Showing takes at most a quarter of the time.
 constexpr int ShareOfShowing = 4;
 
 }  // namespace
 
-void FrameWatch::Begin() { nextFrame = Clock::now() + Frame; }
+void FrameWatch::Begin() { nextFrame_ = Clock::now() + Frame; }
 
 void FrameWatch::Step() {
-  if (stage.IsRunning() && Clock::now() >= nextFrame) ShowFrame();
+  if (OnStep) {
+    // The call may set another one.
+    const auto step = OnStep;
+    step();
+  }
+  Look();
 }
 
 void FrameWatch::Tick() {
-  if (++ticks % TicksPerLook == 0) Step();
+  if (++ticks_ % TicksPerLook == 0) Look();
+}
+
+void FrameWatch::Look() {
+  if (stage_.IsRunning() && Clock::now() >= nextFrame_) ShowFrame();
 }
 
 void FrameWatch::ShowFrame() {
   const Clock::time_point start = Clock::now();
-  stage.ShowState();
+  stage_.ShowState();
   const Clock::time_point end = Clock::now();
-  nextFrame = std::max(start + Frame, end + (ShareOfShowing - 1) * (end - start));
+  nextFrame_ = std::max(start + Frame, end + (ShareOfShowing - 1) * (end - start));
 }
 
 }  // namespace zerimo

@@ -1,17 +1,18 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 
 #include "base/watch.h"
 #include "desktop/stage.h"
 
 namespace zerimo {
 
-/// Lets the picture grow on the screen while a line runs, at most once per display frame, and lets the window be
-/// closed wherever the run hangs.
+/// Shows the picture as it grows while a line runs, at most once per display frame, and lets the user leave the run
+/// wherever it hangs.
 class FrameWatch : public Watch {
  public:
-  explicit FrameWatch(Stage& theStage) : stage(theStage) {}
+  explicit FrameWatch(Stage& stage) : stage_(stage) {}
 
   /// To be called when a handler begins.
   void Begin();
@@ -19,13 +20,17 @@ class FrameWatch : public Watch {
   void Step() override;
   void Tick() override;
 
+  /// Called before each step of a walk, if set.
+  std::function<void()> OnStep;
+
  private:
   using Clock = std::chrono::steady_clock;
+  void Look();
   void ShowFrame();
 
-  Stage& stage;
-  Clock::time_point nextFrame;
-  unsigned ticks = 0;
+  Stage& stage_;
+  Clock::time_point nextFrame_;
+  unsigned ticks_ = 0;
 };
 
 }  // namespace zerimo

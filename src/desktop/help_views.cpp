@@ -19,8 +19,8 @@ constexpr double PageMargin = 16;
 
 }  // namespace
 
-PageList::PageList(QWidget& parent, FileListBox& control, Events& theEvents)
-    : QListWidget(&parent), list(control), events(theEvents) {
+PageList::PageList(QWidget& parent, FileListBox& control, Events& events)
+    : QListWidget(&parent), list_(control), events_(events) {
   setUniformItemSizes(true);
   setFont(ControlFont(ListPoints));
 }
@@ -38,55 +38,55 @@ void PageList::keyPressEvent(QKeyEvent* event) {
 
 void PageList::Press() {
   const std::string name = currentItem() == nullptr ? std::string() : ToSystemText(currentItem()->text());
-  events.Deliver([&](Form1& form1) {
-    list.FileName = name;
-    form1.MouseDown(list, MouseButton::Left, false, 0, 0);
+  events_.Deliver([&](Form1& form1) {
+    list_.FileName = name;
+    form1.MouseDown(list_, MouseButton::Left, false, 0, 0);
   });
 }
 
 void FileListView::SyncLook() {
   auto& pages = static_cast<PageList&>(Widget());
-  if (shown != list.Items) {
-    shown = list.Items;
+  if (shown_ != list_.Items) {
+    shown_ = list_.Items;
     pages.clear();
-    for (const std::string& name : shown) pages.addItem(ToQString(name));
+    for (const std::string& name : shown_) pages.addItem(ToQString(name));
   }
-  if (selected == list.FileName) return;
-  selected = list.FileName;
-  if (selected.empty()) pages.setCurrentItem(nullptr);
+  if (selected_ == list_.FileName) return;
+  selected_ = list_.FileName;
+  if (selected_.empty()) pages.setCurrentItem(nullptr);
 }
 
 void PageArea::insertFromMimeData(const QMimeData* source) {
-  // Not by the toolkit's own way: an empty clipboard would bring it down.
+  // The toolkit's own handling crashes on an empty clipboard.
   if (!source->hasText()) return;
   insertPlainText(source->text());
   ensureCursorVisible();
 }
 
 PageView::PageView(RichTextView& control, QWidget& parent, Events&)
-    : ControlView(control, *new PageArea(&parent)), page(control), edit(static_cast<PageArea&>(Widget())) {
-  edit.setAcceptRichText(false);
-  edit.document()->setDocumentMargin(PageMargin);
-  edit.setFont(ControlFont(PagePoints));
-  ShowColours(edit, 0xFFFFFF, 0);
-  QObject::connect(&edit, &QTextEdit::textChanged, &edit, [this] { touched = true; });
+    : ControlView(control, *new PageArea(&parent)), page_(control), edit_(static_cast<PageArea&>(Widget())) {
+  edit_.setAcceptRichText(false);
+  edit_.document()->setDocumentMargin(PageMargin);
+  edit_.setFont(ControlFont(PagePoints));
+  ShowColours(edit_, 0xFFFFFF, 0);
+  QObject::connect(&edit_, &QTextEdit::textChanged, &edit_, [this] { touched_ = true; });
 }
 
 void PageView::Collect() {
-  if (!touched) return;
-  touched = false;
-  const RichText text = ReadDocument(*edit.document());
-  page.Document = WriteRtf(text);
-  page.Text = Latin1FromUtf8(PlainText(text));
+  if (!touched_) return;
+  touched_ = false;
+  const RichText text = ReadDocument(*edit_.document());
+  page_.Document = WriteRtf(text);
+  page_.Text = Latin1FromUtf8(PlainText(text));
 }
 
 void PageView::SyncLook() {
-  if (shownVersion == page.Version) return;
-  shownVersion = page.Version;
-  FillDocument(*edit.document(), ReadRtf(page.Document));
-  edit.document()->clearUndoRedoStacks();
-  edit.moveCursor(QTextCursor::Start);
-  touched = false;
+  if (shownVersion_ == page_.Version) return;
+  shownVersion_ = page_.Version;
+  FillDocument(*edit_.document(), ReadRtf(page_.Document));
+  edit_.document()->clearUndoRedoStacks();
+  edit_.moveCursor(QTextCursor::Start);
+  touched_ = false;
 }
 
 }  // namespace zerimo

@@ -7,11 +7,11 @@
 
 namespace zerimo {
 
-/// The list of pages. A press of any button chooses an entry, the nearest one below the last, and shows its page; the
-/// space bar shows the page of the entry that the arrow keys chose.
+/// The list of pages. Pressing any mouse button chooses an entry and shows its page; below the last entry, it chooses
+/// the last. The arrow keys choose an entry, and the space bar shows its page.
 class PageList : public QListWidget {
  public:
-  PageList(QWidget& parent, FileListBox& control, Events& theEvents);
+  PageList(QWidget& parent, FileListBox& control, Events& events);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -20,27 +20,27 @@ class PageList : public QListWidget {
  private:
   void Press();
 
-  FileListBox& list;
-  Events& events;
+  FileListBox& list_;
+  Events& events_;
 };
 
 /// `File1`.
 class FileListView : public ControlView {
  public:
-  FileListView(FileListBox& control, QWidget& parent, Events& theEvents)
-      : ControlView(control, *new PageList(parent, control, theEvents)), list(control) {}
+  FileListView(FileListBox& control, QWidget& parent, Events& events)
+      : ControlView(control, *new PageList(parent, control, events)), list_(control) {}
 
  protected:
   QRect Place(const Room& room) const override { return InPixels(Source()).intersected(room.AboveRows); }
   void SyncLook() override;
 
  private:
-  FileListBox& list;
-  std::vector<std::string> shown;
-  std::string selected;
+  FileListBox& list_;
+  std::vector<std::string> shown_;
+  std::string selected_;
 };
 
-/// The text area of a help page. What is pasted takes the look of the text around it.
+/// The text area of a help page. Pasted text takes the look of the text around it.
 class PageArea : public QTextEdit {
  public:
   using QTextEdit::QTextEdit;
@@ -52,7 +52,7 @@ class PageArea : public QTextEdit {
 /// `RichTextBox1`.
 class PageView : public ControlView {
  public:
-  PageView(RichTextView& control, QWidget& parent, Events& theEvents);
+  PageView(RichTextView& control, QWidget& parent, Events& events);
   void Collect() override;
 
  protected:
@@ -60,10 +60,10 @@ class PageView : public ControlView {
   void SyncLook() override;
 
  private:
-  RichTextView& page;
-  PageArea& edit;
-  std::uint64_t shownVersion = 0;
-  bool touched = false;
+  RichTextView& page_;
+  PageArea& edit_;
+  std::uint64_t shownVersion_ = 0;
+  bool touched_ = false;
 };
 
 }  // namespace zerimo

@@ -11,8 +11,8 @@ namespace zerimo {
 
 namespace {
 
-/// Nobody means more than this of what comes by itself: from a key that something lies on, or from a wheel.
-constexpr std::size_t MostByItself = 1000;
+/// The limit for events that a user may cause without meaning to, such as a book lying on a key.
+constexpr std::size_t MostRepeats = 1000;
 
 bool IsInput(QEvent::Type type) {
   switch (type) {
@@ -43,39 +43,39 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
-/// What means nothing when it arrives late.
-bool IsWorthKeeping(QEvent::Type type) {
+/// A drag, or a shortcut being looked for, can't be answered later.
+bool CanArriveLate(QEvent::Type type) {
   return type != QEvent::ShortcutOverride && type != QEvent::DragEnter && type != QEvent::DragMove &&
          type != QEvent::DragLeave && type != QEvent::Drop;
 }
 
-bool ComesByItself(const QEvent& event) {
+bool Repeats(const QEvent& event) {
   const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
   return event.type() == QEvent::Wheel || (isKey && static_cast<const QKeyEvent&>(event).isAutoRepeat());
 }
 
 }  // namespace
 
-InputHold::InputHold(QWidget& mainWindow) : window(mainWindow) { qApp->installEventFilter(this); }
+InputHold::InputHold(QWidget& mainWindow) : window_(mainWindow) { qApp->installEventFilter(this); }
 
 InputHold::~InputHold() { qApp->removeEventFilter(this); }
 
 void InputHold::End() {
-  holding = false;
-  for (Kept& one : kept) {
+  holding_ = false;
+  for (Kept& one : kept_) {
     if (one.Receiver) QCoreApplication::postEvent(one.Receiver, one.Event.release());
   }
-  kept.clear();
+  kept_.clear();
 }
 
 bool InputHold::IsOfMainWindow(QObject* receiver) const {
-  if (receiver->isWindowType()) return receiver == window.windowHandle();
-  return receiver->isWidgetType() && static_cast<QWidget*>(receiver)->window() == &window;
+  if (receiver->isWindowType()) return receiver == window_.windowHandle();
+  return receiver->isWidgetType() && static_cast<QWidget*>(receiver)->window() == &window_;
 }
 
 bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
-  if (!holding || !IsInput(event->type()) || !IsOfMainWindow(receiver)) return false;
-  if (box != nullptr) {
+  if (!holding_ || !IsInput(event->type()) || !IsOfMainWindow(receiver)) return false;
+  if (box_ != nullptr) {
     CallForBox(*event);
   } else {
     Keep(receiver, *event);
@@ -84,19 +84,19 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void InputHold::Keep(QObject* receiver, const QEvent& event) {
-  if (!IsWorthKeeping(event.type())) return;
-  const bool onlyMoves = event.type() == QEvent::MouseMove && !kept.empty() &&
-                         kept.back().Event->type() == QEvent::MouseMove && kept.back().Receiver == receiver;
-  if (onlyMoves) kept.pop_back();
-  if (kept.size() >= MostByItself && ComesByItself(event)) return;
-  kept.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
+  if (!CanArriveLate(event.type())) return;
+  const bool onlyMoves = event.type() == QEvent::MouseMove && !kept_.empty() &&
+                         kept_.back().Event->type() == QEvent::MouseMove && kept_.back().Receiver == receiver;
+  if (onlyMoves) kept_.pop_back();
+  if (kept_.size() >= MostRepeats && Repeats(event)) return;
+  kept_.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 
 void InputHold::CallForBox(const QEvent& event) {
   if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::KeyPress) return;
-  if (box->isMinimized()) box->showNormal();
-  box->raise();
-  box->activateWindow();
+  if (box_->isMinimized()) box_->showNormal();
+  box_->raise();
+  box_->activateWindow();
   QApplication::beep();
 }
 

@@ -11,21 +11,20 @@ class QWidget;
 
 namespace zerimo {
 
-/// Keeps keys and mouse from the window while a handler of the system runs. What the user types and clicks meanwhile
-/// arrives afterwards, in its order. While a box stands, input to the box goes through, and what is meant for the
-/// window is dropped.
+/// Holds back keys and mouse events for the window while a handler of the system runs, and delivers them afterwards in
+/// order. While a box is open, the box gets its input, and input for the window is dropped.
 class InputHold : public QObject {
  public:
   explicit InputHold(QWidget& mainWindow);
   ~InputHold() override;
 
-  void Begin() { holding = true; }
-  /// Lets what was kept arrive in the event loop.
+  void Begin() { holding_ = true; }
+  /// Posts the events held back.
   void End();
 
-  /// The topmost box that stands, or nothing.
-  QDialog* Box() const { return box; }
-  void SetBox(QDialog* standing) { box = standing; }
+  /// The topmost open box, or null.
+  QDialog* Box() const { return box_; }
+  void SetBox(QDialog* standing) { box_ = standing; }
 
  protected:
   bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -39,10 +38,10 @@ class InputHold : public QObject {
   void Keep(QObject* receiver, const QEvent& event);
   void CallForBox(const QEvent& event);
 
-  QWidget& window;
-  std::deque<Kept> kept;
-  QDialog* box = nullptr;
-  bool holding = false;
+  QWidget& window_;
+  std::deque<Kept> kept_;
+  QDialog* box_ = nullptr;
+  bool holding_ = false;
 };
 
 }  // namespace zerimo

@@ -14,10 +14,10 @@ namespace {
 constexpr double CaptionPoints = 18;
 constexpr double LabelPoints = 9.75;
 
-/// Letters with a dark rim, so that they can be read on any picture.
+/// Letters with a shadow, so that they can be read on any picture.
 class CaptionText final : public QLabel {
  public:
-  CaptionText(QWidget& parent, const Label& control) : QLabel(&parent), label(control) {
+  CaptionText(QWidget& parent, const Label& control) : QLabel(&parent), label_(control) {
     setTextFormat(Qt::PlainText);
     setFont(ControlFont(CaptionPoints, true));
   }
@@ -28,12 +28,12 @@ class CaptionText final : public QLabel {
     const QRect place = rect().adjusted(12, 0, 0, 0);
     painter.setPen(QColor(0, 0, 0, 150));
     painter.drawText(place.translated(2, 2), Qt::AlignVCenter, text());
-    painter.setPen(ToQColor(label.ForeColor));
+    painter.setPen(ToQColor(label_.ForeColor));
     painter.drawText(place, Qt::AlignVCenter, text());
   }
 
  private:
-  const Label& label;
+  const Label& label_;
 };
 
 MouseButton ToMouseButton(Qt::MouseButton button) {
@@ -47,37 +47,37 @@ float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
 }  // namespace
 
 LabelView::LabelView(Label& control, QWidget& parent, Events&)
-    : ControlView(control, *new QLabel(&parent)), label(control), text(static_cast<QLabel&>(Widget())) {
-  text.setTextFormat(Qt::PlainText);
-  text.setFont(ControlFont(LabelPoints));
-  text.setAutoFillBackground(true);
-  text.setMouseTracking(true);
+    : ControlView(control, *new QLabel(&parent)), label_(control), text_(static_cast<QLabel&>(Widget())) {
+  text_.setTextFormat(Qt::PlainText);
+  text_.setFont(ControlFont(LabelPoints));
+  text_.setAutoFillBackground(true);
+  text_.setMouseTracking(true);
 }
 
 void LabelView::SyncLook() {
-  const QString caption = ToQString(label.Caption);
-  if (text.text() != caption) {
-    text.setText(caption);
-    // A control string may be longer than its place.
-    text.setToolTip(text.sizeHint().width() > text.width() ? caption : QString());
+  const QString caption = ToQString(label_.Caption);
+  if (text_.text() != caption) {
+    text_.setText(caption);
+    // A control string may be wider than its label.
+    text_.setToolTip(text_.sizeHint().width() > text_.width() ? caption : QString());
   }
-  ShowColours(text, label.BackColor, label.ForeColor);
+  ShowColours(text_, label_.BackColor, label_.ForeColor);
 }
 
 CaptionView::CaptionView(Label& control, QWidget& parent, Events&)
-    : ControlView(control, *new CaptionText(parent, control)), label(control), text(static_cast<QLabel&>(Widget())) {}
+    : ControlView(control, *new CaptionText(parent, control)), label_(control), text_(static_cast<QLabel&>(Widget())) {}
 
 void CaptionView::SyncLook() {
-  const QString caption = ToQString(label.Caption);
-  if (text.text() != caption) text.setText(caption);
+  const QString caption = ToQString(label_.Caption);
+  if (text_.text() != caption) text_.setText(caption);
 }
 
-PressLabel::PressLabel(QWidget& parent, Label& control, Events& theEvents)
-    : QAbstractButton(&parent), label(control), events(theEvents) {
+PressLabel::PressLabel(QWidget& parent, Label& control, Events& events)
+    : QAbstractButton(&parent), label_(control), events_(events) {
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
   setFont(ControlFont(LabelPoints, true));
-  // What a screen reader presses; the mouse and the keys have their own ways below.
+  // For screen readers; mouse and keys have their own handlers below.
   QObject::connect(this, &QAbstractButton::clicked, this, [this] { PressWithKey(false, false); });
 }
 
@@ -86,20 +86,20 @@ void PressLabel::Sync() {
     return one.BackColor == other.BackColor && one.ForeColor == other.ForeColor &&
            one.BorderStyle == other.BorderStyle && one.Caption == other.Caption;
   };
-  if (sameLook(shown, label)) return;
-  shown.BackColor = label.BackColor;
-  shown.ForeColor = label.ForeColor;
-  shown.BorderStyle = label.BorderStyle;
-  shown.Caption = label.Caption;
+  if (sameLook(shown_, label_)) return;
+  shown_.BackColor = label_.BackColor;
+  shown_.ForeColor = label_.ForeColor;
+  shown_.BorderStyle = label_.BorderStyle;
+  shown_.Caption = label_.Caption;
   update();
 }
 
 void PressLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor back = ToQColor(label.BackColor);
+  const QColor back = ToQColor(label_.BackColor);
   painter.fillRect(rect(), back);
   const QRect edge = rect().adjusted(0, 0, -1, -1);
-  if (label.BorderStyle != 0) {
+  if (label_.BorderStyle != 0) {
     painter.setPen(QColor(64, 64, 64));
     painter.drawRect(edge);
   }
@@ -107,13 +107,13 @@ void PressLabel::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(ReadableOn(back), 1, Qt::DotLine));
     painter.drawRect(edge.adjusted(5, 5, -5, -5));
   }
-  painter.setPen(ToQColor(label.ForeColor));
-  painter.drawText(rect(), Qt::AlignCenter, ToQString(label.Caption));
+  painter.setPen(ToQColor(label_.ForeColor));
+  painter.drawText(rect(), Qt::AlignCenter, ToQString(label_.Caption));
 }
 
 void PressLabel::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
-  events.Deliver([&](Form1& form1) { form1.MouseMove(label, Units(at.x()), Units(at.y())); });
+  events_.Deliver([&](Form1& form1) { form1.MouseMove(label_, Units(at.x()), Units(at.y())); });
 }
 
 void PressLabel::mousePressEvent(QMouseEvent* event) {
@@ -123,11 +123,11 @@ void PressLabel::mousePressEvent(QMouseEvent* event) {
 
 void PressLabel::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-  events.Deliver([this](Form1& form1) { form1.Click(label); });
+  events_.Deliver([this](Form1& form1) { form1.Click(label_); });
 }
 
 void PressLabel::Press(MouseButton button, bool shift, QPoint at) {
-  events.Deliver([&](Form1& form1) { form1.MouseDown(label, button, shift, Units(at.x()), Units(at.y())); });
+  events_.Deliver([&](Form1& form1) { form1.MouseDown(label_, button, shift, Units(at.x()), Units(at.y())); });
 }
 
 void PressLabel::keyPressEvent(QKeyEvent* event) {
@@ -138,13 +138,13 @@ void PressLabel::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) return event->ignore();
-  // The key with Ctrl is the right button.
+  // With Ctrl, the key stands for the right button.
   PressWithKey(event->modifiers().testFlag(Qt::ControlModifier), event->modifiers().testFlag(Qt::ShiftModifier));
 }
 
 void PressLabel::PressWithKey(bool right, bool shift) {
   Press(right ? MouseButton::Right : MouseButton::Left, shift, rect().center());
-  if (!right && !shift) events.Deliver([this](Form1& form1) { form1.Click(label); });
+  if (!right && !shift) events_.Deliver([this](Form1& form1) { form1.Click(label_); });
 }
 
 }  // namespace zerimo

@@ -7,39 +7,39 @@
 
 namespace zerimo {
 
-/// A line of text that is read.
+/// A line of text.
 class LabelView : public ControlView {
  public:
-  LabelView(Label& control, QWidget& parent, Events& theEvents);
+  LabelView(Label& control, QWidget& parent, Events& events);
 
  protected:
   void SyncLook() override;
 
  private:
-  Label& label;
-  QLabel& text;
+  Label& label_;
+  QLabel& text_;
 };
 
-/// A title caption: its letters alone, above whatever lies below.
+/// A title caption: letters without a background.
 class CaptionView : public ControlView {
  public:
-  CaptionView(Label& control, QWidget& parent, Events& theEvents);
+  CaptionView(Label& control, QWidget& parent, Events& events);
 
  protected:
   void SyncLook() override;
 
  private:
-  Label& label;
-  QLabel& text;
+  Label& label_;
+  QLabel& text_;
 };
 
-/// A part of the palette that the mouse marks and presses: a colour square, or "Apply". The keyboard reaches it with
-/// Tab, and presses it with Space or Enter.
+/// A part of the palette that can be pressed: a colour square, or "Apply". The keyboard reaches it with Tab and presses
+/// it with Space or Enter.
 class PressLabel : public QAbstractButton {
  public:
-  PressLabel(QWidget& parent, Label& control, Events& theEvents);
+  PressLabel(QWidget& parent, Label& control, Events& events);
 
-  /// Draws the label if it has changed.
+  /// Repaints the label if it has changed.
   void Sync();
 
  protected:
@@ -53,15 +53,15 @@ class PressLabel : public QAbstractButton {
   void Press(MouseButton button, bool shift, QPoint at);
   void PressWithKey(bool right, bool shift);
 
-  Label& label;
-  Events& events;
-  Label shown{"shown"};
+  Label& label_;
+  Events& events_;
+  Label shown_{"shown"};
 };
 
 class PressView : public ControlView {
  public:
-  PressView(Label& control, QWidget& parent, Events& theEvents)
-      : ControlView(control, *new PressLabel(parent, control, theEvents)) {}
+  PressView(Label& control, QWidget& parent, Events& events)
+      : ControlView(control, *new PressLabel(parent, control, events)) {}
 
  protected:
   void SyncLook() override { static_cast<PressLabel&>(Widget()).Sync(); }

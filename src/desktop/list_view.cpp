@@ -11,70 +11,70 @@ namespace zerimo {
 namespace {
 
 constexpr int EntryMargin = 12;
-/// Lists with letters of this size and up are read from afar and bold.
+/// From this size in points up, letters are bold.
 constexpr double BoldFrom = 12;
 
 }  // namespace
 
 bool ListEntries::Sync() {
-  if (version == list.Version()) return false;
-  const std::vector<std::string>& items = list.Items();
+  if (version_ == list_.Version()) return false;
+  const std::vector<std::string>& items = list_.Items();
   const auto count = static_cast<int>(items.size());
-  if (clearings == list.Clearings() && count >= rows) {
-    const int old = rows;
+  if (clearings_ == list_.Clearings() && count >= rows_) {
+    const int old = rows_;
     if (count > old) beginInsertRows({}, old, count - 1);
-    rows = count;
+    rows_ = count;
     Measure(static_cast<std::size_t>(old));
     if (count > old) endInsertRows();
   } else {
     beginResetModel();
-    rows = count;
-    widest = 0;
+    rows_ = count;
+    widest_ = 0;
     Measure(0);
     endResetModel();
   }
-  version = list.Version();
-  clearings = list.Clearings();
+  version_ = list_.Version();
+  clearings_ = list_.Clearings();
   return true;
 }
 
-void ListEntries::SetFont(const QFont& newFont) {
-  font = newFont;
-  widest = 0;
-  if (rows > 0) Measure(0);
+void ListEntries::SetFont(const QFont& font) {
+  font_ = font;
+  widest_ = 0;
+  if (rows_ > 0) Measure(0);
 }
 
 void ListEntries::Measure(std::size_t from) {
-  const QFontMetrics metrics(font);
-  const std::vector<std::string>& items = list.Items();
+  const QFontMetrics metrics(font_);
+  const std::vector<std::string>& items = list_.Items();
   for (std::size_t i = from; i < items.size(); ++i) {
-    widest = std::max(widest, metrics.horizontalAdvance(ToQString(items[i])));
+    widest_ = std::max(widest_, metrics.horizontalAdvance(ToQString(items[i])));
   }
 }
 
-int ListEntries::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows; }
+int ListEntries::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 QVariant ListEntries::data(const QModelIndex& index, int role) const {
-  // All entries are as wide as the widest, so that the view need not measure them all again.
-  if (role == Qt::SizeHintRole) return QSize(widest + EntryMargin, QFontMetrics(font).height() + 1);
+  // All entries get the width of the widest, so that the view need not measure each again.
+  if (role == Qt::SizeHintRole) return QSize(widest_ + EntryMargin, QFontMetrics(font_).height() + 1);
   if (role != Qt::DisplayRole) return {};
-  const std::vector<std::string>& items = list.Items();
+  const std::vector<std::string>& items = list_.Items();
   const auto row = static_cast<std::size_t>(index.row());
   return row < items.size() ? QVariant(ToQString(items[row])) : QVariant();
 }
 
-ListBoxView::ListBoxView(ListBox& listBox, QWidget& parent, Events& theEvents)
-    : ControlView(listBox, *new QListView(&parent)),
-      list(listBox),
-      view(static_cast<QListView&>(Widget())),
-      entries(listBox) {
-  view.setUniformItemSizes(true);
-  view.setEditTriggers(QAbstractItemView::NoEditTriggers);
-  view.setTextElideMode(Qt::ElideNone);
-  view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  view.setModel(&entries);
-  QObject::connect(&view, &QListView::clicked, &view,
-                   [this, &theEvents] { theEvents.Deliver([this](Form1& form1) { form1.Click(list); }); });
+ListBoxView::ListBoxView(ListBox& list, QWidget& parent, Events& events)
+    : ControlView(list, *new QListView(&parent)),
+      list_(list),
+      view_(static_cast<QListView&>(Widget())),
+      entries_(list) {
+  view_.setUniformItemSizes(true);
+  view_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view_.setTextElideMode(Qt::ElideNone);
+  view_.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  view_.setModel(&entries_);
+  QObject::connect(&view_, &QListView::clicked, &view_,
+                   [this, &events] { events.Deliver([this](Form1& form1) { form1.Click(list_); }); });
 }
 
 QRect ListBoxView::Place(const Room& room) const {
@@ -83,24 +83,24 @@ QRect ListBoxView::Place(const Room& room) const {
 }
 
 void ListBoxView::SyncLook() {
-  const QFont font = ControlFont(list.FontSize, list.FontSize >= BoldFrom);
-  if (view.font() != font) {
-    view.setFont(font);
-    entries.SetFont(font);
+  const QFont font = ControlFont(list_.FontSize, list_.FontSize >= BoldFrom);
+  if (view_.font() != font) {
+    view_.setFont(font);
+    entries_.SetFont(font);
   }
-  ShowColours(view, list.BackColor, list.ForeColor);
-  if (list.IsOnScreen()) ShowEntries();
+  ShowColours(view_, list_.BackColor, list_.ForeColor);
+  if (list_.IsOnScreen()) ShowEntries();
 }
 
 void ListBoxView::ShowEntries() {
-  QScrollBar& bar = *view.verticalScrollBar();
+  QScrollBar& bar = *view_.verticalScrollBar();
   const bool wasAtEnd = bar.value() == bar.maximum();
   const int before = bar.value();
-  const int oldRows = entries.rowCount();
-  if (!entries.Sync()) return;
-  // The history stays at its end; a list that is filled anew stays where the reader was.
-  if (list.Panel() == nullptr && (wasAtEnd || oldRows == 0)) return view.scrollToBottom();
-  view.doItemsLayout();
+  const int oldRows = entries_.rowCount();
+  if (!entries_.Sync()) return;
+  // The history follows its end; a list that is refilled stays where the reader was.
+  if (list_.Panel() == nullptr && (wasAtEnd || oldRows == 0)) return view_.scrollToBottom();
+  view_.doItemsLayout();
   bar.setValue(before);
 }
 

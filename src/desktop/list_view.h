@@ -7,15 +7,15 @@
 
 namespace zerimo {
 
-/// The entries of a list box for the toolkit. It tells of new entries only when `Sync` is called, and asks the list
-/// for them only then: a list that nobody looks at costs nothing.
+/// The entries of a list box as a model for the toolkit. Only `Sync` asks the list for its entries, so that a list that
+/// is not on the screen costs nothing.
 class ListEntries : public QAbstractListModel {
  public:
-  explicit ListEntries(const ListBox& listBox) : list(listBox) {}
+  explicit ListEntries(const ListBox& list) : list_(list) {}
 
-  /// Tells whether anything is new.
+  /// Takes over new entries. Tells whether anything has changed.
   bool Sync();
-  void SetFont(const QFont& font);
+  void SetFont(const QFont& font_);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -23,18 +23,18 @@ class ListEntries : public QAbstractListModel {
  private:
   void Measure(std::size_t from);
 
-  const ListBox& list;
-  QFont font;
-  std::uint64_t version = 0;
-  std::uint64_t clearings = 0;
-  int rows = 0;
-  int widest = 0;
+  const ListBox& list_;
+  QFont font_;
+  std::uint64_t version_ = 0;
+  std::uint64_t clearings_ = 0;
+  int rows_ = 0;
+  int widest_ = 0;
 };
 
 /// The history, and the lists of the diagnosis panel.
 class ListBoxView : public ControlView {
  public:
-  ListBoxView(ListBox& listBox, QWidget& parent, Events& theEvents);
+  ListBoxView(ListBox& list, QWidget& parent, Events& events);
 
  protected:
   QRect Place(const Room& room) const override;
@@ -43,9 +43,9 @@ class ListBoxView : public ControlView {
  private:
   void ShowEntries();
 
-  ListBox& list;
-  QListView& view;
-  ListEntries entries;
+  ListBox& list_;
+  QListView& view_;
+  ListEntries entries_;
 };
 
 }  // namespace zerimo

@@ -23,13 +23,13 @@ namespace zerimo {
 
 namespace {
 
-/// How long after its appearance the window takes care to fill the area: window managers add the frame late.
+/// When the window checks that it fills the area, in milliseconds after it appears: window managers add the frame late.
 constexpr int FittingTimes[] = {0, 50, 150, 400, 1000};
 constexpr QSize SmallestWindow(320, 240);
-/// What shows where no control lies.
+/// The colour where no control lies.
 constexpr QColor Ground(0, 0, 80);
 
-/// Not a key that only changes others, nor one that moves the focus itself.
+/// Modifier keys do not, nor do keys that move the focus themselves.
 bool CallsForFocus(const QKeyEvent& press) {
   switch (press.key()) {
     case Qt::Key_Tab:
@@ -42,66 +42,66 @@ bool CallsForFocus(const QKeyEvent& press) {
 
 }  // namespace
 
-MainWindow::MainWindow(Form1& form, ImageCanvas& canvas, Events& theEvents, const QRect& availableArea)
-    : form1(form), events(theEvents), available(availableArea), lastRow(&form.controls.Text1[0]) {
+MainWindow::MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& availableArea)
+    : form1_(form1), events_(events), available_(availableArea), lastRow_(&form1.controls.Text1[0]) {
   setWindowIcon(ProgramIcon());
   setMinimumSize(SmallestWindow);
   installEventFilter(this);
-  setGeometry(available);
+  setGeometry(available_);
   Build(canvas);
 }
 
 void MainWindow::Sync() {
-  if (syncing) return;
-  syncing = true;
-  const QString caption = ToQString(form1.controls.Form1.Caption());
+  if (syncing_) return;
+  syncing_ = true;
+  const QString caption = ToQString(form1_.controls.Form1.Caption());
   if (windowTitle() != caption) setWindowTitle(caption);
   SyncPlace();
   const Room room = RoomNow();
-  for (const auto& view : views) view->Sync(room);
-  paletteShapes->Sync();
+  for (const auto& view : views_) view->Sync(room);
+  paletteShapes_->Sync();
   SyncFocus();
-  syncing = false;
+  syncing_ = false;
 }
 
 void MainWindow::Collect() {
-  for (const auto& view : views) view->Collect();
+  for (const auto& view : views_) view->Collect();
 }
 
 ControlView* MainWindow::FindView(const Control& control) const {
-  const auto found = viewOf.find(&control);
-  return found == viewOf.end() ? nullptr : found->second;
+  const auto found = viewOf_.find(&control);
+  return found == viewOf_.end() ? nullptr : found->second;
 }
 
 Room MainWindow::RoomNow() const {
   Room room{rect(), rect()};
-  const Control& rows = form1.controls.Picture3;
+  const Control& rows = form1_.controls.Picture3;
   if (rows.Visible()) room.AboveRows.setBottom(RowsPanelView::PlaceIn(rows, rect()).top() - 1);
   return room;
 }
 
 void MainWindow::SyncPlace() {
-  const QPointF wanted(static_cast<double>(form1.controls.Form1.Left), static_cast<double>(form1.controls.Form1.Top));
-  if (wanted == shownPlace) return;
-  shownPlace = wanted;
-  move(available.topLeft() + (wanted / UnitsPerPixel).toPoint());
+  const QPointF wanted(static_cast<double>(form1_.controls.Form1.Left), static_cast<double>(form1_.controls.Form1.Top));
+  if (wanted == shownPlace_) return;
+  shownPlace_ = wanted;
+  move(available_.topLeft() + (wanted / UnitsPerPixel).toPoint());
 }
 
 void MainWindow::SyncFocus() {
-  Control* holder = form1.controls.Focus.Focus();
+  Control* holder = form1_.controls.Focus.Focus();
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
-  if (holder != nullptr && holder->Panel() == &form1.controls.Picture3) lastRow = holder;
+  if (holder != nullptr && holder->Panel() == &form1_.controls.Picture3) lastRow_ = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
   if (focusWidget() == &wanted) return;
   wanted.setFocus(Qt::OtherFocusReason);
-  // Where the learner did not go himself, what he types takes the place of the old line.
+  // Unless an arrow key led here, typing replaces the old line.
   auto* row = dynamic_cast<RowEdit*>(&wanted);
-  if (row != nullptr && !walking) row->selectAll();
+  if (row != nullptr && !walking_) row->selectAll();
 }
 
 void MainWindow::DescribeTurtle() {
-  const Turtle& turtle = form1.turtle;
-  const Control& form = form1.controls.Form1;
+  const Turtle& turtle = form1_.turtle;
+  const Control& form = form1_.controls.Form1;
   const auto steps = [&](double units) {
     return QString::number(turtle.Resolution == 0 ? 0 : units / turtle.Resolution, 'f', 1);
   };
@@ -109,7 +109,7 @@ void MainWindow::DescribeTurtle() {
                             .arg(steps(turtle.TurtleX - static_cast<double>(form.Width) / 2),
                                  steps(static_cast<double>(form.Height()) / 2 - turtle.TurtleY),
                                  QString::number(turtle.TurtleDir * 180 / std::numbers::pi, 'f', 0));
-  QWidget& surface = WidgetOf(form1.Picture1);
+  QWidget& surface = WidgetOf(form1_.Picture1);
   if (surface.accessibleDescription() != words) surface.setAccessibleDescription(words);
 }
 
@@ -124,9 +124,9 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 
 bool MainWindow::focusNextPrevChild(bool next) {
   if (focusWidget() != this) return QWidget::focusNextPrevChild(next);
-  // From nothing to the first that can be seen.
-  const auto first = std::find_if(tabStops.begin(), tabStops.end(), [](QWidget* stop) { return stop->isVisible(); });
-  if (first == tabStops.end()) return false;
+  // With nothing focused, Tab goes to the first visible stop.
+  const auto first = std::find_if(tabStops_.begin(), tabStops_.end(), [](QWidget* stop) { return stop->isVisible(); });
+  if (first == tabStops_.end()) return false;
   (*first)->setFocus(Qt::TabFocusReason);
   return true;
 }
@@ -134,75 +134,76 @@ bool MainWindow::focusNextPrevChild(bool next) {
 bool MainWindow::HandOn(QKeyEvent& press) {
   if (focusWidget() != this || !CallsForFocus(press)) return false;
   Control& receiver = KeyReceiver();
-  events.Deliver([&](Form1& form) { form.controls.Focus.SetFocus(receiver); });
+  events_.Deliver([&](Form1& form1) { form1.controls.Focus.SetFocus(receiver); });
   if (focusWidget() == this) return false;
   QCoreApplication::sendEvent(focusWidget(), &press);
   return true;
 }
 
 Control& MainWindow::KeyReceiver() const {
-  Controls& controls = form1.controls;
-  // From the top down.
-  for (Control* control : {static_cast<Control*>(&controls.Text2), static_cast<Control*>(lastRow),
+  Controls& controls = form1_.controls;
+  // In stacking order, topmost first.
+  for (Control* control : {static_cast<Control*>(&controls.Text2), static_cast<Control*>(lastRow_),
                            static_cast<Control*>(&controls.RichTextBox1), static_cast<Control*>(&controls.List4)}) {
     if (control->IsOnScreen()) return *control;
   }
-  return form1.Picture1;
+  return form1_.Picture1;
 }
 
 bool MainWindow::PressKey(QObject* widget, int keyCode) {
   ControlView* view = ViewOfWidget(widget);
-  // A key that a control leaves over comes up here once more.
+  // A key that a widget ignores arrives here again from the window; it has been handled already.
   if (keyCode == 0 || (view == nullptr && focusWidget() != this)) return false;
-  walking = keyCode == key::Up || keyCode == key::Down;
-  events.Deliver([&](Form1& form) {
-    form.KeyDown(form.controls.Form1, keyCode);
-    if (view != nullptr) form.KeyDown(view->Source(), keyCode);
+  walking_ = keyCode == key::Up || keyCode == key::Down;
+  events_.Deliver([&](Form1& form1) {
+    form1.KeyDown(form1.controls.Form1, keyCode);
+    if (view != nullptr) form1.KeyDown(view->Source(), keyCode);
   });
-  walking = false;
+  walking_ = false;
   if (keyCode >= key::F1 || keyCode == key::Esc || view == nullptr) return true;
   auto* button = qobject_cast<QPushButton*>(widget);
   if (button != nullptr && keyCode == key::Enter) button->click();
-  // What the keys of the table mean on a row, no row does itself; in lists and in the editor they move on. A key that
-  // took the focus away is not for what is below.
+  // On a row, the line edit must not handle Up, Down and Enter as well; lists and the editor may. If the key has moved
+  // the focus, the widget that had it must not see the key.
   return qobject_cast<QLineEdit*>(widget) != nullptr || focusWidget() != widget;
 }
 
 void MainWindow::TakeFocus(QObject* widget, Qt::FocusReason reason) {
-  // When the window or a box comes and goes, the focus stays where it was.
+  // Opening and closing windows and boxes must not move the system's focus.
   const bool isOfUser = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
   ControlView* view = ViewOfWidget(widget);
-  if (syncing || !isOfUser || view == nullptr || !view->Source().IsOnScreen()) return;
-  if (form1.controls.Focus.Focus() == &view->Source()) return;
-  events.Deliver([&](Form1& form) { form.controls.Focus.SetFocus(view->Source()); });
+  if (syncing_ || !isOfUser || view == nullptr || !view->Source().IsOnScreen()) return;
+  if (form1_.controls.Focus.Focus() == &view->Source()) return;
+  events_.Deliver([&](Form1& form1) { form1.controls.Focus.SetFocus(view->Source()); });
 }
 
 ControlView* MainWindow::ViewOfWidget(QObject* widget) const {
-  const auto found = viewOfWidget.find(widget);
-  return found == viewOfWidget.end() ? nullptr : found->second;
+  const auto found = viewOfWidget_.find(widget);
+  return found == viewOfWidget_.end() ? nullptr : found->second;
 }
 
 void MainWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   for (const int time : FittingTimes) QTimer::singleShot(time, this, [this] { FillAvailableArea(); });
-  QTimer::singleShot(FittingTimes[std::size(FittingTimes) - 1] + 1, this, [this] { fitted = true; });
+  QTimer::singleShot(FittingTimes[std::size(FittingTimes) - 1] + 1, this, [this] { fitted_ = true; });
 }
 
 void MainWindow::FillAvailableArea() {
-  if (fitted || windowHandle() == nullptr || isMaximized() || isFullScreen()) return;
+  if (fitted_ || windowHandle() == nullptr || isMaximized() || isFullScreen()) return;
   const QMargins frame = windowHandle()->frameMargins();
-  const QRect client = available.marginsRemoved(frame);
+  const QRect client = available_.marginsRemoved(frame);
   if (size() != client.size()) resize(client.size());
-  if (frameGeometry().topLeft() != available.topLeft()) move(available.topLeft());
+  if (frameGeometry().topLeft() != available_.topLeft()) move(available_.topLeft());
 }
 
 void MainWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (!fitted || syncing) return;
-  const QPoint moved = frameGeometry().topLeft() - available.topLeft();
-  form1.controls.Form1.Left = static_cast<float>(moved.x() * UnitsPerPixel);
-  form1.controls.Form1.Top = static_cast<float>(moved.y() * UnitsPerPixel);
-  shownPlace = QPointF(static_cast<double>(form1.controls.Form1.Left), static_cast<double>(form1.controls.Form1.Top));
+  if (!fitted_ || syncing_) return;
+  const QPoint moved = frameGeometry().topLeft() - available_.topLeft();
+  form1_.controls.Form1.Left = static_cast<float>(moved.x() * UnitsPerPixel);
+  form1_.controls.Form1.Top = static_cast<float>(moved.y() * UnitsPerPixel);
+  shownPlace_ =
+      QPointF(static_cast<double>(form1_.controls.Form1.Left), static_cast<double>(form1_.controls.Form1.Top));
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -212,6 +213,6 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::paintEvent(QPaintEvent* event) { QPainter(this).fillRect(event->rect(), Ground); }
 
-void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(events.Close()); }
+void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(events_.Close()); }
 
 }  // namespace zerimo

@@ -11,13 +11,13 @@
 
 namespace zerimo {
 
-/// The window: one widget for each control, and nothing that the controls do not say.
+/// The window: one widget for each control, showing what the control says.
 class MainWindow : public QWidget {
  public:
-  /// `availableArea` is what the desktop leaves free of the screen; the window's frame fills it.
-  MainWindow(Form1& form, ImageCanvas& canvas, Events& theEvents, const QRect& availableArea);
+  /// `availableArea` is the part of the screen that the desktop leaves free; the window with its frame fills it.
+  MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& availableArea);
 
-  /// Copies what has changed from the controls to the widgets; at most one widget has the focus, as the data says.
+  /// Copies what has changed from the controls, and the focus, to the widgets.
   void Sync();
   /// Copies what the user changed from the widgets to the controls.
   void Collect();
@@ -25,7 +25,7 @@ class MainWindow : public QWidget {
   /// Tells a screen reader where the turtle is.
   void DescribeTurtle();
 
-  /// The view of a control, or nothing.
+  /// The view of a control, or null.
   ControlView* FindView(const Control& control) const;
   QWidget& WidgetOf(const Control& control) const { return FindView(control)->Widget(); }
 
@@ -57,32 +57,33 @@ class MainWindow : public QWidget {
   void SyncPlace();
   void SyncFocus();
   void FillAvailableArea();
-  /// Where nothing has the focus, a key gives it to what the learner looks at, and goes there. Tells whether it did.
+  /// If no control has the focus, gives it to the one that the learner is looking at, and sends the key there. Tells
+  /// whether it did.
   bool HandOn(QKeyEvent& press);
-  /// The uppermost of the big controls: the editor, the row that had the focus last, the help page, the text screen,
-  /// the surface.
+  /// The first of these that is on the screen: the editor, the row that had the focus last, the help page, the text
+  /// screen, the surface.
   Control& KeyReceiver() const;
   bool PressKey(QObject* widget, int keyCode);
   void TakeFocus(QObject* widget, Qt::FocusReason reason);
   ControlView* ViewOfWidget(QObject* widget) const;
 
-  Form1& form1;
-  Events& events;
-  const QRect available;
-  std::vector<std::unique_ptr<ControlView>> views;
-  std::unordered_map<const Control*, ControlView*> viewOf;
-  std::unordered_map<const QObject*, ControlView*> viewOfWidget;
-  /// Where the Tab key goes, in order.
-  std::vector<QWidget*> tabStops;
-  PaletteShapes* paletteShapes = nullptr;
-  /// Where the window's data was when the window last stood there.
-  QPointF shownPlace;
+  Form1& form1_;
+  Events& events_;
+  const QRect available_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::unordered_map<const Control*, ControlView*> viewOf_;
+  std::unordered_map<const QObject*, ControlView*> viewOfWidget_;
+  /// The stops of the Tab key, in order.
+  std::vector<QWidget*> tabStops_;
+  PaletteShapes* paletteShapes_ = nullptr;
+  /// The place in the data that the window was last moved to, in surface units.
+  QPointF shownPlace_;
   /// The row that had the focus last.
-  Control* lastRow;
-  /// While an arrow key moves the focus from row to row: a line that is to be changed keeps its caret.
-  bool walking = false;
-  bool syncing = false;
-  bool fitted = false;
+  Control* lastRow_;
+  /// Set while an arrow key moves the focus from row to row, so that the line reached is not selected.
+  bool walking_ = false;
+  bool syncing_ = false;
+  bool fitted_ = false;
 };
 
 }  // namespace zerimo

@@ -13,9 +13,9 @@
 
 namespace zerimo {
 
-/// The later a control is added, the higher it lies.
+/// Controls added later lie above earlier ones.
 void MainWindow::Build(ImageCanvas& canvas) {
-  viewOf.reserve(128);
+  viewOf_.reserve(128);
   BuildSurface(canvas);
   BuildTextScreens();
   BuildDiagnosis();
@@ -27,7 +27,7 @@ void MainWindow::Build(ImageCanvas& canvas) {
 template <typename View, typename Source>
 void MainWindow::Add(Source& control) {
   QWidget& parent = control.Panel() == nullptr ? static_cast<QWidget&>(*this) : WidgetOf(*control.Panel());
-  Register(std::make_unique<View>(control, parent, events));
+  Register(std::make_unique<View>(control, parent, events_));
 }
 
 template <typename View, typename... Arrays>
@@ -41,9 +41,9 @@ void MainWindow::AddAll(Arrays&... arrays) {
 void MainWindow::Register(std::unique_ptr<ControlView> view) {
   view->Widget().installEventFilter(this);
   Describe(*view);
-  viewOf[&view->Source()] = view.get();
-  viewOfWidget[&view->Widget()] = view.get();
-  views.push_back(std::move(view));
+  viewOf_[&view->Source()] = view.get();
+  viewOfWidget_[&view->Widget()] = view.get();
+  views_.push_back(std::move(view));
 }
 
 void MainWindow::Describe(const ControlView& view) {
@@ -60,18 +60,18 @@ void MainWindow::Describe(const ControlView& view) {
 }
 
 void MainWindow::BuildSurface(ImageCanvas& canvas) {
-  Register(std::make_unique<SurfaceView>(form1, *this, canvas, events));
-  AddAll<CaptionView>(form1.controls.Label20);
+  Register(std::make_unique<SurfaceView>(form1_, *this, canvas, events_));
+  AddAll<CaptionView>(form1_.controls.Label20);
 }
 
 void MainWindow::BuildTextScreens() {
-  Add<ListBoxView>(form1.controls.List4);
-  Add<FileListView>(form1.controls.File1);
-  Add<PageView>(form1.controls.RichTextBox1);
+  Add<ListBoxView>(form1_.controls.List4);
+  Add<FileListView>(form1_.controls.File1);
+  Add<PageView>(form1_.controls.RichTextBox1);
 }
 
 void MainWindow::BuildDiagnosis() {
-  Controls& controls = form1.controls;
+  Controls& controls = form1_.controls;
   Add<FramePanelView>(controls.Frame1);
   AddAll<LabelView>(controls.Label12);
   for (ListBox* list : {&controls.List1, &controls.List2, &controls.List3}) Add<ListBoxView>(*list);
@@ -87,40 +87,40 @@ void MainWindow::BuildDiagnosis() {
 }
 
 void MainWindow::BuildRows() {
-  Controls& controls = form1.controls;
+  Controls& controls = form1_.controls;
   Add<RowsPanelView>(controls.Picture3);
   Add<PromptView>(controls.Prompt);
   AddAll<RowView>(controls.Text1);
-  // The editor covers all but a strip; the panel is hidden then.
+  // Above the rows, since the editor covers nearly the whole window.
   Add<EditorView>(controls.Text2);
 }
 
 void MainWindow::BuildPalette() {
-  Controls& controls = form1.controls;
+  Controls& controls = form1_.controls;
   Add<PaletteView>(controls.Picture2);
   Add<LabelView>(controls.Label16);
   AddAll<PressView>(controls.Label13);
   Add<LabelView>(controls.Label15);
   Add<PressView>(controls.Label14);
   for (Button* button : {&controls.Command4, &controls.Command5, &controls.Command3}) Add<ButtonView>(*button);
-  paletteShapes = new PaletteShapes(WidgetOf(controls.Picture2), controls);
+  paletteShapes_ = new PaletteShapes(WidgetOf(controls.Picture2), controls);
 }
 
 void MainWindow::SetTabOrder() {
-  Controls& controls = form1.controls;
+  Controls& controls = form1_.controls;
   const auto follow = [&](const Control& control) {
     QWidget& stop = WidgetOf(control);
     if (stop.focusPolicy() == Qt::NoFocus) return;
-    if (!tabStops.empty()) QWidget::setTabOrder(tabStops.back(), &stop);
-    tabStops.push_back(&stop);
+    if (!tabStops_.empty()) QWidget::setTabOrder(tabStops_.back(), &stop);
+    tabStops_.push_back(&stop);
   };
-  // The rows come first, then what may lie above the surface, and the surface itself.
+  // The rows come first, then the panels and screens above the surface, then the surface.
   for (int row = 0; row < controls.Text1.Size; ++row) follow(controls.Text1[row]);
-  for (const auto& view : views) {
+  for (const auto& view : views_) {
     const bool isRow = view->Source().Panel() == &controls.Picture3;
-    if (!isRow && &view->Source() != &form1.Picture1) follow(view->Source());
+    if (!isRow && &view->Source() != &form1_.Picture1) follow(view->Source());
   }
-  follow(form1.Picture1);
+  follow(form1_.Picture1);
 }
 
 }  // namespace zerimo

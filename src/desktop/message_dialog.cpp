@@ -15,7 +15,7 @@ constexpr int MostLines = 24;
 constexpr QSize ScrolledSize(520, 360);
 constexpr int IconMask = box::Critical | box::Information;
 
-/// Short texts leave room for the title.
+/// In pixels; makes room for the title above a short text.
 constexpr int LeastWidth = 200;
 
 struct ButtonFacts {
@@ -23,7 +23,7 @@ struct ButtonFacts {
   int Style;
   Answer Chosen;
   const char* Text;
-  /// What closing the box means.
+  /// Whether closing the box means this button.
   bool IsEscape;
 };
 
@@ -57,13 +57,13 @@ MessageDialog::MessageDialog(QWidget& parent, const QString& text, int style, co
 void MessageDialog::AddButtons(int style) {
   for (const ButtonFacts& facts : Buttons) {
     if (facts.Style != style) continue;
-    // Buttons of one role stand in the order in which they are added.
+    // Buttons that share a role keep the order in which they are added.
     QPushButton* button = addButton(QLatin1String(facts.Text), QMessageBox::ActionRole);
-    answers.emplace_back(button, facts.Chosen);
+    answers_.emplace_back(button, facts.Chosen);
     if (defaultButton() == nullptr) setDefaultButton(button);
     if (!facts.IsEscape) continue;
     setEscapeButton(button);
-    closed = facts.Chosen;
+    closed_ = facts.Chosen;
   }
 }
 
@@ -73,16 +73,16 @@ void MessageDialog::ShowText(const QString& text) {
   area->setReadOnly(true);
   area->setMinimumSize(ScrolledSize);
   area->setTabChangesFocus(true);
-  // Between the text's place and the buttons.
+  // Between the label and the buttons.
   auto* grid = static_cast<QGridLayout*>(layout());
   grid->addWidget(area, 1, 0, 1, grid->columnCount());
 }
 
 Answer MessageDialog::Chosen() const {
-  for (const auto& [button, answer] : answers) {
+  for (const auto& [button, answer] : answers_) {
     if (button == clickedButton()) return answer;
   }
-  return closed;
+  return closed_;
 }
 
 }  // namespace zerimo

@@ -8,20 +8,20 @@
 
 namespace zerimo {
 
-/// A message box with the buttons and the icon of a style. A text that is too long for the screen can be scrolled.
+/// A message box with the buttons and icon of a style. A text too long for the screen can be scrolled.
 class MessageDialog : public QMessageBox {
  public:
   MessageDialog(QWidget& parent, const QString& text, int style, const QString& title);
 
-  /// The answer: that of the button pressed. A box that is closed otherwise is answered `OK`, `Ignore` or `No`.
+  /// The answer of the button pressed. Closing the box otherwise answers `OK`, `Ignore` or `No`.
   Answer Chosen() const;
 
  private:
   void AddButtons(int style);
   void ShowText(const QString& text);
 
-  std::vector<std::pair<QAbstractButton*, Answer>> answers;
-  Answer closed = Answer::OK;
+  std::vector<std::pair<QAbstractButton*, Answer>> answers_;
+  Answer closed_ = Answer::OK;
 };
 
 }  // namespace zerimo

@@ -10,12 +10,12 @@ class QPainter;
 
 namespace zerimo {
 
-/// What lies above the surface and never enters the picture: the turtle's figure, the axes and the title picture.
+/// What is drawn above the surface and never enters the picture: the turtle, the axes and the title picture.
 class Overlay {
  public:
-  explicit Overlay(const Controls& formControls) : controls(formControls) {}
+  explicit Overlay(const Controls& controls) : controls_(controls) {}
 
-  /// The region that has to be drawn anew since the last call: where something was or is.
+  /// The region to repaint since the last call: wherever something was or is.
   QRegion TakeChanged();
 
   void Draw(QPainter& painter, const QRect& part);
@@ -37,9 +37,9 @@ class Overlay {
   static QRegion RegionOf(const Look& before, const Look& now);
   void DrawTitle(QPainter& painter, const QRect& part);
 
-  const Controls& controls;
-  Look shown;
-  QPixmap title;
+  const Controls& controls_;
+  Look shown_;
+  QPixmap title_;
 };
 
 }  // namespace zerimo

@@ -14,7 +14,7 @@ namespace {
 
 constexpr QChar LineBreak = QChar(u'\u2028');
 constexpr QChar Picture = QChar(u'\uFFFC');
-/// Twentieths of a point to a pixel.
+/// A pixel in twentieths of a point.
 constexpr double TwipsPerPixel = 15;
 /// The first-line indent of a bullet paragraph belongs to the bullet, which the toolkit places itself.
 constexpr int BulletIndent = QTextFormat::UserProperty + 1;

@@ -6,10 +6,10 @@ class QTextDocument;
 
 namespace zerimo {
 
-/// Puts a page into the toolkit's document, in the place of what it holds.
+/// Replaces the contents of a document of the toolkit with a page.
 void FillDocument(QTextDocument& document, const RichText& page);
 
-/// The page that a document holds, tidy. What a page can't hold (pictures) is left out.
+/// The contents of a document as a page, in tidy form. What a page can't hold (pictures) is left out.
 RichText ReadDocument(const QTextDocument& document);
 
 }  // namespace zerimo

@@ -6,20 +6,20 @@
 
 namespace zerimo {
 
-/// `Picture3`, the panel of the rows. A title bar makes the window lower than the screen: the panel then moves up, so
-/// that all rows stay in sight.
+/// `Picture3`, the panel of the rows. If a title bar makes the window lower than the screen, the panel moves up so that
+/// all rows stay visible.
 class RowsPanelView : public ControlView {
  public:
-  RowsPanelView(PanelBox& control, QWidget& parent, Events& theEvents);
-  /// Where the panel stands in a window.
-  static QRect PlaceIn(const Control& panel, const QRect& client);
+  RowsPanelView(PanelBox& control, QWidget& parent, Events& events);
+  /// The panel's place in a window with this client area.
+  static QRect PlaceIn(const Control& panel_, const QRect& client);
 
  protected:
   QRect Place(const Room& room) const override { return PlaceIn(Source(), room.Client); }
   void SyncLook() override;
 
  private:
-  PanelBox& panel;
+  PanelBox& panel_;
 };
 
 /// A panel with its caption in a bar along the upper edge.
@@ -31,7 +31,7 @@ class CaptionFrame : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const PanelBox& panel;
+  const PanelBox& panel_;
 };
 
 /// `Frame1`, the diagnosis panel.
@@ -44,11 +44,11 @@ class FramePanelView : public ControlView {
   QRect Place(const Room& room) const override;
 };
 
-/// The palette as it is moved: by its title or its ground, with the pointer where it took hold.
+/// The palette, which is dragged by its title or its background.
 class PaletteFrame : public QFrame {
  public:
-  PaletteFrame(QWidget& parent, PanelBox& control, Events& theEvents);
-  bool IsDragged() const { return dragged; }
+  PaletteFrame(QWidget& parent, PanelBox& control, Events& events);
+  bool IsDragged() const { return dragged_; }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -59,36 +59,36 @@ class PaletteFrame : public QFrame {
   void DragTo(QPoint inWindow);
   void DropAt(QPoint inWindow);
 
-  PanelBox& panel;
-  Events& events;
-  QPoint grab;
-  bool dragged = false;
+  PanelBox& panel_;
+  Events& events_;
+  QPoint grab_;
+  bool dragged_ = false;
 };
 
 /// `Picture2`, the palette.
 class PaletteView : public ControlView {
  public:
-  PaletteView(PanelBox& control, QWidget& parent, Events& theEvents)
-      : ControlView(control, *new PaletteFrame(parent, control, theEvents)) {}
+  PaletteView(PanelBox& control, QWidget& parent, Events& events)
+      : ControlView(control, *new PaletteFrame(parent, control, events)) {}
 
  protected:
   QRect Place(const Room& room) const override;
   bool IsHeld() const override { return static_cast<PaletteFrame&>(Widget()).IsDragged(); }
 };
 
-/// The frames `Shape5` and `Shape7` above the squares of the palette.
+/// The frames `Shape5` and `Shape7` around the chosen square of the palette.
 class PaletteShapes : public QWidget {
  public:
-  PaletteShapes(QWidget& parent, const Controls& formControls);
-  /// Draws the frames if they have moved.
+  PaletteShapes(QWidget& parent, const Controls& controls);
+  /// Repaints the frames if they have moved.
   void Sync();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const Controls& controls;
-  QRect shown;
+  const Controls& controls_;
+  QRect shown_;
 };
 
 }  // namespace zerimo

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "base/failure.h"
+#include "base/stop_run.h"
 #include "desktop/desktop_text.h"
 
 namespace zerimo {
@@ -18,103 +19,118 @@ ScreenSize UnitsOf(const QRect& area) {
 }  // namespace
 
 Session::Session(const QRect& available, const std::string& appFolder)
-    : services(stage, QString::fromStdU16String(Folders(appFolder).ToRead(appFolder).u16string())),
-      watch(stage),
-      form1(UnitsOf(available), Folders(appFolder), services, watch, canvas),
-      window(form1, canvas, *this, available),
-      timers(
-          form1.controls, [this](Timer& timer) { Deliver([&](Form1& form) { form.Tick(timer); }); },
-          [this] { return stage.IsRunning(); }) {
-  stage.Open(window, [this] { ShowState(); });
+    : stage_(extensions_),
+      services_(stage_, QString::fromStdU16String(Folders(appFolder).ToRead(appFolder).u16string())),
+      watch_(stage_),
+      form1_(UnitsOf(available), Folders(appFolder), services_, watch_, canvas_),
+      window_(form1_, canvas_, *this, available),
+      timers_(
+          form1_.controls, [this](Timer& timer) { Deliver([&](Form1& form1) { form1.Tick(timer); }); },
+          [this] { return stage_.IsRunning(); }) {
+  stage_.Open(window_, [this] { ShowState(); });
 }
 
 void Session::Start() {
-  Deliver([](Form1& form) { form.Load(); });
-  if (hasEnded) return;
-  window.show();
-  // Where nothing else gives the keys to a new window.
-  window.activateWindow();
+  Deliver([](Form1& form1) { form1.Load(); });
+  if (hasEnded_) return;
+  window_.show();
+  // Without a window manager, nothing else gives a new window the keyboard.
+  window_.activateWindow();
 }
 
 void Session::Greet(const std::string& words, const std::filesystem::path& file) {
-  if (hasEnded || (words.empty() && file.empty())) return;
-  // The tick that gives the focus to row 0 is the last step of the start.
-  if (stage.IsRunning() || form1.controls.Timer2.Enabled) {
-    QTimer::singleShot(1, &window, [this, words, file] { Greet(words, file); });
-    return;
-  }
-  Deliver([&](Form1& form) {
-    if (!words.empty()) services.MessageBox(words, box::Critical, ProgramName);
-    if (!file.empty()) OpenFile(form, file);
+  if (words.empty() && file.empty()) return;
+  WhenStarted([this, words, file](Form1& form1) {
+    if (!words.empty()) services_.MessageBox(words, box::Critical, ProgramName);
+    if (!file.empty()) OpenFile(form1, file);
   });
 }
 
-void Session::OpenFile(Form1& form, const std::filesystem::path& file) {
-  const std::string name = Folders::ToSystem(std::filesystem::absolute(file));
-  std::error_code error;
-  // A missing program is told by `LOAD`; for a missing picture the system has no words of its own.
-  if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(form.folders.ToRead(name), error)) {
-    services.MessageBox("There is no file " + name, box::Critical, ProgramName);
-    return;
-  }
-  services.OfferFile(name);
-  form.interpreter.dispatch.Execute("SHOW OPEN");
+void Session::WhenStarted(const std::function<void(Form1& form1)>& event) {
+  // The start ends with the tick that gives row 0 the focus.
+  if (!stage_.IsRunning() && !form1_.controls.Timer2.Enabled) return Deliver(event);
+  QTimer::singleShot(1, &window_, [this, event] { WhenStarted(event); });
 }
 
-void Session::Deliver(const std::function<void(Form1& form1)>& event) {
-  if (hasEnded || stage.IsRunning()) return;
-  stage.BeginRun();
-  watch.Begin();
-  window.Collect();
+void Session::OpenFile(Form1& form1, const std::filesystem::path& file) {
+  const std::string name = Folders::ToSystem(std::filesystem::absolute(file));
+  std::error_code error;
+  // `LOAD` reports a missing program, but the system has no message for a missing picture.
+  if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(form1.folders.ToRead(name), error)) {
+    services_.MessageBox("There is no file " + name, box::Critical, ProgramName);
+    return;
+  }
+  services_.OfferFile(name);
+  form1.interpreter.dispatch.Execute("SHOW OPEN");
+}
+
+void Session::Deliver(const std::function<void(Form1& form1_)>& event) {
+  if (hasEnded_ || stage_.IsRunning()) return;
+  stage_.BeginRun();
+  watch_.Begin();
+  window_.Collect();
   Run(event);
-  stage.EndRun();
-  if (hasEnded) return;
+  stage_.EndRun();
+  if (hasEnded_) return;
   ShowState();
-  window.DescribeTurtle();
-  timers.FireDue();
+  window_.DescribeTurtle();
+  timers_.FireDue();
 }
 
 void Session::Run(const std::function<void(Form1& form1)>& event) {
   try {
-    event(form1);
+    event(form1_);
+  } catch (const StopRun&) {
+    // Nothing of the handler is left to do.
   } catch (const Ended& end) {
-    if (end.By == "close") form1.RescueEditorText();
-    End(0);
+    const bool byClosing = end.By == "close";
+    if (byClosing) Rescue();
+    End(0, byClosing ? SessionEnd::ByClosing : SessionEnd::ByWord);
   } catch (const std::exception& failure) {
     TellFailure(failure.what());
-    End(EndedByFailure);
+    End(EndedByFailure, SessionEnd::ByFailure);
   }
 }
 
+std::string Session::Rescue() {
+  std::string words = extensions_.Rescue();
+  if (words.empty() && form1_.RescueEditorText()) words = "The text of the editor has been saved in Rescued.ZRM.";
+  return words;
+}
+
 void Session::TellFailure(const char* words) {
-  std::string text = words;
-  if (form1.RescueEditorText()) text += "\r\rThe text of the editor has been saved in Rescued.ZRM.";
+  std::string text = words + std::string("\r\rZerimo has to end.");
+  const std::string rescued = Rescue();
+  if (!rescued.empty()) text += "\r\r" + rescued;
   try {
-    services.MessageBox(text, box::Critical, ProgramName);
+    services_.MessageBox(text, box::Critical, ProgramName);
   } catch (const Ended&) {
-    // Closing the window behind the box is an answer too.
+    // Closing the window counts as an answer.
+  } catch (const StopRun&) {
+    // So does stopping the program.
   }
 }
 
 void Session::ShowState() {
-  window.Sync();
-  timers.Sync();
+  window_.Sync();
+  timers_.Sync();
 }
 
 bool Session::Close() {
-  if (stage.IsRunning()) {
-    stage.RequestClose();
-    return hasEnded;
+  if (stage_.IsRunning()) {
+    if (!extensions_.CloseDuringRun()) stage_.RequestClose();
+    return hasEnded_;
   }
-  End(0);
+  End(0, SessionEnd::ByClosing);
   return true;
 }
 
-void Session::End(int status) {
-  if (hasEnded) return;
-  hasEnded = true;
-  exitStatus = status;
-  window.hide();
+void Session::End(int status, SessionEnd end) {
+  if (hasEnded_) return;
+  extensions_.ForEach([&](Extension& extension) { extension.SessionEnds(end); });
+  hasEnded_ = true;
+  exitStatus_ = status;
+  window_.hide();
   QCoreApplication::exit(status);
 }
 

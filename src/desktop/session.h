@@ -7,53 +7,63 @@
 #include "desktop/desktop_services.h"
 #include "desktop/desktop_timers.h"
 #include "desktop/events.h"
+#include "desktop/extension.h"
 #include "desktop/frame_watch.h"
 #include "desktop/main_window.h"
 #include "pictures/image_canvas.h"
 
 namespace zerimo {
 
-/// One run of the program: the system, the window that shows it, and what carries events between the two. Handlers of
-/// the system run one at a time; the end of the window is the end of the session.
+/// One run of the program: the system, the window that shows it, and the delivery of events between the two. Handlers
+/// of the system run one at a time; closing the window ends the session.
 class Session : public Events {
  public:
   /// The exit status after a failure that nothing caught.
   static constexpr int EndedByFailure = 2;
 
-  /// `available` is what the desktop leaves free of the screen, in pixels.
+  /// `available` is the part of the screen that the desktop leaves free, in pixels.
   Session(const QRect& available, const std::string& appFolder);
 
   /// Loads the form and shows the window.
   void Start();
 
-  /// Once the start is over: tells something in a box, if there is something to tell, and opens a file as `SHOW OPEN`
-  /// does, if one is named.
+  /// Once the system has started: shows `words` in a box and opens `file` as `SHOW OPEN` does. Either may be empty.
   void Greet(const std::string& words, const std::filesystem::path& file);
 
-  bool HasEnded() const { return hasEnded; }
-  int ExitStatus() const { return exitStatus; }
-  Form1& System() { return form1; }
-  MainWindow& Shown() { return window; }
+  bool HasEnded() const { return hasEnded_; }
+  int ExitStatus() const { return exitStatus_; }
+  Form1& System() { return form1_; }
+  MainWindow& Shown() { return window_; }
+  Stage& Running() { return stage_; }
+  FrameWatch& Watch() { return watch_; }
+  DesktopServices& Desktop() { return services_; }
 
-  void Deliver(const std::function<void(Form1& form1)>& event) override;
+  void Add(std::unique_ptr<Extension> extension) { extensions_.Add(std::move(extension)); }
+
+  /// Delivers an event as soon as the system has started and nothing runs.
+  void WhenStarted(const std::function<void(Form1& form1)>& event);
+
+  void Deliver(const std::function<void(Form1& form1_)>& event) override;
   bool Close() override;
 
  private:
-  void Run(const std::function<void(Form1& form1)>& event);
-  void OpenFile(Form1& form, const std::filesystem::path& file);
+  void Run(const std::function<void(Form1& form1_)>& event);
+  void OpenFile(Form1& form1, const std::filesystem::path& file);
   void ShowState();
   void TellFailure(const char* words);
-  void End(int status);
+  std::string Rescue();
+  void End(int status, SessionEnd end);
 
-  ImageCanvas canvas;
-  Stage stage;
-  DesktopServices services;
-  FrameWatch watch;
-  Form1 form1;
-  MainWindow window;
-  DesktopTimers timers;
-  bool hasEnded = false;
-  int exitStatus = 0;
+  ImageCanvas canvas_;
+  Extensions extensions_;
+  Stage stage_;
+  DesktopServices services_;
+  FrameWatch watch_;
+  Form1 form1_;
+  MainWindow window_;
+  DesktopTimers timers_;
+  bool hasEnded_ = false;
+  int exitStatus_ = 0;
 };
 
 }  // namespace zerimo

@@ -7,60 +7,85 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "base/stop_run.h"
 
 namespace zerimo {
 
 void Stage::Open(QWidget& mainWindow, std::function<void()> showState) {
-  window = &mainWindow;
-  hold = std::make_unique<InputHold>(mainWindow);
-  show = std::move(showState);
+  window_ = &mainWindow;
+  hold_ = std::make_unique<InputHold>(mainWindow);
+  show_ = std::move(showState);
 }
 
 void Stage::BeginRun() {
-  running = true;
-  hold->Begin();
+  running_ = true;
+  stopRequested_ = false;
+  hold_->Begin();
+  extensions_.ForEach([](Extension& extension) { extension.RunBegins(); });
 }
 
 void Stage::EndRun() {
-  running = false;
-  hold->End();
+  running_ = false;
+  hold_->End();
+  extensions_.ForEach([](Extension& extension) { extension.RunEnds(); });
 }
 
 void Stage::ShowState() {
-  show();
+  show_();
   AnswerDesktop();
 }
 
 void Stage::AnswerDesktop() {
   QCoreApplication::processEvents(QEventLoop::AllEvents);
-  // One pass may leave the request to paint for the next one.
+  // Events may have posted paint requests.
   QCoreApplication::sendPostedEvents();
-  if (closeRequested) throw Ended{"close"};
+  LeaveIfAsked();
 }
 
 int Stage::Stay(QDialog& dialog) {
-  // Not modal in the toolkit's own way: that would drop the user's wish to close the window, and a program that shows
-  // box after box could not be left.
+  extensions_.ForEach([&](Extension& extension) { extension.BoxOpens(dialog); });
+  const int result = Ask(dialog);
+  extensions_.ForEach([](Extension& extension) { extension.BoxCloses(); });
+  LeaveIfAsked();
+  return result;
+}
+
+int Stage::Ask(QDialog& dialog) {
+  // The toolkit's modality would swallow attempts to close the window, and a program that shows box after box could not
+  // be left.
   dialog.setModal(false);
   dialog.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                         Qt::WindowCloseButtonHint);
-  QDialog* const below = hold->Box();
-  hold->SetBox(&dialog);
+  QDialog* const below = hold_->Box();
+  hold_->SetBox(&dialog);
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
   dialog.show();
   dialog.raise();
   dialog.activateWindow();
   loop.exec();
-  hold->SetBox(below);
-  window->activateWindow();
-  if (closeRequested) throw Ended{"close"};
+  hold_->SetBox(below);
+  window_->activateWindow();
   return dialog.result();
 }
 
 void Stage::RequestClose() {
-  closeRequested = true;
-  if (hold->Box() != nullptr) hold->Box()->reject();
+  closeRequested_ = true;
+  CloseBox();
+}
+
+void Stage::RequestStop() {
+  stopRequested_ = true;
+  CloseBox();
+}
+
+void Stage::CloseBox() {
+  if (hold_->Box() != nullptr) hold_->Box()->reject();
+}
+
+void Stage::LeaveIfAsked() {
+  if (closeRequested_) throw Ended{"close"};
+  if (std::exchange(stopRequested_, false)) throw StopRun();
 }
 
 }  // namespace zerimo

@@ -3,40 +3,56 @@
 #include <functional>
 #include <memory>
 
+#include "desktop/extension.h"
 #include "desktop/input_hold.h"
 
 namespace zerimo {
 
-/// What a running handler needs of the window: to show the state it has reached, to stand still behind a box, and to
-/// learn that the user wants to close the window.
+/// What a running handler needs from the window: showing the state reached so far, waiting behind a box, and learning
+/// that the user wants to leave the run.
 class Stage {
  public:
+  explicit Stage(const Extensions& extensions) : extensions_(extensions) {}
+
   /// To be called once, before anything runs. `showState` copies the state to the widgets.
   void Open(QWidget& mainWindow, std::function<void()> showState);
-  QWidget& Window() const { return *window; }
+  QWidget& Window() const { return *window_; }
 
   void BeginRun();
   void EndRun();
-  bool IsRunning() const { return running; }
+  bool IsRunning() const { return running_; }
 
-  /// Brings the state to the screen and answers the desktop. Leaves the run with `Ended` if the window is to close.
+  /// Brings the screen up to date and answers the desktop. Leaves the run with `Ended` if the window is to close, and
+  /// with `StopRun` if the run is to stop.
   void ShowState();
 
-  /// The same without a new state.
+  /// Answers the desktop without bringing the screen up to date. Leaves the run likewise.
   void AnswerDesktop();
 
-  /// Shows a box over the window until it is answered; returns the dialog's result.
+  /// Shows a box over the window until it is answered; returns the dialog's result. Leaves the run likewise.
   int Stay(QDialog& dialog);
+
+  /// Shows a box of the shell's own in the same way, from any handler of the toolkit; never leaves.
+  int Ask(QDialog& dialog);
+  bool HasBox() const { return hold_->Box() != nullptr; }
 
   /// To be called when the user closes the window during a run.
   void RequestClose();
 
+  /// Lets the run stop as soon as it next answers the desktop. An open box counts as closed.
+  void RequestStop();
+
  private:
-  QWidget* window = nullptr;
-  std::unique_ptr<InputHold> hold;
-  std::function<void()> show;
-  bool running = false;
-  bool closeRequested = false;
+  void LeaveIfAsked();
+  void CloseBox();
+
+  const Extensions& extensions_;
+  QWidget* window_ = nullptr;
+  std::unique_ptr<InputHold> hold_;
+  std::function<void()> show_;
+  bool running_ = false;
+  bool closeRequested_ = false;
+  bool stopRequested_ = false;
 };
 
 }  // namespace zerimo

@@ -18,81 +18,81 @@ float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
 
 }  // namespace
 
-SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form, ImageCanvas& imageCanvas, Events& theEvents)
+SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form1, ImageCanvas& canvas, Events& events)
     : QWidget(&parent),
-      form1(form),
-      canvas(imageCanvas),
-      events(theEvents),
-      overlay(form.controls),
-      hint(new QLabel(this)) {
+      form1_(form1),
+      canvas_(canvas),
+      events_(events),
+      overlay_(form1.controls),
+      hint_(new QLabel(this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
-  hint->setAttribute(Qt::WA_TransparentForMouseEvents);
-  hint->setTextFormat(Qt::PlainText);
-  ShowColours(*hint, HintGround, 0);
-  hint->setAutoFillBackground(true);
-  hint->setFrameShape(QFrame::Box);
-  hint->setMargin(2);
-  hint->setFont(ControlFont(9.75));
-  hint->hide();
+  hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  hint_->setTextFormat(Qt::PlainText);
+  ShowColours(*hint_, HintGround, 0);
+  hint_->setAutoFillBackground(true);
+  hint_->setFrameShape(QFrame::Box);
+  hint_->setMargin(2);
+  hint_->setFont(ControlFont(9.75));
+  hint_->hide();
 }
 
 void SurfaceWidget::Sync() {
-  const QRect drawn = ToQRect(canvas.TakeDirty());
+  const QRect drawn = ToQRect(canvas_.TakeDirty());
   if (!drawn.isEmpty()) update(drawn);
-  const QRegion changed = overlay.TakeChanged();
+  const QRegion changed = overlay_.TakeChanged();
   if (!changed.isEmpty()) update(changed);
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  // Between whole factors, single pixels would grow unevenly.
+  // At fractional scales, unsmoothed pixels would differ in size.
   const double ratio = devicePixelRatioF();
   painter.setRenderHint(QPainter::SmoothPixmapTransform, std::abs(ratio - std::round(ratio)) > 0.01);
-  for (const QRect& part : event->region()) painter.drawImage(part, canvas.Image(), part);
-  overlay.Draw(painter, event->rect());
+  for (const QRect& part : event->region()) painter.drawImage(part, canvas_.Image(), part);
+  overlay_.Draw(painter, event->rect());
 }
 
 Control& SurfaceWidget::ControlAt(QPoint at) const {
-  Control& title = form1.controls.Image1;
-  return title.Visible() && InPixels(title).contains(at) ? title : static_cast<Control&>(form1.Picture1);
+  Control& title = form1_.controls.Image1;
+  return title.Visible() && InPixels(title).contains(at) ? title : static_cast<Control&>(form1_.Picture1);
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   Control& control = ControlAt(at);
-  events.Deliver([&](Form1& form) { form.MouseMove(control, Units(at.x()), Units(at.y())); });
-  if (&control == &form1.Picture1) return ShowHintAt(at);
-  hint->hide();
+  events_.Deliver([&](Form1& form1) { form1.MouseMove(control, Units(at.x()), Units(at.y())); });
+  if (&control == &form1_.Picture1) return ShowHintAt(at);
+  hint_->hide();
 }
 
 void SurfaceWidget::ShowHintAt(QPoint at) {
-  hint->setText(ToQString(form1.Picture1.ToolTipText));
-  hint->adjustSize();
-  // At the right and lower edge the hint stands on the other side of the pointer.
+  hint_->setText(ToQString(form1_.Picture1.ToolTipText));
+  hint_->adjustSize();
+  // Near the right and lower edges, the hint moves to the other side of the pointer.
   const QRect seen = visibleRegion().boundingRect();
   QPoint place = at + HintDistance;
-  if (place.x() + hint->width() > seen.right()) place.setX(at.x() - hint->width() - 4);
-  if (place.y() + hint->height() > seen.bottom()) place.setY(at.y() - hint->height() - 4);
-  hint->move(place);
-  hint->setVisible(!hint->text().isEmpty());
+  if (place.x() + hint_->width() > seen.right()) place.setX(at.x() - hint_->width() - 4);
+  if (place.y() + hint_->height() > seen.bottom()) place.setY(at.y() - hint_->height() - 4);
+  hint_->move(place);
+  hint_->setVisible(!hint_->text().isEmpty());
 }
 
-void SurfaceWidget::leaveEvent(QEvent*) { hint->hide(); }
+void SurfaceWidget::leaveEvent(QEvent*) { hint_->hide(); }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
   Control& control = ControlAt(event->position().toPoint());
-  // The title picture can't have the focus: it stays where the learner types.
-  if (&control == &form1.Picture1) setFocus(Qt::MouseFocusReason);
-  pressed = event->button() == Qt::LeftButton ? &control : nullptr;
+  // The title picture takes no focus, so that it stays where the learner types.
+  if (&control == &form1_.Picture1) setFocus(Qt::MouseFocusReason);
+  pressed_ = event->button() == Qt::LeftButton ? &control : nullptr;
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
-  if (event->button() != Qt::LeftButton || pressed != &ControlAt(at) || !rect().contains(at)) return;
-  pressed = nullptr;
-  events.Deliver([&](Form1& form) { form.Click(ControlAt(at)); });
+  if (event->button() != Qt::LeftButton || pressed_ != &ControlAt(at) || !rect().contains(at)) return;
+  pressed_ = nullptr;
+  events_.Deliver([&](Form1& form1) { form1.Click(ControlAt(at)); });
 }
 
 }  // namespace zerimo

@@ -8,16 +8,16 @@
 
 namespace zerimo {
 
-/// Paints the surface: the picture, and above it what never enters the picture.
+/// Paints the surface: the picture, and above it the overlay.
 class SurfaceWidget : public QWidget {
  public:
-  SurfaceWidget(QWidget& parent, Form1& form, ImageCanvas& imageCanvas, Events& theEvents);
+  SurfaceWidget(QWidget& parent, Form1& form1, ImageCanvas& canvas, Events& events);
 
-  /// Asks for a repaint of what has changed.
+  /// Requests a repaint of what has changed.
   void Sync();
 
-  /// The hint at the mouse.
-  const QLabel& Hint() const { return *hint; }
+  /// The hint that follows the pointer.
+  const QLabel& Hint() const { return *hint_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -30,19 +30,19 @@ class SurfaceWidget : public QWidget {
   Control& ControlAt(QPoint at) const;
   void ShowHintAt(QPoint at);
 
-  Form1& form1;
-  ImageCanvas& canvas;
-  Events& events;
-  Overlay overlay;
-  QLabel* hint;
-  Control* pressed = nullptr;
+  Form1& form1_;
+  ImageCanvas& canvas_;
+  Events& events_;
+  Overlay overlay_;
+  QLabel* hint_;
+  Control* pressed_ = nullptr;
 };
 
 /// `Picture1`.
 class SurfaceView : public ControlView {
  public:
-  SurfaceView(Form1& form, QWidget& parent, ImageCanvas& canvas, Events& theEvents)
-      : ControlView(form.Picture1, *new SurfaceWidget(parent, form, canvas, theEvents)) {}
+  SurfaceView(Form1& form1, QWidget& parent, ImageCanvas& canvas, Events& events)
+      : ControlView(form1.Picture1, *new SurfaceWidget(parent, form1, canvas, events)) {}
 
  protected:
   void SyncLook() override { static_cast<SurfaceWidget&>(Widget()).Sync(); }

@@ -11,10 +11,10 @@ namespace zerimo {
 
 namespace {
 
-/// The distance of the rows in pixels.
+/// The distance between rows in pixels.
 constexpr int RowDistance = 24;
 
-/// Lets no character in that the system does not have. Pasted line ends and tabs, which look like blanks, become ones.
+/// Admits only characters that the system has. Pasted line ends and tabs become blanks.
 class KnownCharacters final : public QValidator {
  public:
   using QValidator::QValidator;
@@ -30,24 +30,22 @@ class KnownCharacters final : public QValidator {
 
 class PromptColumn final : public QWidget {
  public:
-  PromptColumn(QWidget& parent, const TextBox& textBox) : QWidget(&parent), box(textBox) {
-    setAutoFillBackground(true);
-  }
+  PromptColumn(QWidget& parent, const TextBox& box) : QWidget(&parent), box_(box) { setAutoFillBackground(true); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.setPen(ToQColor(box.ForeColor));
+    painter.setPen(ToQColor(box_.ForeColor));
     painter.setFont(font());
     QRect line(0, 0, width(), RowDistance + 1);
-    for (const QString& text : WithLineEnds(box.Text).split(QLatin1Char('\n'))) {
+    for (const QString& text : WithLineEnds(box_.Text).split(QLatin1Char('\n'))) {
       painter.drawText(line, Qt::AlignCenter, text);
       line.translate(0, RowDistance);
     }
   }
 
  private:
-  const TextBox& box;
+  const TextBox& box_;
 };
 
 }  // namespace
@@ -67,30 +65,30 @@ void RowEdit::paintEvent(QPaintEvent* event) {
   painter.drawRect(0, 0, width() - 1, RowDistance - 1);
 }
 
-LineView::LineView(TextBox& textBox, QLineEdit& shownIn, Events& theEvents)
-    : ControlView(textBox, shownIn), box(textBox), edit(shownIn) {
-  edit.setValidator(new KnownCharacters(&edit));
-  QObject::connect(&edit, &QLineEdit::textChanged, &edit, [this, &theEvents] {
-    touched = true;
-    theEvents.Deliver([this](Form1& form1) { form1.Change(box); });
+LineView::LineView(TextBox& box, QLineEdit& shownIn, Events& events)
+    : ControlView(box, shownIn), box_(box), edit_(shownIn) {
+  edit_.setValidator(new KnownCharacters(&edit_));
+  QObject::connect(&edit_, &QLineEdit::textChanged, &edit_, [this, &events] {
+    touched_ = true;
+    events.Deliver([this](Form1& form1) { form1.Change(box_); });
   });
 }
 
 void LineView::Collect() {
-  if (!touched) return;
-  touched = false;
-  box.Text = ToSystemText(edit.text());
+  if (!touched_) return;
+  touched_ = false;
+  box_.Text = ToSystemText(edit_.text());
 }
 
 void LineView::SyncLook() {
-  const bool isRow = box.FontSize > 12;
-  const QFont font = ControlFont(box.FontSize, isRow);
-  if (edit.font() != font) edit.setFont(font);
-  ShowColours(edit, box.BackColor, box.ForeColor);
-  const QString text = ToQString(box.Text);
-  if (touched || edit.text() == text) return;
-  const QSignalBlocker notOfUser(edit);
-  edit.setText(text);
+  const bool isRow = box_.FontSize > 12;
+  const QFont font = ControlFont(box_.FontSize, isRow);
+  if (edit_.font() != font) edit_.setFont(font);
+  ShowColours(edit_, box_.BackColor, box_.ForeColor);
+  const QString text = ToQString(box_.Text);
+  if (touched_ || edit_.text() == text) return;
+  const QSignalBlocker notOfUser(edit_);
+  edit_.setText(text);
 }
 
 QRect RowView::Place(const Room& room) const {
@@ -99,13 +97,13 @@ QRect RowView::Place(const Room& room) const {
   return place;
 }
 
-PromptView::PromptView(TextBox& textBox, QWidget& parent, Events&)
-    : ControlView(textBox, *new PromptColumn(parent, textBox)), box(textBox) {}
+PromptView::PromptView(TextBox& box, QWidget& parent, Events&)
+    : ControlView(box, *new PromptColumn(parent, box)), box_(box) {}
 
 void PromptView::SyncLook() {
-  const QFont font = ControlFont(box.FontSize, true);
+  const QFont font = ControlFont(box_.FontSize, true);
   if (Widget().font() != font) Widget().setFont(font);
-  ShowColours(Widget(), box.BackColor, box.ForeColor);
+  ShowColours(Widget(), box_.BackColor, box_.ForeColor);
 }
 
 }  // namespace zerimo

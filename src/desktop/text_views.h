@@ -6,7 +6,7 @@
 
 namespace zerimo {
 
-/// A command row: a line of text that shows where the keys go.
+/// A command row. A frame shows that it has the focus.
 class RowEdit : public QLineEdit {
  public:
   explicit RowEdit(QWidget& parent);
@@ -15,25 +15,25 @@ class RowEdit : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// A text box of one line: a command row, or an input of the diagnosis panel, whose change event runs.
+/// A text box of one line: a command row or an input of the diagnosis panel.
 class LineView : public ControlView {
  public:
-  LineView(TextBox& textBox, QLineEdit& shownIn, Events& theEvents);
+  LineView(TextBox& box, QLineEdit& shownIn, Events& events);
   void Collect() override;
 
  protected:
   void SyncLook() override;
 
  private:
-  TextBox& box;
-  QLineEdit& edit;
-  bool touched = false;
+  TextBox& box_;
+  QLineEdit& edit_;
+  bool touched_ = false;
 };
 
-/// A row of `Text1`, which ends where the window ends.
+/// A row of `Text1`, cut off at the window's edge.
 class RowView : public LineView {
  public:
-  RowView(TextBox& textBox, QWidget& parent, Events& theEvents) : LineView(textBox, *new RowEdit(parent), theEvents) {}
+  RowView(TextBox& box, QWidget& parent, Events& events) : LineView(box, *new RowEdit(parent), events) {}
 
  protected:
   QRect Place(const Room& room) const override;
@@ -42,20 +42,19 @@ class RowView : public LineView {
 /// `Text3` and `Text4`.
 class FieldView : public LineView {
  public:
-  FieldView(TextBox& textBox, QWidget& parent, Events& theEvents)
-      : LineView(textBox, *new QLineEdit(&parent), theEvents) {}
+  FieldView(TextBox& box, QWidget& parent, Events& events) : LineView(box, *new QLineEdit(&parent), events) {}
 };
 
 /// `Prompt`: one line of its text beside each row.
 class PromptView : public ControlView {
  public:
-  PromptView(TextBox& textBox, QWidget& parent, Events& theEvents);
+  PromptView(TextBox& box, QWidget& parent, Events& events);
 
  protected:
   void SyncLook() override;
 
  private:
-  TextBox& box;
+  TextBox& box_;
 };
 
 }  // namespace zerimo

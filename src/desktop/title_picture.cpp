@@ -16,7 +16,7 @@ namespace {
 
 constexpr int Petals = 18;
 
-/// A turtle's rosette: squares turned round their corner.
+/// A rosette of squares turned about a corner.
 void DrawRosette(QPainter& painter, QPointF centre, double side, double opacity) {
   painter.save();
   painter.translate(centre);
@@ -36,10 +36,10 @@ struct TurtleColors {
 
 constexpr TurtleColors InTheGrass{QColor(120, 190, 80), QColor(46, 125, 60), QColor(86, 165, 92)};
 
-/// Those of the icons, lighter, so that the turtle is seen in the smallest ones too.
+/// Lighter, so that the turtle shows in the smallest icons too.
 constexpr TurtleColors OnTheIcon{QColor(164, 220, 108), QColor(54, 160, 76), QColor(134, 212, 134)};
 
-/// A turtle seen from above, its head to the right; the shell is two units long.
+/// A turtle seen from above, facing right; its shell is two units long.
 void DrawTurtle(QPainter& painter, const TurtleColors& colors) {
   painter.setPen(QPen(QColor(22, 70, 32), 0.06));
   painter.setBrush(colors.Skin);
@@ -62,7 +62,7 @@ struct Hill {
   QColor Top, Bottom;
 };
 
-/// Hills along the lower edge, in parts of the width and of the strip's height.
+/// Hills along the lower edge, in fractions of the strip's width and height.
 void DrawHills(QPainter& painter, const QRectF& strip) {
   const std::array<Hill, 3> hills = {{{0.35, 0.10, 0.45, 0.60, QColor(64, 112, 150), QColor(40, 78, 116)},
                                       {0.70, 0.25, 0.30, 0.45, QColor(60, 140, 110), QColor(34, 96, 76)},
@@ -82,7 +82,7 @@ void DrawHills(QPainter& painter, const QRectF& strip) {
   }
 }
 
-/// Darkens the upper edge below the captions and the sides, and leaves the middle clear.
+/// Darkens the upper edge behind the captions and tints the lower one; the middle stays transparent.
 void DrawSky(QPainter& painter, const QSizeF& size) {
   QLinearGradient dusk(0, 0, 0, size.height());
   dusk.setColorAt(0, QColor(18, 12, 60, 235));

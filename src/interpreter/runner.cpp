@@ -1,9 +1,12 @@
 #include "interpreter/runner.h"
 
+#include <set>
 #include <utility>
+#include <vector>
 
 #include "base/failure.h"
 #include "base/numbers.h"
+#include "base/stop_run.h"
 #include "base/text.h"
 
 namespace zerimo {
@@ -33,6 +36,18 @@ class ShownPath {
   const ControlPath& path_;
 };
 
+/// The procedures on the path of a stopped walk, the innermost first. A recursion names one many times.
+std::vector<std::string> ProceduresOn(const std::string& path) {
+  std::vector<std::string> names;
+  std::set<std::string> seen;
+  for (std::size_t end = path.size(), dot; end > 0 && (dot = path.rfind('.', end - 1)) != std::string::npos;
+       end = dot) {
+    std::string name = path.substr(dot + 1, path.find('-', dot) - dot - 1);
+    if (seen.insert(name).second) names.push_back(std::move(name));
+  }
+  return names;
+}
+
 }  // namespace
 
 Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals)
@@ -53,11 +68,18 @@ void Runner::Run1(std::string_view procedure) {
   if (walk.Line == 0) return;
   controlPath_.SetCtrlStr(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
   shown.Follow();
-  // A walk past the end of the store has nothing left to run.
-  while (!controlPath_.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
-    watch_.Step();
-    PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
-    Act(walk);
+  try {
+    // A walk past the end of the store has nothing left to run.
+    while (!controlPath_.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
+      watch_.Step();
+      PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
+      Act(walk);
+    }
+  } catch (const StopRun&) {
+    for (std::string& name : ProceduresOn(controlPath_.CtrlStr())) {
+      PassOver([&] { inputs_.DeleteLocalVariable(name); });
+    }
+    controlPath_.SetCtrlStr(".");
   }
 }
 

@@ -1,6 +1,7 @@
 #include "interpreter/typed_lines.h"
 
 #include "base/numbers.h"
+#include "base/stop_run.h"
 #include "base/text.h"
 
 namespace zerimo {
@@ -15,8 +16,12 @@ constexpr int LastMovedLine = 500;
 void TypedLines::ComplexExecutor(std::string& complexData) {
   TempProcNo = AddInt16(TempProcNo, 1);
   const int firstLine = WriteTemporaryProcedure(complexData);
-  lowering_.RemoveAllRepeats();
-  runner_.Run1(TemporaryName());
+  try {
+    lowering_.RemoveAllRepeats();
+    runner_.Run1(TemporaryName());
+  } catch (const StopRun&) {
+    // Stopped before the walk: what follows it happens all the same.
+  }
   RemoveTemporaryProcedure(firstLine);
   store_.RefreshFileDataArray();
   variables_.CreateGlobalVariable();

@@ -9,9 +9,10 @@
 #include <system_error>
 #include <vector>
 
-#include "desktop/arguments.h"
+#include "desktop/command_line.h"
 #include "desktop/desktop_style.h"
 #include "desktop/desktop_text.h"
+#include "desktop/extensions/extensions.h"
 #include "desktop/session.h"
 #include "files/disk_files.h"
 #include "files/folders.h"
@@ -48,10 +49,18 @@ std::string WordsAbout(const StartFolder& start) {
 /// The file to open, as a whole path while the current folder is that of the start, or the empty path.
 fs::path FileToOpen() {
   const QStringList arguments = QCoreApplication::arguments();
-  return arguments.size() < 2 ? fs::path() : fs::absolute(DiskPath(arguments.at(1)));
+  for (qsizetype i = 1; i < arguments.size(); ++i) {
+    if (arguments.at(i) == QLatin1String("--scale")) {
+      ++i;
+    } else if (!arguments.at(i).startsWith(QLatin1Char('-'))) {
+      return fs::absolute(DiskPath(arguments.at(i)));
+    }
+  }
+  return {};
 }
 
-int RunInWindow(int argc, char** argv) {
+int RunInWindow(const CommandLine& line, int argc, char** argv) {
+  if (line.Scale != 0) qputenv("QT_SCALE_FACTOR", QByteArray::number(line.Scale / 100.0));
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(ProgramName));
   QApplication::setApplicationVersion(QStringLiteral(ZERIMO_VERSION));
@@ -63,6 +72,8 @@ int RunInWindow(int argc, char** argv) {
   std::error_code ignored;
   if (start.IsCurrentFolder) fs::current_path(start.Folder, ignored);
   Session session(QApplication::primaryScreen()->availableGeometry(), AppFolderName(start.Folder));
+  if (!line.Classic)
+    AddExtensions(session, DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
   session.Start();
   session.Greet(WordsAbout(start), file);
   if (!session.HasEnded()) QApplication::exec();
@@ -70,9 +81,9 @@ int RunInWindow(int argc, char** argv) {
 }
 
 int Main(int argc, char** argv) {
-  const std::string refusal = RefusalOf({argv + 1, argv + argc});
-  if (refusal.empty()) return RunInWindow(argc, argv);
-  std::cerr << "zerimo: " << refusal << '\n';
+  const CommandLine line = ReadCommandLine({argv + 1, argv + argc});
+  if (line.Refusal.empty()) return RunInWindow(line, argc, argv);
+  std::cerr << "zerimo: " << line.Refusal << '\n';
   return Refused;
 }
 

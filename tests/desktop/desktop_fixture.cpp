@@ -15,7 +15,7 @@ namespace zerimo {
 namespace {
 
 constexpr int LongestWait = 5000;
-/// How often a box is looked at that nothing answers.
+/// How often a box is looked at that nothing answers_.
 constexpr int MostRounds = 500;
 
 QDialog* StandingBox() {
@@ -36,7 +36,7 @@ std::string WithoutMark(QString text) { return text.remove(QLatin1Char('&')).toS
 
 }  // namespace
 
-DesktopTest::DesktopTest(const QRect& available) : formerFolder(QDir::currentPath()) {
+DesktopTest::DesktopTest(const QRect& available) : formerFolder_(QDir::currentPath()) {
   ForgetFormerEnd();
   QDir::setCurrent(folder.path());
   session = std::make_unique<Session>(available, folder.path().toStdString());
@@ -44,13 +44,13 @@ DesktopTest::DesktopTest(const QRect& available) : formerFolder(QDir::currentPat
   // The toolkit's window without a screen has a frame that would take some of the area.
   Shown().setFixedSize(available.size());
   Settle();
-  QObject::connect(&answering, &QTimer::timeout, &answering, [this] { AnswerBox(); });
-  answering.start(2);
+  QObject::connect(&answering_, &QTimer::timeout, &answering_, [this] { AnswerBox(); });
+  answering_.start(2);
 }
 
 DesktopTest::~DesktopTest() {
   session.reset();
-  QDir::setCurrent(formerFolder);
+  QDir::setCurrent(formerFolder_);
 }
 
 void DesktopTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -94,20 +94,20 @@ void DesktopTest::Settle() {
 }
 
 void DesktopTest::AnswerNextBox(std::vector<Qt::Key> keys, const char* typed) {
-  answers.push_back({std::move(keys), typed, {}});
+  answers_.push_back({std::move(keys), typed, {}});
 }
 
 void DesktopTest::WhileABoxStands(std::function<void()> look, Qt::Key close) {
-  answers.push_back({{close}, "", std::move(look)});
+  answers_.push_back({{close}, "", std::move(look)});
 }
 
 void DesktopTest::AnswerBox() {
   QDialog* dialog = StandingBox();
   if (dialog == nullptr) return;
-  if (answers.empty()) return GiveUp(*dialog);
-  const Waiting answer = answers.front();
-  answers.erase(answers.begin());
-  rounds = 0;
+  if (answers_.empty()) return GiveUp(*dialog);
+  const Waiting answer = answers_.front();
+  answers_.erase(answers_.begin());
+  rounds_ = 0;
   SeenBox seen;
   seen.Title = dialog->windowTitle().toStdString();
   if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
@@ -128,9 +128,9 @@ void DesktopTest::AnswerBox() {
 }
 
 void DesktopTest::GiveUp(QDialog& dialog) {
-  if (++rounds < MostRounds) return;
-  rounds = 0;
-  ADD_FAILURE() << "nothing answers the box " << dialog.windowTitle().toStdString();
+  if (++rounds_ < MostRounds) return;
+  rounds_ = 0;
+  ADD_FAILURE() << "nothing answers_ the box " << dialog.windowTitle().toStdString();
   dialog.reject();
 }
 

@@ -79,10 +79,10 @@ class DesktopTest : public testing::Test {
   void AnswerBox();
   void GiveUp(QDialog& dialog);
 
-  std::vector<Waiting> answers;
-  QTimer answering;
-  int rounds = 0;
-  QString formerFolder;
+  std::vector<Waiting> answers_;
+  QTimer answering_;
+  int rounds_ = 0;
+  QString formerFolder_;
 };
 
 }  // namespace zerimo

@@ -23,7 +23,7 @@ class AfterAFailure : public DesktopTest {
 TEST_F(AfterAFailure, ABoxTellsTheFailuresWordsAndTheProgramEnds) {
   Fail();
   ASSERT_EQ(Boxes.size(), 1u);
-  EXPECT_EQ(Boxes[0].Text, Failure(FailureKind::Overflow).what());
+  EXPECT_EQ(Boxes[0].Text, std::string(Failure(FailureKind::Overflow).what()) + "\n\nZerimo has to end.");
   EXPECT_EQ(Boxes[0].Title, "Zerimo");
   EXPECT_FALSE(Boxes[0].Icon.isNull());
   EXPECT_TRUE(session->HasEnded());

@@ -1,7 +1,7 @@
 #include <QImage>
 #include <filesystem>
 
-#include "desktop/arguments.h"
+#include "desktop/command_line.h"
 #include "desktop/desktop_fixture.h"
 
 namespace zerimo {
@@ -116,18 +116,38 @@ TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
   EXPECT_EQ(Focused(), &Row(0));
 }
 
-TEST(Arguments, NoneOrOneFileIsTaken) {
+std::string RefusalOf(const std::vector<std::string>& arguments) { return ReadCommandLine(arguments).Refusal; }
+
+TEST(CommandLine, NoneOrOneFileIsTaken) {
   EXPECT_EQ(RefusalOf({}), "");
   EXPECT_EQ(RefusalOf({"box.zrm"}), "");
 }
 
-TEST(Arguments, OptionsAreRefused) {
-  EXPECT_EQ(RefusalOf({"--help"}), "--help: there are no options; the name of one file can be given");
-  EXPECT_EQ(RefusalOf({"-"}), "-: there are no options; the name of one file can be given");
-  EXPECT_EQ(RefusalOf({"box.zrm", "-style"}), "-style: there are no options; the name of one file can be given");
+TEST(CommandLine, OptionsMayStandAroundTheFile) {
+  const CommandLine line = ReadCommandLine({"--classic", "box.zrm", "--scale", "150"});
+  EXPECT_EQ(line.Refusal, "");
+  EXPECT_TRUE(line.Classic);
+  EXPECT_EQ(line.Scale, 150);
+  EXPECT_FALSE(ReadCommandLine({"box.zrm"}).Classic);
 }
 
-TEST(Arguments, MoreThanOneFileAndAnEmptyNameAreRefused) {
+TEST(CommandLine, OtherOptionsAreRefused) {
+  const std::string words = ": there are only the options --classic and --scale; the name of one file can be given";
+  EXPECT_EQ(RefusalOf({"--help"}), "--help" + words);
+  EXPECT_EQ(RefusalOf({"-"}), "-" + words);
+  EXPECT_EQ(RefusalOf({"box.zrm", "-style"}), "-style" + words);
+}
+
+TEST(CommandLine, AScaleIsAWholeNumberFrom50To400) {
+  EXPECT_EQ(RefusalOf({"--scale", "50"}), "");
+  EXPECT_EQ(RefusalOf({"--scale", "400"}), "");
+  for (const char* scale : {"49", "401", "x", "1.5", "150%", ""}) {
+    EXPECT_EQ(RefusalOf({"--scale", scale}), "--scale needs a number from 50 to 400, in percent") << scale;
+  }
+  EXPECT_EQ(RefusalOf({"--scale"}), "--scale needs a number from 50 to 400, in percent");
+}
+
+TEST(CommandLine, MoreThanOneFileAndAnEmptyNameAreRefused) {
   EXPECT_EQ(RefusalOf({"a.zrm", "b.zrm"}), "only one file can be opened");
   EXPECT_EQ(RefusalOf({""}), "the name of the file is empty");
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/stop_run.h"
 #include "support/interpreter.h"
 
 namespace zerimo {
@@ -45,6 +46,27 @@ TEST_F(TypedLinesTest, AnEmptyLineCountsAndRunsAnEmptyProcedure) {
   EXPECT_TRUE(Calls.empty());
   EXPECT_EQ(controls.List1.Items(), (Texts{" 1  TO A", " 2  FD 1", " 3  END"}));
   EXPECT_EQ(controls.List3.Items(), (Texts{"TO A"}));
+}
+
+TEST_F(TypedLinesTest, AStoppedLineEndsLikeAFinishedOneAndKeepsTheNames) {
+  Fill({"TO BOX :S", "PRINT :S", "FD 1", "END"});
+  dispatch.Bind(Action::Print, [](PrimitiveCall&) { throw StopRun(); });
+  EXPECT_TRUE(Type("MAKE \"N 5 BOX 7 RT 90"));
+  EXPECT_TRUE(Calls.empty());
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
+  EXPECT_EQ(controls.Label19.Caption, ".");
+  EXPECT_EQ(Program(), (Texts{"TO BOX :S", "PRINT :S", "FD 1", "END"}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{":N=5", " "}));
+  EXPECT_EQ(controls.List3.Items(), (Texts{"TO BOX :S"}));
+}
+
+TEST_F(TypedLinesTest, AfterAStoppedRecursionTheNextLineRuns) {
+  Fill({"TO A :S", "IF :S=3", "PRINT :S", "ENDIF", "A :S+1", "END"});
+  dispatch.Bind(Action::Print, [](PrimitiveCall&) { throw StopRun(); });
+  EXPECT_TRUE(Type("A 1"));
+  EXPECT_EQ(controlPath.CtrlStr(), ".");
+  EXPECT_TRUE(Type("FD 10"));
+  EXPECT_EQ(Calls, (Texts{"FD 10"}));
 }
 
 TEST_F(TypedLinesTest, ALineStandsDirectlyBehindTheProgram) {

@@ -1,0 +1,49 @@
+#include "desktop/command_line.h"
+
+#include <charconv>
+
+namespace zerimo {
+
+namespace {
+
+constexpr int SmallestScale = 50;
+constexpr int LargestScale = 400;
+
+/// A scale in percent, or 0 if it is none.
+int ScaleFrom(const std::string& text) {
+  int percent = 0;
+  const char* end = text.data() + text.size();
+  const auto [last, error] = std::from_chars(text.data(), end, percent);
+  const bool isScale = error == std::errc() && last == end && percent >= SmallestScale && percent <= LargestScale;
+  return isScale ? percent : 0;
+}
+
+}  // namespace
+
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
+  CommandLine line;
+  int files = 0;
+  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+    if (*argument == "--classic") {
+      line.Classic = true;
+    } else if (*argument == "--scale") {
+      if (++argument != arguments.end()) line.Scale = ScaleFrom(*argument);
+      if (line.Scale != 0) continue;
+      line.Refusal = "--scale needs a number from 50 to 400, in percent";
+      return line;
+    } else if (argument->empty()) {
+      line.Refusal = "the name of the file is empty";
+      return line;
+    } else if (argument->front() == '-') {
+      line.Refusal =
+          *argument + ": there are only the options --classic and --scale; the name of one file can be given";
+      return line;
+    } else if (++files > 1) {
+      line.Refusal = "only one file can be opened";
+      return line;
+    }
+  }
+  return line;
+}
+
+}  // namespace zerimo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zerimo {
+
+/// What the window is started with: options, and the name of one file at most.
+struct CommandLine {
+  /// Why the arguments are refused, or the empty text.
+  std::string Refusal;
+  /// "--classic": without any extension.
+  bool Classic = false;
+  /// "--scale PERCENT", from 50 to 400; 0 if not given.
+  int Scale = 0;
+};
+
+/// Reads the arguments after the program's name.
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace zerimo

@@ -1,0 +1,21 @@
+#include "desktop/extensions/extensions.h"
+
+#include "desktop/extensions/journal.h"
+#include "desktop/extensions/recovery.h"
+#include "desktop/extensions/run_chip.h"
+#include "desktop/extensions/speed.h"
+#include "desktop/extensions/stop.h"
+
+namespace zerimo {
+
+void AddExtensions(Session& session, const std::filesystem::path& folder) {
+  session.Add(std::make_unique<Stop>(session));
+  auto chip = std::make_unique<RunChip>(session);
+  session.Add(std::make_unique<Speed>(session, *chip));
+  session.Add(std::move(chip));
+  auto journal = std::make_unique<Journal>(session.System(), folder / "journal");
+  session.Add(std::make_unique<Recovery>(session, *journal, folder / "rescued"));
+  session.Add(std::move(journal));
+}
+
+}  // namespace zerimo

@@ -1,0 +1,68 @@
+#include "desktop/extensions/run_chip.h"
+
+#include <QLabel>
+
+#include "desktop/desktop_text.h"
+
+namespace zerimo {
+
+namespace {
+
+constexpr int LongRun = 2000;
+/// Between two looks at the clock, in milliseconds.
+constexpr int Beat = 250;
+constexpr int EdgeDistance = 8;
+constexpr double ChipPoints = 10.5;
+constexpr Colour ChipGround = 0x303030;
+constexpr Colour ChipLetters = 0xFFFFFF;
+
+}  // namespace
+
+RunChip::RunChip(Session& session) : session_(session), label_(*new QLabel(&session.Shown())) {
+  label_.setObjectName(QStringLiteral("RunChip"));
+  label_.setAttribute(Qt::WA_TransparentForMouseEvents);
+  label_.setTextFormat(Qt::PlainText);
+  label_.setFont(ControlFont(ChipPoints, true));
+  label_.setAutoFillBackground(true);
+  label_.setMargin(6);
+  ShowColours(label_, ChipGround, ChipLetters);
+  label_.hide();
+  QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
+    clock_.start(Beat);
+    Show();
+  });
+}
+
+void RunChip::Say(const QString& words) {
+  said_ = words;
+  Show();
+}
+
+void RunChip::RunBegins() {
+  running_.start();
+  clock_.start(LongRun);
+}
+
+void RunChip::RunEnds() {
+  running_.invalidate();
+  clock_.stop();
+  Show();
+}
+
+void RunChip::Show() {
+  QString words = said_;
+  // While a box is open, the program waits for its answer.
+  const bool isLong = running_.isValid() && running_.elapsed() >= LongRun && !session_.Running().HasBox();
+  if (words.isEmpty() && isLong) {
+    words = QStringLiteral("Running for %1 s. Ctrl+Break stops.").arg(running_.elapsed() / 1000);
+  }
+  if (label_.text() != words) {
+    label_.setText(words);
+    label_.adjustSize();
+  }
+  label_.move(session_.Shown().width() - label_.width() - EdgeDistance, EdgeDistance);
+  label_.raise();
+  if (label_.isHidden() != words.isEmpty()) label_.setHidden(words.isEmpty());
+}
+
+}  // namespace zerimo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "desktop/session.h"
+
+class QLabel;
+
+namespace zerimo {
+
+/// A small label in the corner of the picture: it tells that a program is running once it has run for two seconds, and
+/// whatever else is said through it. It takes no focus and no clicks.
+class RunChip : public Extension {
+ public:
+  explicit RunChip(Session& session);
+
+  /// Shows words instead of the time, until others or none are said.
+  void Say(const QString& words);
+
+  void RunBegins() override;
+  void RunEnds() override;
+
+ private:
+  void Show();
+
+  Session& session_;
+  /// Belongs to the window.
+  QLabel& label_;
+  QString said_;
+  QElapsedTimer running_;
+  QTimer clock_;
+};
+
+}  // namespace zerimo

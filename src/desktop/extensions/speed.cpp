@@ -1,0 +1,67 @@
+#include "desktop/extensions/speed.h"
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QListView>
+#include <QThread>
+#include <algorithm>
+
+namespace zerimo {
+
+const Speed::Pace Speed::Paces[4] = {
+    {Qt::Key_1, "", 0},
+    {Qt::Key_2, "Fast, line by line. Ctrl+1: full speed", 60},
+    {Qt::Key_3, "Slow, line by line. Ctrl+1: full speed", 500},
+    {Qt::Key_4, "The space bar runs one line. Ctrl+1: full speed", -1},
+};
+
+Speed::Speed(Session& session, RunChip& chip)
+    : session_(session),
+      chip_(chip),
+      line_(session.System(), static_cast<QListView&>(session.Shown().WidgetOf(session.System().controls.List1))) {}
+
+bool Speed::PressKey(const QKeyEvent& press) {
+  if (waiting_ && pace_->Pause < 0 && press.key() == Qt::Key_Space && press.modifiers() == Qt::NoModifier) {
+    waiting_ = false;
+    return true;
+  }
+  // Digits of the number pad count too.
+  if ((press.modifiers() & ~Qt::KeypadModifier) != Qt::ControlModifier) return false;
+  const auto* chosen =
+      std::find_if(std::begin(Paces), std::end(Paces), [&](const Pace& pace) { return pace.Key == press.key(); });
+  if (chosen == std::end(Paces)) return false;
+  Choose(*chosen);
+  return true;
+}
+
+void Speed::Choose(const Pace& pace) {
+  pace_ = &pace;
+  waiting_ = false;
+  chip_.Say(QLatin1String(pace.Words));
+  // At full speed, a step of a walk asks nobody.
+  session_.Watch().OnStep = pace.Pause == 0 ? std::function<void()>() : [this] { Step(); };
+  if (pace.Pause == 0) line_.Clear();
+}
+
+void Speed::RunEnds() {
+  waiting_ = false;
+  if (pace_->Pause == 0) return;
+  line_.Clear();
+  chip_.Say(QLatin1String(pace_->Words));
+}
+
+void Speed::Step() {
+  line_.Step();
+  chip_.Say(line_.Words());
+  waiting_ = true;
+  session_.Running().ShowState();
+  QElapsedTimer shown;
+  shown.start();
+  while (waiting_) {
+    QThread::msleep(5);
+    session_.Running().AnswerDesktop();
+    if (pace_->Pause >= 0 && shown.elapsed() >= pace_->Pause) waiting_ = false;
+  }
+}
+
+}  // namespace zerimo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "desktop/extensions/run_chip.h"
+#include "desktop/extensions/running_line.h"
+#include "desktop/session.h"
+
+namespace zerimo {
+
+/// Lets a program be watched: Ctrl+1 to Ctrl+4 choose how fast its lines run.
+class Speed : public Extension {
+ public:
+  Speed(Session& session, RunChip& chip);
+
+  bool PressKey(const QKeyEvent& press) override;
+  void RunEnds() override;
+
+ private:
+  struct Pace {
+    int Key;
+    /// What the chip says while nothing runs; nothing at full speed.
+    const char* Words;
+    /// How long a line is shown before it runs, in milliseconds; negative: until the space bar is pressed.
+    int Pause;
+  };
+  static const Pace Paces[4];
+
+  void Choose(const Pace& pace);
+  void Step();
+
+  Session& session_;
+  RunChip& chip_;
+  RunningLine line_;
+  const Pace* pace_ = &Paces[0];
+  bool waiting_ = false;
+};
+
+}  // namespace zerimo

@@ -1,0 +1,72 @@
+#include "desktop/extensions/stop.h"
+
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "desktop/desktop_text.h"
+
+namespace zerimo {
+
+namespace {
+
+/// A box that comes sooner than this after an answer may be one of many, in milliseconds.
+constexpr qint64 AtOnce = 1000;
+
+/// The display's own symbol of Break, which the toolkit does not know.
+constexpr quint32 BreakSymbol = 0xFF6B;
+
+bool MeansStop(const QKeyEvent& press) {
+  if (!press.modifiers().testFlag(Qt::ControlModifier)) return false;
+  const bool isBreak = press.key() == Qt::Key_Pause || press.key() == Qt::Key_Cancel;
+  return isBreak || press.nativeVirtualKey() == BreakSymbol || press.key() == Qt::Key_Period;
+}
+
+}  // namespace
+
+bool Stop::PressKey(const QKeyEvent& press) {
+  if (!MeansStop(press)) return false;
+  if (session_.Running().IsRunning()) session_.Running().RequestStop();
+  return true;
+}
+
+void Stop::BoxOpens(QDialog& dialog) {
+  auto* box = qobject_cast<QMessageBox*>(&dialog);
+  if (box == nullptr || !sinceAnswer_.isValid() || sinceAnswer_.elapsed() > AtOnce) return;
+  const QPushButton* button = box->addButton(QStringLiteral("&Stop the program"), QMessageBox::ActionRole);
+  QObject::connect(button, &QPushButton::clicked, box, [this] { session_.Running().RequestStop(); });
+}
+
+bool Stop::ClosesDuringRun() {
+  // Only a program can be stopped; the system's own questions close with the window.
+  if (session_.System().interpreter.controlPath.CtrlStr() == ".") return false;
+  // Closing the window a second time is clear enough.
+  if (asking_) return false;
+  asking_ = true;
+  // Not from here: the toolkit would ignore a second closing.
+  QTimer::singleShot(0, &session_.Shown(), [this] { AskToLeave(); });
+  return true;
+}
+
+void Stop::AskToLeave() {
+  if (!session_.Running().IsRunning()) {
+    asking_ = false;
+    session_.Shown().close();
+    return;
+  }
+  QMessageBox box(QMessageBox::Question, QLatin1String(ProgramName), QStringLiteral("A program is running."),
+                  QMessageBox::NoButton, &session_.Shown());
+  box.setInformativeText(QStringLiteral("Stop it and keep the drawing, close Zerimo, or let it go on?"));
+  QPushButton* stop = box.addButton(QStringLiteral("&Stop the program"), QMessageBox::ActionRole);
+  const QPushButton* close = box.addButton(QStringLiteral("&Close Zerimo"), QMessageBox::ActionRole);
+  QPushButton* goOn = box.addButton(QStringLiteral("&Go on"), QMessageBox::ActionRole);
+  box.setDefaultButton(stop);
+  box.setEscapeButton(goOn);
+  session_.Running().Ask(box);
+  asking_ = false;
+  if (box.clickedButton() == stop) session_.Running().RequestStop();
+  if (box.clickedButton() == close) session_.Running().RequestClose();
+}
+
+}  // namespace zerimo

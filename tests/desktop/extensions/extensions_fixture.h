@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/extensions/extensions.h"
+
+namespace zerimo {
+
+/// A session with all extensions.
+class ExtensionsTest : public DesktopTest {
+ protected:
+  ExtensionsTest() { AddExtensions(*session, State()); }
+
+  /// The folder for what the user types.
+  std::filesystem::path State() const { return folder.filePath("state").toStdString(); }
+
+  /// Opens the editor and types lines.
+  void TypeInEditor(const char* lines) {
+    Press(Qt::Key_F1);
+    for (const QString& line : QString::fromLatin1(lines).split('\n')) {
+      if (!Editor().toPlainText().isEmpty()) Press(Qt::Key_Return);
+      Type(line.toLatin1());
+    }
+  }
+
+  /// Runs an action `after` milliseconds from now, while the next line runs.
+  static void During(int after, std::function<void()> action) { QTimer::singleShot(after, qApp, std::move(action)); }
+
+  QLabel& Chip() { return *Shown().findChild<QLabel*>("RunChip"); }
+};
+
+}  // namespace zerimo
