@@ -55,21 +55,22 @@ fs::path ReportFileOf(const std::string& name) {
   return file;
 }
 
-int JobsOf(const batch::Options& options) {
-  if (options.Class.Jobs > 0) return options.Class.Jobs;
-  return std::clamp(QThread::idealThreadCount(), 1, batch::ClassOptions::MostJobs);
+int JobsOf(const ClassOptions& options) {
+  if (options.Jobs > 0) return options.Jobs;
+  return std::clamp(QThread::idealThreadCount(), 1, ClassOptions::MostJobs);
 }
 
 class ClassRun {
  public:
-  ClassRun(const batch::Options& givenOptions, const std::string& version)
-      : options(givenOptions),
-        folder(FolderOf(options.Class.Folder)),
-        file(ReportFileOf(options.Class.Report)),
-        pupils(PupilsIn(folder, options.Class.Folder)) {
-    report.Folder = NameOf(folder.filename());
-    report.Version = QString::fromStdString(version);
-    report.Limits = {options.Session.Seconds, options.Session.Steps, options.Class.Memory};
+  ClassRun(const Command& command, const std::string& version)
+      : options_(command.Class),
+        settings_(command.Runner.Session),
+        folder_(FolderOf(options_.Folder)),
+        file_(ReportFileOf(options_.Report)),
+        pupils_(PupilsIn(folder_, options_.Folder)) {
+    report_.Folder = NameOf(folder_.filename());
+    report_.Version = QString::fromStdString(version);
+    report_.Limits = {settings_.Seconds, settings_.Steps, options_.Memory};
   }
 
   ClassStatus Run() {
@@ -80,59 +81,59 @@ class ClassRun {
     try {
       WriteFiles();
     } catch (const std::exception&) {
-      return Close(ClassStatus::NotWritten, NameOf(file) + ": the report can not be written");
+      return Close(ClassStatus::NotWritten, NameOf(file_) + ": the report can not be written");
     }
     return Close(ClassStatus::ReportWritten, LastWords());
   }
 
  private:
   bool RunAll(const QString& place) {
-    ClassRunner::Plan plan{report.Limits, options.Session.Screen, JobsOf(options),
-                           QCoreApplication::applicationFilePath(), place.toStdU16String()};
-    const std::size_t all = pupils.size();
-    ClassRunner runner(std::move(plan), std::move(pupils), [this, all](const PupilRun& run, std::size_t done) {
-      progress.Tell(done, all, ReadableName(run.Who.Program) + u' ' + WordsOf(run.Went, report.Limits));
+    ClassRunner::Plan plan{report_.Limits, settings_.Screen, JobsOf(options_), QCoreApplication::applicationFilePath(),
+                           place.toStdU16String()};
+    const std::size_t all = pupils_.size();
+    ClassRunner runner(std::move(plan), std::move(pupils_), [this, all](const PupilRun& run, std::size_t done) {
+      progress_.Tell(done, all, ReadableName(run.Who.Program) + u' ' + WordsOf(run.Went, report_.Limits));
     });
     std::optional<std::vector<PupilRun>> runs = runner.Run();
     if (!runs || Interruption::Came()) return false;
-    report.Runs = std::move(*runs);
-    report.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
+    report_.Runs = std::move(*runs);
+    report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
     return true;
   }
 
   /// Each file takes its place when it is whole.
   void WriteFiles() {
-    const QByteArray page = PageOf(report);
-    WriteBeside(SummaryFileOf(file), SummaryOf(report).toStdString());
-    WriteBeside(file, page.toStdString());
+    const QByteArray page = PageOf(report_);
+    WriteBeside(SummaryFileOf(file_), SummaryOf(report_).toStdString());
+    WriteBeside(file_, page.toStdString());
   }
 
   QString LastWords() const {
-    const auto ended = std::ranges::count(report.Runs, Result::Ended, [](const PupilRun& run) { return run.Went.How; });
-    if (report.Runs.empty()) return QStringLiteral("there is no program in the folder; the report says so");
+    const auto ended =
+        std::ranges::count(report_.Runs, Result::Ended, [](const PupilRun& run) { return run.Went.How; });
+    if (report_.Runs.empty()) return QStringLiteral("there is no program in the folder; the report says so");
     return QStringLiteral("%1 of %2 programs ended by themselves; the report is %3")
         .arg(ended)
-        .arg(report.Runs.size())
-        .arg(NameOf(file));
+        .arg(report_.Runs.size())
+        .arg(NameOf(file_));
   }
 
   ClassStatus Close(ClassStatus status, const QString& words) {
-    progress.Close(words);
+    progress_.Close(words);
     return status;
   }
 
-  const batch::Options& options;
-  fs::path folder;
-  fs::path file;
-  std::vector<Pupil> pupils;
-  Report report;
-  Progress progress{std::cerr, Progress::StandardErrorIsTerminal()};
+  const ClassOptions& options_;
+  const batch::Settings& settings_;
+  fs::path folder_;
+  fs::path file_;
+  std::vector<Pupil> pupils_;
+  Report report_;
+  Progress progress_{std::cerr, Progress::StandardErrorIsTerminal()};
 };
 
 }  // namespace
 
-ClassStatus RunClass(const batch::Options& options, const std::string& version) {
-  return ClassRun(options, version).Run();
-}
+ClassStatus RunClass(const Command& command, const std::string& version) { return ClassRun(command, version).Run(); }
 
 }  // namespace zerimo::classroom

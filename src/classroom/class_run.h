@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "batch/options.h"
+#include "classroom/class_options.h"
 
 namespace zerimo::classroom {
 
@@ -11,6 +11,6 @@ enum class ClassStatus { ReportWritten = 0, NotWritten = 1, BadUsage = 2, Interr
 
 /// Runs the programs of a folder and writes the report and its summary. Needs a `QCoreApplication`. Fails with
 /// `UsageError` before anything runs.
-ClassStatus RunClass(const batch::Options& options, const std::string& version);
+ClassStatus RunClass(const Command& command, const std::string& version);
 
 }  // namespace zerimo::classroom

@@ -98,7 +98,7 @@ std::optional<Order> ReadOrder(const fs::path& file) {
   return order;
 }
 
-void WriteOutcome(const fs::path& file, const Outcome& outcome) {
+void WriteOutcome(const fs::path& file, const RunOutcome& outcome) {
   WriteObject(file, {{"result", WordOf(outcome.How)},
                      {"by", outcome.By},
                      {"message", outcome.Message},
@@ -110,10 +110,10 @@ void WriteOutcome(const fs::path& file, const Outcome& outcome) {
                      {"notes", QJsonArray::fromStringList(outcome.Notes)}});
 }
 
-std::optional<Outcome> ReadOutcome(const fs::path& file) {
+std::optional<RunOutcome> ReadOutcome(const fs::path& file) {
   const std::optional<QJsonObject> object = ReadObject(file);
   if (!object) return std::nullopt;
-  Outcome outcome;
+  RunOutcome outcome;
   outcome.How = ResultOf(object->value("result").toString());
   outcome.By = object->value("by").toString();
   outcome.Message = object->value("message").toString();

@@ -33,8 +33,8 @@ void WriteOrder(const std::filesystem::path& file, const Order& order);
 std::optional<Order> ReadOrder(const std::filesystem::path& file);
 
 /// Fails with `Failure` (file access).
-void WriteOutcome(const std::filesystem::path& file, const Outcome& outcome);
+void WriteOutcome(const std::filesystem::path& file, const RunOutcome& outcome);
 /// Nothing if there is no whole outcome.
-std::optional<Outcome> ReadOutcome(const std::filesystem::path& file);
+std::optional<RunOutcome> ReadOutcome(const std::filesystem::path& file);
 
 }  // namespace zerimo::classroom

@@ -39,7 +39,7 @@ class ProgramOutline {
   void Take(const std::string& line);
   bool IsCalledByAnother(const Procedure& one) const;
 
-  std::vector<Procedure> procedures;
+  std::vector<Procedure> procedures_;
 };
 
 }  // namespace zerimo::classroom

@@ -34,7 +34,7 @@ enum class Result {
 QString WordOf(Result result);
 
 /// Where a run stood when it did not come to its end. What is not known is empty or 0.
-struct Place {
+struct StopPlace {
   /// The line of the session or of what was typed for it, from 1.
   int Line = 0;
   QString LineText;
@@ -43,12 +43,12 @@ struct Place {
 };
 
 /// What a run tells of itself.
-struct Outcome {
+struct RunOutcome {
   Result How = Result::Crashed;
   /// `finished`, `BYE`, `QUIT`, `Abort` or `close`; `seconds`, `steps` or `memory`; otherwise empty.
   QString By;
   QString Message;
-  Place Where;
+  StopPlace Where;
   /// The lines that were typed for the pupil, if there was no session.
   QStringList Typed;
   /// What a teacher may want to know besides.
@@ -77,7 +77,7 @@ struct Said {
 /// All about one pupil's run.
 struct PupilRun {
   Pupil Who;
-  Outcome Went;
+  RunOutcome Went;
   Said Told;
   /// Wall-clock time of the process.
   double Seconds = 0;

@@ -108,71 +108,71 @@ fs::path InRunFolder(const char* file) { return fs::path("..") / file; }
 
 }  // namespace
 
-PupilSession::PupilSession(const Order& givenOrder)
-    : order(givenOrder),
-      loadName(LoadNameOf(order.Who.Program)),
-      transcriptFile(run_file::Transcript, LargestTranscript),
+PupilSession::PupilSession(const Order& order)
+    : order_(order),
+      loadName_(LoadNameOf(order_.Who.Program)),
+      transcriptFile_(run_file::Transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
-      system(SettingsOf(order), pictures.Pixels(), journal, [](const Surface&, const std::string&) {}) {}
+      system_(SettingsOf(order_), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {}) {}
 
-Outcome PupilSession::Run() {
+RunOutcome PupilSession::Run() {
   try {
     ReadFiles();
     PlaceProgram();
     fs::current_path(run_file::Scratch);
-    const Confinement confinement(order.Who.Program.parent_path());
+    const Confinement confinement(order_.Who.Program.parent_path());
     RunScript();
     WritePicture();
   } catch (const Reason& reason) {
-    outcome.How = Result::NotRun;
-    outcome.Message = QString::fromUtf8(reason.what());
+    outcome_.How = Result::NotRun;
+    outcome_.Message = QString::fromUtf8(reason.what());
   }
-  return outcome;
+  return outcome_;
 }
 
 void PupilSession::ReadFiles() {
-  program = TakeFile(order.Who.Program, "the program");
-  if (!order.Who.Session.empty()) session = TakeFile(order.Who.Session, "the session");
+  program_ = TakeFile(order_.Who.Program, "the program");
+  if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session");
   NoteMistakes();
 }
 
 /// What a teacher would look for first where a program does not do what its pupil meant. Of a program that is read as
 /// one line only that is said: the rest follows from it.
 void PupilSession::NoteMistakes() {
-  const bool isOneLine = program.find('\n') != std::string::npos && program.find('\r') == std::string::npos;
-  if (program.empty()) outcome.Notes.append("The program is empty.");
-  if (isOneLine) outcome.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
-  if (!outcome.Notes.isEmpty()) return;
-  outline.emplace(program);
-  const std::vector<std::string> withoutEnd = outline->WithoutEnd();
+  const bool isOneLine = program_.find('\n') != std::string::npos && program_.find('\r') == std::string::npos;
+  if (program_.empty()) outcome_.Notes.append("The program is empty.");
+  if (isOneLine) outcome_.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
+  if (!outcome_.Notes.isEmpty()) return;
+  outline_.emplace(program_);
+  const std::vector<std::string> withoutEnd = outline_->WithoutEnd();
   if (withoutEnd.empty()) return;
   QStringList names;
   for (const std::string& name : withoutEnd) names.append(FromLatin1(name));
-  outcome.Notes.append(ShortText("Procedures without END: " + names.join(QStringLiteral(", ")) + u'.'));
+  outcome_.Notes.append(ShortText("Procedures without END: " + names.join(QStringLiteral(", ")) + u'.'));
 }
 
 /// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed.
 void PupilSession::PlaceProgram() {
   const fs::path scratch(run_file::Scratch);
   fs::create_directory(scratch);
-  std::ofstream copy(scratch / (loadName + ".ZRM"), std::ios::binary);
-  copy << program;
+  std::ofstream copy(scratch / (loadName_ + ".ZRM"), std::ios::binary);
+  copy << program_;
   if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
 }
 
 batch::Script PupilSession::TakeScript() {
-  return order.Who.Session.empty() ? ScriptWithoutSession() : system.Read(session);
+  return order_.Who.Session.empty() ? ScriptWithoutSession() : system_.Read(session_);
 }
 
 /// Loads the program and calls the procedure that starts it.
 batch::Script PupilSession::ScriptWithoutSession() {
-  std::vector<std::string> lines = {"LOAD " + loadName};
-  const FirstCall first = outline ? outline->FirstCallOf(loadName) : FirstCall();
+  std::vector<std::string> lines = {"LOAD " + loadName_};
+  const FirstCall first = outline_ ? outline_->FirstCallOf(loadName_) : FirstCall();
   if (!first.Procedure.empty()) lines.push_back(first.Procedure);
-  if (!first.Note.empty()) outcome.Notes.append(FromLatin1(first.Note));
+  if (!first.Note.empty()) outcome_.Notes.append(FromLatin1(first.Note));
   batch::Script script;
   for (const std::string& line : lines) {
-    outcome.Typed.append(FromLatin1(line));
+    outcome_.Typed.append(FromLatin1(line));
     script.push_back({static_cast<int>(script.size()) + 1, batch::action::TypeLine{line}});
   }
   return script;
@@ -180,9 +180,9 @@ batch::Script PupilSession::ScriptWithoutSession() {
 
 void PupilSession::RunScript() {
   try {
-    LimitMemory(order.Limits.Memory);
+    LimitMemory(order_.Limits.Memory);
     const batch::Script script = TakeScript();
-    const batch::Outcome went = system.Run(script);
+    const batch::Outcome went = system_.Run(script);
     LiftMemoryLimit();
     Tell(went);
   } catch (const batch::SessionError& error) {
@@ -190,61 +190,59 @@ void PupilSession::RunScript() {
     Tell({batch::Ending::Refused, error.what(), error.Line});
   } catch (const std::bad_alloc&) {
     LiftMemoryLimit();
-    outcome.How = Result::Stopped;
-    outcome.By = "memory";
-    outcome.Where = WhereItStands(system.CurrentLine());
+    outcome_.How = Result::Stopped;
+    outcome_.By = "memory";
+    outcome_.Where = WhereItStands(system_.CurrentLine());
   }
-  journal.Flush();
-  if (transcriptFile.HasFailed()) outcome.Notes.append("Not all that was said could be kept: is the disk full?");
+  journal_.Flush();
+  if (transcriptFile_.HasFailed()) outcome_.Notes.append("Not all that was said could be kept: is the disk full?");
 }
 
 void PupilSession::Tell(const batch::Outcome& went) {
-  outcome.By = QString::fromStdString(went.By);
-  outcome.Message = ShortText(QString::fromStdString(went.Message));
+  outcome_.By = QString::fromStdString(went.By);
+  outcome_.Message = ShortText(QString::fromStdString(went.Message));
   switch (went.How) {
     case batch::Ending::Over:
-      outcome.How = Result::Ended;
+      outcome_.How = Result::Ended;
       return;
     case batch::Ending::Refused:
-      outcome.How = Result::Refused;
-      outcome.Where = PlaceOfLine(went.Line);
+      outcome_.How = Result::Refused;
+      outcome_.Where = PlaceOfLine(went.Line);
       return;
     case batch::Ending::Failed:
-      outcome.How = Result::Failed;
+      outcome_.How = Result::Failed;
       break;
     case batch::Ending::Stopped:
-      outcome.How = Result::Stopped;
+      outcome_.How = Result::Stopped;
       break;
   }
-  outcome.Where = WhereItStands(went.Line);
+  outcome_.Where = WhereItStands(went.Line);
 }
 
-Place PupilSession::PlaceOfLine(int line) const {
-  const QStringList lines = order.Who.Session.empty() ? outcome.Typed : QString::fromStdString(session).split(u'\n');
-  Place place;
+StopPlace PupilSession::PlaceOfLine(int line) const {
+  const QStringList lines = order_.Who.Session.empty() ? outcome_.Typed : QString::fromStdString(session_).split(u'\n');
+  StopPlace place;
   place.Line = line;
   place.LineText = ShortText(lines.value(line - 1).trimmed());
   return place;
 }
 
-Place PupilSession::WhereItStands(int line) {
-  const Form1& form = system.System();
-  Place place = PlaceOfLine(line);
-  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
-  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
+StopPlace PupilSession::WhereItStands(int line) {
+  const Form1& form = system_.System();
+  StopPlace place = PlaceOfLine(line);
+  if (form.Path.CtrlStr() == ".") return place;
+  PassOver([&] { place.Procedure = FromLatin1(form.Path.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  PassOver([&] {
-    place.Statement = StatementOf(form.interpreter.store.Line(EndValExtractor(form.interpreter.controlPath.CtrlStr())));
-  });
+  PassOver([&] { place.Statement = StatementOf(form.Store.Line(EndValExtractor(form.Path.CtrlStr()))); });
   return place;
 }
 
 void PupilSession::WritePicture() {
   try {
-    pictures.Write(system.System().Picture1, InRunFolder(run_file::Picture));
+    pictures_.Write(system_.System().Picture1, InRunFolder(run_file::Picture));
   } catch (const std::exception&) {
-    outcome.Notes.append("The picture can not be written.");
+    outcome_.Notes.append("The picture can not be written.");
   }
 }
 
@@ -254,7 +252,7 @@ int RunPupil() {
   TameProcess();
   WatchMemory();
   const fs::path folder = fs::current_path();
-  const Outcome outcome = PupilSession(*order).Run();
+  const RunOutcome outcome = PupilSession(*order).Run();
   WriteOutcome(folder / run_file::Outcome, outcome);
   return 0;
 }

@@ -14,10 +14,10 @@ namespace zerimo::classroom {
 /// Runs one pupil's program in this process, which does nothing else. The current folder is the run's folder.
 class PupilSession {
  public:
-  explicit PupilSession(const Order& givenOrder);
+  explicit PupilSession(const Order& order);
 
   /// Runs it and writes transcript and picture.
-  Outcome Run();
+  RunOutcome Run();
 
  private:
   /// Fails with `Reason`.
@@ -28,24 +28,24 @@ class PupilSession {
   batch::Script ScriptWithoutSession();
   void RunScript();
   void Tell(const batch::Outcome& went);
-  Place PlaceOfLine(int line) const;
+  StopPlace PlaceOfLine(int line) const;
   /// The place in the session and in the program.
-  Place WhereItStands(int line);
+  StopPlace WhereItStands(int line);
   void WritePicture();
 
-  const Order& order;
-  std::string program;
-  std::string session;
+  const Order& order_;
+  std::string program_;
+  std::string session_;
   /// Nothing if the program is empty or one line.
-  std::optional<ProgramOutline> outline;
+  std::optional<ProgramOutline> outline_;
   /// What `LOAD` calls the program.
-  std::string loadName;
-  Outcome outcome;
-  BoundedFile transcriptFile;
-  std::ostream transcript{&transcriptFile};
-  batch::Journal journal{&transcript, nullptr};
-  batch::PictureOutput pictures;
-  batch::BatchSession system;
+  std::string loadName_;
+  RunOutcome outcome_;
+  BoundedFile transcriptFile_;
+  std::ostream transcript_{&transcriptFile_};
+  batch::Journal journal_{&transcript_, nullptr};
+  batch::PictureOutput pictures_;
+  batch::BatchSession system_;
 };
 
 /// The process of one run: reads its order in the current folder, carries it out and writes the outcome. Returns the

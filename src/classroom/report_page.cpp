@@ -47,18 +47,18 @@ QString ContentPolicy() {
 
 class PageWriter {
  public:
-  explicit PageWriter(const Report& theReport) : report(theReport) {}
+  explicit PageWriter(const Report& report) : report_(report) {}
 
   QByteArray Write() {
     WriteHead();
     WriteOverview();
-    for (std::size_t i = 0; i < report.Runs.size(); ++i) WriteRun(report.Runs[i], i + 1);
-    page += "</main>\n</body>\n</html>\n";
-    return std::move(page);
+    for (std::size_t i = 0; i < report_.Runs.size(); ++i) WriteRun(report_.Runs[i], i + 1);
+    page_ += "</main>\n</body>\n</html>\n";
+    return std::move(page_);
   }
 
  private:
-  void Add(const QString& html) { page += html.toUtf8(); }
+  void Add(const QString& html) { page_ += html.toUtf8(); }
 
   void WriteHead() {
     Add(QStringLiteral("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"));
@@ -67,23 +67,23 @@ class PageWriter {
         QStringLiteral("<meta name=\"referrer\" content=\"no-referrer\">\n"
                        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"));
     Add(QStringLiteral("<title>") + Title() + QStringLiteral("</title>\n<style>"));
-    page += PageStyle;
+    page_ += PageStyle;
     Add(QStringLiteral("</style>\n</head>\n<body>\n<header>\n<h1 id=\"top\">") + Title() + QStringLiteral("</h1>\n"));
-    Add(Paragraph(Escaped(QString(report.Made).replace(u'T', u' ')) + QStringLiteral(", zerimo-batch ") +
-                  Escaped(report.Version)));
-    Add(Paragraph(QStringLiteral("Limits of each program: ") + LimitText(report.Limits) + u'.'));
+    Add(Paragraph(Escaped(QString(report_.Made).replace(u'T', u' ')) + QStringLiteral(", zerimo-batch ") +
+                  Escaped(report_.Version)));
+    Add(Paragraph(QStringLiteral("Limits of each program: ") + LimitText(report_.Limits) + u'.'));
     Add(QStringLiteral("</header>\n<main>\n"));
   }
 
-  QString Title() const { return QStringLiteral("Programs of ") + Escaped(Readable(report.Folder)); }
+  QString Title() const { return QStringLiteral("Programs of ") + Escaped(Readable(report_.Folder)); }
 
   void WriteOverview() {
-    if (report.Runs.empty()) return Add(Paragraph(QStringLiteral("There is no program (.ZRM) in the folder.")));
+    if (report_.Runs.empty()) return Add(Paragraph(QStringLiteral("There is no program (.ZRM) in the folder.")));
     Add(
         QStringLiteral("<h2>Overview</h2>\n<div class=\"table\">\n<table>\n<thead><tr><th scope=\"col\">Program</th>"
                        "<th scope=\"col\">How it went</th><th scope=\"col\" class=\"number\">Boxes</th>"
                        "<th scope=\"col\" class=\"number\">Time</th></tr></thead>\n<tbody>\n"));
-    for (std::size_t i = 0; i < report.Runs.size(); ++i) WriteRow(report.Runs[i], i + 1);
+    for (std::size_t i = 0; i < report_.Runs.size(); ++i) WriteRow(report_.Runs[i], i + 1);
     Add(QStringLiteral("</tbody>\n</table>\n</div>\n"));
   }
 
@@ -99,7 +99,7 @@ class PageWriter {
 
   QString ResultText(const PupilRun& run) const {
     const QLatin1String kind(run.Went.How == Result::Ended ? "good" : "bad");
-    return QStringLiteral("<span class=\"%1\">").arg(kind) + Escaped(WordsOf(run.Went, report.Limits)) +
+    return QStringLiteral("<span class=\"%1\">").arg(kind) + Escaped(WordsOf(run.Went, report_.Limits)) +
            QStringLiteral("</span>");
   }
 
@@ -131,14 +131,14 @@ class PageWriter {
   void WritePicture(const PupilRun& run) {
     const std::optional<std::string> bytes = run.Picture.empty() ? std::nullopt : BytesOf(run.Picture);
     if (!bytes) return Add(Paragraph(QStringLiteral("There is no picture.")));
-    pictureBytes += bytes->size();
-    if (pictureBytes > MostPictureBytes)
+    pictureBytes_ += bytes->size();
+    if (pictureBytes_ > MostPictureBytes)
       return Add(
           Paragraph(QStringLiteral("The picture is left out: the pictures of the page are too large together.")));
     const QSize size = QImageReader(NameOf(run.Picture)).size();
     Add(QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"Picture drawn by ").arg(size.width()).arg(size.height()));
     Add(EscapedName(run.Who.Program) + QStringLiteral("\" src=\"data:image/png;base64,"));
-    page += QByteArray::fromStdString(*bytes).toBase64();
+    page_ += QByteArray::fromStdString(*bytes).toBase64();
     Add(QStringLiteral("\">\n"));
   }
 
@@ -178,9 +178,9 @@ class PageWriter {
     return QStringLiteral("File window, answered: ") + answer;
   }
 
-  const Report& report;
-  QByteArray page;
-  std::size_t pictureBytes = 0;
+  const Report& report_;
+  QByteArray page_;
+  std::size_t pictureBytes_ = 0;
 };
 
 }  // namespace

@@ -22,7 +22,7 @@ QJsonObject LimitsOf(const RunLimits& limits) {
           {"megabytes", LimitOrNull(CanLimitMemory() ? limits.Memory : 0)}};
 }
 
-QJsonValue PlaceOf(const Place& place) {
+QJsonValue PlaceOf(const StopPlace& place) {
   if (place.Line == 0) return {};
   return QJsonObject{{"line", place.Line},
                      {"text", OrNull(place.LineText)},

@@ -35,10 +35,10 @@ class SaidBuilder {
 
   void TakeLine(QString line) {
     if (Told.LinesAreCut) return;
-    Told.LinesAreCut = Told.Lines.size() == MostLines || line.size() > roomForLines;
+    Told.LinesAreCut = Told.Lines.size() == MostLines || line.size() > roomForLines_;
     if (Told.Lines.size() == MostLines) return;
-    line.truncate(roomForLines);
-    roomForLines -= line.size();
+    line.truncate(roomForLines_);
+    roomForLines_ -= line.size();
     Told.Lines.append(line);
   }
 
@@ -46,17 +46,17 @@ class SaidBuilder {
     if (Told.BoxesAreCut) return;
     const bool isOneTooMany = static_cast<qsizetype>(Told.Boxes.size()) == MostBoxes;
     const qsizetype size = shown.Text.size() + shown.Title.size() + shown.Answer.size();
-    Told.BoxesAreCut = isOneTooMany || size > roomForBoxes;
+    Told.BoxesAreCut = isOneTooMany || size > roomForBoxes_;
     if (isOneTooMany) return;
     for (QString* const text : {&shown.Text, &shown.Title, &shown.Answer}) {
-      text->truncate(roomForBoxes);
-      roomForBoxes -= text->size();
+      text->truncate(roomForBoxes_);
+      roomForBoxes_ -= text->size();
     }
     Told.Boxes.push_back(shown);
   }
 
-  qsizetype roomForLines = MostCharacters;
-  qsizetype roomForBoxes = MostCharacters;
+  qsizetype roomForLines_ = MostCharacters;
+  qsizetype roomForBoxes_ = MostCharacters;
 };
 
 }  // namespace

@@ -14,7 +14,7 @@ QString LimitWords(const QString& by, const RunLimits& limits) {
 
 }  // namespace
 
-QString WordsOf(const Outcome& outcome, const RunLimits& limits) {
+QString WordsOf(const RunOutcome& outcome, const RunLimits& limits) {
   QString message = Readable(outcome.Message);
   switch (outcome.How) {
     case Result::Ended:
@@ -33,7 +33,7 @@ QString WordsOf(const Outcome& outcome, const RunLimits& limits) {
   return QStringLiteral("crashed: ") + message;
 }
 
-QString WordsOf(const Place& place) {
+QString WordsOf(const StopPlace& place) {
   if (place.Line == 0) return {};
   QStringList parts = {QStringLiteral("in line %1").arg(place.Line)};
   if (!place.LineText.isEmpty()) parts.first() += QStringLiteral(" (") + Readable(place.LineText) + u')';

@@ -7,10 +7,10 @@
 namespace zerimo::classroom {
 
 /// How a run went, in a few words: "ended", "stopped: more than 10 seconds".
-QString WordsOf(const Outcome& outcome, const RunLimits& limits);
+QString WordsOf(const RunOutcome& outcome, const RunLimits& limits);
 
 /// Where a run stood, as the end of a sentence: "in line 2 (STAR), in the procedure SPIN at FD 10"; or empty.
-QString WordsOf(const Place& place);
+QString WordsOf(const StopPlace& place);
 
 /// "1 second", "2.5 seconds": a limit.
 QString WordsOfSecondLimit(double seconds);
