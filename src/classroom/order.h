@@ -4,7 +4,8 @@
 #include <optional>
 
 #include "classroom/pupil.h"
-#include "controls/controls.h"
+#include "classroom/task.h"
+#include "controls/form_controls.h"
 
 /// How the runner and the process of one run talk: by files in the run's folder.
 namespace zerimo::classroom {
@@ -19,6 +20,12 @@ inline constexpr const char* Picture = "picture.png";
 inline constexpr const char* OutOfMemory = "memory";
 /// The folder that the pupil's program works in.
 inline constexpr const char* Scratch = "scratch";
+
+/// The files of a goal, counted from 0: what was drawn and printed for it, and the pictures.
+std::string Drawn(std::size_t goal);
+std::string Printed(std::size_t goal);
+std::string GoalPicture(std::size_t goal);
+std::string Difference(std::size_t goal);
 }  // namespace run_file
 
 /// What a run is told.
@@ -26,6 +33,11 @@ struct Order {
   Pupil Who;
   RunLimits Limits;
   ScreenSize Screen;
+  std::vector<Goal> Goals = {};
+  /// The folder of the model's run, which the goals are compared with; empty for the model itself.
+  std::filesystem::path ModelFolder = {};
+  /// The model's picture, if the model is no program.
+  std::filesystem::path ModelPicture = {};
 };
 
 /// Fails with `Failure` (file access).

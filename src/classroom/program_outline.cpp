@@ -72,6 +72,20 @@ FirstCall ProgramOutline::FirstCallOf(std::string_view name) const {
   return {first->Name, note};
 }
 
+bool ProgramOutline::Has(std::string_view procedure) const {
+  return std::ranges::find(procedures_, procedure, &Procedure::Name) != procedures_.end();
+}
+
+std::string ProgramOutline::MainProcedure(std::string_view name) const {
+  const std::string wanted = UpperCase(name);
+  std::string main;
+  for (const Procedure& each : procedures_) {
+    if (each.Name == wanted) return wanted;
+    if (main.empty() || !IsCalledByAnother(each)) main = each.Name;
+  }
+  return main;
+}
+
 std::vector<std::string> ProgramOutline::WithoutEnd() const {
   std::vector<std::string> names;
   for (const Procedure& each : procedures_) {

@@ -3,7 +3,11 @@
 #include <QString>
 #include <QStringList>
 #include <filesystem>
+#include <optional>
 #include <vector>
+
+#include "classroom/drawings/comparison.h"
+#include "classroom/findings/mistakes.h"
 
 namespace zerimo::classroom {
 
@@ -12,6 +16,8 @@ struct Pupil {
   std::filesystem::path Program;
   /// The session beside it, or empty.
   std::filesystem::path Session;
+  /// What the report calls the pupil; the name of the file if it is empty.
+  QString Name = {};
 };
 
 /// How a run went.
@@ -40,6 +46,29 @@ struct StopPlace {
   QString LineText;
   QString Procedure;
   QString Statement;
+  /// The line of the program's file, from 1.
+  int ProgramLine = 0;
+};
+
+/// A line of a program's file.
+struct SourceLine {
+  QString Text;
+  /// The lines of the store that stand for it, if they differ from it.
+  std::optional<QStringList> Stored = {};
+};
+
+/// In which way a drawing is compared with the goal's.
+enum class GoalWay { Shapes, Pixels, Texts };
+
+/// What became of one goal.
+struct GoalOutcome {
+  QString Title;
+  GoalWay Way = GoalWay::Shapes;
+  bool Met = false;
+  /// How much of it is alike, from 0 to 100.
+  double Percent = 0;
+  double Points = 1;
+  std::optional<Placement> Placed = {};
 };
 
 /// What a run tells of itself.
@@ -53,6 +82,11 @@ struct RunOutcome {
   QStringList Typed;
   /// What a teacher may want to know besides.
   QStringList Notes;
+  /// What is suspicious in the program and its run.
+  std::vector<Finding> Findings = {};
+  std::vector<SourceLine> Source = {};
+  bool SourceIsCut = false;
+  std::vector<GoalOutcome> Goals = {};
 };
 
 /// A message box, a question or a file window, as it was answered.
@@ -72,6 +106,8 @@ struct Said {
   bool LinesAreCut = false;
   std::vector<ShownBox> Boxes;
   bool BoxesAreCut = false;
+  /// The lines that the program printed, without those that were typed.
+  QStringList Printed = {};
 };
 
 /// All about one pupil's run.
@@ -81,8 +117,11 @@ struct PupilRun {
   Said Told;
   /// Wall-clock time of the process.
   double Seconds = 0;
-  /// The picture as a PNG file, or empty if there is none.
+  /// The picture as a PNG file, or empty if there is none. Those of the goals lie beside it.
   std::filesystem::path Picture;
+
+  /// Whether the run needs a teacher's eye.
+  bool IsSuspicious() const { return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty(); }
 };
 
 /// The limits of each run; 0 is no limit.
