@@ -18,7 +18,10 @@ constexpr int GreatestMemory = 1 << 20;
 
 constexpr const char* OfClass = "A class";
 
-constexpr const char* Usage = "       zerimo-batch --class FOLDER --out REPORT.html [options]\n";
+constexpr const char* Usage =
+    "       zerimo-batch --class FOLDER --out REPORT.html [options]\n"
+    "       zerimo-batch --list FILE --shard I/N --jsonl PART.jsonl [options]\n"
+    "       zerimo-batch --merge PART.jsonl... --out REPORT.html\n";
 
 constexpr const char* HelpEnd =
     "\nWith --class every program (.ZRM) of a folder runs in a process of its own, by the session (.session) of the\n"
@@ -33,6 +36,20 @@ void TakeFolder(ClassOptions& options, const std::string& value) {
 void TakeReport(ClassOptions& options, const std::string& value) {
   if (!batch::IsPageName(value)) Refuse("--out", value, "a file name ending in .html or .htm is wanted");
   options.Report = value;
+}
+
+void TakeShard(ClassOptions& options, const std::string& value) {
+  const std::size_t divider = value.find('/');
+  const std::string_view text = value;
+  const auto index = WholeText<int>(text.substr(0, divider));
+  const auto count = WholeText<int>(divider == std::string::npos ? std::string_view() : text.substr(divider + 1));
+  if (!index || !count || *index < 1 || *index > *count) Refuse("--shard", value, "I/N is wanted, with I from 1 to N");
+  options.Part = {*index, *count};
+}
+
+void TakeLanguage(ClassOptions& options, const std::string& value) {
+  options.Words = FindLanguage(QString::fromStdString(value));
+  if (options.Words == nullptr) Refuse("--lang", value, "en or de is wanted");
 }
 
 void TakeMemory(ClassOptions& options, const std::string& value) {
@@ -54,21 +71,51 @@ void AddClassOptions(CommandLine& line, ClassOptions& options) {
                        void (*take)(ClassOptions&, const std::string&)) {
     line.Add(OfClass, {name, value, help, [&options, take](const std::string& text) { take(options, text); }});
   };
+  const auto addName = [&](const char* name, const char* value, const char* help, std::string& field) {
+    line.Add(OfClass, {name, value, help, [name, &field](const std::string& text) {
+                         if (text.empty()) Refuse(name, text, "a name is wanted");
+                         field = text;
+                       }});
+  };
   add("--class", "FOLDER", "the folder of the programs", TakeFolder);
   add("--out", "REPORT", "the page to write, .html or .htm; a summary goes beside it as .json", TakeReport);
+  addName("--task", "PLACE", "a folder with TASK.md and GOAL.ZRM, or a picture or program to compare with",
+          options.Task);
+  addName("--session", "FILE", "the session of all programs that have none of their own; it calls each PROGRAM",
+          options.Session);
+  addName("--names", "CSV", "the pupils' names: a line FILE,NAME or FOLDER,NAME for each", options.Names);
+  addName("--template", "FILE", "a program that everyone was given: it makes no programs alike", options.Template);
+  addName("--csv", "FILE", "write the marks as a table", options.Marks);
+  addName("--pupils", "DIR", "write a page for each pupil, to be handed back", options.Pupils);
+  add("--lang", "CODE", "the language of the pages, en or de (en)", TakeLanguage);
+  addName("--list", "FILE", "run the programs that the file lists, one a line, in place of a folder", options.List);
+  add("--shard", "I/N", "run only the part I of N equal parts", TakeShard);
+  addName("--jsonl", "FILE", "add a line of JSON for each program as it ends; pictures go beside it", options.Records);
+  line.AddFlag(OfClass, "--resume", "do not run again what --jsonl has already", options.Resume);
+  line.AddList(OfClass, "--merge", "PART...", "make one report of the files that --jsonl has written", options.Merged);
   add("--memory", "MB", "at most MB megabytes for each program; 0 is no limit (512)", TakeMemory);
   add("--jobs", "N", "N programs at the same time (one for each core)", TakeJobs);
   line.AddHelp(Usage, HelpEnd);
+}
+
+void CheckClass(const CommandLine& line, const Command& command) {
+  const ClassOptions& options = command.Class;
+  if (line.HasSession())
+    throw UsageError(command.Runner.SessionFile + ": no session can be given with --class; put it beside the program");
+  if (!options.Folder.empty() && !options.List.empty()) throw UsageError("--list: not with --class");
+  if (options.Report.empty() && (options.Records.empty() || command.IsMerge()))
+    throw UsageError((command.IsMerge()        ? std::string("--merge")
+                      : options.Folder.empty() ? std::string("--list")
+                                               : std::string("--class")) +
+                     ": the report is missing, give --out");
+  if (options.Resume && options.Records.empty()) throw UsageError("--resume: only with --jsonl");
 }
 
 /// The options that are given must belong to one kind of run.
 void CheckKind(const CommandLine& line, const Command& command) {
   const std::string strange = line.FirstOf(command.IsClass() ? CommandLine::OfSession : OfClass);
   if (!strange.empty()) throw UsageError(strange + (command.IsClass() ? ": not with --class" : ": only with --class"));
-  if (!command.IsClass()) return;
-  if (line.HasSession())
-    throw UsageError(command.Runner.SessionFile + ": no session can be given with --class; put it beside the program");
-  if (command.Class.Report.empty()) throw UsageError("--class: the report is missing, give --out");
+  if (command.IsClass()) CheckClass(line, command);
 }
 
 }  // namespace
@@ -90,7 +137,7 @@ bool AskForClass(const std::vector<std::string>& arguments) {
   ClassOptions options;
   CommandLine line(ignored);
   AddClassOptions(line, options);
-  return line.Names("--class", arguments);
+  return line.Names("--class", arguments) || line.Names("--list", arguments) || line.Names("--merge", arguments);
 }
 
 }  // namespace zerimo::classroom

@@ -9,8 +9,11 @@ namespace zerimo::classroom {
 /// The exit status of a class run.
 enum class ClassStatus { ReportWritten = 0, NotWritten = 1, BadUsage = 2, Interrupted = 3 };
 
-/// Runs the programs of a folder and writes the report and its summary. Needs a `QCoreApplication`. Fails with
-/// `UsageError` before anything runs.
+/// Runs the programs of a class and writes what comes of it, or merges its parts. Needs a `QGuiApplication`. Fails with
+/// `UsageError`, before any program runs.
 ClassStatus RunClass(const Command& command, const std::string& version);
+
+/// Makes one report of the parts of a class without holding them in memory. Fails with `UsageError`.
+ClassStatus MergeParts(const Command& command, const std::string& version);
 
 }  // namespace zerimo::classroom

@@ -18,22 +18,26 @@ constexpr int WatchInterval = 50;
 ClassRunner::ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone)
     : plan_(std::move(plan)), pupils_(std::move(pupils)), listener_(std::move(onDone)), runs_(pupils_.size()) {}
 
-std::optional<std::vector<PupilRun>> ClassRunner::Run() {
-  if (pupils_.empty()) return std::move(runs_);
-  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
-  timer_.start(WatchInterval);
-  StartMore();
-  loop_.exec();
-  // Those that still run are killed as they go.
-  running_.clear();
-  if (interrupted_) return std::nullopt;
-  return std::move(runs_);
+std::vector<PupilRun> ClassRunner::Run() {
+  if (!pupils_.empty()) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
+    timer_.start(WatchInterval);
+    StartMore();
+    loop_.exec();
+    // Those that still run are killed as they go.
+    running_.clear();
+  }
+  std::vector<PupilRun> ended;
+  for (std::optional<PupilRun>& run : runs_) {
+    if (run) ended.push_back(std::move(*run));
+  }
+  return ended;
 }
 
 void ClassRunner::StartMore() {
   while (next_ < pupils_.size() && running_.size() < static_cast<std::size_t>(plan_.Jobs)) {
     const std::size_t index = next_++;
-    const Order order{pupils_[index], plan_.Limits, plan_.Screen};
+    const Order order{pupils_[index], plan_.Limits, plan_.Screen, plan_.Goals, plan_.ModelFolder, plan_.ModelPicture};
     running_.push_back({index, std::make_unique<RunProcess>(order, plan_.Folder / std::to_string(index))});
     // Looked at a moment later, when the process is not at work any more.
     running_.back().Process->Start(plan_.Program, [this] {
@@ -50,7 +54,7 @@ void ClassRunner::Look() {
     job.Process->EndIfLate();
     if (!job.Process->HasEnded()) continue;
     runs_[job.Index] = job.Process->TakeRun();
-    listener_(runs_[job.Index], ++done_);
+    listener_(*runs_[job.Index], ++done_);
   }
   std::erase_if(running_, [](const Job& job) { return job.Process->HasEnded(); });
   if (done_ == pupils_.size()) loop_.quit();

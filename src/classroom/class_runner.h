@@ -21,6 +21,10 @@ class ClassRunner {
     int Jobs = 1;
     /// The program to start.
     QString Program;
+    /// What the programs are asked for; empty for none.
+    std::vector<Goal> Goals = {};
+    std::filesystem::path ModelFolder = {};
+    std::filesystem::path ModelPicture = {};
     /// A folder for the runs' own folders, which is there and empty.
     std::filesystem::path Folder;
   };
@@ -29,9 +33,11 @@ class ClassRunner {
 
   ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone);
 
-  /// The runs in the order of the pupils, or nothing if it was interrupted; then no process is left. Needs a
-  /// `QCoreApplication`.
-  std::optional<std::vector<PupilRun>> Run();
+  /// The runs in the order of the pupils; if it was interrupted only those that had ended, and no process is left.
+  /// Needs a `QCoreApplication`.
+  std::vector<PupilRun> Run();
+
+  bool WasInterrupted() const { return interrupted_; }
 
  private:
   struct Job {
@@ -46,7 +52,7 @@ class ClassRunner {
   Plan plan_;
   std::vector<Pupil> pupils_;
   Listener listener_;
-  std::vector<PupilRun> runs_;
+  std::vector<std::optional<PupilRun>> runs_;
   std::vector<Job> running_;
   std::size_t next_ = 0;
   std::size_t done_ = 0;

@@ -22,6 +22,10 @@ constexpr double UnitsPerDot = UnitsPerPixel;
 
 fs::path InRunFolder(const std::string& file) { return fs::path("..") / file; }
 
+fs::path ModelPictureOf(const Order& order, std::size_t index) {
+  return order.ModelPicture.empty() ? order.ModelFolder / run_file::GoalPicture(index) : order.ModelPicture;
+}
+
 void Draw(QPainter& painter, const Drawing& drawing, const QColor& colour, int width) {
   painter.setPen(QPen(colour, width));
   for (const Line& line : drawing.Lines)
@@ -78,11 +82,9 @@ void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, co
 }
 
 void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index) {
-  const fs::path model =
-      order.ModelPicture.empty() ? order.ModelFolder / run_file::GoalPicture(index) : order.ModelPicture;
-  const PixelComparison comparison =
-      ComparePixels(QImage(NameOf(model)), QImage(NameOf(InRunFolder(run_file::GoalPicture(index)))), NearPixels,
-                    order.Goals[index].Shapes.Colour);
+  const PixelComparison comparison = ComparePixels(QImage(NameOf(ModelPictureOf(order, index))),
+                                                   QImage(NameOf(InRunFolder(run_file::GoalPicture(index)))),
+                                                   NearPixels, order.Goals[index].Shapes.Colour);
   outcome.Percent = comparison.Percent;
   outcome.Met = comparison.Percent >= order.Goals[index].Enough;
   comparison.Difference.save(NameOf(InRunFolder(run_file::Difference(index))));
@@ -102,6 +104,8 @@ double PercentOfTexts(const QStringList& wanted, const QStringList& printed) {
 
 GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) {
   const Goal& goal = order.Goals[index];
+  std::error_code ignored;
+  fs::copy_file(ModelPictureOf(order, index), InRunFolder(run_file::ModelPicture(index)), ignored);
   GoalOutcome outcome{ShortText(goal.Title()), goal.Way, false, 0, goal.Points, {}};
   if (goal.Way == GoalWay::Shapes) JudgeShapes(outcome, order, index, run);
   if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index);

@@ -60,6 +60,7 @@ std::string Numbered(const char* name, std::size_t goal, const char* ending) {
 namespace run_file {
 std::string Drawn(std::size_t goal) { return Numbered("drawn-", goal, ".json"); }
 std::string Printed(std::size_t goal) { return Numbered("printed-", goal, ".json"); }
+std::string ModelPicture(std::size_t goal) { return Numbered("model-", goal, ".png"); }
 std::string GoalPicture(std::size_t goal) { return Numbered("goal-", goal, ".png"); }
 std::string Difference(std::size_t goal) { return Numbered("difference-", goal, ".png"); }
 }  // namespace run_file

@@ -5,7 +5,7 @@
 
 #include "classroom/pupil.h"
 #include "classroom/task.h"
-#include "controls/form_controls.h"
+#include "controls/controls.h"
 
 /// How the runner and the process of one run talk: by files in the run's folder.
 namespace zerimo::classroom {
@@ -24,6 +24,7 @@ inline constexpr const char* Scratch = "scratch";
 /// The files of a goal, counted from 0: what was drawn and printed for it, and the pictures.
 std::string Drawn(std::size_t goal);
 std::string Printed(std::size_t goal);
+std::string ModelPicture(std::size_t goal);
 std::string GoalPicture(std::size_t goal);
 std::string Difference(std::size_t goal);
 }  // namespace run_file

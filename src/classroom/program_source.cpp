@@ -21,8 +21,8 @@ std::string Kept(const QString& line) {
 }
 
 /// A line of the store, or the empty one beyond its end.
-std::string LineAt(const ProgramStore& store, int number) {
-  return number > ProgramStore::LineCount ? std::string() : std::string(Trimmed(store.Line(number)));
+std::string LineAt(const Store& store, int number) {
+  return number > Store::LineCount ? std::string() : std::string(Trimmed(store.Line(number)));
 }
 
 }  // namespace
@@ -33,7 +33,7 @@ QString TextOfProgram(const std::string& bytes) {
   return decoder.hasError() ? QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())) : text;
 }
 
-ProgramSource::ProgramSource(const QString& program, const ProgramStore& store) {
+ProgramSource::ProgramSource(const QString& program, const Store& store) {
   for (const QString& line : LinesOf(program)) {
     IsCut = IsCut || Lines.size() == MostLines;
     if (!IsCut) Lines.push_back({line.left(LongestLine), {}});
@@ -41,7 +41,7 @@ ProgramSource::ProgramSource(const QString& program, const ProgramStore& store) 
   Match(store);
 }
 
-void ProgramSource::Match(const ProgramStore& store) {
+void ProgramSource::Match(const Store& store) {
   fileLines_.assign(1, 0);
   for (std::size_t i = 0; i < Lines.size(); ++i) {
     const std::string kept = Kept(Lines[i].Text);
@@ -59,7 +59,7 @@ void ProgramSource::Match(const ProgramStore& store) {
   }
 }
 
-int ProgramSource::LengthOfRepeat(const ProgramStore& store, int first) {
+int ProgramSource::LengthOfRepeat(const Store& store, int first) {
   const std::string label = LineAt(store, first + 1);
   if (!LineAt(store, first).starts_with("MAKE #") || !label.starts_with("LABEL $")) return 0;
   const std::string jump = "GOTO " + label.substr(6);

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "classroom/pupil.h"
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 
 namespace zerimo::classroom {
 
@@ -15,7 +15,7 @@ class ProgramSource {
   static constexpr qsizetype LongestLine = 500;
 
   /// `program` is the text of the file; the store is as it stands after the run.
-  ProgramSource(const QString& program, const ProgramStore& store);
+  ProgramSource(const QString& program, const Store& store);
 
   std::vector<SourceLine> Lines;
   bool IsCut = false;
@@ -24,9 +24,9 @@ class ProgramSource {
   int LineOf(int storeLine) const;
 
  private:
-  void Match(const ProgramStore& store);
+  void Match(const Store& store);
   /// The store's lines from `first` on that a REPEAT became; 0 of them if there is none.
-  static int LengthOfRepeat(const ProgramStore& store, int first);
+  static int LengthOfRepeat(const Store& store, int first);
 
   /// From the line of the store to that of the file.
   std::vector<int> fileLines_;

@@ -110,24 +110,11 @@ void PupilSession::ReadFiles() {
   program_ = TakeFile(order_.Who.Program, "the program");
   if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session");
   outcome_.Findings = FindingsIn(TextOfProgram(program_));
-  NoteMistakes();
-}
-
-/// Of a program that is read as one line only that is said: the rest follows from it.
-void PupilSession::NoteMistakes() {
-  const auto has = [this](Mistake mistake) {
-    return std::ranges::find(outcome_.Findings, mistake, &Finding::What) != outcome_.Findings.end();
+  // Of a program that is read as one line only that is said: the rest follows from it.
+  const auto isNone = [](const Finding& finding) {
+    return finding.What == Mistake::Empty || finding.What == Mistake::OneLine;
   };
-  if (has(Mistake::Empty)) outcome_.Notes.append("The program is empty.");
-  if (has(Mistake::OneLine))
-    outcome_.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
-  if (!outcome_.Notes.isEmpty()) return;
-  outline_.emplace(program_);
-  const std::vector<std::string> withoutEnd = outline_->WithoutEnd();
-  if (withoutEnd.empty()) return;
-  QStringList names;
-  for (const std::string& name : withoutEnd) names.append(FromLatin1(name));
-  outcome_.Notes.append(ShortText("Procedures without END: " + names.join(QStringLiteral(", ")) + u'.'));
+  if (std::ranges::none_of(outcome_.Findings, isNone)) outline_.emplace(program_);
 }
 
 /// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed; and by the
@@ -135,7 +122,10 @@ void PupilSession::NoteMistakes() {
 void PupilSession::PlaceProgram() {
   const fs::path scratch(run_file::Scratch);
   fs::create_directory(scratch);
-  for (const std::string& name : {loadName_, std::string(AnyName)}) {
+  std::vector<std::string> names = {loadName_};
+  // Elsewhere a file PROGRAM.ZRM of the class folder is meant.
+  if (!order_.Goals.empty() || session_.find(AnyName) != std::string::npos) names.emplace_back(AnyName);
+  for (const std::string& name : names) {
     std::ofstream copy(scratch / (name + ".ZRM"), std::ios::binary);
     copy << program_;
     if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
@@ -193,7 +183,7 @@ void PupilSession::RunMain() {
 }
 
 void PupilSession::AddSource(SessionRun& run) {
-  ProgramSource source(TextOfProgram(program_), run.System().Store);
+  ProgramSource source(TextOfProgram(program_), run.System().interpreter.store);
   outcome_.Where.ProgramLine = source.LineOf(run.StoreLine());
   outcome_.Source = std::move(source.Lines);
   outcome_.SourceIsCut = source.IsCut;

@@ -22,7 +22,6 @@ class PupilSession {
  private:
   /// Fails with `Reason`.
   void ReadFiles();
-  void NoteMistakes();
   void PlaceProgram();
   Play MainPlay();
   Play PlayOf(const Goal& goal) const;

@@ -143,6 +143,20 @@ std::vector<ShownBox> BoxesAt(const Json& json) {
   return boxes;
 }
 
+/// What readers of the file have always found among the notes, though it is a finding too.
+QStringList NotesOfFindings(const std::vector<Finding>& findings) {
+  QStringList notes;
+  QStringList withoutEnd;
+  for (const Finding& finding : findings) {
+    if (finding.What == Mistake::Empty) notes.append("The program is empty.");
+    if (finding.What == Mistake::OneLine)
+      notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
+    if (finding.What == Mistake::WithoutEnd) withoutEnd += finding.Details;
+  }
+  if (!withoutEnd.isEmpty()) notes.append("Procedures without END: " + withoutEnd.join(QStringLiteral(", ")) + u'.');
+  return notes;
+}
+
 }  // namespace
 
 QString WordOf(Result result) {
@@ -192,6 +206,7 @@ Json JsonOf(const PupilRun& run) {
                {"name", OrNull(run.Who.Name)},
                {"session", OrNull(NameOf(run.Who.Session.filename()))}};
   json.update(JsonOf(run.Went));
+  json["notes"] = ValueOf(NotesOfFindings(run.Went.Findings) + run.Went.Notes);
   json["seconds"] = std::round(run.Seconds * 1000) / 1000;
   json["printed"] = ValueOf(run.Told.Lines);
   json["printedCut"] = run.Told.LinesAreCut;
@@ -205,6 +220,7 @@ PupilRun RunIn(const Json& json) {
   PupilRun run;
   run.Who = {TextAt(json, "file").toStdU16String(), TextAt(json, "session").toStdU16String(), TextAt(json, "name")};
   run.Went = OutcomeIn(json);
+  for (const QString& note : NotesOfFindings(run.Went.Findings)) run.Went.Notes.removeOne(note);
   run.Seconds = NumberAt(json, "seconds");
   run.Told.Lines = TextsAt(json, "printed");
   run.Told.LinesAreCut = FlagAt(json, "printedCut");

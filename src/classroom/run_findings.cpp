@@ -29,7 +29,7 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
   const DrawingRecorder& recorder = run.Recorder();
   const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
   if (!recorder.HasDrawn() && isSilent) findings.push_back({Mistake::NothingDrawn, 0, {}});
-  if (recorder.HasDrawn() && run.System().Controls.Image1.Visible())
+  if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
     findings.push_back({Mistake::UnderTheTitle, 0, {}});
   if (recorder.PartOutside(run.System().Picture1) > MuchOutside)
     findings.push_back({Mistake::OutsideThePicture, 0, {}});

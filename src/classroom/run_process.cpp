@@ -65,7 +65,9 @@ void RunProcess::Start(const QString& program, std::function<void()> onEnd) {
 void RunProcess::EndIfLate() {
   if (ended_ || late_ || order_.Limits.Seconds == 0) return;
   const std::chrono::duration<double> taken = Clock::now() - begin_;
-  if (taken.count() < order_.Limits.Seconds + secondsAround_) return;
+  // The program runs once, and once more for each goal.
+  const auto runs = static_cast<double>(order_.Goals.size() + 1);
+  if (taken.count() < order_.Limits.Seconds * runs + secondsAround_) return;
   late_ = true;
   process_.kill();
 }

@@ -114,13 +114,13 @@ StopPlace SessionRun::PlaceOfLine(int line, const Play& play) {
 StopPlace SessionRun::WhereItStands(int line, const Play& play) {
   const Form1& form = System();
   StopPlace place = PlaceOfLine(line, play);
-  if (form.Path.CtrlStr() == ".") return place;
-  PassOver([&] { place.Procedure = FromLatin1(form.Path.CurrentProcedureName()); });
+  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
+  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
   PassOver([&] {
-    storeLine_ = EndValExtractor(form.Path.CtrlStr());
-    place.Statement = StatementOf(form.Store.Line(storeLine_));
+    storeLine_ = EndValExtractor(form.interpreter.controlPath.CtrlStr());
+    place.Statement = StatementOf(form.interpreter.store.Line(storeLine_));
   });
   return place;
 }

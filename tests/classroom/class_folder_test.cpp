@@ -46,9 +46,33 @@ TEST_F(ClassFolderTest, WhateverIsCalledAProgramIsOne) {
   EXPECT_EQ(Found(), (Words{"FOLDER.ZRM", "LINK.ZRM"}));
 }
 
-TEST_F(ClassFolderTest, FoldersBelowAreNotLookedInto) {
-  Disk.Write("sub/ANNA.ZRM", "");
-  EXPECT_EQ(Found(), Words{});
+TEST_F(ClassFolderTest, AFolderBelowBelongsToThePupilOfItsName) {
+  Make({"ZOE.ZRM"});
+  Disk.Write("Anna Berg/STAR.ZRM", "");
+  Disk.Write("Ben Cole/A.ZRM", "");
+  Disk.Write("Ben Cole/B.ZRM", "");
+  Disk.Write(".hidden/C.ZRM", "");
+  QStringList names;
+  for (const Pupil& pupil : PupilsOf(Disk.Path)) names.append(pupil.Name);
+  EXPECT_EQ(names, (QStringList{"", "Anna Berg", "Ben Cole/A.ZRM", "Ben Cole/B.ZRM"}));
+}
+
+TEST_F(ClassFolderTest, NamesComeFromATable) {
+  std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}}, {"5a/1234/STAR.ZRM", {}}, {"5a/BEN.ZRM", {}}};
+  TakeNames(pupils, "anna,Anna Berg\r\n1234;\"Zoe \"\"Z\"\" Cole\"\nnobody,Nobody\n");
+  EXPECT_EQ(pupils[0].Name, "Anna Berg");
+  EXPECT_EQ(pupils[1].Name, "Zoe \"Z\" Cole");
+  EXPECT_EQ(pupils[2].Name, "");
+}
+
+TEST_F(ClassFolderTest, AListNamesPrograms) {
+  Make({"ANNA.ZRM", "BEN.ZRM", "BEN.session"});
+  Disk.Write("list", "ANNA.ZRM\r\n\nBEN.ZRM\n");
+  const std::vector<Pupil> pupils = PupilsListedIn("list");
+  ASSERT_EQ(pupils.size(), 2U);
+  EXPECT_EQ(pupils[0].Program, fs::absolute("ANNA.ZRM"));
+  EXPECT_EQ(pupils[0].Session, fs::path());
+  EXPECT_EQ(pupils[1].Session, fs::absolute("BEN.session"));
 }
 
 TEST_F(ClassFolderTest, ASessionHasTheNameOfItsProgram) {

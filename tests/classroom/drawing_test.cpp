@@ -42,7 +42,7 @@ TEST_F(DrawingTest, ABoxIsItsSides) {
   EXPECT_EQ(Drawn().Lines.size(), 4U);
 }
 
-TEST_F(DrawingTest, ARubberTakesAwayWhatItCovers) {
+TEST_F(DrawingTest, AEraserTakesAwayWhatItCovers) {
   Picture1.Line(0, 0, 1000, 0);
   Picture1.SetForeColor(Paper);
   Picture1.Line(400, 0, 600, 0);

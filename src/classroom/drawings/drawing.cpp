@@ -13,7 +13,7 @@ namespace {
 using nlohmann::json;
 
 /// Surface units: half a pixel.
-constexpr double RubberWidth = 8;
+constexpr double EraserWidth = 8;
 
 /// The step of a line beside which it is no line but a point.
 constexpr double LeastLength = 1;
@@ -136,10 +136,10 @@ void DrawingRecorder::AddBox(const Surface& surface, Point from, Point to) {
   for (int side = 0; side < 4; ++side) Add(surface, Line{corners[side], corners[side + 1], surface.ForeColor()});
 }
 
-void DrawingRecorder::Erase(const Line& rubber) {
+void DrawingRecorder::Erase(const Line& eraser) {
   std::vector<Line> left;
   for (const Line& line : drawing_.Lines) {
-    const std::vector<Line> pieces = Uncovered(line, {rubber}, RubberWidth);
+    const std::vector<Line> pieces = Uncovered(line, {eraser}, EraserWidth);
     left.insert(left.end(), pieces.begin(), pieces.end());
   }
   drawing_.Lines = std::move(left);

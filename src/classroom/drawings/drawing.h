@@ -33,7 +33,7 @@ struct Figure {
   std::string Text;
 };
 
-/// What can be seen at the end of a run, as shapes in the order in which they were drawn. Lines that a rubber, or a pen
+/// What can be seen at the end of a run, as shapes in the order in which they were drawn. Lines that a eraser, or a pen
 /// of the background's colour, has taken away are not there. Poured colour is no shape.
 struct Drawing {
   std::vector<Line> Lines;
@@ -71,7 +71,7 @@ class DrawingRecorder final : public SurfaceRecorder {
   void Add(const Surface& surface, Line line);
   void Add(const Surface& surface, Figure figure);
   void AddBox(const Surface& surface, Point from, Point to);
-  void Erase(const Line& rubber);
+  void Erase(const Line& eraser);
 
   Drawing drawing_;
   bool wiped_ = false;

@@ -1,5 +1,5 @@
 #include "classroom/findings/findings.h"
-#include "interpreter/program_store.h"
+#include "interpreter/store.h"
 
 namespace zerimo::classroom {
 
@@ -28,8 +28,7 @@ void FindInFile(const Listing& listing, Findings& findings) {
     if (line.contains(u'\t')) findings.push_back({Mistake::Tab, i + 1, {}});
     if (IsBlank(line) && i + 1 < count) findings.push_back({Mistake::BlankLine, i + 1, {}});
   }
-  if (count > ProgramStore::LineCount)
-    findings.push_back({Mistake::TooLong, ProgramStore::LineCount, {QString::number(count)}});
+  if (count > Store::LineCount) findings.push_back({Mistake::TooLong, Store::LineCount, {QString::number(count)}});
 }
 
 }  // namespace zerimo::classroom

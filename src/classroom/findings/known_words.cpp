@@ -17,11 +17,8 @@ QString TextOf(std::string_view latin1) {
 /// The known words with the number of their inputs, a marker below 0 for those that take the rest of the line.
 QHash<QString, int> TableOfWords() {
   QHash<QString, int> words;
-  for (const ActionFacts& facts : Actions()) {
-    words.insert(TextOf(facts.Name), 0);
-    if (!facts.OtherName.empty()) words.insert(TextOf(facts.OtherName), 0);
-  }
-  for (const InputCount& each : InputCounts()) words.insert(TextOf(each.Word), each.Inputs);
+  for (const WordFacts& facts : AllWords())
+    words.insert(TextOf(facts.Word), facts.Inputs == inputs::NotCounted ? 0 : facts.Inputs);
   for (const char* word : {"TO", "END", "ELSE", "ENDIF"}) words.insert(QString::fromLatin1(word), 0);
   for (const char* inner : {"AEXP", "REXP"}) words.remove(QString::fromLatin1(inner));
   return words;

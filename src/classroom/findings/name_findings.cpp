@@ -43,17 +43,16 @@ void FindUnknown(const Listing& listing, Findings& findings) {
 
 /// A name that is 0 vanishes from its line: harmful in front of a sign for times or division, and after times before a
 /// minus.
-void FindNoughts(const Listing& listing, Findings& findings) {
-  QStringList noughts;
+void FindZeros(const Listing& listing, Findings& findings) {
+  QStringList zeros;
   for (const Statement& each : listing.Statements) {
-    if (each.Text.startsWith("MAKE ") && each.Text.endsWith(" 0")) noughts.append(MadeBy(each));
+    if (each.Text.startsWith("MAKE ") && each.Text.endsWith(" 0")) zeros.append(MadeBy(each));
   }
   for (const Statement& statement : listing.Statements) {
-    for (const QString& name : std::as_const(noughts)) {
+    for (const QString& name : std::as_const(zeros)) {
       const QString word = QRegularExpression::escape(name);
       const QRegularExpression harmful("(?:^| )" + word + "[*/]|[*]" + word + "[-+]");
-      if (harmful.match(statement.Text).hasMatch())
-        findings.push_back({Mistake::NoughtVanishes, statement.Line, {name}});
+      if (harmful.match(statement.Text).hasMatch()) findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
     }
   }
 }
@@ -90,7 +89,7 @@ void FindSums(const Listing& listing, const Statement& call, Findings& findings)
 
 void FindInNames(const Listing& listing, Findings& findings) {
   FindUnknown(listing, findings);
-  FindNoughts(listing, findings);
+  FindZeros(listing, findings);
   for (const Statement& statement : listing.Statements) {
     FindInputTwice(listing, statement, findings);
     FindSums(listing, statement, findings);

@@ -22,18 +22,18 @@ class PenWalk {
     if (isCall || word == "LABEL" || word == "IF" || word == "ELSE" || word == "ENDIF") return Begin();
     if (word == "PU" || word == "PENUP") pen_ = Pen::Up;
     if (word == "PD" || word == "PENDOWN") pen_ = Pen::Down;
-    if (word == "PE" || word == "PENERASE") pen_ = Pen::Rubber;
+    if (word == "PE" || word == "PENERASE") pen_ = Pen::Eraser;
     TellOfPen(statement, word);
     TellOfFilling(statement, word);
   }
 
  private:
-  enum class Pen { Unknown, Up, Down, Rubber };
+  enum class Pen { Unknown, Up, Down, Eraser };
 
   void TellOfPen(const Statement& statement, const QString& word) {
     static const QStringList shapes = {"DOT", "CIRCLE", "LINE", "ELLIPSE"};
-    if (pen_ == Pen::Rubber && (word == "PX" || word == "PENREVERSE")) Add(Mistake::RubberReversed, statement);
-    if (pen_ == Pen::Rubber && word == "SETPC") Add(Mistake::RubberColour, statement);
+    if (pen_ == Pen::Eraser && (word == "PX" || word == "PENREVERSE")) Add(Mistake::EraserReversed, statement);
+    if (pen_ == Pen::Eraser && word == "SETPC") Add(Mistake::EraserColour, statement);
     if (pen_ == Pen::Up && (word == "PX" || word == "PENREVERSE")) pen_ = Pen::Down;
     if (pen_ == Pen::Up && shapes.contains(word)) Add(Mistake::ShapeWithPenUp, statement);
   }
