@@ -53,10 +53,11 @@ figure { margin: 0; break-inside: avoid; }
 figcaption { font-size: .85rem; color: var(--quiet); }
 .sheet a { display: block; white-space: pre-wrap; }
 @media print { body { max-width: none; padding: 0; font-size: 10pt; } .screen, .print-choice { display: none; }
-  .boxes li, tr, figure { break-inside: avoid; } img { max-height: 9cm; width: auto; } td img { width: 2.5cm; }
+  .boxes li, tr, figure { break-inside: avoid; } img { max-height: 7cm; width: auto; } .goal img { max-height: 3.6cm; }
+  .pupil .goal ~ img { display: none; } td img { width: 2.5cm; }
   .pupil { break-before: page; border-top: 0; margin-top: 0; }
-  .sheet { grid-template-columns: repeat(3, 1fr); gap: 4mm; } .sheet img { max-height: 5.2cm; }
-  .sheet figure { height: 6.3cm; }
+  .sheet { grid-template-columns: repeat(3, 1fr); gap: 4mm; } .sheet img { max-height: 4.2cm; }
+  .sheet figure { height: 5.3cm; }
   #print-one:checked ~ main .contact { display: none; }
   #print-twelve:checked ~ main .pupil, #print-twelve:checked ~ main .overview { display: none; }
   #print-twelve:checked ~ main .contact { break-before: page; } }
