@@ -1,12 +1,10 @@
 #include "batch/options.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <filesystem>
-#include <optional>
-#include <string_view>
+#include <utility>
 
 #include "batch/errors.h"
 #include "batch/latin1.h"
@@ -20,24 +18,11 @@ namespace {
 constexpr int LeastScreenHeight = 130;
 constexpr int GreatestScreenSide = 8192;
 constexpr double GreatestSeconds = 1e9;
-/// A program of a class gets less time than a session, for there are many.
-constexpr double SecondsInClass = 10;
-constexpr int LeastMemory = 16;
-constexpr int GreatestMemory = 1 << 20;
 
-/// The number that is the whole text, or nothing.
-template <typename Number, typename... Format>
-std::optional<Number> WholeText(std::string_view text, Format... format) {
-  Number number{};
-  const char* const end = text.data() + text.size();
-  const std::from_chars_result result = std::from_chars(text.data(), end, number, format...);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return number;
-}
+/// Columns of the help before the words of an option.
+constexpr std::size_t HelpColumn = 23;
 
-[[noreturn]] void Refuse(std::string_view option, std::string_view value, std::string_view wanted) {
-  throw UsageError(std::string(option) + " " + std::string(value) + ": " + std::string(wanted));
-}
+constexpr const char* SessionWord = "SESSION";
 
 void TakeScreen(Options& options, const std::string& value) {
   const std::size_t divider = value.find('x');
@@ -86,167 +71,141 @@ void TakeSeconds(Options& options, const std::string& value) {
   options.Session.Seconds = *seconds;
 }
 
-void TakeClass(Options& options, const std::string& value) {
-  if (value.empty()) Refuse("--class", value, "a folder is wanted");
-  options.Class.Folder = value;
+void TakeSession(Options& options, const std::string& file) {
+  if (file.empty()) throw UsageError("the name of the session is empty");
+  options.SessionFile = file;
 }
 
-void TakeReport(Options& options, const std::string& value) {
-  if (!IsPageName(value)) Refuse("--out", value, "a file name ending in .html or .htm is wanted");
-  options.Class.Report = value;
+/// What no option has taken.
+[[noreturn]] void RefuseRest(const std::string& word) {
+  if (word.size() > 1 && word[0] == '-') throw UsageError(word + ": there is no such option");
+  throw UsageError(word + ": only one session can be run");
 }
-
-void TakeMemory(Options& options, const std::string& value) {
-  const auto memory = WholeText<int>(value);
-  const bool sane = memory && (*memory == 0 || (*memory >= LeastMemory && *memory <= GreatestMemory));
-  if (!sane) Refuse("--memory", value, "megabytes are wanted, from 16 to 1048576, or 0");
-  options.Class.Memory = *memory;
-}
-
-void TakeJobs(Options& options, const std::string& value) {
-  const auto jobs = WholeText<int>(value);
-  if (!jobs || *jobs < 1 || *jobs > ClassOptions::MostJobs)
-    Refuse("--jobs", value, "a whole number from 1 to 64 is wanted");
-  options.Class.Jobs = *jobs;
-}
-
-/// The kind of run that an option belongs to.
-enum class Use { Both, Session, Class };
-
-struct ValueOption {
-  std::string_view Name;
-  void (*Take)(Options& options, const std::string& value);
-  Use For;
-};
-
-constexpr std::array<ValueOption, 10> ValueOptions = {{
-    {"--screen", TakeScreen, Use::Both},
-    {"--app-folder", TakeAppFolder, Use::Session},
-    {"--transcript", TakeTranscript, Use::Session},
-    {"--picture", TakePicture, Use::Session},
-    {"--steps", TakeSteps, Use::Both},
-    {"--seconds", TakeSeconds, Use::Both},
-    {"--class", TakeClass, Use::Class},
-    {"--out", TakeReport, Use::Class},
-    {"--memory", TakeMemory, Use::Class},
-    {"--jobs", TakeJobs, Use::Class},
-}};
-
-const ValueOption* FindValueOption(std::string_view name) {
-  const auto* const found = std::ranges::find(ValueOptions, name, &ValueOption::Name);
-  return found == ValueOptions.end() ? nullptr : found;
-}
-
-/// Goes through the arguments one after the other.
-class ArgumentWalk {
- public:
-  explicit ArgumentWalk(const std::vector<std::string>& all) : arguments_(all) {
-    if (!AskForClass(arguments_)) return;
-    options_.What = Options::Wish::Class;
-    options_.Session.Seconds = SecondsInClass;
-  }
-
-  Options Parse() {
-    while (next_ < arguments_.size() && !IsAnswered()) TakeArgument(arguments_[next_++]);
-    if (IsClass() && options_.Class.Report.empty()) throw UsageError("--class: the report is missing, give --out");
-    return options_;
-  }
-
- private:
-  bool IsClass() const { return options_.What == Options::Wish::Class; }
-  bool IsAnswered() const { return options_.What == Options::Wish::Help || options_.What == Options::Wish::Version; }
-
-  void TakeArgument(const std::string& argument) {
-    const bool isOption = !optionsEnded_ && argument.size() > 1 && argument[0] == '-';
-    if (!isOption) {
-      TakeSession(argument);
-    } else if (argument == "--") {
-      optionsEnded_ = true;
-    } else if (argument == "--help") {
-      options_.What = Options::Wish::Help;
-    } else if (argument == "--version") {
-      options_.What = Options::Wish::Version;
-    } else if (argument == "--sleep") {
-      RequireUse(argument, Use::Session);
-      options_.Session.Sleep = true;
-    } else {
-      TakeValue(argument);
-    }
-  }
-
-  void TakeValue(const std::string& name) {
-    const ValueOption* const option = FindValueOption(name);
-    if (option == nullptr) throw UsageError(name + ": there is no such option");
-    RequireUse(name, option->For);
-    if (next_ == arguments_.size()) throw UsageError(name + ": a value is missing");
-    option->Take(options_, arguments_[next_++]);
-  }
-
-  void RequireUse(const std::string& name, Use use) const {
-    if (use == Use::Session && IsClass()) throw UsageError(name + ": not with --class");
-    if (use == Use::Class && !IsClass()) throw UsageError(name + ": only with --class");
-  }
-
-  void TakeSession(const std::string& file) {
-    if (IsClass()) throw UsageError(file + ": no session can be given with --class; put it beside the program");
-    if (sessionGiven_) throw UsageError(file + ": only one session can be run");
-    if (file.empty()) throw UsageError("the name of the session is empty");
-    sessionGiven_ = true;
-    options_.SessionFile = file;
-  }
-
-  const std::vector<std::string>& arguments_;
-  std::size_t next_ = 0;
-  bool optionsEnded_ = false;
-  bool sessionGiven_ = false;
-  Options options_;
-};
 
 }  // namespace
 
-Options ParseOptions(const std::vector<std::string>& arguments) { return ArgumentWalk(arguments).Parse(); }
+void Refuse(std::string_view option, std::string_view value, std::string_view wanted) {
+  throw UsageError(std::string(option) + " " + std::string(value) + ": " + std::string(wanted));
+}
 
-bool AskForClass(const std::vector<std::string>& arguments) {
+CommandLine::CommandLine(Options& options) : options_(options), parser_(std::make_unique<CLI::App>()) {
+  parser_->allow_extras();
+  parser_->allow_windows_style_options(false);
+  parser_->set_help_flag();
+  AddShared();
+  AddOfSession();
+}
+
+CommandLine::~CommandLine() = default;
+
+void CommandLine::AddShared() {
+  const auto taking = [this](void (*take)(Options&, const std::string&)) {
+    return [this, take](const std::string& value) { take(options_, value); };
+  };
+  Add(Shared, {"--screen", "WxH", "size of the screen in pixels (1024x768)", taking(TakeScreen)});
+  Add(Shared,
+      {"--steps", "N", "at most N steps in one typed line or handler; 0 is no limit (10000000)", taking(TakeSteps)});
+  Add(Shared, {"--seconds", "S",
+               "at most S seconds for a session (60), or for each program of a class (10);\n"
+               "0 is no limit",
+               taking(TakeSeconds)});
+  parser_
+      ->add_flag_callback(
+          "--help", [this] { options_.What = Options::Wish::Help; }, "show this text")
+      ->group(Shared);
+  parser_
+      ->add_flag_callback(
+          "--version", [this] { options_.What = Options::Wish::Version; }, "show the version")
+      ->group(Shared);
+}
+
+void CommandLine::AddOfSession() {
+  const auto taking = [this](void (*take)(Options&, const std::string&)) {
+    return [this, take](const std::string& value) { take(options_, value); };
+  };
+  Add(OfSession,
+      {"--app-folder", "DIR", "the folder of programs and pictures (the current folder)", taking(TakeAppFolder)});
+  Add(OfSession,
+      {"--transcript", "FILE", "write what happens as JSON Lines; - is standard output", taking(TakeTranscript)});
+  Add(OfSession, {"--picture", "FILE", "write the picture at the end: .png, .bmp, .jpg or .svg", taking(TakePicture)});
+  AddFlag(OfSession, "--sleep", "WAIT really sleeps", options_.Session.Sleep);
+  parser_->add_option_function<std::string>(SessionWord, taking(TakeSession))->group("");
+}
+
+void CommandLine::Add(const char* group, ValueOption option) {
+  parser_->add_option_function<std::string>(option.Name, std::move(option.Take), option.Help)
+      ->option_text(option.Value)
+      ->group(group)
+      ->take_last();
+}
+
+void CommandLine::AddList(const char* group, const char* name, const char* value, const char* help,
+                          std::vector<std::string>& values) {
+  parser_->add_option(name, values, help)->option_text(value)->group(group);
+}
+
+void CommandLine::AddFlag(const char* group, const char* name, const char* help, bool& flag) {
+  parser_->add_flag(name, flag, help)->group(group);
+}
+
+void CommandLine::AddHelp(const std::string& usage, const std::string& end) {
+  usage_ += usage;
+  end_ += end;
+}
+
+void CommandLine::Parse(const std::vector<std::string>& arguments) {
+  std::vector<std::string> lastFirst(arguments.rbegin(), arguments.rend());
+  try {
+    parser_->parse(std::move(lastFirst));
+  } catch (const CLI::ArgumentMismatch& error) {
+    // The words of the library begin with the option: "--steps: 1 required".
+    throw UsageError(std::string(error.what()).substr(0, std::string_view(error.what()).find(':')) +
+                     ": a value is missing");
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(error.what());
+  }
+  const std::vector<std::string> rest = parser_->remaining();
+  const auto wrong = std::ranges::find_if(rest, [](const std::string& word) { return word != "--"; });
+  if (wrong != rest.end()) RefuseRest(*wrong);
+}
+
+bool CommandLine::Has(const std::string& name) const { return parser_->get_option(name)->count() > 0; }
+
+bool CommandLine::HasSession() const { return Has(SessionWord); }
+
+std::string CommandLine::FirstOf(const std::string& group) const {
+  const std::vector<const CLI::Option*> all = std::as_const(*parser_).get_options();
+  const auto found = std::ranges::find_if(
+      all, [&group](const CLI::Option* option) { return option->get_group() == group && option->count() > 0; });
+  return found == all.end() ? std::string() : (*found)->get_name();
+}
+
+bool CommandLine::Names(const std::string& option, const std::vector<std::string>& arguments) const {
   for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
-    if (arguments[i] == "--class") return true;
+    if (arguments[i] == option || arguments[i].starts_with(option + "=")) return true;
+    const CLI::Option* const known = std::as_const(*parser_).get_option_no_throw(arguments[i]);
     // A value is no option, whatever it looks like.
-    if (FindValueOption(arguments[i]) != nullptr) ++i;
+    if (known != nullptr && known->get_items_expected_min() > 0) ++i;
   }
   return false;
 }
 
-std::string HelpText() {
-  return "Usage: zerimo-batch [options] [SESSION]\n"
-         "       zerimo-batch --class FOLDER --out REPORT.html [options]\n"
-         "Runs a session of Zerimo without a window. SESSION is a file, or standard input if it is absent or -.\n"
-         "\n"
-         "  --screen WxH       size of the screen in pixels (1024x768)\n"
-         "  --app-folder DIR   the folder of programs and pictures (the current folder)\n"
-         "  --transcript FILE  write what happens as JSON Lines; - is standard output\n"
-         "  --picture FILE     write the picture at the end: .png, .bmp, .jpg or .svg\n"
-         "  --steps N          at most N steps in one typed line or handler; 0 is no limit (10000000)\n"
-         "  --seconds S        at most S seconds for the whole session; 0 is no limit (60)\n"
-         "  --sleep            WAIT really sleeps\n"
-         "  --help             show this text\n"
-         "  --version          show the version\n"
-         "\n"
-         "The whole session is checked before anything runs: a bad directive stops it with its line number.\n"
+std::string CommandLine::HelpText() const {
+  CLI::Formatter formatter;
+  formatter.column_width(HelpColumn);
+  return "Usage: zerimo-batch [options] [SESSION]\n" + usage_ +
+         "Runs a session of Zerimo without a window. SESSION is a file, or standard input if it is absent or -.\n" +
+         formatter.make_groups(parser_.get(), CLI::AppFormatMode::Normal) +
+         "\nThe whole session is checked before anything runs: a bad directive stops it with its line number.\n"
          "Exit status: 0 the session ended; 1 bad usage, an unreadable session or a bad directive;\n"
-         "2 the system was ended by a failure; 3 a limit stopped it.\n"
-         "\n"
-         "With --class every program (.ZRM) of a folder runs in a process of its own, by the session (.session) of "
-         "the\n"
-         "same name beside it if there is one, and a page about all of them is written.\n"
-         "\n"
-         "  --class FOLDER     the folder of the programs\n"
-         "  --out REPORT       the page to write, .html or .htm; a summary goes beside it as .json\n"
-         "  --seconds S        at most S seconds for each program; 0 is no limit (10)\n"
-         "  --steps N          as above\n"
-         "  --memory MB        at most MB megabytes for each program; 0 is no limit (512)\n"
-         "  --jobs N           N programs at the same time (one for each core)\n"
-         "  --screen WxH       as above\n"
-         "\n"
-         "Exit status with --class: 0 the report is written; 1 it can not be written; 2 bad usage; 3 interrupted.\n";
+         "2 the system was ended by a failure; 3 a limit stopped it.\n" +
+         end_;
+}
+
+Options ParseOptions(const std::vector<std::string>& arguments) {
+  Options options;
+  CommandLine(options).Parse(arguments);
+  return options;
 }
 
 }  // namespace zerimo::batch

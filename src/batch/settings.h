@@ -1,6 +1,8 @@
 #pragma once
 
+#include <charconv>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,5 +31,15 @@ bool IsPageName(std::string_view file);
 
 /// Whether the picture is written from the recorded operations and not from the pixels.
 bool IsVectorPictureName(std::string_view file);
+
+/// The number that is the whole text, or nothing. `format` is that of `std::from_chars`.
+template <typename Number, typename... Format>
+std::optional<Number> WholeText(std::string_view text, Format... format) {
+  Number number{};
+  const char* const end = text.data() + text.size();
+  const std::from_chars_result result = std::from_chars(text.data(), end, number, format...);
+  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  return number;
+}
 
 }  // namespace zerimo::batch

@@ -10,19 +10,19 @@ namespace zerimo::classroom {
 /// a process that dies leaves what it has said.
 class BoundedFile final : public std::streambuf {
  public:
-  BoundedFile(const std::filesystem::path& file, std::streamsize mostBytes) : left(mostBytes) {
-    failed = output.open(file, std::ios::out | std::ios::binary | std::ios::trunc) == nullptr;
+  BoundedFile(const std::filesystem::path& file, std::streamsize mostBytes) : left_(mostBytes) {
+    failed_ = output_.open(file, std::ios::out | std::ios::binary | std::ios::trunc) == nullptr;
   }
 
   /// Whether bytes that should have been kept could not be written.
-  bool HasFailed() const { return failed; }
+  bool HasFailed() const { return failed_; }
 
  protected:
   std::streamsize xsputn(const char* bytes, std::streamsize count) override {
-    const std::streamsize kept = count < left ? count : left;
-    failed = output.sputn(bytes, kept) != kept || failed;
-    left -= kept;
-    if (count > 0 && bytes[count - 1] == '\n') failed = output.pubsync() != 0 || failed;
+    const std::streamsize kept = count < left_ ? count : left_;
+    failed_ = output_.sputn(bytes, kept) != kept || failed_;
+    left_ -= kept;
+    if (count > 0 && bytes[count - 1] == '\n') failed_ = output_.pubsync() != 0 || failed_;
     return count;
   }
 
@@ -33,9 +33,9 @@ class BoundedFile final : public std::streambuf {
   }
 
  private:
-  std::filebuf output;
-  std::streamsize left;
-  bool failed = false;
+  std::filebuf output_;
+  std::streamsize left_;
+  bool failed_ = false;
 };
 
 }  // namespace zerimo::classroom

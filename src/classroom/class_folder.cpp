@@ -1,6 +1,8 @@
 #include "classroom/class_folder.h"
 
+#include <QHash>
 #include <algorithm>
+#include <fstream>
 #include <optional>
 #include <utility>
 
@@ -30,6 +32,9 @@ std::vector<fs::path> VisibleNamesIn(const fs::path& folder) {
   return names;
 }
 
+/// Folders below folders, as an export of a learning platform has them.
+constexpr int DeepestFolder = 4;
+
 std::optional<fs::path> SessionOf(const fs::path& program, const std::vector<fs::path>& sessions) {
   auto found = std::ranges::find(sessions, program.stem(), &fs::path::stem);
   if (found == sessions.end())
@@ -39,10 +44,7 @@ std::optional<fs::path> SessionOf(const fs::path& program, const std::vector<fs:
   return *found;
 }
 
-}  // namespace
-
-std::vector<Pupil> PupilsOf(const fs::path& folder) {
-  const std::vector<fs::path> names = VisibleNamesIn(folder);
+std::vector<Pupil> PupilsDirectlyIn(const fs::path& folder, const std::vector<fs::path>& names) {
   std::vector<fs::path> sessions;
   std::ranges::copy_if(names, std::back_inserter(sessions),
                        [](const fs::path& name) { return EndsIn(name, ".session"); });
@@ -53,6 +55,67 @@ std::vector<Pupil> PupilsOf(const fs::path& folder) {
     pupils.push_back({folder / name, session ? folder / *session : fs::path()});
   }
   return pupils;
+}
+
+/// A folder below belongs to the pupil whose name it has.
+void NameAfter(std::vector<Pupil>& pupils, const QString& folder) {
+  for (Pupil& pupil : pupils)
+    pupil.Name = pupils.size() == 1 ? folder : folder + u'/' + NameOf(pupil.Program.filename());
+}
+
+std::vector<Pupil> PupilsBelow(const fs::path& folder, const QString& name, int depth) {
+  const std::vector<fs::path> names = VisibleNamesIn(folder);
+  std::vector<Pupil> pupils = PupilsDirectlyIn(folder, names);
+  if (depth > 0) NameAfter(pupils, name);
+  for (const fs::path& each : names) {
+    std::error_code error;
+    const bool isFolder = fs::symlink_status(folder / each, error).type() == fs::file_type::directory;
+    if (!isFolder || EndsIn(each, ".zrm") || depth == DeepestFolder) continue;
+    const QString below = depth == 0 ? NameOf(each) : name + u'/' + NameOf(each);
+    const std::vector<Pupil> inside = PupilsBelow(folder / each, below, depth + 1);
+    pupils.insert(pupils.end(), inside.begin(), inside.end());
+  }
+  return pupils;
+}
+
+}  // namespace
+
+std::vector<Pupil> PupilsOf(const fs::path& folder) { return PupilsBelow(folder, {}, 0); }
+
+std::vector<Pupil> PupilsListedIn(const fs::path& list) {
+  std::vector<Pupil> pupils;
+  std::ifstream stream(list, std::ios::binary);
+  if (!stream.is_open()) throw fs::filesystem_error("list", list, std::make_error_code(std::errc::io_error));
+  for (std::string line; std::getline(stream, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.empty()) continue;
+    const fs::path program = fs::absolute(line);
+    std::error_code error;
+    fs::path session = fs::path(program).replace_extension(".session");
+    if (!fs::is_regular_file(session, error)) session.clear();
+    pupils.push_back({program, session});
+  }
+  return pupils;
+}
+
+void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
+  QHash<QString, QString> names;
+  for (const QString& line : QString::fromStdString(table).split(u'\n')) {
+    const QChar divider = line.contains(u';') ? u';' : u',';
+    QString name = line.section(divider, 1).trimmed();
+    if (name.startsWith(u'"') && name.endsWith(u'"')) name = name.mid(1, name.size() - 2).replace("\"\"", "\"");
+    const QString file = line.section(divider, 0, 0).trimmed().remove(u'"');
+    if (!file.isEmpty() && !name.isEmpty()) names.insert(file.toCaseFolded(), name);
+  }
+  for (Pupil& pupil : pupils) {
+    for (const fs::path& key :
+         {pupil.Program.filename(), pupil.Program.stem(), pupil.Program.parent_path().filename()}) {
+      const auto found = names.constFind(Folded(key));
+      if (found == names.cend()) continue;
+      pupil.Name = *found;
+      break;
+    }
+  }
 }
 
 }  // namespace zerimo::classroom

@@ -6,16 +6,19 @@
 #include <QThread>
 #include <algorithm>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 #include "batch/errors.h"
 #include "classroom/class_folder.h"
 #include "classroom/class_runner.h"
 #include "classroom/interruption.h"
+#include "classroom/parts.h"
+#include "classroom/program_source.h"
 #include "classroom/progress.h"
 #include "classroom/readable.h"
-#include "classroom/report_page.h"
-#include "classroom/summary.h"
+#include "classroom/report_files.h"
+#include "classroom/task.h"
 #include "classroom/words.h"
 #include "files/disk_files.h"
 
@@ -34,105 +37,169 @@ fs::path FolderOf(const std::string& name) {
   return folder;
 }
 
-std::vector<Pupil> PupilsIn(const fs::path& folder, const std::string& name) {
+std::string ContentOf(const char* option, const std::string& name) {
+  if (name.empty()) return {};
+  const std::optional<std::string> bytes = BytesOf(name);
+  if (!bytes) throw batch::UsageError(std::string(option) + " " + name + ": the file can not be read");
+  return *bytes;
+}
+
+/// All programs, before any of them is left to others.
+std::vector<Pupil> AllPupils(const ClassOptions& options) {
+  const bool isList = options.Folder.empty();
+  const std::string words = isList ? "--list " + options.List : "--class " + options.Folder;
+  std::vector<Pupil> pupils;
   try {
-    return PupilsOf(folder);
+    pupils = isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder));
   } catch (const fs::filesystem_error&) {
-    throw batch::UsageError("--class " + name + ": the folder can not be read");
+    throw batch::UsageError(words + (isList ? ": the file can not be read" : ": the folder can not be read"));
   }
+  if (pupils.empty()) throw batch::UsageError(words + ": there is no program (.ZRM) in it");
+  return pupils;
 }
 
-fs::path SummaryFileOf(fs::path report) { return report.replace_extension(".json"); }
-
-/// Told before hundreds of programs have run in vain.
-fs::path ReportFileOf(const std::string& name) {
-  std::error_code error;
-  fs::path file = fs::absolute(name, error);
-  const fs::path folder = file.parent_path();
-  const bool isPlace = !error && fs::is_directory(folder, error) && !fs::is_directory(file, error) &&
-                       !fs::is_directory(SummaryFileOf(file), error) && CanWriteInto(folder);
-  if (!isPlace) throw batch::UsageError("--out " + name + ": no file can be written there");
-  return file;
+std::vector<Pupil> PupilsOf(const ClassOptions& options) {
+  std::vector<Pupil> pupils = AllPupils(options);
+  TakeNames(pupils, ContentOf("--names", options.Names));
+  ContentOf("--session", options.Session);
+  std::vector<Pupil> own;
+  for (std::size_t i = 0; i < pupils.size(); ++i) {
+    if (i % static_cast<std::size_t>(options.Part.Count) != static_cast<std::size_t>(options.Part.Index - 1)) continue;
+    if (pupils[i].Session.empty() && !options.Session.empty()) pupils[i].Session = fs::absolute(options.Session);
+    own.push_back(std::move(pupils[i]));
+  }
+  return own;
 }
 
-int JobsOf(const batch::Options& options) {
-  if (options.Class.Jobs > 0) return options.Class.Jobs;
-  return std::clamp(QThread::idealThreadCount(), 1, batch::ClassOptions::MostJobs);
+int JobsOf(const ClassOptions& options) {
+  if (options.Jobs > 0) return options.Jobs;
+  return std::clamp(QThread::idealThreadCount(), 1, ClassOptions::MostJobs);
 }
 
 class ClassRun {
  public:
-  ClassRun(const batch::Options& givenOptions, const std::string& version)
-      : options(givenOptions),
-        folder(FolderOf(options.Class.Folder)),
-        file(ReportFileOf(options.Class.Report)),
-        pupils(PupilsIn(folder, options.Class.Folder)) {
-    report.Folder = NameOf(folder.filename());
-    report.Version = QString::fromStdString(version);
-    report.Limits = {options.Session.Seconds, options.Session.Steps, options.Class.Memory};
+  ClassRun(const Command& command, const std::string& version)
+      : options_(command.Class),
+        settings_(command.Runner.Session),
+        pupils_(PupilsOf(options_)),
+        given_(TextOfProgram(ContentOf("--template", options_.Template))),
+        files_(options_) {
+    if (!options_.Task.empty()) task_ = ReadTask(options_.Task);
+    report_.Folder =
+        NameOf(options_.Folder.empty() ? fs::path(options_.List).filename() : FolderOf(options_.Folder).filename());
+    report_.Version = QString::fromStdString(version);
+    report_.Limits = {settings_.Seconds, settings_.Steps, options_.Memory};
+    report_.TaskTitle = task_.Title;
+    report_.TaskWords = task_.Words;
+    report_.Words = options_.Words;
+    report_.Wanted = pupils_.size();
   }
 
   ClassStatus Run() {
     const Interruption interruption;
     const QTemporaryDir place;
     if (!place.isValid()) return Close(ClassStatus::NotWritten, "there is no room for temporary files");
-    if (!RunAll(place.path())) return Close(ClassStatus::Interrupted, "interrupted, no report is written");
     try {
-      WriteFiles();
+      return RunIn(place.path().toStdU16String());
+    } catch (const batch::UsageError&) {
+      throw;
     } catch (const std::exception&) {
-      return Close(ClassStatus::NotWritten, NameOf(file) + ": the report can not be written");
+      return Close(ClassStatus::NotWritten, files_.Name() + ": the report can not be written");
     }
-    return Close(ClassStatus::ReportWritten, LastWords());
   }
 
  private:
-  bool RunAll(const QString& place) {
-    ClassRunner::Plan plan{report.Limits, options.Session.Screen, JobsOf(options),
-                           QCoreApplication::applicationFilePath(), place.toStdU16String()};
-    const std::size_t all = pupils.size();
-    ClassRunner runner(std::move(plan), std::move(pupils), [this, all](const PupilRun& run, std::size_t done) {
-      progress.Tell(done, all, ReadableName(run.Who.Program) + u' ' + WordsOf(run.Went, report.Limits));
-    });
-    std::optional<std::vector<PupilRun>> runs = runner.Run();
-    if (!runs || Interruption::Came()) return false;
-    report.Runs = std::move(*runs);
-    report.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
+  ClassStatus RunIn(const fs::path& place) {
+    if (!RunModel(place)) return Close(ClassStatus::Interrupted, "interrupted, no report is written");
+    const bool ended = RunAll(place);
+    if (!ended && report_.Runs.empty()) return Close(ClassStatus::Interrupted, "interrupted, no report is written");
+    report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
+    report_.Alike = AlikePairs(report_.Runs, given_);
+    files_.Write(report_);
+    if (ended) return Close(ClassStatus::ReportWritten, LastWords());
+    return Close(ClassStatus::Interrupted,
+                 QStringLiteral("interrupted after %1 of %2 programs").arg(report_.Runs.size()).arg(report_.Wanted) +
+                     (files_.HasPage() ? QStringLiteral("; the partial report is ") + files_.Name() : QString()));
+  }
+
+  ClassRunner::Plan PlanIn(const fs::path& folder) const {
+    fs::create_directory(folder);
+    ClassRunner::Plan plan{.Limits = report_.Limits,
+                           .Screen = settings_.Screen,
+                           .Jobs = JobsOf(options_),
+                           .Program = QCoreApplication::applicationFilePath(),
+                           .Folder = folder};
+    plan.Goals = task_.Goals;
+    return plan;
+  }
+
+  /// Runs the teacher's own program, which the others are compared with. False if it was interrupted.
+  bool RunModel(const fs::path& place) {
+    if (task_.Goals.empty() || !task_.HasModelProgram()) return true;
+    ClassRunner runner(PlanIn(place / "model"), {{task_.Model, {}}}, [](const PupilRun&, std::size_t) {});
+    const std::vector<PupilRun> runs = runner.Run();
+    if (runs.empty()) return false;
+    if (runs.front().Went.How != Result::Ended)
+      throw batch::UsageError("--task " + options_.Task + ": the goal's program " +
+                              WordsOf(runs.front().Went, report_.Limits).toStdString());
     return true;
   }
 
-  /// Each file takes its place when it is whole.
-  void WriteFiles() {
-    const QByteArray page = PageOf(report);
-    WriteBeside(SummaryFileOf(file), SummaryOf(report).toStdString());
-    WriteBeside(file, page.toStdString());
+  /// False if it was interrupted.
+  bool RunAll(const fs::path& place) {
+    std::optional<PartFile> records;
+    if (!options_.Records.empty()) records.emplace(options_.Records, options_.Resume);
+    if (records) std::erase_if(pupils_, [&records](const Pupil& pupil) { return records->Has(pupil.Program); });
+    ClassRunner::Plan plan = PlanIn(place / "runs");
+    if (!task_.Goals.empty() && task_.HasModelProgram()) plan.ModelFolder = place / "model" / "0";
+    if (!task_.Goals.empty() && !task_.HasModelProgram()) plan.ModelPicture = task_.Model;
+    const std::size_t all = pupils_.size();
+    ClassRunner runner(std::move(plan), std::move(pupils_), [&](const PupilRun& run, std::size_t done) {
+      if (records) records->Add(run);
+      progress_.Tell(done, all, EscapedName(run) + u' ' + WordsOf(run.Went, report_.Limits));
+    });
+    report_.Runs = runner.Run();
+    if (records) TakeRecords();
+    return !runner.WasInterrupted() && !Interruption::Came();
+  }
+
+  static QString EscapedName(const PupilRun& run) { return ReadableName(run.Who.Program); }
+
+  /// A report of a run that was resumed is about all of it.
+  void TakeRecords() {
+    report_.Runs.clear();
+    ForEachRun(options_.Records, [this](PupilRun run) { report_.Runs.push_back(std::move(run)); });
+    std::ranges::stable_sort(report_.Runs, {}, [](const PupilRun& run) { return run.Who.Program; });
   }
 
   QString LastWords() const {
-    const auto ended = std::ranges::count(report.Runs, Result::Ended, [](const PupilRun& run) { return run.Went.How; });
-    if (report.Runs.empty()) return QStringLiteral("there is no program in the folder; the report says so");
+    const auto ended =
+        std::ranges::count(report_.Runs, Result::Ended, [](const PupilRun& run) { return run.Went.How; });
     return QStringLiteral("%1 of %2 programs ended by themselves; the report is %3")
         .arg(ended)
-        .arg(report.Runs.size())
-        .arg(NameOf(file));
+        .arg(report_.Runs.size())
+        .arg(files_.Name());
   }
 
   ClassStatus Close(ClassStatus status, const QString& words) {
-    progress.Close(words);
+    progress_.Close(words);
     return status;
   }
 
-  const batch::Options& options;
-  fs::path folder;
-  fs::path file;
-  std::vector<Pupil> pupils;
-  Report report;
-  Progress progress{std::cerr, Progress::StandardErrorIsTerminal()};
+  const ClassOptions& options_;
+  const batch::Settings& settings_;
+  std::vector<Pupil> pupils_;
+  QString given_;
+  ReportFiles files_;
+  Task task_;
+  Report report_;
+  Progress progress_{std::cerr, Progress::StandardErrorIsTerminal()};
 };
 
 }  // namespace
 
-ClassStatus RunClass(const batch::Options& options, const std::string& version) {
-  return ClassRun(options, version).Run();
+ClassStatus RunClass(const Command& command, const std::string& version) {
+  return command.IsMerge() ? MergeParts(command, version) : ClassRun(command, version).Run();
 }
 
 }  // namespace zerimo::classroom

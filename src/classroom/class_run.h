@@ -2,15 +2,18 @@
 
 #include <string>
 
-#include "batch/options.h"
+#include "classroom/class_options.h"
 
 namespace zerimo::classroom {
 
 /// The exit status of a class run.
 enum class ClassStatus { ReportWritten = 0, NotWritten = 1, BadUsage = 2, Interrupted = 3 };
 
-/// Runs the programs of a folder and writes the report and its summary. Needs a `QCoreApplication`. Fails with
-/// `UsageError` before anything runs.
-ClassStatus RunClass(const batch::Options& options, const std::string& version);
+/// Runs the programs of a class and writes what comes of it, or merges its parts. Needs a `QGuiApplication`. Fails with
+/// `UsageError`, before any program runs.
+ClassStatus RunClass(const Command& command, const std::string& version);
+
+/// Makes one report of the parts of a class without holding them in memory. Fails with `UsageError`.
+ClassStatus MergeParts(const Command& command, const std::string& version);
 
 }  // namespace zerimo::classroom

@@ -15,45 +15,49 @@ constexpr int WatchInterval = 50;
 
 }  // namespace
 
-ClassRunner::ClassRunner(Plan thePlan, std::vector<Pupil> thePupils, Listener onDone)
-    : plan(std::move(thePlan)), pupils(std::move(thePupils)), listener(std::move(onDone)), runs(pupils.size()) {}
+ClassRunner::ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone)
+    : plan_(std::move(plan)), pupils_(std::move(pupils)), listener_(std::move(onDone)), runs_(pupils_.size()) {}
 
-std::optional<std::vector<PupilRun>> ClassRunner::Run() {
-  if (pupils.empty()) return std::move(runs);
-  QObject::connect(&timer, &QTimer::timeout, &timer, [this] { Look(); });
-  timer.start(WatchInterval);
-  StartMore();
-  loop.exec();
-  // Those that still run are killed as they go.
-  running.clear();
-  if (interrupted) return std::nullopt;
-  return std::move(runs);
+std::vector<PupilRun> ClassRunner::Run() {
+  if (!pupils_.empty()) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
+    timer_.start(WatchInterval);
+    StartMore();
+    loop_.exec();
+    // Those that still run are killed as they go.
+    running_.clear();
+  }
+  std::vector<PupilRun> ended;
+  for (std::optional<PupilRun>& run : runs_) {
+    if (run) ended.push_back(std::move(*run));
+  }
+  return ended;
 }
 
 void ClassRunner::StartMore() {
-  while (next < pupils.size() && running.size() < static_cast<std::size_t>(plan.Jobs)) {
-    const std::size_t index = next++;
-    const Order order{pupils[index], plan.Limits, plan.Screen};
-    running.push_back({index, std::make_unique<RunProcess>(order, plan.Folder / std::to_string(index))});
+  while (next_ < pupils_.size() && running_.size() < static_cast<std::size_t>(plan_.Jobs)) {
+    const std::size_t index = next_++;
+    const Order order{pupils_[index], plan_.Limits, plan_.Screen, plan_.Goals, plan_.ModelFolder, plan_.ModelPicture};
+    running_.push_back({index, std::make_unique<RunProcess>(order, plan_.Folder / std::to_string(index))});
     // Looked at a moment later, when the process is not at work any more.
-    running.back().Process->Start(plan.Program, [this] {
+    running_.back().Process->Start(plan_.Program, [this] {
       QMetaObject::invokeMethod(
-          &timer, [this] { Look(); }, Qt::QueuedConnection);
+          &timer_, [this] { Look(); }, Qt::QueuedConnection);
     });
   }
 }
 
 void ClassRunner::Look() {
-  interrupted = interrupted || Interruption::Came();
-  if (interrupted) return loop.quit();
-  for (const Job& job : running) {
+  interrupted_ = interrupted_ || Interruption::Came();
+  if (interrupted_) return loop_.quit();
+  for (const Job& job : running_) {
     job.Process->EndIfLate();
     if (!job.Process->HasEnded()) continue;
-    runs[job.Index] = job.Process->TakeRun();
-    listener(runs[job.Index], ++done);
+    runs_[job.Index] = job.Process->TakeRun();
+    listener_(*runs_[job.Index], ++done_);
   }
-  std::erase_if(running, [](const Job& job) { return job.Process->HasEnded(); });
-  if (done == pupils.size()) loop.quit();
+  std::erase_if(running_, [](const Job& job) { return job.Process->HasEnded(); });
+  if (done_ == pupils_.size()) loop_.quit();
   StartMore();
 }
 

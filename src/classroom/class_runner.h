@@ -21,17 +21,23 @@ class ClassRunner {
     int Jobs = 1;
     /// The program to start.
     QString Program;
+    /// What the programs are asked for; empty for none.
+    std::vector<Goal> Goals = {};
+    std::filesystem::path ModelFolder = {};
+    std::filesystem::path ModelPicture = {};
     /// A folder for the runs' own folders, which is there and empty.
     std::filesystem::path Folder;
   };
   /// Called for each run as it is done, in any order.
   using Listener = std::function<void(const PupilRun& run, std::size_t done)>;
 
-  ClassRunner(Plan thePlan, std::vector<Pupil> thePupils, Listener onDone);
+  ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone);
 
-  /// The runs in the order of the pupils, or nothing if it was interrupted; then no process is left. Needs a
-  /// `QCoreApplication`.
-  std::optional<std::vector<PupilRun>> Run();
+  /// The runs in the order of the pupils; if it was interrupted only those that had ended, and no process is left.
+  /// Needs a `QCoreApplication`.
+  std::vector<PupilRun> Run();
+
+  bool WasInterrupted() const { return interrupted_; }
 
  private:
   struct Job {
@@ -43,16 +49,16 @@ class ClassRunner {
   /// Takes the runs that have ended, kills the late ones, starts the next ones.
   void Look();
 
-  Plan plan;
-  std::vector<Pupil> pupils;
-  Listener listener;
-  std::vector<PupilRun> runs;
-  std::vector<Job> running;
-  std::size_t next = 0;
-  std::size_t done = 0;
-  bool interrupted = false;
-  QTimer timer;
-  QEventLoop loop;
+  Plan plan_;
+  std::vector<Pupil> pupils_;
+  Listener listener_;
+  std::vector<std::optional<PupilRun>> runs_;
+  std::vector<Job> running_;
+  std::size_t next_ = 0;
+  std::size_t done_ = 0;
+  bool interrupted_ = false;
+  QTimer timer_;
+  QEventLoop loop_;
 };
 
 }  // namespace zerimo::classroom

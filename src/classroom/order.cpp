@@ -1,12 +1,8 @@
 #include "classroom/order.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <array>
 #include <string>
-#include <utility>
 
+#include "classroom/record.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -15,115 +11,99 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct ResultWord {
-  Result How;
-  const char* Word;
-};
-
-constexpr std::array<ResultWord, 6> ResultWords = {{
-    {Result::Ended, "ended"},
-    {Result::Stopped, "stopped"},
-    {Result::Failed, "failed"},
-    {Result::Refused, "refused"},
-    {Result::NotRun, "not run"},
-    {Result::Crashed, "crashed"},
-}};
-
-Result ResultOf(const QString& word) {
-  for (const ResultWord& each : ResultWords) {
-    if (word == QLatin1String(each.Word)) return each.How;
-  }
-  return Result::Crashed;
-}
-
 /// A path may be no text at all, so it travels as the digits of its bytes.
-QString Packed(const fs::path& path) {
+Json Packed(const fs::path& path) {
   const std::u8string bytes = path.u8string();
   const QByteArray view(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
-  return QString::fromLatin1(view.toHex());
+  return view.toHex().toStdString();
 }
 
-fs::path Unpacked(const QJsonValue& value) {
-  const QByteArray bytes = QByteArray::fromHex(value.toString().toLatin1());
+fs::path UnpackedAt(const Json& json, const char* key) {
+  const QByteArray bytes = QByteArray::fromHex(TextAt(json, key).toLatin1());
   return std::u8string(bytes.begin(), bytes.end());
 }
 
-void WriteObject(const fs::path& file, const QJsonObject& object) {
-  WriteBeside(file, QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString());
+Json JsonOf(const Goal& goal) {
+  return {{"typed", ValueOf(goal.Typed)},
+          {"way", static_cast<int>(goal.Way)},
+          {"tolerance", goal.Shapes.Tolerance},
+          {"order", goal.Shapes.Order},
+          {"direction", goal.Shapes.Direction},
+          {"splitting", goal.Shapes.Splitting},
+          {"colour", goal.Shapes.Colour},
+          {"enough", goal.Enough},
+          {"points", goal.Points}};
 }
 
-std::optional<QJsonObject> ReadObject(const fs::path& file) {
+Goal GoalIn(const Json& json) {
+  Goal goal;
+  goal.Typed = TextsAt(json, "typed");
+  goal.Way = static_cast<GoalWay>(static_cast<int>(NumberAt(json, "way")));
+  goal.Shapes = {NumberAt(json, "tolerance"), FlagAt(json, "order"), FlagAt(json, "direction"),
+                 FlagAt(json, "splitting"), FlagAt(json, "colour")};
+  goal.Enough = NumberAt(json, "enough");
+  goal.Points = NumberAt(json, "points");
+  return goal;
+}
+
+std::optional<Json> ReadObject(const fs::path& file) {
   const std::optional<std::string> bytes = BytesOf(file);
-  if (!bytes) return std::nullopt;
-  const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(*bytes));
-  if (!document.isObject()) return std::nullopt;
-  return document.object();
+  return bytes ? ParsedObject(*bytes) : std::nullopt;
 }
 
-QStringList Texts(const QJsonValue& value) {
-  QStringList texts;
-  for (const auto& each : value.toArray()) texts.append(each.toString());
-  return texts;
+std::string Numbered(const char* name, std::size_t goal, const char* ending) {
+  return name + std::to_string(goal + 1) + ending;
 }
 
 }  // namespace
 
-QString WordOf(Result result) {
-  for (const ResultWord& each : ResultWords) {
-    if (result == each.How) return QString::fromLatin1(each.Word);
-  }
-  return {};
-}
+namespace run_file {
+std::string Drawn(std::size_t goal) { return Numbered("drawn-", goal, ".json"); }
+std::string Printed(std::size_t goal) { return Numbered("printed-", goal, ".json"); }
+std::string ModelPicture(std::size_t goal) { return Numbered("model-", goal, ".png"); }
+std::string GoalPicture(std::size_t goal) { return Numbered("goal-", goal, ".png"); }
+std::string Difference(std::size_t goal) { return Numbered("difference-", goal, ".png"); }
+}  // namespace run_file
 
 void WriteOrder(const fs::path& file, const Order& order) {
-  WriteObject(file, {{"program", Packed(order.Who.Program)},
-                     {"session", Packed(order.Who.Session)},
-                     {"seconds", order.Limits.Seconds},
-                     {"steps", QString::number(order.Limits.Steps)},
-                     {"memory", order.Limits.Memory},
-                     {"width", static_cast<double>(order.Screen.Width)},
-                     {"height", static_cast<double>(order.Screen.Height)}});
+  Json goals = Json::array();
+  for (const Goal& goal : order.Goals) goals.push_back(JsonOf(goal));
+  WriteBeside(file, Compact({{"program", Packed(order.Who.Program)},
+                             {"session", Packed(order.Who.Session)},
+                             {"seconds", order.Limits.Seconds},
+                             {"steps", std::to_string(order.Limits.Steps)},
+                             {"memory", order.Limits.Memory},
+                             {"width", order.Screen.Width},
+                             {"height", order.Screen.Height},
+                             {"goals", goals},
+                             {"modelFolder", Packed(order.ModelFolder)},
+                             {"modelPicture", Packed(order.ModelPicture)}}));
 }
 
 std::optional<Order> ReadOrder(const fs::path& file) {
-  const std::optional<QJsonObject> object = ReadObject(file);
-  if (!object) return std::nullopt;
+  const std::optional<Json> json = ReadObject(file);
+  if (!json) return std::nullopt;
   Order order;
-  order.Who = {Unpacked(object->value("program")), Unpacked(object->value("session"))};
-  order.Limits.Seconds = object->value("seconds").toDouble();
-  order.Limits.Steps = object->value("steps").toString().toULongLong();
-  order.Limits.Memory = object->value("memory").toInt();
-  order.Screen.Width = static_cast<float>(object->value("width").toDouble());
-  order.Screen.Height = static_cast<float>(object->value("height").toDouble());
+  order.Who = {UnpackedAt(*json, "program"), UnpackedAt(*json, "session")};
+  order.Limits.Seconds = NumberAt(*json, "seconds");
+  order.Limits.Steps = TextAt(*json, "steps").toULongLong();
+  order.Limits.Memory = static_cast<int>(NumberAt(*json, "memory"));
+  order.Screen.Width = static_cast<float>(NumberAt(*json, "width"));
+  order.Screen.Height = static_cast<float>(NumberAt(*json, "height"));
+  for (const Json& goal : ListAt(*json, "goals")) order.Goals.push_back(GoalIn(goal));
+  order.ModelFolder = UnpackedAt(*json, "modelFolder");
+  order.ModelPicture = UnpackedAt(*json, "modelPicture");
   return order;
 }
 
-void WriteOutcome(const fs::path& file, const Outcome& outcome) {
-  WriteObject(file, {{"result", WordOf(outcome.How)},
-                     {"by", outcome.By},
-                     {"message", outcome.Message},
-                     {"line", outcome.Where.Line},
-                     {"lineText", outcome.Where.LineText},
-                     {"procedure", outcome.Where.Procedure},
-                     {"statement", outcome.Where.Statement},
-                     {"typed", QJsonArray::fromStringList(outcome.Typed)},
-                     {"notes", QJsonArray::fromStringList(outcome.Notes)}});
+void WriteOutcome(const fs::path& file, const RunOutcome& outcome) {
+  WriteBeside(file, Compact(classroom::JsonOf(outcome)));
 }
 
-std::optional<Outcome> ReadOutcome(const fs::path& file) {
-  const std::optional<QJsonObject> object = ReadObject(file);
-  if (!object) return std::nullopt;
-  Outcome outcome;
-  outcome.How = ResultOf(object->value("result").toString());
-  outcome.By = object->value("by").toString();
-  outcome.Message = object->value("message").toString();
-  outcome.Where.Line = object->value("line").toInt();
-  outcome.Where.LineText = object->value("lineText").toString();
-  outcome.Where.Procedure = object->value("procedure").toString();
-  outcome.Where.Statement = object->value("statement").toString();
-  outcome.Typed = Texts(object->value("typed"));
-  outcome.Notes = Texts(object->value("notes"));
-  return outcome;
+std::optional<RunOutcome> ReadOutcome(const fs::path& file) {
+  const std::optional<Json> json = ReadObject(file);
+  if (!json) return std::nullopt;
+  return OutcomeIn(*json);
 }
 
 }  // namespace zerimo::classroom

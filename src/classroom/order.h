@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "classroom/pupil.h"
+#include "classroom/task.h"
 #include "controls/controls.h"
 
 /// How the runner and the process of one run talk: by files in the run's folder.
@@ -14,11 +15,20 @@ namespace run_file {
 inline constexpr const char* Order = "order.json";
 inline constexpr const char* Outcome = "outcome.json";
 inline constexpr const char* Transcript = "transcript.jsonl";
+/// Of the goal that is being tried.
+inline constexpr const char* GoalTranscript = "goal.jsonl";
 inline constexpr const char* Picture = "picture.png";
 /// There if memory was refused.
 inline constexpr const char* OutOfMemory = "memory";
 /// The folder that the pupil's program works in.
 inline constexpr const char* Scratch = "scratch";
+
+/// The files of a goal, counted from 0: what was drawn and printed for it, and the pictures.
+std::string Drawn(std::size_t goal);
+std::string Printed(std::size_t goal);
+std::string ModelPicture(std::size_t goal);
+std::string GoalPicture(std::size_t goal);
+std::string Difference(std::size_t goal);
 }  // namespace run_file
 
 /// What a run is told.
@@ -26,6 +36,11 @@ struct Order {
   Pupil Who;
   RunLimits Limits;
   ScreenSize Screen;
+  std::vector<Goal> Goals = {};
+  /// The folder of the model's run, which the goals are compared with; empty for the model itself.
+  std::filesystem::path ModelFolder = {};
+  /// The model's picture, if the model is no program.
+  std::filesystem::path ModelPicture = {};
 };
 
 /// Fails with `Failure` (file access).
@@ -33,8 +48,8 @@ void WriteOrder(const std::filesystem::path& file, const Order& order);
 std::optional<Order> ReadOrder(const std::filesystem::path& file);
 
 /// Fails with `Failure` (file access).
-void WriteOutcome(const std::filesystem::path& file, const Outcome& outcome);
+void WriteOutcome(const std::filesystem::path& file, const RunOutcome& outcome);
 /// Nothing if there is no whole outcome.
-std::optional<Outcome> ReadOutcome(const std::filesystem::path& file);
+std::optional<RunOutcome> ReadOutcome(const std::filesystem::path& file);
 
 }  // namespace zerimo::classroom

@@ -41,11 +41,11 @@ ProgramOutline::ProgramOutline(std::string_view programText) {
 void ProgramOutline::Take(const std::string& line) {
   const std::vector<std::string> words = WordsOf(line);
   if (line.starts_with("TO ") && words.size() > 1) {
-    procedures.push_back({words[1], words.size() > 2, false, {}});
+    procedures_.push_back({words[1], words.size() > 2, false, {}});
     return;
   }
-  if (procedures.empty()) return;
-  Procedure& last = procedures.back();
+  if (procedures_.empty()) return;
+  Procedure& last = procedures_.back();
   if (Trimmed(line) == "END") last.HasEnd = true;
   for (const std::string& word : words) {
     if (word != last.Name) last.Words.insert(word);
@@ -53,15 +53,15 @@ void ProgramOutline::Take(const std::string& line) {
 }
 
 bool ProgramOutline::IsCalledByAnother(const Procedure& one) const {
-  return std::ranges::any_of(procedures, [&one](const Procedure& other) { return other.Words.contains(one.Name); });
+  return std::ranges::any_of(procedures_, [&one](const Procedure& other) { return other.Words.contains(one.Name); });
 }
 
 FirstCall ProgramOutline::FirstCallOf(std::string_view name) const {
-  if (procedures.empty()) return {{}, "The program has no procedure: no line begins with TO in capital letters."};
+  if (procedures_.empty()) return {{}, "The program has no procedure: no line begins with TO in capital letters."};
   const std::string wanted = UpperCase(name);
   const Procedure* first = nullptr;
   std::string note;
-  for (const Procedure& each : procedures) {
+  for (const Procedure& each : procedures_) {
     if (each.Name == wanted && !each.NeedsInputs) return {each.Name, {}};
     if (each.Name == wanted) note = each.Name + " needs inputs and was not called: give them in a session.";
     if (each.NeedsInputs) continue;
@@ -72,9 +72,23 @@ FirstCall ProgramOutline::FirstCallOf(std::string_view name) const {
   return {first->Name, note};
 }
 
+bool ProgramOutline::Has(std::string_view procedure) const {
+  return std::ranges::find(procedures_, procedure, &Procedure::Name) != procedures_.end();
+}
+
+std::string ProgramOutline::MainProcedure(std::string_view name) const {
+  const std::string wanted = UpperCase(name);
+  std::string main;
+  for (const Procedure& each : procedures_) {
+    if (each.Name == wanted) return wanted;
+    if (main.empty() || !IsCalledByAnother(each)) main = each.Name;
+  }
+  return main;
+}
+
 std::vector<std::string> ProgramOutline::WithoutEnd() const {
   std::vector<std::string> names;
-  for (const Procedure& each : procedures) {
+  for (const Procedure& each : procedures_) {
     if (!each.HasEnd) names.push_back(each.Name);
   }
   return names;

@@ -24,6 +24,12 @@ class ProgramOutline {
   /// that needs inputs is none. `name` is the file's name without its ending.
   FirstCall FirstCallOf(std::string_view name) const;
 
+  /// The procedure that a whole class is asked for, with inputs or without: that of the file's name, otherwise the last
+  /// one that no other calls. Empty if there is none.
+  std::string MainProcedure(std::string_view name) const;
+
+  bool Has(std::string_view procedure) const;
+
   /// The names of the procedures behind which another one, or nothing, comes before a line END.
   std::vector<std::string> WithoutEnd() const;
 
@@ -39,7 +45,7 @@ class ProgramOutline {
   void Take(const std::string& line);
   bool IsCalledByAnother(const Procedure& one) const;
 
-  std::vector<Procedure> procedures;
+  std::vector<Procedure> procedures_;
 };
 
 }  // namespace zerimo::classroom

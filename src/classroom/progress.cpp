@@ -56,19 +56,19 @@ QString InColumns(const QString& text) {
 
 void Progress::Tell(std::size_t done, std::size_t all, const QString& words) {
   const QString line = QStringLiteral("%1/%2 %3").arg(done).arg(all).arg(Readable(words));
-  if (terminal) {
+  if (terminal_) {
     WriteOver(line);
   } else {
-    output << line.toStdString() << '\n' << std::flush;
+    output_ << line.toStdString() << '\n' << std::flush;
   }
 }
 
 void Progress::Close(const QString& words) {
-  if (terminal) WriteOver({});
-  output << (terminal ? "\r" : "") << "zerimo-batch: " << Readable(words).toStdString() << '\n' << std::flush;
+  if (terminal_) WriteOver({});
+  output_ << (terminal_ ? "\r" : "") << "zerimo-batch: " << Readable(words).toStdString() << '\n' << std::flush;
 }
 
-void Progress::WriteOver(const QString& line) { output << '\r' << InColumns(line).toStdString() << std::flush; }
+void Progress::WriteOver(const QString& line) { output_ << '\r' << InColumns(line).toStdString() << std::flush; }
 
 bool Progress::StandardErrorIsTerminal() {
 #ifdef _WIN32

@@ -8,7 +8,7 @@ namespace zerimo::classroom {
 /// Tells how far a class run is: on a terminal in one line that changes, elsewhere in a line for each program.
 class Progress {
  public:
-  Progress(std::ostream& stream, bool onTerminal) : output(stream), terminal(onTerminal) {}
+  Progress(std::ostream& stream, bool onTerminal) : output_(stream), terminal_(onTerminal) {}
 
   /// `words` belong to the program that has just been done.
   void Tell(std::size_t done, std::size_t all, const QString& words);
@@ -21,8 +21,8 @@ class Progress {
  private:
   void WriteOver(const QString& line);
 
-  std::ostream& output;
-  bool terminal;
+  std::ostream& output_;
+  bool terminal_;
 };
 
 }  // namespace zerimo::classroom

@@ -3,7 +3,11 @@
 #include <QString>
 #include <QStringList>
 #include <filesystem>
+#include <optional>
 #include <vector>
+
+#include "classroom/drawings/comparison.h"
+#include "classroom/findings/mistakes.h"
 
 namespace zerimo::classroom {
 
@@ -12,6 +16,8 @@ struct Pupil {
   std::filesystem::path Program;
   /// The session beside it, or empty.
   std::filesystem::path Session;
+  /// What the report calls the pupil; the name of the file if it is empty.
+  QString Name = {};
 };
 
 /// How a run went.
@@ -34,25 +40,53 @@ enum class Result {
 QString WordOf(Result result);
 
 /// Where a run stood when it did not come to its end. What is not known is empty or 0.
-struct Place {
+struct StopPlace {
   /// The line of the session or of what was typed for it, from 1.
   int Line = 0;
   QString LineText;
   QString Procedure;
   QString Statement;
+  /// The line of the program's file, from 1.
+  int ProgramLine = 0;
+};
+
+/// A line of a program's file.
+struct SourceLine {
+  QString Text;
+  /// The lines of the store that stand for it, if they differ from it.
+  std::optional<QStringList> Stored = {};
+};
+
+/// In which way a drawing is compared with the goal's.
+enum class GoalWay { Shapes, Pixels, Texts };
+
+/// What became of one goal.
+struct GoalOutcome {
+  QString Title;
+  GoalWay Way = GoalWay::Shapes;
+  bool Met = false;
+  /// How much of it is alike, from 0 to 100.
+  double Percent = 0;
+  double Points = 1;
+  std::optional<Placement> Placed = {};
 };
 
 /// What a run tells of itself.
-struct Outcome {
+struct RunOutcome {
   Result How = Result::Crashed;
   /// `finished`, `BYE`, `QUIT`, `Abort` or `close`; `seconds`, `steps` or `memory`; otherwise empty.
   QString By;
   QString Message;
-  Place Where;
+  StopPlace Where;
   /// The lines that were typed for the pupil, if there was no session.
   QStringList Typed;
   /// What a teacher may want to know besides.
   QStringList Notes;
+  /// What is suspicious in the program and its run.
+  std::vector<Finding> Findings = {};
+  std::vector<SourceLine> Source = {};
+  bool SourceIsCut = false;
+  std::vector<GoalOutcome> Goals = {};
 };
 
 /// A message box, a question or a file window, as it was answered.
@@ -72,17 +106,22 @@ struct Said {
   bool LinesAreCut = false;
   std::vector<ShownBox> Boxes;
   bool BoxesAreCut = false;
+  /// The lines that the program printed, without those that were typed.
+  QStringList Printed = {};
 };
 
 /// All about one pupil's run.
 struct PupilRun {
   Pupil Who;
-  Outcome Went;
+  RunOutcome Went;
   Said Told;
   /// Wall-clock time of the process.
   double Seconds = 0;
-  /// The picture as a PNG file, or empty if there is none.
+  /// The picture as a PNG file, or empty if there is none. Those of the goals lie beside it.
   std::filesystem::path Picture;
+
+  /// Whether the run needs a teacher's eye.
+  bool IsSuspicious() const { return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty(); }
 };
 
 /// The limits of each run; 0 is no limit.

@@ -3,16 +3,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
+#include <functional>
 #include <new>
 #include <stdexcept>
 
-#include "base/failure.h"
 #include "base/text.h"
-#include "batch/errors.h"
-#include "batch/latin1.h"
+#include "classroom/findings/findings.h"
+#include "classroom/goal_judge.h"
 #include "classroom/process_limits.h"
-#include "classroom/program_outline.h"
+#include "classroom/program_source.h"
 #include "classroom/readable.h"
+#include "classroom/run_findings.h"
 #include "classroom/sandbox.h"
 
 namespace zerimo::classroom {
@@ -22,10 +23,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::uintmax_t LargestProgram = std::uintmax_t{4} << 20;
-constexpr std::streamsize LargestTranscript = std::streamsize{1} << 20;
 constexpr std::size_t LongestLoadName = 60;
-/// Characters of a text in the outcome that a pupil has written.
-constexpr qsizetype LongestText = 200;
+/// What a session calls the program that it is given, whatever its file is called.
+constexpr const char* AnyName = "PROGRAM";
 
 /// Why a run can't begin.
 class Reason : public std::runtime_error {
@@ -63,30 +63,7 @@ bool IsPlain(const std::string& name) {
 std::string LoadNameOf(const fs::path& file) {
   const std::u8string stem = file.stem().u8string();
   const std::string name = UpperCase(std::string(stem.begin(), stem.end()));
-  return IsPlain(name) ? name : "PROGRAM";
-}
-
-QString ShortText(const QString& text) { return text.size() > LongestText ? text.left(LongestText) + u'\u2026' : text; }
-
-QString FromLatin1(const std::string& text) {
-  return ShortText(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())));
-}
-
-/// A line of the store as its pupil knows it: the lines that stand for a `REPEAT` have names of # and $, and a typed
-/// line is a procedure of such a name.
-QString StatementOf(const std::string& line) {
-  if (line.starts_with("TO #")) return {};
-  const bool isOfRepeat =
-      line.find('#') != std::string::npos || line.starts_with("LABEL $") || line.starts_with("GOTO $");
-  return isOfRepeat ? QStringLiteral("REPEAT") : FromLatin1(line);
-}
-
-batch::Settings SettingsOf(const Order& order) {
-  batch::Settings settings;
-  settings.Screen = order.Screen;
-  settings.Steps = order.Limits.Steps;
-  settings.Seconds = order.Limits.Seconds;
-  return settings;
+  return IsPlain(name) ? name : AnyName;
 }
 
 std::FILE* memoryNote = nullptr;
@@ -106,142 +83,125 @@ void WatchMemory() {
 
 }  // namespace
 
-PupilSession::PupilSession(const Order& givenOrder)
-    : order(givenOrder),
-      loadName(LoadNameOf(order.Who.Program)),
-      transcriptFile(run_file::Transcript, LargestTranscript),
-      // Pictures that a session asks for on its way are not written; the runner takes the last one.
-      system(SettingsOf(order), pictures.Pixels(), journal, [](const Surface&, const std::string&) {},
-             Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {}
+PupilSession::PupilSession(const Order& order) : order_(order), loadName_(LoadNameOf(order.Who.Program)) {}
 
-Outcome PupilSession::Run() {
+void PupilSession::Run(const std::function<void(const RunOutcome&)>& tell) {
   try {
     ReadFiles();
     PlaceProgram();
-    RunScript();
-    WritePicture();
   } catch (const Reason& reason) {
-    outcome.How = Result::NotRun;
-    outcome.Message = QString::fromUtf8(reason.what());
+    outcome_.How = Result::NotRun;
+    outcome_.Message = QString::fromUtf8(reason.what());
+    return tell(outcome_);
   }
-  return outcome;
+  RunMain();
+  tell(outcome_);
+  for (std::size_t i = 0; i < order_.Goals.size(); ++i) {
+    RunGoal(i);
+    tell(outcome_);
+  }
 }
 
 void PupilSession::ReadFiles() {
-  program = TakeFile(order.Who.Program, "the program");
-  if (!order.Who.Session.empty()) session = TakeFile(order.Who.Session, "the session");
-  NoteMistakes();
+  program_ = TakeFile(order_.Who.Program, "the program");
+  if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session");
+  outcome_.Findings = FindingsIn(TextOfProgram(program_));
+  // Of a program that is read as one line only that is said: the rest follows from it.
+  const auto isNone = [](const Finding& finding) {
+    return finding.What == Mistake::Empty || finding.What == Mistake::OneLine;
+  };
+  if (std::ranges::none_of(outcome_.Findings, isNone)) outline_.emplace(program_);
 }
 
-/// What a teacher would look for first where a program does not do what its pupil meant. Of a program that is read as
-/// one line only that is said: the rest follows from it.
-void PupilSession::NoteMistakes() {
-  const bool isOneLine = program.find('\n') != std::string::npos && program.find('\r') == std::string::npos;
-  if (program.empty()) outcome.Notes.append("The program is empty.");
-  if (isOneLine) outcome.Notes.append("The lines of the file end in LF alone: Zerimo reads it as one line.");
-  if (!outcome.Notes.isEmpty()) return;
-  outline.emplace(program);
-  const std::vector<std::string> withoutEnd = outline->WithoutEnd();
-  if (withoutEnd.empty()) return;
-  QStringList names;
-  for (const std::string& name : withoutEnd) names.append(FromLatin1(name));
-  outcome.Notes.append(ShortText("Procedures without END: " + names.join(QStringLiteral(", ")) + u'.'));
-}
-
-/// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed.
+/// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed; and by the
+/// name that a session for the whole class calls it.
 void PupilSession::PlaceProgram() {
   const fs::path scratch(run_file::Scratch);
   fs::create_directory(scratch);
-  std::ofstream copy(scratch / (loadName + ".ZRM"), std::ios::binary);
-  copy << program;
-  if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
-}
-
-batch::Script PupilSession::TakeScript() {
-  return order.Who.Session.empty() ? ScriptWithoutSession() : system.Read(session);
-}
-
-/// Loads the program and calls the procedure that starts it.
-batch::Script PupilSession::ScriptWithoutSession() {
-  std::vector<std::string> lines = {"LOAD " + loadName};
-  const FirstCall first = outline ? outline->FirstCallOf(loadName) : FirstCall();
-  if (!first.Procedure.empty()) lines.push_back(first.Procedure);
-  if (!first.Note.empty()) outcome.Notes.append(FromLatin1(first.Note));
-  batch::Script script;
-  for (const std::string& line : lines) {
-    outcome.Typed.append(FromLatin1(line));
-    script.push_back({static_cast<int>(script.size()) + 1, batch::action::TypeLine{line}});
+  std::vector<std::string> names = {loadName_};
+  // Elsewhere a file PROGRAM.ZRM of the class folder is meant.
+  if (!order_.Goals.empty() || session_.find(AnyName) != std::string::npos) names.emplace_back(AnyName);
+  for (const std::string& name : names) {
+    std::ofstream copy(scratch / (name + ".ZRM"), std::ios::binary);
+    copy << program_;
+    if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
   }
-  return script;
 }
 
-void PupilSession::RunScript() {
+/// A task without a session of the pupil's own is shown by its first goal.
+Play PupilSession::MainPlay() {
+  if (!order_.Who.Session.empty()) return {WithProcedure(session_), {}};
+  if (!order_.Goals.empty() && !order_.Goals.front().Typed.isEmpty()) return PlayOf(order_.Goals.front());
+  return PlayWithoutSession(outcome_.Notes);
+}
+
+std::string PupilSession::WithProcedure(const std::string& text) const {
+  const std::string name = outline_ ? outline_->MainProcedure(loadName_) : std::string();
+  if (name.empty() || outline_->Has(AnyName)) return text;
+  QStringList lines = QString::fromStdString(text).split(u'\n');
+  for (QString& line : lines) {
+    if (line.section(u' ', 0, 0).trimmed() == QLatin1String(AnyName))
+      line.replace(0, QLatin1String(AnyName).size(), QString::fromStdString(name));
+  }
+  return lines.join(u'\n').toStdString();
+}
+
+Play PupilSession::PlayOf(const Goal& goal) const {
+  QStringList ignored;
+  if (goal.Typed.isEmpty()) return PlayWithoutSession(ignored);
+  Play play{{}, {"LOAD " + loadName_}};
+  for (const QString& line : goal.Typed) play.Typed.push_back(WithProcedure(line.toLatin1().toStdString()));
+  return play;
+}
+
+Play PupilSession::PlayWithoutSession(QStringList& notes) const {
+  Play play{{}, {"LOAD " + loadName_}};
+  const FirstCall first = outline_ ? outline_->FirstCallOf(loadName_) : FirstCall();
+  if (!first.Procedure.empty()) play.Typed.push_back(first.Procedure);
+  if (!first.Note.empty()) notes.append(FromLatin1(first.Note));
+  return play;
+}
+
+void PupilSession::RunMain() {
+  const Play play = MainPlay();
+  for (const std::string& line : play.Typed) outcome_.Typed.append(FromLatin1(line));
+  SessionRun run(order_, run_file::Transcript);
+  run.Run(play);
+  const RunOutcome& went = run.Went();
+  outcome_.How = went.How;
+  outcome_.By = went.By;
+  outcome_.Message = went.Message;
+  outcome_.Where = went.Where;
+  outcome_.Notes += went.Notes;
+  AddSource(run);
+  FindInRun(run, outcome_.Where.ProgramLine, outcome_.Findings);
+  WritePicture(run, run_file::Picture);
+}
+
+void PupilSession::AddSource(SessionRun& run) {
+  ProgramSource source(TextOfProgram(program_), run.System().interpreter.store);
+  outcome_.Where.ProgramLine = source.LineOf(run.StoreLine());
+  outcome_.Source = std::move(source.Lines);
+  outcome_.SourceIsCut = source.IsCut;
+}
+
+void PupilSession::RunGoal(std::size_t index) {
+  const Goal& goal = order_.Goals[index];
+  SessionRun run(order_, run_file::GoalTranscript);
+  run.Run(PlayOf(goal));
+  WritePicture(run, run_file::GoalPicture(index));
+  if (!order_.ModelFolder.empty() || !order_.ModelPicture.empty()) {
+    outcome_.Goals.push_back(Judge(order_, index, run));
+  } else {
+    WriteModel(index, run);
+  }
+}
+
+void PupilSession::WritePicture(SessionRun& run, const std::string& file) {
   try {
-    LimitMemory(order.Limits.Memory);
-    const batch::Script script = TakeScript();
-    const batch::Outcome went = system.Run(script);
-    LiftMemoryLimit();
-    Tell(went);
-  } catch (const batch::SessionError& error) {
-    LiftMemoryLimit();
-    Tell({batch::Ending::Refused, error.what(), error.Line});
-  } catch (const std::bad_alloc&) {
-    LiftMemoryLimit();
-    outcome.How = Result::Stopped;
-    outcome.By = "memory";
-    outcome.Where = WhereItStands(system.CurrentLine());
-  }
-  journal.Flush();
-  if (transcriptFile.HasFailed()) outcome.Notes.append("Not all that was said could be kept: is the disk full?");
-}
-
-void PupilSession::Tell(const batch::Outcome& went) {
-  outcome.By = QString::fromStdString(went.By);
-  outcome.Message = ShortText(QString::fromStdString(went.Message));
-  switch (went.How) {
-    case batch::Ending::Over:
-      outcome.How = Result::Ended;
-      return;
-    case batch::Ending::Refused:
-      outcome.How = Result::Refused;
-      outcome.Where = PlaceOfLine(went.Line);
-      return;
-    case batch::Ending::Failed:
-      outcome.How = Result::Failed;
-      break;
-    case batch::Ending::Stopped:
-      outcome.How = Result::Stopped;
-      break;
-  }
-  outcome.Where = WhereItStands(went.Line);
-}
-
-Place PupilSession::PlaceOfLine(int line) const {
-  const QStringList lines = order.Who.Session.empty() ? outcome.Typed : QString::fromStdString(session).split(u'\n');
-  Place place;
-  place.Line = line;
-  place.LineText = ShortText(lines.value(line - 1).trimmed());
-  return place;
-}
-
-Place PupilSession::WhereItStands(int line) {
-  const Form1& form = system.System();
-  Place place = PlaceOfLine(line);
-  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
-  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
-  // A typed line runs as a procedure whose name begins with #.
-  if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  PassOver([&] {
-    place.Statement = StatementOf(form.interpreter.store.Line(EndValExtractor(form.interpreter.controlPath.CtrlStr())));
-  });
-  return place;
-}
-
-void PupilSession::WritePicture() {
-  try {
-    pictures.Write(system.System().Picture1, run_file::Picture);
+    run.WritePicture(file);
   } catch (const std::exception&) {
-    outcome.Notes.append("The picture can not be written.");
+    outcome_.Notes.append("The picture can not be written.");
   }
 }
 
@@ -251,10 +211,15 @@ int RunPupil() {
   TameProcess();
   WatchMemory();
   const Pupil& who = order->Who;
-  const bool isContained = EnterSandbox({fs::current_path(), {who.Program.parent_path(), who.Program, who.Session}});
-  Outcome outcome = PupilSession(*order).Run();
-  if (!isContained) outcome.Notes.append("The operating system did not contain this run.");
-  WriteOutcome(run_file::Outcome, outcome);
+  std::vector<fs::path> readable = {who.Program.parent_path(), who.Program, who.Session};
+  for (const fs::path& model : {order->ModelFolder, order->ModelPicture}) {
+    if (!model.empty()) readable.push_back(model);
+  }
+  const bool isContained = EnterSandbox({fs::current_path(), readable});
+  PupilSession(*order).Run([isContained](RunOutcome outcome) {
+    if (!isContained) outcome.Notes.append("The operating system did not contain this run.");
+    WriteOutcome(run_file::Outcome, outcome);
+  });
   return 0;
 }
 

@@ -1,51 +1,47 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
-#include "batch/batch_session.h"
-#include "batch/picture_output.h"
-#include "classroom/bounded_file.h"
 #include "classroom/order.h"
 #include "classroom/program_outline.h"
+#include "classroom/session_run.h"
 
 namespace zerimo::classroom {
 
 /// Runs one pupil's program in this process, which does nothing else. The current folder is the run's folder.
 class PupilSession {
  public:
-  explicit PupilSession(const Order& givenOrder);
+  explicit PupilSession(const Order& order);
 
-  /// Runs it and writes transcript and picture.
-  Outcome Run();
+  /// Runs the program, then its goals, and writes transcript, picture and what the goals need. `tell` gets the outcome
+  /// after each of them, so that a process that dies has told what it could.
+  void Run(const std::function<void(const RunOutcome&)>& tell);
 
  private:
   /// Fails with `Reason`.
   void ReadFiles();
-  void NoteMistakes();
   void PlaceProgram();
-  batch::Script TakeScript();
-  batch::Script ScriptWithoutSession();
-  void RunScript();
-  void Tell(const batch::Outcome& went);
-  Place PlaceOfLine(int line) const;
-  /// The place in the session and in the program.
-  Place WhereItStands(int line);
-  void WritePicture();
+  Play MainPlay();
+  Play PlayOf(const Goal& goal) const;
+  /// Loads the program and calls the procedure that starts it.
+  Play PlayWithoutSession(QStringList& notes) const;
+  /// A session's text in which the lines that begin with PROGRAM call the program's main procedure.
+  std::string WithProcedure(const std::string& text) const;
+  void RunMain();
+  void AddSource(SessionRun& run);
+  void RunGoal(std::size_t index);
+  void WritePicture(SessionRun& run, const std::string& file);
 
-  const Order& order;
-  std::string program;
-  std::string session;
+  const Order& order_;
+  std::string program_;
+  std::string session_;
   /// Nothing if the program is empty or one line.
-  std::optional<ProgramOutline> outline;
+  std::optional<ProgramOutline> outline_;
   /// What `LOAD` calls the program.
-  std::string loadName;
-  Outcome outcome;
-  BoundedFile transcriptFile;
-  std::ostream transcript{&transcriptFile};
-  batch::Journal journal{&transcript, nullptr};
-  batch::PictureOutput pictures;
-  batch::BatchSession system;
+  std::string loadName_;
+  RunOutcome outcome_;
 };
 
 /// The process of one run: reads its order in the current folder, carries it out and writes the outcome. Returns the

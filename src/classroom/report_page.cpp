@@ -1,190 +1,235 @@
 #include "classroom/report_page.h"
 
 #include <QCryptographicHash>
-#include <QImageReader>
-#include <algorithm>
-#include <optional>
+#include <cmath>
+#include <utility>
 
+#include "classroom/page_html.h"
+#include "classroom/page_script.h"
 #include "classroom/process_limits.h"
 #include "classroom/readable.h"
 #include "classroom/report_style.h"
 #include "classroom/words.h"
-#include "files/disk_files.h"
 
 namespace zerimo::classroom {
 
 namespace {
 
-/// Bytes of all pictures together. Those that follow are left out.
-constexpr std::size_t MostPictureBytes = std::size_t{128} << 20;
+constexpr int ThumbnailWidth = 160;
+constexpr int SheetWidth = 320;
 
-/// A text as it may stand in the page, also between quotes.
-QString Escaped(const QString& text) { return text.toHtmlEscaped(); }
+QString Utf8(const char* words) { return QString::fromUtf8(words); }
 
-QString EscapedName(const std::filesystem::path& path) { return Escaped(ReadableName(path)); }
-
-QString EscapedLines(const QString& text) { return Escaped(ReadableLines(text)); }
-
-QString Paragraph(const QString& html) { return QStringLiteral("<p>") + html + QStringLiteral("</p>\n"); }
-
-QString Heading(const char* words) { return QStringLiteral("<h3>%1</h3>\n").arg(QLatin1String(words)); }
-
-QString LimitText(const RunLimits& limits) {
+QString LimitText(const RunLimits& limits, const Language& language) {
   QStringList parts;
-  if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds));
-  if (limits.Steps > 0) parts.append(QStringLiteral("%1 steps in one line").arg(limits.Steps));
-  if (limits.Memory > 0 && CanLimitMemory()) parts.append(QStringLiteral("%1 MB of memory").arg(limits.Memory));
-  return parts.isEmpty() ? QStringLiteral("none") : parts.join(QStringLiteral(", "));
+  if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds, language));
+  if (limits.Steps > 0) parts.append(WordsOfStepLimit(limits.Steps, language));
+  if (limits.Memory > 0 && CanLimitMemory()) parts.append(WordsOfMemoryLimit(limits.Memory, language));
+  return parts.isEmpty() ? Utf8(language.NoLimits) : parts.join(QStringLiteral(", "));
 }
 
-/// Only this style and pictures that are part of the page; no script, no address, no form.
+QString HashOf(const char* text) {
+  const QByteArray hash = QCryptographicHash::hash(QByteArray(text), QCryptographicHash::Sha256).toBase64();
+  return QStringLiteral("'sha256-") + QString::fromLatin1(hash) + u'\'';
+}
+
+/// Only this style, this script and pictures that are part of the page; no address, no form.
 QString ContentPolicy() {
-  const QByteArray style(PageStyle);
-  const QByteArray hash = QCryptographicHash::hash(style, QCryptographicHash::Sha256).toBase64();
-  return QStringLiteral("default-src 'none'; img-src data:; style-src 'sha256-%1'; base-uri 'none'; form-action 'none'")
-      .arg(QString::fromLatin1(hash));
+  return QStringLiteral("default-src 'none'; img-src data:; style-src ") + HashOf(PageStyle) +
+         QStringLiteral("; script-src ") + HashOf(PageScript) + QStringLiteral("; base-uri 'none'; form-action 'none'");
 }
 
 class PageWriter {
  public:
-  explicit PageWriter(const Report& theReport) : report(theReport) {}
+  explicit PageWriter(const Report& report) : report_(report), language_(*report.Words) {}
 
   QByteArray Write() {
-    WriteHead();
+    WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
+    WriteTask();
+    if (report_.Runs.size() < report_.Wanted)
+      Add(Element("p", "bad",
+                  Filled(language_.Partial, {QString::number(report_.Runs.size()), QString::number(report_.Wanted)})));
     WriteOverview();
-    for (std::size_t i = 0; i < report.Runs.size(); ++i) WriteRun(report.Runs[i], i + 1);
-    page += "</main>\n</body>\n</html>\n";
-    return std::move(page);
+    WriteSheet();
+    WriteAlike();
+    for (std::size_t i = 0; i < report_.Runs.size(); ++i)
+      Add(SectionOf(report_.Runs[i], i + 1, report_.Limits, language_, pictures_, true));
+    return Finished();
+  }
+
+  QByteArray WriteIndex(const std::vector<IndexEntry>& entries) {
+    WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
+    const auto head = [](const char* words) { return Element("th", "", Utf8(words)); };
+    Add(QStringLiteral("<div class=\"overview\">\n<div id=\"filter\"></div>\n<table id=\"index\">\n<thead><tr>") +
+        head(language_.Pupil) + head(language_.Programs) + head(language_.Ended) + head(language_.WentWrong) +
+        QStringLiteral("</tr></thead>\n<tbody>\n"));
+    for (const IndexEntry& entry : entries) {
+      Add(QStringLiteral("<tr><td><a href=\"") + Escaped(entry.File) + QStringLiteral("\">") +
+          EscapedReadable(entry.First) + QStringLiteral(" \u2013 ") + EscapedReadable(entry.Last) +
+          QStringLiteral("</a></td>"));
+      for (const std::size_t number : {entry.Programs, entry.Ended, entry.Suspicious})
+        Add(Element("td", "number", QString::number(number)));
+      Add(QStringLiteral("</tr>\n"));
+    }
+    Add(QStringLiteral("</tbody>\n</table>\n</div>\n"));
+    return Finished();
+  }
+
+  QByteArray WriteAlone(const PupilRun& run) {
+    WriteHead(EscapedReadable(PupilName(run.Who)));
+    WriteTask();
+    Add(SectionOf(run, 1, report_.Limits, language_, pictures_, false));
+    return Finished();
   }
 
  private:
-  void Add(const QString& html) { page += html.toUtf8(); }
+  void Add(const QString& html) { page_ += html.toUtf8(); }
 
-  void WriteHead() {
-    Add(QStringLiteral("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"));
+  QByteArray Finished() {
+    page_ += "</main>\n<script>";
+    page_ += PageScript;
+    page_ += "</script>\n</body>\n</html>\n";
+    return std::move(page_);
+  }
+
+  void WriteHead(const QString& title) {
+    Add(QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">\n")
+            .arg(Utf8(language_.Code)));
     Add(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\" content=\"%1\">\n").arg(ContentPolicy()));
     Add(
         QStringLiteral("<meta name=\"referrer\" content=\"no-referrer\">\n"
                        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"));
-    Add(QStringLiteral("<title>") + Title() + QStringLiteral("</title>\n<style>"));
-    page += PageStyle;
-    Add(QStringLiteral("</style>\n</head>\n<body>\n<header>\n<h1 id=\"top\">") + Title() + QStringLiteral("</h1>\n"));
-    Add(Paragraph(Escaped(QString(report.Made).replace(u'T', u' ')) + QStringLiteral(", zerimo-batch ") +
-                  Escaped(report.Version)));
-    Add(Paragraph(QStringLiteral("Limits of each program: ") + LimitText(report.Limits) + u'.'));
-    Add(QStringLiteral("</header>\n<main>\n"));
+    Add(QStringLiteral("<title>") + title + QStringLiteral("</title>\n<style>"));
+    page_ += PageStyle;
+    Add(QStringLiteral("</style>\n</head>\n<body>\n<header>\n<h1 id=\"top\">") + title + QStringLiteral("</h1>\n"));
+    Add(Paragraph(Escaped(QString(report_.Made).replace(u'T', u' ')) + QStringLiteral(", zerimo-batch ") +
+                  Escaped(report_.Version)));
+    Add(Paragraph(Filled(language_.Limits, {LimitText(report_.Limits, language_)})));
+    Add(QStringLiteral("</header>\n"));
+    WritePrintChoice();
+    Add(QStringLiteral("<main>\n"));
   }
 
-  QString Title() const { return QStringLiteral("Programs of ") + Escaped(Readable(report.Folder)); }
+  void WritePrintChoice() {
+    const auto choice = [this](const char* id, const char* words, const char* checked) {
+      Add(QStringLiteral("<input class=\"print-choice\" type=\"radio\" name=\"print\" id=\"%1\"%2>"
+                         "<label class=\"print-choice\" for=\"%1\">%3</label>\n")
+              .arg(QLatin1String(id), QLatin1String(checked), Utf8(words)));
+    };
+    choice("print-one", language_.PrintOne, " checked");
+    choice("print-twelve", language_.PrintTwelve, "");
+  }
+
+  void WriteTask() {
+    if (!report_.TaskTitle.isEmpty()) Add(Element("h2", "", EscapedReadable(report_.TaskTitle)) + u'\n');
+    if (!report_.TaskWords.isEmpty()) Add(Element("div", "task", EscapedLines(report_.TaskWords)) + u'\n');
+  }
 
   void WriteOverview() {
-    if (report.Runs.empty()) return Add(Paragraph(QStringLiteral("There is no program (.ZRM) in the folder.")));
-    Add(
-        QStringLiteral("<h2>Overview</h2>\n<div class=\"table\">\n<table>\n<thead><tr><th scope=\"col\">Program</th>"
-                       "<th scope=\"col\">How it went</th><th scope=\"col\" class=\"number\">Boxes</th>"
-                       "<th scope=\"col\" class=\"number\">Time</th></tr></thead>\n<tbody>\n"));
-    for (std::size_t i = 0; i < report.Runs.size(); ++i) WriteRow(report.Runs[i], i + 1);
-    Add(QStringLiteral("</tbody>\n</table>\n</div>\n"));
+    if (report_.Runs.empty()) return Add(Paragraph(Utf8(language_.NoPrograms)));
+    const auto head = [](const char* words) {
+      return QStringLiteral("<th scope=\"col\">") + Utf8(words) + QStringLiteral("</th>");
+    };
+    Add(QStringLiteral("<div class=\"overview\">\n") + Element("h2", "", Utf8(language_.Overview)));
+    Add(QStringLiteral("\n<div id=\"filter\" class=\"screen\" data-label=\"%1\" data-all=\"%2\"></div>\n")
+            .arg(Utf8(language_.Filter), Utf8(language_.All)));
+    Add(QStringLiteral("<div class=\"table\">\n<table id=\"overview\">\n<thead><tr>") + head(language_.Pupil) +
+        head(language_.HowItWent) + head(language_.WentWrong) + head(language_.GoalsHead) + head(language_.Boxes) +
+        head(language_.Time) + QStringLiteral("</tr></thead>\n<tbody>\n"));
+    for (std::size_t i = 0; i < report_.Runs.size(); ++i) WriteRow(report_.Runs[i], i + 1);
+    Add(QStringLiteral("</tbody>\n</table>\n</div>\n</div>\n"));
+  }
+
+  /// The notes of a run, as the filter offers them.
+  static QString NotesOf(const PupilRun& run) {
+    QStringList notes = {WordOf(run.Went.How)};
+    for (const Finding& finding : run.Went.Findings) notes.append(Utf8(FactsOf(finding.What).Code));
+    notes.removeDuplicates();
+    return notes.join(u'|');
   }
 
   void WriteRow(const PupilRun& run, std::size_t number) {
-    Add(QStringLiteral("<tr><th scope=\"row\"><a href=\"#p%1\">").arg(number));
-    Add(EscapedName(run.Who.Program) + QStringLiteral("</a></th><td>") + ResultText(run));
-    for (const QString& note : run.Went.Notes) Add(QStringLiteral("<br>") + Span("quiet", Escaped(Readable(note))));
-    Add(QStringLiteral("</td>"));
-    const QString more = run.Told.BoxesAreCut ? QStringLiteral(" or more") : QString();
-    Add(QStringLiteral("<td class=\"number\">%1%2</td>").arg(run.Told.Boxes.size()).arg(more));
-    Add(QStringLiteral("<td class=\"number\">%1</td></tr>\n").arg(WordsOfSeconds(run.Seconds)));
+    Add(QStringLiteral("<tr data-notes=\"") + Escaped(NotesOf(run)) +
+        QStringLiteral("\"><th scope=\"row\"><a href=\"#p%1\">").arg(number));
+    Add(EscapedReadable(PupilName(run.Who)) + QStringLiteral("</a>"));
+    if (const auto image = pictures_.Image(run.Picture, {}, ThumbnailWidth)) Add(QStringLiteral("<br>") + *image);
+    Add(QStringLiteral("</th>") + Element("td", "", ResultHtml(run, report_.Limits, language_)) + NotesCell(run));
+    Add(GoalsCell(run));
+    const QString more = run.Told.BoxesAreCut ? Utf8(language_.OrMore) : QString();
+    Add(Element("td", "number", QString::number(run.Told.Boxes.size()) + more));
+    Add(Element("td", "number", WordsOfSeconds(run.Seconds)) + QStringLiteral("</tr>\n"));
   }
 
-  QString ResultText(const PupilRun& run) const {
-    const QLatin1String kind(run.Went.How == Result::Ended ? "good" : "bad");
-    return QStringLiteral("<span class=\"%1\">").arg(kind) + Escaped(WordsOf(run.Went, report.Limits)) +
-           QStringLiteral("</span>");
-  }
-
-  void WriteRun(const PupilRun& run, std::size_t number) {
-    Add(QStringLiteral("<section id=\"p%1\" aria-labelledby=\"h%1\">\n<h2 id=\"h%1\">").arg(number));
-    Add(EscapedName(run.Who.Program) + QStringLiteral("</h2>\n"));
-    const QString place = WordsOf(run.Went.Where);
-    const QString where = place.isEmpty() ? QString() : QStringLiteral(", ") + Escaped(place);
-    Add(Paragraph(ResultText(run) + where + QStringLiteral(" <span class=\"quiet\">(") + WordsOfSeconds(run.Seconds) +
-                  QStringLiteral(")</span>")));
-    WriteStart(run);
-    for (const QString& note : run.Went.Notes) Add(Paragraph(Escaped(Readable(note))));
-    WritePicture(run);
-    WriteLines(run.Told);
-    WriteBoxes(run.Told);
-    Add(QStringLiteral("<p class=\"screen\"><a href=\"#top\">Back to the overview</a></p>\n</section>\n"));
-  }
-
-  void WriteStart(const PupilRun& run) {
-    QString words;
-    if (!run.Who.Session.empty()) {
-      words = QStringLiteral("Run by the session ") + EscapedName(run.Who.Session);
-    } else if (!run.Went.Typed.isEmpty()) {
-      words = QStringLiteral("Typed: ") + Escaped(Readable(run.Went.Typed.join(QStringLiteral(", "))));
+  QString NotesCell(const PupilRun& run) const {
+    QStringList notes;
+    for (const Finding& finding : run.Went.Findings) {
+      const QString line = finding.Line == 0 ? QString() : QString::number(finding.Line) + QStringLiteral(": ");
+      notes.append(line + EscapedReadable(language_.Of(finding)));
     }
-    if (!words.isEmpty()) Add(QStringLiteral("<p class=\"quiet\">") + words + QStringLiteral("</p>\n"));
+    for (const QString& note : run.Went.Notes) notes.append(EscapedReadable(note));
+    const QString words = run.IsSuspicious()
+                              ? notes.join(QStringLiteral("<br>"))
+                              : Element("span", "good", QStringLiteral("\u2713 ") + Utf8(language_.NothingSuspicious));
+    return QStringLiteral("<td data-value=\"%1\">").arg(notes.size()) + words + QStringLiteral("</td>");
   }
 
-  void WritePicture(const PupilRun& run) {
-    const std::optional<std::string> bytes = run.Picture.empty() ? std::nullopt : BytesOf(run.Picture);
-    if (!bytes) return Add(Paragraph(QStringLiteral("There is no picture.")));
-    pictureBytes += bytes->size();
-    if (pictureBytes > MostPictureBytes)
-      return Add(
-          Paragraph(QStringLiteral("The picture is left out: the pictures of the page are too large together.")));
-    const QSize size = QImageReader(NameOf(run.Picture)).size();
-    Add(QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"Picture drawn by ").arg(size.width()).arg(size.height()));
-    Add(EscapedName(run.Who.Program) + QStringLiteral("\" src=\"data:image/png;base64,"));
-    page += QByteArray::fromStdString(*bytes).toBase64();
-    Add(QStringLiteral("\">\n"));
+  QString GoalsCell(const PupilRun& run) const {
+    if (run.Went.Goals.empty()) return Element("td", "number", {});
+    double percent = 0;
+    for (const GoalOutcome& goal : run.Went.Goals) percent += goal.Percent;
+    percent = std::floor(percent / static_cast<double>(run.Went.Goals.size()));
+    const double points = PointsOf(run);
+    const char* const kind = points == MostPointsOf(run) ? "good" : "bad";
+    return QStringLiteral("<td class=\"number\" data-value=\"%1\">").arg(points) +
+           Element("span", kind,
+                   Filled(language_.Points, {QString::number(points), QString::number(MostPointsOf(run))})) +
+           QStringLiteral("<br>%1 %</td>").arg(percent);
   }
 
-  void WriteLines(const Said& told) {
-    if (told.Lines.isEmpty()) return;
-    Add(Heading("Printed and said"));
-    Add(QStringLiteral("<pre>\n") + EscapedLines(told.Lines.join(u'\n')) + QStringLiteral("</pre>\n"));
-    if (told.LinesAreCut) Add(Paragraph(QStringLiteral("More was printed; it is left out here.")));
+  void WriteSheet() {
+    if (report_.Runs.empty()) return;
+    Add(QStringLiteral("<div class=\"contact\">\n") + Element("h2", "", Utf8(language_.ContactSheet)) +
+        QStringLiteral("\n<div class=\"sheet\">\n"));
+    for (std::size_t i = 0; i < report_.Runs.size(); ++i) {
+      const PupilRun& run = report_.Runs[i];
+      const QString name =
+          QStringLiteral("<a href=\"#p%1\">").arg(i + 1) + EscapedReadable(PupilName(run.Who)) + QStringLiteral("</a>");
+      const QString image = pictures_.Image(run.Picture, {}, SheetWidth).value_or(QString());
+      Add(Element("figure", "", image + Element("figcaption", "", name)) + u'\n');
+    }
+    Add(QStringLiteral("</div>\n</div>\n"));
   }
 
-  void WriteBoxes(const Said& told) {
-    if (told.Boxes.empty()) return;
-    Add(Heading("Boxes shown"));
-    Add(QStringLiteral("<ul class=\"boxes\">\n"));
-    for (const ShownBox& shown : told.Boxes) WriteBox(shown);
-    Add(QStringLiteral("</ul>\n"));
-    if (told.BoxesAreCut) Add(Paragraph(QStringLiteral("More boxes were shown; they are left out here.")));
+  void WriteAlike() {
+    if (report_.Alike.empty()) return;
+    Add(QStringLiteral("<div class=\"overview\">\n") + Element("h2", "", Utf8(language_.AlikeHead)) + u'\n');
+    for (const AlikePair& pair : report_.Alike) {
+      const auto link = [this](std::size_t index) {
+        return QStringLiteral("<a href=\"#p%1\">").arg(index + 1) +
+               EscapedReadable(PupilName(report_.Runs[index].Who)) + QStringLiteral("</a>");
+      };
+      Add(QStringLiteral("<details><summary>") +
+          Filled(language_.AlikePair, {link(pair.One), link(pair.Other), QString::number(std::floor(pair.Percent))}) +
+          QStringLiteral("</summary>\n") + Element("pre", "", EscapedLines(pair.Lines.join(u'\n'))) +
+          QStringLiteral("</details>\n"));
+    }
+    Add(QStringLiteral("</div>\n"));
   }
 
-  void WriteBox(const ShownBox& shown) {
-    Add(QStringLiteral("<li>"));
-    if (!shown.Title.isEmpty()) Add(Span("title", EscapedLines(shown.Title)));
-    if (!shown.Text.isEmpty()) Add(Span("text", EscapedLines(shown.Text)));
-    Add(Span("quiet", Escaped(AnswerWords(shown))));
-    Add(QStringLiteral("</li>\n"));
-  }
-
-  static QString Span(const char* kind, const QString& html) {
-    return QStringLiteral("<span class=\"%1\">").arg(QLatin1String(kind)) + html + QStringLiteral("</span>");
-  }
-
-  static QString AnswerWords(const ShownBox& shown) {
-    QString answer = shown.Answer.isEmpty() ? QStringLiteral("nothing") : Readable(shown.Answer);
-    if (shown.Kind == "box" && shown.Buttons == shown.Answer) return answer;
-    if (shown.Kind == "box") return Readable(shown.Buttons) + QStringLiteral(" \u2192 ") + answer;
-    if (shown.Kind == "input") return QStringLiteral("Question, answered: ") + answer;
-    return QStringLiteral("File window, answered: ") + answer;
-  }
-
-  const Report& report;
-  QByteArray page;
-  std::size_t pictureBytes = 0;
+  const Report& report_;
+  const Language& language_;
+  PictureSource pictures_;
+  QByteArray page_;
 };
 
 }  // namespace
 
 QByteArray PageOf(const Report& report) { return PageWriter(report).Write(); }
+
+QByteArray IndexPage(const Report& report, const std::vector<IndexEntry>& entries) {
+  return PageWriter(report).WriteIndex(entries);
+}
+
+QByteArray PageOfPupil(const Report& report, const PupilRun& run) { return PageWriter(report).WriteAlone(run); }
 
 }  // namespace zerimo::classroom

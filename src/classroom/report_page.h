@@ -1,12 +1,30 @@
 #pragma once
 
 #include <QByteArray>
+#include <vector>
 
 #include "classroom/report.h"
 
 namespace zerimo::classroom {
 
-/// A class run for people: one HTML page in UTF-8 that needs nothing beside it, reaches for nothing and runs nothing.
+/// A class run for people: one HTML page in UTF-8 that needs nothing beside it and reaches for nothing. Its one script
+/// is its own, and nothing is lost without it.
 QByteArray PageOf(const Report& report);
+
+/// The page of one pupil, to be handed back: nothing in it is about anyone else.
+QByteArray PageOfPupil(const Report& report, const PupilRun& run);
+
+/// One page of a report that has several.
+struct IndexEntry {
+  QString File;
+  QString First;
+  QString Last;
+  std::size_t Programs = 0;
+  std::size_t Ended = 0;
+  std::size_t Suspicious = 0;
+};
+
+/// The page that leads to the pages of a large report.
+QByteArray IndexPage(const Report& report, const std::vector<IndexEntry>& entries);
 
 }  // namespace zerimo::classroom

@@ -5,9 +5,11 @@ namespace zerimo::classroom {
 /// How the page looks: on a wide window and a telephone, in the light, in the dark and on paper.
 inline constexpr const char* PageStyle = R"(
 :root { --ink: #1b1f24; --quiet: #57606a; --paper: #ffffff; --sheet: #f3f5f7;
-  --line: #c4cad1; --link: #0550ae; --good: #116329; --bad: #a40e26; }
+  --line: #c4cad1; --link: #0550ae; --good: #116329; --bad: #a40e26;
+  --look: #7a4b00; }
 @media screen and (prefers-color-scheme: dark) { :root { color-scheme: dark; --ink: #e8eaed; --quiet: #aab2bb; --paper: #16191d; --sheet: #22272d;
-  --line: #4a525c; --link: #79b8ff; --good: #6fdd8b; --bad: #ff9492; } }
+  --line: #4a525c; --link: #79b8ff; --good: #6fdd8b; --bad: #ff9492;
+  --look: #f0b95a; } }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1rem; max-width: 64rem; background: var(--paper); color: var(--ink);
   font: 1rem/1.5 system-ui, sans-serif; overflow-wrap: anywhere; }
@@ -33,8 +35,32 @@ pre { margin: .5rem 0; padding: .6rem; background: var(--sheet); border: 1px sol
 .boxes li { margin: .5rem 0; padding: .5rem .6rem; background: var(--sheet); border: 1px solid var(--line); }
 .boxes span { display: block; white-space: pre-wrap; }
 .boxes .title { font-weight: 600; }
-@media print { body { max-width: none; padding: 0; font-size: 10pt; } .screen { display: none; }
-  section, .boxes li, tr { break-inside: avoid; } img { max-height: 12cm; width: auto; } }
+.look { color: var(--look); font-weight: 600; }
+td img { width: 6rem; }
+th button { font: inherit; color: inherit; background: none; border: 0; padding: 0; cursor: pointer; text-align: left; }
+th button:hover, th button:focus-visible { text-decoration: underline; }
+th[aria-sort=ascending] button::after { content: " \2191"; }
+th[aria-sort=descending] button::after { content: " \2193"; }
+.findings a.why { white-space: nowrap; }
+.program { padding-left: 3.5rem; font: .9rem/1.4 ui-monospace, monospace; background: var(--sheet);
+  border: 1px solid var(--line); margin: .5rem 0; padding-top: .3rem; padding-bottom: .3rem; }
+.program li::marker { color: var(--quiet); }
+.program code { font: inherit; white-space: pre-wrap; }
+.program .mark { border-left: 4px solid var(--look); padding-left: .4rem; }
+.program .stop { border-left: 4px solid var(--bad); padding-left: .4rem; font-weight: 600; }
+.goal, .sheet { display: grid; grid-template-columns: repeat(auto-fill, minmax(14rem, 1fr)); gap: .8rem; }
+figure { margin: 0; break-inside: avoid; }
+figcaption { font-size: .85rem; color: var(--quiet); }
+.sheet a { display: block; white-space: pre-wrap; }
+@media print { body { max-width: none; padding: 0; font-size: 10pt; } .screen, .print-choice { display: none; }
+  .boxes li, tr, figure { break-inside: avoid; } img { max-height: 7cm; width: auto; } .goal img { max-height: 3.6cm; }
+  .pupil .goal ~ img { display: none; } td img { width: 2.5cm; }
+  .pupil { break-before: page; border-top: 0; margin-top: 0; }
+  .sheet { grid-template-columns: repeat(3, 1fr); gap: 4mm; } .sheet img { max-height: 4.2cm; }
+  .sheet figure { height: 5.3cm; }
+  #print-one:checked ~ main .contact { display: none; }
+  #print-twelve:checked ~ main .pupil, #print-twelve:checked ~ main .overview { display: none; }
+  #print-twelve:checked ~ main .contact { break-before: page; } }
 )";
 
 }  // namespace zerimo::classroom

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "classroom/class_options.h"
 #include "classroom/readable.h"
 #include "classroom/transcript_reader.h"
 #include "files/disk_files.h"
@@ -25,88 +26,90 @@ bool IsFull(const fs::path& folder) {
   return !error && space.available < LeastRoom;
 }
 
-Outcome Crash(const QString& words) {
-  Outcome outcome;
+RunOutcome Crash(const QString& words) {
+  RunOutcome outcome;
   outcome.Message = words;
   return outcome;
 }
 
 }  // namespace
 
-RunProcess::RunProcess(Order givenOrder, fs::path folder, double timeAround)
-    : order(std::move(givenOrder)), runFolder(std::move(folder)), secondsAround(timeAround) {
-  process.setWorkingDirectory(NameOf(runFolder));
-  process.setStandardInputFile(QProcess::nullDevice());
-  process.setStandardOutputFile(QProcess::nullDevice());
-  process.setStandardErrorFile(QProcess::nullDevice());
+RunProcess::RunProcess(Order order, fs::path folder, double timeAround)
+    : order_(std::move(order)), runFolder_(std::move(folder)), secondsAround_(timeAround) {
+  process_.setWorkingDirectory(NameOf(runFolder_));
+  process_.setStandardInputFile(QProcess::nullDevice());
+  process_.setStandardOutputFile(QProcess::nullDevice());
+  process_.setStandardErrorFile(QProcess::nullDevice());
 }
 
 void RunProcess::Start(const QString& program, std::function<void()> onEnd) {
   const auto end = [this, onEnd = std::move(onEnd)] {
-    ended = true;
-    finish = Clock::now();
+    ended_ = true;
+    finish_ = Clock::now();
     onEnd();
   };
-  QObject::connect(&process, &QProcess::finished, &process, end);
+  QObject::connect(&process_, &QProcess::finished, &process_, end);
   // A process that can't even start does not finish either.
-  QObject::connect(&process, &QProcess::errorOccurred, &process, [end](QProcess::ProcessError error) {
+  QObject::connect(&process_, &QProcess::errorOccurred, &process_, [end](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) end();
   });
   try {
-    fs::create_directory(runFolder);
-    WriteOrder(runFolder / run_file::Order, order);
+    fs::create_directory(runFolder_);
+    WriteOrder(runFolder_ / run_file::Order, order_);
   } catch (const std::exception&) {
     // Without its order the process finishes at once.
   }
-  process.start(program, {QStringLiteral("--class-pupil")});
+  process_.start(program, {QString::fromLatin1(PupilArgument)});
 }
 
 void RunProcess::EndIfLate() {
-  if (ended || late || order.Limits.Seconds == 0) return;
-  const std::chrono::duration<double> taken = Clock::now() - begin;
-  if (taken.count() < order.Limits.Seconds + secondsAround) return;
-  late = true;
-  process.kill();
+  if (ended_ || late_ || order_.Limits.Seconds == 0) return;
+  const std::chrono::duration<double> taken = Clock::now() - begin_;
+  // The program runs once, and once more for each goal.
+  const auto runs = static_cast<double>(order_.Goals.size() + 1);
+  if (taken.count() < order_.Limits.Seconds * runs + secondsAround_) return;
+  late_ = true;
+  process_.kill();
 }
 
 PupilRun RunProcess::TakeRun() {
   PupilRun run;
-  run.Who = order.Who;
+  run.Who = order_.Who;
   run.Went = OutcomeOfRun();
-  run.Told = SaidIn(QByteArray::fromStdString(BytesOf(runFolder / run_file::Transcript).value_or(std::string())));
-  run.Seconds = std::chrono::duration<double>(finish - begin).count();
+  run.Told = SaidIn(QByteArray::fromStdString(BytesOf(runFolder_ / run_file::Transcript).value_or(std::string())));
+  run.Seconds = std::chrono::duration<double>(finish_ - begin_).count();
   std::error_code error;
-  const fs::path picture = runFolder / run_file::Picture;
+  const fs::path picture = runFolder_ / run_file::Picture;
   const std::uintmax_t size = fs::file_size(picture, error);
   if (!error && size <= LargestPicture) run.Picture = picture;
   if (!error && size > LargestPicture) run.Went.Notes.append("The picture is too large for the report.");
-  fs::remove_all(runFolder / run_file::Scratch, error);
-  fs::remove(runFolder / run_file::Transcript, error);
+  fs::remove_all(runFolder_ / run_file::Scratch, error);
+  fs::remove(runFolder_ / run_file::Transcript, error);
   return run;
 }
 
-Outcome RunProcess::OutcomeOfRun() const {
-  if (std::optional<Outcome> told = ReadOutcome(runFolder / run_file::Outcome)) return *told;
+RunOutcome RunProcess::OutcomeOfRun() const {
+  if (std::optional<RunOutcome> told = ReadOutcome(runFolder_ / run_file::Outcome)) return *told;
   return OutcomeOfSilence();
 }
 
-Outcome RunProcess::OutcomeOfSilence() const {
-  Outcome outcome;
+RunOutcome RunProcess::OutcomeOfSilence() const {
+  RunOutcome outcome;
   std::error_code error;
-  if (late) {
+  if (late_) {
     outcome.How = Result::Stopped;
     outcome.By = "seconds";
-  } else if (fs::file_size(runFolder / run_file::OutOfMemory, error) > 0 && !error) {
+  } else if (fs::file_size(runFolder_ / run_file::OutOfMemory, error) > 0 && !error) {
     outcome.How = Result::Stopped;
     outcome.By = "memory";
-  } else if (process.error() == QProcess::FailedToStart) {
+  } else if (process_.error() == QProcess::FailedToStart) {
     return Crash("the process could not be started");
-  } else if (IsFull(runFolder)) {
+  } else if (IsFull(runFolder_)) {
     return Crash("the disk for temporary files is full");
-  } else if (process.exitStatus() == QProcess::CrashExit) {
-    return Crash(QStringLiteral("the process was ended by signal %1").arg(process.exitCode()));
+  } else if (process_.exitStatus() == QProcess::CrashExit) {
+    return Crash(QStringLiteral("the process was ended by signal %1").arg(process_.exitCode()));
   } else {
-    return Crash(QStringLiteral("the process ended with status %1").arg(process.exitCode()));
+    return Crash(QStringLiteral("the process ended with status %1").arg(process_.exitCode()));
   }
   return outcome;
 }

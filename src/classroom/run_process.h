@@ -16,12 +16,12 @@ class RunProcess {
 
   /// `folder` is the run's own and is made by `Start`. Nothing that goes wrong leaves this object: it becomes the
   /// outcome of the run.
-  RunProcess(Order givenOrder, std::filesystem::path folder, double timeAround = TimeAround);
+  RunProcess(Order order, std::filesystem::path folder, double timeAround = TimeAround);
 
   /// `onEnd` is called when the process has ended; it must leave this object alone.
   void Start(const QString& program, std::function<void()> onEnd);
 
-  bool HasEnded() const { return ended; }
+  bool HasEnded() const { return ended_; }
 
   /// Kills a process that does not keep the limit of seconds by itself.
   void EndIfLate();
@@ -32,17 +32,17 @@ class RunProcess {
  private:
   using Clock = std::chrono::steady_clock;
 
-  Outcome OutcomeOfRun() const;
-  Outcome OutcomeOfSilence() const;
+  RunOutcome OutcomeOfRun() const;
+  RunOutcome OutcomeOfSilence() const;
 
-  Order order;
-  std::filesystem::path runFolder;
-  double secondsAround;
-  QProcess process;
-  Clock::time_point begin = Clock::now();
-  Clock::time_point finish = begin;
-  bool ended = false;
-  bool late = false;
+  Order order_;
+  std::filesystem::path runFolder_;
+  double secondsAround_;
+  QProcess process_;
+  Clock::time_point begin_ = Clock::now();
+  Clock::time_point finish_ = begin_;
+  bool ended_ = false;
+  bool late_ = false;
 };
 
 }  // namespace zerimo::classroom

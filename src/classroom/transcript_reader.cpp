@@ -1,9 +1,7 @@
 #include "classroom/transcript_reader.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include "batch/box_buttons.h"
+#include "classroom/record.h"
 
 namespace zerimo::classroom {
 
@@ -12,51 +10,53 @@ namespace {
 /// Takes events as long as they fit.
 class SaidBuilder {
  public:
-  void Take(const QJsonObject& event) {
-    const QString name = event.value("event").toString();
-    if (name == "list" && event.value("op").toString() == "add") TakeLine(event.value("item").toString());
+  void Take(const Json& event) {
+    const QString name = TextAt(event, "event");
+    if (name == "typed") typed_ = u'?' + TextAt(event, "text");
+    if (name == "list" && TextAt(event, "op") == "add") TakeLine(TextAt(event, "item"));
     if (name == "box")
-      TakeBox({"box", TextOf(event, "title"), TextOf(event, "text"), ButtonsOf(event), TextOf(event, "answer")});
+      TakeBox({"box", TextAt(event, "title"), TextAt(event, "text"), ButtonsOf(event), TextAt(event, "answer")});
     if (name == "input")
-      TakeBox({"input", TextOf(event, "title"), TextOf(event, "prompt"), {}, TextOf(event, "answer")});
-    if (name == "dialog") TakeBox({TextOf(event, "kind"), {}, {}, {}, TextOf(event, "answer")});
+      TakeBox({"input", TextAt(event, "title"), TextAt(event, "prompt"), {}, TextAt(event, "answer")});
+    if (name == "dialog") TakeBox({TextAt(event, "kind"), {}, {}, {}, TextAt(event, "answer")});
   }
 
   Said Told;
 
  private:
-  static QString TextOf(const QJsonObject& event, const char* key) {
-    return event.value(QLatin1String(key)).toString();
-  }
-
-  static QString ButtonsOf(const QJsonObject& event) {
-    return QString::fromStdString(batch::ButtonList(batch::ButtonsOf(event.value("style").toInt())));
+  static QString ButtonsOf(const Json& event) {
+    return QString::fromStdString(batch::ButtonList(batch::ButtonsOf(static_cast<int>(NumberAt(event, "style")))));
   }
 
   void TakeLine(QString line) {
     if (Told.LinesAreCut) return;
-    Told.LinesAreCut = Told.Lines.size() == MostLines || line.size() > roomForLines;
+    Told.LinesAreCut = Told.Lines.size() == MostLines || line.size() > roomForLines_;
     if (Told.Lines.size() == MostLines) return;
-    line.truncate(roomForLines);
-    roomForLines -= line.size();
+    line.truncate(roomForLines_);
+    roomForLines_ -= line.size();
     Told.Lines.append(line);
+    // A typed line is listed too, once.
+    const bool isTyped = line == typed_;
+    if (isTyped) typed_.clear();
+    if (!isTyped) Told.Printed.append(line);
   }
 
   void TakeBox(ShownBox shown) {
     if (Told.BoxesAreCut) return;
     const bool isOneTooMany = static_cast<qsizetype>(Told.Boxes.size()) == MostBoxes;
     const qsizetype size = shown.Text.size() + shown.Title.size() + shown.Answer.size();
-    Told.BoxesAreCut = isOneTooMany || size > roomForBoxes;
+    Told.BoxesAreCut = isOneTooMany || size > roomForBoxes_;
     if (isOneTooMany) return;
     for (QString* const text : {&shown.Text, &shown.Title, &shown.Answer}) {
-      text->truncate(roomForBoxes);
-      roomForBoxes -= text->size();
+      text->truncate(roomForBoxes_);
+      roomForBoxes_ -= text->size();
     }
     Told.Boxes.push_back(shown);
   }
 
-  qsizetype roomForLines = MostCharacters;
-  qsizetype roomForBoxes = MostCharacters;
+  QString typed_;
+  qsizetype roomForLines_ = MostCharacters;
+  qsizetype roomForBoxes_ = MostCharacters;
 };
 
 }  // namespace
@@ -65,7 +65,8 @@ Said SaidIn(const QByteArray& transcript) {
   SaidBuilder builder;
   qsizetype begin = 0;
   for (qsizetype end = 0; (end = transcript.indexOf('\n', begin)) >= 0; begin = end + 1) {
-    builder.Take(QJsonDocument::fromJson(transcript.mid(begin, end - begin)).object());
+    const std::optional<Json> event = ParsedObject(transcript.mid(begin, end - begin).toStdString());
+    if (event) builder.Take(*event);
   }
   // What may have stood behind the last whole line.
   if (begin < transcript.size()) builder.Told.LinesAreCut = builder.Told.BoxesAreCut = true;

@@ -10,8 +10,8 @@
 #include "batch/batch_session.h"
 #include "batch/errors.h"
 #include "batch/latin1.h"
-#include "batch/options.h"
 #include "batch/picture_output.h"
+#include "classroom/class_options.h"
 #include "classroom/class_run.h"
 #include "classroom/pupil_session.h"
 
@@ -53,32 +53,32 @@ std::filesystem::path PathOf(const std::string& latin1) {
 /// One run of the program, its options given.
 class Program {
  public:
-  explicit Program(const Options& given) : options(given) {}
+  explicit Program(const Options& options) : options_(options) {}
 
   int Run() {
-    const std::optional<std::string> bytes = ReadSessionFile(options.SessionFile);
-    if (!bytes) return Complain(options.SessionFile + ": the session can not be read");
-    if (!OpenTranscript()) return Complain(options.TranscriptFile + ": the transcript can not be written");
-    Journal journal(transcript, options.TranscriptOnStandardOutput() ? nullptr : &std::cout);
+    const std::optional<std::string> bytes = ReadSessionFile(options_.SessionFile);
+    if (!bytes) return Complain(options_.SessionFile + ": the session can not be read");
+    if (!OpenTranscript()) return Complain(options_.TranscriptFile + ": the transcript can not be written");
+    Journal journal(transcript_, options_.TranscriptOnStandardOutput() ? nullptr : &std::cout);
     BatchSession session(
-        options.Session, pictures.Pixels(), journal,
-        [this](const Surface& surface, const std::string& file) { pictures.Write(surface, PathOf(file)); });
+        options_.Session, pictures_.Pixels(), journal,
+        [this](const Surface& surface, const std::string& file) { pictures_.Write(surface, PathOf(file)); });
     return RunScript(session, *bytes);
   }
 
  private:
   bool OpenTranscript() {
-    if (options.TranscriptOnStandardOutput()) transcript = &std::cout;
-    if (options.TranscriptFile.empty() || options.TranscriptOnStandardOutput()) return true;
-    transcriptFile.open(options.TranscriptFile, std::ios::binary);
-    transcript = &transcriptFile;
-    return transcriptFile.is_open();
+    if (options_.TranscriptOnStandardOutput()) transcript_ = &std::cout;
+    if (options_.TranscriptFile.empty() || options_.TranscriptOnStandardOutput()) return true;
+    transcriptFile_.open(options_.TranscriptFile, std::ios::binary);
+    transcript_ = &transcriptFile_;
+    return transcriptFile_.is_open();
   }
 
   int RunScript(BatchSession& session, const std::string& bytes) {
     try {
       const Script script = session.Read(bytes);
-      if (WantsOperations(script)) pictures.KeepOperations(session.System().Picture1);
+      if (WantsOperations(script)) pictures_.KeepOperations(session.System().Picture1);
       return Close(session, session.Run(script));
     } catch (const SessionError& error) {
       return ComplainAt(error.Line, error.what());
@@ -86,7 +86,7 @@ class Program {
   }
 
   bool WantsOperations(const Script& script) const {
-    return IsVectorPictureName(options.PictureFile) || std::ranges::any_of(script, [](const SessionStep& step) {
+    return IsVectorPictureName(options_.PictureFile) || std::ranges::any_of(script, [](const SessionStep& step) {
              const auto* const picture = std::get_if<action::WritePicture>(&step.Act);
              return picture != nullptr && IsVectorPictureName(picture->File);
            });
@@ -97,16 +97,16 @@ class Program {
     int status = static_cast<int>(outcome.How);
     if (!outcome.Message.empty()) ComplainAt(outcome.Line, outcome.Message);
     if (!WritePicture(session))
-      status = std::max(status, Complain(options.PictureFile + ": the picture can not be written"));
-    const bool written = (transcript == nullptr || transcript->flush().good()) && std::cout.flush().good();
+      status = std::max(status, Complain(options_.PictureFile + ": the picture can not be written"));
+    const bool written = (transcript_ == nullptr || transcript_->flush().good()) && std::cout.flush().good();
     if (!written) status = std::max(status, Complain("the transcript can not be written"));
     return status;
   }
 
   bool WritePicture(BatchSession& session) const {
-    if (options.PictureFile.empty()) return true;
+    if (options_.PictureFile.empty()) return true;
     try {
-      pictures.Write(session.System().Picture1, options.PictureFile);
+      pictures_.Write(session.System().Picture1, options_.PictureFile);
       return true;
     } catch (const std::exception&) {
       return false;
@@ -115,13 +115,13 @@ class Program {
 
   int ComplainAt(int line, const std::string& words) const {
     const std::string place = line == 0 ? std::string() : ":" + std::to_string(line);
-    return Complain(options.SessionFile + place + ": " + words);
+    return Complain(options_.SessionFile + place + ": " + words);
   }
 
-  const Options& options;
-  PictureOutput pictures;
-  std::ofstream transcriptFile;
-  std::ostream* transcript = nullptr;
+  const Options& options_;
+  PictureOutput pictures_;
+  std::ofstream transcriptFile_;
+  std::ostream* transcript_ = nullptr;
 };
 
 /// What the toolkit has to say about the desktop is nothing for the user of a program without one.
@@ -132,45 +132,42 @@ void KeepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message
 /// Fonts and picture formats need it; no display is opened.
 class HiddenDesktop {
  public:
-  explicit HiddenDesktop(char* programName) : arguments{programName, nullptr} {
+  explicit HiddenDesktop(char* programName) : arguments_{programName, nullptr} {
     qInstallMessageHandler(KeepQuiet);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Nothing here follows the user's locale, neither numbers nor file names.
     qputenv("LC_ALL", "C.UTF-8");
-    application.emplace(count, arguments.data());
+    application_.emplace(count_, arguments_.data());
     std::setlocale(LC_ALL, "C");
   }
 
  private:
-  int count = 1;
-  std::array<char*, 2> arguments;
-  std::optional<QGuiApplication> application;
+  int count_ = 1;
+  std::array<char*, 2> arguments_;
+  std::optional<QGuiApplication> application_;
 };
 
-/// The argument by which a class run starts this program for one pupil.
-constexpr const char* PupilArgument = "--class-pupil";
-
 int Main(char* programName, const std::vector<std::string>& words) {
-  if (words == std::vector<std::string>{PupilArgument}) {
+  if (words == std::vector<std::string>{classroom::PupilArgument}) {
     const HiddenDesktop desktop(programName);
     return classroom::RunPupil();
   }
-  const Options options = ParseOptions(words);
-  if (options.What == Options::Wish::Help) {
-    std::cout << HelpText();
+  const classroom::Command command = classroom::ParseCommand(words);
+  if (command.Runner.What == Options::Wish::Help) {
+    std::cout << command.HelpText;
     return 0;
   }
-  if (options.What == Options::Wish::Version) {
+  if (command.Runner.What == Options::Wish::Version) {
     std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
     return 0;
   }
   const HiddenDesktop desktop(programName);
-  if (options.What == Options::Wish::Run) return Program(options).Run();
-  return static_cast<int>(classroom::RunClass(options, ZERIMO_VERSION));
+  if (!command.IsClass()) return Program(command.Runner).Run();
+  return static_cast<int>(classroom::RunClass(command, ZERIMO_VERSION));
 }
 
 int StatusOfBadUsage(const std::vector<std::string>& words) {
-  return AskForClass(words) ? static_cast<int>(classroom::ClassStatus::BadUsage) : Refused;
+  return classroom::AskForClass(words) ? static_cast<int>(classroom::ClassStatus::BadUsage) : Refused;
 }
 
 /// Sessions and transcripts are bytes, also on a system that has line ends of its own.

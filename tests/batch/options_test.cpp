@@ -53,34 +53,6 @@ TEST(Options, HelpAndVersionAreWishes) {
 
 TEST(Options, FolderLosesItsLastDivider) { EXPECT_EQ(ParseOptions({"--app-folder", "./"}).Session.AppFolder, "."); }
 
-TEST(Options, AskForAClass) {
-  const Options options = ParseOptions({"--class", "5a", "--out", "r.HTML"});
-  EXPECT_EQ(options.What, Options::Wish::Class);
-  EXPECT_EQ(options.Class.Folder, "5a");
-  EXPECT_EQ(options.Class.Report, "r.HTML");
-  EXPECT_EQ(options.Class.Memory, 512);
-  EXPECT_EQ(options.Class.Jobs, 0);
-  EXPECT_EQ(options.Session.Seconds, 10);
-  EXPECT_EQ(options.Session.Steps, 10'000'000U);
-}
-
-TEST(Options, LimitsOfAClassMayStandAnywhere) {
-  const Options options = ParseOptions({"--seconds", "3", "--memory", "0", "--jobs", "4", "--steps", "9", "--screen",
-                                        "800x600", "--out", "r.htm", "--class", "5a"});
-  EXPECT_EQ(options.Session.Seconds, 3);
-  EXPECT_EQ(options.Session.Steps, 9U);
-  EXPECT_EQ(options.Session.Screen.Width, 12000);
-  EXPECT_EQ(options.Class.Memory, 0);
-  EXPECT_EQ(options.Class.Jobs, 4);
-}
-
-TEST(Options, AClassIsAskedForEvenWhereTheRestIsWrong) {
-  EXPECT_TRUE(AskForClass({"--frobnicate", "--class"}));
-  EXPECT_FALSE(AskForClass({"--transcript", "--class"}));
-  EXPECT_FALSE(AskForClass({"--", "--class"}));
-  EXPECT_FALSE(AskForClass({"a.session"}));
-}
-
 struct BadUsage {
   std::vector<std::string> Arguments;
   const char* Message;
@@ -120,20 +92,6 @@ std::vector<BadUsage> BadUsages() {
       {{"--picture", ".png"}, "--picture .png: a file name ending in .png, .bmp, .jpg or .svg is wanted"},
       {{"--transcript", ""}, "--transcript : a file name is wanted"},
       {{"--app-folder", "/no/such/folder"}, "--app-folder /no/such/folder: there is no such folder"},
-      {{"--jobs", "2"}, "--jobs: only with --class"},
-      {{"--memory", "64"}, "--memory: only with --class"},
-      {{"--out", "r.html"}, "--out: only with --class"},
-      {{"--class"}, "--class: a value is missing"},
-      {{"--class", ""}, "--class : a folder is wanted"},
-      {{"--class", "c"}, "--class: the report is missing, give --out"},
-      {{"--class", "c", "--out", ".html"}, "--out .html: a file name ending in .html or .htm is wanted"},
-      {{"--class", "c", "--out", "r.txt"}, "--out r.txt: a file name ending in .html or .htm is wanted"},
-      {{"--class", "c", "--jobs", "0"}, "--jobs 0: a whole number from 1 to 64 is wanted"},
-      {{"--class", "c", "--memory", "15"}, "--memory 15: megabytes are wanted, from 16 to 1048576, or 0"},
-      {{"--class", "c", "--memory", "1e3"}, "--memory 1e3: megabytes are wanted, from 16 to 1048576, or 0"},
-      {{"--class", "c", "--sleep"}, "--sleep: not with --class"},
-      {{"--class", "c", "--picture", "p.png"}, "--picture: not with --class"},
-      {{"--class", "c", "s"}, "s: no session can be given with --class; put it beside the program"},
       {{"a", "b"}, "b: only one session can be run"},
       {{""}, "the name of the session is empty"},
   };
@@ -146,13 +104,6 @@ std::vector<BadUsage> BadUsages() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Usages, BadOptions, testing::ValuesIn(BadUsages()));
-
-TEST(Options, HelpNamesEveryOption) {
-  for (const char* option : {"--screen", "--app-folder", "--transcript", "--picture", "--steps", "--seconds", "--sleep",
-                             "--help", "--version", "--class", "--out", "--memory", "--jobs"}) {
-    EXPECT_NE(HelpText().find(option), std::string::npos) << option;
-  }
-}
 
 }  // namespace
 }  // namespace zerimo::batch

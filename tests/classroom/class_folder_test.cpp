@@ -46,9 +46,33 @@ TEST_F(ClassFolderTest, WhateverIsCalledAProgramIsOne) {
   EXPECT_EQ(Found(), (Words{"FOLDER.ZRM", "LINK.ZRM"}));
 }
 
-TEST_F(ClassFolderTest, FoldersBelowAreNotLookedInto) {
-  Temp.Write("sub/ANNA.ZRM", "");
-  EXPECT_EQ(Found(), Words{});
+TEST_F(ClassFolderTest, AFolderBelowBelongsToThePupilOfItsName) {
+  Make({"ZOE.ZRM"});
+  Temp.Write("Anna Berg/STAR.ZRM", "");
+  Temp.Write("Ben Cole/A.ZRM", "");
+  Temp.Write("Ben Cole/B.ZRM", "");
+  Temp.Write(".hidden/C.ZRM", "");
+  QStringList names;
+  for (const Pupil& pupil : PupilsOf(Temp.Path)) names.append(pupil.Name);
+  EXPECT_EQ(names, (QStringList{"", "Anna Berg", "Ben Cole/A.ZRM", "Ben Cole/B.ZRM"}));
+}
+
+TEST_F(ClassFolderTest, NamesComeFromATable) {
+  std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}}, {"5a/1234/STAR.ZRM", {}}, {"5a/BEN.ZRM", {}}};
+  TakeNames(pupils, "anna,Anna Berg\r\n1234;\"Zoe \"\"Z\"\" Cole\"\nnobody,Nobody\n");
+  EXPECT_EQ(pupils[0].Name, "Anna Berg");
+  EXPECT_EQ(pupils[1].Name, "Zoe \"Z\" Cole");
+  EXPECT_EQ(pupils[2].Name, "");
+}
+
+TEST_F(ClassFolderTest, AListNamesPrograms) {
+  Make({"ANNA.ZRM", "BEN.ZRM", "BEN.session"});
+  Temp.Write("list", Temp.Path.string() + "/ANNA.ZRM\r\n\n" + Temp.Path.string() + "/BEN.ZRM\n");
+  const std::vector<Pupil> pupils = PupilsListedIn(Temp.Path / "list");
+  ASSERT_EQ(pupils.size(), 2U);
+  EXPECT_EQ(pupils[0].Program, Temp.Path / "ANNA.ZRM");
+  EXPECT_EQ(pupils[0].Session, fs::path());
+  EXPECT_EQ(pupils[1].Session, Temp.Path / "BEN.session");
 }
 
 TEST_F(ClassFolderTest, ASessionHasTheNameOfItsProgram) {

@@ -137,7 +137,7 @@ TEST_F(ClassProgramTest, HostileNamesDoNoHarm) {
   for (const QJsonValue& pupil : pupils) {
     EXPECT_EQ(pupil.toObject().value("printed").toArray().last().toString(), "? 7");
   }
-  EXPECT_EQ(Page.find("<script>"), std::string::npos);
+  EXPECT_EQ(Page.find("<script>alert"), std::string::npos);
   EXPECT_NE(Page.find("&lt;script&gt;alert(1)&lt;.ZRM"), std::string::npos);
   EXPECT_NE(Page.find("right[U+202E]left.ZRM"), std::string::npos);
   EXPECT_EQ(run.Errors.find('\x1b'), std::string::npos);
@@ -158,13 +158,12 @@ TEST_F(ClassProgramTest, TheOrderIsThatOfTheNames) {
   EXPECT_LT(Page.find("<h2 id=\"h1\">A.ZRM"), Page.find("<h2 id=\"h2\">B.ZRM"));
 }
 
-TEST_F(ClassProgramTest, AFolderWithoutProgramsIsTold) {
-  EXPECT_EQ(Run().Status, 0);
-  EXPECT_NE(Page.find("There is no program (.ZRM) in the folder."), std::string::npos);
-  EXPECT_EQ(Summary.value("pupils").toArray().size(), 0);
+TEST_F(ClassProgramTest, AFolderWithoutProgramsIsBadUsage) {
+  ExpectBadUsage("--class class --out r.html", "--class class: there is no program (.ZRM) in it");
 }
 
 TEST_F(ClassProgramTest, BadUsageIsOneLine) {
+  Write("A.ZRM", "TO A|END|");
   ExpectBadUsage("--class nowhere --out r.html", "--class nowhere: there is no such folder");
   ExpectBadUsage("--class class --out no/folder/r.html", "--out no/folder/r.html: no file can be written there");
   ExpectBadUsage("--frobnicate --class class", "--frobnicate: there is no such option");
@@ -182,6 +181,121 @@ TEST_F(ClassProgramTest, AFormerReportIsReplacedAsAWhole) {
   EXPECT_TRUE(Page.starts_with("<!DOCTYPE html>"));
   EXPECT_TRUE(Page.ends_with("</html>\n"));
   EXPECT_EQ(std::distance(fs::directory_iterator(Program.Folder()), {}), 4);
+}
+
+TEST_F(ClassProgramTest, ShowsTheProgramAndWhatIsSuspiciousInIt) {
+  Write("STAR.ZRM", "TO STAR|CS|FORWRD 10|REPEAT 2 [FD 10]|END|");
+  Run();
+  const QJsonArray findings = Pupil("STAR.ZRM").value("findings").toArray();
+  ASSERT_EQ(findings.size(), 1);
+  EXPECT_EQ(findings.at(0).toObject().value("mistake").toString(), "unknown word");
+  EXPECT_EQ(findings.at(0).toObject().value("line").toInt(), 3);
+  EXPECT_NE(Page.find("Unknown word FORWRD, perhaps FORWARD. The line is ignored."), std::string::npos);
+  EXPECT_NE(Page.find("<li id=\"p1l3\"><code class=\"mark\">FORWRD 10</code></li>"), std::string::npos);
+  EXPECT_NE(Page.find("MAKE # 1 / LABEL $ / FD 10 / MAKE # #+1"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {
+  Write("SPIN.ZRM", Endless);
+  Run("--steps 1000");
+  const int line = Pupil("SPIN.ZRM").value("place").toObject().value("programLine").toInt();
+  EXPECT_GE(line, 2);
+  EXPECT_LE(line, 4);
+  EXPECT_NE(Page.find("stopped here"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, ComparesWithATask) {
+  fs::create_directory(Program.Folder() / "task");
+  Program.Write("task/GOAL.ZRM", "TO GOAL :S\r\nCS\r\nREPEAT 4 [FD :S RT 90]\r\nPRINT 5\r\nEND\r\n");
+  Program.Write("task/TASK.md",
+                "# Squares\n\nDraw a square.\n\n## Goals\n- `PROGRAM 50`: 3 points\n"
+                "- `PROGRAM 20`: texts\n- `PROGRAM 30`: pixels 90 %\n");
+  Write("ANNA.ZRM", "TO BOX :N|CS|REPEAT 4 [RT 90 FD :N]|PRINT 5|END|");
+  Write("BEN.ZRM", "TO BEN :N|CS|RT 90|REPEAT 3 [FD :N LT 120]|END|");
+  EXPECT_EQ(Run("--task task").Status, 0);
+  const QJsonArray anna = Pupil("ANNA.ZRM").value("goals").toArray();
+  ASSERT_EQ(anna.size(), 3);
+  EXPECT_EQ(anna.at(0).toObject().value("points").toDouble(), 3);
+  EXPECT_FALSE(anna.at(0).toObject().value("met").toBool());
+  EXPECT_TRUE(anna.at(0).toObject().contains("placed"));
+  EXPECT_TRUE(anna.at(1).toObject().value("met").toBool());
+  for (const QJsonValue& goal : Pupil("BEN.ZRM").value("goals").toArray())
+    EXPECT_FALSE(goal.toObject().value("met").toBool());
+  EXPECT_NE(Page.find("It is the goal, but"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, OneSessionServesTheWholeClass) {
+  Write("ANNA.ZRM", "TO BOX :S|PRINT :S|END|");
+  Write("BEN.ZRM", "TO SIDE :N|FD :N|END|TO BEN :N|PRINT 2*:N|SIDE :N|END|");
+  Program.Write("all.session", "LOAD PROGRAM\nPROGRAM 60\n");
+  Run("--session all.session");
+  EXPECT_EQ(PrintedBy("ANNA.ZRM"), (Lines{"?LOAD PROGRAM", "?BOX 60", "? 60"}));
+  EXPECT_EQ(PrintedBy("BEN.ZRM"), (Lines{"?LOAD PROGRAM", "?BEN 60", "? 120"}));
+}
+
+TEST_F(ClassProgramTest, WritesMarksAndAPageForEachPupil) {
+  Write("ANNA.ZRM", "TO ANNA|CS|FD 5|END|");
+  Write("BEN.ZRM", "TO BEN|CS|FD 7|END|");
+  Program.Write("names.csv", "anna,=Anna\n");
+  Run("--csv marks.csv --pupils pages --names names.csv --lang de");
+  EXPECT_NE(Program.Read("marks.csv").find("\r\n\"ANNA.ZRM\",\"'=Anna\",\"ended\""), std::string::npos);
+  const std::string page = Program.Read("pages/_Anna.html");
+  EXPECT_NE(page.find("<html lang=\"de\">"), std::string::npos);
+  EXPECT_NE(page.find("FD 5"), std::string::npos);
+  EXPECT_EQ(page.find("BEN"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
+  const char* const Own = "TO %|CS|FD 1|RT 2|FD 3|SETPC 4|STAMPCIRCLE 5|LT 6|BK 7|END|";
+  Write("ANNA.ZRM", Own);
+  Write("BEN.ZRM", "TO B|CS|SETPC 1|STAMPCIRCLE 9|FD :A|RT 1|FD 9|LT 7|BK 8|END|");
+  Write("CARLA.ZRM", "TO CARLA|CS|HT|CIRCLE 0 0 50|DOT 1 2|SETXY 5 5|END|");
+  Run();
+  EXPECT_NE(Page.find("100 per cent of the lines are alike"), std::string::npos);
+  Program.Write("given.ZRM", "FD 1\r\nRT 2\r\nFD 3\r\nSETPC 4\r\nSTAMPCIRCLE 5\r\nLT 6\r\nBK 7\r\n");
+  Run("--template given.ZRM");
+  EXPECT_EQ(Page.find("of the lines are alike"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
+  for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM"}) Write(name, "TO X|CS|FD 9|PRINT 7|END|");
+  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\nclass/C.ZRM\n");
+  EXPECT_EQ(Program.Run("--list list --shard 1/2 --jsonl 1.jsonl").Status, 0);
+  EXPECT_EQ(Program.Run("--list list --shard 2/2 --jsonl 2.jsonl").Status, 0);
+  EXPECT_EQ(std::ranges::count(Program.Read("1.jsonl"), '\n'), 2);
+  EXPECT_EQ(std::ranges::count(Program.Read("2.jsonl"), '\n'), 1);
+  const ProgramRun run = Program.Run("--merge 1.jsonl 2.jsonl --out all.html --csv all.csv");
+  EXPECT_EQ(run.Errors, "zerimo-batch: 3 programs; the report is all.html\n");
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_NE(Program.Read("all.html").find("<a href=\"all-1.html\">A.ZRM \xE2\x80\x93 B.ZRM</a>"), std::string::npos);
+  EXPECT_NE(Program.Read("all-1.html").find("src=\"data:image/png;base64,"), std::string::npos);
+  EXPECT_EQ(std::ranges::count(Program.Read("all.csv"), '\n'), 4);
+}
+
+TEST_F(ClassProgramTest, ResumingRunsOnlyWhatIsMissing) {
+  Write("A.ZRM", "TO A|CS|FD 9|END|");
+  Write("B.ZRM", "TO B|CS|FD 9|END|");
+  Run("--jsonl r.jsonl");
+  std::string records = Program.Read("r.jsonl");
+  // As a kill leaves it: a whole line, and half of one.
+  Program.Write("r.jsonl", records.substr(0, records.find('\n') + 9));
+  const ProgramRun run = Run("--jsonl r.jsonl --resume");
+  EXPECT_TRUE(run.Errors.starts_with("1/1 ")) << run.Errors;
+  EXPECT_EQ(Summary.value("pupils").toArray().size(), 2);
+  EXPECT_EQ(std::ranges::count(Program.Read("r.jsonl"), '\n'), 2);
+}
+
+TEST_F(ClassProgramTest, TheSamplesAreNotSuspicious) {
+  int count = 0;
+  for (const fs::directory_entry& entry : fs::directory_iterator(ZERIMO_SOURCE_DIR "/samples"))
+    fs::copy_file(entry.path(), ClassFolder() / entry.path().filename());
+  Run("--steps 0 --seconds 60");
+  for (const QJsonValue& pupil : Summary.value("pupils").toArray()) {
+    ++count;
+    EXPECT_EQ(pupil.toObject().value("findings").toArray(), QJsonArray())
+        << pupil.toObject().value("file").toString().toStdString();
+  }
+  EXPECT_EQ(count, 26);
 }
 
 }  // namespace

@@ -101,6 +101,17 @@ TEST_F(ClassSignalsTest, AnInterruptEndsTheProcessesAndLeavesNothing) {
   EXPECT_EQ(Program.Read("errors"), "zerimo-batch: interrupted, no report is written\n");
 }
 
+TEST_F(ClassSignalsTest, AnInterruptLeavesAPartialReport) {
+  Write("A.ZRM", "TO A|END|");
+  Write("B.ZRM", Endless);
+  Start("30");
+  ASSERT_TRUE(WaitUntil([this] { return Program.Read("errors").starts_with("1/2 "); }));
+  kill(runner, SIGINT);
+  EXPECT_EQ(Wait(), 3);
+  EXPECT_EQ(ResultOf("A.ZRM"), "ended");
+  EXPECT_NE(Page.find("This report is partial: the run was interrupted after 1 of 2 programs."), std::string::npos);
+}
+
 TEST_F(ClassSignalsTest, AProgressThatNobodyReadsStopsNothing) {
   Write("A.ZRM", "TO A|END|");
   Write("B.ZRM", "TO B|END|");

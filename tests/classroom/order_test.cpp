@@ -27,7 +27,7 @@ TEST(Order, ComesBackAsItWasWritten) {
 
 TEST(Order, OutcomeComesBackAsItWasWritten) {
   const TempFolder disk;
-  Outcome outcome;
+  RunOutcome outcome;
   outcome.How = Result::NotRun;
   outcome.By = "by";
   outcome.Message = "<m>";
@@ -35,7 +35,7 @@ TEST(Order, OutcomeComesBackAsItWasWritten) {
   outcome.Typed = {"A", "B"};
   outcome.Notes = {"N"};
   WriteOutcome(disk.Path / "outcome", outcome);
-  const std::optional<Outcome> back = ReadOutcome(disk.Path / "outcome");
+  const std::optional<RunOutcome> back = ReadOutcome(disk.Path / "outcome");
   ASSERT_TRUE(back);
   EXPECT_EQ(back->How, Result::NotRun);
   EXPECT_EQ(back->By, "by");

@@ -42,16 +42,20 @@ QStringList AllMatches(const QString& text, const char* pattern) {
 
 QSet<QString> Set(const QStringList& texts) { return {texts.begin(), texts.end()}; }
 
-/// The page without its style, in which braces and stars stand.
+/// The page without its style and its script.
 QString WithoutStyle(QString page) {
-  return page.remove(QRegularExpression("<style>.*</style>", QRegularExpression::DotMatchesEverythingOption));
+  const auto options = QRegularExpression::DotMatchesEverythingOption;
+  return page.remove(
+      QRegularExpression("<(style|script)>.*</\\1>", options | QRegularExpression::InvertedGreedinessOption));
 }
 
 TEST(ReportPage, HasNoElementButItsOwn) {
   const QString page = WithoutStyle(QString::fromUtf8(PageOf(HostileReport())));
-  const QSet<QString> known = {"!DOCTYPE", "html",  "head", "meta",    "title", "body",  "header", "main", "h1",
-                               "h2",       "h3",    "br",   "p",       "a",     "table", "thead",  "tr",   "th",
-                               "td",       "tbody", "div",  "section", "span",  "pre",   "ul",     "li"};
+  const QSet<QString> known = {"!DOCTYPE", "html",    "head",    "meta",  "title", "body",   "header",
+                               "main",     "h1",      "h2",      "h3",    "br",    "p",      "a",
+                               "table",    "thead",   "tr",      "th",    "td",    "tbody",  "div",
+                               "section",  "span",    "pre",     "ul",    "li",    "ol",     "code",
+                               "strong",   "details", "summary", "input", "label", "figure", "figcaption"};
   EXPECT_EQ(Set(AllMatches(page, "</?([^ >]*)")) - known, QSet<QString>());
 }
 
@@ -63,8 +67,9 @@ TEST(ReportPage, HasNoAttributeButItsOwn) {
     attributes.remove(QRegularExpression("\"[^\"]*\""));
     names += AllMatches(attributes, " ([^ =]+)");
   }
-  const QSet<QString> known = {"html", "lang", "charset", "http-equiv", "content",        "name",
-                               "id",   "href", "class",   "scope",      "aria-labelledby"};
+  const QSet<QString> known = {"html", "lang",       "charset",    "http-equiv",      "content", "name", "id",
+                               "href", "class",      "scope",      "aria-labelledby", "type",    "for",  "checked",
+                               "rel",  "data-notes", "data-value", "data-label",      "data-all"};
   EXPECT_EQ(Set(names) - known, QSet<QString>());
 }
 
@@ -77,25 +82,29 @@ TEST(ReportPage, HostileTextStandsAsText) {
   EXPECT_FALSE(page.contains(QChar(0x202e)));
 }
 
-TEST(ReportPage, AllowsNothingFromOutsideAndNoScript) {
+TEST(ReportPage, AllowsNothingFromOutsideAndOnlyItsOwnScript) {
   const QString page = QString::fromUtf8(PageOf(HostileReport()));
-  const QString style = AllMatches(page, "(?s)<style>(.*)</style>").value(0);
-  const QByteArray hash = QCryptographicHash::hash(style.toUtf8(), QCryptographicHash::Sha256).toBase64();
+  const auto hashOf = [&page](const char* pattern) {
+    const QString text = AllMatches(page, pattern).value(0);
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toBase64());
+  };
   EXPECT_TRUE(
       page.contains("<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; "
                     "style-src 'sha256-" +
-                    QString::fromLatin1(hash) + "'; base-uri 'none'; form-action 'none'\">"));
+                    hashOf("(?s)<style>(.*)</style>") + "'; script-src 'sha256-" + hashOf("(?s)<script>(.*)</script>") +
+                    "'; base-uri 'none'; form-action 'none'\">"));
   for (const char* outward : {"http://", "https://", "url(", "@import"})
     EXPECT_FALSE(page.contains(outward)) << outward;
 }
 
 TEST(ReportPage, LinksFromTheOverviewToEachPupil) {
   const QString page = PageWith({RunOf("ANNA.ZRM"), RunOf("BEN.ZRM")});
-  EXPECT_EQ(AllMatches(page, "href=\"#(p[0-9]+)\""), (QStringList{"p1", "p2"}));
-  EXPECT_EQ(AllMatches(page, "<section id=\"(p[0-9]+)\""), (QStringList{"p1", "p2"}));
+  EXPECT_EQ(Set(AllMatches(page, "href=\"#(p[0-9]+)\"")), (QSet<QString>{"p1", "p2"}));
+  EXPECT_EQ(AllMatches(page, "<section class=\"pupil\" id=\"(p[0-9]+)\""), (QStringList{"p1", "p2"}));
   EXPECT_TRUE(
       page.contains("<a href=\"#p1\">ANNA.ZRM</a></th><td><span class=\"good\">ended</span></td>"
-                    "<td class=\"number\">0</td><td class=\"number\">0.4 s</td>"));
+                    "<td data-value=\"0\"><span class=\"good\">\u2713 nothing suspicious</span></td>"
+                    "<td class=\"number\"></td><td class=\"number\">0</td><td class=\"number\">0.4 s</td>"));
   EXPECT_LT(page.indexOf("<h2 id=\"h1\">ANNA.ZRM</h2>"), page.indexOf("<h2 id=\"h2\">BEN.ZRM</h2>"));
 }
 
@@ -155,6 +164,53 @@ TEST(ReportPage, TellsWhereARunWasStopped) {
 
 TEST(ReportPage, SaysThatAFolderHasNoPrograms) {
   EXPECT_TRUE(PageWith({}).contains("There is no program (.ZRM) in the folder."));
+}
+
+TEST(ReportPage, ShowsTheProgramWithItsMistakes) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Source = {{"TO ANNA"}, {"FORWRD <5>"}, {"REPEAT 2 [FD 1]", QStringList{"MAKE # 1", "LABEL $"}}};
+  run.Went.Findings = {{Mistake::UnknownWord, 2, {"FORWRD", "FORWARD"}}, {Mistake::WithoutEnd, 1, {"ANNA"}}};
+  const QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("<li id=\"p1l2\"><code class=\"mark\">FORWRD &lt;5&gt;</code></li>"));
+  EXPECT_TRUE(
+      page.contains("<a href=\"#p1l2\">line 2</a>: Unknown word FORWRD, perhaps FORWARD. The line is ignored."));
+  EXPECT_TRUE(page.contains("quirks.html#why-does-nothing-happen-when-i-mistype-a-word\">why</a>"));
+  EXPECT_TRUE(page.contains("<li value=\"3\"><code>MAKE # 1 / LABEL $</code></li>"));
+  EXPECT_TRUE(page.contains("<span class=\"look\">ended</span>"));
+  EXPECT_FALSE(page.contains("nothing suspicious"));
+}
+
+TEST(ReportPage, TellsHowAGoalWasMissed) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 99.96, 3, Placement{-90, true, 0.5, {}}},
+                    {"", GoalWay::Texts, true, 100, 1, {}}};
+  const QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("<strong>STAR 50</strong>: <span class=\"bad\">not met</span>, 99 %, 0 of 3 points"));
+  EXPECT_TRUE(page.contains("It is the goal, but mirrored, turned by 90 degrees to the left, 50 per cent as large."));
+  EXPECT_TRUE(page.contains("<span class=\"good\">met</span>, 100 %, 1 of 1 points"));
+  EXPECT_TRUE(page.contains("1 of 4 points"));
+}
+
+TEST(ReportPage, SaysThatItIsPartial) {
+  Report report;
+  report.Runs = {RunOf("ANNA.ZRM")};
+  report.Wanted = 3;
+  EXPECT_TRUE(PageOf(report).contains("This report is partial: the run was interrupted after 1 of 3 programs."));
+}
+
+TEST(ReportPage, SpeaksGerman) {
+  Report report;
+  report.Runs = {RunOf("ANNA.ZRM")};
+  report.Words = FindLanguage("de");
+  EXPECT_TRUE(PageOf(report).contains("<html lang=\"de\">"));
+  EXPECT_TRUE(PageOf(report).contains("nichts auff\xC3\xA4llig"));
+  EXPECT_EQ(FindLanguage("xx"), nullptr);
+}
+
+TEST(Language, HasWordsForEveryMistake) {
+  for (const char* code : {"en", "de"}) {
+    for (const char* words : FindLanguage(code)->Mistakes) EXPECT_NE(words, nullptr) << code;
+  }
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace zerimo::classroom {
 namespace {
 
 QString Words(Result how, const char* by, const char* message = "") {
-  Outcome outcome;
+  RunOutcome outcome;
   outcome.How = how;
   outcome.By = by;
   outcome.Message = message;
@@ -26,10 +26,10 @@ TEST(Words, TellHowARunWent) {
 }
 
 TEST(Words, TellWhereARunStood) {
-  EXPECT_EQ(WordsOf(Place{}), "");
-  EXPECT_EQ(WordsOf(Place{2, "STAR 50", "", ""}), "in line 2 (STAR 50)");
-  EXPECT_EQ(WordsOf(Place{2, "STAR", "SPIN", "FD 1 "}), "in line 2 (STAR), in the procedure SPIN at FD 1");
-  EXPECT_EQ(WordsOf(Place{1, "%1 \n", "%2", ""}), "in line 1 (%1 [U+000A]), in the procedure %2");
+  EXPECT_EQ(WordsOf(StopPlace{}), "");
+  EXPECT_EQ(WordsOf(StopPlace{2, "STAR 50", "", ""}), "in line 2 (STAR 50)");
+  EXPECT_EQ(WordsOf(StopPlace{2, "STAR", "SPIN", "FD 1 "}), "in line 2 (STAR), in the procedure SPIN at FD 1");
+  EXPECT_EQ(WordsOf(StopPlace{1, "%1 \n", "%2", ""}), "in line 1 (%1 [U+000A]), in the procedure %2");
 }
 
 TEST(Words, CountSeconds) {

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "graphics/surface.h"
+
+namespace zerimo::classroom {
+
+struct Point {
+  double X = 0;
+  double Y = 0;
+};
+
+/// A straight line as it was drawn, from its first point to its second. Surface units, y downwards.
+struct Line {
+  Point From;
+  Point To;
+  Colour Color = 0;
+
+  double Length() const;
+};
+
+/// What is no line: a circle, an oval, a dot or a text.
+struct Figure {
+  Point Centre;
+  /// The half-axes; both 0 for a dot or a text.
+  double Across = 0;
+  double Down = 0;
+  Colour Color = 0;
+  std::string Text;
+};
+
+/// What can be seen at the end of a run, as shapes in the order in which they were drawn. Lines that a eraser, or a pen
+/// of the background's colour, has taken away are not there. Poured colour is no shape.
+struct Drawing {
+  std::vector<Line> Lines;
+  std::vector<Figure> Figures;
+  /// Whether there was more than is kept.
+  bool IsCut = false;
+
+  static constexpr std::size_t MostShapes = 10'000;
+
+  bool IsEmpty() const { return Lines.empty() && Figures.empty(); }
+};
+
+/// The lines with those that go straight on made one.
+std::vector<Line> Joined(const std::vector<Line>& lines);
+
+/// Fails with `Failure` (file access).
+void WriteDrawing(const std::filesystem::path& file, const Drawing& drawing);
+/// Nothing if the file holds no drawing.
+std::optional<Drawing> ReadDrawing(const std::filesystem::path& file);
+
+/// Keeps what is drawn on a surface.
+class DrawingRecorder final : public SurfaceRecorder {
+ public:
+  void Record(const Surface& surface, const SurfaceOperation& operation) override;
+
+  const Drawing& Drawn() const { return drawing_; }
+  /// Whether a change of the background took away what had been drawn.
+  bool WasWiped() const { return wiped_; }
+  /// Whether anything was ever drawn, poured or loaded.
+  bool HasDrawn() const { return hasDrawn_; }
+  /// The part of the shapes that lie outside the surface, from 0 to 1.
+  double PartOutside(const Surface& surface) const;
+
+ private:
+  void Add(const Surface& surface, Line line);
+  void Add(const Surface& surface, Figure figure);
+  void AddBox(const Surface& surface, Point from, Point to);
+  void Erase(const Line& eraser);
+
+  Drawing drawing_;
+  bool wiped_ = false;
+  bool hasDrawn_ = false;
+};
+
+}  // namespace zerimo::classroom

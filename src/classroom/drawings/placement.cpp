@@ -1,0 +1,161 @@
+#include "classroom/drawings/placement.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <tuple>
+
+#include "classroom/drawings/cover.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+/// Drawings of more lines are not looked at: nobody would see it either.
+constexpr std::size_t MostLines = 400;
+constexpr std::size_t MostTries = 200;
+
+/// Sizes that differ by a smaller part count as one size.
+constexpr double SameSize = 0.03;
+
+/// The middle of all shapes, and how far they spread from it.
+struct Extent {
+  Point Middle;
+  double Spread = 0;
+};
+
+struct Weighted {
+  Point Place;
+  double Weight;
+};
+
+std::vector<Weighted> WeightsOf(const Drawing& drawing) {
+  std::vector<Weighted> all;
+  for (const Line& line : drawing.Lines) {
+    all.push_back({line.From, line.Length()});
+    all.push_back({line.To, line.Length()});
+    all.push_back({{(line.From.X + line.To.X) / 2, (line.From.Y + line.To.Y) / 2}, 4 * line.Length()});
+  }
+  for (const Figure& figure : drawing.Figures) all.push_back({figure.Centre, 1 + 40 * (figure.Across + figure.Down)});
+  return all;
+}
+
+Extent ExtentOf(const Drawing& drawing) {
+  Extent extent;
+  double weight = 0;
+  const std::vector<Weighted> all = WeightsOf(drawing);
+  for (const Weighted& each : all) {
+    extent.Middle.X += each.Weight * each.Place.X;
+    extent.Middle.Y += each.Weight * each.Place.Y;
+    weight += each.Weight;
+  }
+  extent.Middle = {extent.Middle.X / weight, extent.Middle.Y / weight};
+  for (const Weighted& each : all) {
+    const double distance = std::hypot(each.Place.X - extent.Middle.X, each.Place.Y - extent.Middle.Y);
+    extent.Spread += each.Weight * distance * distance;
+  }
+  extent.Spread = std::sqrt(extent.Spread / weight);
+  return extent;
+}
+
+/// Moves points from the goal's place to the drawing's.
+class Mover {
+ public:
+  Mover(const Placement& placement, Point from, Point to)
+      : placement_(placement),
+        from_(from),
+        to_(to),
+        sine_(placement.Scale * std::sin(placement.Degrees * std::numbers::pi / 180)),
+        cosine_(placement.Scale * std::cos(placement.Degrees * std::numbers::pi / 180)) {}
+
+  Point Moved(Point point) const {
+    const double x = (placement_.Mirrored ? -1 : 1) * (point.X - from_.X);
+    const double y = point.Y - from_.Y;
+    return {to_.X + x * cosine_ - y * sine_, to_.Y + x * sine_ + y * cosine_};
+  }
+
+  Drawing Moved(const Drawing& drawing) const {
+    Drawing moved = drawing;
+    const bool isAcross = std::abs(std::abs(placement_.Degrees) - 90) < 1;
+    for (Line& line : moved.Lines) line = {Moved(line.From), Moved(line.To), line.Color};
+    for (Figure& figure : moved.Figures) {
+      figure.Centre = Moved(figure.Centre);
+      if (isAcross) std::swap(figure.Across, figure.Down);
+      figure.Across *= placement_.Scale;
+      figure.Down *= placement_.Scale;
+    }
+    return moved;
+  }
+
+ private:
+  Placement placement_;
+  Point from_;
+  Point to_;
+  double sine_;
+  double cosine_;
+};
+
+bool HasAll(const std::vector<Figure>& figures, const std::vector<Figure>& others, double tolerance) {
+  return std::ranges::all_of(figures, [&](const Figure& one) {
+    return std::ranges::any_of(others, [&](const Figure& other) {
+      return std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y) <= tolerance &&
+             std::abs(one.Across - other.Across) <= tolerance && std::abs(one.Down - other.Down) <= tolerance &&
+             one.Text == other.Text;
+    });
+  });
+}
+
+bool Fits(const Drawing& moved, const Drawing& drawing, double tolerance) {
+  return HasAll(moved.Figures, drawing.Figures, tolerance) && HasAll(drawing.Figures, moved.Figures, tolerance) &&
+         Uncovered(moved.Lines, drawing.Lines, tolerance).empty() &&
+         Uncovered(drawing.Lines, moved.Lines, tolerance).empty();
+}
+
+double DirectionOf(const Line& line) {
+  return std::atan2(line.To.Y - line.From.Y, line.To.X - line.From.X) * 180 / std::numbers::pi;
+}
+
+double Rounded(double degrees) { return std::remainder(std::round(degrees * 100) / 100, 360); }
+
+/// The turns that bring the goal's longest line onto a line of the drawing, the smallest first, and mirrored ones last.
+std::vector<Placement> TriesFor(const Drawing& goal, const Drawing& drawing, double scale) {
+  std::vector<Placement> tries = {{0, false, scale, {}}, {0, true, scale, {}}};
+  if (!goal.Lines.empty()) {
+    const Line& longest = *std::ranges::max_element(goal.Lines, {}, &Line::Length);
+    for (const Line& line : drawing.Lines) {
+      if (std::abs(line.Length() - scale * longest.Length()) > SameSize * line.Length()) continue;
+      for (const double half : {0.0, 180.0}) {
+        tries.push_back({Rounded(DirectionOf(line) - DirectionOf(longest) + half), false, scale, {}});
+        tries.push_back({Rounded(DirectionOf(line) + DirectionOf(longest) + half), true, scale, {}});
+      }
+    }
+  }
+  const auto key = [](const Placement& one) {
+    return std::make_tuple(one.Mirrored, std::abs(one.Degrees), one.Degrees);
+  };
+  std::ranges::sort(tries, {}, key);
+  const auto rest = std::ranges::unique(tries, {}, key);
+  tries.erase(rest.begin(), rest.end());
+  if (tries.size() > MostTries) tries.resize(MostTries);
+  return tries;
+}
+
+}  // namespace
+
+std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing, const ShapeRules& rules) {
+  if (goal.IsEmpty() || drawing.IsEmpty()) return std::nullopt;
+  if (goal.Lines.size() > MostLines || drawing.Lines.size() > MostLines) return std::nullopt;
+  const Extent from = ExtentOf(goal);
+  const Extent to = ExtentOf(drawing);
+  double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
+  if (std::abs(scale - 1) < SameSize / 3) scale = 1;
+  for (Placement placement : TriesFor(goal, drawing, scale)) {
+    const Mover mover(placement, from.Middle, to.Middle);
+    if (!Fits(mover.Moved(goal), drawing, 1.5 * rules.Tolerance)) continue;
+    placement.Shift = {to.Middle.X - from.Middle.X, to.Middle.Y - from.Middle.Y};
+    return placement;
+  }
+  return std::nullopt;
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "classroom/findings/listing.h"
+#include "classroom/findings/mistakes.h"
+
+namespace zerimo::classroom {
+
+/// What is suspicious in the text of a program, in the order of its lines, each mistake once a line. Of a program that
+/// is empty or read as one line only that is told: the rest would follow from it.
+std::vector<Finding> FindingsIn(const QString& program);
+
+/// The parts of the search, each with a kind of its own; they add to what is there.
+using Findings = std::vector<Finding>;
+void FindInStatements(const Listing& listing, Findings& findings);
+void FindInRepeats(const Listing& listing, Findings& findings);
+void FindInWords(const Listing& listing, Findings& findings);
+void FindInNames(const Listing& listing, Findings& findings);
+void FindInProcedures(const Listing& listing, Findings& findings);
+void FindInJumps(const Listing& listing, Findings& findings);
+void FindInPens(const Listing& listing, Findings& findings);
+void FindInFile(const Listing& listing, Findings& findings);
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,106 @@
+#include "classroom/findings/listing.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <utility>
+
+#include "classroom/findings/known_words.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+/// The quote of `MAKE "N` is none of a pair.
+QString WithoutQuoted(QString line) {
+  static const QRegularExpression quoted("(?<!MAKE )\"[^\"]*\"");
+  return line.replace(quoted, "\"\"").simplified();
+}
+
+/// The words of a body; what stands in square brackets is one word.
+QStringList WordsOfBody(const QString& body) {
+  QStringList words(1);
+  int depth = 0;
+  for (const QChar character : body) {
+    if (character == u'[' && depth++ == 0 && !words.last().isEmpty()) words.append(QString());
+    if (character == u' ' && depth == 0) {
+      if (!words.last().isEmpty()) words.append(QString());
+    } else {
+      words.last() += character;
+    }
+    if (character == u']' && depth > 0) --depth;
+  }
+  if (words.last().isEmpty()) words.removeLast();
+  return words;
+}
+
+}  // namespace
+
+QStringList LinesOf(const QString& text) {
+  static const QRegularExpression lineEnd("\r\n|\r|\n");
+  QStringList lines = text.split(lineEnd);
+  if (lines.last().isEmpty()) lines.removeLast();
+  return lines;
+}
+
+QString BodyOf(const QString& repeat) {
+  const qsizetype begin = repeat.indexOf(u'[');
+  if (begin < 0) return {};
+  int depth = 0;
+  for (qsizetype i = begin; i < repeat.size(); ++i) {
+    if (repeat[i] == u'[') ++depth;
+    if (repeat[i] == u']' && --depth == 0) return repeat.mid(begin + 1, i - begin - 1);
+  }
+  return repeat.mid(begin + 1);
+}
+
+Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
+  for (const QString& line : std::as_const(Lines)) {
+    const QStringList words = line.simplified().split(u' ');
+    if (words.size() > 1 && words[0] == "TO") Procedures.push_back({words[1], words.mid(2), 0, false});
+  }
+  int procedure = -1;
+  for (int i = 0; i < Lines.size(); ++i) {
+    const QString line = WithoutQuoted(Lines[i]);
+    if (line.startsWith("TO ")) {
+      current_ = ++procedure;
+      Procedures[static_cast<std::size_t>(current_)].Line = i + 1;
+    } else if (line == "END") {
+      if (current_ >= 0) Procedures[static_cast<std::size_t>(current_)].HasEnd = true;
+      current_ = -1;
+    } else if (!line.isEmpty()) {
+      TakeStatement(line, i + 1, false);
+    }
+  }
+}
+
+void Listing::TakeStatement(const QString& text, int number, bool inBody) {
+  Statements.push_back({number, text, inBody, current_});
+  if (Statements.back().Word() == "REPEAT") TakeBody(BodyOf(text), number);
+}
+
+void Listing::TakeBody(const QString& body, int number) {
+  const QStringList names = ProcedureNames();
+  QStringList words;
+  for (const QString& word : WordsOfBody(body)) {
+    const bool begins = IsKnownWord(word) || names.contains(word);
+    if (begins && !words.isEmpty()) {
+      TakeStatement(words.join(u' '), number, true);
+      words.clear();
+    }
+    words.append(word);
+  }
+  if (!words.isEmpty()) TakeStatement(words.join(u' '), number, true);
+}
+
+QStringList Listing::ProcedureNames() const {
+  QStringList names;
+  for (const ListedProcedure& each : Procedures) names.append(each.Name);
+  return names;
+}
+
+const ListedProcedure* Listing::Find(const QString& name) const {
+  const auto found = std::ranges::find(Procedures, name, &ListedProcedure::Name);
+  return found == Procedures.end() ? nullptr : &*found;
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace zerimo::classroom {
+
+/// One statement as its pupil wrote it: a line outside REPEAT, or a part of a body.
+struct Statement {
+  /// The line of the file, from 1.
+  int Line = 0;
+  /// On one line, single blanks; what stands between quotes is cut out, so that "" is left.
+  QString Text;
+  bool InBody = false;
+  /// The index of its procedure, or -1 outside.
+  int Procedure = -1;
+
+  QString Word() const { return Text.section(u' ', 0, 0); }
+  QString Rest() const { return Text.section(u' ', 1); }
+};
+
+struct ListedProcedure {
+  QString Name;
+  /// With their colons.
+  QStringList Inputs;
+  int Line = 0;
+  bool HasEnd = false;
+};
+
+/// The text of a program taken apart, as a reader sees it.
+class Listing {
+ public:
+  explicit Listing(const QString& program);
+
+  /// The lines of the file without their ends.
+  QStringList Lines;
+  std::vector<ListedProcedure> Procedures;
+  /// Without the lines `TO` and `END`.
+  std::vector<Statement> Statements;
+
+  QStringList ProcedureNames() const;
+  const ListedProcedure* Find(const QString& name) const;
+
+ private:
+  void TakeStatement(const QString& text, int number, bool inBody);
+  void TakeBody(const QString& body, int number);
+
+  int current_ = -1;
+};
+
+/// The lines of a text, however they end.
+QStringList LinesOf(const QString& text);
+
+/// What stands between the first opening bracket and its closing one, which may be missing.
+QString BodyOf(const QString& repeat);
+
+}  // namespace zerimo::classroom

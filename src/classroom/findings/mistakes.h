@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace zerimo::classroom {
+
+/// What can be wrong with a program. The rows of `Mistakes` have the same order.
+enum class Mistake : std::uint8_t {
+  // Seen in one statement.
+  MinusInput,
+  MinusSecondInput,
+  MinusMake,
+  DoubleMinus,
+  PercentAfterTimes,
+  MissingTimes,
+  BarePoint,
+  BlankBeforeEquals,
+  NoBlankAfterWord,
+  RoundedThird,
+  HalfNumber,
+  WholeStep,
+  DivisionByZero,
+  TooLarge,
+  Exponent,
+  DigitInName,
+  MakeWithoutQuote,
+  WrongSign,
+  TwoComparisons,
+  LogicWord,
+  LongLineWidth,
+  ColourCode,
+  OpenQuote,
+  OpenSum,
+  DeadWord,
+  ElseWithMore,
+  // About REPEAT.
+  CountZero,
+  CountFraction,
+  CountTooLarge,
+  CountChanged,
+  MissingBracket,
+  PrintInRepeat,
+  IndentedRepeat,
+  LongBody,
+  // About words and names.
+  UnknownWord,
+  SmallLetters,
+  SeveralStatements,
+  MissingInputs,
+  UnknownName,
+  ZeroVanishes,
+  InputTwice,
+  InputWithoutBrackets,
+  InputOverwritten,
+  // About the whole program.
+  OutsideProcedures,
+  DuplicateProcedure,
+  WithoutEnd,
+  IfWithoutEndif,
+  MisplacedElse,
+  DeepElse,
+  LabelAfterEndif,
+  DuplicateLabel,
+  UnknownLabel,
+  RecursionGoesOn,
+  RecursionWithInput,
+  EraserReversed,
+  EraserColour,
+  ShapeWithPenUp,
+  EmptyShapes,
+  DroppedLetters,
+  Tab,
+  BlankLine,
+  TooLong,
+  Empty,
+  OneLine,
+  // Seen in the run.
+  NothingDrawn,
+  UnderTheTitle,
+  OutsideThePicture,
+  PictureWiped,
+  FenceHit,
+  InputAsked,
+  ForEver,
+  Count,
+};
+
+struct MistakeFacts {
+  Mistake What;
+  /// Its name in files.
+  const char* Code;
+  /// The heading of docs/quirks.md that tells of it, as the address of the heading, or empty.
+  const char* Quirk;
+};
+
+std::span<const MistakeFacts, static_cast<std::size_t>(Mistake::Count)> Mistakes();
+
+const MistakeFacts& FactsOf(Mistake mistake);
+
+/// One mistake found in a program.
+struct Finding {
+  Mistake What;
+  /// The line of the program's file, from 1, or 0 for the program as a whole.
+  int Line = 0;
+  /// What the words of the mistake name, in their order: "FORWRD", "FORWARD".
+  QStringList Details;
+
+  bool operator==(const Finding&) const = default;
+};
+
+}  // namespace zerimo::classroom

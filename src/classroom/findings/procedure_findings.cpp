@@ -1,0 +1,59 @@
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "classroom/findings/findings.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+void FindEnds(const Listing& listing, Findings& findings) {
+  for (const ListedProcedure& each : listing.Procedures) {
+    if (!each.HasEnd) findings.push_back({Mistake::WithoutEnd, each.Line, {each.Name}});
+    const ListedProcedure* const first = listing.Find(each.Name);
+    if (first != &each)
+      findings.push_back({Mistake::DuplicateProcedure, each.Line, {each.Name, QString::number(first->Line)}});
+  }
+}
+
+/// Outside the procedures only names with a number are read, above the first of them.
+void FindOutside(const Listing& listing, Findings& findings) {
+  static const QRegularExpression name("^MAKE :[A-Z]+ \\(?-?[\\d.]+\\)?$");
+  if (listing.Procedures.empty()) return;
+  const int first = listing.Procedures.front().Line;
+  for (const Statement& each : listing.Statements) {
+    const bool isRead = each.Line < first && name.match(each.Text).hasMatch();
+    if (each.Procedure < 0 && !each.InBody && !isRead)
+      findings.push_back({Mistake::OutsideProcedures, each.Line, {each.Text.left(40)}});
+  }
+}
+
+bool ClosesIf(const Statement& statement) { return statement.Text == "ENDIF" || statement.Text == "ELSE"; }
+
+/// A call of itself loses what stands after it, and does not hand on its inputs.
+void FindRecursion(const Listing& listing, Findings& findings) {
+  const std::vector<Statement>& all = listing.Statements;
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (all[i].Procedure < 0) continue;
+    const ListedProcedure& own = listing.Procedures[static_cast<std::size_t>(all[i].Procedure)];
+    if (all[i].Word() != own.Name) continue;
+    const bool hasInput = std::ranges::any_of(own.Inputs, [&](const QString& input) {
+      return all[i].Rest() != own.Inputs.join(u' ') && all[i].Rest().contains(input);
+    });
+    if (hasInput) findings.push_back({Mistake::RecursionWithInput, all[i].Line, {own.Name}});
+    std::size_t next = i + 1;
+    while (next < all.size() && all[next].Procedure == all[i].Procedure && ClosesIf(all[next])) ++next;
+    if (next < all.size() && all[next].Procedure == all[i].Procedure)
+      findings.push_back({Mistake::RecursionGoesOn, all[i].Line, {own.Name}});
+  }
+}
+
+}  // namespace
+
+void FindInProcedures(const Listing& listing, Findings& findings) {
+  FindEnds(listing, findings);
+  FindOutside(listing, findings);
+  FindRecursion(listing, findings);
+}
+
+}  // namespace zerimo::classroom

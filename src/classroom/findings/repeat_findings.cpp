@@ -1,0 +1,69 @@
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "classroom/findings/findings.h"
+#include "classroom/findings/known_words.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+constexpr double GreatestCount = 32767;
+constexpr qsizetype MostStatements = 199;
+
+void FindInCount(const Statement& repeat, Findings& findings) {
+  const QString count = repeat.Rest().section(u'[', 0, 0).simplified();
+  bool isNumber = false;
+  const double number = count.toDouble(&isNumber);
+  if (isNumber && number == 0) findings.push_back({Mistake::CountZero, repeat.Line, {}});
+  if (isNumber && number != 0 && count.contains(u'.'))
+    findings.push_back({Mistake::CountFraction, repeat.Line, {count}});
+  if (isNumber && number > GreatestCount) findings.push_back({Mistake::CountTooLarge, repeat.Line, {count}});
+  if (count.startsWith(u':') && repeat.Text.contains("MAKE \"" + count.mid(1) + u' '))
+    findings.push_back({Mistake::CountChanged, repeat.Line, {count}});
+}
+
+void FindBrackets(const Statement& repeat, Findings& findings) {
+  const bool balanced = repeat.Text.count(u'[') == repeat.Text.count(u']') && repeat.Text.contains(u'[');
+  if (!balanced || BodyOf(repeat.Text).trimmed().isEmpty())
+    findings.push_back({Mistake::MissingBracket, repeat.Line, {}});
+}
+
+/// A PRINT that is not the last of its body takes the statements that follow for its sum.
+void FindPrint(const Statement& repeat, Findings& findings) {
+  static const QRegularExpression print("(?:^|[ \\[])(PRINT|WRITE|MESSAGE) ([^\" \\]\\[]+) ([A-Z]+)");
+  for (auto walk = print.globalMatch(BodyOf(repeat.Text)); walk.hasNext();) {
+    const auto match = walk.next();
+    if (IsKnownWord(match.captured(3))) findings.push_back({Mistake::PrintInRepeat, repeat.Line, {match.captured(1)}});
+  }
+}
+
+void FindIndented(const Listing& listing, Findings& findings) {
+  static const QRegularExpression indented("^[ \t]+REPEAT\\b");
+  for (int i = 0; i < listing.Lines.size(); ++i) {
+    if (indented.match(listing.Lines[i]).hasMatch()) findings.push_back({Mistake::IndentedRepeat, i + 1, {}});
+  }
+}
+
+void FindLongBody(const Listing& listing, const Statement& repeat, Findings& findings) {
+  const auto size = std::ranges::count_if(
+      listing.Statements, [&repeat](const Statement& each) { return each.Line == repeat.Line && each.InBody; });
+  if (size > MostStatements) findings.push_back({Mistake::LongBody, repeat.Line, {QString::number(size)}});
+}
+
+}  // namespace
+
+void FindInRepeats(const Listing& listing, Findings& findings) {
+  FindIndented(listing, findings);
+  for (const Statement& statement : listing.Statements) {
+    if (statement.Word() != "REPEAT") continue;
+    FindInCount(statement, findings);
+    FindPrint(statement, findings);
+    // An inner one belongs to the line's brackets.
+    if (statement.InBody) continue;
+    FindBrackets(statement, findings);
+    FindLongBody(listing, statement, findings);
+  }
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,81 @@
+#include <QRegularExpression>
+
+#include "classroom/findings/findings.h"
+#include "classroom/findings/known_words.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+bool IsWord(const QString& text) {
+  static const QRegularExpression word("^\\(?[A-Z][A-Z0-9_]*$");
+  return word.match(text).hasMatch();
+}
+
+bool TakesTheRest(const QString& word) {
+  static const QStringList takers = {"REPEAT", "PRINT",       "WRITE",       "WRITERGB",  "MESSAGE",  "IF",
+                                     "LOAD",   "GOTO",        "LABEL",       "SHOW",      "HIDE",     "HELP",
+                                     "(SUM",   "SAVEPICTURE", "LOADPICTURE", "SLIDESHOW", "(PRODUCT", "ELSE"};
+  return takers.contains(word);
+}
+
+/// The one word on a line is a sum where it is none of the others: a name, or a number.
+bool IsSum(const Statement& statement) {
+  static const QRegularExpression sum("^[(:#\\d-]|[-+*/%<>=!]");
+  return sum.match(statement.Word()).hasMatch();
+}
+
+void FindUnknown(const Listing& listing, const Statement& statement, Findings& findings) {
+  const QString word = statement.Word();
+  const QStringList names = listing.ProcedureNames();
+  if (IsKnownWord(word) || names.contains(word) || IsSum(statement)) return;
+  const QString capitals = word.toUpper();
+  if (word != capitals && (IsKnownWord(capitals) || names.contains(capitals))) {
+    findings.push_back({Mistake::SmallLetters, statement.Line, {word, capitals}});
+    return;
+  }
+  const QString name = word.section(u'(', 0, 0);
+  if (word.contains(u'(') && IsKnownWord(name)) return;
+  findings.push_back({Mistake::UnknownWord, statement.Line, {word, SuggestionFor(capitals, names)}});
+}
+
+/// In the editor a line is one statement; a second one becomes a part of the first one's inputs.
+void FindSeveral(const Listing& listing, const Statement& statement, Findings& findings) {
+  if (statement.InBody || TakesTheRest(statement.Word())) return;
+  const QStringList words = statement.Text.split(u' ');
+  for (const QString& word : words.mid(1)) {
+    if (!IsKnownWord(word) && listing.Find(word) == nullptr) continue;
+    findings.push_back({Mistake::SeveralStatements, statement.Line, {word}});
+    return;
+  }
+}
+
+int GivenInputs(const Statement& statement) {
+  const QString rest = statement.Rest();
+  if (rest.isEmpty()) return 0;
+  // Blanks beside a sign do not part two inputs.
+  static const QRegularExpression besideSign(" ?([-+*/%<>=!]) ?");
+  return static_cast<int>(QString(rest).replace(besideSign, "\\1").split(u' ').size());
+}
+
+void FindMissingInputs(const Listing& listing, const Statement& statement, Findings& findings) {
+  const QString word = statement.Word();
+  const ListedProcedure* const procedure = listing.Find(word);
+  const qsizetype needed = procedure == nullptr ? NeededInputsOf(word) : procedure->Inputs.size();
+  const int given = GivenInputs(statement);
+  if (given < needed && (given == 0 || IsWord(word)))
+    findings.push_back(
+        {Mistake::MissingInputs, statement.Line, {word, QString::number(needed), QString::number(given)}});
+}
+
+}  // namespace
+
+void FindInWords(const Listing& listing, Findings& findings) {
+  for (const Statement& statement : listing.Statements) {
+    FindUnknown(listing, statement, findings);
+    FindSeveral(listing, statement, findings);
+    if (!statement.Text.contains(" -")) FindMissingInputs(listing, statement, findings);
+  }
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,122 @@
+#include "classroom/goal_judge.h"
+
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+
+#include "classroom/drawings/picture_comparison.h"
+#include "classroom/readable.h"
+#include "classroom/record.h"
+#include "files/disk_files.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Pixels: a line that is off by no more is the same line.
+constexpr int NearPixels = 2;
+
+constexpr double UnitsPerDot = UnitsPerPixel;
+
+fs::path ModelPictureOf(const Order& order, std::size_t index) {
+  return order.ModelPicture.empty() ? order.ModelFolder / run_file::GoalPicture(index) : order.ModelPicture;
+}
+
+void Draw(QPainter& painter, const Drawing& drawing, const QColor& colour, int width) {
+  painter.setPen(QPen(colour, width));
+  for (const Line& line : drawing.Lines)
+    painter.drawLine(QPointF(line.From.X / UnitsPerDot, line.From.Y / UnitsPerDot),
+                     QPointF(line.To.X / UnitsPerDot, line.To.Y / UnitsPerDot));
+  for (const Figure& figure : drawing.Figures)
+    painter.drawEllipse(QPointF(figure.Centre.X / UnitsPerDot, figure.Centre.Y / UnitsPerDot),
+                        std::max(2.0, figure.Across / UnitsPerDot), std::max(2.0, figure.Down / UnitsPerDot));
+}
+
+/// The drawing in grey, what it lacks in blue, and what it has too much in orange.
+void WriteDifference(const fs::path& file, QSize size, const Drawing& drawing, const ShapeComparison& comparison) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  Draw(painter, drawing, QColor(170, 170, 170), 2);
+  Draw(painter, comparison.Missing, QColor(0, 90, 200), 4);
+  Draw(painter, comparison.Extra, QColor(225, 100, 0), 4);
+  painter.end();
+  image.save(NameOf(file));
+}
+
+/// Spoilt by nothing that the pupil did: a text without blanks at its ends, in capitals.
+QStringList Plain(const QStringList& texts) {
+  QStringList plain;
+  for (const QString& text : texts) plain.append(text.simplified().toUpper());
+  return plain;
+}
+
+QStringList TextsIn(const fs::path& file) {
+  const std::optional<std::string> bytes = BytesOf(file);
+  const std::optional<Json> json = bytes ? ParsedObject(*bytes) : std::nullopt;
+  return json ? TextsAt(*json, "printed") : QStringList();
+}
+
+/// What was printed, and what the boxes said.
+QStringList TextsOf(const SessionRun& run) {
+  const Said told = run.Told();
+  QStringList texts = told.Printed;
+  for (const ShownBox& box : told.Boxes) texts.append(box.Text);
+  return texts;
+}
+
+void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, const SessionRun& run) {
+  const std::optional<Drawing> model = ReadDrawing(order.ModelFolder / run_file::Drawn(index));
+  if (!model) return;
+  const ShapeComparison comparison = Compare(*model, run.Recorder().Drawn(), order.Goals[index].Shapes);
+  outcome.Met = comparison.Same;
+  outcome.Percent = comparison.Percent;
+  outcome.Placed = comparison.Placed;
+  const QSize size = QImage(NameOf(run_file::GoalPicture(index))).size();
+  WriteDifference(run_file::Difference(index), size, run.Recorder().Drawn(), comparison);
+}
+
+void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index) {
+  const PixelComparison comparison = ComparePixels(QImage(NameOf(ModelPictureOf(order, index))),
+                                                   QImage(NameOf(run_file::GoalPicture(index))),
+                                                   NearPixels, order.Goals[index].Shapes.Colour);
+  outcome.Percent = comparison.Percent;
+  outcome.Met = comparison.Percent >= order.Goals[index].Enough;
+  comparison.Difference.save(NameOf(run_file::Difference(index)));
+}
+
+}  // namespace
+
+double PercentOfTexts(const QStringList& wanted, const QStringList& printed) {
+  const qsizetype all = std::max(wanted.size(), printed.size());
+  if (all == 0) return 100;
+  qsizetype alike = 0;
+  for (qsizetype i = 0; i < std::min(wanted.size(), printed.size()); ++i) {
+    if (wanted[i] == printed[i]) ++alike;
+  }
+  return 100.0 * static_cast<double>(alike) / static_cast<double>(all);
+}
+
+GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) {
+  const Goal& goal = order.Goals[index];
+  std::error_code ignored;
+  fs::copy_file(ModelPictureOf(order, index), run_file::ModelPicture(index), ignored);
+  GoalOutcome outcome{ShortText(goal.Title()), goal.Way, false, 0, goal.Points, {}};
+  if (goal.Way == GoalWay::Shapes) JudgeShapes(outcome, order, index, run);
+  if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index);
+  if (goal.Way == GoalWay::Texts) {
+    outcome.Percent = PercentOfTexts(Plain(TextsIn(order.ModelFolder / run_file::Printed(index))), Plain(TextsOf(run)));
+    outcome.Met = outcome.Percent == 100;
+  }
+  return outcome;
+}
+
+void WriteModel(std::size_t index, const SessionRun& run) {
+  WriteDrawing(run_file::Drawn(index), run.Recorder().Drawn());
+  WriteBeside(run_file::Printed(index), Compact({{"printed", ValueOf(TextsOf(run))}}));
+}
+
+}  // namespace zerimo::classroom

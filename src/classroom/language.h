@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QString>
+#include <array>
+
+#include "classroom/findings/mistakes.h"
+
+namespace zerimo::classroom {
+
+/// The words of a report in one language. %1, %2 ... stand for what is filled in. A language is one source, which
+/// defines one of these, and a row in `FindLanguage`.
+struct Language {
+  /// As in `lang="en"`.
+  const char* Code;
+
+  // How a run went.
+  const char* Ended;
+  const char* EndedBy;
+  const char* Stopped;
+  const char* MoreThan;
+  const char* SessionIsWrong;
+  const char* NotRun;
+  const char* Crashed;
+  const char* InLine;
+  const char* InProcedure;
+  const char* At;
+
+  // The page.
+  const char* Title;
+  const char* Limits;
+  const char* OneSecond;
+  const char* Seconds;
+  const char* Steps;
+  const char* Memory;
+  const char* NoLimits;
+  const char* Partial;
+  const char* NoPrograms;
+  const char* Overview;
+  const char* Pupil;
+  const char* Programs;
+  const char* HowItWent;
+  const char* GoalsHead;
+  const char* Boxes;
+  const char* Time;
+  const char* OrMore;
+  const char* NothingSuspicious;
+  const char* ContactSheet;
+  const char* PrintOne;
+  const char* PrintTwelve;
+  const char* Filter;
+  const char* All;
+  const char* BackToOverview;
+  const char* RunBySession;
+  const char* Typed;
+  const char* WentWrong;
+  const char* LineNumber;
+  const char* Why;
+  const char* Program;
+  const char* StoppedHere;
+  const char* InTheStore;
+  const char* ProgramIsCut;
+  const char* DrawnBy;
+  const char* NoPicture;
+  const char* PictureLeftOut;
+  const char* PrintedAndSaid;
+  const char* LinesLeftOut;
+  const char* BoxesShown;
+  const char* BoxesLeftOut;
+  const char* Question;
+  const char* FileWindow;
+  const char* Nothing;
+
+  // Goals.
+  const char* GoalOfCall;
+  const char* Met;
+  const char* NotMet;
+  const char* Points;
+  const char* GoalPicture;
+  const char* PupilsPicture;
+  const char* Difference;
+  const char* ItIsTheGoal;
+  const char* TurnedRight;
+  const char* TurnedLeft;
+  const char* Mirrored;
+  const char* Scaled;
+  const char* Shifted;
+
+  // Programs that are alike.
+  const char* AlikeHead;
+  const char* AlikePair;
+
+  std::array<const char*, static_cast<std::size_t>(Mistake::Count)> Mistakes;
+
+  QString Of(const Finding& finding) const;
+};
+
+extern const Language English;
+extern const Language German;
+
+/// By its code, or null.
+const Language* FindLanguage(const QString& code);
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,39 @@
+#include "classroom/marks.h"
+
+#include <QStringList>
+
+#include "classroom/page_html.h"
+#include "classroom/readable.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+QString Cell(const QString& text) {
+  QString cell = Readable(text).replace(u'"', QStringLiteral("\"\""));
+  const bool isFormula = !cell.isEmpty() && QStringLiteral("=+-@").contains(cell.front());
+  return u'"' + (isFormula ? QStringLiteral("'") : QString()) + cell + u'"';
+}
+
+QByteArray Row(const QStringList& texts) {
+  QStringList cells;
+  for (const QString& text : texts) cells.append(Cell(text));
+  return (cells.join(u',') + QStringLiteral("\r\n")).toUtf8();
+}
+
+}  // namespace
+
+QByteArray MarksHead() {
+  return Row({"file", "name", "result", "points", "most points", "goals met", "goals", "findings", "seconds"});
+}
+
+QByteArray MarksOf(const PupilRun& run) {
+  qsizetype met = 0;
+  for (const GoalOutcome& goal : run.Went.Goals) met += goal.Met ? 1 : 0;
+  return Row({NameOf(run.Who.Program.filename()), PupilName(run.Who), WordOf(run.Went.How),
+              QString::number(PointsOf(run)), QString::number(MostPointsOf(run)), QString::number(met),
+              QString::number(run.Went.Goals.size()), QString::number(run.Went.Findings.size()),
+              QString::number(run.Seconds, 'f', 1)});
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,82 @@
+#include "classroom/page_html.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+#include "classroom/readable.h"
+#include "classroom/words.h"
+#include "files/disk_files.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+/// The picture as it is in its file, or made smaller.
+QByteArray BytesOfPicture(const std::filesystem::path& file, int width, QSize& size) {
+  if (width == 0) {
+    size = QImageReader(NameOf(file)).size();
+    return QByteArray::fromStdString(BytesOf(file).value_or(std::string()));
+  }
+  const QImage image(NameOf(file));
+  if (image.isNull()) return {};
+  const QImage small = image.width() > width ? image.scaledToWidth(width, Qt::SmoothTransformation) : image;
+  size = small.size();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  small.save(&buffer, "PNG");
+  return bytes;
+}
+
+}  // namespace
+
+QString Escaped(const QString& text) { return text.toHtmlEscaped(); }
+
+QString EscapedLines(const QString& text) { return Escaped(ReadableLines(text)); }
+
+QString EscapedReadable(const QString& text) { return Escaped(Readable(text)); }
+
+QString Element(const char* name, const char* kind, const QString& html) {
+  const QString attribute = *kind == '\0' ? QString() : QStringLiteral(" class=\"%1\"").arg(QLatin1String(kind));
+  return u'<' + QLatin1String(name) + attribute + u'>' + html + QStringLiteral("</") + QLatin1String(name) + u'>';
+}
+
+QString Paragraph(const QString& html) { return Element("p", "", html) + u'\n'; }
+
+QString Heading(const char* words) { return Element("h3", "", QString::fromUtf8(words)) + u'\n'; }
+
+QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(who.Program.filename()) : who.Name; }
+
+std::optional<QString> PictureSource::Image(const std::filesystem::path& file, const QString& alternative, int width) {
+  if (file.empty()) return std::nullopt;
+  QSize size;
+  const QByteArray bytes = BytesOfPicture(file, width, size);
+  if (bytes.isEmpty()) return std::nullopt;
+  bytes_ += static_cast<std::size_t>(bytes.size());
+  if (IsFull()) return std::nullopt;
+  return QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"").arg(size.width()).arg(size.height()) + alternative +
+         QStringLiteral("\" src=\"data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()) +
+         QStringLiteral("\">");
+}
+
+QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language) {
+  const bool isGood = run.Went.How == Result::Ended;
+  const QString words = Escaped(WordsOf(run.Went, limits, language));
+  if (isGood && run.IsSuspicious()) return Element("span", "look", words);
+  return Element("span", isGood ? "good" : "bad", words);
+}
+
+double PointsOf(const PupilRun& run) {
+  double points = 0;
+  for (const GoalOutcome& goal : run.Went.Goals) points += goal.Met ? goal.Points : 0;
+  return points;
+}
+
+double MostPointsOf(const PupilRun& run) {
+  double points = 0;
+  for (const GoalOutcome& goal : run.Went.Goals) points += goal.Points;
+  return points;
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <optional>
+
+#include "classroom/language.h"
+#include "classroom/pupil.h"
+
+/// Pieces of the pages of a report.
+namespace zerimo::classroom {
+
+/// A text as it may stand in a page, also between quotes.
+QString Escaped(const QString& text);
+/// The same of something with lines.
+QString EscapedLines(const QString& text);
+/// What a pupil has written, on one line.
+QString EscapedReadable(const QString& text);
+
+/// An element with a class, if `kind` is not empty.
+QString Element(const char* name, const char* kind, const QString& html);
+QString Paragraph(const QString& html);
+QString Heading(const char* words);
+
+/// What the report calls a pupil.
+QString PupilName(const Pupil& who);
+
+/// Where the pictures of a page come from.
+class PictureSource {
+ public:
+  /// Bytes of all pictures of one page together. Those that follow are left out.
+  static constexpr std::size_t MostBytes = std::size_t{128} << 20;
+
+  /// An element for the picture, drawn at most `width` pixels wide (0: as large as it is), or nothing if it is not
+  /// there or the page is full.
+  std::optional<QString> Image(const std::filesystem::path& file, const QString& alternative, int width = 0);
+  bool IsFull() const { return bytes_ > MostBytes; }
+
+ private:
+  std::size_t bytes_ = 0;
+};
+
+/// All about one run: its section of the page. `number` counts from 1.
+QString SectionOf(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
+                  PictureSource& pictures, bool hasOverview);
+
+/// "ended" in the colour that it deserves.
+QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language);
+
+double PointsOf(const PupilRun& run);
+double MostPointsOf(const PupilRun& run);
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,87 @@
+#include "classroom/parts.h"
+
+#include "base/failure.h"
+#include "classroom/readable.h"
+#include "classroom/record.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string KeyOf(const fs::path& program) { return NameOf(fs::absolute(program)).toStdString(); }
+
+fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
+
+/// The files of a run's folder that a report shows.
+void CopyPictures(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  fs::create_directories(to, error);
+  for (const fs::directory_entry& entry : fs::directory_iterator(from, error)) {
+    if (entry.path().extension() == ".png")
+      fs::copy_file(entry.path(), to / entry.path().filename(), fs::copy_options::overwrite_existing, error);
+  }
+}
+
+/// What stands in a file up to its last whole line.
+void CutHalfLine(const fs::path& file) {
+  std::error_code error;
+  const auto size = fs::file_size(file, error);
+  if (error || size == 0) return;
+  std::ifstream stream(file, std::ios::binary);
+  std::uintmax_t whole = 0;
+  std::uintmax_t at = 0;
+  for (std::string line; std::getline(stream, line);) {
+    at += line.size() + 1;
+    if (at <= size) whole = at;
+  }
+  fs::resize_file(file, whole, error);
+}
+
+}  // namespace
+
+PartFile::PartFile(const fs::path& file, bool resumes) : file_(file) {
+  if (resumes) {
+    CutHalfLine(file);
+    ForEachRun(file, [this](const PupilRun& run) {
+      programs_.insert(KeyOf(run.Who.Program));
+      ++count_;
+    });
+  }
+  stream_.open(file, std::ios::binary | (resumes ? std::ios::app : std::ios::trunc));
+  if (!stream_.is_open()) throw Failure(FailureKind::FileAccess);
+}
+
+bool PartFile::Has(const fs::path& program) const { return programs_.contains(KeyOf(program)); }
+
+void PartFile::Add(const PupilRun& run) {
+  const std::string folder = std::to_string(++count_);
+  Json json = JsonOf(run);
+  json["program"] = KeyOf(run.Who.Program);
+  if (!run.Picture.empty()) {
+    CopyPictures(run.Picture.parent_path(), PicturesOf(file_) / folder);
+    json["pictures"] = folder;
+  }
+  stream_ << Compact(json) << '\n' << std::flush;
+  if (!stream_) throw Failure(FailureKind::FileAccess);
+}
+
+bool ForEachRun(const fs::path& file, const std::function<void(PupilRun)>& take) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream.is_open()) return false;
+  for (std::string line; std::getline(stream, line);) {
+    const std::optional<Json> json = ParsedObject(line);
+    if (!json) continue;
+    PupilRun run = RunIn(*json);
+    run.Who.Program = fs::path(TextAt(*json, "program").toStdU16String());
+    const QString folder = TextAt(*json, "pictures");
+    bool isNumber = false;
+    folder.toUInt(&isNumber);
+    if (isNumber) run.Picture = PicturesOf(file) / folder.toStdU16String() / "picture.png";
+    take(std::move(run));
+  }
+  return true;
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,199 @@
+#include <QSet>
+#include <cmath>
+
+#include "classroom/order.h"
+#include "classroom/page_html.h"
+#include "classroom/readable.h"
+#include "classroom/words.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+QString Utf8(const char* words) { return QString::fromUtf8(words); }
+
+/// Writes the section of one run.
+class SectionWriter {
+ public:
+  SectionWriter(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
+                PictureSource& pictures)
+      : run_(run), number_(number), limits_(limits), language_(language), pictures_(pictures) {}
+
+  QString Write(bool hasOverview) {
+    html_ =
+        QStringLiteral("<section class=\"pupil\" id=\"p%1\" aria-labelledby=\"h%1\">\n<h2 id=\"h%1\">").arg(number_);
+    html_ += EscapedReadable(PupilName(run_.Who)) + QStringLiteral("</h2>\n");
+    WriteResult();
+    WriteStart();
+    WriteFindings();
+    WriteGoals();
+    WritePicture();
+    WriteLines();
+    WriteBoxes();
+    WriteProgram();
+    if (hasOverview)
+      html_ += QStringLiteral("<p class=\"screen\"><a href=\"#top\">") + Utf8(language_.BackToOverview) +
+               QStringLiteral("</a></p>\n");
+    return html_ + QStringLiteral("</section>\n");
+  }
+
+ private:
+  QString LineId(int line) const { return QStringLiteral("p%1l%2").arg(number_).arg(line); }
+
+  void WriteResult() {
+    const QString place = WordsOf(run_.Went.Where, language_);
+    const QString where = place.isEmpty() ? QString() : QStringLiteral(", ") + Escaped(place);
+    html_ += Paragraph(ResultHtml(run_, limits_, language_) + where + u' ' +
+                       Element("span", "quiet", u'(' + WordsOfSeconds(run_.Seconds) + u')'));
+  }
+
+  void WriteStart() {
+    if (!run_.Who.Session.empty()) {
+      html_ += Element("p", "quiet", Filled(language_.RunBySession, {Escaped(ReadableName(run_.Who.Session))})) + u'\n';
+    } else if (!run_.Went.Typed.isEmpty()) {
+      const QString typed = EscapedReadable(run_.Went.Typed.join(QStringLiteral(", ")));
+      html_ += Element("p", "quiet", Filled(language_.Typed, {typed})) + u'\n';
+    }
+  }
+
+  void WriteFindings() {
+    if (run_.Went.Findings.empty() && run_.Went.Notes.isEmpty()) return;
+    html_ += Heading(language_.WentWrong) + QStringLiteral("<ul class=\"findings\">\n");
+    for (const Finding& finding : run_.Went.Findings) WriteFinding(finding);
+    for (const QString& note : run_.Went.Notes) html_ += Element("li", "", EscapedReadable(note)) + u'\n';
+    html_ += QStringLiteral("</ul>\n");
+  }
+
+  void WriteFinding(const Finding& finding) {
+    html_ += QStringLiteral("<li>");
+    if (finding.Line > 0)
+      html_ += QStringLiteral("<a href=\"#") + LineId(finding.Line) + QStringLiteral("\">") +
+               Filled(language_.LineNumber, {QString::number(finding.Line)}) + QStringLiteral("</a>: ");
+    html_ += EscapedReadable(language_.Of(finding));
+    const QString quirk = Utf8(FactsOf(finding.What).Quirk);
+    if (!quirk.isEmpty())
+      html_ += QStringLiteral(" <a class=\"why\" rel=\"noreferrer\" href=\"" ZERIMO_QUIRKS "#") + quirk +
+               QStringLiteral("\">") + Utf8(language_.Why) + QStringLiteral("</a>");
+    html_ += QStringLiteral("</li>\n");
+  }
+
+  void WriteGoals() {
+    if (run_.Went.Goals.empty()) return;
+    html_ += Heading(language_.GoalsHead);
+    for (std::size_t i = 0; i < run_.Went.Goals.size(); ++i) WriteGoal(run_.Went.Goals[i], i);
+  }
+
+  void WriteGoal(const GoalOutcome& goal, std::size_t index) {
+    const QString title = goal.Title.isEmpty() ? Utf8(language_.GoalOfCall) : goal.Title;
+    // 100 per cent are only those that have everything.
+    const QString percent = QString::number(std::floor(goal.Percent)) + QStringLiteral(" %");
+    html_ += Paragraph(
+        Element("strong", "", EscapedReadable(title)) + QStringLiteral(": ") +
+        Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +
+        QStringLiteral(", ") + percent + QStringLiteral(", ") +
+        Filled(language_.Points, {QString::number(goal.Met ? goal.Points : 0), QString::number(goal.Points)}));
+    if (goal.Placed) html_ += Paragraph(Filled(language_.ItIsTheGoal, {WordsOf(*goal.Placed, language_)}));
+    if (goal.Way == GoalWay::Texts) return;
+    const std::filesystem::path folder = run_.Picture.parent_path();
+    html_ += QStringLiteral("<div class=\"goal\">\n");
+    AddFigure(folder / run_file::ModelPicture(index), language_.GoalPicture);
+    AddFigure(folder / run_file::GoalPicture(index), language_.PupilsPicture);
+    AddFigure(folder / run_file::Difference(index), language_.Difference);
+    html_ += QStringLiteral("</div>\n");
+  }
+
+  void AddFigure(const std::filesystem::path& file, const char* words) {
+    constexpr int Width = 420;
+    const std::optional<QString> image = pictures_.Image(file, Utf8(words), Width);
+    if (image) html_ += Element("figure", "", *image + Element("figcaption", "", Utf8(words))) + u'\n';
+  }
+
+  void WritePicture() {
+    const QString alternative = Filled(language_.DrawnBy, {EscapedReadable(PupilName(run_.Who))});
+    const std::optional<QString> image = pictures_.Image(run_.Picture, alternative);
+    if (image) {
+      html_ += *image + u'\n';
+    } else {
+      html_ += Paragraph(Utf8(pictures_.IsFull() ? language_.PictureLeftOut : language_.NoPicture));
+    }
+  }
+
+  void WriteLines() {
+    const Said& told = run_.Told;
+    if (told.Lines.isEmpty()) return;
+    html_ += Heading(language_.PrintedAndSaid);
+    html_ += QStringLiteral("<pre>\n") + EscapedLines(told.Lines.join(u'\n')) + QStringLiteral("</pre>\n");
+    if (told.LinesAreCut) html_ += Paragraph(Utf8(language_.LinesLeftOut));
+  }
+
+  void WriteBoxes() {
+    const Said& told = run_.Told;
+    if (told.Boxes.empty()) return;
+    html_ += Heading(language_.BoxesShown) + QStringLiteral("<ul class=\"boxes\">\n");
+    for (const ShownBox& shown : told.Boxes) WriteBox(shown);
+    html_ += QStringLiteral("</ul>\n");
+    if (told.BoxesAreCut) html_ += Paragraph(Utf8(language_.BoxesLeftOut));
+  }
+
+  void WriteBox(const ShownBox& shown) {
+    html_ += QStringLiteral("<li>");
+    if (!shown.Title.isEmpty()) html_ += Element("span", "title", EscapedLines(shown.Title));
+    if (!shown.Text.isEmpty()) html_ += Element("span", "text", EscapedLines(shown.Text));
+    html_ += Element("span", "quiet", Escaped(AnswerWords(shown))) + QStringLiteral("</li>\n");
+  }
+
+  QString AnswerWords(const ShownBox& shown) const {
+    const QString answer = shown.Answer.isEmpty() ? Utf8(language_.Nothing) : Readable(shown.Answer);
+    if (shown.Kind == "box" && shown.Buttons == shown.Answer) return answer;
+    if (shown.Kind == "box") return Readable(shown.Buttons) + QStringLiteral(" \u2192 ") + answer;
+    return Utf8(shown.Kind == "input" ? language_.Question : language_.FileWindow) + answer;
+  }
+
+  void WriteProgram() {
+    if (run_.Went.Source.empty()) return;
+    html_ += Heading(language_.Program) + QStringLiteral("<ol class=\"program\">\n");
+    QSet<int> marked;
+    for (const Finding& finding : run_.Went.Findings) marked.insert(finding.Line);
+    for (std::size_t i = 0; i < run_.Went.Source.size(); ++i) {
+      const int line = static_cast<int>(i) + 1;
+      const bool isStop = line == run_.Went.Where.ProgramLine;
+      const char* const kind = isStop ? "stop" : marked.contains(line) ? "mark" : "line";
+      html_ += QStringLiteral("<li id=\"") + LineId(line) + QStringLiteral("\">") +
+               Element("code", kind, EscapedReadable(run_.Went.Source[i].Text));
+      if (isStop) html_ += u' ' + Element("strong", "bad", QStringLiteral("\u2190 ") + Utf8(language_.StoppedHere));
+      html_ += QStringLiteral("</li>\n");
+    }
+    html_ += QStringLiteral("</ol>\n");
+    if (run_.Went.SourceIsCut) html_ += Paragraph(Utf8(language_.ProgramIsCut));
+    WriteStore();
+  }
+
+  void WriteStore() {
+    QString rows;
+    for (std::size_t i = 0; i < run_.Went.Source.size(); ++i) {
+      const std::optional<QStringList>& stored = run_.Went.Source[i].Stored;
+      if (!stored) continue;
+      rows += QStringLiteral("<li value=\"%1\">").arg(i + 1) +
+              Element("code", "", EscapedReadable(stored->join(QStringLiteral(" / ")))) + QStringLiteral("</li>\n");
+    }
+    if (rows.isEmpty()) return;
+    html_ += QStringLiteral("<details><summary>") + Utf8(language_.InTheStore) + QStringLiteral("</summary>\n") +
+             Element("ol", "program", u'\n' + rows) + QStringLiteral("</details>\n");
+  }
+
+  const PupilRun& run_;
+  std::size_t number_;
+  const RunLimits& limits_;
+  const Language& language_;
+  PictureSource& pictures_;
+  QString html_;
+};
+
+}  // namespace
+
+QString SectionOf(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
+                  PictureSource& pictures, bool hasOverview) {
+  return SectionWriter(run, number, limits, language, pictures).Write(hasOverview);
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,81 @@
+#include "classroom/report_files.h"
+
+#include <set>
+
+#include "batch/errors.h"
+#include "classroom/marks.h"
+#include "classroom/page_html.h"
+#include "classroom/readable.h"
+#include "classroom/report_page.h"
+#include "classroom/summary.h"
+#include "files/disk_files.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path SummaryFileOf(fs::path report) { return report.replace_extension(".json"); }
+
+fs::path PlaceOf(const char* option, const std::string& name) {
+  std::error_code error;
+  fs::path file = fs::absolute(name, error);
+  const fs::path folder = file.parent_path();
+  const bool isPlace = !error && fs::is_directory(folder, error) && !fs::is_directory(file, error) &&
+                       !fs::is_directory(SummaryFileOf(file), error) && CanWriteInto(folder);
+  if (!isPlace) throw batch::UsageError(std::string(option) + " " + name + ": no file can be written there");
+  return file;
+}
+
+/// A name for a file from that of a pupil, which may hold anything.
+std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
+  QString name = PupilName(run.Who);
+  if (name.endsWith(".zrm", Qt::CaseInsensitive)) name.chop(4);
+  for (QChar& character : name) {
+    const bool isPlain = character.isLetterOrNumber() || character == u'-' || character == u'_' || character == u' ';
+    if (!isPlain) character = u'_';
+  }
+  const std::string plain = name.left(80).toStdString();
+  std::string file = plain;
+  for (int number = 2; !taken.insert(file).second; ++number) file = plain + "-" + std::to_string(number);
+  return file + ".html";
+}
+
+}  // namespace
+
+ReportFiles::ReportFiles(const ClassOptions& options) : options_(options) {
+  if (!options.Report.empty()) page_ = PlaceOf("--out", options.Report);
+  if (!options.Marks.empty()) PlaceOf("--csv", options.Marks);
+  if (!options.Records.empty()) PlaceOf("--jsonl", options.Records);
+  std::error_code error;
+  if (!options.Pupils.empty()) fs::create_directories(options.Pupils, error);
+  if (!options.Pupils.empty() && !CanWriteInto(options.Pupils))
+    throw batch::UsageError("--pupils " + options.Pupils + ": no file can be written there");
+}
+
+QString ReportFiles::Name() const { return HasPage() ? NameOf(page_) : QString::fromStdString(options_.Records); }
+
+void ReportFiles::Write(const Report& report) const {
+  if (!options_.Marks.empty()) {
+    QByteArray marks = MarksHead();
+    for (const PupilRun& run : report.Runs) marks += MarksOf(run);
+    WriteBeside(fs::absolute(options_.Marks), marks.toStdString());
+  }
+  if (!options_.Pupils.empty()) WritePupils(report);
+  if (!HasPage()) return;
+  const QByteArray page = PageOf(report);
+  WriteBeside(SummaryFileOf(page_), SummaryOf(report).toStdString());
+  WriteBeside(page_, page.toStdString());
+}
+
+void ReportFiles::WritePupils(const Report& report) const {
+  std::set<std::string> taken;
+  for (const PupilRun& run : report.Runs) {
+    const std::string name = FileNameOf(run, taken);
+    WriteBeside(fs::absolute(options_.Pupils) / std::u8string(name.begin(), name.end()),
+                PageOfPupil(report, run).toStdString());
+  }
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+
+#include "classroom/class_options.h"
+#include "classroom/report.h"
+
+namespace zerimo::classroom {
+
+/// The files that come of a class run: the page, its summary, the marks and the pupils' pages.
+class ReportFiles {
+ public:
+  /// Fails with `UsageError` if nothing can be written there: told before hundreds of programs have run in vain.
+  explicit ReportFiles(const ClassOptions& options);
+
+  bool HasPage() const { return !page_.empty(); }
+  const std::filesystem::path& Page() const { return page_; }
+  /// The page, or the records where there is none.
+  QString Name() const;
+
+  /// Each file takes its place when it is whole. Fails (file access).
+  void Write(const Report& report) const;
+
+ private:
+  void WritePupils(const Report& report) const;
+
+  const ClassOptions& options_;
+  std::filesystem::path page_;
+};
+
+}  // namespace zerimo::classroom

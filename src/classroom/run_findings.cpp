@@ -1,0 +1,47 @@
+#include "classroom/run_findings.h"
+
+#include <algorithm>
+
+namespace zerimo::classroom {
+
+namespace {
+
+/// A drawing of which a larger part lies outside is not meant so.
+constexpr double MuchOutside = 0.5;
+
+constexpr const char* FenceWords = "outside of the Fence";
+constexpr const char* MissingWords = "Required Paramiter Missing After ";
+
+void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findings) {
+  for (const ShownBox& box : boxes) {
+    if (box.Text.contains(FenceWords)) findings.push_back({Mistake::FenceHit, 0, {}});
+    const qsizetype place = box.Text.indexOf(MissingWords);
+    if (place >= 0)
+      findings.push_back(
+          {Mistake::InputAsked, 0, {box.Text.mid(place + QLatin1String(MissingWords).size()).section(u' ', 0, 0)}});
+  }
+}
+
+}  // namespace
+
+void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings) {
+  const Said told = run.Told();
+  const DrawingRecorder& recorder = run.Recorder();
+  const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
+  if (!recorder.HasDrawn() && isSilent) findings.push_back({Mistake::NothingDrawn, 0, {}});
+  if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
+    findings.push_back({Mistake::UnderTheTitle, 0, {}});
+  if (recorder.PartOutside(run.System().Picture1) > MuchOutside)
+    findings.push_back({Mistake::OutsideThePicture, 0, {}});
+  if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
+  const RunOutcome& went = run.Went();
+  if (went.How == Result::Stopped && went.By == "steps")
+    findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement}});
+  std::vector<Finding> inBoxes;
+  FindInBoxes(told.Boxes, inBoxes);
+  for (const Finding& finding : inBoxes) {
+    if (std::ranges::find(findings, finding) == findings.end()) findings.push_back(finding);
+  }
+}
+
+}  // namespace zerimo::classroom

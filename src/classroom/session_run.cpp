@@ -1,0 +1,135 @@
+#include "classroom/session_run.h"
+
+#include <new>
+
+#include "base/failure.h"
+#include "batch/errors.h"
+#include "classroom/process_limits.h"
+#include "files/disk_files.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::streamsize LargestTranscript = std::streamsize{1} << 20;
+/// Characters of a text in the outcome that a pupil has written.
+constexpr qsizetype LongestText = 200;
+
+/// A line of the store as its pupil knows it: the lines that stand for a `REPEAT` have names of # and $, and a typed
+/// line is a procedure of such a name.
+QString StatementOf(const std::string& line) {
+  if (line.starts_with("TO #")) return {};
+  const bool isOfRepeat =
+      line.find('#') != std::string::npos || line.starts_with("LABEL $") || line.starts_with("GOTO $");
+  return isOfRepeat ? QStringLiteral("REPEAT") : FromLatin1(line);
+}
+
+batch::Settings SettingsOf(const Order& order) {
+  batch::Settings settings;
+  settings.Screen = order.Screen;
+  settings.Steps = order.Limits.Steps;
+  settings.Seconds = order.Limits.Seconds;
+  return settings;
+}
+
+}  // namespace
+
+QString ShortText(const QString& text) { return text.size() > LongestText ? text.left(LongestText) + u'\u2026' : text; }
+
+QString FromLatin1(const std::string& text) {
+  return ShortText(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+SessionRun::SessionRun(const Order& order, const fs::path& transcript)
+    : order_(order),
+      transcriptName_(transcript),
+      transcriptFile_(transcript, LargestTranscript),
+      // Pictures that a session asks for on its way are not written; the runner takes the last one.
+      system_(SettingsOf(order), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {},
+              Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {
+  System().Picture1.AddRecorder(recorder_);
+}
+
+void SessionRun::Run(const Play& play) {
+  try {
+    LimitMemory(order_.Limits.Memory);
+    const batch::Outcome went = system_.Run(ScriptOf(play));
+    LiftMemoryLimit();
+    Tell(went, play);
+  } catch (const batch::SessionError& error) {
+    LiftMemoryLimit();
+    Tell({batch::Ending::Refused, error.what(), error.Line}, play);
+  } catch (const std::bad_alloc&) {
+    LiftMemoryLimit();
+    outcome_.How = Result::Stopped;
+    outcome_.By = "memory";
+    outcome_.Where = WhereItStands(system_.CurrentLine(), play);
+  }
+  journal_.Flush();
+  if (transcriptFile_.HasFailed()) outcome_.Notes.append("Not all that was said could be kept: is the disk full?");
+}
+
+batch::Script SessionRun::ScriptOf(const Play& play) {
+  if (play.Typed.empty()) return system_.Read(play.Session);
+  batch::Script script;
+  for (const std::string& line : play.Typed)
+    script.push_back({static_cast<int>(script.size()) + 1, batch::action::TypeLine{line}});
+  return script;
+}
+
+void SessionRun::Tell(const batch::Outcome& went, const Play& play) {
+  outcome_.By = QString::fromStdString(went.By);
+  outcome_.Message = ShortText(QString::fromStdString(went.Message));
+  switch (went.How) {
+    case batch::Ending::Over:
+      outcome_.How = Result::Ended;
+      return;
+    case batch::Ending::Refused:
+      outcome_.How = Result::Refused;
+      outcome_.Where = PlaceOfLine(went.Line, play);
+      return;
+    case batch::Ending::Failed:
+      outcome_.How = Result::Failed;
+      break;
+    case batch::Ending::Stopped:
+      outcome_.How = Result::Stopped;
+      break;
+  }
+  outcome_.Where = WhereItStands(went.Line, play);
+}
+
+StopPlace SessionRun::PlaceOfLine(int line, const Play& play) {
+  StopPlace place;
+  place.Line = line;
+  const auto index = static_cast<std::size_t>(line) - 1;
+  if (play.Typed.empty()) {
+    place.LineText = ShortText(QString::fromStdString(play.Session).split(u'\n').value(line - 1).trimmed());
+  } else if (index < play.Typed.size()) {
+    place.LineText = FromLatin1(play.Typed[index]);
+  }
+  return place;
+}
+
+StopPlace SessionRun::WhereItStands(int line, const Play& play) {
+  const Form1& form = System();
+  StopPlace place = PlaceOfLine(line, play);
+  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
+  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
+  // A typed line runs as a procedure whose name begins with #.
+  if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
+  PassOver([&] {
+    storeLine_ = EndValExtractor(form.interpreter.controlPath.CtrlStr());
+    place.Statement = StatementOf(form.interpreter.store.Line(storeLine_));
+  });
+  return place;
+}
+
+Said SessionRun::Told() const {
+  return SaidIn(QByteArray::fromStdString(BytesOf(transcriptName_).value_or(std::string())));
+}
+
+void SessionRun::WritePicture(const fs::path& file) { pictures_.Write(System().Picture1, file); }
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/batch_session.h"
+#include "batch/picture_output.h"
+#include "classroom/bounded_file.h"
+#include "classroom/drawings/drawing.h"
+#include "classroom/order.h"
+#include "classroom/transcript_reader.h"
+
+namespace zerimo::classroom {
+
+/// What is done with a program: a session as it stands in a file, or lines that are typed if there is none.
+struct Play {
+  std::string Session;
+  std::vector<std::string> Typed;
+};
+
+/// Text that a pupil has written, as it is kept: not too long for a report.
+QString ShortText(const QString& text);
+QString FromLatin1(const std::string& text);
+
+/// One session of a pupil's program in this process. Runs once.
+class SessionRun {
+ public:
+  /// The transcript goes to a file.
+  SessionRun(const Order& order, const std::filesystem::path& transcript);
+
+  /// Nothing that goes wrong in the session leaves this object.
+  void Run(const Play& play);
+
+  /// How it went, and what there is to note.
+  const RunOutcome& Went() const { return outcome_; }
+  const DrawingRecorder& Recorder() const { return recorder_; }
+  /// What was said, from the transcript.
+  Said Told() const;
+  Form1& System() { return system_.System(); }
+  /// The line of the store where it stood when it was stopped, or 0.
+  int StoreLine() const { return storeLine_; }
+
+  /// The picture as it is now. Fails (file access).
+  void WritePicture(const std::filesystem::path& file);
+
+ private:
+  batch::Script ScriptOf(const Play& play);
+  void Tell(const batch::Outcome& went, const Play& play);
+  static StopPlace PlaceOfLine(int line, const Play& play);
+  /// The place in the session and in the program.
+  StopPlace WhereItStands(int line, const Play& play);
+
+  const Order& order_;
+  std::filesystem::path transcriptName_;
+  BoundedFile transcriptFile_;
+  std::ostream transcript_{&transcriptFile_};
+  batch::Journal journal_{&transcript_, nullptr};
+  batch::PictureOutput pictures_;
+  batch::BatchSession system_;
+  DrawingRecorder recorder_;
+  RunOutcome outcome_;
+  int storeLine_ = 0;
+};
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,120 @@
+#include "classroom/task.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <array>
+
+#include "batch/errors.h"
+#include "classroom/readable.h"
+#include "files/disk_files.h"
+
+namespace zerimo::classroom {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Surface units to a step of the turtle.
+constexpr double UnitsPerStep = 50;
+
+QString Section(const QString& text, const QString& heading) {
+  const QRegularExpression pattern(
+      "^##\\s+" + heading + "\\s*$(.*?)(?=^#|\\z)",
+      QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
+  return pattern.match(text).captured(1);
+}
+
+/// One of the words behind the colon of a goal.
+bool Take(Goal& goal, const QString& word) {
+  static const QRegularExpression points("^(\\d+(?:\\.\\d+)?) points?$");
+  static const QRegularExpression pixels("^pixels(?: (\\d+(?:\\.\\d+)?) ?%)?$");
+  static const QRegularExpression tolerance("^tolerance (\\d+(?:\\.\\d+)?)$");
+  if (const auto match = points.match(word); match.hasMatch()) {
+    goal.Points = match.captured(1).toDouble();
+  } else if (const auto pixelMatch = pixels.match(word); pixelMatch.hasMatch()) {
+    goal.Way = GoalWay::Pixels;
+    if (!pixelMatch.captured(1).isEmpty()) goal.Enough = pixelMatch.captured(1).toDouble();
+  } else if (const auto stepMatch = tolerance.match(word); stepMatch.hasMatch()) {
+    goal.Shapes.Tolerance = stepMatch.captured(1).toDouble() * UnitsPerStep;
+  } else if (word == "shapes" || word == "texts") {
+    goal.Way = word == "shapes" ? GoalWay::Shapes : GoalWay::Texts;
+  } else {
+    const std::array<std::pair<const char*, bool*>, 4> flags = {{{"order", &goal.Shapes.Order},
+                                                                 {"direction", &goal.Shapes.Direction},
+                                                                 {"splitting", &goal.Shapes.Splitting},
+                                                                 {"colour", &goal.Shapes.Colour}}};
+    const auto* const flag =
+        std::ranges::find_if(flags, [&word](const auto& each) { return word == QLatin1String(each.first); });
+    if (flag == flags.end()) return false;
+    *flag->second = true;
+  }
+  return true;
+}
+
+Goal GoalOf(const QString& item) {
+  static const QRegularExpression typed("`([^`]*)`");
+  Goal goal;
+  for (auto walk = typed.globalMatch(item); walk.hasNext();) goal.Typed.append(walk.next().captured(1).simplified());
+  QString words = item;
+  words.remove(typed);
+  words = words.section(u':', 1);
+  for (const QString& word : words.split(u',', Qt::SkipEmptyParts)) {
+    if (!Take(goal, word.simplified().toLower()))
+      throw batch::UsageError("TASK.md: \"" + word.trimmed().toStdString() + "\" in \"" + item.toStdString() +
+                              "\" is not understood");
+  }
+  return goal;
+}
+
+fs::path ModelIn(const fs::path& folder) {
+  std::error_code error;
+  for (const char* name : {"GOAL.ZRM", "goal.zrm", "GOAL.png", "goal.png", "GOAL.PNG", "GOAL.bmp", "GOAL.jpg"}) {
+    if (fs::is_regular_file(folder / name, error)) return fs::canonical(folder / name, error);
+  }
+  return {};
+}
+
+QString TextOf(const fs::path& file) { return QString::fromStdString(BytesOf(file).value_or(std::string())); }
+
+}  // namespace
+
+QString Goal::Title() const { return Typed.join(QStringLiteral(", ")); }
+
+bool Task::HasModelProgram() const { return NameOf(Model.extension()).compare(".zrm", Qt::CaseInsensitive) == 0; }
+
+std::vector<Goal> GoalsIn(const QString& taskText) {
+  static const QRegularExpression item("^\\s*[-*]\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
+  std::vector<Goal> goals;
+  for (auto walk = item.globalMatch(Section(taskText, "Goals")); walk.hasNext();)
+    goals.push_back(GoalOf(walk.next().captured(1)));
+  return goals;
+}
+
+Task ReadTask(const fs::path& place) {
+  std::error_code error;
+  Task task;
+  if (!fs::is_directory(place, error)) {
+    task.Model = fs::canonical(place, error);
+    task.Goals = {Goal{}};
+    if (error) throw batch::UsageError("--task " + place.string() + ": there is no such folder or file");
+  } else {
+    const QString text = TextOf(place / "TASK.md");
+    static const QRegularExpression title("^#\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
+    task.Title = title.match(text).captured(1);
+    task.Words = QString(text)
+                     .remove(Section(text, "Goals"))
+                     .remove(QRegularExpression("^#.*$", QRegularExpression::MultilineOption))
+                     .trimmed();
+    task.Model = ModelIn(place);
+    task.Goals = GoalsIn(text);
+    if (task.Model.empty()) throw batch::UsageError("--task " + place.string() + ": GOAL.ZRM or GOAL.png is missing");
+    if (task.Goals.empty()) task.Goals = {Goal{}};
+  }
+  // Of a picture nothing is known but its pixels.
+  if (!task.HasModelProgram()) {
+    for (Goal& goal : task.Goals) goal.Way = GoalWay::Pixels;
+  }
+  return task;
+}
+
+}  // namespace zerimo::classroom

@@ -1,0 +1,178 @@
+#include "classroom/findings/findings.h"
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QSet>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+
+namespace zerimo::classroom {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string BytesOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+/// "2 unknown word FORWRD FORWARD": the findings as lines.
+QStringList ToldOf(const QString& program) {
+  QStringList told;
+  for (const Finding& each : FindingsIn(program)) {
+    QStringList words = {QString::number(each.Line), QString::fromLatin1(FactsOf(each.What).Code)};
+    told.append((words + each.Details).join(u' ').trimmed());
+  }
+  return told;
+}
+
+struct Case {
+  /// The lines of a program, | for a line end.
+  const char* Program;
+  QStringList Told;
+};
+
+void PrintTo(const Case& one, std::ostream* out) { *out << one.Program; }
+
+class FindingsOf : public testing::TestWithParam<Case> {};
+
+TEST_P(FindingsOf, AreTold) {
+  EXPECT_EQ(ToldOf(QString::fromLatin1(GetParam().Program).replace("|", "\r\n")), GetParam().Told);
+}
+
+const Case Statements[] = {
+    {"TO A|FD 10|BK (-5)|SETXY 10 (-20)|MAKE \"N (-5)|PRINT :N-3|END|", {}},
+    {"TO A|FD -5|END|", {"2 minus input FD"}},
+    {"TO A|REPEAT 2 [RT 90 FD -5]|END|", {"2 minus input FD"}},
+    {"TO A|SETXY 10 -20|END|", {"2 minus second input SETXY"}},
+    {"TO A|MAKE \"N -5|FD :N|END|", {"2 minus make N"}},
+    {"TO A|PRINT 3--4|END|", {"2 double minus 3--4"}},
+    {"TO A|PRINT 2*7%4|END|", {"2 percent after times 2*7%4"}},
+    {"TO A|PRINT (2*7)%4|END|", {}},
+    {"TO A|PRINT 2(3+4)|END|", {"2 missing times 2(3+4)"}},
+    {"TO A|FD .5|END|", {"2 bare point .5"}},
+    {"TO A|FD 0.5|END|", {}},
+    {"TO A|IF 2 = 2|FD 1|ENDIF|END|", {"2 blank before equals ="}},
+    {"TO A|FD(10)|END|", {"2 no blank after word FD"}},
+    {"TO A|MAKE \"T 1/3|FD :T|END|", {"2 rounded third 1/3"}},
+    {"TO A|MAKE \"T 1/4|FD :T|END|", {}},
+    {"TO A|SETPC 2.5|END|", {"2 half number 2.5"}},
+    {"TO A|CIRCLE 0 0 2.5|END|", {"2 whole step 2.5"}},
+    {"TO A|FD 100/0|END|", {"2 division by zero 100/0"}},
+    {"TO A|SETXY 656 656|END|", {"2 too large 656"}},
+    {"TO A|SUM 1 40000|END|", {"2 too large 40000"}},
+    {"TO A|PRINT 2E3|END|", {"2 exponent 2E3"}},
+    {"TO A|MAKE \"SIDE1 7|END|", {"2 digit in name SIDE1"}},
+    {"TO A|MAKE B 5|END|", {"2 make without quote B"}},
+    {"TO A :B|IF :B==5|FD 1|ENDIF|END|", {"2 wrong sign =="}},
+    {"TO A :B|IF :B<=5|FD 1|ENDIF|IF :B!3|FD 1|ENDIF|END|", {}},
+    {"TO A :B|IF 1<:B<5|FD 1|ENDIF|END|", {"2 two comparisons 1<:B<5"}},
+    {"TO A :B|IF NOT :B=3|FD 1|ENDIF|END|", {"2 logic word NOT"}},
+    {"TO A|LINEWIDTH 3|END|", {"2 long line width 3"}},
+    {"TO A|SETPC 20|END|", {"2 colour code 20"}},
+    {"TO A|MESSAGE \"HELLO|END|", {"2 open quote \"HELLO"}},
+    {"TO A|(SUM 1 2 3|END|", {"2 open sum (SUM 1 2 3"}},
+    {"TO A|GETX|END|", {"2 dead word GETX"}},
+    {"TO A|IF 1=2|FD 1|ELSE FD 2|ENDIF|END|", {"4 else with more FD 2"}},
+};
+INSTANTIATE_TEST_SUITE_P(Statements, FindingsOf, testing::ValuesIn(Statements));
+
+const Case Repeats[] = {
+    {"TO A|REPEAT 4 [FD 10 REPEAT 3 [RT 30]]|END|", {}},
+    {"TO A|REPEAT 0 [FD 1]|END|", {"2 count zero"}},
+    {"TO A|REPEAT 2.5 [FD 1]|END|", {"2 count fraction 2.5"}},
+    {"TO A|REPEAT 40000 [FD 1]|END|", {"2 count too large 40000"}},
+    {"TO A :N|REPEAT :N [FD 5 MAKE \"N 4]|END|", {"2 count changed :N", "2 input overwritten :N"}},
+    {"TO A|REPEAT 2 [FD 10|END|", {"2 missing bracket"}},
+    {"TO A|REPEAT 2 FD 10|END|", {"2 missing bracket"}},
+    {"TO A|REPEAT 2 []|END|", {"2 missing bracket"}},
+    {"TO A|REPEAT 2 [PRINT 5 FD 10]|END|", {"2 print in repeat PRINT"}},
+    {"TO A|REPEAT 2 [FD 10 PRINT 5]|END|", {}},
+    {"TO A|  REPEAT 2 [FD 10]|END|", {"2 indented repeat"}},
+};
+INSTANTIATE_TEST_SUITE_P(Repeats, FindingsOf, testing::ValuesIn(Repeats));
+
+const Case Words[] = {
+    {"TO A|FORWRD 10|END|", {"2 unknown word FORWRD FORWARD"}},
+    {"TO A|fd 10|END|", {"2 small letters fd FD"}},
+    {"TO A|FD 10 RT 90|END|", {"2 several statements RT"}},
+    {"TO A|FD|END|", {"2 missing inputs FD 1 0"}},
+    {"TO A|SETXY 10|END|", {"2 missing inputs SETXY 2 1"}},
+    {"TO BOX :S :T|FD :S|RT :T|END|TO A|BOX 5|END|", {"6 missing inputs BOX 2 1"}},
+    {"TO A|FD :SIDE|END|", {"2 unknown name :SIDE"}},
+    {"TO A|MAKE \"Z 0|PRINT :Z*5+3|END|", {"3 zero vanishes :Z"}},
+    {"TO TWICE :S|PRINT :S+:S|END|", {"2 input twice :S"}},
+    {"TO THRICE :N|PRINT 3*:N|END|TO A|THRICE 2+3|END|", {"5 input without brackets 2+3 :N"}},
+    {"TO A :X|MAKE \"X 9|END|", {"2 input overwritten :X"}},
+};
+INSTANTIATE_TEST_SUITE_P(Words, FindingsOf, testing::ValuesIn(Words));
+
+const Case Programs[] = {
+    {"MAKE :SIDE 40|TO A|FD :SIDE|END|", {}},
+    {"FD 10|TO A|FD 1|END|RT 90|", {"1 outside procedures FD 10", "5 outside procedures RT 90"}},
+    {"TO A|END|TO A|END|", {"3 duplicate procedure A 1"}},
+    {"TO A|FD 10|", {"1 without end A"}},
+    {"TO A|IF 1=2|FD 10|END|", {"2 if without endif"}},
+    {"TO A|IF 1=2|FD 10|ELSE|FD 5|END|", {"2 misplaced else"}},
+    {"TO A|IF 1=2|IF 1=1|IF 1=1|FD 1|ENDIF|ELSE|FD 2|ENDIF|ENDIF|END|", {}},
+    {"TO A|IF 1=2|IF 1=1|IF 1=1|FD 1|ELSE|FD 2|ENDIF|ENDIF|ENDIF|END|", {"6 deep else"}},
+    {"TO A|IF 1=1|FD 1|ENDIF|LABEL X|FD 2|END|", {"5 label after endif X"}},
+    {"TO A|LABEL X|END|TO B|LABEL X|END|", {"5 duplicate label X 2"}},
+    {"TO A|GOTO NOWHERE|END|", {"2 unknown label NOWHERE"}},
+    {"TO A|FD 1|IF XCOR<9|A|ENDIF|END|", {}},
+    {"TO A|FD 1|IF XCOR<9|A|ENDIF|RT 90|END|", {"4 recursion goes on A"}},
+    {"TO A :N|FD :N|A :N-1|END|", {"3 recursion with input A"}},
+    {"TO A|PE|PX|END|", {"3 eraser reversed PX"}},
+    {"TO A|PE|SETPC 4|END|", {"3 eraser colour SETPC"}},
+    {"TO A|PU|CIRCLE 0 0 30|PD|CIRCLE 0 0 20|END|", {"3 shape with pen up CIRCLE"}},
+    {"TO A|FLOODFILL 14|FILL 4|STAMPCIRCLE 9|END|", {"4 empty shapes STAMPCIRCLE"}},
+    {"TO A|PRINT \"\xC4\xD6\"|END|", {"2 dropped letters \u00C4\u00D6"}},
+    {"TO A|FD\t10|END|", {"2 tab"}},
+    {"TO A|END|  |TO B|END|", {"3 blank line"}},
+    {"", {"0 empty"}},
+    {"TO A\nFD 10\nEND\n", {"0 one line"}},
+};
+INSTANTIATE_TEST_SUITE_P(Programs, FindingsOf, testing::ValuesIn(Programs));
+
+TEST(Findings, AProgramMayBeTooLong) {
+  QString program = "TO A\r\n";
+  for (int i = 0; i < 2000; ++i) program += "FD 1\r\n";
+  EXPECT_EQ(ToldOf(program + "END\r\n"), QStringList{"2000 too long 2002"});
+}
+
+TEST(Findings, NothingIsSuspiciousInTheSamples) {
+  int programs = 0;
+  for (const fs::directory_entry& entry : fs::directory_iterator(ZERIMO_SOURCE_DIR "/samples")) {
+    if (entry.path().extension() != ".ZRM") continue;
+    ++programs;
+    EXPECT_EQ(ToldOf(QString::fromStdString(BytesOf(entry.path()))), QStringList()) << entry.path();
+  }
+  EXPECT_EQ(programs, 26);
+}
+
+/// The address of a heading in a page that is made of Markdown.
+QString AddressOf(QString heading) {
+  heading = heading.toLower();
+  heading.remove(QRegularExpression("[^\\w\\- ]"));
+  return heading.replace(u' ', u'-');
+}
+
+TEST(Findings, EachLinkLeadsToAQuirk) {
+  QSet<QString> addresses = {""};
+  for (const QString& line : QString::fromStdString(BytesOf(ZERIMO_SOURCE_DIR "/docs/quirks.md")).split(u'\n')) {
+    if (line.startsWith("### ")) addresses.insert(AddressOf(line.mid(4)));
+  }
+  for (const MistakeFacts& facts : Mistakes()) EXPECT_TRUE(addresses.contains(facts.Quirk)) << facts.Quirk;
+}
+
+TEST(Findings, EachMistakeHasItsOwnCode) {
+  QSet<QString> codes;
+  for (const MistakeFacts& facts : Mistakes()) codes.insert(facts.Code);
+  EXPECT_EQ(codes.size(), static_cast<qsizetype>(Mistake::Count));
+}
+
+}  // namespace
+}  // namespace zerimo::classroom

@@ -1,0 +1,52 @@
+#include "classroom/task.h"
+
+#include <gtest/gtest.h>
+
+#include "batch/errors.h"
+#include "files/temp_folder.h"
+
+namespace zerimo::classroom {
+namespace {
+
+TEST(Task, GoalsAreTheItemsOfTheirSection) {
+  const std::vector<Goal> goals = GoalsIn(
+      "# Stars\n\nText.\n\n## Goals\n\n- `STAR 50`: 2 points\n- `A` and `B`: pixels 90 %, colour\n* the call: texts\n"
+      "- `C`: shapes, order, direction, splitting, tolerance 2\n\n## More\n\n- no goal\n");
+  ASSERT_EQ(goals.size(), 4U);
+  EXPECT_EQ(goals[0].Typed, QStringList{"STAR 50"});
+  EXPECT_EQ(goals[0].Points, 2);
+  EXPECT_EQ(goals[1].Typed, (QStringList{"A", "B"}));
+  EXPECT_EQ(goals[1].Way, GoalWay::Pixels);
+  EXPECT_EQ(goals[1].Enough, 90);
+  EXPECT_TRUE(goals[1].Shapes.Colour);
+  EXPECT_EQ(goals[2].Way, GoalWay::Texts);
+  EXPECT_TRUE(goals[3].Shapes.Order && goals[3].Shapes.Direction && goals[3].Shapes.Splitting);
+  EXPECT_EQ(goals[3].Shapes.Tolerance, 100);
+}
+
+TEST(Task, WordsThatAreNotUnderstoodAreTold) { EXPECT_THROW(GoalsIn("## Goals\n- `A`: shapse\n"), batch::UsageError); }
+
+TEST(Task, AFolderHasWordsAModelAndGoals) {
+  const TempFolder disk;
+  disk.Write("task/TASK.md", "# Stars\n\nDraw one.\n");
+  EXPECT_THROW(ReadTask(disk.Path / "task"), batch::UsageError);
+  disk.Write("task/GOAL.ZRM", "TO GOAL\r\nEND\r\n");
+  const Task task = ReadTask(disk.Path / "task");
+  EXPECT_EQ(task.Title, "Stars");
+  EXPECT_EQ(task.Words, "Draw one.");
+  EXPECT_TRUE(task.HasModelProgram());
+  EXPECT_EQ(task.Goals.size(), 1U);
+}
+
+TEST(Task, OfAPictureOnlyPixelsAreCompared) {
+  const TempFolder disk;
+  disk.Write("goal.png", "");
+  const Task task = ReadTask(disk.Path / "goal.png");
+  EXPECT_FALSE(task.HasModelProgram());
+  ASSERT_EQ(task.Goals.size(), 1U);
+  EXPECT_EQ(task.Goals[0].Way, GoalWay::Pixels);
+  EXPECT_THROW(ReadTask(disk.Path / "nothing.png"), batch::UsageError);
+}
+
+}  // namespace
+}  // namespace zerimo::classroom
