@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/numbers.h"
 
@@ -40,27 +41,35 @@ std::string_view NamePart(std::string_view slot) {
   return isNumeric ? slot.substr(0, equals + 1) : slot;
 }
 
-void NameStates::Change(std::size_t slot, std::string_view from, std::string_view to) {
-  const std::uint64_t before = now_;
-  std::uint64_t& next = Next(now_, slot, to);
-  if (next != 0) {
-    now_ = next;
+void NameStates::Change(std::size_t slot, std::string_view name) {
+  constexpr std::size_t mostChangesKept = 20'000;
+  constexpr unsigned slotBits = 9;
+  constexpr unsigned nameBits = 24;
+  const std::uint32_t number = NumberOf(name);
+  if (slot >= slots_.size()) slots_.resize(slot + 1);
+  slots_[slot] = number;
+  if (number >> nameBits != 0) {
+    now_ = StateOf(slots_);
     return;
   }
-  now_ = next = ++last_;
-  Next(now_, slot, from) = before;
+  if (next_.size() >= mostChangesKept) next_.clear();
+  std::uint64_t& next = next_[(now_ << nameBits | number) << slotBits | slot];
+  if (next == 0) next = StateOf(slots_);
+  now_ = next;
 }
 
-/// The state that a change leads to, 0 while not known.
-std::uint64_t& NameStates::Next(std::uint64_t state, std::size_t slot, std::string_view name) {
-  constexpr std::size_t mostKept = 50'000;
+std::uint32_t NameStates::NumberOf(std::string_view name) {
+  return name.empty() ? 0 : FindOrMake(names_, name, [this] { return ++lastName_; });
+}
+
+std::uint64_t NameStates::StateOf(Names names) {
+  constexpr std::size_t mostKept = 1000;
+  while (!names.empty() && names.back() == 0) names.pop_back();
   // What is forgotten gets new numbers.
-  if (next_.size() >= mostKept) next_.clear();
-  constexpr unsigned slotBits = 9;
-  constexpr unsigned nameBits = 20;
-  const std::uint64_t known = FindOrMake(names_, name, [this] { return ++lastName_; });
-  if (known >= std::uint64_t{1} << nameBits) return unknown_ = 0;
-  return next_[(state << nameBits | known) << slotBits | slot];
+  if (states_.size() >= mostKept) states_.clear();
+  const auto [state, isNew] = states_.try_emplace(std::move(names), lastState_ + 1);
+  if (isNew) ++lastState_;
+  return state->second;
 }
 
 }  // namespace zerimo

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "interpreter/since_change.h"
 
@@ -25,24 +27,30 @@ struct SlotForm {
 /// number.
 std::string_view NamePart(std::string_view slot);
 
-/// The state of the names in all slots. The number of a state stands for the same names in the same slots as long as
-/// the system runs; the same names may come back under another number.
+/// The state of the names in all slots, as a number: equal numbers stand for the same names in the same slots as long
+/// as the system runs.
 class NameStates {
  public:
   std::uint64_t Now() const { return now_; }
 
-  /// A slot's name part changes.
-  void Change(std::size_t slot, std::string_view from, std::string_view to);
+  /// A slot, counted from 0, gets another name part.
+  void Change(std::size_t slot, std::string_view name);
 
  private:
-  std::uint64_t& Next(std::uint64_t state, std::size_t slot, std::string_view name);
+  /// Names have numbers too, the empty one 0.
+  using Names = std::vector<std::uint32_t>;
+
+  std::uint32_t NumberOf(std::string_view name);
+  std::uint64_t StateOf(Names names);
 
   std::uint64_t now_ = 1;
-  std::uint64_t last_ = 1;
-  TextMap<std::uint64_t> names_;
-  std::uint64_t lastName_ = 0;
+  std::uint64_t lastState_ = 1;
+  std::uint32_t lastName_ = 0;
+  Names slots_;
+  TextMap<std::uint32_t> names_;
+  std::map<Names, std::uint64_t> states_{{{}, 1}};
+  /// Where a change leads to from a state that was there before.
   std::unordered_map<std::uint64_t, std::uint64_t> next_;
-  std::uint64_t unknown_ = 0;
 };
 
 }  // namespace zerimo

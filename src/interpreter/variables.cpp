@@ -83,7 +83,7 @@ void Variables::SetSlot(int number, std::string text) {
   deletedSlots_ += static_cast<int>(text == " ") - static_cast<int>(slot == " ");
   if (text.empty() || text == " ") openFrom_ = std::min(openFrom_, number);
   if (!text.empty()) usedUpTo_ = std::max(usedUpTo_, number);
-  if (NamePart(slot) != NamePart(text)) names_.Change(index, NamePart(slot), NamePart(text));
+  if (NamePart(slot) != NamePart(text)) names_.Change(index, NamePart(text));
   slot = std::move(text);
   forms_[index] = SlotForm(slot);
 }
