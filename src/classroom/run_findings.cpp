@@ -6,8 +6,8 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// A drawing of which a larger part lies outside is not meant so.
-constexpr double MuchOutside = 0.5;
+/// A drawing of which hardly anything is seen is not meant so; hills that rise from below the picture are.
+constexpr double NearlyAll = 0.9;
 
 constexpr const char* FenceWords = "outside of the Fence";
 constexpr const char* MissingWords = "Required Paramiter Missing After ";
@@ -28,10 +28,11 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
   const Said told = run.Told();
   const DrawingRecorder& recorder = run.Recorder();
   const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
-  if (!recorder.HasDrawn() && isSilent) findings.push_back({Mistake::NothingDrawn, 0, {}});
+  const bool showsSlides = !run.System().files.pictures.SlideBaseName.empty();
+  if (!recorder.HasDrawn() && isSilent && !showsSlides) findings.push_back({Mistake::NothingDrawn, 0, {}});
   if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
     findings.push_back({Mistake::UnderTheTitle, 0, {}});
-  if (recorder.PartOutside(run.System().Picture1) > MuchOutside)
+  if (recorder.PartOutside(run.System().Picture1) > NearlyAll)
     findings.push_back({Mistake::OutsideThePicture, 0, {}});
   if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
   const RunOutcome& went = run.Went();

@@ -53,7 +53,7 @@ class RunProcessTest : public testing::Test {
 
 TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
   RunOf(Script("cp order.json ../found; echo \"$@\" > ../arguments"));
-  const std::optional<Order> order = ReadOrder("found");
+  const std::optional<Order> order = ReadOrder(Temp.Path / "found");
   ASSERT_TRUE(order);
   EXPECT_EQ(order->Who.Program, "ANNA.ZRM");
   EXPECT_EQ(order->Limits.Seconds, 30);
@@ -61,7 +61,7 @@ TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
 }
 
 TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
-  WriteOutcome("outcome", {Result::Stopped, "steps", "words", {}, {}, {}});
+  WriteOutcome(Temp.Path / "outcome", {Result::Stopped, "steps", "words", {}, {}, {}});
   const PupilRun run = RunOf(Script("cp ../outcome outcome.json; exit 1"));
   EXPECT_EQ(run.Went.How, Result::Stopped);
   EXPECT_EQ(run.Went.By, "steps");

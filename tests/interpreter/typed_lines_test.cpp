@@ -61,8 +61,11 @@ TEST_F(TypedLinesTest, AStoppedLineEndsLikeAFinishedOneAndKeepsTheNames) {
 }
 
 TEST_F(TypedLinesTest, AfterAStoppedRecursionTheNextLineRuns) {
-  Fill({"TO A :S", "IF :S=3", "PRINT :S", "ENDIF", "A :S+1", "END"});
-  dispatch.Bind(Action::Print, [](PrimitiveCall&) { throw StopRun(); });
+  Fill({"TO A :S", "PRINT :S", "A :S", "END"});
+  int activations = 0;
+  dispatch.Bind(Action::Print, [&activations](PrimitiveCall&) {
+    if (++activations == 3) throw StopRun();
+  });
   EXPECT_TRUE(Type("A 1"));
   EXPECT_EQ(controlPath.CtrlStr(), ".");
   EXPECT_TRUE(Type("FD 10"));
