@@ -80,9 +80,9 @@ void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, co
 }
 
 void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index) {
-  const PixelComparison comparison = ComparePixels(QImage(NameOf(ModelPictureOf(order, index))),
-                                                   QImage(NameOf(run_file::GoalPicture(index))),
-                                                   NearPixels, order.Goals[index].Shapes.Colour);
+  const PixelComparison comparison =
+      ComparePixels(QImage(NameOf(ModelPictureOf(order, index))), QImage(NameOf(run_file::GoalPicture(index))),
+                    NearPixels, order.Goals[index].Shapes.Colour);
   outcome.Percent = comparison.Percent;
   outcome.Met = comparison.Percent >= order.Goals[index].Enough;
   comparison.Difference.save(NameOf(run_file::Difference(index)));

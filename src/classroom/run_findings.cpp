@@ -32,8 +32,7 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
   if (!recorder.HasDrawn() && isSilent && !showsSlides) findings.push_back({Mistake::NothingDrawn, 0, {}});
   if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
     findings.push_back({Mistake::UnderTheTitle, 0, {}});
-  if (recorder.PartOutside(run.System().Picture1) > NearlyAll)
-    findings.push_back({Mistake::OutsideThePicture, 0, {}});
+  if (recorder.PartOutside(run.System().Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
   if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
   const RunOutcome& went = run.Went();
   if (went.How == Result::Stopped && went.By == "steps")

@@ -47,8 +47,9 @@ SessionRun::SessionRun(const Order& order, const fs::path& transcript)
       transcriptName_(transcript),
       transcriptFile_(transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
-      system_(SettingsOf(order), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {},
-              Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {
+      system_(
+          SettingsOf(order), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {},
+          Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {
   System().Picture1.AddRecorder(recorder_);
 }
 

@@ -5,8 +5,8 @@
 
 namespace zerimo {
 
-/// The primitives that talk, wait and calculate: `PRINT`, `MESSAGE`, `WAIT`, `SOUND`, `COMMANDLIST`, `SUM` and the like,
-/// the credits, `BYE` and `QUIT`, and the bare expressions.
+/// The primitives that talk, wait and calculate: `PRINT`, `MESSAGE`, `WAIT`, `SOUND`, `COMMANDLIST`, `SUM` and the
+/// like, the credits, `BYE` and `QUIT`, and the bare expressions.
 class GeneralPrimitives {
  public:
   GeneralPrimitives(const DrawingContext& context, const Arithmetic& arithmetic, const Folders& folders)

@@ -11,9 +11,9 @@ namespace zerimo {
 std::int16_t Conditionals::Ifprocessor(int lineNumber) {
   store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine() - 1);
   const Branches branches = BranchesOf(lineNumber);
-  const int next = Holds(lineNumber)            ? lineNumber + 1
+  const int next = Holds(lineNumber)        ? lineNumber + 1
                    : branches.ElseLine != 0 ? branches.ElseLine + 1
-                                                : branches.EndIfLine;
+                                            : branches.EndIfLine;
   return static_cast<std::int16_t>(next);
 }
 

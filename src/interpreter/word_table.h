@@ -165,8 +165,8 @@ const ActionFacts& FactsOf(Action action);
 /// The facts of a word, or null if it is none of the language.
 const WordFacts* FindWord(std::string_view word);
 
-/// The action whose test a trimmed line passes, or `Action::None`. There is at most one: the names differ, and an action
-/// leaves the line and its word alone.
+/// The action whose test a trimmed line passes, or `Action::None`. There is at most one: the names differ, and an
+/// action leaves the line and its word alone.
 Action ActionOf(std::string_view line);
 
 /// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty.

@@ -9,26 +9,47 @@ namespace {
 using Texts = std::span<const char* const>;
 
 constexpr const char* UsualNames[] = {":N", ":A", ":B", "#", "##", "X", ":SIDE"};
-constexpr const char* OddNames[] = {"A1",  "XCORE", "XCOR", "YCOR", ":AB", "A.B", "$",   "E",    "D",    "1",   "=",
-                                    "A=B", "-",     "\\",   "\"Q",  "é",   "COR", ":NN", "BOX", "N",    ":",   "[X]",
-                                    "(A)", "&H",    "+",    "a",    "\r",  "!",   "#N",  "P.:N", "\"",  "\x01"};
+constexpr const char* OddNames[] = {"A1",  "XCORE", "XCOR", "YCOR", ":AB", "A.B", "$",   "E",    "D",  "1",   "=",
+                                    "A=B", "-",     "\\",   "\"Q",  "é",   "COR", ":NN", "BOX",  "N",  ":",   "[X]",
+                                    "(A)", "&H",    "+",    "a",    "\r",  "!",   "#N",  "P.:N", "\"", "\x01"};
 constexpr const char* UsualNumbers[] = {"1", "2", "3", "5", "7", "10", "12", "45", "90", "100", "2.5", ".25", "0.125"};
-constexpr const char* OddNumbers[] = {"0",       "-1",     "-90",     "1E15",  "999999999999999", "1E308", "1E-5", "0.0",
-                                      "32767",   "32768",  "00012",   "5.",    ".",               "1.2.3", "2E2",  "-.5",
-                                      "1000000", "3.14159265358979", "0.333333333333333", "2147483648", "1D3", "12 3",
-                                      "9999999999999999", "100000000000000"};
+constexpr const char* OddNumbers[] = {"0",
+                                      "-1",
+                                      "-90",
+                                      "1E15",
+                                      "999999999999999",
+                                      "1E308",
+                                      "1E-5",
+                                      "0.0",
+                                      "32767",
+                                      "32768",
+                                      "00012",
+                                      "5.",
+                                      ".",
+                                      "1.2.3",
+                                      "2E2",
+                                      "-.5",
+                                      "1000000",
+                                      "3.14159265358979",
+                                      "0.333333333333333",
+                                      "2147483648",
+                                      "1D3",
+                                      "12 3",
+                                      "9999999999999999",
+                                      "100000000000000"};
 constexpr const char* Procedures[] = {"P", "BOX", "P.Q", "A=1", "F-1", "#T", "STEP", "Q"};
 constexpr const char* Operators[] = {"+", "-", "*", "/", "%", "+", "-", "*"};
 constexpr const char* OddOperators[] = {"--", "*-", "/-", "+-", "%-", " + ", "\\", "<", ")(", "  "};
 constexpr const char* Relations[] = {"<", ">", "<=", ">=", "=", "!=", "!", "<=", "<"};
 constexpr const char* OddRelations[] = {"==", "<>", "=<", "<<", " < ", ">==", ""};
 constexpr const char* Moves[] = {"FD", "BK", "RT", "LT", "SETX", "SETY", "PRINT", "FORWARD", "RT", "FD"};
-constexpr const char* Plain[] = {"PU",   "PD",    "PE",     "PX", "HT",  "ST",         "HOME",       "CS",
+constexpr const char* Plain[] = {"PU",    "PD",     "PE",    "PX", "HT",    "ST",          "HOME",  "CS",
                                  "FENCE", "WINDOW", "HOMEX", "FD", "RT 90", "LINEWIDTH 3", "SOUND", "GETX"};
-constexpr const char* OddLines[] = {"ENDIF", "ELSE",  "IF",    "GOTO",     "LABEL",   "TO",  "END", "MAKE",  "MAKE :N",
-                                    "REPEAT", "LOAD X", "LABEL ", "GOTO $$", "UNKNOWN", "5+3", "3<4", "END ", "MAKE A=B 5",
-                                    "TO P :N", "ENDIF ", "SETPC 4", "RESOLUTION 0", "RESOLUTION 50", "RESOLUTION 1E-300",
-                                    "TO # :A", "P #TO P", "LOAD Y"};
+constexpr const char* OddLines[] = {
+    "ENDIF",   "ELSE",       "IF",      "GOTO",   "LABEL",   "TO",           "END",           "MAKE",
+    "MAKE :N", "REPEAT",     "LOAD X",  "LABEL ", "GOTO $$", "UNKNOWN",      "5+3",           "3<4",
+    "END ",    "MAKE A=B 5", "TO P :N", "ENDIF ", "SETPC 4", "RESOLUTION 0", "RESOLUTION 50", "RESOLUTION 1E-300",
+    "TO # :A", "P #TO P",    "LOAD Y"};
 
 }  // namespace
 
@@ -50,7 +71,8 @@ std::string RandomSession::Expression(int depth) {
   const int terms = 1 + Below(4);
   for (int term = 0; term < terms; ++term) {
     if (term > 0) {
-      text += wild_ && Chance(9) ? OddOperators[Below(std::size(OddOperators))] : Operators[Below(std::size(Operators))];
+      text +=
+          wild_ && Chance(9) ? OddOperators[Below(std::size(OddOperators))] : Operators[Below(std::size(Operators))];
     }
     text += depth > 0 && Chance(4) ? "(" + Expression(depth - 1) + ")" : Word();
   }
@@ -137,8 +159,7 @@ std::string RandomSession::TypedLine() {
     return call;
   }
   if (Chance(2)) {
-    const std::string inner =
-        Chance(3) ? "REPEAT " + std::to_string(Below(6)) + " [" + Statement() + "]" : Statement();
+    const std::string inner = Chance(3) ? "REPEAT " + std::to_string(Below(6)) + " [" + Statement() + "]" : Statement();
     return "REPEAT " + (Chance(4) ? Word() : std::to_string(1 + Below(30))) + " [" + Statement() + " " + inner + "]";
   }
   return Statement() + (Chance(2) ? " " + Statement() : std::string());
@@ -162,9 +183,10 @@ std::string RandomSession::Slot() {
 }
 
 std::string RandomSession::Path() {
-  constexpr const char* paths[] = {"",       " ",        "1",          ".P",          ".P- 3",     ".P- 2.BOX- 1", "P-7",
-                                   "..",     ".P-3-4",   ".P- 3.P- 3", ".P- 3.P-3",   " .P- 2",    ".-1",          "-",
-                                   ".P- -5", ".P- 1E3",  ".P-007",     ".P- 3.Q- 2 ", ".P- 40000", "#T- 2",        ". 5"};
+  constexpr const char* paths[] = {"",          " ",     "1",      ".P",         ".P- 3",     ".P- 2.BOX- 1",
+                                   "P-7",       "..",    ".P-3-4", ".P- 3.P- 3", ".P- 3.P-3", " .P- 2",
+                                   ".-1",       "-",     ".P- -5", ".P- 1E3",    ".P-007",    ".P- 3.Q- 2 ",
+                                   ".P- 40000", "#T- 2", ". 5"};
   return paths[Below(std::size(paths))];
 }
 

@@ -49,7 +49,8 @@ class Session {
     if (random_.Chance(10)) program.front() += " ";
     Both([&](auto& side) {
       for (int number = 1; number <= 2000; ++number) side.interpreter.store.SetLine(number, "");
-      for (int number = 1; const std::string& line : program) side.interpreter.store.SetLine(std::min(number++, 2000), line);
+      for (int number = 1; const std::string& line : program)
+        side.interpreter.store.SetLine(std::min(number++, 2000), line);
       side.ProgramToLoad = later;
     });
   }
@@ -76,7 +77,8 @@ class Session {
     const auto& present = present_.trace.Steps();
     const auto& literal = literal_.trace.Steps();
     const auto shorter = std::min(present.size(), literal.size());
-    const auto at = std::mismatch(present.begin(), present.begin() + static_cast<std::ptrdiff_t>(shorter), literal.begin());
+    const auto at =
+        std::mismatch(present.begin(), present.begin() + static_cast<std::ptrdiff_t>(shorter), literal.begin());
     std::string words = "after \"" + typed + "\", at step " + std::to_string(at.first - present.begin()) + " of " +
                         std::to_string(present.size()) + " and " + std::to_string(literal.size()) + "\nsteps run " +
                         std::to_string(present_.watch.Steps) + " and " + std::to_string(literal_.watch.Steps);

@@ -108,8 +108,8 @@ class Side : SurfaceRecorder {
   Surface Picture1{"Picture1", pixels};
   typename Kinds::Turtle turtle;
   typename Kinds::Interpreter interpreter{{services, watch, controls, turtle}};
-  typename Kinds::DrawingContext drawing{turtle, Picture1, controls, interpreter.arguments, services,
-                                         interpreter.dispatch};
+  typename Kinds::DrawingContext drawing{
+      turtle, Picture1, controls, interpreter.arguments, services, interpreter.dispatch};
   typename Kinds::TurtleFigure figure{controls};
   typename Kinds::TurtlePlaces places{drawing};
   typename Kinds::Motion motion{drawing};

@@ -1,7 +1,7 @@
 #include "reference/interpreter/control_path.h"
 
-#include "reference/base/numbers.h"
 #include "base/text.h"
+#include "reference/base/numbers.h"
 
 namespace zerimo::reference {
 

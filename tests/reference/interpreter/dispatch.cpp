@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "base/failure.h"
-#include "reference/base/numbers.h"
 #include "base/text.h"
+#include "reference/base/numbers.h"
 
 namespace zerimo::reference {
 
@@ -27,7 +27,9 @@ const std::string& MatchedText(MatchedBy match, const PrimitiveCall& call) {
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) { handlers_[static_cast<std::size_t>(action)] = std::move(handler); }
+void Dispatch::Bind(Action action, Handler handler) {
+  handlers_[static_cast<std::size_t>(action)] = std::move(handler);
+}
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "reference/base/numbers.h"
 #include "base/text.h"
+#include "reference/base/numbers.h"
 #include "reference/interpreter/line_entry.h"
 #include "reference/interpreter/word_table.h"
 

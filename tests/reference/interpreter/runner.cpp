@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "base/failure.h"
-#include "reference/base/numbers.h"
 #include "base/text.h"
+#include "reference/base/numbers.h"
 #include "reference/interpreter/line_entry.h"
 
 namespace zerimo::reference {

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "base/failure.h"
-#include "reference/base/numbers.h"
 #include "base/text.h"
+#include "reference/base/numbers.h"
 
 namespace zerimo::reference {
 
