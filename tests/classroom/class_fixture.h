@@ -67,6 +67,15 @@ class ClassTest : public testing::Test {
     return {};
   }
 
+  /// The notes about a program, but for that of a kernel, or a build with sanitizers, that contains no process.
+  QJsonArray NotesOf(const char* file) const {
+    QJsonArray notes;
+    for (const QJsonValue& note : Pupil(file).value("notes").toArray()) {
+      if (note.toString() != "The operating system did not contain this run.") notes.append(note);
+    }
+    return notes;
+  }
+
   /// "ended", "stopped seconds", "not run": the result, and what it was by where something stopped it.
   std::string ResultOf(const char* file) const {
     const QJsonObject pupil = Pupil(file);

@@ -73,15 +73,14 @@ TEST_F(ClassProgramTest, AMissingEndIsToldBesideWhatCameOfIt) {
   Write("SPIN.session", "LOAD SPIN\nSPIN\n");
   Run("--steps 500");
   EXPECT_EQ(ResultOf("SPIN.ZRM"), "stopped steps");
-  EXPECT_EQ(Pupil("SPIN.ZRM").value("notes").toArray(), QJsonArray{"Procedures without END: SPIN."});
+  EXPECT_EQ(NotesOf("SPIN.ZRM"), QJsonArray{"Procedures without END: SPIN."});
 }
 
 TEST_F(ClassProgramTest, OfAProgramInOneLineOnlyThatIsTold) {
   Write("LINES.ZRM", "TO LINES\nFD 10\nEND\n");
   Run();
   EXPECT_EQ(PrintedBy("LINES.ZRM"), Lines{"?LOAD LINES"});
-  EXPECT_EQ(Pupil("LINES.ZRM").value("notes").toArray(),
-            QJsonArray{"The lines of the file end in LF alone: Zerimo reads it as one line."});
+  EXPECT_EQ(NotesOf("LINES.ZRM"), QJsonArray{"The lines of the file end in LF alone: Zerimo reads it as one line."});
 }
 
 TEST_F(ClassProgramTest, AnEndlessOutputIsCut) {
@@ -260,8 +259,8 @@ TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
 TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
   for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM"}) Write(name, "TO X|CS|FD 9|PRINT 7|END|");
   Program.Write("list", "class/A.ZRM\nclass/B.ZRM\nclass/C.ZRM\n");
-  EXPECT_EQ(Program.Run("--list list --shard 1/2 --jsonl 1.jsonl").Status, 0);
-  EXPECT_EQ(Program.Run("--list list --shard 2/2 --jsonl 2.jsonl").Status, 0);
+  EXPECT_EQ(Program.Run("--list list --shard 1/2 --jobs 1 --jsonl 1.jsonl").Status, 0);
+  EXPECT_EQ(Program.Run("--list list --shard 2/2 --jobs 1 --jsonl 2.jsonl").Status, 0);
   EXPECT_EQ(std::ranges::count(Program.Read("1.jsonl"), '\n'), 2);
   EXPECT_EQ(std::ranges::count(Program.Read("2.jsonl"), '\n'), 1);
   const ProgramRun run = Program.Run("--merge 1.jsonl 2.jsonl --out all.html --csv all.csv");
