@@ -41,7 +41,7 @@ struct Stopped {
   std::string By;
 };
 
-/// The skip rule for one statement: runs it, and passes over it without a word if it fails.
+/// The skip rule for one statement: runs it, and skips it without a word if it fails.
 /// Tells whether the statement went through. Code under the rule wraps each of its statements in a call of this; if
 /// the statement heads a loop or a condition, a failure goes on inside it.
 template <typename Statement>

@@ -12,7 +12,7 @@ class ScreenModes {
   ScreenModes(const DrawingContext& context, Store& store, Files& files)
       : context_(context), store_(store), files_(files) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
   /// Brings back the split screen without `Executor`: F2 on the surface and on the form.

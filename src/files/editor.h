@@ -9,7 +9,7 @@ class Editor {
  public:
   explicit Editor(const FilesContext& context) : interpreter_(context.interpreter), controls_(context.controls) {}
 
-  /// Sets the work of `EDIT`.
+  /// Binds `EDIT` to what it does.
   void Bind();
 
   /// F2: back to the split screen, tidies the editor's text and fills the store from it. Not under the skip rule.

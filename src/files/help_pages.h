@@ -11,7 +11,7 @@ class HelpPages {
  public:
   explicit HelpPages(const FilesContext& context) : context_(context) {}
 
-  /// Sets the work of `HELP`.
+  /// Binds `HELP` to what it does.
   void Bind();
 
   /// Loads the page selected in the list. Fails (file).

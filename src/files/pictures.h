@@ -13,7 +13,7 @@ class Pictures {
  public:
   Pictures(const FilesContext& context, Surface& picture1) : context_(context), Picture1(picture1) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
   /// Loads a picture file, named as the system names it, as the background. Fails (file, invalid picture).

@@ -15,7 +15,7 @@ class ProgramFiles {
   /// Whether a name ends in .ZRM, in any case.
   static bool IsProgramName(const std::string& name);
 
-  /// Sets the work of `LOAD`.
+  /// Binds `LOAD` to what it does.
   void Bind();
 
   /// Adds a file to the editor's text and to the store; the argument is the path without extension. A failure is told

@@ -76,7 +76,7 @@ void Append(Paragraph& paragraph, std::string_view text, const CharacterForm& fo
 /// Whether a page is rich text (RTF): it begins with "{\rtf".
 bool IsRtf(std::string_view bytes);
 
-/// Reads RTF. What is unknown is passed over, and its text is kept. Never fails: text that is no RTF at all gives what
+/// Reads RTF. What is unknown is skipped, and its text is kept. Never fails: text that is no RTF at all gives what
 /// can be read of it. Beyond `MostParagraphs` and `MostRuns` the text goes on in the last one.
 RichText ReadRtf(std::string_view rtf);
 inline constexpr std::size_t MostParagraphs = 100000;

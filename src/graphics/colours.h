@@ -10,7 +10,7 @@ class Colours {
  public:
   Colours(const DrawingContext& context, TurtleFigure& turtleFigure) : context_(context), turtleFigure_(turtleFigure) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
   /// Changes the background under a drawing, point by point on a lattice. Nothing calls it. Fails as its steps do.

@@ -10,7 +10,7 @@ class Motion {
  public:
   explicit Motion(const DrawingContext& context) : context_(context) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
  private:

@@ -15,7 +15,7 @@ class Palette {
 
   /// The hint that follows the mouse; x and y are surface units. Fails at a `Resolution` of 0.
   void Picture1MouseMove(float x, float y);
-  /// Puts the window back and gives the focus to the first empty row; a refused focus is passed over.
+  /// Puts the window back and gives the focus to the first empty row; a refused focus is ignored.
   void Picture1Click();
   /// Places the dropped control.
   void Picture1DragDrop(Control& source, float x, float y);

@@ -11,7 +11,7 @@ class Shapes {
  public:
   explicit Shapes(const DrawingContext& context) : context_(context) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to what they do.
   void Bind();
 
  private:

@@ -15,7 +15,7 @@ class Arguments {
   Arguments(const Variables& variables, const Arithmetic& arithmetic)
       : variables_(variables), arithmetic_(arithmetic) {}
 
-  /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is passed over; a value that could not
+  /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is skipped; a value that could not
   /// be computed is 0.
   double Number(std::string_view input) const;
 

@@ -36,7 +36,7 @@ class Dispatch {
 
   explicit Dispatch(Services& services) : services_(services) {}
 
-  /// Sets the work of an action. An action with none does nothing (but for its missing-input test).
+  /// Binds an action to what it does. An action with none does nothing (but for its missing-input test).
   void Bind(Action action, Handler handler);
 
   /// Carries out one line; the caller's text is trimmed.
