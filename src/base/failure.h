@@ -41,9 +41,10 @@ struct Stopped {
   std::string By;
 };
 
-/// The skip rule for one statement: runs it, and skips it without a word if it fails.
-/// Tells whether the statement went through. Code under the rule wraps each of its statements in a call of this; if
-/// the statement heads a loop or a condition, a failure goes on inside it.
+/// The skip rule for one statement: runs it and, if it fails, goes on without a word. Returns whether it succeeded.
+/// Code under the rule wraps each of its statements in a call of this; if the statement heads a loop or a condition, a
+/// failure goes on inside it.
+/// Behaviour: docs/interpreter.md, "The skip rule".
 template <typename Statement>
 bool PassOver(Statement&& statement) {
   try {

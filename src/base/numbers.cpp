@@ -75,7 +75,7 @@ std::string DecimalNumber(std::string_view text) {
   return number;
 }
 
-/// A text of some digits and nothing else, which most are.
+/// The number in a text of at most 15 digits and nothing else, the most common case.
 std::optional<double> WholeNumber(std::string_view text) {
   constexpr std::size_t mostDigits = 15;
   if (text.empty() || text.size() > mostDigits) return std::nullopt;
@@ -92,7 +92,7 @@ double ExponentOf(std::string_view number) {
   const auto mark = number.find('e');
   if (mark == std::string_view::npos) return 0;
   const char* const first = number.data() + mark + (number[mark + 1] == '+' ? 2 : 1);
-  // What is too long to be read stays as it is here.
+  // An exponent too long to be read keeps this value.
   double exponent = *first == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
   std::from_chars(first, number.data() + number.size(), exponent);
   return exponent;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 /// The conversions between numbers and texts, and the roundings. Everything in the system uses these.
+/// Behaviour: docs/interpreter.md, "Text".
 namespace zerimo {
 
 /// The number at the beginning of a text. Blanks, tabs and line feeds are skipped wherever they stand; an optional

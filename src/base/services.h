@@ -17,12 +17,12 @@ inline constexpr int Critical = 16;
 inline constexpr int Information = 64;
 }  // namespace box
 
-/// What the system asks of the desktop. Two shells give it: the window and the batch runner.
+/// What the system asks of the desktop. Two shells provide it: the window and the batch runner.
 class Services {
  public:
   virtual ~Services() = default;
 
-  /// Shows a modal box and returns the button pressed. An empty title stands for none of the system's own.
+  /// Shows a modal box and returns the button pressed. With an empty `title` the system sets no title of its own.
   virtual Answer MessageBox(const std::string& text, int style = box::Plain, const std::string& title = {}) = 0;
 
   /// Shows a modal input box and returns the answer; empty also if it was cancelled.

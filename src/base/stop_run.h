@@ -2,7 +2,7 @@
 
 namespace zerimo {
 
-/// The user has stopped the line that runs. A shell throws it from a service or the watch. The walk ends as if its
+/// The user has stopped the running line. A shell throws it from a service or the watch. The walk ends as if its
 /// procedures had ended; a stop outside a walk is caught by the shell.
 struct StopRun {};
 

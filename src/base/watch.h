@@ -2,8 +2,8 @@
 
 namespace zerimo {
 
-/// Watches over a run that may never end. A shell keeps its limits here, lets the window repaint, and throws `Stopped`
-/// or `Ended` to leave a run from wherever it hangs.
+/// Watches over a run that may never end. A shell enforces its limits here, lets the window repaint, and throws
+/// `Stopped` or `Ended` to leave a run wherever it is.
 class Watch {
  public:
   virtual ~Watch() = default;

@@ -18,30 +18,30 @@ class Control;
 /// A colour value: red + 256 * green + 65536 * blue.
 using Colour = std::int32_t;
 
-/// The value of one property as it is told to the outside.
+/// The value of one property, as `ReadProperties` reports it.
 using PropertyValue = std::variant<bool, double, float, std::string, std::vector<std::string>>;
 
-/// Receives the properties of a control, name and value, in the settled order.
+/// Receives the properties of a control, name and value, in a fixed order.
 using PropertyReader = std::function<void(const char* name, const PropertyValue& value)>;
 
-/// Who has the focus in a window. At most one control has it; a control that becomes hidden, itself or with its
-/// panel, loses it, and then nothing has it until something is given it.
+/// Keeps track of the control that has the focus. At most one has it. A control that becomes hidden, itself or with its
+/// panel, loses it; then none has it until it is given to one.
 class FocusKeeper {
  public:
-  /// The control that has the focus, or nothing.
+  /// The control that has the focus, or null.
   Control* Focus() const { return focus_; }
 
-  /// Gives the focus to a control; fails (focus refused) if the control or a panel that it lies on is hidden.
+  /// Gives the focus to a control; fails (focus refused) if the control or a panel that holds it is hidden.
   void SetFocus(Control& control);
 
-  /// To be called when the visibility of any control has changed.
+  /// Must be called when the visibility of any control has changed.
   void VisibilityChanged();
 
  private:
   Control* focus_ = nullptr;
 };
 
-/// What all visible controls have.
+/// What all visible controls have in common.
 class Control {
  public:
   Control(std::string name, Control* panel = nullptr, FocusKeeper* keeper = nullptr);
@@ -51,14 +51,14 @@ class Control {
 
   /// The control's name, with its index if it is an element of an array: "List4", "Text1(0)".
   const std::string& Name() const { return name_; }
-  /// The control that it lies on; nothing for the window itself and for what lies on the window.
+  /// The panel that holds it; null for the window itself and for what is directly on the window.
   Control* Panel() const { return panel_; }
 
   bool Visible() const { return visible_; }
   void SetVisible(bool value);
   void Show() { SetVisible(true); }
   void Hide() { SetVisible(false); }
-  /// Visible itself and with all panels that it lies on.
+  /// Whether it and all panels that hold it are visible.
   bool IsOnScreen() const;
 
   float Left = 0;
@@ -68,7 +68,7 @@ class Control {
   float Height() const { return height; }
   virtual void SetHeight(float value) { height = value; }
 
-  /// Tells the properties: first the visible ones of every control, then the kind's own.
+  /// Reports the properties: first those that visible controls have in common, then the kind's own.
   virtual void ReadProperties(const PropertyReader& read) const;
 
  protected:
@@ -88,7 +88,7 @@ class Window : public Control {
   /// The title bar's text.
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string text);
-  /// Called for each assignment of the caption if set.
+  /// If set, called at each assignment of the caption.
   std::function<void(const std::string& text)> OnCaption;
   void ReadProperties(const PropertyReader& read) const override;
 
@@ -107,7 +107,7 @@ class TextBox : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 };
 
-/// A list of texts. Every change counts `Version` up, so that a shell shows only what is new.
+/// A list of texts. Every change increases `Version`, so that a shell can show only what is new.
 class ListBox : public Control {
  public:
   using Control::Control;
@@ -116,15 +116,15 @@ class ListBox : public Control {
   void Add(std::string item);
   void Clear();
 
-  /// Puts off filling the list: `fill` is called for the items when somebody first asks for them. What it gives must
-  /// stay what the list holds at this moment.
+  /// Puts off filling the list: `fill` is called when the items are first asked for. It must then return the items as
+  /// of now.
   void SetLazily(std::function<std::vector<std::string>()> fill);
 
   std::uint64_t Version() const { return version_; }
-  /// Counts the clearings, so that a shell knows whether a new version only adds behind the old one.
+  /// Counts the clearings, so that a shell knows whether a new version only adds to the end of the old one.
   std::uint64_t Clearings() const { return clearings_; }
 
-  /// Called for each assignment if set: with the item for an addition, with nothing for a clearing.
+  /// If set, `Add` calls it with the item and `Clear` with null.
   std::function<void(const std::string* item)> OnChange;
 
   Colour BackColor = 0xFFFFFF;
@@ -139,7 +139,7 @@ class ListBox : public Control {
   std::uint64_t clearings_ = 0;
 };
 
-/// A line of text that the user can't change; also used where a label is a colour square.
+/// A line of text that the user can't change; some labels serve as colour squares.
 class Label : public Control {
  public:
   using Control::Control;
@@ -178,7 +178,7 @@ class CheckBox : public Control {
  public:
   using Control::Control;
   std::string Caption;
-  /// 0 not marked, 1 marked.
+  /// 0 unchecked, 1 checked.
   int Value = 0;
   void ReadProperties(const PropertyReader& read) const override;
 };
@@ -193,7 +193,7 @@ class ScrollBar : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 };
 
-/// A light figure above the surface or the palette: a circle or a frame.
+/// A lightweight figure over the surface or the palette: a circle or a frame.
 class Shape : public Control {
  public:
   using Control::Control;
@@ -203,7 +203,7 @@ class Shape : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 };
 
-/// A light line above the surface. Its ends are in surface units.
+/// A lightweight line over the surface. Its ends are in surface units.
 class LightLine : public Control {
  public:
   using Control::Control;
@@ -244,17 +244,17 @@ class FileListBox : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 };
 
-/// The rich-text view. `Document` is the page in its rich-text form (RTF), whatever form the file had.
+/// The rich-text view. `Document` is the page as rich text (RTF), whatever format the file had.
 class RichTextView : public Control {
  public:
   using Control::Control;
   /// The file that was loaded last.
   std::string FileName;
-  /// The page's words without their form.
+  /// The page's text without formatting.
   std::string Text;
   /// The page in RTF.
   std::string Document;
-  /// Counts the loads, so that a shell shows what is new.
+  /// Counts the loads, so that a shell notices a new page.
   std::uint64_t Version = 0;
   void ReadProperties(const PropertyReader& read) const override;
 };

@@ -15,7 +15,7 @@ struct ScreenSize {
   float Height = 11520;
 };
 
-/// An array of controls with the numbered names of their kind: "Text1(0)", "Text1(1)", ...
+/// An array of controls with numbered names: "Text1(0)", "Text1(1)", ...
 template <typename Kind, int Count>
 class ControlArray {
  public:
@@ -35,11 +35,11 @@ class ControlArray {
   std::array<std::unique_ptr<Kind>, static_cast<std::size_t>(Count)> controls_;
 };
 
-/// Every control of the window but the surface, with the values of the form's design.
+/// Every control of the window but the surface, with the values that the design of the form gives them.
 struct Controls {
   explicit Controls(ScreenSize screen);
 
-  /// Calls `visit(control)` for every control, `Form1` first.
+  /// Calls `visit(control)` for every control, `Form1` first. Timers are not visited.
   template <typename Visitor>
   void ForEach(Visitor&& visit);
 

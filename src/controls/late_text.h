@@ -8,17 +8,17 @@
 
 namespace zerimo {
 
-/// A text that can be put off: while it follows a source, it is asked for only when somebody reads it.
+/// A text that can be made late: while it follows a source, the source is asked only when the text is read.
 class LateText {
  public:
   using Source = std::function<const std::string&()>;
 
   LateText() = default;
-  // A text is meant wherever one of these stands.
+  // Implicit, so that plain text can be assigned and passed.
   LateText(std::string text) : text_(std::move(text)) {}  // NOLINT(google-explicit-constructor)
   LateText(const char* text) : text_(text) {}             // NOLINT(google-explicit-constructor)
 
-  /// From now on it is what the source gives, until something is assigned or `Keep` is called.
+  /// The text is what the source gives, until another text is assigned or `Keep` is called.
   void Follow(Source source) { source_ = std::move(source); }
   bool Follows() const { return source_ != nullptr; }
 

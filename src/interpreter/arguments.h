@@ -8,8 +8,9 @@
 
 namespace zerimo {
 
-/// How a primitive gets its numbers: each argument's text passes four stages, and each stage is a statement of its own
-/// under the skip rule.
+/// How a primitive gets its numbers: each argument's text passes through four stages, and each stage is a statement of
+/// its own under the skip rule.
+/// Behaviour: docs/interpreter.md, "The four stages of an input".
 class Arguments {
  public:
   Arguments(const Variables& variables, const Arithmetic& arithmetic)

@@ -9,6 +9,7 @@
 
 /// Arithmetic by rewriting text: brackets are replaced by the text of their value, the rest is cut into tokens, and a
 /// fixed series of passes rewrites the tokens one operator at a time. The precedence is the order of the passes.
+/// Behaviour: docs/interpreter.md, "Arithmetic".
 namespace zerimo {
 
 /// The tokens of one expression, indexes 0 to 100; index 0 is never written. Reading or writing outside fails
@@ -50,7 +51,7 @@ std::int16_t Brackets(std::string_view expression);
 
 void SpaceRemover(TokenArray& tokens);
 void UnaryMinusProcessor(TokenArray& tokens);
-/// Each performs the leftmost one of its operation.
+/// Each performs the leftmost of its operations.
 void Remainder(TokenArray& tokens);
 void Divider(TokenArray& tokens);
 void Multiplier(TokenArray& tokens);

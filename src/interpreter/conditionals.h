@@ -12,7 +12,8 @@
 
 namespace zerimo {
 
-/// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines. What was found holds until a line changes.
+/// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines. Results are kept until a line changes.
+/// Behaviour: docs/interpreter.md, "IF, ELSE, ENDIF, GOTO, LABEL".
 class Conditionals {
  public:
   explicit Conditionals(const ProgramContext& context)
@@ -34,7 +35,7 @@ class Conditionals {
   bool Holds(int lineNumber) const;
   Branches BranchesOf(int lineNumber);
   std::int16_t FindLabel(std::string_view labelName) const;
-  /// The line of the `ELSE` that is taken for this `IF`'s, or 0.
+  /// The line of the `ELSE` that counts as this `IF`'s, or 0.
   int FindElse(int lineNumber) const;
   /// The line of the `ENDIF` of this `IF`, or 0.
   int FindEndIf(int lineNumber) const;

@@ -42,7 +42,7 @@ void ControlPath::SetCtrlStr(std::string text) {
   HeadHasChanged();
 }
 
-/// Only what `WriteLine` writes: other spellings of a number stay text.
+/// Reads only what `WriteLine` writes: other spellings of a number stay text.
 std::optional<ControlPath::Reached> ControlPath::ReadReached(std::string_view text) {
   constexpr std::size_t mostDigits = 9;
   const Lead form = text.starts_with(' ') ? Lead::Blank : Lead::None;

@@ -7,28 +7,29 @@
 
 namespace zerimo {
 
-/// The control string: the dotted path of the active procedures with the line reached in each, such as
-/// ".#TEMP$7- 5.BOX- 3". "." means that nothing runs. It is the only call stack.
+/// The control string: the dotted path of the active procedures with the line reached in each, such as ".#TEMP$7-
+/// 5.BOX- 3". "." means that nothing runs. It is the only call stack.
+/// Behaviour: docs/interpreter.md, "The control string".
 ///
-/// The path is a head, which ends with its last "-", and the line number behind it; its text is made when somebody
-/// reads it. A path that is not of that form is kept as text.
+/// The path is a head, which ends with its last "-", and the line number after it; the text is made when it is read. A
+/// path that is not of that form is kept as text.
 class ControlPath {
  public:
-  /// Whether a number is written with the blank of `Str` in front, or plain.
+  /// Whether a number is written with the leading blank of `Str`, or plain.
   enum class Lead { Blank, None };
 
   const std::string& CtrlStr() const;
 
-  /// The path becomes any text.
+  /// Sets the path to any text.
   void SetCtrlStr(std::string text);
 
-  /// Writes a line number behind the first part of the path (`FirstPartExtractor`).
+  /// Writes a line number after the first part of the path (`FirstPartExtractor`).
   void WriteLine(int line, Lead lead);
 
   /// A call: the line of the call in place of the last number, then the procedure and its first line.
   void Enter(int callLine, std::string_view procedure, int firstLine);
 
-  /// Takes away the last component; false if there was only one, so that nothing runs.
+  /// Removes the last component; false if there was only one, so that nothing runs.
   bool Leave();
 
   /// The line reached (`EndValExtractor`).
@@ -58,12 +59,12 @@ class ControlPath {
   static std::optional<Reached> ReadReached(std::string_view text);
   void HeadHasChanged();
 
-  /// With `reached_` the head, else the whole path.
+  /// The head if `reached_` is set, otherwise the whole path.
   std::string head_ = ".";
   std::optional<Reached> reached_;
   mutable std::string text_ = ".";
   mutable bool textIsMade_ = true;
-  // What follows from the head.
+  // Derived from the head.
   std::string procedureName_;
   /// The line at which the last two components are the same text.
   std::optional<Reached> recursionAt_;
@@ -72,23 +73,23 @@ class ControlPath {
 /// The text up to and including its last "-"; no "-" gives the empty text.
 std::string FirstPartExtractor(std::string_view text);
 
-/// The number behind the last "-", rounded; fails (overflow) beyond 16 bits.
+/// The number after the last "-", rounded; fails (overflow) beyond 16 bits.
 std::int16_t EndValExtractor(std::string_view text);
 
-/// The trimmed characters in front of the first blank, or all of them.
+/// The trimmed characters before the first blank, or all of them.
 std::string GetProcNameFromProcedureCall(std::string_view procedureCall);
 
 /// The path without its last component; "." if the text holds one "." or none.
 std::string CurrentProcedureRemover(std::string_view path);
 
-/// Drops the last component if it is the same text as the one before it, so that a recursion keeps the path's length.
-/// The test is on the text: " 5" and "5" differ. Shortens its argument in place and returns it.
+/// Drops the last component if it is the same text as the one before it, so that a recursion does not lengthen the
+/// path. The test is on the text: " 5" and "5" differ. Shortens its argument in place and returns it.
 std::string RecursionChecker(std::string& path);
 
 /// The position of the last ".". Nothing calls it.
 int RightMostDotPos(std::string_view text);
 
-/// The text in front of the last "-", trimmed, then "-", then the number after it plus 1. Nothing calls it.
+/// The text before the last "-", trimmed, then "-", then the number after it plus 1. Nothing calls it.
 std::string ForwardCtrlString(std::string_view text);
 
 }  // namespace zerimo

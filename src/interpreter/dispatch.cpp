@@ -35,7 +35,7 @@ void Dispatch::Executor(std::string& commandLine) {
 }
 
 void Dispatch::Execute(const std::string& line, Action action) {
-  // An action may change the line's place in the store: the call has a copy.
+  // An action may overwrite the line in the store, so the call keeps a copy.
   PrimitiveCall call = Split(line);
   if (action != Action::None) {
     const Handler& handler = handlers_[static_cast<std::size_t>(action)];
@@ -62,7 +62,7 @@ bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
       services_.MessageBox(text);
       break;
     default:
-      // The answer is not looked at.
+      // The answer makes no difference.
       services_.MessageBox(text, box::AbortRetryIgnore, "Zerimo");
       break;
   }

@@ -17,11 +17,11 @@ struct PrimitiveCall {
   std::string CommandLine;
   /// The first word.
   std::string Word;
-  /// What stands behind the first word; an action may rewrite it.
+  /// The text after the first word; an action may rewrite it.
   std::string Rest;
   /// The copy of Rest that the missing-input test looks at.
   std::string SavedRest;
-  /// Takes over if a statement of the tail fails, instead of the skip rule, when an action has set it.
+  /// If an action sets it, a failing statement of the tail calls it instead of being skipped.
   std::function<void()> OnFailure;
 
   /// Whether the saved copy of Rest is the empty text or one blank.
@@ -30,13 +30,14 @@ struct PrimitiveCall {
 
 /// Carries out primitive lines: the line and its first word are compared with each primitive's name, and the action
 /// bound to the name does the work. Runs under the skip rule; so do the actions, statement by statement.
+/// Behaviour: docs/interpreter.md, "Carrying out a word".
 class Dispatch {
  public:
   using Handler = std::function<void(PrimitiveCall&)>;
 
   explicit Dispatch(Services& services) : services_(services) {}
 
-  /// Binds an action to what it does. An action with none does nothing (but for its missing-input test).
+  /// Binds an action to what it does. Without a handler an action does nothing (but for its missing-input test).
   void Bind(Action action, Handler handler);
 
   /// Carries out one line; the caller's text is trimmed.
@@ -48,22 +49,22 @@ class Dispatch {
   /// The same for a trimmed line whose action is known (`ActionOf`).
   void Execute(const std::string& line, Action action);
 
-  /// Shows the box for a missing input if the input is missing, and tells whether it was.
+  /// If the input is missing, shows the box that says so. Returns whether it was missing.
   bool TellMissingInput(const PrimitiveCall& call, Action action);
 
-  /// The steps of the tail that other rooms do: move the figure, write the status line, refresh the surface.
+  /// The steps of the tail that other rooms provide: move the figure, write the status line, refresh the surface.
   std::function<void()> TurtlePos = [] {};
   std::function<void()> TitleText = [] {};
   std::function<void()> RefreshSurface = [] {};
 
-  /// `SHOW DETAILS` is in force.
+  /// `SHOW DETAILS` is on.
   bool DetailsOn = false;
   /// Primitive calls so far, stopping at 32767.
   std::int16_t OverflowCount = 0;
 
  private:
   void Tail(const PrimitiveCall& call);
-  /// The count that is full fails each time; the failure is told without being thrown.
+  /// A full count fails each time; the failure is reported without being thrown.
   void CountFails(const PrimitiveCall& call);
   bool TailStatement(const PrimitiveCall& call, const std::function<void()>& statement);
 

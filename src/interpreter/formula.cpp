@@ -19,7 +19,7 @@ bool IsPlain(double number) {
   return size < PlainBelow && (size >= PlainFrom || size == 0);
 }
 
-/// What is left of a number that is written as text and read again.
+/// A number after it has been written as text and read back.
 double ThroughText(double number) {
   // Added to 0, so that no minus zero is left.
   if (std::abs(number) < PlainBelow && number == std::trunc(number)) return number + 0.0;
@@ -68,12 +68,12 @@ class Evaluation {
       bool subtracts = term.Sign == '-';
       if (!ReadFactors(term)) return std::nullopt;
       if (vanished_) {
-        // The sign behind it would stick to the next number and not to the next term.
+        // The sign after it would stick to the next number and not to the next term.
         const bool heads = at == 0 && sum.size() > 1 && sum[1].Factors.size() > 1;
         if (term.Factors.size() > 1 || heads) return std::nullopt;
         continue;
       }
-      // A minus sign that is pasted behind another sign is the one that counts.
+      // A minus sign that is pasted after another sign is the one that counts.
       if (at > 0 && factors_[0] < 0) {
         subtracts = true;
         factors_[0] = -factors_[0];
@@ -119,7 +119,7 @@ class Evaluation {
   const OperandSource& source_;
   std::array<double, Formula::MostFactors> factors_;
   std::array<double, Formula::MostFactors> brackets_;
-  /// Whether a factor of the term has left nothing in the text.
+  /// Whether a factor of the term has vanished from the text.
   bool vanished_ = false;
 };
 

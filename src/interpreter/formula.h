@@ -7,7 +7,7 @@
 
 namespace zerimo {
 
-/// What stands at a place of an expression before its names are replaced.
+/// One operand of an expression, before its names are replaced.
 struct Operand {
   enum class Kind : std::uint8_t {
     /// A number of the text itself.
@@ -20,7 +20,7 @@ struct Operand {
     YCor,
     /// The value of a pair of brackets.
     Bracket,
-    /// Nothing stands in front of the sign.
+    /// There is nothing before the sign.
     Nothing,
   };
   bool IsName() const { return What == Kind::Local || What == Kind::Global; }
@@ -39,13 +39,13 @@ class OperandSource {
   virtual std::optional<double> NumberOf(const Operand& operand) const = 0;
 };
 
-/// An expression whose passes were done once: the operations over numbers that are left when every pasted text is a
-/// plain number. What is not of that form, and what fails, has no value here and takes the literal road.
+/// An expression whose passes are done once and for all: the operations on numbers that remain if every pasted text is
+/// a plain number. Anything else, and whatever fails, has no value here and is evaluated literally.
 class Formula {
  public:
   static constexpr int MostFactors = 24;
 
-  /// One operation inside a term, in the order of the passes. The result takes the left place.
+  /// One operation inside a term, in the order of the passes. The result goes to the left place.
   struct Step {
     char Operator;
     std::uint8_t Left;
@@ -72,7 +72,7 @@ class Formula {
   /// Whether a condition holds.
   std::optional<bool> Holds(const OperandSource& source) const;
 
-  /// The operand, if the expression is nothing else.
+  /// The operand if the expression is nothing else, otherwise null.
   const Operand* OnlyOperand() const;
 };
 

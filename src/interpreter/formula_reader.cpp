@@ -18,7 +18,7 @@ constexpr std::string_view Digits = "0123456789";
 
 bool IsDigit(char character) { return Digits.find(character) != std::string_view::npos; }
 
-/// A name replaced by a value leaves a mark in the text: no other procedure takes it for a name or a sign.
+/// Marks stand for replaced names in a text: nothing takes them for a name or a sign.
 constexpr char FirstMark = '\x01';
 constexpr char LastMark = '\x08';
 
@@ -67,7 +67,7 @@ class MarkedText {
     return true;
   }
 
-  /// `VariableFinder`, for which a mark is no name.
+  /// `VariableFinder`, with marks taken for digits.
   std::string VariableName() const {
     std::string digits = text_;
     std::ranges::replace_if(digits, IsMark, '1');

@@ -11,7 +11,7 @@
 namespace zerimo {
 
 /// The names that a text is read with: the locals of the running procedure, in the order in which they are replaced,
-/// and where a global stands.
+/// and the slots of the globals.
 struct NamesInUse {
   struct Local {
     std::string Name;
@@ -22,11 +22,11 @@ struct NamesInUse {
   std::function<int(std::string_view name)> GlobalSlot;
 };
 
-/// Whether a name is made of name characters alone, so that no pasted number can hold it.
+/// Whether a name is made of name characters alone, so that no pasted number can contain it.
 bool IsOrdinaryName(std::string_view name);
 
-/// The formula of an expression or a condition for a state of the names; nothing if it is not made of numbers, names,
-/// operators and brackets in the usual order.
+/// The formula of an expression or a condition, read with these names; nothing if it does not consist of numbers,
+/// names, operators and brackets in the usual order.
 std::optional<Formula> ReadFormula(std::string_view text, const NamesInUse& names);
 
 }  // namespace zerimo

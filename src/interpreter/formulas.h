@@ -15,14 +15,14 @@ namespace zerimo {
 
 class Variables;
 
-/// The formulas of the texts that were evaluated, each for the state of the names and the procedure that it was read
-/// in. Another state or another procedure reads it anew.
+/// The formulas of evaluated texts, each for the procedure and the state of the names in which it was read. In another
+/// procedure or state the text is read again.
 class Formulas {
  public:
   Formulas(const Variables& variables, const OperandSource& source, const ControlPath& controlPath)
       : variables_(variables), source_(source), controlPath_(controlPath) {}
 
-  /// The value of an expression, if its literal evaluation is known to give it.
+  /// The value of an expression, if literal evaluation is known to give the same.
   std::optional<double> Value(std::string_view expression);
   /// The same for a condition.
   std::optional<bool> Holds(std::string_view condition);

@@ -20,14 +20,14 @@ void Inputs::CreateLocalVariable(int lineNumber) {
 void Inputs::CreateLocals(const Words& call) {
   const int header = store_.WhereProcedure(Trimmed(call.At(1)));
   const LineForm& line = store_.FormOf(header);
-  // What is found as a header need not be of that class.
+  // The line that is found as a header may be of another class.
   const std::optional<Words> other = line.Header ? std::nullopt : std::optional(WordsOfHeader(store_.Line(header)));
   const Words& names = other ? *other : *line.Header;
 
   int slot = variables_.FirstOpenSlot();
   for (int word = 2; !call.Ends(word) && !names.Ends(word + 1); ++word) {
     std::string value = InputText(call.At(word));
-    // The slots are filled one after the other without a look at what they hold.
+    // The slots are filled one after the other, whatever they hold.
     variables_.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
   }
   variables_.RebuildList2();

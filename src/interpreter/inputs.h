@@ -11,7 +11,8 @@
 namespace zerimo {
 
 /// The inputs of procedures: entries PROCEDURE.NAME=text among the variables. There are no frames: nothing tells one
-/// activation's entries from another's.
+/// call's entries from another's.
+/// Behaviour: docs/interpreter.md, "Inputs of procedures".
 class Inputs {
  public:
   explicit Inputs(const ProgramContext& context)

@@ -10,25 +10,25 @@
 
 namespace zerimo {
 
-/// What follows from the text of one line of the store. It is made when it is first asked for, and dropped when the
+/// What is derived from the text of one line of the store. It is made when it is first asked for, and dropped when the
 /// line changes.
 struct LineForm {
   explicit LineForm(std::string_view line);
 
   StatementClass Class;
-  /// Of a primitive: the action that the line selects, `Action::None` for none.
+  /// Of a primitive: its action, or `Action::None`.
   Action Primitive = Action::None;
-  /// Of a `MAKE`: the name as the table keeps it, and the text of the value.
+  /// Of a `MAKE`: the name as the slots hold it, and the text of the value.
   std::string Name;
   std::string Value;
   /// Of an `IF`: the condition.
   std::string Condition;
-  /// Of a call and of a header (behind its `TO`): the words, unless there are too many.
+  /// Of a call and of a header (after its `TO`): the words, unless there are too many.
   std::optional<Words> Call;
   std::optional<Words> Header;
 };
 
-/// The words of a `MAKE` line: the name as the table keeps it and the text of the value.
+/// The words of a `MAKE` line: the name as the slots hold it, and the text of the value.
 struct MakeWords {
   explicit MakeWords(std::string_view line);
 

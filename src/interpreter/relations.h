@@ -5,10 +5,11 @@
 
 #include "interpreter/arithmetic.h"
 
+/// Comparisons. Behaviour: docs/interpreter.md, "Relations".
 namespace zerimo {
 
-/// Decides a condition with at most one comparison ("<", ">", "<=", ">=", "!", "!=", "="). Without one, any value but
-/// 0 is true, and the caller's text comes back with its brackets replaced. Fails as its sides do.
+/// Decides a condition with at most one comparison ("<", ">", "<=", ">=", "!", "!=", "="). Without one, any value but 0
+/// is true, and the caller's text comes back with its brackets replaced. Fails as its sides do.
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic);
 
 /// Whether a comparison ("<", ">", "<=", ">=", "!", "!=", "=") holds; "==" never does.

@@ -15,7 +15,7 @@ namespace {
 
 using Lead = ControlPath::Lead;
 
-/// Shows the control string in a label as long as a run lasts, and keeps what it is at the end, however the run ends.
+/// Shows the control string in a label during a run, and leaves its last state there, however the run ends.
 class ShownPath {
  public:
   ShownPath(Label& label, const ControlPath& path) : label_(label), path_(path) {}
@@ -26,7 +26,7 @@ class ShownPath {
   ShownPath(const ShownPath&) = delete;
   ShownPath& operator=(const ShownPath&) = delete;
 
-  /// Seen while a box holds the run.
+  /// For the user to see while a box is open.
   void Follow() {
     label_.Caption.Follow([this]() -> const std::string& { return path_.CtrlStr(); });
   }
@@ -36,7 +36,7 @@ class ShownPath {
   const ControlPath& path_;
 };
 
-/// The procedures on the path of a stopped walk, the innermost first. A recursion names one many times.
+/// The procedures on the path of a stopped walk, the innermost first, each once: a recursion names one many times.
 std::vector<std::string> ProceduresOn(const std::string& path) {
   std::vector<std::string> names;
   std::set<std::string> seen;
@@ -174,7 +174,7 @@ void Runner::ActOnGoto(Walk& walk) {
 }
 
 void Runner::ActOnLabel(Walk& walk) {
-  // From the text and not from the counter: behind an ENDIF the text is one ahead, and a line is skipped.
+  // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
   PassOver([&] { walk.Line = controlPath_.LineReached() + 1; });
   controlPath_.WriteLine(walk.Line, Lead::None);
 }

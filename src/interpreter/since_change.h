@@ -9,7 +9,7 @@
 
 namespace zerimo {
 
-/// A value that holds as long as a count of changes stays the same.
+/// A value that is valid as long as a count of changes stays the same.
 template <typename Value>
 class SinceChange {
  public:
@@ -34,11 +34,11 @@ struct TextHash {
   std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
 };
 
-/// Values by texts, found without a copy of the text.
+/// A map from texts to values; a look-up copies no text.
 template <typename Value>
 using TextMap = std::unordered_map<std::string, Value, TextHash, std::equal_to<>>;
 
-/// The value of a text, made if there is none yet; if `make` fails, nothing is kept. A map that has grown large is
+/// The value for a text, made if there is none yet; if `make` fails, nothing is kept. A map that has grown large is
 /// emptied first.
 template <typename Value, typename Make>
 Value& FindOrMake(TextMap<Value>& map, std::string_view text, Make&& make) {

@@ -30,7 +30,7 @@ SlotForm::SlotForm(std::string_view slot) {
   const std::string_view value = slot.substr(KeyLength);
   if (!IsPlainNumber(value)) return;
   const double number = Val(value);
-  // The text of a minus zero has a sign that its value has not.
+  // The number would lose the sign of a minus zero's text.
   if (number != 0 || !std::signbit(number)) Number = number;
 }
 
@@ -65,7 +65,7 @@ std::uint32_t NameStates::NumberOf(std::string_view name) {
 std::uint64_t NameStates::StateOf(Names names) {
   constexpr std::size_t mostKept = 1000;
   while (!names.empty() && names.back() == 0) names.pop_back();
-  // What is forgotten gets new numbers.
+  // Forgotten states get new numbers.
   if (states_.size() >= mostKept) states_.clear();
   const auto [state, isNew] = states_.try_emplace(std::move(names), lastState_ + 1);
   if (isNew) ++lastState_;

@@ -12,7 +12,7 @@
 
 namespace zerimo {
 
-/// What follows from the text of a variable slot.
+/// What is derived from the text of a variable slot.
 struct SlotForm {
   SlotForm() = default;
   explicit SlotForm(std::string_view slot);
@@ -23,12 +23,12 @@ struct SlotForm {
   std::optional<double> Number;
 };
 
-/// The part of a slot's text that decides which searches find it: all of it, or what stands up to the "=" in front of a
-/// number.
+/// The part of a slot's text that decides which searches find it: all of it, or, if its value is a number, the text up
+/// to the "=".
 std::string_view NamePart(std::string_view slot);
 
-/// The state of the names in all slots, as a number: equal numbers stand for the same names in the same slots as long
-/// as the system runs.
+/// The state of the names in all slots, as a number: throughout one run of the system, equal numbers mean the same
+/// names in the same slots.
 class NameStates {
  public:
   std::uint64_t Now() const { return now_; }
@@ -49,7 +49,7 @@ class NameStates {
   Names slots_;
   TextMap<std::uint32_t> names_;
   std::map<Names, std::uint64_t> states_{{{}, 1}};
-  /// Where a change leads to from a state that was there before.
+  /// The states to which known changes of known states lead.
   std::unordered_map<std::uint64_t, std::uint64_t> next_;
 };
 

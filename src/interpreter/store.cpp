@@ -57,7 +57,7 @@ const LineForm& Store::FormOf(int number) const {
 
 std::string Store::TakeFirstWord(int number) {
   const std::string& line = Line(number);
-  // As an earlier call has left it: nothing changes any more.
+  // The line is as an earlier call left it: nothing would change.
   const bool isTaken = line.size() > 1 && line.front() != ' ' && line.back() == ' ' && line[line.size() - 2] != ' ';
   if (isTaken && std::ranges::count(line, ' ') < MostBlanks) return line.substr(0, line.find(' '));
   LentLine lent(*this, number);
@@ -124,7 +124,7 @@ void Store::TempFileDataArray() {
   }
   WorkingCopy copy;
   for (int kept = 1; kept < number; ++kept) copy.Add(Line(kept));
-  // Any "END" in a line ends the skip, that of an ENDIF too: the rest of such a procedure stays as ordinary lines.
+  // Any "END" in a line ends the skip, even that of an ENDIF: the rest of such a procedure stays as ordinary lines.
   while (!Line(number).empty() && !Contains(Line(number), "END")) ++number;
   if (!Line(number).empty()) ++number;
   for (; !Line(number).empty(); ++number) copy.Add(Line(number));
@@ -133,7 +133,7 @@ void Store::TempFileDataArray() {
   for (const std::string& line : copy.Lines()) SetLine(target++, line);
   // With all 100 lines in use there is no empty entry to end the copying back.
   if (copy.Lines().size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
-  // Only this one line is emptied: the old lines behind it stay as stale text.
+  // Only this one line is emptied: the old lines after it stay as stale text.
   SetLine(target, "");
 }
 

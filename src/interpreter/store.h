@@ -16,8 +16,9 @@
 namespace zerimo {
 
 /// The program store: 2000 text lines, numbered from 1. The first empty line ends it: every search stops there,
-/// whatever stale text lies behind it. A procedure is a run of lines from its `TO` line to its `END`; one whose name
-/// begins with # is temporary and carries a typed line.
+/// whatever stale text follows. A procedure is a run of lines from its `TO` line to its `END`; one whose name begins
+/// with # is temporary and holds a typed line.
+/// Behaviour: docs/interpreter.md, "The program store".
 class Store {
  public:
   static constexpr int LineCount = 2000;
@@ -28,19 +29,20 @@ class Store {
   /// A line by its number; fails (subscript) outside 1 to 2000.
   const std::string& Line(int number) const;
 
-  /// The one door by which a line changes; fails (subscript) outside 1 to 2000.
+  /// Changes a line and drops what was derived from it; fails (subscript) outside 1 to 2000.
   void SetLine(int number, std::string text);
 
-  /// What follows from a line, kept beside the text until the text changes. Fails like `Line`.
+  /// What is derived from a line, kept until its text changes. Fails like `Line`.
   const LineForm& FormOf(int number) const;
 
   /// The class of a line (`WhatIsThis`). Fails like `Line`.
   StatementClass ClassOf(int number) const { return FormOf(number).Class; }
 
-  /// Counts the changes of lines: what follows from several lines holds as long as it stays.
+  /// Counts the changes of lines: what is derived from several lines is valid as long as this stays the same.
   std::uint64_t Changes() const { return changes_; }
 
-  /// `GiveWord` for the first word of a line in place: it is trimmed and gets one blank behind it. Fails like that.
+  /// `GiveWord` for the first word of a line, in place: the line is trimmed and gets one blank at its end. Fails like
+  /// `GiveWord`.
   std::string TakeFirstWord(int number);
 
   /// Trims a line in place.
@@ -52,8 +54,8 @@ class Store {
   /// Number of the last used line: the write position of `MakeArray`, refreshed by `Ifprocessor`.
   std::int16_t FileDataCount = 0;
 
-  /// Empties the lines from 1 up to the first empty one; stale text behind a gap survives. A store with no empty line
-  /// is emptied, and then it fails (subscript).
+  /// Empties the lines from 1 up to the first empty one; stale text after a gap survives. A store with no empty line is
+  /// emptied, and then it fails (subscript).
   void MakeEmptyFileDataArray();
 
   /// The number of the procedure's `TO` line, or 0.
@@ -66,8 +68,8 @@ class Store {
   /// Whether "TO #" occurs anywhere in a line.
   bool IsTempProcedurePresent() const;
 
-  /// Removes the first temporary procedure, if there is one. Fails (subscript), and leaves the store as it was, if
-  /// more than 100 lines would remain.
+  /// Removes the first temporary procedure, if there is one. Fails (subscript), and leaves the store as it was, if more
+  /// than 100 lines would remain; with exactly 100 it fails (subscript) after writing them.
   void TempFileDataArray();
 
   /// Removes all temporary procedures; fails like `TempFileDataArray`.
@@ -91,13 +93,13 @@ class Store {
   std::array<std::string, LineCount> FileDataArray;
   mutable std::array<std::unique_ptr<LineForm>, LineCount> forms_;
   std::uint64_t changes_ = 0;
-  // What is known of the store as it is.
+  // What is known of the current lines.
   mutable SinceChange<int> firstEmptyLine_;
   mutable SinceChange<TextMap<std::int16_t>> procedures_;
 };
 
-/// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan
-/// ends, also by a failure.
+/// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan ends,
+/// even by a failure.
 class LentLine {
  public:
   LentLine(Store& programStore, int lineNumber)
@@ -113,8 +115,8 @@ class LentLine {
   std::size_t index_;
 };
 
-/// Shows the whole store in a list, each line with its number and two blanks in front, trimming the lines in the store
-/// up to the first empty one.
+/// Shows the whole store in a list, each line after its number and two blanks, trimming the lines in the store up to
+/// the first empty one.
 void ListStore(Store& store, ListBox& list1);
 
 }  // namespace zerimo

@@ -12,6 +12,7 @@
 namespace zerimo {
 
 /// Runs a typed line: wraps it as a temporary procedure in the store, lowers it, runs it and removes it again.
+/// Behaviour: docs/interpreter.md, "A typed line".
 class TypedLines {
  public:
   TypedLines(const ProgramContext& context, Lowering& lowering, Runner& runner)

@@ -15,9 +15,9 @@ namespace {
 constexpr int MostLocals = 20;
 constexpr int LastCompactedSlot = 100;
 
-// Digits are no name characters: the name in "A1" is "A".
+// Digits do not belong to names: the name in "A1" is "A".
 constexpr std::string_view NotInNames = "()0123456789.+-*/%<>=! []";
-// Here a blank counts as something that is present.
+// Without the blank: `VariablePresent` finds it.
 constexpr std::string_view ExpressionAlphabet = ")(0123456789.+-*/%<>=![]";
 constexpr std::string_view Delimiters = "\r+-*/\\%><= ()[]!";
 
@@ -36,21 +36,21 @@ bool SlotContains(char mark, const std::string& slot, const std::string& key) {
 std::string ReplaceAll(std::string& text, std::string_view word, double number, Watch& watch) {
   const int times = Length(text);
   if (!Contains(text, word)) {
-    // As many vain calls only pad the text.
+    // Calls that find nothing only pad the text, and one call does all of that.
     return times == 0 ? text : Textreplace(text, word, {});
   }
   const std::string replacement = Str(number);
   for (int time = 1; time <= times; ++time) {
     watch.Tick();
     std::string replaced = Textreplace(text, word, replacement);
-    // Where one call replaces nothing, the others do not either.
+    // If one call replaces nothing, the next ones will not either.
     if (replaced == text) break;
     text = std::move(replaced);
   }
   return text;
 }
 
-/// Whether a number's text is the same after it was read and written again.
+/// Whether a number's text is the same after being read and written again.
 bool KeepsItsText(double number) {
   const double size = std::abs(number);
   return (size < 1E300 && size > 1E-300) || size == 0;
@@ -119,7 +119,7 @@ const std::vector<int>& Variables::SlotsOfProcedure(const std::string& name) con
       const std::string_view entry = Trimmed(Slot(slot));
       if (entry.starts_with(key) || Contains(entry, "#" + key)) known.Slots.push_back(slot);
     }
-    // A "=" in the name may be that of a slot.
+    // A "=" in the name may match that of a slot, and so depend on its value.
     if (!Contains(name, "=")) known.Names = Names();
   }
   return known.Slots;
@@ -253,7 +253,8 @@ bool Variables::CloseDeletedSlots() {
     for (int slot = 1; slot <= LastCompactedSlot; ++slot) {
       if (Slot(slot) != " ") continue;
       CloseSlot(slot);
-      // The move reads one slot too far at its end: it fails when all is moved, so that one deleted slot goes a call.
+      // The move reads one slot too far at its end: it fails when everything has been moved, so that each call closes
+      // one deleted slot.
       return false;
     }
   }
@@ -289,7 +290,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
 std::vector<int> Variables::LocalsOfProcedure() const {
   const std::string key = controlPath_.ProcedureName() + ".";
   std::vector<int> locals;
-  // What does not fit is passed over, and the walk goes on: without a free slot it never ends.
+  // What does not fit is ignored, and the scan goes on: without a free slot it never ends.
   for (int number = 1; SlotGoesOn(number); ++number) {
     if (locals.size() < MostLocals && SlotContains('#', Slot(number), key)) locals.push_back(number);
   }
@@ -305,7 +306,7 @@ bool Variables::SlotGoesOn(int number) const {
 }
 
 std::string Variables::GlobalVariableReplacer(std::string& expression) const {
-  // Not set back between the rounds: a name that is not declared takes the value of the one before it.
+  // Not reset between rounds: an undeclared name takes the value of the one before it.
   double value = 0;
   do {
     watch_.Tick();
@@ -337,7 +338,7 @@ int Variables::GlobalSlot(std::string_view name) const {
 }
 
 std::optional<NamesInUse> Variables::InUse() const {
-  // A "=" in a procedure's name may be that of a slot.
+  // A "=" in a procedure's name may match that of a slot, and so depend on its value.
   if (freeSlots_ == 0 || Contains(controlPath_.ProcedureName(), "=")) return std::nullopt;
   NamesInUse names;
   for (const int slot : LocalsOfProcedure()) {
@@ -352,7 +353,7 @@ std::optional<NamesInUse> Variables::InUse() const {
 }
 
 std::optional<double> Variables::NumberOf(const Operand& operand) const {
-  // Above, a text has an exponent, or its second decimal is none of its digits.
+  // Above this, a number's text has an exponent or no digit left for the second decimal.
   constexpr double plainBelow = 1E13;
   double number = 0;
   if (operand.What == Operand::Kind::XCor || operand.What == Operand::Kind::YCor) {
@@ -383,7 +384,7 @@ std::optional<std::string> Variables::TextOf(const Operand& operand) const {
 }
 
 bool Variables::CoordinatesExist() const {
-  // Far inside the numbers, so that no quotient leaves them.
+  // Far inside the range of numbers, so that no quotient leaves it.
   constexpr double largest = 1E100;
   const double resolution = std::abs(turtle_.Resolution);
   return std::abs(turtle_.TurtleX) < largest && std::abs(turtle_.TurtleY) < largest && resolution > 1 / largest &&
@@ -419,7 +420,7 @@ bool VariablePresent(std::string_view expression) {
 
 std::string Textreplace(std::string& text, std::string_view find, std::string_view replacement) {
   text = " " + std::string(Trimmed(text)) + " ";
-  // Only the first occurrence is ever considered: one inside a longer word blocks the real one behind it.
+  // Only the first occurrence is ever considered: one inside a longer word blocks the real one after it.
   const int position = PositionOf(text, find);
   if (position == 0) return text;
   const int behind = position + Length(find);

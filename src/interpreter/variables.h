@@ -18,6 +18,7 @@ namespace zerimo {
 
 /// All variables: 500 text slots, numbered from 1. A slot holds "" (free; most scans stop there), " " (deleted),
 /// NAME=value (a global) or PROCEDURE.NAME=value (a local).
+/// Behaviour: docs/interpreter.md, "Variables".
 class Variables : OperandSource {
  public:
   static constexpr int SlotCount = 500;
@@ -27,7 +28,7 @@ class Variables : OperandSource {
   /// A slot by its number; fails (subscript) outside 1 to 500.
   const std::string& Slot(int number) const;
 
-  /// The one door by which a slot changes; fails (subscript) outside 1 to 500.
+  /// Changes a slot and what is derived from it; fails (subscript) outside 1 to 500.
   void SetSlot(int number, std::string text);
 
   /// Defines the globals of the `MAKE` lines above the first `TO`. Fails (subscript) in a store without a `TO`.
@@ -37,7 +38,7 @@ class Variables : OperandSource {
   /// deleted slot or with no free one.
   void VariableUpdate(int lineNumber);
 
-  /// The same; false in place of the failures that come when all is done.
+  /// The same, but returns false where `VariableUpdate` fails after its work is done.
   bool Make(int lineNumber);
 
   /// Closes deleted slots; always fails (subscript) after closing one, and never returns if only slots above 100 are
@@ -54,7 +55,7 @@ class Variables : OperandSource {
   /// The text with the words XCOR and YCOR replaced by the turtle's position in steps.
   std::string ReplaceXcorAndYcor(std::string& text) const;
 
-  /// Shows every slot up to the first free one in `List2`; fails (subscript) behind the last slot if none is free.
+  /// Shows every slot up to the first free one in `List2`; fails (subscript) past the last slot if none is free.
   void RebuildList2();
 
   /// The number of the first slot that is free or deleted; fails (subscript) if there is none.
@@ -65,20 +66,20 @@ class Variables : OperandSource {
   /// The slots up to the first free one that hold entries of a procedure.
   const std::vector<int>& SlotsOfProcedure(const std::string& name) const;
 
-  /// What a slot's value is.
+  /// What is derived from a slot's text.
   const SlotForm& FormOf(int number) const { return forms_[static_cast<std::size_t>(number - 1)]; }
 
-  /// The number of the state of all names: what was searched in a state holds in it. Values that are numbers do not
-  /// count.
+  /// The number of the current state of all names: what a search has found is valid in the same state. Values that are
+  /// numbers do not count.
   std::uint64_t Names() const { return names_.Now(); }
 
   /// The names that a text is read with now; nothing if a search for them would never end.
   std::optional<NamesInUse> InUse() const;
 
-  /// Whether the turtle's place can be told in steps: if not, every `MAKE` and every condition fails.
+  /// Whether the turtle's place can be expressed in steps: if not, every `MAKE` and every condition fails.
   bool CoordinatesExist() const;
 
-  /// The text that a name, as the only operand, is replaced by; nothing if its value is no plain number.
+  /// The text that replaces a name which is the only operand; nothing if its value is not a plain number.
   std::optional<std::string> TextOf(const Operand& operand) const;
 
   /// The formulas of the texts that are evaluated with these variables.
@@ -108,14 +109,14 @@ class Variables : OperandSource {
   std::string EnclosingProcedure(int lineNumber) const;
   std::optional<MakeSlots> SlotsOf(int lineNumber, const LineForm& make);
   int FindLocal(const std::string& key) const;
-  /// The slot that a global is written to, 0 if a local without a procedure stands in its way.
+  /// The slot that a global is written to, 0 if a local without a procedure is in the way.
   int FindGlobal(const std::string& name) const;
-  /// A number takes the place of the value in a slot.
+  /// Replaces the value in a slot by a number.
   void SetValue(int number, const std::string& value);
   bool CloseDeletedSlots();
   void CloseSlot(int number);
   std::vector<int> LocalsOfProcedure() const;
-  /// Whether a scan goes on at a slot; never returns behind the last slot.
+  /// Whether a scan goes on at a slot; never returns past the last slot.
   bool SlotGoesOn(int number) const;
   int GlobalSlot(std::string_view name) const;
   void ReadGlobal(const std::string& name, double& value) const;
@@ -136,13 +137,13 @@ class Variables : OperandSource {
   mutable Formulas formulas_;
   std::vector<MakeSlots> makes_{Store::LineCount + 1};
   mutable TextMap<ProcedureSlots> procedures_;
-  /// How many slots hold "" and " ".
+  /// How many slots hold "" and how many " ".
   int freeSlots_ = SlotCount;
   int deletedSlots_ = 0;
-  /// No slot in front of it is free or deleted; none from the other on is in use.
+  /// No slot before `openFrom_` is free or deleted; none after `usedUpTo_` is in use.
   mutable int openFrom_ = 1;
   int usedUpTo_ = 0;
-  /// While `List2` is put off: the texts that slots had when it was made, for those that have changed since.
+  /// While `List2` is put off: the texts that slots had then, for those that have changed since.
   std::array<std::string, SlotCount> former_;
   std::array<bool, SlotCount> isFormer_{};
   std::vector<std::size_t> formerSlots_;

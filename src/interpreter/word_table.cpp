@@ -161,7 +161,7 @@ constexpr std::array<std::string_view, CommandListUsed> DeriveCommandList() {
 constexpr auto ActionTable = DeriveActions();
 constexpr auto CommandNames = DeriveCommandList();
 
-/// The rows of actions stand in the order of the tests: whole lines first, each action's rows together.
+/// The rows of actions are in the order of the tests: whole lines first, each action's rows together.
 constexpr bool ActionsAreInOrder() {
   Action last = Action::SayDeveloper;
   for (const WordFacts& row : WordTable) {

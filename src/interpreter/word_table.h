@@ -5,7 +5,9 @@
 #include <span>
 #include <string_view>
 
-/// The one table of facts about the words of the language: a row for each word. What else is here is derived from it.
+/// The one table of facts about the words of the language: a row for each word. Everything else here is derived from
+/// it.
+/// Behaviour: docs/interpreter.md, "Carrying out a word".
 namespace zerimo {
 
 /// The actions of `Executor`, one for each row of its two groups of tests, in the order of the tests.
@@ -93,7 +95,7 @@ enum class Action : std::uint8_t {
   Product,
   Quotient,
   Remainder,
-  /// Of the words that `Executor` does not know.
+  /// For words that `Executor` does not know.
   None,
 };
 
@@ -102,7 +104,7 @@ inline constexpr std::size_t ActionCount = static_cast<std::size_t>(Action::None
 /// What a name of an action is compared with.
 enum class MatchedBy : std::uint8_t { WholeLine, Word };
 
-/// The box that tells a missing input, and whether there is one.
+/// The box that reports a missing input, and whether there is one.
 enum class MissingInput : std::uint8_t {
   NoTest,       // empty inputs go to the stages as they are
   Usual,        // Abort, Retry, Ignore; title "Zerimo"
@@ -110,8 +112,8 @@ enum class MissingInput : std::uint8_t {
   Plain,        // OK; no title
 };
 
-/// The markers among the input counts: what takes a bracket body or the rest of the text, and a word that is not
-/// counted.
+/// The markers among the input counts: for words that take a body in brackets or the rest of the text, and for words
+/// that are not counted.
 namespace inputs {
 inline constexpr std::int16_t Repeat = -1;
 inline constexpr std::int16_t Print = -2;
@@ -126,14 +128,14 @@ inline constexpr std::int16_t NotCounted = -100;
 /// Whether the word has a help page of its name.
 enum class HelpPage : std::uint8_t { None, Own };
 
-/// One word of the language. The rows of actions stand in the order of the tests, the short name of an action before
-/// its other one; words without an action follow.
+/// One word of the language. The rows of actions are in the order of the tests, the short name of an action before its
+/// other one; words without an action follow.
 struct WordFacts {
   std::string_view Word;
   Action Does;
   MatchedBy Match;
   MissingInput Missing;
-  /// What `HowManyInput` tells: 0 to 6, or a marker of `inputs`.
+  /// What `HowManyInput` returns: 0 to 6, or a marker of `inputs`.
   std::int16_t Inputs;
   /// Places in `CommandList`, 1 to 96; 0 for none.
   int Place;
@@ -144,7 +146,7 @@ struct WordFacts {
 /// The table.
 std::span<const WordFacts> AllWords();
 
-/// One action: its names, how they are matched and how a missing input is told.
+/// One action: its names, how they are matched and how a missing input is reported.
 struct ActionFacts {
   Action Does;
   MatchedBy Match;
@@ -162,7 +164,7 @@ std::span<const ActionFacts, ActionCount> Actions();
 /// The facts of one action.
 const ActionFacts& FactsOf(Action action);
 
-/// The facts of a word, or null if it is none of the language.
+/// The facts of a word, or null if the language has no such word.
 const WordFacts* FindWord(std::string_view word);
 
 /// The action whose test a trimmed line passes, or `Action::None`. There is at most one: the names differ, and an

@@ -6,7 +6,7 @@
 
 namespace zerimo {
 
-/// The words of a call or of a header: 50 texts, numbered from 1; those behind the last word are empty.
+/// The words of a call or of a header: 50 texts, numbered from 1; those after the last word are empty.
 class Words {
  public:
   static constexpr int LastIndex = 50;
@@ -23,7 +23,7 @@ class Words {
   std::vector<std::string> words_;
 };
 
-/// The words of a procedure's header: the blank behind its `TO` makes an empty first one. Fails like `Words`.
+/// The words of a procedure's header: the blank after its `TO` makes an empty first one. Fails like `Words`.
 Words WordsOfHeader(std::string_view line);
 
 }  // namespace zerimo
