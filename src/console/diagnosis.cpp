@@ -11,7 +11,7 @@ void Diagnosis::Command2Click() {
   interpreter_.variables.ForgetAll();
   interpreter_.lowering.ForgetNames();
   context_.controls.Label17.Caption = "#-" + Str(0);
-  // With the counter's mark, although a lowering writes the label's.
+  // With the mark of the counter, although a lowering writes the mark of the label.
   context_.controls.Label18.Caption = "#-" + Str(0);
 }
 

@@ -79,7 +79,7 @@ void Form1::DefaultValue() {
   controls.Text4.Text = "1";
   controls.Frame1.Left = screen.Width / 2 - controls.Frame1.Width / 2;
   controls.Frame1.Top = screen.Height / 2 - controls.Frame1.Height() / 2 - 4 * controls.Text1[0].Height();
-  // The box Text4 goes on showing 1: the two differ at start.
+  // The box Text4 still shows 1: the two differ at the start.
   Picture1.SetDrawWidth(4);
   PlaceOverlays();
 }
@@ -110,7 +110,7 @@ void Form1::PlaceOverlays() {
   horizontal.X2 = Picture1.Width;
   horizontal.Y1 = horizontal.Y2 = screen.Height / 2;
   turtle.PenColor = 15;
-  // The raw colour value, which is no code yet.
+  // The raw colour value, not a code yet.
   turtle.BGColor = Picture1.BackColor();
   controls.Frame1.Hide();
   controls.RichTextBox1.Hide();

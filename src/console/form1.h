@@ -21,11 +21,11 @@ class Form1 {
  public:
   Form1(ScreenSize screen, Folders folders, Services& services, Watch& watch, Canvas& canvas);
 
-  /// The load event: to be called once, before any other event.
+  /// The load event: must be called once, before any other event.
   void Load();
 
-  // Events. A control that has no handler for an event does nothing. The shell has put what the user did into the
-  // control's data before (text, scroll value, selected entry); the mark of a check box is turned over here.
+  // Events. A control that has no handler for an event does nothing. The shell first puts what the user did into the
+  // control's data (text, scroll value, selected entry); but a check box is toggled here.
   void KeyDown(Control& control, int keyCode);
   void Click(Control& control);
   /// x and y are in surface units from the control's top left corner.
@@ -38,11 +38,11 @@ class Form1 {
   void Change(Control& control);
   void Tick(Timer& timer);
 
-  /// A control by its name ("Picture1", "Text1(0)"), or nothing.
+  /// A control by its name ("Picture1", "Text1(0)"), or null.
   Control* FindControl(const std::string& name);
   Timer* FindTimer(const std::string& name);
 
-  /// For the end by a failure, or by closing during a run: keeps the editor's text. See `Saving`.
+  /// For an end by a failure, or by closing during a run: keeps the editor's text. See `Saving`.
   std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const {
     return files.saving.RescueEditorText(others);
   }

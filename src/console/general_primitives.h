@@ -12,7 +12,7 @@ class GeneralPrimitives {
   GeneralPrimitives(const DrawingContext& context, const Arithmetic& arithmetic, const Folders& folders)
       : context_(context), arithmetic_(arithmetic), folders_(folders) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:

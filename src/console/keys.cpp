@@ -61,7 +61,7 @@ void Keys::ScrollRows() {
   const int lastRow = context_.controls.Text1.Size - 1;
   for (int row = 0; row < lastRow; ++row) context_.controls.Text1[row].Text = context_.controls.Text1[row + 1].Text;
   context_.controls.Text1[lastRow].Text.clear();
-  // To the box for the line width, not to the row: refused and ignored unless the diagnosis panel is open.
+  // To the box for the line width, not to the row. Unless the diagnosis panel is open, that is refused and ignored.
   PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
 }
 

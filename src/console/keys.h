@@ -37,7 +37,7 @@ class Keys {
   void File1KeyDown(int keyCode);
   void Form1KeyDown(int keyCode);
 
-  /// The one-shot that gives the focus to row 0; a refused focus is ignored.
+  /// Fires once and gives the focus to row 0; a refused focus is ignored.
   void Timer2Tick();
 
  private:

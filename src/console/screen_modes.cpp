@@ -33,7 +33,7 @@ void ScreenModes::SplitScreen() {
   PassOver(
       [&] { context_.Picture1.SetHeight(context_.controls.Form1.Height() - context_.controls.Picture3.Height()); });
   context_.controls.Picture3.Show();
-  // The walk is not left early, so that the focus ends on the topmost empty row.
+  // The loop runs to the end, so that the focus ends on the topmost empty row.
   for (int row = context_.controls.Text1.Size - 1; row >= 0; --row) {
     if (!Trimmed(context_.controls.Text1[row].Text).empty()) continue;
     PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[row]); });

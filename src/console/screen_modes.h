@@ -5,14 +5,14 @@
 
 namespace zerimo {
 
-/// The screen modes: `FS`, `SS`, `TS`, `CT`, `HIDE` and `SHOW`. No field holds a mode: it is nothing but which
+/// The screen modes: `FS`, `SS`, `TS`, `CT`, `HIDE` and `SHOW`. No field holds the mode: it consists only of which
 /// controls are visible and how high the surface is.
 class ScreenModes {
  public:
   ScreenModes(const DrawingContext& context, Store& store, Files& files)
       : context_(context), store_(store), files_(files) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
   /// Brings back the split screen without `Executor`: F2 on the surface and on the form.

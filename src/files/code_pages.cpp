@@ -10,7 +10,7 @@ namespace {
 
 constexpr unsigned char FirstOfTable = 128;
 
-/// The characters of the codes from 128 on; a code without a character stands for itself.
+/// The characters of the codes from 128 on; a code without a character is its own character.
 struct CodePage {
   int Number;
   std::array<char16_t, 128> Characters;

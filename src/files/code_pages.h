@@ -2,7 +2,7 @@
 
 namespace zerimo {
 
-/// The code page that rich text uses where it names none.
+/// The code page of rich text that names none.
 inline constexpr int WesternCodePage = 1252;
 
 /// The character of a byte in a code page: 437, 850, 1250, 1251, 1252 or 10000 (Macintosh). An unknown code page is

@@ -28,7 +28,7 @@ constexpr std::string_view ListHead =
 
 constexpr std::size_t MarkLength = 16;
 
-/// Tells whether two contents are the same, in 16 hexadecimal digits; no secret.
+/// A checksum in 16 hexadecimal digits, to tell whether contents are the same; it protects nothing.
 std::string MarkOf(std::string_view bytes) {
   std::uint64_t sum = 0xCBF29CE484222325;
   for (const char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
@@ -147,7 +147,7 @@ class DeliveryRound {
     if (isThere) {
       if (mark == former) return;
       const std::string present = MarkOfUnchanged(target_ / name);
-      // Also what a delivery brought that did not come to its end.
+      // This covers a delivery that was interrupted.
       if (present == mark) return list_.Set(listName, mark);
       if (former.empty() || present != former) return;
     } else if (!former.empty() && !comesAgain) {
@@ -158,7 +158,7 @@ class DeliveryRound {
     ++result_.Written;
   }
 
-  /// The mark of a file that may be one delivered, or the empty text: a link is the user's own.
+  /// The mark of a file that may have been delivered, or the empty text: a link is the user's own.
   static std::string MarkOfUnchanged(const fs::path& file) {
     std::error_code error;
     if (!fs::is_regular_file(fs::symlink_status(file, error))) return {};

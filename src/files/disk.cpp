@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Absolute and without links; empty where that can't be found out.
+/// Absolute and without links; empty if that can't be found out.
 fs::path RealPath(const fs::path& path) {
   std::error_code error;
   return fs::weakly_canonical(fs::absolute(path, error), error);
@@ -40,7 +40,7 @@ bool Disk::MayRead(const fs::path& file) const {
 
 bool Disk::MayWrite(const fs::path& file) const {
   if (!shelf_) return true;
-  // A link whose target does not exist would be written through.
+  // Even a link with no target is refused: writing would follow it.
   std::error_code error;
   return !fs::is_symlink(file, error) && LiesBelow(file, folder_) && HasRoom();
 }

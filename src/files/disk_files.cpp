@@ -33,7 +33,7 @@ void Require(bool isSo) {
   if (!isSo) throw Failure(FailureKind::FileAccess);
 }
 
-/// A name that no other file of the folder has.
+/// A random name, so that no other file of the folder has it.
 fs::path NewNameIn(const fs::path& folder) {
   static constexpr std::array<char, 17> digits = {"0123456789abcdef"};
   std::random_device random;
@@ -59,7 +59,7 @@ fs::path WithoutLinks(fs::path file) {
 
 #if defined(__unix__) || defined(__APPLE__)
 
-/// An open file or folder. All of it fails (file access).
+/// An open file or folder. Every member may fail (file access).
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) { Require(number >= 0); }
@@ -69,7 +69,7 @@ class Descriptor {
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
 
-  /// As far as this user and this kind of disk can give files away.
+  /// As far as this user and this kind of disk allow it.
   void TakeOwnerAndMode(const struct stat& former) {
     if (::fchown(number_, former.st_uid, former.st_gid) != 0) {
       Require(errno == EPERM && (::fchown(number_, static_cast<uid_t>(-1), former.st_gid) == 0 || errno == EPERM));
@@ -86,17 +86,18 @@ class Descriptor {
     }
   }
 
-  /// Until it is on the disk; some kinds of disk can't tell.
+  /// Waits until it is on the disk; some kinds of disk can't tell.
   void Sync() { Require(::fsync(number_) == 0 || errno == EINVAL); }
 
-  /// Some kinds of disk tell only here that they are full.
+  /// Some kinds of disk report only here that they are full.
   void Close() { Require(::close(std::exchange(number_, -1)) == 0); }
 
  private:
   int number_;
 };
 
-/// Takes the place of a regular file or of none. Fails (file access) where anything else stands there.
+/// A place that a regular file can take: one with a regular file or nothing. Fails (file access) if it holds anything
+/// else.
 class PlaceOfFile {
  public:
   explicit PlaceOfFile(const fs::path& file) : isTaken_(::stat(file.c_str(), &former_) == 0) {
@@ -119,11 +120,11 @@ class PlaceOfFile {
 
 void Rename(const fs::path& from, const fs::path& to) { Require(std::rename(from.c_str(), to.c_str()) == 0); }
 
-/// Until the names in a folder are on the disk.
+/// Waits until the names in a folder are on the disk.
 void SyncFolder(const fs::path& folder) {
   const char* const name = folder.empty() ? "." : folder.c_str();
   const int number = ::open(name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  // In some folders one may write but not look.
+  // Some folders may be written but not opened for reading.
   if (number < 0 && errno == EACCES) return;
   Descriptor descriptor(number);
   descriptor.Sync();

@@ -4,15 +4,15 @@
 
 namespace zerimo {
 
-/// The editor `Text2`: `EDIT` and the fold of its text into the store.
+/// The editor `Text2`: `EDIT`, and the fold of its text into the store.
 class Editor {
  public:
   explicit Editor(const FilesContext& context) : interpreter_(context.interpreter), controls_(context.controls) {}
 
-  /// Binds `EDIT` to what it does.
+  /// Binds `EDIT` to its action.
   void Bind();
 
-  /// F2: back to the split screen, tidies the editor's text and fills the store from it. Not under the skip rule.
+  /// F2: goes back to the split screen, tidies the editor's text and fills the store from it. Not under the skip rule.
   void Fold();
 
   /// Fills the store from the editor's text. Fails (subscript) beyond line 2000.

@@ -19,7 +19,7 @@ class Files {
         saving(context, programFiles),
         helpPages(context) {}
 
-  /// Binds the primitives of this room to what they do.
+  /// Binds the primitives of this room to their actions.
   void Bind() {
     pictures.Bind();
     programFiles.Bind();

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where the disk itself has drive letters, they are kept.
+/// If the disk itself has drive letters, they are kept.
 constexpr bool DriveLettersAreFolders = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void Fail(FailureKind kind) { throw Failure(kind); }
@@ -29,7 +29,7 @@ bool BeginsWithDriveLetter(std::string_view path) {
   return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
 }
 
-/// The path as it stands.
+/// The path exactly as given.
 fs::path AsItStands(std::string_view systemPath) {
   if (!DriveLettersAreFolders && BeginsWithDriveLetter(systemPath)) systemPath.remove_prefix(2);
   std::string path = Utf8FromLatin1(systemPath);
@@ -54,13 +54,13 @@ std::vector<fs::path> InAnotherCase(const fs::path& folder, const fs::path& name
     if (entry != name && UpperCase(SystemName(entry)) == wanted) entries.push_back(entry);
   }
   std::sort(entries.begin(), entries.end());
-  // Several names with characters that the system does not have look alike: none of them is taken for another.
+  // Names with characters that the system can't hold may look alike: then none of them is chosen.
   if (entries.size() > 1 && wanted.find('?') != std::string::npos) entries.clear();
   return entries;
 }
 
-/// Looks the parts up below a folder. A folder that does not lead to the end is left again: a path in capitals must
-/// not get stuck in a neighbour's folder that differs in case alone.
+/// Looks the parts up below a folder. If a folder leads nowhere, the others are tried: a path in capitals must not get
+/// stuck in a folder whose name differs only in case.
 std::optional<fs::path> LookUp(const fs::path& folder, fs::path::iterator part, fs::path::iterator end) {
   if (part == end) return folder;
   const auto next = std::next(part);
@@ -75,7 +75,7 @@ std::optional<fs::path> LookUp(const fs::path& folder, fs::path::iterator part, 
   return std::nullopt;
 }
 
-/// Looks a path up that begins at a folder, unless it begins at a root.
+/// Looks up a path relative to a folder; an absolute path starts at its root.
 std::optional<fs::path> LookUp(const fs::path& folder, const fs::path& path) {
   std::error_code error;
   if (fs::exists(folder / path, error)) return folder / path;
@@ -89,13 +89,13 @@ fs::path WhereToWrite(const fs::path& folder, const fs::path& path) {
   return parent ? *parent / path.filename() : folder / path;
 }
 
-/// Refuses names that the disk would cut short or that name nothing.
+/// Refuses empty names and those that the disk would cut short.
 void RequireName(std::string_view systemPath, FailureKind kind) {
   if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
 }
 
-/// Whether a program that lies in the same folder might not start again if this file were written: its own files, and
-/// those that the toolkit looks for beside a program.
+/// Whether writing this file might keep a program in the same folder from starting again: its own files, and those that
+/// the toolkit looks for beside a program.
 bool IsOfProgram(const fs::path& file) {
   static constexpr std::string_view names[] = {"ZERIMO",  "ZERIMO-BATCH", "ZERIMO.EXE", "ZERIMO-BATCH.EXE",
                                                "ZMHELP",  "QT.CONF",      "QT6.CONF",   "QTLOGGING.INI",
@@ -119,7 +119,7 @@ std::string Folders::ToSystem(const fs::path& path) {
 fs::path Folders::ToRead(const std::string& systemPath) const {
   const fs::path path = AsItStands(systemPath);
   if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
-  // A drive letter alone names nothing, not even the folder where paths begin.
+  // A drive letter alone names nothing, not even the folder where relative paths start.
   if (path.empty()) return path;
   auto found = LookUp(disk_.Folder(), path);
   if (!found && disk_.Shelf()) found = LookUp(*disk_.Shelf(), path);
@@ -140,7 +140,7 @@ std::string Folders::ReadFile(const std::string& systemPath) const {
   const fs::path file = ToRead(systemPath);
   std::error_code error;
   if (!fs::exists(file, error)) Fail(FailureKind::FileNotFound);
-  // A folder can't be read, and a pipe would wait for ever.
+  // A folder can't be read, and reading a pipe might wait for ever.
   if (!fs::is_regular_file(file, error)) Fail(FailureKind::FileAccess);
   std::ifstream stream(file, std::ios::binary);
   std::string bytes;

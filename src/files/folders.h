@@ -10,29 +10,29 @@
 
 namespace zerimo {
 
-/// How the system's paths are found on the disk. In a system path a backslash divides folders (a slash does too), and
-/// a drive letter is no folder. What the disk does not allow is not found and can't be written.
+/// How the system's paths are found on the disk. In a system path a backslash or a slash separates folders, and a drive
+/// letter is not a folder. What the disk does not allow is not found and can't be written.
 class Folders {
  public:
   explicit Folders(std::string appFolder, Disk disk = Disk())
       : AppFolder(std::move(appFolder)), disk_(std::move(disk)) {}
 
-  /// The folder of the running program, without a divider at its end.
+  /// The folder of the running program, without a separator at its end.
   std::string AppFolder;
 
   /// Whether a system path names a folder.
   static bool HasFolder(std::string_view systemPath) { return systemPath.find('\\') != std::string_view::npos; }
 
   /// A path of the disk as the system names it: with backslashes, and a question mark for each character that
-  /// single-byte text does not have.
+  /// single-byte text can't hold.
   static std::string ToSystem(const std::filesystem::path& path);
 
-  /// The file to read: looked up exactly, then without regard to case, folder by folder. If there is none, the path
-  /// as it stands. Fails (file not found) only where the disk refuses it.
+  /// The file to read: looked up exactly, then ignoring case, folder by folder. If there is none, the path as given.
+  /// Fails (file not found) only where the disk refuses it.
   std::filesystem::path ToRead(const std::string& systemPath) const;
 
-  /// The file to write: an existing one of that name in another case, else the name as it stands. Fails (file
-  /// access) only where the disk refuses it, or where the file might keep a program in the same folder from starting.
+  /// The file to write: an existing one of that name in another case, otherwise the name as given. Fails (file access)
+  /// only where the disk refuses it, or where the file might keep a program in the same folder from starting.
   std::filesystem::path ToWrite(const std::string& systemPath) const;
 
   /// All bytes of a file. Fails (file not found, file access); a file beyond `LargestFile` fails too.
@@ -42,8 +42,8 @@ class Folders {
   /// Writes a file as `WriteBeside` does. Fails (file access).
   void WriteFile(const std::string& systemPath, const std::string& bytes) const;
 
-  /// The names of the files in a folder, sorted without regard to case; no folders and no hidden files. Fails (file
-  /// not found, file access).
+  /// The names of the files in a folder, sorted ignoring case; folders and hidden files are left out. Fails (file not
+  /// found, file access).
   std::vector<std::string> FilesIn(const std::string& systemPath) const;
 
  private:

@@ -6,18 +6,18 @@
 
 namespace zerimo {
 
-/// The help view: a list of pages and a page. The pages stand in the folder ZMHELP beside the current folder.
+/// The help view: a list of pages and a page. The pages are in the folder ZMHELP in the current folder.
 class HelpPages {
  public:
   explicit HelpPages(const FilesContext& context) : context_(context) {}
 
-  /// Binds `HELP` to what it does.
+  /// Binds `HELP` to its action.
   void Bind();
 
   /// Loads the page selected in the list. Fails (file).
   void File1MouseDown();
 
-  /// F11 on the page: asks for a name and saves the page in its rich-text form. Fails (file).
+  /// F11 on the page: asks for a name and saves the page as rich text. Fails (file).
   void SavePage();
 
   /// Hides the page and the list.

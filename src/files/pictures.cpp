@@ -13,7 +13,7 @@ namespace zerimo {
 
 namespace {
 
-/// The endings that `LOADPICTURE` tries, all of them: the last file that is there stays.
+/// `LOADPICTURE` tries all these endings: the last file found stays.
 constexpr std::array<const char*, 5> EndingsTried = {".CUR", ".ICO", ".GIF", ".BMP", ".JPG"};
 
 }  // namespace
@@ -27,14 +27,14 @@ void Pictures::Bind() {
 void Pictures::ShowPicture(const std::string& fileName) {
   const std::filesystem::path file = context_.folders.ToRead(fileName);
   std::error_code error;
-  // A pipe of that name would hold the system for ever.
+  // Reading a pipe might wait for ever.
   if (!std::filesystem::is_regular_file(file, error)) throw Failure(FailureKind::FileNotFound);
   Picture1.SetPicture(file, fileName);
 }
 
 void Pictures::SavePicture(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, Action::SavePicture)) return;
-  // Also in front of a name that has a folder, unlike the other primitives.
+  // Even if the name has a folder, unlike in the other primitives.
   call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   call.Rest += ".Bmp";
   PassOver([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest)); });
@@ -42,7 +42,7 @@ void Pictures::SavePicture(PrimitiveCall& call) {
 
 void Pictures::LoadPicture(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, Action::LoadPicture)) return;
-  // With its folder in front, the name NONE clears nothing: it is looked for as a file like any other.
+  // The folder goes before NONE too, so NONE clears nothing: it is a file name like any other.
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   for (const char* ending : EndingsTried) PassOver([&] { ShowPicture(call.Rest + ending); });
 }
@@ -54,7 +54,7 @@ void Pictures::SlideShow(PrimitiveCall& call) {
   PassOver([&] { interval = GiveWord(call.Rest, 2); });
   if (base.empty() || interval.empty()) return;
   context_.controls.Timer3.Enabled = true;
-  // The one place that does not use the backslash.
+  // The only place that does not use a backslash.
   SlideBaseName = context_.folders.AppFolder + "/" + base;
   const double milliseconds = context_.interpreter.arguments.Number(interval);
   PassOver([&] { context_.controls.Timer3.Interval = ToInt16(milliseconds); });
@@ -66,7 +66,7 @@ void Pictures::Timer3Tick() {
     SlideFileName = UpperCase(std::string(Trimmed(SlideBaseName)) + StrTrimmed(SlideCounter) + ".JPG");
     ShowPicture(SlideFileName);
   } catch (const Failure&) {
-    // The first number without a file is the regular end of a show.
+    // The first number without a file is the normal end of a show.
     SlideCounter = 0;
     context_.controls.Timer3.Enabled = false;
   }

@@ -13,7 +13,7 @@ class Pictures {
  public:
   Pictures(const FilesContext& context, Surface& picture1) : context_(context), Picture1(picture1) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
   /// Loads a picture file, named as the system names it, as the background. Fails (file, invalid picture).

@@ -34,7 +34,7 @@ void ProgramFiles::Load(PrimitiveCall& call) {
   CurrentFileName = Trimmed(call.Rest);
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   FileLoad(call.Rest);
-  // Also when the file could not be loaded.
+  // Even if the file could not be loaded.
   PassOver([&] { context_.interpreter.variables.CreateGlobalVariable(); });
   PassOver([&] { context_.interpreter.lowering.RemoveAllRepeats(); });
 }
@@ -43,7 +43,7 @@ void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
   const std::string path(Trimmed(nameOfTheFileWithoutExtension + ".ZRM"));
   try {
     LoadedText = context_.folders.ReadFile(path);
-    // Behind what the editor holds, with no line end between the two.
+    // After what the editor holds, with no line end in between.
     context_.controls.Text2.Text += LoadedText;
     MakeArray(path);
   } catch (const Failure&) {
@@ -75,7 +75,7 @@ void ProgramFiles::ShowOpen() {
 }
 
 void ProgramFiles::OpenProgram(const std::string& name) {
-  // A blank behind the question mark, unlike the entries of typed lines.
+  // A blank after the question mark, unlike in the entries of typed lines.
   PassOver([&] { context_.controls.List4.Add("? LOAD " + name); });
   PassOver([&] { context_.interpreter.dispatch.Execute("LOAD " + name); });
 }

@@ -15,11 +15,11 @@ class ProgramFiles {
   /// Whether a name ends in .ZRM, in any case.
   static bool IsProgramName(const std::string& name);
 
-  /// Binds `LOAD` to what it does.
+  /// Binds `LOAD` to its action.
   void Bind();
 
-  /// Adds a file to the editor's text and to the store; the argument is the path without extension. A failure is told
-  /// in a box.
+  /// Adds a file to the editor's text and to the store; the argument is the path without extension. A failure is
+  /// reported in a box.
   void FileLoad(const std::string& nameOfTheFileWithoutExtension);
 
   /// Adds the statements of a file to the store. Fails (file, subscript), and what was filled stays.
@@ -30,7 +30,7 @@ class ProgramFiles {
 
   /// The bytes of the file read last.
   std::string LoadedText;
-  /// The trimmed argument of the last `LOAD`.
+  /// The trimmed input of the last `LOAD`.
   std::string CurrentFileName;
 
  private:

@@ -14,8 +14,8 @@ constexpr char CarriageReturn = '\r';
 
 bool IsKept(char character) { return character >= 32 && character <= 126; }
 
-/// Appends the kept characters of a piece to a line, whatever it holds: a stale line gets them joined to its end.
-/// Tells whether there were any.
+/// Appends the kept characters of a piece to a line, whatever that holds: stale text stays before them. Returns whether
+/// there were any.
 bool AppendToLine(Store& store, int number, std::string_view piece) {
   std::string kept;
   std::copy_if(piece.begin(), piece.end(), std::back_inserter(kept), IsKept);

@@ -18,7 +18,7 @@ void AppendPlainText(std::string& plain, const Paragraph& paragraph) {
   }
 }
 
-/// A line without the control characters that a document does not hold.
+/// A line without the control characters that a document can't hold.
 std::string Cleaned(std::string_view line) {
   std::string text;
   for (const char character : line) {

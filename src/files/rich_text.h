@@ -11,7 +11,7 @@ namespace zerimo {
 
 /// How characters look.
 struct CharacterForm {
-  /// UTF-8; empty is the font of the view.
+  /// UTF-8; empty means the font of the view.
   std::string FontName;
   /// The size in half points, from 1.
   int HalfPoints = 24;
@@ -19,7 +19,7 @@ struct CharacterForm {
   bool Italic = false;
   bool Underline = false;
   bool Strike = false;
-  /// Nothing is the colour of the view.
+  /// Nothing means the colour of the view.
   std::optional<Colour> Color;
   std::optional<Colour> Background;
 
@@ -37,16 +37,16 @@ struct TextRun {
 
 enum class Alignment { Left, Centre, Right, Justified };
 
-/// How a paragraph stands. Lengths are twentieths of a point.
+/// How a paragraph is laid out. Lengths are twentieths of a point.
 struct ParagraphForm {
   Alignment Align = Alignment::Left;
   int LeftIndent = 0;
   int RightIndent = 0;
-  /// Of the first line, from the left indent; negative hangs it out.
+  /// Of the first line, from the left indent; a negative one is a hanging indent.
   int FirstIndent = 0;
   int SpaceBefore = 0;
   int SpaceAfter = 0;
-  /// A bullet stands in front; it is no part of the text.
+  /// There is a bullet before the paragraph; it is not part of the text.
   bool Bullet = false;
   /// The places of the tab stops from the left edge, at most `MostTabs`.
   std::vector<int> Tabs;
@@ -62,8 +62,8 @@ struct Paragraph {
   bool operator==(const Paragraph&) const = default;
 };
 
-/// A document: paragraphs of runs. It is tidy if there is at least one paragraph, no run is empty, and no two runs
-/// beside each other have the same form; what is read is always tidy.
+/// A document: paragraphs of runs. It is tidy if there is at least one paragraph, no run is empty, and no two
+/// neighbouring runs have the same form; what is read is always tidy.
 struct RichText {
   std::vector<Paragraph> Paragraphs{1};
 
@@ -76,8 +76,8 @@ void Append(Paragraph& paragraph, std::string_view text, const CharacterForm& fo
 /// Whether a page is rich text (RTF): it begins with "{\rtf".
 bool IsRtf(std::string_view bytes);
 
-/// Reads RTF. What is unknown is skipped, and its text is kept. Never fails: text that is no RTF at all gives what
-/// can be read of it. Beyond `MostParagraphs` and `MostRuns` the text goes on in the last one.
+/// Reads RTF. What is unknown is skipped, and its text is kept. Never fails: of text that is not RTF it gives what can
+/// be read. Beyond `MostParagraphs` and `MostRuns` the text goes on in the last one.
 RichText ReadRtf(std::string_view rtf);
 inline constexpr std::size_t MostParagraphs = 100000;
 inline constexpr std::size_t MostRuns = 200000;
@@ -85,10 +85,10 @@ inline constexpr std::size_t MostRuns = 200000;
 /// Writes RTF that reads back as the same document, if that is tidy.
 std::string WriteRtf(const RichText& text);
 
-/// The words alone, in UTF-8; paragraphs and line breaks are divided by carriage return and line feed.
+/// The text alone, in UTF-8; paragraphs and lines are separated by carriage return and line feed.
 std::string PlainText(const RichText& text);
 
-/// A document without form. A line of the UTF-8 text, ended in any usual way, is a paragraph.
+/// A document without formatting. Each line of the UTF-8 text, ended in any usual way, is a paragraph.
 RichText FromPlainText(std::string_view utf8);
 
 }  // namespace zerimo

@@ -19,7 +19,7 @@ RichText RtfReader::Read() {
   }
   while (!outer_.empty()) EndGroup();
   CloseHalf();
-  // The paragraph behind the last paragraph end is none.
+  // What follows the last paragraph end is no paragraph if it is empty.
   if (page_.Paragraphs.size() > 1 && page_.Paragraphs.back().Runs.empty()) page_.Paragraphs.pop_back();
   return std::move(page_);
 }
@@ -61,7 +61,7 @@ void RtfReader::EndGroup() {
     --tooDeep_;
     return;
   }
-  // An end without a beginning ends nothing: the text goes on.
+  // An end without a beginning is ignored.
   if (outer_.empty()) return;
   const bool endsMark = now_.Where == RtfDestination::ListMark && outer_.back().Where != RtfDestination::ListMark;
   now_ = std::move(outer_.back());
@@ -183,7 +183,7 @@ void RtfReader::ActOnTableText(std::string_view text) {
   }
 }
 
-/// A mark that is one character and no letter or digit is a bullet; any other stays as text.
+/// A mark of one character that is not a letter or digit is a bullet; any other stays as text.
 void RtfReader::EndListMark(std::string_view mark) {
   std::string_view sign = mark;
   while (!sign.empty() && (sign.back() == '\t' || sign.back() == ' ')) sign.remove_suffix(1);
@@ -199,7 +199,7 @@ void RtfReader::EndListMark(std::string_view mark) {
   }
 }
 
-/// A first half that nothing followed.
+/// Ends a first half that no second half followed.
 void RtfReader::CloseHalf() {
   if (std::exchange(half_, 0) != 0) AddCharacter(ReplacementCharacter);
 }

@@ -14,7 +14,7 @@
 
 namespace zerimo {
 
-/// What the reader holds at most, whatever a page says.
+/// The most that the reader holds, whatever a page says.
 namespace rtf_limits {
 inline constexpr std::size_t DeepestNesting = 10000;
 inline constexpr std::size_t MostTableEntries = 4096;
@@ -26,17 +26,17 @@ inline constexpr int LargestHalfPoints = 6552;
 /// What the text of a group is for.
 enum class RtfDestination { Page, ListMark, FontTable, ColourTable, ListForm, Nothing };
 
-/// The state that a group restores at its end. Fonts and colours are kept by their numbers: the tables tell later
-/// what they are.
+/// The state that a group restores at its end. Fonts and colours are kept by number: the tables later say what they
+/// are.
 struct RtfGroup {
   RtfDestination Where = RtfDestination::Page;
-  /// -1 is the document's own.
+  /// -1 means the document's own.
   int Font = -1;
   int Color = 0;
   int Background = 0;
   CharacterForm Characters;
   ParagraphForm Form;
-  /// How many characters stand behind \uN for readers that know no Unicode.
+  /// How many characters after \uN are for readers that know no Unicode.
   int Substitutes = 1;
 };
 
@@ -69,7 +69,7 @@ class RtfReader {
   void ActOnCharacter(unsigned char byte);
   void ActOnText(std::string_view text);
 
-  /// Whether a piece is one of the substitutes behind a Unicode character, and steps over it.
+  /// Steps over a piece that is a substitute after a Unicode character; returns whether it was one.
   bool IsSubstitute();
   void AddCharacter(char32_t character);
   void AddText(std::string_view utf8);
@@ -83,7 +83,7 @@ class RtfReader {
   int CodePageOfNow() const;
   std::optional<Colour> ColourOf(int number) const;
 
-  // What control words do; `value` is what the table of words says.
+  // What control words do; `value` comes from the table of words.
   void Special(Number, int value);
   void EndParagraph(Number, int);
   void EnterDestination(Number, int value);
@@ -120,13 +120,13 @@ class RtfReader {
   RtfScanner scanner_;
   RichText page_;
   std::size_t runs_ = 0;
-  /// Paragraph ends beyond the most paragraphs.
+  /// Paragraph ends beyond `MostParagraphs`.
   std::size_t breaksOwed_ = 0;
 
   RtfGroup now_;
   std::vector<RtfGroup> outer_;
   std::size_t tooDeep_ = 0;
-  /// The token in front began a group, or was the \* that does.
+  /// The token before began a group, or was the \* at its beginning.
   bool isFirstInGroup_ = false;
   bool isIgnorable_ = false;
 

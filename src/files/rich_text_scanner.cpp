@@ -22,7 +22,7 @@ int HexDigit(char c) {
 }  // namespace
 
 RtfToken RtfScanner::Next() {
-  // Line ends are only there for people.
+  // Line ends are only for human readers.
   while (at_ < rtf_.size() && (rtf_[at_] == '\r' || rtf_[at_] == '\n')) ++at_;
   if (at_ == rtf_.size()) return {};
   RtfToken token;
@@ -64,7 +64,7 @@ RtfToken RtfScanner::ControlToken() {
   RtfToken token;
   token.Is = RtfToken::Kind::Symbol;
   token.Byte = static_cast<unsigned char>(rtf_[at_++]);
-  // A backslash in front of a line end: the two characters of the line end are one.
+  // After a backslash the two characters of a line end count as one.
   if (token.Byte == '\r' && at_ < rtf_.size() && rtf_[at_] == '\n') ++at_;
   return token;
 }

@@ -15,17 +15,17 @@ struct RtfToken {
     Word,
     /// A control symbol, `Byte`.
     Symbol,
-    /// A character of the text, `Byte`, in the code page of its font; also one written as \'hh.
+    /// A character of the text, `Byte`, in the code page of its font; including one written as \'hh.
     Character,
-    /// Characters of the text that are written as they are, `Name`: codes 32 to 126 without braces and backslashes.
+    /// Characters of the text that are written literally, `Name`: codes 32 to 126 without braces and backslashes.
     Text,
-    /// Bytes that were stepped over (\bin).
+    /// Bytes that were skipped (\bin).
     Binary,
   };
   Kind Is = Kind::End;
   std::string_view Name;
   bool HasNumber = false;
-  /// Held within 31 bits.
+  /// Limited to 31 bits.
   int Number = 0;
   unsigned char Byte = 0;
 };

@@ -19,7 +19,7 @@ int LengthOf(const RtfToken& word) {
 
 }  // namespace
 
-/// The control words that mean something, by what the text around them is for; each table is sorted by the word.
+/// The control words with a meaning, by the destination that they are in; each table is sorted by word.
 struct RtfReader::WordTables {
   using R = RtfReader;
   static constexpr WordMeaning Page[] = {
@@ -242,7 +242,7 @@ void RtfReader::Unicode(Number n, int) {
 }
 
 void RtfReader::BulletList(Number, int) {
-  // The list's form stands in a group of its own and holds for the paragraphs around it.
+  // The list's form has a group of its own but applies to the paragraphs around it.
   if (!outer_.empty()) outer_.back().Form.Bullet = true;
 }
 

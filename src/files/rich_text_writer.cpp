@@ -12,7 +12,7 @@ namespace zerimo {
 
 namespace {
 
-/// Numbers the different values in the order of their first use, from 1.
+/// Numbers distinct values from 1, in the order of their first use.
 template <typename Value>
 class Table {
  public:
@@ -75,7 +75,7 @@ void AppendText(std::string& rtf, std::string_view utf8) {
   for (std::size_t offset = 0; offset < utf8.size();) AppendCharacter(rtf, NextCharacter(utf8, offset));
 }
 
-/// A semicolon would end the name.
+/// Escapes semicolons: a plain one would end the name.
 void AppendFontName(std::string& rtf, std::string_view utf8) {
   for (std::size_t offset = 0; offset < utf8.size();) {
     const char32_t character = NextCharacter(utf8, offset);

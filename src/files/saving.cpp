@@ -23,7 +23,7 @@ void Saving::ShowSaveAs() {
   std::string name;
   PassOver([&] { name = context_.services.ShowSave("Zerimo File(.ZRM)"); });
   if (Trimmed(name).empty()) return;
-  // A full stop anywhere counts, also one in a folder's name.
+  // A full stop anywhere counts, even in a folder's name.
   if (!Contains(name, ".")) name += ".ZRM";
   PassOver([&] { SaveAs(name); });
 }
@@ -35,7 +35,7 @@ void Saving::SaveAs(const std::string& saveAsFileName) {
 
 void Saving::SaveFromEditor() {
   const std::string name = context_.services.InputBox("Enter the file name", "Save As", programFiles_.CurrentFileName);
-  // An empty answer, also that of a cancelled box, writes the file ".ZRM".
+  // An empty answer, even from a cancelled box, writes the file ".ZRM".
   SaveAs(name + ".ZRM");
 }
 
@@ -52,7 +52,7 @@ std::optional<fs::path> Saving::RescueEditorText(const std::vector<fs::path>& ot
   for (const fs::path& folder : others) {
     std::error_code error;
     const bool isNew = fs::create_directories(folder, error);
-    // Others may look into the folder around it.
+    // Others may be able to look into the parent folder.
     if (isNew) fs::permissions(folder, fs::perms::owner_all, error);
     if (PassOver([&] { WriteBeside(folder / RescuedName, text); })) return folder / RescuedName;
   }

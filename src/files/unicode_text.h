@@ -4,17 +4,17 @@
 #include <string>
 #include <string_view>
 
-/// The edge between the system's single-byte text, where a code is the character's number, and UTF-8 outside: in file
+/// The border between the system's single-byte text, where a code is the character's number, and the UTF-8 of file
 /// names and rich text.
 namespace zerimo {
 
-/// Stands for what is no character: bytes that are no UTF-8, halves of a pair, numbers beyond the last character.
+/// Stands for what is not a character: bytes that are not UTF-8, halves of a pair, numbers beyond the last character.
 inline constexpr char32_t ReplacementCharacter = 0xFFFD;
 
 /// Adds a character to UTF-8 text.
 void AppendUtf8(std::string& text, char32_t character);
 
-/// The character at an offset of UTF-8 text, which is moved behind it; a byte that is no UTF-8 counts alone as the
+/// The character at an offset of UTF-8 text; moves the offset past it. A byte that is not UTF-8 counts alone as the
 /// replacement character.
 char32_t NextCharacter(std::string_view text, std::size_t& offset);
 

@@ -8,7 +8,7 @@
 
 namespace zerimo {
 
-/// A place in pixels. The numbers are whole, but may lie far outside the canvas and beyond 32 bits.
+/// A place in pixels. The numbers are whole, but may be far outside the canvas and beyond 32 bits.
 struct PixelPoint {
   double X = 0;
   double Y = 0;
@@ -40,16 +40,16 @@ class Canvas {
   /// Makes the canvas that large, in one colour. Called once, at start.
   virtual void Create(int width, int height, Colour background) = 0;
 
-  /// Takes away all that was drawn, a loaded picture too.
+  /// Removes everything that was drawn, a loaded picture too.
   virtual void Clear(Colour background) = 0;
 
   /// A line with round ends, both end points included.
   virtual void Line(const Stroke& stroke, PixelPoint from, PixelPoint to) = 0;
 
-  /// A box with that diagonal, corners included; the outline lies inside the box.
+  /// A box with that diagonal, corners included; the outline is inside the box.
   virtual void Box(const Stroke& stroke, const Filling& filling, PixelPoint from, PixelPoint to) = 0;
 
-  /// An ellipse with half-axes in pixels (not negative, fractions allowed); the outline lies inside its bounds.
+  /// An ellipse with half-axes in pixels (not negative, fractions allowed); the outline is inside its bounds.
   virtual void Ellipse(const Stroke& stroke, const Filling& filling, PixelPoint centre, double halfWidth,
                        double halfHeight) = 0;
 
@@ -59,19 +59,19 @@ class Canvas {
   /// The colour at a point, or nothing outside the canvas.
   virtual std::optional<Colour> ColourAt(PixelPoint at) const = 0;
 
-  /// Replaces the pixels of the colour at the point that are connected to it over the four neighbours, within the
-  /// upper `rows` rows of the canvas. Does nothing if the point lies outside of them.
+  /// Replaces the pixels of the point's colour that are connected to it through their four neighbours, within the upper
+  /// `rows` rows of the canvas. Does nothing if the point is outside them.
   virtual void FloodFill(PixelPoint at, Colour fill, int rows) = 0;
 
-  /// Prints one line of text; the point is its top left corner. The background shows through.
+  /// Prints one line of text; the point is its top left corner. The picture shows through between the letters.
   virtual void Print(std::string_view text, PixelPoint at, double pointSize, Colour color) = 0;
 
-  /// Puts a picture at the top left in its own size on the background colour, in the place of all that was drawn.
+  /// Puts a picture, in its own size, at the top left on the background colour. It replaces everything that was drawn.
   /// Fails (invalid picture), and changes nothing, if the file can't be read as a picture.
   virtual void LoadPicture(const std::filesystem::path& file, Colour background) = 0;
 
-  /// Writes the upper left part of the canvas, in pixels, as a picture; the format follows from the file's ending
-  /// (.bmp, .png, .jpg; any case). Fails (file access) if the file can't be written, and then leaves a former file.
+  /// Writes the upper left part of the canvas, in pixels, as a picture; the file's ending (.bmp, .png, .jpg; any case)
+  /// decides the format. Fails (file access) if the file can't be written; an existing file then stays as it was.
   virtual void SavePicture(const std::filesystem::path& file, int width, int height) const = 0;
 };
 

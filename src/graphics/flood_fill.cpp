@@ -51,7 +51,7 @@ void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFi
   PassOver(std::forward<SetFillColor>(setFillColor));
   PassOver([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
   surface.SetScaleMode(SurfaceUnits);
-  // What FILLSTYLE and FILL had set is not put back: circles are outlines from now on.
+  // What FILLSTYLE and FILL had set is not restored: circles are outlines from now on.
   surface.SetFillStyle(Transparent);
   PassOver([&] { context_.dispatch.RefreshSurface(); });
 }

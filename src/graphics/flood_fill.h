@@ -11,7 +11,7 @@ class FloodFills {
  public:
   explicit FloodFills(const DrawingContext& context) : context_(context) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
   /// Fills from a point in pixels with the colour of a code, which is not reduced by 16. Runs under the skip rule.

@@ -25,7 +25,7 @@ class Graphics {
         surfaceText(context),
         palette(context) {}
 
-  /// Binds the primitives of this room to what they do.
+  /// Binds the primitives of this room to their actions.
   void Bind() {
     turtlePlaces.Bind();
     motion.Bind();

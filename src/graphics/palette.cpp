@@ -15,7 +15,7 @@ constexpr double HintPi = 3.1415927;
 constexpr Colour White = 0xFFFFFF;
 constexpr Colour Red = 255;
 
-/// The word that a button chooses; empty for what chooses none.
+/// The word that a button chooses, or the empty text.
 std::string ChosenWord(MouseButton button, bool shift) {
   if (button == MouseButton::Left) return shift ? "TEXTCOLOR" : "Setpc";
   if (button == MouseButton::Right) return shift ? "TEXTBACKGROUND" : "Setbg";
@@ -33,7 +33,7 @@ void Palette::Picture1MouseMove(float x, float y) {
   const double resolution = context_.turtle.Resolution;
   const double mouseX = Divide(x - form.Width / 2.0, resolution);
   const double mouseY = Divide(form.Height() / 2.0 - y, resolution);
-  // Seen from the origin and not from the turtle, and with no quadrant: always between -90 and 90.
+  // Seen from the origin, not from the turtle, and without regard to the quadrant: always between -90 and 90.
   double angle = mouseY != 0 ? std::atan(mouseX / mouseY) : HintPi / 2;
   angle = angle * 180 / HintPi;
   context_.Picture1.ToolTipText = "MouseX=" + Str(RoundHalfEven(mouseX)) + " MouseY=" + Str(RoundHalfEven(mouseY)) +
@@ -85,7 +85,7 @@ void Palette::Label14Click() { context_.dispatch.Execute(UpperCase(Trimmed(conte
 
 void Palette::HScroll1Change() {
   const Colour colour = ColourOf(context_.controls.HScroll1);
-  // The background's code stays: an erasing pen goes on with the colour that it has.
+  // The background's code stays: an erasing pen keeps its colour.
   context_.Picture1.SetBackColor(colour);
   context_.controls.Label9.BackColor = colour;
 }
@@ -100,7 +100,7 @@ void Palette::HScroll2Change() {
 }
 
 void Palette::Check1Click() {
-  // The flag alone decides, not the check mark nor what is visible.
+  // Only the flag decides, neither the check mark nor what is visible.
   CoordinatesOn = !CoordinatesOn;
   context_.controls.Line5.SetVisible(CoordinatesOn);
   context_.controls.Line6.SetVisible(CoordinatesOn);

@@ -8,14 +8,15 @@ namespace zerimo {
 
 enum class MouseButton { None, Left, Right, Middle };
 
-/// What the mouse does on the surface and on the panels that set colours by hand. None of it is under the skip rule.
+/// What the mouse does on the surface and on the panels for choosing colours by hand. None of it is under the skip
+/// rule.
 class Palette {
  public:
   explicit Palette(const DrawingContext& context) : context_(context) {}
 
   /// The hint that follows the mouse; x and y are surface units. Fails at a `Resolution` of 0.
   void Picture1MouseMove(float x, float y);
-  /// Puts the window back and gives the focus to the first empty row; a refused focus is ignored.
+  /// Returns the window to its place and gives the focus to the first empty row; a refused focus is ignored.
   void Picture1Click();
   /// Places the dropped control.
   void Picture1DragDrop(Control& source, float x, float y);

@@ -120,7 +120,7 @@ void Surface::Circle(double x, double y, double radius, std::optional<double> as
 Surface::Axes Surface::HalfAxes(const surface_operation::Circle& circle) const {
   const double longer = std::abs(static_cast<double>(circle.Radius)) / ScaleDivisor();
   const double ratio = std::abs(static_cast<double>(circle.Aspect.value_or(1)));
-  // The radius applies to the longer axis.
+  // The radius is that of the longer axis.
   return ratio > 1 ? Axes{longer / ratio, longer} : Axes{longer, longer * ratio};
 }
 

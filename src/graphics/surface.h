@@ -13,7 +13,7 @@ namespace zerimo {
 
 class Surface;
 
-/// One operation of the surface as it happened. Coordinates are the singles that were handed to the surface.
+/// One operation of the surface as it happened. Coordinates are the singles that the surface was given.
 namespace surface_operation {
 struct Set {
   const char* Property;
@@ -27,7 +27,7 @@ struct Box {
 };
 struct LineTo {
   float X2, Y2;
-  /// The current point that the line came from.
+  /// The former current point, where the line starts.
   float X1, Y1;
 };
 struct Circle {
@@ -58,7 +58,7 @@ using SurfaceOperation =
                  surface_operation::Circle, surface_operation::PSet, surface_operation::Print, surface_operation::Cls,
                  surface_operation::FloodFill, surface_operation::Picture>;
 
-/// Is told each operation right after it took place, with the surface as it then is.
+/// Is told of each operation right after it took place; the surface is then as the operation left it.
 class SurfaceRecorder {
  public:
   virtual ~SurfaceRecorder() = default;
@@ -68,21 +68,21 @@ class SurfaceRecorder {
 /// Surface units to a pixel: the whole system assumes this number.
 inline constexpr int UnitsPerPixel = 15;
 
-/// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into canvas,
-/// and hands the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
+/// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into pixels,
+/// and leaves the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
 class Surface : public Control {
  public:
   Surface(std::string surfaceName, Canvas& canvas) : Control(std::move(surfaceName)), canvas_(canvas) {}
 
-  /// Makes the canvas as large as the screen (surface units), so that what a smaller height hides is kept.
+  /// Makes the canvas as large as the screen (surface units), so that what a reduced height hides is kept.
   void CreateCanvas(float screenWidth, float screenHeight);
 
-  /// Recorders get every operation from then on. A recorder must outlive the surface or be removed.
+  /// A recorder is told of every operation from now on. A recorder must outlive the surface or be removed.
   void AddRecorder(SurfaceRecorder& recorder) { recorders_.push_back(&recorder); }
   void RemoveRecorder(SurfaceRecorder& recorder) { std::erase(recorders_, &recorder); }
 
   Colour BackColor() const { return backColor_; }
-  /// Makes it the background colour and clears all that was drawn, as `Cls` does.
+  /// Sets the background colour and clears everything that was drawn, as `Cls` does.
   void SetBackColor(Colour value);
   Colour ForeColor() const { return foreColor_; }
   void SetForeColor(Colour value);
@@ -98,7 +98,7 @@ class Surface : public Control {
   /// Pixels, from 1.
   void SetDrawWidth(std::int32_t value);
   int ScaleMode() const { return scaleMode_; }
-  /// 1 surface units, 3 canvas.
+  /// 1 surface units, 3 pixels.
   void SetScaleMode(int value);
   float CurrentX() const { return currentX_; }
   void SetCurrentX(double value);
@@ -118,22 +118,22 @@ class Surface : public Control {
   void LineTo(double x2, double y2);
   void Circle(double x, double y, double radius, std::optional<double> aspect = std::nullopt);
   void PSet(double x, double y, Colour color);
-  /// The colour at a point, or -1 outside the surface, also where a smaller height hides what was drawn.
+  /// The colour at a point, or -1 outside the surface and where a reduced height hides what was drawn.
   Colour Point(double x, double y) const;
   void Print(const std::string& text);
   void Cls();
-  /// The fill of the platform: from a point in canvas over the colour that is read there, with the fill colour, and
+  /// The platform's flood fill: from a point in pixels, over the colour that is read there, with the fill colour, and
   /// not beyond the surface's height.
   void ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint);
   /// Loads a picture file as the background; `pictureName` is how the system names the file.
   void SetPicture(const std::filesystem::path& file, const std::string& pictureName);
-  /// Writes what is drawn, as large as the surface is now.
+  /// Writes the picture in the surface's present size.
   void SavePicture(const std::filesystem::path& file) const;
 
-  /// The pixel that a point of the surface falls on, in the scale of now: the one conversion for all operations.
+  /// The pixel that a point of the surface falls on, in the present scale: all operations convert by it.
   PixelPoint ToPixels(double x, double y) const;
 
-  /// The half-axes of a circle or an oval in canvas: across and down.
+  /// The half-axes of a circle or an oval in pixels: across and down.
   struct Axes {
     double Across;
     double Down;
@@ -146,7 +146,7 @@ class Surface : public Control {
   void ReadProperties(const PropertyReader& read) const override;
 
  private:
-  /// Nothing is made of the operation while no recorder listens.
+  /// An operation is wrapped only if a recorder is listening.
   template <typename Operation>
   void Tell(const Operation& operation) const {
     if (!recorders_.empty()) TellRecorders(operation);
@@ -154,7 +154,7 @@ class Surface : public Control {
   void TellRecorders(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
   double ScaleDivisor() const { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
-  /// How many rows of the canvas the height covers, if only in part.
+  /// How many rows of the canvas the height covers, partly covered ones included.
   int Rows() const;
 
   Canvas& canvas_;

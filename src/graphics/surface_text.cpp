@@ -9,7 +9,7 @@ namespace zerimo {
 
 namespace {
 
-/// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are not two.
+/// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are fewer than two.
 std::string WithoutEnds(const std::string& text) { return std::string(Mid(text, 2, Length(text) - 2)); }
 
 bool IsQuoted(const std::string& text) { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
@@ -44,7 +44,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   BeginAtTurtle();
   std::string whole;
   PassOver([&] { whole = WithoutEnds(call.Rest); });
-  // The last comma counts, so that the text may hold commas.
+  // The last comma counts, so that the text may contain commas.
   const int comma = LastPositionOf(whole, ',');
   std::string parameters(From(whole, comma + 1));
   const double colour = context_.arguments.WordNumber(parameters, 1);
@@ -52,7 +52,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   const double y = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 3));
   const double size = context_.arguments.WordNumber(parameters, 4);
   PassOver([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
-  // Here alone the height of the surface itself gives the centre.
+  // Only here does the height of the surface itself give the centre.
   PassOver([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
   PassOver([&] { surface.SetFontSize(size); });
   std::string text;

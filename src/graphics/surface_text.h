@@ -6,12 +6,12 @@
 
 namespace zerimo {
 
-/// Text that becomes part of the picture: `WRITE`, `WRITERGB`, `TEXTSIZE`. The pen state does not matter.
+/// Text that becomes part of the picture: `WRITE`, `WRITERGB`, `TEXTSIZE`. The pen state makes no difference.
 class SurfaceText {
  public:
   explicit SurfaceText(const DrawingContext& context) : context_(context) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:

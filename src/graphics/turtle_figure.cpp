@@ -12,7 +12,7 @@ namespace {
 constexpr double BodyRadius = 150;
 constexpr double HeadRadius = 80;
 constexpr double Extension = 200;
-/// The turns of `RT` and `LT` use another number.
+/// The turns of `RT` and `LT` use another value.
 constexpr double FigurePi = 3.1415927;
 
 struct FigurePoint {
@@ -32,7 +32,7 @@ void PlaceLine(LightLine& line, FigurePoint from, FigurePoint to) {
 void TurtleFigure::TurtlePos(double x, double y, double dir) {
   const Place place{x, y, dir};
   if (place == place_) return;
-  // A move that fails has moved some of it: the next one moves all.
+  // A move that fails has moved part of the figure: the next one must move all of it.
   place_.reset();
   MoveTo(place);
   place_ = place;

@@ -9,7 +9,7 @@ class TurtlePlaces {
  public:
   explicit TurtlePlaces(const DrawingContext& context) : context_(context) {}
 
-  /// Binds the primitives to what they do.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:
