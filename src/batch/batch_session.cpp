@@ -44,7 +44,7 @@ Outcome BatchSession::Run(const Script& script) {
   return outcome;
 }
 
-/// Each way out of the system writes the last event.
+/// However the system ends, the last event is written.
 Outcome BatchSession::RunToTheEnd(const Script& script) {
   try {
     RunSteps(script);
@@ -105,7 +105,7 @@ void BatchSession::Do(const action::EnterRow& act) {
     PressEnter(RowWithFocus());
     return;
   }
-  // A hidden row can't have the focus; it is entered all the same, as a typed line is.
+  // A hidden row can't have the focus, but Enter works on it all the same.
   PassOver([&] { form_.controls.Focus.SetFocus(form_.controls.Text1[act.Row]); });
   PressEnter(act.Row);
 }

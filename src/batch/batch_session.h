@@ -14,21 +14,21 @@
 
 namespace zerimo::batch {
 
-/// How a session ended; the numbers are those of the exit status.
+/// How a session ended; the numbers are the exit statuses.
 enum class Ending { Over = 0, Refused = 1, Failed = 2, Stopped = 3 };
 
-/// What became of a session.
+/// The result of a session.
 struct Outcome {
   Ending How = Ending::Over;
-  /// What a failure, a limit or a mistake of the session has to say; empty if all went well.
+  /// The message of a failure, a limit or a mistake in the session; empty if all went well.
   std::string Message;
-  /// The line of the session that it belongs to; 0 for the start of the system.
+  /// The line of the session to which the message belongs; 0 for the start of the system.
   int Line = 0;
-  /// What ended or stopped it, as the last event of the transcript tells.
+  /// What ended or stopped it, as in the last event of the transcript.
   std::string By = {};
 };
 
-/// Writes the surface as a picture file, named by single-byte text. An exception tells what went wrong.
+/// Writes the surface as a picture file, named by single-byte text. An exception says what went wrong.
 using PictureWriter = std::function<void(const Surface& surface, const std::string& file)>;
 
 /// One session: the whole system with its controls in memory, the events of a script delivered to it, and a journal of
@@ -40,18 +40,18 @@ class BatchSession {
   BatchSession(const BatchSession&) = delete;
   BatchSession& operator=(const BatchSession&) = delete;
 
-  /// The script of a session in UTF-8, checked as a whole. Fails with `SessionError`.
+  /// Reads a session in UTF-8 and checks all of it. Fails with `SessionError`.
   Script Read(std::string_view utf8);
 
   /// Starts the system and carries out the script.
   Outcome Run(const Script& script);
 
-  /// Reads and runs; a mistake of the session is an outcome too.
+  /// Reads and runs; a mistake in the session gives an outcome too.
   Outcome Run(std::string_view utf8);
 
   Form1& System() { return form_; }
 
-  /// The line of the session that is being carried out; 0 before the first.
+  /// The line of the session being carried out; 0 before the first.
   int CurrentLine() const { return currentLine_; }
 
  private:
@@ -83,7 +83,7 @@ class BatchSession {
   /// The row that has the focus, or row 0.
   int RowWithFocus();
   void PressEnter(int row);
-  /// Delivers one event, and then the one-shot that it may have switched on.
+  /// Delivers one event, and then the tick of the one-shot timer if the event has switched it on.
   void Deliver(const std::function<void()>& event);
 
   Journal& journal_;

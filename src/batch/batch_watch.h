@@ -7,20 +7,20 @@
 
 namespace zerimo::batch {
 
-/// Keeps the limits of a session and throws `Stopped` where one is reached. A limit of 0 is none.
+/// Enforces the limits of a session and throws `Stopped` when one is reached. A limit of 0 means none.
 class BatchWatch final : public Watch {
  public:
   BatchWatch(std::uint64_t steps, double seconds);
 
-  /// The wall-clock time starts to run.
+  /// Starts the wall clock.
   void StartClock();
-  /// A typed line or handler begins: its steps are counted afresh.
+  /// A typed line or handler begins: its steps are counted from 0.
   void BeginEvent();
 
   void Step() override;
   void Tick() override { LookAtClockNowAndThen(); }
 
-  /// Sleeps, but not beyond the limit of seconds; there it stops.
+  /// Sleeps, but stops the session at the limit of seconds.
   void Sleep(std::chrono::milliseconds duration);
 
  private:

@@ -10,13 +10,13 @@ namespace zerimo::batch {
 /// The word of a button: "OK", "Abort", ...
 const char* WordOf(Answer answer);
 
-/// The buttons of a kind of box, and the one that is pressed if the session says nothing.
+/// The buttons of a kind of box, and the one that is pressed if the session does not say.
 struct BoxButtons {
   std::vector<Answer> Buttons;
   Answer Unasked;
 };
 
-/// By a box's style, a number of buttons plus an icon.
+/// The buttons for a box's style, which is a number of buttons plus an icon.
 const BoxButtons& ButtonsOf(int style);
 
 /// The words of the buttons: "Abort, Retry, Ignore".

@@ -5,8 +5,8 @@
 
 namespace zerimo::batch {
 
-/// The words behind a directive's name, taken from left to right. A blank or more divides two words. A free text at
-/// the end begins behind one blank and is taken as it stands.
+/// The words after a directive's name, taken from left to right. One or more blanks separate two words. A free text at
+/// the end begins after one blank and is taken exactly as it is.
 class DirectiveWords {
  public:
   DirectiveWords(std::string_view text, int line) : rest_(text), lineNumber_(line) {}
@@ -14,7 +14,7 @@ class DirectiveWords {
   int Line() const { return lineNumber_; }
   bool HasMore() const;
 
-  /// The next word; an error of the session, naming what is wanted, if there is none.
+  /// The next word. If there is none, fails with a `SessionError` that names what is wanted.
   std::string_view Word(std::string_view wanted);
   /// The next word, or the empty text.
   std::string_view OptionalWord();
@@ -22,9 +22,9 @@ class DirectiveWords {
   int Number(std::string_view wanted, int least, int greatest);
   /// The next word as a number of surface units.
   float Units(std::string_view wanted);
-  /// The text that is left.
+  /// The rest of the text.
   std::string Text();
-  /// An error of the session if words are left.
+  /// Fails with a `SessionError` if words are left.
   void End();
 
   [[noreturn]] void Fail(const std::string& message) const;

@@ -5,7 +5,7 @@
 
 namespace zerimo::batch {
 
-/// The command line can't be understood; the words are one line for the user.
+/// The command line can't be understood; the message is one line for the user.
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -9,7 +9,7 @@
 
 namespace zerimo::batch {
 
-/// Writes down what happens: for programs as a transcript, one JSON object a line, and for people as plain lines.
+/// Records what happens: for programs as a transcript with one JSON object a line, for people as plain lines.
 class Journal {
  public:
   /// Either stream may be missing.
@@ -32,7 +32,7 @@ class Journal {
 
   bool HasTranscript() const { return transcript_ != nullptr; }
   void Write(const JsonLine& line);
-  /// Brings all that was written to where it belongs, so that a reader never waits for an action that is over.
+  /// Flushes both streams, so that a reader never has to wait for what has already happened.
   void Flush();
 
  private:

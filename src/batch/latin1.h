@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-/// The edge between UTF-8 outside and single-byte text inside, where the code is the character's number.
+/// The border between UTF-8 outside and single-byte text inside, where a code is the character's number.
 namespace zerimo::batch {
 
-/// Bytes that are no UTF-8, or a character above U+00FF.
+/// Bytes that are not UTF-8, or a character above U+00FF.
 class TextError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

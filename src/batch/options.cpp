@@ -19,7 +19,7 @@ constexpr int LeastScreenHeight = 130;
 constexpr int GreatestScreenSide = 8192;
 constexpr double GreatestSeconds = 1e9;
 
-/// Columns of the help before the words of an option.
+/// Columns of the help before the description of an option.
 constexpr std::size_t HelpColumn = 23;
 
 constexpr const char* SessionWord = "SESSION";
@@ -76,7 +76,7 @@ void TakeSession(Options& options, const std::string& file) {
   options.SessionFile = file;
 }
 
-/// What no option has taken.
+/// Refuses an argument that no option has taken.
 [[noreturn]] void RefuseRest(const std::string& word) {
   if (word.size() > 1 && word[0] == '-') throw UsageError(word + ": there is no such option");
   throw UsageError(word + ": only one session can be run");
@@ -158,7 +158,7 @@ void CommandLine::Parse(const std::vector<std::string>& arguments) {
   try {
     parser_->parse(std::move(lastFirst));
   } catch (const CLI::ArgumentMismatch& error) {
-    // The words of the library begin with the option: "--steps: 1 required".
+    // The library's message begins with the option: "--steps: 1 required".
     throw UsageError(std::string(error.what()).substr(0, std::string_view(error.what()).find(':')) +
                      ": a value is missing");
   } catch (const CLI::ParseError& error) {
@@ -184,7 +184,7 @@ bool CommandLine::Names(const std::string& option, const std::vector<std::string
   for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
     if (arguments[i] == option || arguments[i].starts_with(option + "=")) return true;
     const CLI::Option* const known = std::as_const(*parser_).get_option_no_throw(arguments[i]);
-    // A value is no option, whatever it looks like.
+    // A value is not an option, whatever it looks like.
     if (known != nullptr && known->get_items_expected_min() > 0) ++i;
   }
   return false;

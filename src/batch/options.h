@@ -36,14 +36,14 @@ struct ValueOption {
   /// What the help calls the value.
   const char* Value;
   const char* Help;
-  /// Takes the value, or fails with `UsageError`. Of an option given twice only the last value is taken.
+  /// Takes the value, or fails with `UsageError`. If an option is given twice, only its last value is taken.
   std::function<void(const std::string& value)> Take;
 };
 
 /// Fails with a `UsageError` in one line: "--steps x: a whole number is wanted".
 [[noreturn]] void Refuse(std::string_view option, std::string_view value, std::string_view wanted);
 
-/// The command line of the runner. It knows the options of a session; others are added before it is parsed.
+/// The command line of the runner. It knows the options of a session; others are added before parsing.
 class CommandLine {
  public:
   /// The group of the options that every run has, and of those of a session.
@@ -56,13 +56,13 @@ class CommandLine {
   CommandLine(const CommandLine&) = delete;
   CommandLine& operator=(const CommandLine&) = delete;
 
-  /// Options of one group stand under one heading of the help.
+  /// Options of one group are under one heading in the help.
   void Add(const char* group, ValueOption option);
   /// An option that takes all values that follow it.
   void AddList(const char* group, const char* name, const char* value, const char* help,
                std::vector<std::string>& values);
   void AddFlag(const char* group, const char* name, const char* help, bool& flag);
-  /// Words for the help: below the usage, and at its end.
+  /// Text for the help: below the usage, and at the end.
   void AddHelp(const std::string& usage, const std::string& end);
 
   /// Fails with `UsageError`. `arguments` are those after the program's name.

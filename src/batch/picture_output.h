@@ -13,10 +13,10 @@ class PictureOutput {
  public:
   ImageCanvas& Pixels() { return canvas_; }
 
-  /// Keeps the operations of the surface from now on, for a picture made of shapes. Costs memory for each of them.
+  /// Keeps the operations of the surface from now on, for a picture made of shapes. Each costs memory.
   void KeepOperations(Surface& surface) { surface.AddRecorder(operations_); }
 
-  /// Writes the surface as large as it is now; the format follows from the file's ending. Fails (file access).
+  /// Writes the surface as large as it is now; the file's ending decides the format. Fails (file access).
   void Write(const Surface& surface, const std::filesystem::path& file) const;
 
  private:

@@ -85,7 +85,7 @@ const typename Table::value_type* Find(const Table& table, std::string_view name
   return nullptr;
 }
 
-/// `\r`, `\n`, `\t` and `\\` become the characters that they stand for; any other backslash stands for itself.
+/// `\r`, `\n`, `\t` and `\\` become the characters that they stand for; any other backslash stays.
 std::string WithoutEscapes(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {

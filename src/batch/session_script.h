@@ -8,7 +8,7 @@
 #include "controls/control_kinds.h"
 #include "graphics/palette.h"
 
-/// A session as a list of actions. Controls are those of the form that the session was read for.
+/// A session as a list of actions. Its controls belong to the form for which the session was read.
 namespace zerimo::batch {
 
 /// What a session line asks for.

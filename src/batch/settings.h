@@ -23,7 +23,7 @@ struct Settings {
   bool Sleep = false;
 };
 
-/// Whether a file name has one of the endings that a picture can be written by: .png, .bmp, .jpg, .svg in any case.
+/// Whether a file name has one of the endings of the pictures that can be written: .png, .bmp, .jpg, .svg in any case.
 bool IsPictureName(std::string_view file);
 
 /// Whether a file name has one of the endings of a page: .html or .htm in any case.

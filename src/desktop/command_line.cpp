@@ -9,7 +9,7 @@ namespace {
 constexpr int SmallestScale = 50;
 constexpr int LargestScale = 400;
 
-/// A scale in percent, or 0 if it is none.
+/// A scale in percent, or 0 if the text is not one.
 int ScaleFrom(const std::string& text) {
   int percent = 0;
   const char* end = text.data() + text.size();

@@ -15,7 +15,7 @@ class Events {
   /// nothing while another event runs.
   virtual void Deliver(const std::function<void(Form1& form1)>& event) = 0;
 
-  /// To be called when the user asks to close the window. Tells whether it may close now.
+  /// Must be called when the user asks to close the window. Returns whether it may close now.
   virtual bool Close() = 0;
 };
 

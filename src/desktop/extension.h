@@ -13,13 +13,13 @@ namespace zerimo {
 /// How a session came to its end.
 enum class SessionEnd { ByWord, ByClosing, ByFailure };
 
-/// Something that stands beside the system: it is told what happens in the window and may act on the window, but
-/// changes nothing that the system itself has or shows. Without any of them, the program is the classic one.
+/// Something that works beside the system: it is told what happens in the window and may act on the window, but changes
+/// nothing that the system itself has or shows. Without any of them, the program is the classic one.
 class Extension {
  public:
   virtual ~Extension() = default;
 
-  /// A key press, before the window or a box gets it. Tells whether the extension has used it.
+  /// A key press, before the window or a box gets it. Returns whether the extension has used it.
   virtual bool PressKey(const QKeyEvent&) { return false; }
 
   /// A handler of the system begins or has ended.
@@ -30,10 +30,10 @@ class Extension {
   virtual void BoxOpens(QDialog&) {}
   virtual void BoxCloses() {}
 
-  /// The user closes the window during a run. Tells whether the extension deals with it.
+  /// The user closes the window during a run. Returns whether the extension deals with it.
   virtual bool ClosesDuringRun() { return false; }
 
-  /// Keeps the text of the editor because the session has to end. Returns words that tell where, or nothing.
+  /// Keeps the text of the editor because the session has to end. Returns a text that says where, or the empty text.
   virtual std::string Rescue() { return {}; }
 
   virtual void SessionEnds(SessionEnd) {}
@@ -44,7 +44,7 @@ class Extensions : public QObject {
  public:
   ~Extensions() override;
 
-  /// To be called once the window is open: what is added sees a key before the window's own filters do.
+  /// Must be called once the window is open: what is added sees a key before the window's own filters do.
   void Add(std::unique_ptr<Extension> extension);
 
   /// Calls `visit(extension)` for each.

@@ -18,7 +18,7 @@ void FrameWatch::Begin() { nextFrame_ = Clock::now() + Frame; }
 
 void FrameWatch::Step() {
   if (OnStep) {
-    // The call may set another one.
+    // The call may replace it.
     const auto step = OnStep;
     step();
   }

@@ -9,12 +9,12 @@
 namespace zerimo {
 
 /// Shows the picture as it grows while a line runs, at most once per display frame, and lets the user leave the run
-/// wherever it hangs.
+/// wherever it is.
 class FrameWatch : public Watch {
  public:
   explicit FrameWatch(Stage& stage) : stage_(stage) {}
 
-  /// To be called when a handler begins.
+  /// Must be called when a handler begins.
   void Begin();
 
   void Step() override;

@@ -13,7 +13,7 @@ class ListEntries : public QAbstractListModel {
  public:
   explicit ListEntries(const ListBox& list) : list_(list) {}
 
-  /// Takes over new entries. Tells whether anything has changed.
+  /// Takes over new entries. Returns whether anything has changed.
   bool Sync();
   void SetFont(const QFont& font_);
 

@@ -26,10 +26,10 @@ namespace {
 /// When the window checks that it fills the area, in milliseconds after it appears: window managers add the frame late.
 constexpr int FittingTimes[] = {0, 50, 150, 400, 1000};
 constexpr QSize SmallestWindow(320, 240);
-/// The colour where no control lies.
+/// The colour where there is no control.
 constexpr QColor Ground(0, 0, 80);
 
-/// Modifier keys do not, nor do keys that move the focus themselves.
+/// Modifier keys do not call for the focus, nor do keys that move it themselves.
 bool CallsForFocus(const QKeyEvent& press) {
   switch (press.key()) {
     case Qt::Key_Tab:

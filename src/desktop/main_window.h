@@ -57,7 +57,7 @@ class MainWindow : public QWidget {
   void SyncPlace();
   void SyncFocus();
   void FillAvailableArea();
-  /// If no control has the focus, gives it to the one that the learner is looking at, and sends the key there. Tells
+  /// If no control has the focus, gives it to the one that the learner is looking at, and sends the key there. Returns
   /// whether it did.
   bool HandOn(QKeyEvent& press);
   /// The first of these that is on the screen: the editor, the row that had the focus last, the help page, the text

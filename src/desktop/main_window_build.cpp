@@ -13,7 +13,7 @@
 
 namespace zerimo {
 
-/// Controls added later lie above earlier ones.
+/// Controls added later are above earlier ones.
 void MainWindow::Build(ImageCanvas& canvas) {
   viewOf_.reserve(128);
   BuildSurface(canvas);

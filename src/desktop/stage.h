@@ -14,7 +14,7 @@ class Stage {
  public:
   explicit Stage(const Extensions& extensions) : extensions_(extensions) {}
 
-  /// To be called once, before anything runs. `showState` copies the state to the widgets.
+  /// Must be called once, before anything runs. `showState` copies the state to the widgets.
   void Open(QWidget& mainWindow, std::function<void()> showState);
   QWidget& Window() const { return *window_; }
 
@@ -36,7 +36,7 @@ class Stage {
   int Ask(QDialog& dialog);
   bool HasBox() const { return hold_->Box() != nullptr; }
 
-  /// To be called when the user closes the window during a run.
+  /// Must be called when the user closes the window during a run.
   void RequestClose();
 
   /// Lets the run stop as soon as it next answers the desktop. An open box counts as closed.

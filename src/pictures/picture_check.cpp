@@ -7,7 +7,7 @@ namespace zerimo {
 
 namespace {
 
-/// Walks through bytes. Past the end everything reads as zero, and the walk is no longer inside.
+/// Walks through bytes. Past the end everything reads as zero, and `IsInside` is false from then on.
 class ByteWalk {
  public:
   explicit ByteWalk(const QByteArray& content) : bytes_(content) {}
@@ -45,7 +45,7 @@ class ByteWalk {
   qsizetype position_ = 0;
 };
 
-/// More than any picture that is read; sizes computed from them stay within 64 bits.
+/// More than any picture that is read has; sizes computed from these stay within 64 bits.
 constexpr std::int64_t WidestBitmap = std::int64_t{1} << 26;
 constexpr std::int64_t MostBitsPerPixel = 64;
 
@@ -54,7 +54,7 @@ struct BitmapHeader {
   std::int64_t Width;
   std::int64_t Height;
   std::int64_t BitsPerPixel;
-  /// 1 and 2 are the run-length codings.
+  /// 1 and 2 are the run-length codes.
   std::int64_t Compression;
   std::int64_t CodedSize;
 };
@@ -74,7 +74,7 @@ BitmapHeader ReadBitmapHeader(ByteWalk walk) {
   return header;
 }
 
-/// A run-length coding whose size is not told ends with the mark of the bitmap's end.
+/// Run-length data of unstated size ends with the mark of the bitmap's end.
 bool IsWholeCoding(const BitmapHeader& header, ByteWalk walk) {
   if (header.CodedSize < 0) return false;
   if (header.CodedSize > 0) return header.PixelsAt + header.CodedSize <= walk.Size();
@@ -90,7 +90,7 @@ bool IsWholeBitmap(const ByteWalk& walk) {
   if (!isPossible) return false;
   const std::int64_t rowBits = header.Width * header.BitsPerPixel;
   const std::int64_t rowBytes = (rowBits + 31) / 32 * 4;
-  // The filling bytes of the last row may be missing.
+  // The padding bytes of the last row may be missing.
   return header.PixelsAt + rowBytes * (std::abs(header.Height) - 1) + (rowBits + 7) / 8 <= walk.Size();
 }
 
@@ -131,7 +131,7 @@ void SkipGifColours(ByteWalk& walk, unsigned flags) {
   if ((flags & 0x80U) != 0) walk.Skip(3 * (std::int64_t{2} << (flags & 7U)));
 }
 
-/// Whole to the end of its first picture, which is the one that is shown.
+/// Complete to the end of its first picture, the only one that is shown.
 bool IsWholeGif(ByteWalk walk) {
   constexpr unsigned Extension = 0x21;
   constexpr unsigned Picture = 0x2C;

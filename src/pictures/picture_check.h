@@ -4,8 +4,8 @@
 
 namespace zerimo {
 
-/// Whether the content of a picture file is there to its end: the decoders show some truncated pictures as far as they
-/// go. Of icons, whose decoder notices it, the answer is always yes.
+/// Whether the content of a picture file is complete: the decoders accept some truncated pictures and show what there
+/// is. Icons always count as complete, since their decoder notices.
 bool IsWholePicture(const QByteArray& content, const QByteArray& format);
 
 }  // namespace zerimo

@@ -25,7 +25,7 @@ namespace {
 constexpr qint64 MostPixels = 1 << 26;
 constexpr qint64 MostBytes = 1 << 28;
 
-/// What the reader may tell; cursors are told as icons.
+/// The formats that the reader may report; it reports cursors as icons.
 constexpr std::array<std::string_view, 5> ReadableFormats{"bmp", "gif", "ico", "jpeg", "png"};
 
 struct WritableFormat {
@@ -47,7 +47,7 @@ QString NameOf(const std::filesystem::path& file) {
 
 QByteArray ReadContent(const std::filesystem::path& file) {
   std::error_code error;
-  // A pipe or a device would hold the system for ever.
+  // Reading a pipe or a device might wait for ever.
   Require(std::filesystem::is_regular_file(file, error), FailureKind::FileNotFound);
   QFile source(NameOf(file));
   Require(source.open(QIODevice::ReadOnly), FailureKind::FileAccess);
@@ -55,7 +55,7 @@ QByteArray ReadContent(const std::filesystem::path& file) {
   return source.readAll();
 }
 
-/// At most that large, transparent parts as they are.
+/// The upper left part, at most that large; transparent parts stay transparent.
 QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
   QByteArray content = ReadContent(file);
   QBuffer device(&content);

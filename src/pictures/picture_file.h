@@ -7,7 +7,7 @@
 
 namespace zerimo {
 
-/// Picture files by Qt. A truncated or very large picture is an invalid one.
+/// Reads and writes picture files with Qt. A truncated or very large picture counts as invalid.
 class QtPictureFiles : public PictureFiles {
  public:
   PixelBuffer Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) override;

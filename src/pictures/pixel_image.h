@@ -10,8 +10,8 @@ namespace zerimo {
 /// An image of that size with the resolution that text is measured by: 96 dots to the inch.
 QImage MakeTextImage(int width, int height, QImage::Format format);
 
-/// Images over the memory of a buffer, without a copy and with that resolution. They last as long as the buffer keeps
-/// its size.
+/// Images over the memory of a buffer, without a copy and with that resolution. They are valid as long as the buffer
+/// keeps its size.
 QImage ImageOver(PixelBuffer& pixels);
 QImage ImageOver(const PixelBuffer& pixels);
 

@@ -24,7 +24,7 @@ QString Name(QRgb colour) { return QColor::fromRgb(colour).name(); }
 
 bool IsPoint(const WholeLine& line) { return line.X1 == line.X2 && line.Y1 == line.Y2; }
 
-/// Where the middle of a pen lies that is put on a pixel.
+/// Where the middle of a pen is when it is put on a pixel.
 double PenMiddle(const SvgPen& pen) { return pen.Width % 2 == 0 ? 0 : 0.5; }
 
 class Writer {
@@ -62,7 +62,7 @@ class Writer {
     Attribute("y", at.y());
   }
 
-  /// Lines of the same pen that follow each other become one path.
+  /// Successive lines with the same pen become one path.
   void Write(const svg_shape::Line& line) {
     if (IsPoint(line.Ends)) return WritePoint(line);
     if (!path_.isEmpty() && line.Pen != pathPen_) EndPath();
@@ -109,7 +109,7 @@ class Writer {
                 oval.Pen, oval.Inside, true);
   }
 
-  /// The inside of a hatched shape lies below its outline.
+  /// The inside of a hatched shape goes below its outline.
   void WriteClosed(const QRectF& bounds, const SvgPen& pen, const SvgInside& inside, bool isEllipse) {
     EndPath();
     const double width = pen.Width;
@@ -194,7 +194,7 @@ class Writer {
 
   QXmlStreamWriter xml_;
   QSize size_;
-  /// The path that grows, in its pen, with the place where it has come to.
+  /// The path being written, with its pen and the place that it has reached.
   QString path_;
   SvgPen pathPen_;
   QPoint pathEnd_;

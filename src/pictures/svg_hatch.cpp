@@ -11,8 +11,8 @@ namespace {
 
 constexpr double Period = 8;
 
-/// Lines side by side: those points belong to them at which X * Across.X + Y * Across.Y is a multiple of the period
-/// beyond the first one.
+/// Parallel lines: a point is on one of them if X * Across.X + Y * Across.Y differs from `First` by a multiple of the
+/// period.
 struct HatchFamily {
   QPointF Across;
   double First;
@@ -64,7 +64,7 @@ Part InRectangle(const QRectF& bounds, QPointF start, QPointF direction) {
   return part;
 }
 
-/// Where the line meets the ellipse: with the ellipse drawn together to a circle of radius 1.
+/// Where the line meets the ellipse, worked out with everything scaled so that the ellipse is a circle of radius 1.
 Part InEllipse(const QRectF& bounds, QPointF start, QPointF direction) {
   const double a = bounds.width() / 2;
   const double b = bounds.height() / 2;

@@ -15,20 +15,20 @@ namespace zerimo {
 
 namespace {
 
-/// Boxes and ellipses that reach farther out are kept as pixels, since many viewers work in singles.
+/// Boxes and ellipses that extend farther are kept as pixels, since many viewers work in singles.
 constexpr double FarthestPlace = 1 << 20;
 constexpr int WidestPen = 1 << 16;
 
 bool IsNear(PixelPoint place) { return std::abs(place.X) < FarthestPlace && std::abs(place.Y) < FarthestPlace; }
 
-/// The pen of a stroke if what is below makes no difference to it.
+/// The pen of a stroke, or nothing if what is below makes a difference to it.
 std::optional<SvgPen> PenOf(const Stroke& stroke) {
   const RasterOperation operation = MakeRasterOperation(stroke.DrawMode, stroke.Color);
   if (!operation.IsPlain() || stroke.Width > WidestPen) return std::nullopt;
   return SvgPen{operation.Toggle, stroke.Width};
 }
 
-/// The inside in the raster operation of the pen, which is a plain one.
+/// The inside, drawn with the raster operation of the pen, which is a plain one here.
 SvgInside InsideOf(const Surface& surface) {
   const Filling filling = surface.Inside();
   return {MakeRasterOperation(surface.DrawMode(), filling.Color).Toggle, filling.Style};

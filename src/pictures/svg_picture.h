@@ -11,10 +11,10 @@
 
 namespace zerimo {
 
-/// Keeps what is drawn on a surface as a list of shapes, each with the pen of its moment, to write it as an SVG
-/// picture. Clearing and loading a picture start the list again. Floods, and raster operations that look at what is
-/// below, are no shapes: their pixels are kept as they were right after the operation. A list that has grown too long
-/// becomes one patch of pixels, so that memory stays bounded.
+/// Keeps what is drawn on a surface as a list of shapes, each with the pen in use at the time, so that it can be
+/// written as an SVG picture. Clearing and loading a picture start the list again. Floods, and raster operations that
+/// depend on what is below, are not shapes: their pixels are kept as they were right after the operation. A list that
+/// has grown too long becomes one patch of pixels, so that memory stays bounded.
 class SvgRecorder : public SurfaceRecorder {
  public:
   /// The canvas under the surface that will be recorded, with nothing drawn on it yet.
@@ -24,10 +24,10 @@ class SvgRecorder : public SurfaceRecorder {
 
   const std::vector<SvgShape>& Shapes() const { return shapes_; }
 
-  /// The picture as an SVG file, in pixels, as large as told.
+  /// The picture as an SVG file of a size in pixels.
   QByteArray Picture(int width, int height, Colour background) const;
 
-  /// How many shapes, and how many canvases full of pixels, are kept before they become one patch.
+  /// Beyond this many shapes, or this many canvases full of pixels, the list becomes one patch.
   static constexpr std::size_t MostShapes = 400'000;
   static constexpr qsizetype MostCanvases = 4;
 
@@ -44,8 +44,8 @@ class SvgRecorder : public SurfaceRecorder {
   qsizetype patchBytes_ = 0;
 };
 
-/// Writes what a canvas shows, as large as told, by the file's ending: .svg from the recorded shapes, else pixels
-/// (.png, .bmp, .jpg, .jpeg). Fails (invalid argument for another ending, file access).
+/// Writes what a canvas shows in a size in pixels. The file's ending decides the format: .svg from the recorded shapes,
+/// otherwise pixels (.png, .bmp, .jpg, .jpeg). Fails (invalid argument for another ending, file access).
 void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
                   int height, Colour background);
 

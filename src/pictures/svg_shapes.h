@@ -20,13 +20,13 @@ struct SvgPen {
   bool operator==(const SvgPen&) const = default;
 };
 
-/// How an inside is painted: the style counts as in `Filling`.
+/// How an inside is painted; the styles are those of `Filling`.
 struct SvgInside {
   QRgb Color = 0;
   int Style = 0;
 };
 
-/// The shapes of a picture, in whole pixels as they were drawn.
+/// The shapes of a picture, in whole pixels, as they were drawn.
 namespace svg_shape {
 struct Line {
   SvgPen Pen;
@@ -54,7 +54,7 @@ struct Text {
   double PointSize;
   QRgb Color;
 };
-/// Pixels that no shape can say, with their top left corner.
+/// Pixels that no shape can express, with their top left corner.
 struct Patch {
   QImage Pixels;
   QPoint At;
@@ -63,8 +63,8 @@ struct Patch {
 
 using SvgShape = std::variant<svg_shape::Line, svg_shape::Box, svg_shape::Ellipse, svg_shape::Text, svg_shape::Patch>;
 
-/// Shapes on a background as an SVG file, each lying over those before it; what lies outside the size is cut off. A
-/// pixel is a square with a side of 1, so that its middle has halves as its coordinates.
+/// Shapes on a background as an SVG file, each over those before it; what is outside the size is cut off. A pixel is a
+/// square with a side of 1, so that the coordinates of its middle end in .5.
 QByteArray SvgDocument(const std::vector<SvgShape>& shapes, QSize size, QRgb background);
 
 }  // namespace zerimo

@@ -28,7 +28,8 @@ struct VisibleText {
   double X;
 };
 
-/// Leaves away what lies wholly beside the image. A letter may lean over its own width, so a neighbour stays.
+/// Leaves out what is entirely to the left or right of the image. A letter may lean out of its own width, so its
+/// neighbour stays.
 VisibleText CutSideways(const TextFont& font, std::string_view text, double x, int columns) {
   const double margin = font.Height();
   while (!text.empty() && x + font.WidthOf(text.front()) + margin < 0) {
@@ -103,7 +104,7 @@ QString PrintableText(std::string_view text) {
 
 PixelRect TextPainter::Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) {
   const TextFont& font = FontOf(pointSize);
-  // Letters may stick out of their line by as much as its height, but not more.
+  // Letters may stick out of their line by its height at most.
   if (at.Y > pixels.Rows() + font.Height() || at.Y < -2.0 * font.Height() || at.X > pixels.Columns() + font.Height()) {
     return {};
   }

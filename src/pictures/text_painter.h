@@ -12,8 +12,8 @@
 
 namespace zerimo {
 
-/// The system's font in a size, with the measures of its characters. Points are those of a screen with 96 dots to the
-/// inch, whatever the screen is. Needs a QGuiApplication.
+/// The system's font in a size, with the measurements of its characters. Points are those of a screen with 96 dots to
+/// the inch, whatever the screen is. Needs a QGuiApplication.
 class TextFont {
  public:
   explicit TextFont(double pointSize);
@@ -41,13 +41,13 @@ class TextFont {
   std::array<double, 256> advances_{};
 };
 
-/// Control characters print nothing and take no room.
+/// Control characters print nothing and take no space.
 bool IsPrintable(char character);
 
 /// The printable characters of a text.
 QString PrintableText(std::string_view text);
 
-/// Text by Qt. Needs a QGuiApplication.
+/// Prints text with Qt. Needs a QGuiApplication.
 class TextPainter : public TextDrawer {
  public:
   PixelRect Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) override;

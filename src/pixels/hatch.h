@@ -14,7 +14,7 @@ using HatchPattern = std::array<std::uint8_t, 8>;
 inline constexpr int HatchRow = 4;
 inline constexpr int HatchColumn = 4;
 
-/// By the fill style.
+/// Indexed by fill style.
 inline constexpr std::array<HatchPattern, 8> HatchPatterns{{
     {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},  // solid
     {0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00},  // none

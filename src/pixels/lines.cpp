@@ -25,7 +25,7 @@ class Steps {
 
   int Offset() const { return direction_ * offset_; }
 
-  /// One step along the long side; tells whether the place across has changed.
+  /// One step along the long side; returns whether the place across has changed.
   bool Advance() {
     remainder_ += 2 * static_cast<std::int64_t>(rise_);
     if (remainder_ < 2 * static_cast<std::int64_t>(length_)) return false;
@@ -71,7 +71,7 @@ void PaintSteepLine(SpanPainter& painter, WholeLine line) {
   }
 }
 
-/// The two long sides of a line that goes down, and the ends that are square to them.
+/// The two long sides of a line that goes down, and its ends, square to them.
 class Flanks {
  public:
   Flanks(const WholeLine& line, int width, int columns)
@@ -97,7 +97,7 @@ class Flanks {
     return Columns(middle - sideReach_, middle + sideReach_);
   }
 
-  /// The columns in any row between the two ends; what is round at the ends may add to them.
+  /// The columns in any row between the two ends; the round ends may add to them.
   ColumnSpan AtRow(int row) const {
     if (dY_ == 0) return NoColumns;
     const double y = row - aY_;
@@ -126,7 +126,7 @@ class Flanks {
   double aY_;
   double dX_;
   double dY_;
-  /// Sideways per row along the two long sides, and their distance from the middle in a row.
+  /// How far the long sides move sideways per row, and their distance from the middle in a row.
   double sideSlope_ = 0;
   double sideReach_ = 0;
   /// The same for the two ends.

@@ -9,12 +9,12 @@
 
 namespace zerimo {
 
-/// Rows of opaque 32-bit pixels, one after the other from the top, with nothing between them: what a toolkit or a page
-/// can show without a copy.
+/// Rows of opaque 32-bit pixels, from the top, with nothing between them, so that a toolkit or a page can show them
+/// without a copy.
 class PixelBuffer {
  public:
   PixelBuffer() = default;
-  /// Both sizes from 1. Fails with an exception of the library if there is no memory for it.
+  /// Both sizes are at least 1. Throws the standard library's exception if there is not enough memory.
   PixelBuffer(int columns, int rows, Pixel pixel)
       : columns_(columns),
         rows_(rows),

@@ -13,12 +13,12 @@
 
 namespace zerimo {
 
-/// A canvas over a buffer of pixels. Nothing is smoothed, and a closed shape gives each of its pixels once.
+/// A canvas over a buffer of pixels. Nothing is smoothed, and a closed shape paints each of its pixels once.
 class PixelCanvas : public Canvas {
  public:
   PixelCanvas(std::unique_ptr<TextDrawer> text, std::unique_ptr<PictureFiles> files);
 
-  /// At least one pixel. Fails (invalid argument) if there is no memory for that size.
+  /// At least one pixel. Fails (invalid argument) if there is not enough memory for that size.
   void Create(int width, int height, Colour background) override;
   void Clear(Colour background) override;
   void Line(const Stroke& stroke, PixelPoint from, PixelPoint to) override;
@@ -34,7 +34,7 @@ class PixelCanvas : public Canvas {
 
   const PixelBuffer& Pixels() const { return pixels_; }
 
-  /// The rectangle around all that may have changed since this was last asked.
+  /// The rectangle around everything that may have changed since the last call.
   PixelRect TakeDirty();
 
   /// The rectangle around what the last operation may have changed.
@@ -62,8 +62,8 @@ class PixelCanvas : public Canvas {
   PixelRect lastChange_;
 };
 
-/// The half-axis of an ellipse in whole pixels: it covers the columns or rows from its centre less that to its centre
-/// and that. A half counts as a pixel.
+/// The half-axis of an ellipse in whole pixels: it covers the columns or rows from its centre minus that to its centre
+/// plus that. A half counts as a pixel.
 double WholeHalfAxis(double halfAxis);
 
 }  // namespace zerimo

@@ -4,7 +4,7 @@
 
 namespace zerimo {
 
-/// A rectangle of pixels, edges included; empty if an edge lies before the opposite one.
+/// A rectangle of pixels, edges included; empty if the right edge is before the left one or the bottom above the top.
 struct PixelRect {
   int Left = 0;
   int Top = 0;
@@ -26,25 +26,25 @@ inline PixelRect United(const PixelRect& one, const PixelRect& other) {
           std::max(one.Bottom, other.Bottom)};
 }
 
-/// A column or row that may lie anywhere, as a whole number between two limits. Not-a-number gives the lower limit.
+/// A column or row that may be anywhere, as a whole number between two limits. Not-a-number gives the lower limit.
 inline int Clamped(double place, int least, int greatest) {
   if (!(place > least)) return least;
   return place < greatest ? static_cast<int>(place) : greatest;
 }
 
-/// The first whole number at or after a place that may lie anywhere, between two limits.
+/// The first whole number at or after a place that may be anywhere, between two limits.
 inline int FirstFrom(double place, int least, int greatest) {
   const int cut = Clamped(place, least, greatest);
   return cut < place && cut < greatest ? cut + 1 : cut;
 }
 
-/// The last whole number at or before a place that may lie anywhere, between two limits.
+/// The last whole number at or before a place that may be anywhere, between two limits.
 inline int LastTo(double place, int least, int greatest) {
   const int cut = Clamped(place, least, greatest);
   return cut > place && cut > least ? cut - 1 : cut;
 }
 
-/// The part of a rectangle (edges included) that lies on a canvas of that size; an empty one if there is none.
+/// The part of a rectangle (edges included) that is on a canvas of that size; an empty one if there is none.
 inline PixelRect OnCanvas(double left, double top, double right, double bottom, int columns, int rows) {
   return {Clamped(left, 0, columns), Clamped(top, 0, rows), Clamped(right, -1, columns - 1),
           Clamped(bottom, -1, rows - 1)};

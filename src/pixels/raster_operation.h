@@ -11,7 +11,7 @@ struct RasterOperation {
   Pixel Toggle;
 
   Pixel Apply(Pixel pixel) const { return (pixel & Keep) ^ Toggle; }
-  /// Whether what is below makes no difference: every pixel becomes Toggle.
+  /// Whether the former pixels make no difference: every pixel becomes Toggle.
   bool IsPlain() const { return Keep == 0; }
 };
 

@@ -5,14 +5,14 @@
 
 namespace zerimo {
 
-/// The columns of a row, both ends included; none if the first lies after the last.
+/// The columns of a row, both ends included; empty if the first is after the last.
 struct ColumnSpan {
   int First;
   int Last;
 };
 
-/// The pixels of a round point of some width: those whose centre is not farther from its middle than half the width. An
-/// even width lies by half a pixel to the left and above. The rows of the usual widths are worked out once.
+/// The pixels of a round point of some width: those whose centre is no farther from its middle than half the width. An
+/// even width is half a pixel too far left and up. The rows of the usual widths are worked out once.
 class RoundPen {
  public:
   /// Pixels, from 1.
@@ -22,7 +22,7 @@ class RoundPen {
   /// Rows above the one that the pen is put on.
   int Above() const { return width_ / 2; }
 
-  /// The columns in a row of the pen, 0 to its width less one from the top, seen from the column that it is put on.
+  /// The columns in a row of the pen, 0 to its width minus one from the top, relative to the column that it is put on.
   ColumnSpan Row(int row) const { return width_ <= WidestKept ? kept_[static_cast<std::size_t>(row)] : WorkOut(row); }
 
  private:

@@ -11,8 +11,8 @@
 
 namespace zerimo {
 
-/// Paints runs of pixels of one buffer by a raster operation, through a hatch pattern. What lies outside the buffer is
-/// skipped. A shape gives each of its pixels once, so that inverting operations come out right.
+/// Paints runs of pixels of one buffer by a raster operation, through a hatch pattern. What is outside the buffer is
+/// skipped. A shape must paint each of its pixels once, so that inverting operations come out right.
 class SpanPainter {
  public:
   SpanPainter(PixelBuffer& pixels, RasterOperation operation, const HatchPattern& hatch = HatchPatterns[0])
@@ -21,7 +21,7 @@ class SpanPainter {
   int Columns() const { return columns_; }
   int Rows() const { return rows_; }
 
-  /// One pixel inside the buffer; the hatch does not count.
+  /// One pixel, which must be inside the buffer; the hatch is ignored.
   void PaintPixel(int column, int row) {
     Pixel& pixel = Row(row)[column];
     pixel = operation_.Apply(pixel);
@@ -42,7 +42,7 @@ class SpanPainter {
   }
 
  private:
-  /// Pixels that a plain operation writes at once.
+  /// How many pixels a plain operation writes at once.
   static constexpr int Block = 4;
 
   Pixel* Row(int row) const { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
@@ -57,7 +57,7 @@ class SpanPainter {
     }
   }
 
-  /// The usual run of a pen, a few pixels long: block by block, the last block over the one before it.
+  /// For the usual run of a pen, a few pixels long: block by block, the last block overlapping the one before it.
   void PaintShort(Pixel* pixel, int count) {
     std::array<Pixel, Block> block;
     block.fill(operation_.Toggle);

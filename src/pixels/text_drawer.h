@@ -7,13 +7,13 @@
 
 namespace zerimo {
 
-/// What prints text on pixels. A toolkit or a page brings one.
+/// Prints text on pixels. A toolkit or a page supplies one.
 class TextDrawer {
  public:
   virtual ~TextDrawer() = default;
 
-  /// Prints a line of single-byte text, not smoothed, with its top left corner at a point that may lie anywhere.
-  /// Points are those of a screen with 96 dots to the inch. Returns the rectangle of the buffer that may have changed.
+  /// Prints a line of single-byte text, not smoothed, with its top left corner at a point that may be anywhere. Points
+  /// are those of a screen with 96 dots to the inch. Returns the rectangle of the buffer that may have changed.
   virtual PixelRect Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) = 0;
 };
 

@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The exit status for arguments that the program does not take.
+/// The exit status for arguments that the program does not accept.
 constexpr int Refused = 1;
 
 fs::path DiskPath(const QString& path) { return path.toStdU16String(); }
@@ -46,7 +46,7 @@ std::string WordsAbout(const StartFolder& start) {
          ".\rWhat you save there may be lost: save with SHOW SAVEAS, in another folder.";
 }
 
-/// The file to open, as a whole path while the current folder is that of the start, or the empty path.
+/// The absolute path of the file to open, or the empty path. To be called before the current folder changes.
 fs::path FileToOpen() {
   const QStringList arguments = QCoreApplication::arguments();
   for (qsizetype i = 1; i < arguments.size(); ++i) {

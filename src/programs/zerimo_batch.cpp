@@ -50,7 +50,7 @@ std::filesystem::path PathOf(const std::string& latin1) {
   return std::u8string(utf8.begin(), utf8.end());
 }
 
-/// One run of the program, its options given.
+/// One run of the program with its options.
 class Program {
  public:
   explicit Program(const Options& options) : options_(options) {}
@@ -92,7 +92,7 @@ class Program {
            });
   }
 
-  /// The picture at the end is written however the session ended.
+  /// The final picture is written however the session ended.
   int Close(BatchSession& session, const Outcome& outcome) {
     int status = static_cast<int>(outcome.How);
     if (!outcome.Message.empty()) ComplainAt(outcome.Line, outcome.Message);
@@ -124,7 +124,7 @@ class Program {
   std::ostream* transcript_ = nullptr;
 };
 
-/// What the toolkit has to say about the desktop is nothing for the user of a program without one.
+/// A program without a desktop hides what the toolkit says about it.
 void KeepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type == QtFatalMsg) std::cerr << message.toStdString() << '\n';
 }
@@ -170,7 +170,7 @@ int StatusOfBadUsage(const std::vector<std::string>& words) {
   return classroom::AskForClass(words) ? static_cast<int>(classroom::ClassStatus::BadUsage) : Refused;
 }
 
-/// Sessions and transcripts are bytes, also on a system that has line ends of its own.
+/// Sessions and transcripts are bytes, even on a system with its own line ends.
 void KeepLineEnds() {
 #ifdef _WIN32
   _setmode(_fileno(stdin), _O_BINARY);
