@@ -7,7 +7,7 @@ namespace zerimo {
 
 namespace {
 
-/// Our operation may cost that many times the plain one.
+/// Our operation may cost this many times the plain one.
 constexpr double Allowed = 1.3;
 
 void KeepQuickest(double& kept, double seconds) { kept = kept == 0 ? seconds : std::min(kept, seconds); }

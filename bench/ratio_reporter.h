@@ -8,9 +8,9 @@
 
 namespace zerimo {
 
-/// Prints the benchmarks in pairs: a benchmark `ours/NAME` beside `plain/NAME`, in operations a second, and how many
-/// times the plain one our operation takes. Of several repetitions the quickest one counts, which other programs on
-/// the machine have disturbed least.
+/// Prints the benchmarks in pairs: `ours/NAME` beside `plain/NAME`, in operations a second, and how many times as long
+/// our operation takes. Of several repetitions the quickest counts, since other programs on the machine disturbed it
+/// least.
 class RatioReporter : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& context) override;

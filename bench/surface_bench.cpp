@@ -30,7 +30,7 @@ struct Ends {
   PixelPoint To;
 };
 
-/// Lines of one length from the middle into all directions.
+/// Lines of one length from the middle in all directions.
 std::vector<Ends> Star(double length) {
   constexpr int Directions = 64;
   const PixelPoint middle{Columns / 2.0, Rows / 2.0};
@@ -78,7 +78,7 @@ void PlainLines(benchmark::State& state, double length, int width) {
   for (auto _ : state) painter.drawLine(lines[next++ % lines.size()]);
 }
 
-/// Box or circle around the middle, filled or not.
+/// A box or circle around the middle, filled or not.
 struct ClosedShape {
   bool IsBox;
   int Half;
@@ -128,8 +128,8 @@ void OurFlood(benchmark::State& state) {
   for (auto _ : state) canvas.FloodFill({Columns / 2.0, Rows / 2.0}, FloodColour(round++), Rows);
 }
 
-/// QPainter has no flood. Painting the same pixels without looking at them is the least that it could do; a flood
-/// reads each pixel before it writes it.
+/// QPainter has no flood. Painting the same pixels without reading them is the least that one would cost; a flood reads
+/// each pixel before it writes it.
 void PlainFlood(benchmark::State& state) {
   QImage image = MakeImage();
   QPainter painter(&image);

@@ -1,4 +1,4 @@
-# Refuses a source of a room that includes a header of a room that it may not know.
+# Refuses a source that includes a header of a room that its own room may not know.
 # cmake -DROOM=NAME -DMAY_KNOW=NAMES -DSOURCES=FILES -DSTAMP=FILE -P check_room.cmake, lists separated by |
 cmake_policy(VERSION 3.25)
 

@@ -1,7 +1,7 @@
-# What identifies the system everywhere. The version is that of project(); everything else that others see is here.
-# packaging/ makes the desktop entry, the metainfo, the man pages and the changelogs from it.
+# What identifies the system everywhere. The version is that of project(); everything else that the outside sees is
+# here. packaging/ makes the desktop entry, the metainfo, the man pages and the changelogs from it.
 
-# The name in reverse order of a domain: of the desktop entry, the icons, the metainfo and the window.
+# The reverse domain name of the desktop entry, the icons, the metainfo and the window.
 set(ZERIMO_ID io.github.zerimo_logo.Zerimo)
 set(ZERIMO_HOMEPAGE https://zerimo-logo.github.io)
 set(ZERIMO_MIME_TYPE text/x-zerimo)
@@ -16,7 +16,7 @@ string(TIMESTAMP ZERIMO_RELEASE_DATE "%Y-%m-%d" UTC)
 string(TIMESTAMP ZERIMO_RELEASE_MAIL_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
 unset(ENV{SOURCE_DATE_EPOCH})
 
-# Where the samples and help pages of an installed system lie, and how a program finds them from its own folder.
+# Where the samples and help pages of an installed system are, and how a program finds them from its own folder.
 include(GNUInstallDirs)
 set(ZERIMO_SHARE_DIR ${CMAKE_INSTALL_DATADIR}/zerimo)
 file(RELATIVE_PATH ZERIMO_SHARE_FOLDER ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_DATADIR}/zerimo)

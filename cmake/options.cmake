@@ -1,7 +1,7 @@
 # What every target of the project is compiled with.
 
-# The compiler cache knows files by their place in the tree, so that a fresh clone in another folder finds what this one
-# has compiled; debuggers, too, find the sources from the top of the tree.
+# The compiler cache identifies files by their place in the tree, so that a fresh clone in another folder finds what
+# this one has compiled. Debuggers find the sources from the top of the tree too.
 find_program(ZERIMO_CCACHE ccache)
 if(ZERIMO_CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER
@@ -48,7 +48,7 @@ if(ZERIMO_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# What is expected of programs in packages: code that can be loaded anywhere, and calls and stacks that are checked.
+# What is expected of packaged programs: position-independent code, and checked calls and stacks.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE MATCHES "^Rel")
   include(CheckPIESupported)
   check_pie_supported(LANGUAGES CXX)
@@ -57,8 +57,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE MATCHES "^Rel")
   add_link_options(-Wl,-z,relro -Wl,-z,now)
 endif()
 
-# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library. Its sources may include their own room
-# and those that its library links, directly or through another; the build refuses any other.
+# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library. Its sources may include their own
+# room and those that its library links, directly or through another; the build refuses all others.
 function(zerimo_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
@@ -102,9 +102,9 @@ function(zerimo_guard_room name)
   target_sources(${name} PRIVATE ${stamp})
 endfunction()
 
-# zerimo_test(NAME SOURCES... LINKS... [READS_TREE SOURCES...] [PROPERTIES...]): one test program; every test in it is a test
-# of its own to ctest. READS_TREE names the sources that know where the tree is, ZERIMO_SOURCE_DIR: they alone are compiled
-# anew in every clone.
+# zerimo_test(NAME SOURCES... LINKS... [READS_TREE SOURCES...] [PROPERTIES...]): one test program; every test in it is a
+# test of its own to ctest. READS_TREE names the sources that know where the tree is, ZERIMO_SOURCE_DIR: only they are
+# compiled again in every clone.
 function(zerimo_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;READS_TREE;PROPERTIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})

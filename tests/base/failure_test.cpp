@@ -37,7 +37,7 @@ TEST(PassOverTest, TellsThatAStatementWentThrough) {
   EXPECT_EQ(statements, 1);
 }
 
-TEST(PassOverTest, PassesOverAFailure) {
+TEST(PassOverTest, SkipsAFailure) {
   EXPECT_FALSE(PassOver([] { throw Failure(FailureKind::Overflow); }));
 }
 

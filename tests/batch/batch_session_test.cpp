@@ -14,7 +14,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// A session's state at its end.
+/// The state of a session after its script.
 struct After : InMemorySession {
   explicit After(const std::string& script, const Settings& settings = {}) : InMemorySession(settings) { Run(script); }
 

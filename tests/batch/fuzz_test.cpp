@@ -141,7 +141,7 @@ class Writer {
     return text;
   }
 
-  /// For the editor: procedures and what a learner's slips make of them.
+  /// For the editor: procedures, also with a learner's slips.
   std::string Program() {
     std::string text;
     for (const char* header : {"TO A", "TO B :N"}) {

@@ -33,7 +33,7 @@ TEST_F(SessionReaderTest, LineWithoutAtIsTypedAsItStands) {
   EXPECT_EQ(Only<action::TypeLine>("  fd   10 ").Text, "  fd   10 ");
 }
 
-TEST_F(SessionReaderTest, AtBehindABlankIsTyped) { EXPECT_EQ(Only<action::TypeLine>(" @end").Text, " @end"); }
+TEST_F(SessionReaderTest, AtSignAfterABlankIsTyped) { EXPECT_EQ(Only<action::TypeLine>(" @end").Text, " @end"); }
 
 TEST_F(SessionReaderTest, BlankLinesAreSkippedButCounted) {
   const Script script = Read("\n   \nFD 10\n\nRT 90");
@@ -65,7 +65,7 @@ TEST_F(SessionReaderTest, EnterTakesARowOrNone) {
   EXPECT_EQ(Only<action::EnterRow>("@enter 4").Row, 4);
 }
 
-TEST_F(SessionReaderTest, TextBeginsBehindOneBlankAndKeepsTheOthers) {
+TEST_F(SessionReaderTest, TextBeginsAfterOneBlankAndKeepsTheOthers) {
   EXPECT_EQ(Only<action::SetRow>("@type 2 FD 10").Text, "FD 10");
   EXPECT_EQ(Only<action::SetRow>("@type 2  FD 10 ").Text, " FD 10 ");
   EXPECT_EQ(Only<action::SetRow>("@type 2").Text, "");

@@ -9,7 +9,7 @@ namespace fs = std::filesystem;
 
 class ClassContainmentTest : public ClassTest {
  protected:
-  /// Every file below the test's folder but the report, with a digest of its bytes.
+  /// Every file below the test's folder except the report, with a digest of its bytes.
   std::map<std::string, std::size_t> Everything() const {
     std::map<std::string, std::size_t> all;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(Program.Folder())) {

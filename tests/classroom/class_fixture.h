@@ -13,7 +13,7 @@
 
 namespace zerimo {
 
-/// A class folder, and the report of a run over it. Temporary files have a folder of their own.
+/// A class folder, and the report of a run on it. Temporary files have a folder of their own.
 class ClassTest : public testing::Test {
  protected:
   ClassTest() {
@@ -34,7 +34,7 @@ class ClassTest : public testing::Test {
   std::filesystem::path ClassFolder() const { return Program.Folder() / "class"; }
   std::filesystem::path TemporaryFolder() const { return Program.Folder() / "temporary"; }
 
-  /// A file of the class; a program's lines are written with | for a line end.
+  /// A file of the class; in a program, | stands for a line end.
   void Write(const std::string& name, std::string bytes) const {
     std::string text;
     for (const char character : bytes) {
@@ -47,7 +47,7 @@ class ClassTest : public testing::Test {
     Program.Write("class/" + name, text);
   }
 
-  /// Runs the class and reads what came of it.
+  /// Runs the class and reads the results.
   ProgramRun Run(const std::string& options = {}) {
     const ProgramRun run = Program.Run("--class class --out report.html " + options);
     ReadReport();
@@ -67,7 +67,7 @@ class ClassTest : public testing::Test {
     return {};
   }
 
-  /// The notes about a program, but for that of a kernel, or a build with sanitizers, that contains no process.
+  /// The notes about a program, except the one that this kernel, or a build with sanitizers, contains no process.
   QJsonArray NotesOf(const char* file) const {
     QJsonArray notes;
     for (const QJsonValue& note : Pupil(file).value("notes").toArray()) {
@@ -76,7 +76,7 @@ class ClassTest : public testing::Test {
     return notes;
   }
 
-  /// "ended", "stopped seconds", "not run": the result, and what it was by where something stopped it.
+  /// "ended", "stopped seconds", "not run": the result, and what stopped the run if something did.
   std::string ResultOf(const char* file) const {
     const QJsonObject pupil = Pupil(file);
     const std::string result = pupil.value("result").toString().toStdString();

@@ -63,7 +63,7 @@ TEST_F(ClassProgramTest, LimitsStopAProgramAndTellWhere) {
   EXPECT_EQ(place.value("procedure").toString(), "SPIN");
   EXPECT_EQ(place.value("text").toString(), "SPIN");
   EXPECT_TRUE(Pupil("SPIN.ZRM").value("picture").toBool());
-  // Not the lines that stand for a REPEAT.
+  // Not the lines that replace a REPEAT.
   const QString statement = Pupil("LOOP.ZRM").value("place").toObject().value("statement").toString();
   EXPECT_TRUE(QStringList({"REPEAT", "PD", "ENDIF"}).contains(statement)) << statement.toStdString();
 }

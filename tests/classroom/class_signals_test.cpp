@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The processes whose parent is a process.
+/// The child processes of a process.
 std::vector<pid_t> ChildrenOf(pid_t parent) {
   std::vector<pid_t> children;
   for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
@@ -61,7 +61,7 @@ class ClassSignalsTest : public ClassTest {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
-  /// Whether a run has begun to work: it has made its scratch folder.
+  /// Whether a run has begun, that is, has made its scratch folder.
   bool HasBegun() const {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(TemporaryFolder())) {
       if (entry.path().filename() == "scratch") return true;
@@ -121,7 +121,7 @@ TEST_F(ClassSignalsTest, AProgressThatNobodyReadsStopsNothing) {
   EXPECT_TRUE(fs::is_empty(TemporaryFolder()));
 }
 
-TEST_F(ClassSignalsTest, ARunBehindNohupGoesOnWhenTheTerminalIsClosed) {
+TEST_F(ClassSignalsTest, ARunUnderNohupGoesOnWhenTheTerminalIsClosed) {
   Write("A.ZRM", Endless);
   std::signal(SIGHUP, SIG_IGN);
   Start("0.5");
@@ -140,7 +140,7 @@ TEST_F(ClassSignalsTest, ProcessesEndWithTheRunner) {
   ASSERT_EQ(children.size(), 1U);
   kill(runner, SIGKILL);
   Wait();
-  // An orphan may stay as a zombie where nobody collects it.
+  // An orphan may stay a zombie if nobody collects it.
   EXPECT_TRUE(WaitUntil([&] {
     const std::string stat = BytesOf("/proc/" + std::to_string(children[0]) + "/stat");
     return stat.empty() || stat.find(") Z ") != std::string::npos;

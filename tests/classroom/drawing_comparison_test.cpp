@@ -12,7 +12,7 @@ constexpr double Step = 50;
 constexpr Colour Black = 0;
 constexpr Colour Red = 255;
 
-/// Lines through points, which are told in steps.
+/// Lines through points given in steps.
 Drawing Path(std::vector<Point> points, Colour color = Black) {
   Drawing drawing;
   for (std::size_t i = 1; i < points.size(); ++i) {
@@ -32,7 +32,7 @@ Drawing Polygon(int corners, double radius) {
 }
 
 const Drawing Square = Path({{0, 0}, {0, 60}, {60, 60}, {60, 0}, {0, 0}});
-/// An L with a foot: no turn and no mirror makes it itself.
+/// An L with a foot: no turn or reflection maps it onto itself.
 const Drawing Ell = Path({{0, 0}, {0, 60}, {30, 60}, {30, 50}});
 
 bool AreSame(const Drawing& goal, const Drawing& drawing, const ShapeRules& rules = {}) {

@@ -4,7 +4,7 @@
 
 namespace zerimo::classroom {
 
-/// A text that would do harm wherever it is not escaped.
+/// A text that does harm wherever it is not escaped.
 inline const QString Hostile =
     QStringLiteral("</pre><script>alert(1)</script><img src=x onerror='a()'>\" onload=\"&lt;\u202e\x1b[2J");
 

@@ -7,7 +7,7 @@
 namespace zerimo::classroom {
 namespace {
 
-/// The first call of a program written with | for a line end.
+/// The first call of a program; | stands for a line end.
 FirstCall Of(std::string text, const char* name) {
   std::ranges::replace(text, '|', '\r');
   return ProgramOutline(text).FirstCallOf(name);

@@ -23,7 +23,7 @@ class RunProcessTest : public testing::Test {
     return QString::fromStdString((Temp.Path / "program").string());
   }
 
-  /// Runs a script that gets some seconds, and none around.
+  /// Runs a script with a limit in seconds and no `TimeAround`.
   PupilRun RunOf(const QString& program, double seconds = 30) {
     Order order;
     order.Who.Program = "ANNA.ZRM";
@@ -120,7 +120,7 @@ TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
   Temp.MakeFolder("runs");
   ClassRunner::Plan plan;
   plan.Jobs = 2;
-  // The first one waits until the last one runs; each notes how many there are.
+  // The first one waits until the last one runs; each records how many are running.
   plan.Program = Script(
       "touch ../$$.here; ls .. | grep -c here >> ../counts\n"
       "case $PWD in */0) while [ ! -e ../3 ]; do sleep 0.01; done;; esac\n"

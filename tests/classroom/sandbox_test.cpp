@@ -18,7 +18,7 @@
 namespace zerimo::classroom {
 namespace {
 
-/// A folder of its own, one that is read, and a file outside of both.
+/// A folder that may be written, one that may only be read, and a file outside both.
 class SandboxTest : public ::testing::Test {
  protected:
   SandboxTest() {

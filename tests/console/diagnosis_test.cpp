@@ -94,7 +94,7 @@ TEST_F(DiagnosisTest, ListsFollowTheProgramWhileThePanelIsHidden) {
 TEST_F(DiagnosisTest, VariablesShowWhatTheyHeldWhenTheListWasMade) {
   Fill({"TO A :X", "MAKE \"N 5", "END"});
   Type("A 1");
-  // Made at the END: the local is deleted.
+  // The list is filled at the END, when the local is deleted.
   EXPECT_EQ(controls.List2.Items(), (Texts{" ", ":N=5"}));
 }
 

@@ -55,7 +55,7 @@ TEST_F(GeneralPrimitivesTest, CommandListWritesTheNamesAsTheyStand) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-TEST_F(GeneralPrimitivesTest, CommandListThatCanNotBeWrittenIsPassedOver) {
+TEST_F(GeneralPrimitivesTest, CommandListThatCanNotBeWrittenIsIgnored) {
   folder.MakeFolder("Commands.ZMG/inside");
   Execute("COMMANDLIST");
   EXPECT_TRUE(services.Boxes.empty());

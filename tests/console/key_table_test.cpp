@@ -25,7 +25,7 @@ Cells CellsOf(const std::string& row) {
   return cells;
 }
 
-/// The table of keys of the user guide: its head, then a row for each key.
+/// The table of keys in the user guide: its header, then a row for each key.
 std::vector<Cells> KeyTable() {
   std::ifstream guide(std::filesystem::path(ZERIMO_SOURCE_DIR) / "docs" / "user-guide.md");
   std::vector<Cells> rows;
@@ -54,7 +54,7 @@ Control* ControlOf(const std::string& column, WholeSystem& system) {
   return columns.at(column);
 }
 
-/// What the window may look like when a key is pressed.
+/// The states that the window may be in when a key is pressed.
 const std::vector<std::function<void(WholeSystem&)>> looks = {
     [](WholeSystem&) {},
     [](WholeSystem& system) { system.Press(system.controls.Text1[0], key::F1); },
@@ -67,7 +67,7 @@ const std::vector<std::function<void(WholeSystem&)>> looks = {
     },
 };
 
-/// Whether a key changes anything that one sees, asks something or writes a file. Every key goes to the window too.
+/// Whether a key changes anything visible, asks something or writes a file. Every key goes to the window too.
 bool DoesSomething(const std::string& column, int keyCode, const std::function<void(WholeSystem&)>& look) {
   WholeSystem system;
   system.controls.Text1[0].Text = "RT 1";

@@ -358,7 +358,7 @@ TEST_F(KeysTest, F5ToF8AndF12DoNothing) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-/// A control's keys that do something.
+/// The keys that do something on a control.
 struct ActingKeys {
   Control* Target;
   std::set<int> Codes;

@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Sequences, ModesInOrder,
                                          ModeSequence{{"EDIT", "FS", "SS"}, {true, false, false, Split}},
                                          ModeSequence{{"TS", "EDIT", "SS"}, {true, false, false, Split}}));
 
-/// What a primitive or a key makes of what is seen; it leaves what is not given.
+/// What is seen after a primitive or a key; what is not given stays.
 struct ModeStep {
   const char* Line;
   int KeyOnForm;
@@ -119,7 +119,7 @@ TEST_F(ScreenModesTest, EveryThreeStepsShowWhatTheLastOfEachLeft) {
                     System.Picture1.Height()};
     EXPECT_EQ(seen, expected);
   };
-  // One after the other without a new start, so that longer roads are walked too.
+  // All in one system, so that longer paths are tested too.
   for (const ModeStep& first : ModeSteps) {
     for (const ModeStep& second : ModeSteps) {
       for (const ModeStep& third : ModeSteps) {

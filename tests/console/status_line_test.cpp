@@ -41,13 +41,13 @@ TEST_F(StatusLineTest, DetailsFollowEveryPrimitive) {
   EXPECT_TRUE(Shows("[RT-Direction:  450]"));
 }
 
-TEST_F(StatusLineTest, LeftOfTheCentreHasNoBlankBehindTheColon) {
+TEST_F(StatusLineTest, LeftOfTheCentreHasNoBlankAfterTheColon) {
   Type("SETX 0-2");
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Xpos:-2]")) << Caption();
 }
 
-TEST_F(StatusLineTest, BelowTheCentreHasNoBlankBehindTheColon) {
+TEST_F(StatusLineTest, BelowTheCentreHasNoBlankAfterTheColon) {
   Type("SETY 0-7");
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Ypos:-7]")) << Caption();

@@ -124,7 +124,7 @@ TEST_F(BoxesTest, TheLastStateIsShownBehindABox) {
   QString shown;
   WhileABoxStands([&] { shown = WidgetAs<QLabel>(FormControls().Label19).text(); });
   Enter("message 5");
-  // Where the run stands: on the one line of the second typed line's procedure.
+  // Where the run is: on the only line of the second typed line's procedure.
   EXPECT_EQ(shown, ".#TEMP$2-2");
   EXPECT_EQ(FormControls().Label19.Caption, ".");
 }

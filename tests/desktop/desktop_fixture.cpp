@@ -15,7 +15,7 @@ namespace zerimo {
 namespace {
 
 constexpr int LongestWait = 5000;
-/// How often a box is looked at that nothing answers_.
+/// How often an unanswered box is looked at before the test gives up.
 constexpr int MostRounds = 500;
 
 QDialog* StandingBox() {
@@ -26,7 +26,7 @@ QDialog* StandingBox() {
   return nullptr;
 }
 
-/// The end of a former session in this process would end the boxes of this one.
+/// The end of an earlier session in this process would end the boxes of this one.
 void ForgetFormerEnd() {
   QTimer::singleShot(0, qApp, &QCoreApplication::quit);
   QApplication::exec();
@@ -41,7 +41,7 @@ DesktopTest::DesktopTest(const QRect& available) : formerFolder_(QDir::currentPa
   QDir::setCurrent(folder.path());
   session = std::make_unique<Session>(available, folder.path().toStdString());
   session->Start();
-  // The toolkit's window without a screen has a frame that would take some of the area.
+  // Without a screen, the toolkit gives the window a frame that takes some of the area.
   Shown().setFixedSize(available.size());
   Settle();
   QObject::connect(&answering_, &QTimer::timeout, &answering_, [this] { AnswerBox(); });
@@ -130,7 +130,7 @@ void DesktopTest::AnswerBox() {
 void DesktopTest::GiveUp(QDialog& dialog) {
   if (++rounds_ < MostRounds) return;
   rounds_ = 0;
-  ADD_FAILURE() << "nothing answers_ the box " << dialog.windowTitle().toStdString();
+  ADD_FAILURE() << "nothing answers the box " << dialog.windowTitle().toStdString();
   dialog.reject();
 }
 

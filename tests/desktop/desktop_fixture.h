@@ -45,21 +45,21 @@ class DesktopTest : public testing::Test {
   /// From the editor to row 0 without the fold.
   void LeaveEditor();
 
-  /// Lets the event loop work until a condition is true, at most some seconds. Returns whether it is true.
+  /// Runs the event loop until a condition is true, for a few seconds at most. Returns whether it is true.
   static bool Until(const std::function<bool()>& condition);
-  /// Lets the one-shot that gives the focus to row 0 fire.
+  /// Lets the one-shot timer that gives the focus to row 0 fire.
   void Settle();
 
-  /// A box as it stood on the screen.
+  /// A box as it was on the screen.
   struct SeenBox {
     std::string Text;
     std::string Title;
     std::vector<std::string> Buttons;
     QPixmap Icon;
   };
-  /// Presses keys in the next box that stands, and notes the box. May be called several times, for one box each.
+  /// Presses keys in the next box that opens, and records the box. May be called several times, for one box each.
   void AnswerNextBox(std::vector<Qt::Key> keys, const char* typed = "");
-  /// Looks around while the next box stands, and closes it then.
+  /// Looks around while the next box is open, and then closes it.
   void WhileABoxStands(std::function<void()> look, Qt::Key close = Qt::Key_Return);
   std::vector<SeenBox> Boxes;
 

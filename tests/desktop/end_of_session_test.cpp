@@ -10,7 +10,7 @@ using EndOfSessionTest = DesktopTest;
 
 class AfterAFailure : public DesktopTest {
  protected:
-  /// A line width beyond 16 bits fails in a handler that is under no skip rule.
+  /// A line width beyond 16 bits fails in a handler that is not under the skip rule.
   void Fail() {
     Enter("show dia");
     auto& field = WidgetAs<QLineEdit>(FormControls().Text4);

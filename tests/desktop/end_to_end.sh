@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Starts the program on a display of its own with a window manager, types a line with real key events, and compares
-# what stands on the screen with the picture that the batch runner draws of the same line.
+# Starts the program on a display of its own with a window manager, types a line with real key events, and compares what
+# is on the screen with the picture that the batch runner draws for the same line.
 # Usage: end_to_end.sh ZERIMO ZERIMO-BATCH
 set -euo pipefail
 
@@ -9,14 +9,14 @@ zerimo=$1
 batch=$2
 width=1024
 height=768
-# What the title bar and the rows leave of the surface for sure.
+# The part of the surface that the title bar and the rows are sure to leave free.
 part=1000x560+0+0
 lines=('CS' 'HT' 'REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]')
 
 work=$(mktemp -d)
 started=()
 finish() {
-  # The last started first; each is waited for, since a display that goes late takes its successor's socket with it.
+  # The last started ends first. Each is waited for: a display that ends late takes its successor's socket with it.
   for ((i = ${#started[@]} - 1; i >= 0; i--)); do
     kill "${started[i]}" 2>/dev/null || true
     wait "${started[i]}" 2>/dev/null || true
@@ -54,7 +54,7 @@ start_display() {
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
 start_program() {
-  # No session bus: what stands on the screen must not depend on the desktop that the test is started from.
+  # No session bus: what is on the screen must not depend on the desktop that the test is started from.
   export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb DBUS_SESSION_BUS_ADDRESS=disabled:
   export LSAN_OPTIONS=suppressions=$here/other_libraries.leaks:print_suppressions=0
   "$zerimo" &

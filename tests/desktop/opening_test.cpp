@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 using Items = std::vector<std::string>;
 
-/// A file is given to the program when it starts.
+/// A program that is started with a file.
 class OpeningTest : public DesktopTest {
  protected:
   fs::path PathOf(const char* name) const { return folder.filePath(QString::fromUtf8(name)).toStdU16String(); }

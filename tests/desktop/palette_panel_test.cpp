@@ -21,7 +21,7 @@ class PalettePanelTest : public DesktopTest {
   const std::string& Command() { return FormControls().Label15.Caption; }
   void Drag(QWidget& from, QPoint grab, QPoint by) {
     QTest::mousePress(&from, Qt::LeftButton, {}, grab);
-    // The panel follows the pointer, so that the place on it stays the same from the second step on.
+    // The panel follows the pointer, so that from the second step on the pointer stays at the same place on it.
     SendMove(from, grab + by);
     SendRelease(from, grab);
   }

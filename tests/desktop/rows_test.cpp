@@ -82,7 +82,7 @@ TEST_F(RowsTest, AnOldLineRunsAgain) {
   EXPECT_EQ(FormControls().List4.Items(), (Texts{"?RT 1", "?RT 1"}));
 }
 
-/// Rows 0 and 1 hold "rt 1" and "rt 2", and the focus has come to row 1 with Enter.
+/// Rows 0 and 1 hold "rt 1" and "rt 2", and Enter has moved the focus to row 1.
 class OldLines : public DesktopTest {
  protected:
   OldLines() {

@@ -10,7 +10,7 @@ class SurfaceWidgetTest : public DesktopTest {
  protected:
   SurfaceWidget& Surface() { return WidgetAs<SurfaceWidget>(System().Picture1); }
   QColor PixelAt(int x, int y) { return Surface().grab().toImage().pixelColor(x, y); }
-  /// As soon as the window no longer looks for its place itself.
+  /// As soon as the window has stopped adjusting its own place.
   void DragWindowAway() {
     int step = 0;
     ASSERT_TRUE(Until([&] {

@@ -11,7 +11,7 @@ namespace {
 struct ScreenCase {
   int Width;
   int Height;
-  /// What a title bar takes.
+  /// The height that a title bar takes.
   int TitleBar;
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// An installed folder "share", and a folder of the user that is not there yet.
+/// An installed folder "share", and a folder of the user that does not exist yet.
 class DeliveredFilesTest : public ::testing::Test {
  protected:
   DeliveredFilesTest() {
@@ -177,7 +177,7 @@ TEST_F(DeliveredFilesTest, NamesWithBlanksAndUmlautsAreDelivered) {
   EXPECT_EQ(DeliverFiles(Temp.Path / "share", target).Written, 0);
 }
 
-TEST_F(DeliveredFilesTest, AListThatIsNoListIsPassedOver) {
+TEST_F(DeliveredFilesTest, AListThatIsNotAListIsIgnored) {
   Temp.Write("user/.zerimo-files", std::string("\0\xFF\n\nnonsense\n0123456789abcdef\n", 31));
   EXPECT_EQ(Start().Written, 4);
   EXPECT_EQ(Start().Written, 0);

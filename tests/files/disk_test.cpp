@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A scratch folder with a shelf beside it, and a file outside of both.
+/// A scratch folder with a shelf beside it, and a file outside both.
 class ConfinedDiskTest : public ::testing::Test {
  protected:
   ConfinedDiskTest() {

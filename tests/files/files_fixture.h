@@ -14,7 +14,7 @@
 
 namespace zerimo {
 
-/// Writes down the pictures that were loaded into the surface.
+/// Lists the pictures that are loaded into the surface.
 class PictureList : public SurfaceRecorder {
  public:
   void Record(const Surface&, const SurfaceOperation& operation) override {
@@ -23,8 +23,8 @@ class PictureList : public SurfaceRecorder {
   std::vector<std::string> Paths;
 };
 
-/// The interpreter with files, editor, pictures and help in a folder of its own. `AppFolder` is the folder "app" in
-/// it, and relative paths begin at another one, "work".
+/// The interpreter with files, editor, pictures and help in a folder of its own. `AppFolder` is the folder "app" in it,
+/// and relative paths start at another one, "work".
 class FilesTest : public ::testing::Test, protected BareInterpreter {
  protected:
   FilesTest() {

@@ -7,7 +7,7 @@ namespace {
 
 class ProgramFilesTest : public FilesTest {
  protected:
-  /// A program with so many statements.
+  /// A program with a number of statements.
   static std::string Statements(int count) {
     std::string text;
     for (int i = 0; i < count; ++i) text += "FD 1\r\n";
@@ -23,13 +23,13 @@ TEST_F(ProgramFilesTest, ALoadFillsTheStore) {
   EXPECT_EQ(Program(), (Texts{"TO BOX", "FD 10", "END"}));
 }
 
-TEST_F(ProgramFilesTest, TheCountStandsOneBehindTheLastLine) {
+TEST_F(ProgramFilesTest, TheCountIsOnePastTheLastLine) {
   Temp.Write("app/BOX.ZRM", "TO BOX\r\nEND\r\n");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(store.FileDataCount, 3);
 }
 
-TEST_F(ProgramFilesTest, TheCountStandsOnTheLastLineWithoutALineEnd) {
+TEST_F(ProgramFilesTest, TheCountIsTheLastLineWithoutALineEnd) {
   Temp.Write("app/BOX.ZRM", "TO BOX\r\nEND");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(store.FileDataCount, 2);
@@ -79,7 +79,7 @@ TEST_F(ProgramFilesTest, SmallLettersStay) {
   EXPECT_EQ(Program(), (Texts{"to box", "fd 10", "end"}));
 }
 
-TEST_F(ProgramFilesTest, ALoadAddsBehindWhatIsThere) {
+TEST_F(ProgramFilesTest, ALoadAddsAfterWhatIsThere) {
   Temp.Write("app/A.ZRM", "FD 1\r\n");
   dispatch.Execute("LOAD A");
   dispatch.Execute("LOAD A");
@@ -225,7 +225,7 @@ TEST_F(ProgramFilesTest, ALineOfBlanksIsListedAndTheListingGoesOn) {
   EXPECT_EQ(Listed(controls.List1), (Texts{" 1  FD 1", " 2  ", " 3  FD 3"}));
 }
 
-TEST_F(ProgramFilesTest, WhatStandsBehindALineOfBlanksCanNotBeReached) {
+TEST_F(ProgramFilesTest, WhatFollowsALineOfBlanksCanNotBeReached) {
   Temp.Write("app/A.ZRM", "TO A\r\nEND\r\n   \r\nTO B\r\nEND\r\n");
   dispatch.Execute("LOAD A");
   EXPECT_EQ(store.WhereProcedure("A"), 1);

@@ -16,15 +16,15 @@
 #include "files/temp_folder.h"
 #include "support/failure_of.h"
 
-// Every call of the system that a save makes fails once, or is the last that the process does. The linker puts the
-// functions below between the save and the C library.
+// Every system call of a save fails once, or is the last thing that the process does. The linker puts the functions
+// below between the save and the C library.
 
 namespace {
 
-/// The error with which a call fails that is to kill the process instead.
+/// In place of an error: the call kills the process.
 constexpr int Killed = -1;
 
-/// Calls of the system until the fault comes; 0 when it has come, negative where none is to come.
+/// System calls until the fault comes; 0 when it has come, negative if none is to come.
 int callsLeft = -1;
 int faultError = 0;
 
@@ -59,7 +59,7 @@ int __wrap_stat(const char* name, struct stat* status) { return FaultComes() ? -
 int __wrap_access(const char* name, int mode) { return FaultComes() ? -1 : __real_access(name, mode); }
 int __wrap_fchown(int file, uid_t user, gid_t group) { return FaultComes() ? -1 : __real_fchown(file, user, group); }
 int __wrap_fchmod(int file, mode_t mode) { return FaultComes() ? -1 : __real_fchmod(file, mode); }
-// A disk may take fewer bytes than it is given.
+// A disk may accept fewer bytes than it is given.
 ssize_t __wrap_write(int file, const void* bytes, size_t count) {
   constexpr size_t most = size_t{1} << 20;
   return FaultComes() ? -1 : __real_write(file, bytes, count < most ? count : most);
@@ -79,7 +79,7 @@ namespace {
 
 constexpr int MostCalls = 100;
 
-/// What is saved, and whether a file stands in its place before.
+/// What is saved, and whether there is a file in its place already.
 struct Save {
   std::size_t Size;
   bool IsOverAnother;
@@ -95,7 +95,7 @@ class SaveFaults : public ::testing::TestWithParam<Save> {
   bool HasFormer() const { return GetParam().IsOverAnother ? Temp.Read("file") == Former : !Temp.Has("file"); }
   bool HasNew() const { return Temp.Has("file") && Temp.Read("file") == New; }
 
-  /// Saves with a fault at one of the calls; tells whether the save makes that many.
+  /// Saves with a fault at one of the calls. If the save makes fewer calls, `callsLeft` stays above 0.
   void SaveWithFaultAt(int call, int error) const {
     callsLeft = call;
     faultError = error;

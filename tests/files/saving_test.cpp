@@ -51,7 +51,7 @@ TEST_F(SavingTest, ShowSaveAsDoesNotTrimTheName) {
   EXPECT_TRUE(Temp.Has("work/ A .ZRM"));
 }
 
-TEST_F(SavingTest, ShowSaveAsPassesOverAFailure) {
+TEST_F(SavingTest, ShowSaveAsSkipsAFailure) {
   Temp.MakeFolder("work/A.ZRM");
   for (const char* name : {"A", "missing\\A"}) {
     services.SaveAnswers = {name};
@@ -118,7 +118,7 @@ TEST_F(SavingTest, F10SavesInTheCurrentFolder) {
   EXPECT_EQ(Temp.Read("app/PROG.ZRM"), "fd 10");
 }
 
-TEST_F(SavingTest, BehindTheOpenDialogF10OffersTheWholePath) {
+TEST_F(SavingTest, AfterTheOpenDialogF10OffersTheWholePath) {
   Temp.Write("x/Box.zrm", "fd 10");
   services.OpenAnswers = {"..\\x\\Box.zrm"};
   programFiles.ShowOpen();

@@ -10,7 +10,7 @@
 
 namespace zerimo {
 
-/// A folder of its own for a test, gone at the end.
+/// A folder for one test, removed at the end.
 class TempFolder {
  public:
   TempFolder() {

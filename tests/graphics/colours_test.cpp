@@ -205,7 +205,7 @@ TEST_F(ColoursTest, FillBackRoundsTheWidthAlone) {
   EXPECT_EQ(Recorder.Operations, Texts({"PSet 1 1 128", "PSet 51 1 128"}));
 }
 
-TEST_F(ColoursTest, FillBackPassesOverPointsOfAnotherColour) {
+TEST_F(ColoursTest, FillBackSkipsPointsOfAnotherColour) {
   turtle.BGColor = 6;
   Recorder.Operations.clear();
   colours.FillBack(4);

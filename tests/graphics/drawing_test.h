@@ -19,8 +19,8 @@ namespace zerimo {
 
 using Texts = std::vector<std::string>;
 
-/// The drawing primitives over a surface that writes down its operations. `Screen`, `Form1` and `Picture1` have
-/// different sizes, so that a result shows which of them it was worked out from; the turtle stands at 1000, 2000.
+/// The drawing primitives with a surface that records its operations. `Screen`, `Form1` and `Picture1` have different
+/// sizes, so that a result shows which of them it was worked out from; the turtle is at 1000, 2000.
 class DrawingTest : public testing::Test {
  protected:
   DrawingTest() {

@@ -80,7 +80,7 @@ TEST_F(PaletteTest, ClickSwitchesTheFocusTimerOn) {
   EXPECT_TRUE(controls.Timer2.Enabled);
 }
 
-TEST_F(PaletteTest, ClickWithHiddenRowsPassesOverTheRefusedFocus) {
+TEST_F(PaletteTest, ClickWithHiddenRowsIgnoresTheRefusedFocus) {
   controls.Timer2.Enabled = false;
   controls.Picture3.Hide();
   palette.Picture1Click();

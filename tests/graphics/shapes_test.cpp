@@ -180,7 +180,7 @@ TEST_F(ShapesTest, EllipseOfAngleZeroIsLying) {
 TEST_F(ShapesTest, EllipseOfAngle90IsStanding) {
   const Texts operations = Do("ELLIPSE 0 0 4 2 90");
   const auto ends = Chords(operations);
-  // The first half-axis has turned up: the chain begins above the centre.
+  // The first half-axis now points up: the chain begins above the centre.
   EXPECT_NEAR(Picture1.CurrentX(), ends[0].X, 0.01);
   EXPECT_NEAR(ends[49].X, 5000, 0.01);
   EXPECT_NEAR(ends[49].Y, 4300, 0.01);

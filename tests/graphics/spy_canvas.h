@@ -8,7 +8,7 @@
 
 namespace zerimo {
 
-/// A canvas without pixels that writes down, in pixels, what it was asked to draw.
+/// A canvas without pixels that records, in pixels, what it is asked to draw.
 class SpyCanvas : public EmptyCanvas {
  public:
   void Clear(Colour background) override {

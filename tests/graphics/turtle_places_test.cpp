@@ -163,7 +163,7 @@ TEST_P(HomeName, AsksNoFence) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-TEST_P(HomeName, IgnoresWhatStandsBehindIt) { EXPECT_EQ(Do(std::string(GetParam()) + " 5").size(), 1U); }
+TEST_P(HomeName, IgnoresWhatFollowsIt) { EXPECT_EQ(Do(std::string(GetParam()) + " 5").size(), 1U); }
 
 INSTANTIATE_TEST_SUITE_P(variables, HomeName, testing::Values("HOME", "HOMEX", "HOMEY", "HOMEXY"));
 

@@ -17,7 +17,7 @@ constexpr double twipsAcross = 15360;
 constexpr double twipsDown = 11520;
 constexpr double degreesOfATurn = 180 / 3.1415937;
 
-/// Far more steps than any example needs that ends.
+/// Far more steps than any example that ends needs.
 const std::vector<std::string> stepLimit = {"--steps", "20000"};
 
 /// A text that is claimed; a page may give only the beginning of a long one.

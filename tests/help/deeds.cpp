@@ -10,7 +10,7 @@ constexpr int chordsOfAnEllipse = 51;
 
 std::string TextIn(const QJsonObject& event, const char* key) { return event[key].toString().toStdString(); }
 
-/// The entry that a typed line itself makes comes directly after it.
+/// The entry that a typed line itself makes comes right after it.
 std::vector<std::string> HistoryOf(const std::vector<QJsonObject>& events) {
   std::vector<std::string> history;
   bool isAfterTyped = false;

@@ -6,13 +6,13 @@
 
 namespace zerimo::help {
 
-/// The documents at the top of the tree and all in docs, src, tests, help and packaging.
+/// The documents at the top of the tree and all those in docs, src, tests, help and packaging.
 std::vector<std::filesystem::path> AllDocuments(const std::filesystem::path& sourceFolder);
 
-/// Where the links and pictures of a document lead, but for those into the network.
+/// The targets of a document's links and pictures, except those on the network.
 std::vector<std::string> LinksIn(const std::filesystem::path& document);
 
-/// Whether a link of a document leads to a file that is there, and, with a "#", to a heading of it.
+/// Whether a link of a document leads to an existing file and, with a "#", to a heading in it.
 bool LeadsSomewhere(const std::filesystem::path& document, const std::string& link);
 
 }  // namespace zerimo::help

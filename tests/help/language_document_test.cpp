@@ -48,14 +48,14 @@ std::string Cell(std::istringstream& row) {
   return first == std::string::npos ? std::string() : cell.substr(first, cell.find_last_not_of(' ') - first + 1);
 }
 
-/// A word between the marks of code at the start of a cell, or nothing.
+/// A word marked as code at the start of a cell, or nothing.
 std::optional<std::string> CodeIn(const std::string& cell) {
   const std::size_t end = cell.find('`', 1);
   const bool isCode = cell.starts_with('`') && end != std::string::npos;
   return isCode ? std::optional(cell.substr(1, end - 1)) : std::nullopt;
 }
 
-/// The rows below a head that begins with "Word" and "Also", up to the end of that table.
+/// The rows below a header that begins with "Word" and "Also", up to the end of the table.
 std::multimap<std::string, WordRow> RowsOfWords() {
   std::ifstream lines(document);
   std::multimap<std::string, WordRow> rows;
@@ -130,7 +130,7 @@ TEST_F(LanguageDocument, HasEveryWordOnce) { EXPECT_EQ(WordsOf(rows), WordsOfThe
 TEST_F(LanguageDocument, TellsTheInputsOfTheTable) {
   for (const auto& [word, row] : rows) {
     const bool takesRest = !row.Inputs.empty() && row.Inputs.back().ends_with(restOfTheLine);
-    // `TO` is no statement of a typed line and so has no number of inputs.
+    // `TO` is not a statement of a typed line and so has no number of inputs.
     if (word == "TO") continue;
     if (InputsOf(word) < 0) {
       EXPECT_TRUE(takesRest) << word;

@@ -16,7 +16,7 @@ TEST_F(ArgumentsTest, StagesRunInTheirOrder) {
   variables.SetSlot(2, ":Y=4");
   controlPath.SetCtrlStr(".BOX- 2");
   turtle.TurtleX = 7680 + 100;
-  // XCOR in a local's value comes too late for the first stage: it is an undeclared name then.
+  // XCOR in a local's value comes too late for the first stage: by then it is an undeclared name.
   EXPECT_EQ(arguments.Number("XCOR*:X"), 4);
 }
 

@@ -116,7 +116,7 @@ TEST_F(ArithmeticLimitsTest, ABracketsValueIsPutInAsText) {
 }
 
 TEST_F(ArithmeticLimitsTest, APlaceKeepsItsValueWhenNoFurtherBracketIsFound) {
-  // After the first pair there is no ")": its old place 3 is taken again.
+  // After the first pair there is no ")": its old place, 3, is used again.
   EXPECT_EQ(WithoutBrackets("(2)(3"), "20");
   EXPECT_EQ(FailureOfValue("(2)+(3"), FailureKind::InvalidArgument);
 }

@@ -45,7 +45,7 @@ TEST(TokenArray, EndsAtTheEmptyTextOrACarriageReturn) {
   EXPECT_TRUE(tokens.IsEnd(5));
 }
 
-TEST(SpaceRemover, LooksAtNothingBehindACarriageReturn) {
+TEST(SpaceRemover, LooksAtNothingAfterACarriageReturn) {
   TokenArray tokens = Tokens({"1", "\r", " ", "2"});
   SpaceRemover(tokens);
   EXPECT_EQ(tokens.At(3), " ");
@@ -59,7 +59,7 @@ TEST(SpaceRemover, FailsWith100Tokens) {
   EXPECT_EQ(FailureOf([&] { SpaceRemover(tokens); }), FailureKind::SubscriptOutOfRange);
 }
 
-TEST(UnaryMinusProcessor, JoinsAMinusBehindAnOperator) {
+TEST(UnaryMinusProcessor, JoinsAMinusAfterAnOperator) {
   for (const char* op : {"*", "/", "%"}) {
     TokenArray tokens = Tokens({"3", op, "-", "4"});
     UnaryMinusProcessor(tokens);
@@ -67,7 +67,7 @@ TEST(UnaryMinusProcessor, JoinsAMinusBehindAnOperator) {
   }
 }
 
-TEST(UnaryMinusProcessor, LeavesAMinusBehindASign) {
+TEST(UnaryMinusProcessor, LeavesAMinusAfterASign) {
   for (const char* sign : {"+", "-"}) {
     TokenArray tokens = Tokens({"3", sign, "-", "4"});
     UnaryMinusProcessor(tokens);
@@ -92,7 +92,7 @@ TEST(AddandSub, LooksOneTokenBack) {
   EXPECT_EQ(AddandSub(tokens), -1);
 }
 
-TEST(AddandSub, SubtractsOnlyBehindExactlyAMinus) {
+TEST(AddandSub, SubtractsOnlyAfterExactlyAMinus) {
   TokenArray tokens = Tokens({"3", "- ", "4", "-", "1"});
   EXPECT_EQ(AddandSub(tokens), 6);
 }

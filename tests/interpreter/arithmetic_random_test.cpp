@@ -13,7 +13,7 @@
 #include "interpreter/arithmetic.h"
 #include "support/limited_watch.h"
 
-// Random expressions, computed a second time over a plain vector of tokens.
+// Random expressions, computed a second time with a plain vector of tokens.
 
 namespace zerimo {
 namespace {
@@ -91,7 +91,7 @@ double WithoutBrackets(const std::string& expression) {
   return total;
 }
 
-/// Brackets in balance only: what is left over is tested by hand.
+/// For balanced brackets only: other tests cover the rest.
 double SecondOpinion(std::string expression) {
   for (auto close = expression.find(')'); close != std::string::npos; close = expression.find(')')) {
     const auto open = expression.rfind('(', close);
@@ -115,7 +115,7 @@ std::string RandomExpression(std::mt19937& random, int depth) {
   return expression;
 }
 
-/// The value, or nothing for a failure; what never returns is kept apart.
+/// The value, or a word for a failure and another for an expression that never returns.
 template <typename Evaluate>
 std::string Outcome(Evaluate&& evaluate) {
   try {
@@ -135,7 +135,7 @@ TEST(Arithmetic, AgreesWithASecondOpinionOnRandomExpressions) {
   const Arithmetic evaluation(watch);
   for (int round = 0; round < 20000; ++round) {
     const std::string expression = RandomExpression(random, 2);
-    // An expression of a few dozen tokens that returns needs fewer rounds.
+    // An expression of a few dozen tokens that returns needs fewer rounds than this.
     watch.AllowTicks(200);
     std::string given = expression;
     ASSERT_EQ(Outcome([&] { return evaluation.ArithmeticEvaluator(given); }),

@@ -148,7 +148,7 @@ TEST(Tokens, SpaceRemoverClosesHolesButNotTheSecondOfTwo) {
   EXPECT_EQ(Joined(tokens), "[1][  ][2]");
 }
 
-TEST(Tokens, UnaryMinusJoinsBehindOperatorsOfProducts) {
+TEST(Tokens, UnaryMinusJoinsAfterOperatorsOfProducts) {
   TokenArray tokens = Tokens({"2", "*", "-", "3", "+", "-", "4"});
   UnaryMinusProcessor(tokens);
   EXPECT_EQ(Joined(tokens), "[2][*][-3][+][-][4]");

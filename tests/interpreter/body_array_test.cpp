@@ -88,7 +88,7 @@ TEST_F(CreateBodyArrayTest, ANestedRepeatGoesToItsClosingBracket) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-TEST_F(CreateBodyArrayTest, TheCharacterBehindTheFirstBracketIsNotLookedAt) {
+TEST_F(CreateBodyArrayTest, TheCharacterAfterTheFirstBracketIsNotLookedAt) {
   // An inner "[]" is not closed by its own "]" ...
   EXPECT_EQ(Split("REPEAT 2 [] FD 1]RT 2"), (Texts{"REPEAT 2 [] FD 1]", "RT 2"}));
   // ... and a bracket in that place opens nothing.

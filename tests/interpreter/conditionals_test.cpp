@@ -25,7 +25,7 @@ TEST_F(ConditionalsTest, AFalseIfWithoutElseGoesToItsEndif) {
   EXPECT_EQ(conditionals.Ifprocessor(2), 4);
 }
 
-TEST_F(ConditionalsTest, AFalseIfWithElseGoesBehindIt) {
+TEST_F(ConditionalsTest, AFalseIfWithElseGoesAfterIt) {
   Fill({"TO A", "IF 1=2", "FD 1", "ELSE", "FD 2", "ENDIF", "END"});
   EXPECT_EQ(conditionals.Ifprocessor(2), 5);
 }
@@ -35,7 +35,7 @@ TEST_F(ConditionalsTest, AFalseIfWithoutEndifGivesZero) {
   EXPECT_EQ(conditionals.Ifprocessor(2), 0);
 }
 
-TEST_F(ConditionalsTest, TheElseOfANestedIfIsPassedOver) {
+TEST_F(ConditionalsTest, TheElseOfANestedIfIsSkipped) {
   Fill({"TO A", "IF 0", "IF 1", "FD 1", "ELSE", "FD 2", "ENDIF", "ELSE", "FD 3", "ENDIF", "END"});
   EXPECT_EQ(conditionals.Ifprocessor(2), 9);
 }
@@ -45,7 +45,7 @@ TEST_F(ConditionalsTest, TheElseOfATwiceNestedIfCanBeTakenForThisOne) {
   EXPECT_EQ(conditionals.Ifprocessor(2), 7);
 }
 
-TEST_F(ConditionalsTest, AnElseBehindTheEndifIsNotThisOnes) {
+TEST_F(ConditionalsTest, AnElseAfterTheEndifIsNotThisOnes) {
   Fill({"TO A", "IF 0", "FD 1", "ENDIF", "ELSE", "END"});
   EXPECT_EQ(conditionals.Ifprocessor(2), 4);
 }
@@ -101,7 +101,7 @@ TEST_F(ConditionalsTest, AGotoOnTrailingBlankLabelsIsReported) {
   EXPECT_EQ(services.BoxTexts(), (Texts{"UnDeclared Label: X in Goto Statement"}));
 }
 
-TEST_F(ConditionalsTest, LabelsBehindTheFirstEmptyLineAreNotSeen) {
+TEST_F(ConditionalsTest, LabelsAfterTheFirstEmptyLineAreNotSeen) {
   Fill({"TO A", "", "LABEL X"});
   EXPECT_EQ(conditionals.LabelPos("X"), 0);
 }

@@ -26,14 +26,14 @@ TEST_F(IfprocessorTest, ATrueConditionWithoutEndifGoesOnAtTheNextLine) {
   EXPECT_EQ(NextBehindIf(2), 3);
 }
 
-TEST_F(IfprocessorTest, TheConditionIsAllTextBehindTheFirstBlank) {
+TEST_F(IfprocessorTest, TheConditionIsAllTextAfterTheFirstBlank) {
   Fill({"TO P", "IF 2 + 1 = 3", "FD 1", "ENDIF", "END"});
   EXPECT_EQ(NextBehindIf(2), 3);
   Fill({"TO P", "IF ", "FD 1", "ENDIF", "END"});
   EXPECT_EQ(NextBehindIf(2), 4);
 }
 
-TEST_F(IfprocessorTest, AFalseIfWithoutElseGoesOnBehindItsEndif) {
+TEST_F(IfprocessorTest, AFalseIfWithoutElseGoesOnAfterItsEndif) {
   Fill({"TO P", "IF 1>2", "FD 1", "ENDIF", "FD 2", "END"});
   Type("P");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));

@@ -28,7 +28,7 @@ TEST(ControlPath, FirstPartEndsWithTheLastDash) {
   EXPECT_EQ(FirstPartExtractor("."), "");
 }
 
-TEST(ControlPath, EndValueIsTheNumberBehindTheLastDash) {
+TEST(ControlPath, EndValueIsTheNumberAfterTheLastDash) {
   EXPECT_EQ(EndValExtractor(".#TEMP$7- 5"), 5);
   EXPECT_EQ(EndValExtractor(".#TEMP$7-6"), 6);
   EXPECT_EQ(EndValExtractor(".A-B- 9"), 9);

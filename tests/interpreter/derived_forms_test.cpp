@@ -6,7 +6,7 @@
 namespace zerimo {
 namespace {
 
-/// What follows from a text is kept beside it: here the text changes, and what was kept must be gone.
+/// What is derived from a text is kept: here the text changes, and what was kept must be dropped.
 class DerivedFormsTest : public testing::Test, protected BareInterpreter {};
 
 TEST_F(DerivedFormsTest, TheClassAndTheActionOfALineFollowTheLine) {

@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(variables, WholeLineName,
 
 class WordName : public DispatchTest, public testing::WithParamInterface<const char*> {};
 
-TEST_P(WordName, IsMatchedWithAnInputBehindIt) {
+TEST_P(WordName, IsMatchedWithAnInputAfterIt) {
   dispatch.Execute(std::string(GetParam()) + " 1 2 3 4 5 6");
   EXPECT_EQ(Done.size(), 1U);
   EXPECT_TRUE(services.Boxes.empty());
@@ -153,7 +153,7 @@ TEST_F(DispatchTest, TailRunsInItsOrderAfterEveryPrimitive) {
   EXPECT_EQ(tail, (Texts{"TurtlePos", "TitleText", "Refresh"}));
 }
 
-TEST_F(DispatchTest, AFailureInTheTailIsPassedOver) {
+TEST_F(DispatchTest, AFailureInTheTailIsSkipped) {
   dispatch.DetailsOn = true;
   dispatch.TitleText = [] { throw Failure(FailureKind::Overflow); };
   bool refreshed = false;

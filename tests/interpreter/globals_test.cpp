@@ -77,7 +77,7 @@ TEST_F(CreateGlobalVariableTest, FailsAtAMakeOnLine501) {
   EXPECT_EQ(variables.Slot(500), "A=500");
 }
 
-TEST_F(VariableUpdateTest, ANewNameBecomesAGlobalBehindTheLastSlot) {
+TEST_F(VariableUpdateTest, ANewNameBecomesAGlobalAfterTheLastSlot) {
   Slots({"X=1"});
   Make("MAKE A 5");
   EXPECT_EQ(FirstSlots(3), (Texts{"X=1", "A=5", ""}));
@@ -148,13 +148,13 @@ TEST_F(VariableUpdateTest, ANewGlobalTakesTheFirstDeletedSlot) {
   EXPECT_EQ(FirstSlots(4), (Texts{"X=1", "A=5", "Y=2", ""}));
 }
 
-TEST_F(VariableUpdateTest, AGlobalBehindADeletedSlotIsNotFound) {
+TEST_F(VariableUpdateTest, AGlobalAfterADeletedSlotIsNotFound) {
   Slots({" ", "A=1"});
   Make("MAKE A 5");
   EXPECT_EQ(FirstSlots(3), (Texts{"A=5", "A=1", ""}));
 }
 
-TEST_F(VariableUpdateTest, ALocalBehindADeletedSlotIsFound) {
+TEST_F(VariableUpdateTest, ALocalAfterADeletedSlotIsFound) {
   Slots({"X=1", " ", "BOX.:N=1"});
   Make("MAKE \"N 5");
   EXPECT_EQ(FirstSlots(3), (Texts{"X=1", ":N=5", "BOX.:N=5"}));

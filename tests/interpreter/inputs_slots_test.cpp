@@ -79,7 +79,7 @@ TEST_F(CreateLocalVariableTest, ACarriageReturnEndsTheCall) {
   EXPECT_EQ(FirstSlots(2), (Texts{"TWO.:A=1", ""}));
 }
 
-TEST_F(CreateLocalVariableTest, ABlankBehindTheCallDoesNoHarm) {
+TEST_F(CreateLocalVariableTest, ABlankAfterTheCallDoesNoHarm) {
   Call("BOX 5 ");
   EXPECT_EQ(FirstSlots(2), (Texts{"BOX.:N=5", ""}));
 }
@@ -109,7 +109,7 @@ TEST_F(CreateLocalVariableTest, FailsAtTheCalls51stWord) {
 }
 
 TEST_F(CreateLocalVariableTest, FailsAtTheHeaders51stWord) {
-  // The header's first word, before its name, is the empty one.
+  // The header's first word, before its name, is empty.
   store.SetLine(6, "TO P" + Numbered(49, ":"));
   EXPECT_EQ(FailureOfCall("P 1"), FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(variables.Slot(1), "");
@@ -134,7 +134,7 @@ TEST_F(CreateLocalVariableTest, ARecursiveCallsEntriesPileUpInSlotOrder) {
   controlPath.SetCtrlStr(".BOX- 2");
   Call("BOX :N+1");
   EXPECT_EQ(FirstSlots(3), (Texts{"BOX.:N=1", "BOX.:N=1+1", ""}));
-  // One occurrence reads the outermost activation's value.
+  // One occurrence reads the value of the outermost call.
   EXPECT_EQ(ValueIn(".BOX- 2.BOX- 2", ":N"), 1);
   EXPECT_EQ(ValueIn(".BOX- 2.BOX- 2", "10*:N+:N"), 12);
 }
@@ -145,7 +145,7 @@ TEST_F(DeleteLocalVariableTest, LooksAtTheTrimmedSlot) {
   EXPECT_EQ(variables.Slot(1), " ");
 }
 
-TEST_F(DeleteLocalVariableTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
+TEST_F(DeleteLocalVariableTest, SkipsDeletedSlotsAndStopsAtAFreeOne) {
   Slots({" ", "BOX.:N=1", "", "BOX.:N=2"});
   End("BOX");
   EXPECT_EQ(FirstSlots(4), (Texts{" ", " ", "", "BOX.:N=2"}));

@@ -87,7 +87,7 @@ TEST_F(InputsTest, AnInputNeedsNoColon) {
   EXPECT_EQ(variables.Slot(1), "BOX.N=4");
 }
 
-TEST_F(InputsTest, ADeletedSlotIsFilledAndWhatStandsBehindIsOverwritten) {
+TEST_F(InputsTest, ADeletedSlotIsFilledAndWhatFollowsIsOverwritten) {
   Fill({"TO BOX :N :M", "END"});
   variables.SetSlot(1, " ");
   variables.SetSlot(2, "G=1");
@@ -127,7 +127,7 @@ TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
   Fill({"TO BOX :N :M", "END"});
   for (int number = 1; number <= 499; ++number) variables.SetSlot(number, "X=1");
   watch = LimitedWatch(1, 200);
-  // The second argument's scan for locals finds no free slot any more.
+  // By the second argument, the scan for locals finds no free slot.
   EXPECT_THROW(inputs.CreateLocalVariable("BOX 1 2"), Stopped);
   EXPECT_EQ(variables.Slot(500), "BOX.:N=1");
 }
@@ -135,7 +135,7 @@ TEST_F(InputsTest, ATableThatFillsUpOnTheWayNeverReturns) {
 TEST_F(InputsTest, ARecursionThatFillsTheTableNeverReturns) {
   Fill({"TO R :N", "FD 1", "R 1", "END"});
   watch = LimitedWatch(1'000'000, 2000);
-  // The activation that takes the last slot hangs in its first expression.
+  // The call that takes the last slot hangs in its first expression.
   EXPECT_THROW(Type("R 1"), Stopped);
   EXPECT_EQ(Calls.size(), 499U);
   EXPECT_EQ(variables.Slot(500), "R.:N=1");

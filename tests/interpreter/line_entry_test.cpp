@@ -161,7 +161,7 @@ TEST_F(LineEntryTest, TheBlanksOfAHeaderAreCountedInAByte) {
   EXPECT_EQ(HowManyInput("A", store), 254);
   store.SetLine(1, "TO A" + std::string(255, ' ') + "B");
   EXPECT_THROW(HowManyInput("A", store), Failure);
-  // The trimming leaves no blank.
+  // Trimming leaves no blank.
   store.SetLine(1, "GOTO ");
   EXPECT_THROW(HowManyInput("", store), Failure);
 }

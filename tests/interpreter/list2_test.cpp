@@ -50,7 +50,7 @@ TEST_F(List2Test, TheLaterOfTwoRebuildsCounts) {
   EXPECT_EQ(Shown(), (Texts{"A=2"}));
 }
 
-TEST_F(List2Test, ManyChangesBehindARebuildDoNotShow) {
+TEST_F(List2Test, ManyChangesAfterARebuildDoNotShow) {
   variables.SetSlot(1, "A=1");
   variables.RebuildList2();
   for (int round = 1; round <= 3; ++round) FillAllSlots("X=" + std::to_string(round));

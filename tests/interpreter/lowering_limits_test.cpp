@@ -59,7 +59,7 @@ TEST_F(LoweringLimitsTest, TheFirstRepeatLineIsFound) {
   EXPECT_EQ(lowering.SearchRepeatPos(), 3);
 }
 
-TEST_F(LoweringLimitsTest, ALineBehindTheFirstEmptyOneIsNotFound) {
+TEST_F(LoweringLimitsTest, ALineAfterTheFirstEmptyOneIsNotFound) {
   Fill({"TO P", "END", "", "REPEAT 2 [FD 1]"});
   EXPECT_EQ(lowering.IsRepeatPresent(), 0);
   EXPECT_EQ(lowering.SearchRepeatPos(), 0);
@@ -196,21 +196,21 @@ TEST_F(LoweringLimitsTest, LineListHasIndexes1To100) {
   EXPECT_EQ(FailureOf([&] { lines.Set(101, "END"); }), FailureKind::SubscriptOutOfRange);
 }
 
-TEST_F(LoweringLimitsTest, TheLinesBehindMoveUp) {
+TEST_F(LoweringLimitsTest, TheLinesAfterItMoveUp) {
   Fill({"TO P", "REPEAT 2 [FD 1]", "RT 1", "END", "TO Q", "END"});
   lowering.RemoveAllRepeats();
   EXPECT_EQ(Program(), (Texts{"TO P", "MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=2", "GOTO $", "ENDIF", "RT 1",
                               "END", "TO Q", "END"}));
 }
 
-TEST_F(LoweringLimitsTest, StaleLinesBehindTheGapAreOverwrittenOrComeUp) {
+TEST_F(LoweringLimitsTest, StaleLinesAfterTheGapAreOverwrittenOrComeUp) {
   Fill({"TO P", "REPEAT 2 [FD 1]", "END", "", "OLD 5", "OLD 6", "OLD 7", "OLD 8", "OLD 9", "OLD 10"});
   lowering.RemoveAllRepeats();
   EXPECT_EQ(store.Line(9), "END");
   EXPECT_EQ(store.Line(10), "OLD 10");
 }
 
-TEST_F(LoweringLimitsTest, AtMost1000LinesStandBehindTheRepeat) {
+TEST_F(LoweringLimitsTest, AtMost1000LinesFollowTheRepeat) {
   Fill({"TO P", "REPEAT 2 [FD 1]"});
   for (int number = 3; number <= 1002; ++number) store.SetLine(number, "PU");
   EXPECT_EQ(FailureOfLowering(), std::nullopt);

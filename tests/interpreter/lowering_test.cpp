@@ -90,7 +90,7 @@ TEST_F(LoweringTest, TheCountIsEvaluatedInEveryRound) {
   lowering.RemoveAllRepeats();
   variables.CreateGlobalVariable();
   Type("A");
-  // 5 rounds shrink to 3: the counter meets the falling count half-way.
+  // 5 rounds shrink to 3: the counter meets the falling count halfway.
   EXPECT_EQ(Calls.size(), 3U);
 }
 
@@ -225,7 +225,7 @@ TEST_F(LoweringTest, NinetyFiveStatementsFailAndTheLineStays) {
   EXPECT_EQ(Program(), (Texts{RepeatOf(95)}));
 }
 
-TEST_F(LoweringTest, AThousandLinesBehindARepeatAreTheMost) {
+TEST_F(LoweringTest, AThousandLinesAfterARepeatAreTheMost) {
   Fill({"REPEAT 2 [PU]"});
   for (int number = 2; number <= 1001; ++number) store.SetLine(number, "PU");
   EXPECT_NO_THROW(lowering.RemoveAllRepeats());

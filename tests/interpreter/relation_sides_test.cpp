@@ -52,7 +52,7 @@ TEST_F(RelationSidesTest, ACarriageReturnAheadHidesAComparison) {
   EXPECT_FALSE(Holds("0\r=0"));
 }
 
-TEST_F(RelationSidesTest, ACarriageReturnBehindTheFirstComparisonHidesNothing) { EXPECT_TRUE(Holds("1<2\r<0")); }
+TEST_F(RelationSidesTest, ACarriageReturnAfterTheFirstComparisonHidesNothing) { EXPECT_TRUE(Holds("1<2\r<0")); }
 
 TEST_F(RelationSidesTest, WithAComparisonTheCallersTextStays) {
   std::string condition = "(1+2)=(3)";

@@ -49,7 +49,7 @@ TEST_F(VarValReplacerTest, AnEmptyValueTakesTheNameAway) {
   EXPECT_EQ(Locally("5+:N"), "5+");
 }
 
-TEST_F(VarValReplacerTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
+TEST_F(VarValReplacerTest, SkipsDeletedSlotsAndStopsAtAFreeOne) {
   controlPath.SetCtrlStr(".BOX- 3");
   Slots({" ", "BOX.:A=1", "", "BOX.:B=2"});
   EXPECT_EQ(Locally(":A+:B"), "1+:B");
@@ -65,7 +65,7 @@ TEST_F(VarValReplacerTest, TrimsTheCallersText) {
 
 TEST_F(VarValReplacerTest, AnEntryWithNoNameTakesTheNameBeforeIt) {
   controlPath.SetCtrlStr(".BOX- 3");
-  // The first "=" comes before the first ".": no name can be cut out there, and that statement is skipped.
+  // The first "=" comes before the first ".": no name can be cut out, and that statement is skipped.
   Slots({"BOX.:A=1", "Q=#BOX.:C"});
   EXPECT_EQ(Locally(":A+:A"), "1+#BOX.:C");
 }
@@ -107,7 +107,7 @@ TEST_F(GlobalVariableReplacerTest, ADollarInASlotCountsAsItsStart) {
   EXPECT_EQ(Globally("A"), "7");
 }
 
-TEST_F(GlobalVariableReplacerTest, PassesOverDeletedSlotsAndStopsAtAFreeOne) {
+TEST_F(GlobalVariableReplacerTest, SkipsDeletedSlotsAndStopsAtAFreeOne) {
   Slots({" ", "A=1", "", "B=2"});
   EXPECT_EQ(Globally("A"), "1");
   EXPECT_EQ(Globally("B"), "");

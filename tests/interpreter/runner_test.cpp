@@ -15,7 +15,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// Notes the control string at the beginning of each step.
+/// Records the control string at the beginning of each step.
 class NotingWatch : public Watch {
  public:
   explicit NotingWatch(const ControlPath& controlPath) : path(controlPath) {}
@@ -68,13 +68,13 @@ TEST_F(RunnerTest, ThePathAtEachStepOfACall) {
                                        ".#TEMP$7-6", ".#TEMP$7- 7", "."}));
 }
 
-TEST_F(RunnerTest, ThePathBehindEachClassOfLine) {
+TEST_F(RunnerTest, ThePathAfterEachClassOfLine) {
   Fill({"TO A", "MAKE \"N 1", "IF 1", "ENDIF", "FD 1", "1+2", "1=2", "GOTO X", "LABEL X", "NOWHERE", "END"});
   EXPECT_EQ(StepsOf("A"), (Texts{".A- 1", ".A-2", ".A- 3", ".A- 4", ".A- 6", ".A- 6", ".A- 7", ".A- 8", ".A-9", ".A-10",
                                  ".A-10- 11", "."}));
 }
 
-TEST_F(RunnerTest, ThePathBehindAnElse) {
+TEST_F(RunnerTest, ThePathAfterAnElse) {
   Fill({"TO A", "IF 1", "ELSE", "FD 1", "ENDIF", "FD 2", "END"});
   EXPECT_EQ(StepsOf("A"), (Texts{".A- 1", ".A-2", ".A- 3", ".A- 6", ".A- 7", "."}));
 }
@@ -89,7 +89,7 @@ TEST_F(RunnerTest, TheControlStringIsShownAsItChanges) {
   EXPECT_EQ(controls.Label19.Caption, ".");
 }
 
-TEST_F(RunnerTest, ThePathBehindATo) {
+TEST_F(RunnerTest, ThePathAfterATo) {
   Fill({"TO A", "FD 1", "FD 2", "END"});
   runner.Run1("A");
   EXPECT_EQ(Paths, (Texts{".A-2", ".A- 3"}));
@@ -106,7 +106,7 @@ TEST_F(RunnerTest, AnUnknownWordIsSkippedAndThePathKeepsTheOldNumber) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberBehindAnUnknownWord) {
+TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberAfterAnUnknownWord) {
   std::string name;
   dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { name = controlPath.CurrentProcedureName(); });
   Fill({"TO A", "NOWHERE", "FD 1", "END"});
@@ -120,7 +120,7 @@ TEST_F(RunnerTest, PrimitiveLinesAreTrimmedInTheStore) {
   EXPECT_EQ(store.Line(2), "FD 1");
 }
 
-TEST_F(RunnerTest, RecursionBehindAPrimitiveKeepsThePathsLength) {
+TEST_F(RunnerTest, RecursionAfterAPrimitiveKeepsThePathsLength) {
   Fill({"TO A", "FD 1", "A", "END"});
   RunFor(3000, "A");
   ASSERT_GT(Calls.size(), 900U);
@@ -128,13 +128,13 @@ TEST_F(RunnerTest, RecursionBehindAPrimitiveKeepsThePathsLength) {
   EXPECT_LT(Paths.back().size(), 20U);
 }
 
-TEST_F(RunnerTest, RecursionDirectlyBehindTheHeaderKeepsThePathsLength) {
+TEST_F(RunnerTest, RecursionRightAfterTheHeaderKeepsThePathsLength) {
   Fill({"TO A", "A", "END"});
   RunFor(100, "A");
   EXPECT_EQ(controlPath.CtrlStr(), ".A- 2");
 }
 
-TEST_F(RunnerTest, RecursionBehindALabelGrowsThePath) {
+TEST_F(RunnerTest, RecursionAfterALabelGrowsThePath) {
   // The label's number has no blank, so that the two components differ as texts.
   Fill({"TO A", "LABEL X", "A", "END"});
   RunFor(100, "A");
@@ -149,9 +149,9 @@ struct InFrontOfTheCall {
 
 void PrintTo(const InFrontOfTheCall& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Grows; }
 
-class RecursionBehind : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
+class RecursionAfter : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
 
-TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
+TEST_P(RecursionAfter, KeepsOrGrowsThePath) {
   Fill({"TO A", GetParam().Line, "A", "END", "TO B", "END"});
   RunFor(120, "A");
   const auto components = std::count(controlPath.CtrlStr().begin(), controlPath.CtrlStr().end(), '.');
@@ -162,16 +162,16 @@ TEST_P(RecursionBehind, KeepsOrGrowsThePath) {
   }
 }
 
-// A bare expression looks for the recursion before its act, when the inner component still has the number of its own
-// line; an ENDIF writes a number too high, and a return from a call one without its blank.
-INSTANTIATE_TEST_SUITE_P(typedLines, RecursionBehind,
+// A bare expression checks for recursion before its act, when the inner component still has the number of its own line;
+// an ENDIF writes a number that is too high, and a return from a call one without its blank.
+INSTANTIATE_TEST_SUITE_P(typedLines, RecursionAfter,
                          testing::Values(InFrontOfTheCall{"FD 1", false}, InFrontOfTheCall{"MAKE X 1", false},
                                          InFrontOfTheCall{"LABEL X", true}, InFrontOfTheCall{"1+2", true},
                                          InFrontOfTheCall{"1=2", true}, InFrontOfTheCall{"ENDIF", true},
                                          InFrontOfTheCall{"B", true}));
 
-TEST_F(RunnerTest, APrintBehindARecursiveCallIsNotReachedOnceALevel) {
-  // The input that is read is always that of the outermost call, so that the condition holds for ever.
+TEST_F(RunnerTest, APrintAfterARecursiveCallIsNotReachedOnceALevel) {
+  // The input read is always that of the outermost call, so the condition is always true.
   Fill({"TO B :N", "IF :N>0", "B :N-1", "ENDIF", "PRINT :N", "END", "TO M", "B 2", "END"});
   RunFor(201, "M");
   EXPECT_TRUE(Calls.empty());
@@ -185,13 +185,13 @@ TEST_F(RunnerTest, TenLevelsReturnOnce) {
   EXPECT_EQ(Calls, (Texts{"PRINT 1", "PRINT 1", "PRINT 2"}));
 }
 
-TEST_F(RunnerTest, WhatStandsBehindARecursiveCallRunsOnce) {
+TEST_F(RunnerTest, WhatFollowsARecursiveCallRunsOnce) {
   Fill({"TO B :N", "FD :N", "IF :N>0", "B :N-1", "ENDIF", "RT 1", "END", "TO M", "B 0", "END"});
   runner.Run1("M");
   EXPECT_EQ(Calls, (Texts{"FD 0", "RT 1"}));
 }
 
-TEST_F(RunnerTest, NestedCallsReturnBehindTheCallWithTheCallersInputs) {
+TEST_F(RunnerTest, NestedCallsReturnAfterTheCallWithTheCallersInputs) {
   Fill({"TO IN :X", "FD :X", "END", "TO OUT :Y", "IN 1", "FD :Y", "IN 2", "FD :Y", "END", "TO M", "OUT 7", "END"});
   runner.Run1("M");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 7", "FD 2", "FD 7"}));
@@ -253,7 +253,7 @@ TEST_F(RunnerTest, GotoIntoAnotherProcedureGoesOnThereUnderTheOldName) {
   EXPECT_EQ(Paths, (Texts{".A-6"}));
 }
 
-TEST_F(RunnerTest, ALabelBehindAnEndifSkipsALine) {
+TEST_F(RunnerTest, ALabelAfterAnEndifSkipsALine) {
   Fill({"TO A", "IF 1", "ENDIF", "LABEL X", "FD 1", "FD 2", "END"});
   runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2"}));
@@ -265,14 +265,14 @@ TEST_F(RunnerTest, EndifWritesTheNumberOneAhead) {
   EXPECT_EQ(Paths, (Texts{".A- 5"}));
 }
 
-TEST_F(RunnerTest, TrueBranchJumpsBehindTheMatchingEndif) {
+TEST_F(RunnerTest, TrueBranchJumpsAfterTheMatchingEndif) {
   Fill({"TO A", "IF 1", "FD 1", "ELSE", "IF 1", "FD 2", "ENDIF", "FD 3", "ENDIF", "FD 4", "END"});
   runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 4"}));
   EXPECT_EQ(Paths[1], ".A- 10");
 }
 
-TEST_F(RunnerTest, FalseBranchStartsBehindTheElse) {
+TEST_F(RunnerTest, FalseBranchStartsAfterTheElse) {
   Fill({"TO A", "IF 0", "FD 1", "ELSE", "FD 2", "ENDIF", "FD 3", "END"});
   runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 2", "FD 3"}));
@@ -316,7 +316,7 @@ TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
   Fill({"TO A", "FD 1", "", "FD 2", "END"});
   runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1", "FD 2"}));
-  // The blank that the look at its first word leaves.
+  // `GiveWord` left this blank when it read the line's first word.
   EXPECT_EQ(store.Line(3), " ");
 }
 

@@ -85,7 +85,7 @@ TEST_F(StoreTest, EmptyingStopsAtAGapAndStaleTextSurvives) {
   EXPECT_EQ(store.Line(4), "STALE");
 }
 
-TEST_F(StoreTest, EmptyingAFullStoreFailsBehindItsLastLine) {
+TEST_F(StoreTest, EmptyingAFullStoreFailsPastItsLastLine) {
   FillMany(2000);
   EXPECT_THROW(store.MakeEmptyFileDataArray(), Failure);
   EXPECT_EQ(store.Line(1), "");
@@ -103,7 +103,7 @@ TEST_F(StoreTest, SweepTakesTheFirstTemporaryProcedure) {
   EXPECT_EQ(Lines(), (Texts{"TO A", "END", "TO B", "END"}));
 }
 
-TEST_F(StoreTest, SweepEmptiesOnlyOneLineBehind) {
+TEST_F(StoreTest, SweepEmptiesOnlyOneLineAfterIt) {
   Fill({"TO A", "END", "TO #TEMP$1", "FD 10", "END"});
   store.TempFileDataArray();
   EXPECT_EQ(store.Line(3), "");
@@ -111,7 +111,7 @@ TEST_F(StoreTest, SweepEmptiesOnlyOneLineBehind) {
   EXPECT_EQ(store.Line(5), "END");
 }
 
-TEST_F(StoreTest, SweepStopsBehindAnEndif) {
+TEST_F(StoreTest, SweepStopsAfterAnEndif) {
   Fill({"TO #TEMP$1", "IF 1", "ENDIF", "FD 1", "END"});
   store.RefreshFileDataArray();
   EXPECT_EQ(Lines(), (Texts{"FD 1", "END"}));
@@ -144,7 +144,7 @@ TEST_F(StoreTest, SweepWithNinetyNineLinesWorks) {
   EXPECT_EQ(Lines().size(), 99U);
 }
 
-TEST_F(StoreTest, SweepWithExactlyAHundredLinesFailsBehindTheCopy) {
+TEST_F(StoreTest, SweepWithExactlyAHundredLinesFailsAfterTheCopy) {
   FillMany(100);
   Fill({"TO #TEMP$1", "END"}, 101);
   EXPECT_THROW(store.RefreshFileDataArray(), Failure);

@@ -72,7 +72,7 @@ TEST_F(TypedLinesTest, AfterAStoppedRecursionTheNextLineRuns) {
   EXPECT_EQ(Calls, (Texts{"FD 10"}));
 }
 
-TEST_F(TypedLinesTest, ALineStandsDirectlyBehindTheProgram) {
+TEST_F(TypedLinesTest, ALineGoesRightAfterTheProgram) {
   FillUpTo(30);
   EXPECT_TRUE(Type("FD 5"));
   EXPECT_EQ(Paths, (Texts{".#TEMP$1-32"}));
@@ -134,7 +134,7 @@ TEST_F(TypedLinesTest, AStoreThatEndsAtLine499IsNotRefreshed) {
   EXPECT_EQ(controls.List1.Items(), (Texts{"OLD"}));
 }
 
-TEST_F(TypedLinesTest, BehindLine499NeitherGlobalsNorProceduresAreReadAgain) {
+TEST_F(TypedLinesTest, AfterLine499NeitherGlobalsNorProceduresAreReadAgain) {
   FillUpTo(499);
   store.SetLine(1, "MAKE \"G 5");
   store.SetLine(2, "TO A");
@@ -202,7 +202,7 @@ TEST_F(TypedLinesTest, AnEndBeforeLine500MovesOnlyUpToThere) {
   EXPECT_EQ(store.Line(600), "STALE");
 }
 
-TEST_F(TypedLinesTest, StaleLinesBehindMoveDown) {
+TEST_F(TypedLinesTest, StaleLinesAfterItMoveDown) {
   Fill({"TO A", "END"});
   store.SetLine(8, "STALE");
   EXPECT_TRUE(Type("FD 5"));
@@ -262,7 +262,7 @@ TEST_F(TypedLinesTest, ACountOutOfRangeLeavesTheLineAndBlocksTheNextOnes) {
 TEST_F(TypedLinesTest, ABodyLineThatIsEndIsTakenForTheEnd) {
   Fill({"TO A", "END"});
   EXPECT_TRUE(Type("FD 1 END FD 2"));
-  // Moving starts after the first END: what stood there stays, and the next line sweeps nothing.
+  // Lines are moved from the first END on: those before it stay, and the next line sweeps nothing.
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
   EXPECT_EQ(Program(), (Texts{"TO A", "END", "FD 2", "END"}));
 }

@@ -134,7 +134,7 @@ TEST_F(VariablesTest, NamesAreComparedExactly) {
   EXPECT_EQ(Globals("A"), "5");
 }
 
-TEST_F(VariablesTest, ADeletedSlotIsPassedOverInReading) {
+TEST_F(VariablesTest, ADeletedSlotIsSkippedInReading) {
   FillSlots({" ", "A=5"});
   EXPECT_EQ(Globals("A"), "5");
 }
@@ -280,7 +280,7 @@ TEST_F(VariablesTest, MakeShowsTheSlotsAsTheyWereBeforeTheClosing) {
   FillSlots({"X=1", "Y=2", " ", " "});
   Make("MAKE X 5");
   EXPECT_EQ(controls.List2.Items(), (Texts{"X=5", "Y=2", " ", " "}));
-  // One deleted slot goes a call.
+  // Each call closes one deleted slot.
   EXPECT_EQ(Slots(), (Texts{"X=5", "Y=2", " "}));
 }
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The package's changelog is one that Debian can read, with all that CHANGELOG.md says of this version and nothing of others.
+# Debian can read the package's changelog, which has all that CHANGELOG.md says about this version and nothing about
+# others.
 # Usage: check_changelog.sh SOURCES CHANGELOG VERSION
 . "$(dirname "$0")/support.sh"
 

@@ -27,7 +27,7 @@ for icon in usr/share/icons/hicolor/*/*/*.png; do
   [ "$(convert "$icon" -format %k info:)" -gt 8 ] || fail "$icon shows nothing"
 done
 
-# The homepage has the screenshots that lie in the documentation.
+# The homepage shows the screenshots of the documentation.
 screenshots=$(sed -n 's|.*<image[^>]*>.*/\(images/.*\)</image>.*|\1|p' "usr/share/metainfo/$id.metainfo.xml")
 [ -n "$screenshots" ] || fail "there are no screenshots"
 for screenshot in $screenshots; do
@@ -36,7 +36,7 @@ done
 
 links_lead_somewhere usr/share/doc/zerimo
 
-# Every sample of the sources, and nothing of the builder's.
+# Every sample of the sources, and nothing left by the build.
 for sample in "$3"/samples/*; do cmp "$sample" "usr/share/zerimo/$(basename "$sample")"; done
 others=$(find . -type f -not -path './usr/share/*' -not -path './usr/bin/zerimo' -not -path './usr/bin/zerimo-batch')
 [ -z "$others" ] || fail "these do not belong there: $others"
@@ -47,5 +47,5 @@ depends=$(dpkg-deb -f "$deb" Depends)
 for library in libc6 libqt6core6 libqt6gui6 libqt6widgets6 libstdc++6 fonts-liberation; do
   grep -q "$library" <<<"$depends" || fail "$library is not asked for: $depends"
 done
-# No scripts run at the install: the system's own triggers see the icons and types.
+# No scripts run at installation: the system's own triggers see the icons and types.
 [ -z "$(dpkg-deb --ctrl-tarfile "$deb" | tar -t | grep -E 'inst$|rm$' || true)" ] || fail "the package runs scripts"

@@ -38,7 +38,7 @@ end_window
 [ "$(cat "$folder/FLOWER.ZRM")" = mine ] || fail "a changed sample was overwritten"
 [ ! -e "$folder/TREE.ZRM" ] || fail "a deleted sample came again"
 
-# The file that is given is opened: a box reports a missing one.
+# The file given as an argument is opened: a box reports a missing one.
 start_display
 start_window "no file.zrm"
 within 30 windows_stand 2 || fail "no box tells that the file is missing"

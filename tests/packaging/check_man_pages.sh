@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Both pages are formatted without a warning, and the batch runner's page names all of its options.
+# Both pages format without a warning, and the batch runner's page names all its options.
 # Usage: check_man_pages.sh ZERIMO.1 ZERIMO-BATCH.1 ZERIMO-BATCH
 . "$(dirname "$0")/support.sh"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Where the package is installed, a program file is known to the desktop. Usage:
+# Once the package is installed, the desktop recognises a program file. Usage:
 # check_mime_type.sh PACKAGES ID TYPE NAME_MIME_TYPE
 . "$(dirname "$0")/support.sh"
 

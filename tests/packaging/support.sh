@@ -1,4 +1,4 @@
-# Shared by the checks of the packages: a folder of their own, removed at the end, and failing with a message.
+# Shared by the checks of the packages: a temporary folder, removed at the end, and failing with a message.
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -11,7 +11,7 @@ finish() {
 }
 trap finish EXIT
 
-# end_process PROCESS: ends it and waits for it, if there is one.
+# end_process PROCESS: ends the process, if there is one, and waits for it.
 end_process() {
   [ -n "$1" ] || return 0
   kill "$1" 2>/dev/null || true
@@ -23,7 +23,7 @@ fail() {
   exit 1
 }
 
-# the_one PATTERN: the only file of that pattern.
+# the_one PATTERN: the only file that matches.
 the_one() {
   local found=($1)
   [ ${#found[@]} -eq 1 ] && [ -f "${found[0]}" ] || fail "not one file: $1"
@@ -49,7 +49,7 @@ start_display() {
   export DISPLAY QT_QPA_PLATFORM=xcb DBUS_SESSION_BUS_ADDRESS=disabled:
 }
 
-# windows_stand NUMBER: so many windows and boxes of the program can be seen.
+# windows_stand NUMBER: whether that many windows and boxes of the program are visible.
 windows_stand() { [ "$(xdotool search --onlyvisible --name '^Zerimo' 2>/dev/null | wc -l)" -eq "$1" ]; }
 
 # links_lead_somewhere FOLDER: the pictures and files that its documents name are there.

@@ -37,7 +37,7 @@ class CanvasTest : public ::testing::Test {
     return count;
   }
 
-  /// The rectangle around the pixels that have not the colour of the ground.
+  /// The rectangle around the pixels that do not have the colour of the ground.
   QRect Drawn() const {
     QRect drawn;
     for (int y = 0; y < canvas.Pixels().Rows(); ++y) {

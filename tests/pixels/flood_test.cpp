@@ -66,7 +66,7 @@ TEST_F(Floods, NothingHappensBelowTheRows) {
   EXPECT_EQ(Count(Ground), 96 * 96);
 }
 
-/// The same by the plainest way.
+/// The same, done in the simplest way.
 QImage FloodedPlainly(QImage image, QPoint at, QRgb fill) {
   const QRgb old = image.pixel(at);
   std::queue<QPoint> open({at});
@@ -103,7 +103,7 @@ class LargeFloods : public ::testing::Test {
 
   void Wall(double x1, double y1, double x2, double y2) { canvas.Line({White, 1, CopyPen}, {x1, y1}, {x2, y2}); }
 
-  /// Generous, so that a busy machine and the sanitizers pass too; what is asked for is measured by the benchmarks.
+  /// Generous, so that a busy machine and the sanitizers pass too; the benchmarks measure the real goal.
   void FloodInTime(PixelPoint at) {
     const auto start = std::chrono::steady_clock::now();
     canvas.FloodFill(at, Green, Height);

@@ -29,7 +29,7 @@ void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.Name; }
 
 std::string NameOf(const ::testing::TestParamInfo<Scene>& scene) { return scene.param.Name; }
 
-/// Something to shine through the gaps of a hatch.
+/// Something to show through the gaps of a hatch.
 void Stripes(Canvas& canvas) {
   for (int x = 5; x < 96; x += 18) canvas.Line({0x808000, 7, CopyPen}, {1.0 * x, 0}, {1.0 * x, 95});
 }

@@ -24,7 +24,7 @@ TEST_F(Lines, ALineOfOnePointIsOnePixel) {
   EXPECT_EQ(Count(White), 1);
 }
 
-TEST_F(Lines, ALyingLineHasOnePixelAColumn) {
+TEST_F(Lines, ALevelLineHasOnePixelAColumn) {
   canvas.Line(Pen(White), {10, 20}, {70, 45});
   EXPECT_EQ(Count(White), 61);
   EXPECT_EQ(Drawn(), QRect(QPoint(10, 20), QPoint(70, 45)));
@@ -107,7 +107,7 @@ TEST_F(Lines, WidePointsAreRound) {
   EXPECT_NEAR(Count(White), M_PI * 100, 12);
 }
 
-/// What a drawing leaves of itself when it is inverted twice, and how often it inverted a pixel at all.
+/// Drawings that are inverted twice: what they leave, and how often a pixel is inverted.
 class InvertedTwice : public CanvasTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(InvertedTwice, LinesLeaveNothing) {

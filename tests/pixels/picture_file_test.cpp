@@ -52,7 +52,7 @@ class PictureFiles : public CanvasTest {
     return file.readAll();
   }
 
-  /// A picture of that size with colours of all kinds.
+  /// A picture of that size with all kinds of colours.
   static QImage Motley(int width, int height) {
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y) {
@@ -164,7 +164,7 @@ TEST_F(PictureFiles, ACodedBitmapThatTellsNoSizeIsWholeWithItsEnd) {
       "0000");
   Write("WHOLE.BMP", Bitmap(2, 2, 1, 0, rows + QByteArray::fromHex("0001")));
   canvas.LoadPicture(Path("WHOLE.BMP"), Blue);
-  // The lower row is blue itself, the upper one red.
+  // The lower row is blue anyway, the upper one red.
   EXPECT_EQ(Count(Blue), 96 * 96 - 2);
   EXPECT_EQ(Count(Red), 2);
   Write("CUT.BMP", Bitmap(2, 2, 1, 0, rows.left(5)));

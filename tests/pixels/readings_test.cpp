@@ -37,7 +37,7 @@ TEST_F(Readings, TheEndOfALineIsReadBack) {
 }
 
 TEST_F(Readings, AFloodStartsAtThePixelOfTheUnits) {
-  // 712.5 units are 47.5 pixels, which are pixel 48.
+  // 712.5 units are 47.5 pixels, which gives pixel 48.
   surface.PSet(712.5, 300, Red);
   surface.SetFillColor(Blue);
   surface.ExtFloodFill(48, 20, Red);

@@ -16,7 +16,7 @@ namespace {
 constexpr int Columns = 211;
 constexpr int Rows = 157;
 
-/// Draws the same on the canvas and on the plain former one.
+/// Draws the same on the canvas and on the plain reference canvas.
 class SideBySide : public ::testing::TestWithParam<unsigned> {
  protected:
   SideBySide() : random_(GetParam()) {
@@ -40,7 +40,7 @@ class SideBySide : public ::testing::TestWithParam<unsigned> {
   }
   PixelPoint AnyPoint() { return {AnyPlace(Columns), AnyPlace(Rows)}; }
 
-  /// Turtles take many short steps.
+  /// A place not far away: turtles take many short steps.
   PixelPoint Near(PixelPoint point) {
     const int reach = 1 + Below(40);
     return {point.X + Below(2 * reach + 1) - reach, point.Y + Below(2 * reach + 1) - reach};
@@ -125,7 +125,7 @@ TEST_P(SideBySide, EveryOperationLeavesTheSamePixelsAsThePlainOne) {
 
 INSTANTIATE_TEST_SUITE_P(Seeds, SideBySide, ::testing::Range(1U, 9U));
 
-/// Every short line of a turtle, also where an edge of the line runs exactly through the middles of pixels.
+/// Every short line of a turtle, even if an edge of the line runs exactly through the middles of pixels.
 TEST(SideBySideOfShortLines, OfAllUsualWidths) {
   ImageCanvas canvas;
   reference::ImageCanvas plain;

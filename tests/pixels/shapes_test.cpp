@@ -92,7 +92,7 @@ void PrintTo(const Hatched& one, std::ostream* out) { *out << "style " << one.St
 
 class HatchDirections : public CanvasTest, public ::testing::WithParamInterface<Hatched> {
  protected:
-  /// Whether eight pixels in a direction all have the colour of the hatch, somewhere.
+  /// Whether there are eight pixels in a row, in a direction, that have the colour of the hatch.
   bool Runs(int stepX, int stepY) const {
     for (int y = 40; y < 48; ++y) {
       for (int x = 40; x < 48; ++x) {
@@ -214,7 +214,7 @@ void PrintTo(const Outlined& one, std::ostream* out) {
 
 class EllipseOutlines : public CanvasTest, public ::testing::WithParamInterface<Outlined> {
  protected:
-  /// Whether a pixel that does not belong to the ellipse is not farther off than the width.
+  /// Whether a pixel outside the ellipse is no farther away than the width.
   bool IsNearTheOutside(const QImage& ellipse, int x, int y) const {
     const int width = GetParam().Width;
     for (int dy = -width; dy <= width; ++dy) {

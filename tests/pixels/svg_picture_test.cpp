@@ -39,7 +39,7 @@ class SvgPictures : public ::testing::Test {
 
   QByteArray Document() const { return recorder.Picture(Width, Height, surface.BackColor()); }
 
-  /// What a viewer shows that does not smooth: the colour in the middle of each pixel.
+  /// What a viewer without smoothing shows: the colour in the middle of each pixel.
   QImage Rendered() const {
     QImage enlarged(Width * Enlargement, Height * Enlargement, QImage::Format_RGB32);
     enlarged.fill(Qt::magenta);

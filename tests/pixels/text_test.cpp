@@ -11,7 +11,7 @@ namespace {
 
 class Texts : public CanvasTest {
  protected:
-  /// Pixels that a blank of 12 points takes.
+  /// The width of a blank at 12 points, in pixels.
   static double BlankWidth() { return TextFont(12).WidthOf(' '); }
 };
 
@@ -36,7 +36,7 @@ TEST_F(Texts, LeaveTheBackgroundBetweenLetters) {
 }
 
 TEST_F(Texts, OfTwelvePointsAreSixteenPixelsHigh) {
-  // Capitals of this font are 0.716 of the size high.
+  // The height of this font's capitals is 0.716 of its size.
   canvas.Print("H", {20, 20}, 12, White);
   EXPECT_NEAR(Drawn().height(), 0.716 * 16, 1);
 }

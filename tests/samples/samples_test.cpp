@@ -20,8 +20,8 @@ const std::filesystem::path sampleFolder = sourceFolder / "samples";
 const std::filesystem::path pictureFolder = sourceFolder / "docs" / "images" / "samples";
 const std::filesystem::path goldenFolder = sourceFolder / "tests" / "samples";
 
-/// A sample, and how many pixels in a thousand may differ from its picture: none, but letters depend on the version of
-/// the font, and a JPEG picture on that of its reader.
+/// A sample, and how many pixels in a thousand may differ from its picture: none, except that letters depend on the
+/// version of the font, and a JPEG picture on that of its reader.
 struct Sample {
   const char* Name;
   int LooseThousandths = 0;
@@ -36,7 +36,7 @@ constexpr std::array samples = {
     Sample{"SHELL"},    Sample{"SLIDES", 5}, Sample{"SNOW"},     Sample{"SPIRAL"}, Sample{"SQUARE"},  Sample{"STARS"},
     Sample{"TRAFFIC"},  Sample{"TREE"}};
 
-/// A pixel of a loosely compared picture is another one if a colour part differs by more.
+/// In a loose comparison, a pixel differs if one of its colour parts differs by more than this.
 constexpr int looseDifference = 16;
 
 std::string BytesOf(const std::filesystem::path& file) {

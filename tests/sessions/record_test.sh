@@ -14,7 +14,7 @@ fail() {
   exit 1
 }
 
-# refuses STATUS WORDS ARGUMENT...: record ends with the status and one line that has the words.
+# refuses STATUS WORDS ARGUMENT...: checks that record ends with the status and one line that has the words.
 refuses() {
   local status=0 wanted=$1 words=$2 told
   shift 2
@@ -28,7 +28,7 @@ refuses 2 usage one two
 refuses 2 usage ../one
 refuses 1 'there is no session' one
 
-# The transcripts of the tree come out again: with options, with files, and with a limit that ends the session.
+# The transcripts of the tree are reproduced: with options, with files, and with a limit that ends the session.
 for name in screen_of_another_size ask_for_a_program_file evaluation_that_never_returns; do
   cp -r "$recorded/$name".session .
   [ ! -d "$recorded/$name.files" ] || cp -r "$recorded/$name.files" .

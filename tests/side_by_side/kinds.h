@@ -25,7 +25,7 @@ struct Present {
   using PrimitiveCall = zerimo::PrimitiveCall;
 };
 
-/// The literal ones.
+/// The literal interpreter's parts.
 struct Literal {
   using Turtle = reference::Turtle;
   using Interpreter = reference::Interpreter;

@@ -7,7 +7,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// Programs that cross a limit in the middle of a loop, so that what was derived is left and found again.
+/// Programs that cross a limit in the middle of a loop, where the derived forms stop being valid.
 class LimitsTest : public testing::Test {
  protected:
   LimitsTest() {

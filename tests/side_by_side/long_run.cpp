@@ -3,7 +3,7 @@
 
 #include "side_by_side/sessions.h"
 
-/// Usage: side_by_side_run LINES [SEED]: random sessions until that many program lines were run.
+/// Usage: side_by_side_run LINES [SEED]: random sessions until that many program lines have run.
 int main(int argc, char** argv) {
   if (argc < 2) {
     std::cerr << "usage: side_by_side_run LINES [SEED]\n";

@@ -11,7 +11,7 @@ class RandomSession {
  public:
   explicit RandomSession(unsigned seed) : numbers_(seed), wild_(Chance(2)) {}
 
-  /// A program: procedures, now and then with lines in front of them.
+  /// A program: procedures, now and then with lines before them.
   std::vector<std::string> Program();
   std::string TypedLine();
   /// The text of a variable slot.
@@ -31,7 +31,7 @@ class RandomSession {
   std::string Statement();
 
   std::mt19937 numbers_;
-  /// Whether the session is full of oddities, or mostly of what pupils write.
+  /// Whether the session is full of oddities rather than what pupils usually write.
   bool wild_;
 };
 

@@ -12,7 +12,7 @@ namespace {
 class Session {
  public:
   explicit Session(unsigned seed) : random_(seed) {
-    // Unwatched, texts that nobody reads are not made for a while.
+    // Now and then each step is watched. Otherwise texts that nobody reads are not made for a while.
     if (!random_.Chance(3)) return;
     present_.WatchEachStep();
     literal_.WatchEachStep();
@@ -44,7 +44,7 @@ class Session {
   void Load() {
     std::vector<std::string> program = random_.Program();
     const std::vector<std::string> later = random_.Program();
-    // Now and then in a store that is nearly full, or not trimmed.
+    // Now and then the store is nearly full, or not trimmed.
     if (random_.Chance(40)) program.insert(program.begin(), 1900 + static_cast<std::size_t>(random_.Below(100)), "PU");
     if (random_.Chance(10)) program.front() += " ";
     Both([&](auto& side) {

@@ -6,8 +6,8 @@
 
 namespace zerimo {
 
-/// Runs a random session on both interpreters; tells where they first differ, or nothing. Adds to `lines` the program
-/// lines that were run.
+/// Runs a random session on both interpreters; returns where they first differ, or nothing. Adds to `lines` the number
+/// of program lines run.
 std::optional<std::string> FirstDifference(unsigned seed, std::uint64_t& lines);
 
 }  // namespace zerimo

@@ -17,7 +17,7 @@
 
 namespace zerimo {
 
-/// Lets a typed line make so many steps, and any other loop so many rounds within one step. Tells each step.
+/// Limits the steps of a typed line, and the rounds of any other loop within one step. Reports each step.
 class StepWatch : public Watch {
  public:
   static constexpr int TicksAStep = 1500;
@@ -45,7 +45,7 @@ class StepWatch : public Watch {
   int ticks_ = 0;
 };
 
-/// One interpreter with its turtle and surface, and a trace of all that can be seen of it.
+/// One interpreter with its turtle and surface, and a trace of everything visible.
 template <typename Kinds>
 class Side : SurfaceRecorder {
  public:

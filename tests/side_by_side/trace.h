@@ -9,7 +9,7 @@
 
 namespace zerimo {
 
-/// What was seen of a session, as one number a step.
+/// What was visible in a session, as one number for each step.
 class Trace {
  public:
   void Note(std::string_view text);

@@ -16,14 +16,14 @@ inline std::string BytesOf(const std::filesystem::path& file) {
   return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-/// What a run of the program left.
+/// The results of a run of the program.
 struct ProgramRun {
   int Status = -1;
   std::string Output;
   std::string Errors;
 };
 
-/// Runs the batch runner in a folder of its own, which goes with it.
+/// Runs the batch runner in a folder of its own, which is removed with it.
 class BatchProgram {
  public:
   explicit BatchProgram(std::filesystem::path program) : executable(std::move(program)) {

@@ -7,10 +7,10 @@
 
 namespace zerimo {
 
-/// A folder to run the system in, with links to the help pages and samples of the built one. It goes at the end.
+/// A folder to run the system in, with links to the built help pages and samples. It is removed at the end.
 class WorkFolder {
  public:
-  /// `builtFolder` is the folder of the built programs, `name` keeps this folder apart from those of other tests.
+  /// `builtFolder` is the folder of the built programs, `name` distinguishes this folder from those of other tests.
   WorkFolder(const std::filesystem::path& builtFolder, const std::string& name);
   ~WorkFolder();
   WorkFolder(const WorkFolder&) = delete;

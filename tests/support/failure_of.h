@@ -7,7 +7,7 @@
 
 namespace zerimo {
 
-/// The kind of the failure that leaves a statement, or nothing if it goes through.
+/// The kind of failure with which a statement fails, or nothing if it succeeds.
 template <typename Statement>
 std::optional<FailureKind> FailureOf(Statement&& statement) {
   try {

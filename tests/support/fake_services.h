@@ -17,8 +17,8 @@ struct ShownBox {
   bool operator==(const ShownBox&) const = default;
 };
 
-/// Services that write down what was asked and answer from queues: a box with no queued answer gets OK, Ignore or No,
-/// an input box and the dialogs the empty text.
+/// Services that record what is asked and answer from queues: a box with no queued answer gets OK, Ignore or No, an
+/// input box and the dialogs the empty text.
 class FakeServices : public Services {
  public:
   Answer MessageBox(const std::string& text, int style, const std::string& title) override {

@@ -6,7 +6,7 @@
 
 namespace zerimo {
 
-/// Lets no file grow beyond a size, as on a disk that is full.
+/// Keeps files from growing beyond a size, as a full disk does.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

@@ -12,8 +12,8 @@
 
 namespace zerimo {
 
-/// The interpreter without a window: the store, the language and the runner. What the primitives `FD`, `RT` and `PRINT`
-/// got is written down in `Calls`; no other primitive does anything but tell a missing input.
+/// The interpreter without a window: the store, the language and the runner. `Calls` records what the primitives `FD`,
+/// `RT` and `PRINT` are given; other primitives only report a missing input.
 struct BareInterpreter {
   BareInterpreter() {
     for (const Action action : {Action::Forward, Action::Right}) {
@@ -42,7 +42,7 @@ struct BareInterpreter {
     return lines;
   }
 
-  /// Runs a filtered line as a row's Enter key does; returns whether it went through.
+  /// Runs a filtered line as a row's Enter key does; returns whether it succeeded.
   bool Type(std::string line) {
     return PassOver([&] { typedLines.ComplexExecutor(line); });
   }
@@ -67,7 +67,7 @@ struct BareInterpreter {
   TypedLines& typedLines = interpreter.typedLines;
 
   std::vector<std::string> Calls;
-  /// The control string at each of the calls.
+  /// The control string at each of those calls.
   std::vector<std::string> Paths;
 };
 

@@ -6,7 +6,7 @@
 
 namespace zerimo {
 
-/// A text as the name of a test shows it: between quotes, with what is no plain character written out.
+/// A text as the name of a test shows it: between quotes, with unprintable characters written as escapes.
 inline std::string Quoted(const char* text) { return testing::PrintToString(std::string(text)); }
 
 }  // namespace zerimo

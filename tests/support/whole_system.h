@@ -12,7 +12,7 @@
 
 namespace zerimo {
 
-/// The whole system over a canvas without pixels, in a folder of its own, started and with the focus on row 0.
+/// The whole system with a canvas without pixels, in a folder of its own, started and with the focus on row 0.
 struct WholeSystem {
   explicit WholeSystem(ScreenSize screen = {})
       : System(screen, Folders(".", Disk(folder.Path)), services, watch, Pixels), controls(System.controls) {

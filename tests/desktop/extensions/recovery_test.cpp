@@ -35,7 +35,7 @@ class RecoveryTest : public ExtensionsTest {
     ASSERT_TRUE(Until([this] { return !Kept().empty(); }));
   }
 
-  /// What a window that is gone has left.
+  /// Leaves a text as a window that is gone does.
   void Leave(const char* name, const char* text) const {
     fs::create_directories(Rescued());
     std::ofstream(Rescued() / name) << text;

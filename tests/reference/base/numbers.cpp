@@ -79,7 +79,7 @@ double ExponentOf(std::string_view number) {
   const auto mark = number.find('e');
   if (mark == std::string_view::npos) return 0;
   const char* const first = number.data() + mark + (number[mark + 1] == '+' ? 2 : 1);
-  // What is too long to be read stays as it is here.
+  // An exponent too long to be read keeps this value.
   double exponent = *first == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
   std::from_chars(first, number.data() + number.size(), exponent);
   return exponent;

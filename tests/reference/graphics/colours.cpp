@@ -37,7 +37,7 @@ void Colours::SetPC(PrimitiveCall& call) {
   if (turtle.PenState == 1 || turtle.PenState == 2) {
     PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
   }
-  // Before the first SETBG the background's colour is no code: this fails then, and the pen goes on erasing.
+  // Before the first SETBG the background's colour is not a code: this fails then, and the pen goes on erasing.
   if (turtle.PenState == 3) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
   PassOver([&] {
     double code = number;
@@ -74,7 +74,7 @@ void Colours::TextBackground(PrimitiveCall& call) {
   const double number = context_.arguments.Number(call.Rest);
   ForEachTextControl(context_.controls, [&](auto& control) { control.BackColor = QBColor(ColourCode(number)); });
   SelectSquare(number);
-  // The word of the other primitive: "Apply" then sets the text's colour.
+  // Not this primitive's own word: "Apply" then sets the text's colour.
   context_.controls.Label15.Caption = "TEXTCOLOR " + Str(number);
 }
 

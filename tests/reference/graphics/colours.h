@@ -10,10 +10,10 @@ class Colours {
  public:
   Colours(const DrawingContext& context, TurtleFigure& turtleFigure) : context_(context), turtleFigure_(turtleFigure) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to their actions.
   void Bind();
 
-  /// Changes the background under a drawing, point by point on a lattice. Nothing calls it. Fails as its steps do.
+  /// Changes the background under a drawing, point by point on a grid. Nothing calls it. Fails as its steps do.
   void FillBack(std::int32_t newBGColor);
 
  private:

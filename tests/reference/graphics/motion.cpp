@@ -11,7 +11,7 @@ namespace zerimo::reference {
 
 namespace {
 
-/// Not pi, and not the number of the figure: a full turn leaves the heading at about 6.2831874.
+/// Neither pi nor the figure's `FigurePi`: a full turn leaves the heading at about 6.2831874.
 constexpr double TurnPi = 3.1415937;
 
 constexpr std::array<const char*, 4> PenWords = {"", "Pen Down", "Pen Up", "Pen Erase"};
@@ -69,7 +69,7 @@ void Motion::MoveBy(double distance) {
   double newY = 0;
   PassOver([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
   PassOver([&] { newY = Finite(turtle.TurtleY - distance * std::cos(-turtle.TurtleDir)); });
-  // A test that fails goes on with the move.
+  // If the test fails, the move goes on.
   bool admitted = true;
   PassOver([&] { admitted = AdmitsMove(newX, newY); });
   if (!admitted) return Refuse();
@@ -84,7 +84,7 @@ bool Motion::AdmitsMove(double x, double y) const {
 }
 
 void Motion::Right(PrimitiveCall& call) {
-  // After its box it goes on and turns by 0.
+  // After its box RT goes on and turns by 0.
   context_.dispatch.TellMissingInput(call, Action::Right);
   Turn(context_.arguments.Number(call.Rest));
 }
@@ -142,7 +142,7 @@ void Motion::SetXY(PrimitiveCall& call) {
   if (!AdmitsSetXY(targetX, targetY)) return Refuse();
   DrawTo(targetX, targetY);
   PassOver([&] { turtle.TurtleX = Finite(centreX + dx); });
-  // Not rounded: the turtle may stand half a unit beside the end of its line.
+  // Not rounded: the turtle may be half a unit away from the end of its line.
   turtle.TurtleY = centreY - dy;
 }
 
@@ -163,7 +163,7 @@ void Motion::Refuse() { context_.services.MessageBox("The Zerimo Turtle can not 
 void Motion::Resolution(PrimitiveCall& call) {
   double value = context_.arguments.Number(call.Rest);
   if (value == 0) value = 10;
-  // After its box it goes on: a missing input gives 10.
+  // After its box RESOLUTION goes on: a missing input gives 10.
   context_.dispatch.TellMissingInput(call, Action::Resolution);
   context_.turtle.Resolution = value;
 }

@@ -10,7 +10,7 @@ class Motion {
  public:
   explicit Motion(const DrawingContext& context) : context_(context) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:
@@ -34,10 +34,10 @@ class Motion {
   void DrawMode(PrimitiveCall& call);
   void ClearScreen();
 
-  /// A move along the heading by surface units.
+  /// Moves along the heading by surface units.
   void MoveBy(double distance);
   void Turn(double degrees);
-  /// What a fence lets through. Fails (overflow) as its rounding does.
+  /// Whether the fence lets a move through. Fails (overflow) as its rounding does.
   bool AdmitsMove(double x, double y) const;
   bool AdmitsSetX(double x) const;
   bool AdmitsSetY(double y) const;

@@ -62,7 +62,7 @@ void Shapes::Dot(PrimitiveCall& call) {
   const double x = Units(call, 1);
   const std::int16_t y = WholeStepsToUnits(context_.turtle, Word(call, 2));
   if (PenIsUp()) return;
-  // The pen's own colour, so that a dot shows even if the pen erases.
+  // In the pen's colour code, so that a dot shows even if the pen erases.
   PassOver([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.turtle.PenColor)); });
 }
 
@@ -120,7 +120,7 @@ void Shapes::DrawEllipse(float x, float y, float a, float b, float deg) {
   const auto start = pointAtT();
   surface.SetCurrentX(start.X);
   surface.SetCurrentY(start.Y);
-  // As a single the limit is a little larger: the chain has 51 chords.
+  // As a single the limit is a little larger, so the chain has 51 chords.
   while (static_cast<double>(static_cast<float>(EllipseTurn)) > t) {
     t += step;
     const auto end = pointAtT();

@@ -6,12 +6,12 @@
 
 namespace zerimo::reference {
 
-/// Shapes and stamps, `FILL` and `FILLSTYLE`. None of them moves the turtle or asks the fence.
+/// Shapes and stamps, `FILL` and `FILLSTYLE`. None of them moves the turtle or minds the fence.
 class Shapes {
  public:
   explicit Shapes(const DrawingContext& context) : context_(context) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:
@@ -38,7 +38,7 @@ class Shapes {
   /// An ellipse of half-axes a and b, turned by degrees, as a chain of chords. Fails as the surface does.
   void DrawEllipse(float x, float y, float a, float b, float deg);
   using Drawing = std::function<void(Shapes&, PrimitiveCall&)>;
-  /// Draws in the colour value that the word with that number tells; the foreground colour is put back.
+  /// Draws in the colour value given by the word with that number, then restores the foreground colour.
   void InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing& draw);
   /// The same for a stamp, with its inside in the colour too.
   void InStampColour(PrimitiveCall& call, const Drawing& draw);

@@ -20,8 +20,8 @@ std::int16_t WholeStepsToUnits(const Turtle& turtle, double steps);
 /// Rounded to 32 bits.
 std::int32_t LongNumber(double number);
 
-/// A number reduced to a colour code: rounded to 32 bits, then its remainder by 16 with the number's sign. This one
-/// fails (overflow).
+/// A number reduced to a colour code: rounded to 32 bits, then its remainder by 16 with the number's sign. Unlike the
+/// others, this one fails (overflow).
 std::int32_t ColourCode(double number);
 
 }  // namespace zerimo::reference

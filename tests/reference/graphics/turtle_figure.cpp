@@ -12,7 +12,7 @@ namespace {
 constexpr double BodyRadius = 150;
 constexpr double HeadRadius = 80;
 constexpr double Extension = 200;
-/// The turns of `RT` and `LT` use another number.
+/// The turns of `RT` and `LT` use another value.
 constexpr double FigurePi = 3.1415927;
 
 struct FigurePoint {

@@ -6,7 +6,7 @@
 
 namespace zerimo::reference {
 
-/// The four light controls above the surface that show the turtle. They are moved, never painted into the picture.
+/// The four lightweight controls over the surface that show the turtle. They are moved, never painted into the picture.
 class TurtleFigure {
  public:
   explicit TurtleFigure(Controls& controls) : controls_(controls) {}
@@ -14,10 +14,11 @@ class TurtleFigure {
   /// Moves the figure: a position in surface units and a heading in radians.
   void TurtlePos(double x, double y, double dir);
 
-  /// The figure takes the colour of a code; the number is replaced by its remainder by 16. A negative one fails.
+  /// Gives the figure the colour of a code; the number is replaced by its remainder by 16. Fails (invalid argument) if
+  /// that is negative.
   void TurtleColor(double& colorCode);
 
-  /// The figure takes a colour made of three parts. Nothing calls it.
+  /// Gives the figure a colour made of three parts. Nothing calls it.
   void TurtleColorRGB(double red, double green, double blue);
 
  private:

@@ -27,7 +27,7 @@ void TurtlePlaces::Bind() {
 
 void TurtlePlaces::Fence() {
   Turtle& turtle = context_.turtle;
-  // The left edge counts as outside, the top edge as inside; a move is tested otherwise.
+  // The left edge counts as outside, the top edge as inside; the test of a move differs.
   const bool outside = turtle.TurtleX > context_.Picture1.Width || turtle.TurtleX <= 0 ||
                        turtle.TurtleY > context_.Picture1.Height() || turtle.TurtleY < 0;
   if (outside) {
@@ -70,7 +70,7 @@ void TurtlePlaces::HomeXY() { MoveHome(CentreX(), CentreY()); }
 
 void TurtlePlaces::MoveHome(double x, double y) {
   Turtle& turtle = context_.turtle;
-  // No fence is asked: the centre is always allowed.
+  // The fence is not tested: the centre is always allowed.
   if (turtle.PenState != 2) PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
   turtle.TurtleX = x;
   turtle.TurtleY = y;

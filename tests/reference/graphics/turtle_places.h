@@ -9,7 +9,7 @@ class TurtlePlaces {
  public:
   explicit TurtlePlaces(const DrawingContext& context) : context_(context) {}
 
-  /// Sets the work of the primitives.
+  /// Binds the primitives to their actions.
   void Bind();
 
  private:

@@ -7,15 +7,15 @@
 
 namespace zerimo::reference {
 
-/// How a primitive gets its numbers: each argument's text passes four stages, and each stage is a statement of its own
-/// under the skip rule.
+/// How a primitive gets its numbers: each argument's text passes through four stages, and each stage is a statement of
+/// its own under the skip rule.
 class Arguments {
  public:
   Arguments(const Variables& variables, const Arithmetic& arithmetic)
       : variables_(variables), arithmetic_(arithmetic) {}
 
-  /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is passed over; a value that could not
-  /// be computed is 0.
+  /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is skipped; a value that could not be
+  /// computed is 0.
   double Number(std::string text) const;
 
   /// The value of the n-th word of the caller's text, which `GiveWord` changes.

@@ -48,7 +48,7 @@ TokenArray Cut(std::string_view expression) {
   return tokens;
 }
 
-/// Performs the leftmost operation `op`, if there is one behind the first token.
+/// Performs the leftmost operation `op`, if there is one after the first token.
 template <typename Operation>
 void PerformLeftmost(TokenArray& tokens, std::string_view op, Operation&& operation) {
   for (int index = 2; !tokens.IsEnd(index); ++index) {
@@ -96,7 +96,7 @@ std::string Arithmetic::BracketRemover(std::string& expression) const {
     const std::string left(Left(expression, places.Open - 1));
     const std::string inner(Mid(expression, places.Open + 1, places.Close - places.Open - 1));
     const std::string right(Mid(expression, places.Close + 1, length - places.Close));
-    // Joined with nothing between: 2(3+4) becomes 27.
+    // Nothing goes between the parts: 2(3+4) becomes 27.
     const std::string value = Str(Evaluator(inner));
     expression = std::string(Trimmed(left)) + std::string(Trimmed(value)) + std::string(Trimmed(right));
   }

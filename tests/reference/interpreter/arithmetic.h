@@ -50,7 +50,7 @@ std::int16_t Brackets(std::string_view expression);
 
 void SpaceRemover(TokenArray& tokens);
 void UnaryMinusProcessor(TokenArray& tokens);
-/// Each performs the leftmost one of its operation.
+/// Each performs the leftmost of its operations.
 void Remainder(TokenArray& tokens);
 void Divider(TokenArray& tokens);
 void Multiplier(TokenArray& tokens);

@@ -33,7 +33,7 @@ int Conditionals::FindElse(int lineNumber) const {
         break;
       case StmtEndIf:
         ++close;
-        // A flag and no depth: behind an inner ENDIF it is clear even inside a yet outer inner IF.
+        // A flag, not a depth: an inner ENDIF clears it even if another inner IF is still open.
         innerIf = false;
         break;
       case StmtElse:

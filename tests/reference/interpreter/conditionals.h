@@ -24,7 +24,7 @@ class Conditionals {
   std::int16_t LabelPos(std::string_view labelName) const;
 
  private:
-  /// The line of the `ELSE` that is taken for this `IF`'s, or 0.
+  /// The line of the `ELSE` that counts as this `IF`'s, or 0.
   int FindElse(int lineNumber) const;
   /// The line of the `ENDIF` of this `IF`, or 0.
   int FindEndIf(int lineNumber) const;

@@ -12,7 +12,7 @@ class ControlPath;
 class Store;
 class Variables;
 
-/// What the interpreter works in.
+/// What the interpreter is given to work with.
 struct InterpreterContext {
   Services& services;
   Watch& watch;
@@ -20,7 +20,7 @@ struct InterpreterContext {
   Turtle& turtle;
 };
 
-/// What the parts share that walk the program or rewrite it.
+/// What the parts that walk or rewrite the program share.
 struct ProgramContext {
   InterpreterContext around;
   Store& store;

@@ -6,13 +6,13 @@
 
 namespace zerimo::reference {
 
-/// The control string: the dotted path of the active procedures with the line reached in each, such as
-/// ".#TEMP$7- 5.BOX- 3". "." means that nothing runs. It is the only call stack.
+/// The control string: the dotted path of the active procedures with the line reached in each, such as ".#TEMP$7-
+/// 5.BOX- 3". "." means that nothing runs. It is the only call stack.
 class ControlPath {
  public:
   const std::string& CtrlStr() const { return path_; }
 
-  /// The one door by which the path changes.
+  /// The only way to change the path.
   void SetCtrlStr(std::string text) { path_ = std::move(text); }
 
   /// Name of the procedure whose locals are being made or removed.
@@ -29,23 +29,23 @@ class ControlPath {
 /// The text up to and including its last "-"; no "-" gives the empty text.
 std::string FirstPartExtractor(std::string_view text);
 
-/// The number behind the last "-", rounded; fails (overflow) beyond 16 bits.
+/// The number after the last "-", rounded; fails (overflow) beyond 16 bits.
 std::int16_t EndValExtractor(std::string_view text);
 
-/// The trimmed characters in front of the first blank, or all of them.
+/// The trimmed characters before the first blank, or all of them.
 std::string GetProcNameFromProcedureCall(std::string_view procedureCall);
 
 /// The path without its last component; "." if the text holds one "." or none.
 std::string CurrentProcedureRemover(std::string_view path);
 
-/// Drops the last component if it is the same text as the one before it, so that a recursion keeps the path's length.
-/// The test is on the text: " 5" and "5" differ. Shortens its argument in place and returns it.
+/// Drops the last component if it is the same text as the one before it, so that a recursion does not lengthen the
+/// path. The test is on the text: " 5" and "5" differ. Shortens its argument in place and returns it.
 std::string RecursionChecker(std::string& path);
 
 /// The position of the last ".". Nothing calls it.
 int RightMostDotPos(std::string_view text);
 
-/// The text in front of the last "-", trimmed, then "-", then the number after it plus 1. Nothing calls it.
+/// The text before the last "-", trimmed, then "-", then the number after it plus 1. Nothing calls it.
 std::string ForwardCtrlString(std::string_view text);
 
 }  // namespace zerimo::reference

@@ -71,7 +71,7 @@ bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
       services_.MessageBox(text);
       break;
     default:
-      // The answer is not looked at.
+      // The answer makes no difference.
       services_.MessageBox(text, box::AbortRetryIgnore, "Zerimo");
       break;
   }

@@ -17,11 +17,11 @@ struct PrimitiveCall {
   std::string CommandLine;
   /// The first word.
   std::string Word;
-  /// What stands behind the first word; an action may rewrite it.
+  /// The text after the first word; an action may rewrite it.
   std::string Rest;
   /// The copy of Rest that the missing-input test looks at.
   std::string SavedRest;
-  /// Takes over if a statement of the tail fails, instead of the skip rule, when an action has set it.
+  /// If an action sets it, a failing statement of the tail calls it instead of being skipped.
   std::function<void()> OnFailure;
 
   /// Whether the saved copy of Rest is the empty text or one blank.
@@ -36,7 +36,7 @@ class Dispatch {
 
   explicit Dispatch(Services& services) : services_(services) {}
 
-  /// Sets the work of an action. An action with none does nothing (but for its missing-input test).
+  /// Binds an action to what it does. Without a handler an action does nothing (but for its missing-input test).
   void Bind(Action action, Handler handler);
 
   /// Carries out one line; the caller's text is trimmed.
@@ -45,15 +45,15 @@ class Dispatch {
   /// The same for a fixed text.
   void Execute(std::string commandLine) { Executor(commandLine); }
 
-  /// Shows the box for a missing input if the input is missing, and tells whether it was.
+  /// If the input is missing, shows the box that says so. Returns whether it was missing.
   bool TellMissingInput(const PrimitiveCall& call, Action action);
 
-  /// The steps of the tail that other rooms do: move the figure, write the status line, refresh the surface.
+  /// The steps of the tail that other rooms provide: move the figure, write the status line, refresh the surface.
   std::function<void()> TurtlePos = [] {};
   std::function<void()> TitleText = [] {};
   std::function<void()> RefreshSurface = [] {};
 
-  /// `SHOW DETAILS` is in force.
+  /// `SHOW DETAILS` is on.
   bool DetailsOn = false;
   /// Primitive calls so far, stopping at 32767.
   std::int16_t OverflowCount = 0;

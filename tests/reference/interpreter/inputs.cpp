@@ -45,7 +45,7 @@ class Words {
 void Inputs::CreateLocalVariable(std::string_view commandLine) {
   const Words call(commandLine);
   const int header = store_.WhereProcedure(Trimmed(call.At(1)));
-  // From the third character on: the blank behind TO makes an empty first word.
+  // From the third character on: the blank after TO makes an empty first word.
   const Words names(From(Trimmed(store_.Line(header)), 3));
 
   int slot = 1;
@@ -54,7 +54,7 @@ void Inputs::CreateLocalVariable(std::string_view commandLine) {
     std::string value = call.At(word);
     value = variables_.VarValReplacer(value);
     value = variables_.GlobalVariableReplacer(value);
-    // The slots are filled one after the other without a look at what they hold.
+    // The slots are filled one after the other, whatever they hold.
     variables_.SetSlot(slot++, call.At(1) + "." + names.At(word + 1) + "=" + value);
   }
   variables_.RebuildList2();

@@ -11,7 +11,7 @@
 namespace zerimo::reference {
 
 /// The inputs of procedures: entries PROCEDURE.NAME=text among the variables. There are no frames: nothing tells one
-/// activation's entries from another's.
+/// call's entries from another's.
 class Inputs {
  public:
   explicit Inputs(const ProgramContext& context)

@@ -82,7 +82,7 @@ bool HasAny(std::string_view word, std::string_view characters) {
   return word.find_first_of(characters) != std::string_view::npos;
 }
 
-/// The class of a line of one word that is no keyword.
+/// The class of a line of one word that is not a keyword.
 StatementClass ClassOfWord(std::string_view word, StatementClass soFar) {
   constexpr std::string_view cannotLead = "*/%\\";
   if (cannotLead.find(word.front()) != std::string_view::npos) return soFar;
@@ -135,7 +135,7 @@ std::string GiveWord(std::string& text, int nthWord) {
     if (slot == nthWord) wanted = text.substr(start, blank - start);
     start = blank + 1;
   }
-  // The word behind the last blank, empty by then, needs a slot too.
+  // The empty word after the last blank needs a slot too.
   if (slot + 1 > WordSlots || nthWord < 1 || nthWord > WordSlots) throw Failure(FailureKind::SubscriptOutOfRange);
   return wanted;
 }

@@ -22,15 +22,15 @@ std::size_t Checked(int index, int last) {
 
 bool IsRepeatLine(const std::string& line) { return line.starts_with("REPEAT ") || Contains(line, "#REPEAT "); }
 
-/// What one round of the splitting found: the length of the statement in front of the rest.
+/// What one round of splitting found.
 struct Cut {
   /// The characters of the body that the statement takes, blanks at its ends included.
   int StatementEnd = 0;
-  /// Whether the body ends the splitting with a message.
+  /// The message that ends the splitting, or null.
   const char* Message = nullptr;
 };
 
-/// A nested REPEAT: up to its closing bracket. The character directly behind the first bracket is not looked at.
+/// A nested REPEAT: up to its closing bracket. The character right after the first bracket is never tested.
 Cut CutRepeat(std::string_view body) {
   const int open = PositionOf(body, "[");
   if (open == 0) return {0, "Missing ["};
@@ -121,7 +121,7 @@ std::int16_t Lowering::SearchRepeatPos() const {
 }
 
 void Lowering::RemoveSingleRepeat() {
-  // Only for its messages, which thus appear twice.
+  // Only for its messages, which therefore appear twice.
   std::string body = BodyFinder(SearchRepeatPos());
   CreateBodyArray(body);
   RefreshRootArray(AddComponents());
@@ -137,7 +137,7 @@ std::string Lowering::BodyFinder(int lineNumber) const {
   });
   PassOver([&] {
     const std::string& line = store_.Line(lineNumber);
-    // The last character is taken for the closing bracket without a look.
+    // The last character is taken for the closing bracket, whatever it is.
     body = Mid(line, open + 1, Length(line) - open - 1);
   });
   return body;

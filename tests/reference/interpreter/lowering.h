@@ -60,7 +60,7 @@ class Lowering {
   std::int16_t SearchRepeatPos() const;
   /// Lowers the first `REPEAT` line.
   void RemoveSingleRepeat();
-  /// What stands between the first "[" of a line and its last character.
+  /// The text between the first "[" of a line and its last character.
   std::string BodyFinder(int lineNumber) const;
   /// Splits a body into statements; the caller's text is consumed.
   BodyArray CreateBodyArray(std::string& body) const;

@@ -10,7 +10,7 @@ constexpr std::string_view Comparisons = "><=!";
 
 bool IsComparison(char character) { return Comparisons.find(character) != std::string_view::npos; }
 
-/// The number of comparison characters in front of the first carriage return.
+/// The number of comparison characters before the first carriage return.
 int CountComparisons(std::string_view expression) {
   int count = 0;
   for (const char character : expression) {

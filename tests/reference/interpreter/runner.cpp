@@ -43,7 +43,7 @@ void Runner::Run1(std::string_view procedure) {
 
 void Runner::SetPath(std::string text) {
   controlPath_.SetCtrlStr(std::move(text));
-  // Seen while a box holds the run.
+  // For the user to see while a box is open.
   Label19.Caption = controlPath_.CtrlStr();
 }
 
@@ -152,7 +152,7 @@ void Runner::ActOnGoto(Walk& walk) {
 }
 
 void Runner::ActOnLabel(Walk& walk) {
-  // From the text and not from the counter: behind an ENDIF the text is one ahead, and a line is skipped.
+  // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
   PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
   WriteLinePlain(walk.Line);
 }

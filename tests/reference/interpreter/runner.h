@@ -13,8 +13,8 @@
 
 namespace zerimo::reference {
 
-/// Walks the store line by line from the `TO` line of one procedure until the whole call tree is finished. One loop:
-/// a call only lengthens the control string. Runs under the skip rule.
+/// Walks the store line by line from the `TO` line of one procedure until the whole call tree is finished. One loop: a
+/// call only lengthens the control string. Runs under the skip rule.
 class Runner {
  public:
   Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals);
@@ -23,7 +23,8 @@ class Runner {
   void Run1(std::string_view procedure);
 
  private:
-  /// One walk's locals: they keep their values from line to line, so that a failed statement leaves the former one.
+  /// The locals of one walk. They keep their values from line to line, so that the old value remains after a failed
+  /// statement.
   struct Walk {
     int Line = 0;
     StatementClass Class = StatementClass{};

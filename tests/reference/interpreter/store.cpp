@@ -96,7 +96,7 @@ void Store::TempFileDataArray() {
   }
   WorkingCopy copy;
   for (int kept = 1; kept < number; ++kept) copy.Add(Line(kept));
-  // Any "END" in a line ends the skip, that of an ENDIF too: the rest of such a procedure stays as ordinary lines.
+  // Any "END" in a line ends the skip, even that of an ENDIF: the rest of such a procedure stays as ordinary lines.
   while (!Line(number).empty() && !Contains(Line(number), "END")) ++number;
   if (!Line(number).empty()) ++number;
   for (; !Line(number).empty(); ++number) copy.Add(Line(number));
@@ -105,7 +105,7 @@ void Store::TempFileDataArray() {
   for (const std::string& line : copy.Lines()) SetLine(target++, line);
   // With all 100 lines in use there is no empty entry to end the copying back.
   if (copy.Lines().size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
-  // Only this one line is emptied: the old lines behind it stay as stale text.
+  // Only this one line is emptied: the old lines after it stay as stale text.
   SetLine(target, "");
 }
 

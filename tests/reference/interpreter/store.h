@@ -13,8 +13,8 @@
 namespace zerimo::reference {
 
 /// The program store: 2000 text lines, numbered from 1. The first empty line ends it: every search stops there,
-/// whatever stale text lies behind it. A procedure is a run of lines from its `TO` line to its `END`; one whose name
-/// begins with # is temporary and carries a typed line.
+/// whatever stale text follows. A procedure is a run of lines from its `TO` line to its `END`; one whose name begins
+/// with # is temporary and holds a typed line.
 class Store {
  public:
   static constexpr int LineCount = 2000;
@@ -25,7 +25,7 @@ class Store {
   /// A line by its number; fails (subscript) outside 1 to 2000.
   const std::string& Line(int number) const;
 
-  /// The one door by which a line changes; fails (subscript) outside 1 to 2000.
+  /// Changes a line and drops what was derived from it; fails (subscript) outside 1 to 2000.
   void SetLine(int number, std::string text);
 
   /// The class of a line (`WhatIsThis`). Fails like `Line`.
@@ -40,8 +40,8 @@ class Store {
   /// Number of the last used line: the write position of `MakeArray`, refreshed by `Ifprocessor`.
   std::int16_t FileDataCount = 0;
 
-  /// Empties the lines from 1 up to the first empty one; stale text behind a gap survives. A store with no empty line
-  /// is emptied, and then it fails (subscript).
+  /// Empties the lines from 1 up to the first empty one; stale text after a gap survives. A store with no empty line is
+  /// emptied, and then it fails (subscript).
   void MakeEmptyFileDataArray();
 
   /// The number of the procedure's `TO` line, or 0.
@@ -54,8 +54,8 @@ class Store {
   /// Whether "TO #" occurs anywhere in a line.
   bool IsTempProcedurePresent() const;
 
-  /// Removes the first temporary procedure, if there is one. Fails (subscript), and leaves the store as it was, if
-  /// more than 100 lines would remain.
+  /// Removes the first temporary procedure, if there is one. Fails (subscript), and leaves the store as it was, if more
+  /// than 100 lines would remain; with exactly 100 it fails (subscript) after writing them.
   void TempFileDataArray();
 
   /// Removes all temporary procedures; fails like `TempFileDataArray`.
@@ -77,8 +77,8 @@ class Store {
   std::array<std::string, LineCount> FileDataArray;
 };
 
-/// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan
-/// ends, also by a failure.
+/// A line of the store lent to a procedure that changes its caller's text. The line is written back when the loan ends,
+/// even by a failure.
 class LentLine {
  public:
   LentLine(Store& programStore, int lineNumber)
@@ -94,8 +94,8 @@ class LentLine {
   std::size_t index_;
 };
 
-/// Shows the whole store in a list, each line with its number and two blanks in front, trimming the lines in the store
-/// up to the first empty one.
+/// Shows the whole store in a list, each line after its number and two blanks, trimming the lines in the store up to
+/// the first empty one.
 void ListStore(Store& store, ListBox& list1);
 
 }  // namespace zerimo::reference

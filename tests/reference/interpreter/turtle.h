@@ -4,7 +4,7 @@
 
 namespace zerimo::reference {
 
-/// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edge of the
+/// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edges of the
 /// surface, `TurtleDir` is in radians, 0 up and growing clockwise, never normalised.
 struct Turtle {
   double TurtleX = 0;

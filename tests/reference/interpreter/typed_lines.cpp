@@ -20,7 +20,7 @@ void TypedLines::ComplexExecutor(std::string& complexData) {
   RemoveTemporaryProcedure(firstLine);
   store_.RefreshFileDataArray();
   variables_.CreateGlobalVariable();
-  // The trimming takes away the blanks that the run has left on lines of the store.
+  // Listing also trims away the blanks that the run has left in the store.
   ListStore(store_, List1);
   store_.ProcedureList();
 }
@@ -40,8 +40,8 @@ void TypedLines::RemoveTemporaryProcedure(int firstLine) {
   int end = firstLine;
   while (store_.Line(end) != "END") ++end;
   int target = firstLine;
-  // The test is for equality and comes after the move: an END at line 500 or behind moves on to the end of the store
-  // and fails there, so that nothing is refreshed.
+  // The test is for equality and comes after the move: an END at line 500 or later moves on to the end of the store and
+  // fails there, so that nothing is refreshed.
   do {
     store_.SetLine(target, store_.Line(end + 1));
     ++target;

@@ -13,9 +13,9 @@ namespace {
 constexpr int MostLocals = 20;
 constexpr int LastCompactedSlot = 100;
 
-// Digits are no name characters: the name in "A1" is "A".
+// Digits do not belong to names: the name in "A1" is "A".
 constexpr std::string_view NotInNames = "()0123456789.+-*/%<>=! []";
-// Here a blank counts as something that is present.
+// Without the blank: `VariablePresent` finds it.
 constexpr std::string_view ExpressionAlphabet = ")(0123456789.+-*/%<>=![]";
 constexpr std::string_view Delimiters = "\r+-*/\\%><= ()[]!";
 
@@ -34,7 +34,7 @@ bool SlotContains(char mark, const std::string& slot, const std::string& key) {
 std::string ReplaceAll(std::string& text, std::string_view word, double number) {
   const int times = Length(text);
   if (!Contains(text, word)) {
-    // As many vain calls only pad the text.
+    // Calls that find nothing only pad the text, and one call does all of that.
     return times == 0 ? text : Textreplace(text, word, {});
   }
   const std::string replacement = Str(number);
@@ -165,7 +165,8 @@ void Variables::SpaceRemoverFromVariableArray() {
     watch_.Tick();
     for (int slot = 1; slot <= LastCompactedSlot; ++slot) {
       if (Slot(slot) != " ") continue;
-      // The move reads one slot too far at its end: it fails when all is moved, so that one deleted slot goes a call.
+      // The move reads one slot too far at its end: it fails when everything has been moved, so that each call closes
+      // one deleted slot.
       for (int move = slot; move <= SlotCount; ++move) {
         SetSlot(move, Slot(move + 1));
       }
@@ -200,7 +201,7 @@ std::vector<std::string> Variables::LocalsOfProcedure() const {
   PassOver([&] { name = controlPath_.CurrentProcedureName(); });
   const std::string key = name + ".";
   std::vector<std::string> locals;
-  // What does not fit is passed over, and the walk goes on: without a free slot it never ends.
+  // What does not fit is ignored, and the scan goes on: without a free slot it never ends.
   for (int number = 1; SlotGoesOn(number); ++number) {
     if (locals.size() < MostLocals && SlotContains('#', Slot(number), key)) locals.push_back(Slot(number));
   }
@@ -216,7 +217,7 @@ bool Variables::SlotGoesOn(int number) const {
 }
 
 std::string Variables::GlobalVariableReplacer(std::string& expression) const {
-  // Not set back between the rounds: a name that is not declared takes the value of the one before it.
+  // Not reset between rounds: an undeclared name takes the value of the one before it.
   double value = 0;
   do {
     watch_.Tick();
@@ -263,7 +264,7 @@ bool VariablePresent(std::string_view expression) {
 
 std::string Textreplace(std::string& text, std::string_view find, std::string_view replacement) {
   text = " " + std::string(Trimmed(text)) + " ";
-  // Only the first occurrence is ever considered: one inside a longer word blocks the real one behind it.
+  // Only the first occurrence is ever considered: one inside a longer word blocks the real one after it.
   const int position = PositionOf(text, find);
   if (position == 0) return text;
   const int behind = position + Length(find);

@@ -24,7 +24,7 @@ class Variables {
   /// A slot by its number; fails (subscript) outside 1 to 500.
   const std::string& Slot(int number) const;
 
-  /// The one door by which a slot changes; fails (subscript) outside 1 to 500.
+  /// Changes a slot and what is derived from it; fails (subscript) outside 1 to 500.
   void SetSlot(int number, std::string text);
 
   /// Defines the globals of the `MAKE` lines above the first `TO`. Fails (subscript) in a store without a `TO`.
@@ -47,7 +47,7 @@ class Variables {
   /// The text with the words XCOR and YCOR replaced by the turtle's position in steps.
   std::string ReplaceXcorAndYcor(std::string& text) const;
 
-  /// Shows every slot up to the first free one in `List2`; fails (subscript) behind the last slot if none is free.
+  /// Shows every slot up to the first free one in `List2`; fails (subscript) past the last slot if none is free.
   void RebuildList2();
 
   /// Sets all slots to one blank and shows them all in `List2`.
@@ -58,7 +58,7 @@ class Variables {
   void SetLocal(const std::string& key, const std::string& value);
   void SetGlobal(const std::string& name, const std::string& value);
   std::vector<std::string> LocalsOfProcedure() const;
-  /// Whether a scan goes on at a slot; never returns behind the last slot.
+  /// Whether a scan goes on at a slot; never returns past the last slot.
   bool SlotGoesOn(int number) const;
   void ReadGlobal(const std::string& name, double& value) const;
 

@@ -101,7 +101,7 @@ inline constexpr std::size_t ActionCount = static_cast<std::size_t>(Action::Coun
 /// What a name of an action is compared with.
 enum class MatchedBy : std::uint8_t { WholeLine, Word };
 
-/// The box that tells a missing input, and whether there is one.
+/// The box that reports a missing input, and whether there is one.
 enum class MissingInput : std::uint8_t {
   NoTest,       // empty inputs go to the stages as they are
   Usual,        // Abort, Retry, Ignore; title "Zerimo"
@@ -109,7 +109,7 @@ enum class MissingInput : std::uint8_t {
   Plain,        // OK; no title
 };
 
-/// One action: its names, how they are matched and how a missing input is told.
+/// One action: its names, how they are matched and how a missing input is reported.
 struct ActionFacts {
   Action Does;
   MatchedBy Match;
@@ -133,7 +133,7 @@ struct InputCount {
   std::int16_t Inputs;
 };
 
-/// The markers among the input counts: what takes a bracket body or the rest of the text.
+/// The markers among the input counts: for words that take a body in brackets or the rest of the text.
 namespace inputs {
 inline constexpr std::int16_t Repeat = -1;
 inline constexpr std::int16_t Print = -2;

@@ -8,9 +8,9 @@ namespace zerimo::reference {
 
 namespace {
 
-/// Up to here the quick conversion to a whole number holds.
+/// Up to here the quick conversion to a whole number works.
 constexpr double LargestWhole = 1 << 30;
-/// Half-axes beyond this are infinite for all purposes.
+/// Half-axes beyond this count as this.
 constexpr double LargestAxis = 1e100;
 /// Up to this width the pen is followed row by row; a wider one is followed in that many steps.
 constexpr int ExactPen = 512;

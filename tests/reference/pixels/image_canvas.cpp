@@ -34,7 +34,7 @@ void PaintLine(SpanPainter& painter, const WholeLine& line, int width) {
   }
 }
 
-/// The part of a row of a closed shape that lies on the canvas: the outline at its two ends, the inside between them.
+/// The part of a row of a closed shape that is on the canvas: the outline at its two ends, the inside between them.
 struct ShapeRow {
   int First;
   int InsideFirst;
@@ -42,8 +42,8 @@ struct ShapeRow {
   int Last;
 };
 
-/// The columns where shape and inside begin and end may lie anywhere. An inside that ends before it begins leaves the
-/// whole row to the outline.
+/// The columns where shape and inside begin and end may be anywhere. If the inside ends before it begins, the whole row
+/// belongs to the outline.
 ShapeRow CutRow(double first, double insideFirst, double insideLast, double last, int columns) {
   const auto begin = [columns](double column) { return Clamped(column, 0, columns); };
   const auto end = [columns](double column) { return Clamped(column, -1, columns - 1); };

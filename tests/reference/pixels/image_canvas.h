@@ -8,7 +8,7 @@
 
 namespace zerimo::reference {
 
-/// The plain canvas: every operation is worked out anew, pixel row by pixel row. It has no text and no picture files.
+/// The plain canvas: every operation is worked out from scratch, row by row. It has no text and no picture files.
 class ImageCanvas : public Canvas {
  public:
   /// At least one pixel. Fails (invalid argument) if there can be no image of that size.
@@ -27,7 +27,7 @@ class ImageCanvas : public Canvas {
 
   const QImage& Image() const { return image; }
 
-  /// The rectangle around all that may have changed since this was last asked.
+  /// The rectangle around everything that may have changed since the last call.
   QRect TakeDirty();
 
   /// The rectangle around what the last operation may have changed.

@@ -35,7 +35,7 @@ std::optional<Ends> CutSideways(Ends line) {
   return line;
 }
 
-/// A slope of at most 1 leads from beyond this to no place within the reach.
+/// From beyond this, a slope of at most 1 never leads into the reach.
 bool IsOutOfSight(const Ends& line) { return std::abs(line.From.Y) > 4 * Reach || std::abs(line.To.Y) > 4 * Reach; }
 
 std::optional<Ends> Cut(Ends line) {

@@ -14,14 +14,14 @@ struct WholeLine {
   int Y2;
 };
 
-/// How far from the origin the ends of a clipped line lie at most. Lines that stay within it are not changed.
+/// The greatest distance of a clipped line's ends from the origin. Lines within it are not changed.
 inline constexpr int ClipReach = 1 << 24;
 
 /// The widest stroke that makes a difference.
 inline constexpr int WidestStroke = 1 << 22;
 
-/// Cuts a line that leaves the reach, before its ends become whole numbers. Nothing is left of a line that comes
-/// nowhere near a canvas.
+/// Cuts off what is beyond the reach before the ends become whole numbers. Nothing is left of a line that comes nowhere
+/// near a canvas.
 std::optional<WholeLine> ClipLine(PixelPoint from, PixelPoint to);
 
 }  // namespace zerimo::reference

@@ -23,7 +23,7 @@ class Steps {
 
   int Offset() const { return direction * offset; }
 
-  /// One step along the long side; tells whether the place across has changed.
+  /// One step along the long side; returns whether the place across has changed.
   bool Advance() {
     remainder += 2 * static_cast<std::int64_t>(rise);
     if (remainder < 2 * static_cast<std::int64_t>(length)) return false;
@@ -84,7 +84,7 @@ struct Stretch {
   }
 };
 
-/// All points that are not farther than half the width from a line.
+/// All points that are no farther than half the width from a line.
 class Capsule {
  public:
   Capsule(const WholeLine& line, int width)
@@ -148,7 +148,7 @@ class Capsule {
   double bY;
   double dX;
   double dY;
-  /// Sideways per row along the two long sides, and their distance from the middle in a row.
+  /// How far the long sides move sideways per row, and their distance from the middle in a row.
   double sideSlope = 0;
   double sideReach = 0;
   /// The same for the two ends.

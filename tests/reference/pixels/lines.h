@@ -5,12 +5,12 @@
 
 namespace zerimo::reference {
 
-/// A line one pixel wide, both ends included. It has the same pixels in either direction, so that a pen that goes
-/// back over its way erases all of it.
+/// A line one pixel wide, both ends included. It has the same pixels in either direction, so that a pen going back over
+/// its path erases all of it.
 void PaintThinLine(SpanPainter& painter, const WholeLine& line);
 
-/// A line with round ends, from 2 pixels wide. A pixel belongs to it if its centre is not farther from the line than
-/// half the width; an even width lies by half a pixel to the left and above.
+/// A line with round ends, at least 2 pixels wide. A pixel belongs to it if its centre is no farther from the line than
+/// half the width; an even width is half a pixel too far left and up.
 void PaintWideLine(SpanPainter& painter, const WholeLine& line, int width);
 
 }  // namespace zerimo::reference

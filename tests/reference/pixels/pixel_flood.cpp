@@ -8,7 +8,7 @@ namespace zerimo::reference {
 
 namespace {
 
-/// A stretch of a row that is to be looked through; the row that it was reached from lies the other way.
+/// A stretch of a row that is still to be searched; `Direction` leads away from the row that it was reached from.
 struct Stretch {
   int Row;
   int First;
@@ -16,11 +16,11 @@ struct Stretch {
   int Direction;
 };
 
-/// Pixels that are looked at together.
+/// Pixels that are compared at once.
 constexpr int Block = 64;
 
-/// Whether all pixels of a block have a colour. The ends are looked at first, for the short runs of a maze; the loop
-/// has no branches, so that pixels are compared side by side.
+/// Whether all pixels of a block have a colour. The ends come first, for the short runs of a maze; the loop has no
+/// branches, so that the compiler can compare several pixels at a time.
 bool IsAll(const QRgb* block, QRgb colour) {
   if (block[0] != colour || block[Block - 1] != colour) return false;
   QRgb difference = 0;
@@ -43,7 +43,7 @@ class Flood {
     left = right = at.x();
     Add({at.y(), at.x(), at.x(), 1});
     FillRuns(Take());
-    // The first row was reached from nowhere, so both its sides are open.
+    // The first row was not reached from another, so both its sides are open.
     Add({at.y() - 1, left, right, -1});
     while (!open.empty()) FillRuns(Take());
     return {QPoint(left, top), QPoint(right, bottom)};
@@ -54,7 +54,7 @@ class Flood {
     if (stretch.Row >= 0 && stretch.Row < rows && stretch.First <= stretch.Last) open.push_back(stretch);
   }
 
-  /// Runs that only a pixel parts, and that lead to one run in the next row, become one stretch.
+  /// Runs that are only a pixel apart and lead to one run in the next row become one stretch.
   void AddAhead(const Stretch& stretch) {
     if (stretch.Row < 0 || stretch.Row >= rows) return;
     if (!open.empty() && LeadsToOneRun(open.back(), stretch)) {
@@ -117,7 +117,7 @@ class Flood {
     left = std::min(left, first);
     right = std::max(right, last);
     AddAhead({stretch.Row + stretch.Direction, first, last, stretch.Direction});
-    // Where a run reaches beyond the stretch it may lead back around a corner.
+    // Where a run extends beyond the stretch it may lead back around a corner.
     Add({stretch.Row - stretch.Direction, first, stretch.First - 2, -stretch.Direction});
     Add({stretch.Row - stretch.Direction, stretch.Last + 2, last, -stretch.Direction});
   }

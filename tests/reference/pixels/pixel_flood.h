@@ -5,9 +5,8 @@
 
 namespace zerimo::reference {
 
-/// Gives the pixels that are connected with a point of the image over the four neighbours, and have its colour, another
-/// colour. The point lies in the upper `rows` rows, and nothing below them counts. Returns the rectangle around what
-/// has changed.
+/// Recolours the pixels that have a point's colour and are connected to it through their four neighbours. The point
+/// must be in the upper `rows` rows; nothing below them counts. Returns the rectangle around what has changed.
 QRect FloodPixels(QImage& image, QPoint at, QRgb fill, int rows);
 
 }  // namespace zerimo::reference

@@ -12,7 +12,7 @@ constexpr QRgb Opaque = 0xFF000000;
 }  // namespace
 
 RasterOperation MakeRasterOperation(int drawMode, Colour pen) {
-  // The modes count through all truth tables: bit 2 * pen + pixel of the number less one is the result.
+  // The modes number all truth tables: bit 2 * pen + pixel of the mode minus one is the result.
   const auto table = static_cast<unsigned>(drawMode - 1);
   const auto resultWhere = [table](unsigned penBit, unsigned pixelBit) {
     return (table >> (2 * penBit + pixelBit) & 1U) != 0 ? ColourBits : 0U;

@@ -13,7 +13,7 @@ struct RasterOperation {
   QRgb Toggle;
 
   QRgb Apply(QRgb pixel) const { return (pixel & Keep) ^ Toggle; }
-  /// Whether what is below makes no difference: every pixel becomes Toggle.
+  /// Whether the former pixels make no difference: every pixel becomes Toggle.
   bool IsPlain() const { return Keep == 0; }
 };
 

@@ -9,8 +9,8 @@
 
 namespace zerimo::reference {
 
-/// Paints runs of pixels of one image (Format_RGB32) by a raster operation, through a hatch pattern. What lies outside
-/// the image is skipped. A shape gives each of its pixels once, so that inverting operations come out right.
+/// Paints runs of pixels of one image (Format_RGB32) by a raster operation, through a hatch pattern. What is outside
+/// the image is skipped. A shape must paint each of its pixels once, so that inverting operations come out right.
 class SpanPainter {
  public:
   SpanPainter(QImage& image, RasterOperation rasterOperation, const HatchPattern& hatchPattern = HatchPatterns[0])
@@ -24,7 +24,7 @@ class SpanPainter {
   int Columns() const { return columns; }
   int Rows() const { return rows; }
 
-  /// One pixel inside the image; the hatch does not count.
+  /// One pixel, which must be inside the image; the hatch is ignored.
   void PaintPixel(int column, int row) {
     QRgb& pixel = Row(row)[column];
     pixel = operation.Apply(pixel);
