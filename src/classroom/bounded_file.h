@@ -6,8 +6,8 @@
 
 namespace zerimo::classroom {
 
-/// Writes to a file up to a number of bytes and swallows the rest. Each line is on the disk when it ends, so that
-/// a process that dies leaves what it has said.
+/// Writes to a file up to a number of bytes and swallows the rest. Each line is on the disk as soon as it ends, so that
+/// what a dying process has said remains.
 class BoundedFile final : public std::streambuf {
  public:
   BoundedFile(const std::filesystem::path& file, std::streamsize mostBytes) : left_(mostBytes) {

@@ -32,7 +32,7 @@ std::vector<fs::path> VisibleNamesIn(const fs::path& folder) {
   return names;
 }
 
-/// Folders below folders, as an export of a learning platform has them.
+/// Levels of folders below folders, as in an export of a learning platform.
 constexpr int DeepestFolder = 4;
 
 std::optional<fs::path> SessionOf(const fs::path& program, const std::vector<fs::path>& sessions) {

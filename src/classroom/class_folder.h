@@ -8,17 +8,17 @@
 
 namespace zerimo::classroom {
 
-/// The programs of a folder and the folders below, those that lie deeper later; a program in a folder below has the
-/// folder's name. Each folder is in the order of its names, whatever their files are; no hidden ones. A session is the
-/// file of the same name ending in .session; if none has exactly that name, capitals and small letters do not matter.
-/// Fails with `std::filesystem::filesystem_error`.
+/// The programs of a folder and of the folders below it, deeper ones later; a program in a folder below has the
+/// folder's name. Within a folder they are in the order of their names, ignoring case. Whatever is called a program
+/// counts as one, unless it is hidden. A session is the file of the same name ending in .session; if none has exactly
+/// that name, capitals and small letters do not matter. Fails with `std::filesystem::filesystem_error`.
 std::vector<Pupil> PupilsOf(const std::filesystem::path& folder);
 
 /// The programs that a file lists, one a line, each with the session beside it. Fails as `PupilsOf` does.
 std::vector<Pupil> PupilsListedIn(const std::filesystem::path& list);
 
-/// Names from a table in UTF-8, whose lines are FILE,NAME or FOLDER,NAME; a semicolon does as well. Capitals and the
-/// file's ending do not matter.
+/// Names from a table in UTF-8, whose lines are FILE,NAME or FOLDER,NAME; a semicolon will do too. Capitals and the
+/// file's ending are ignored.
 void TakeNames(std::vector<Pupil>& pupils, const std::string& table);
 
 }  // namespace zerimo::classroom

@@ -9,7 +9,7 @@ namespace zerimo::classroom {
 /// The exit status of a class run.
 enum class ClassStatus { ReportWritten = 0, NotWritten = 1, BadUsage = 2, Interrupted = 3 };
 
-/// Runs the programs of a class and writes what comes of it, or merges its parts. Needs a `QGuiApplication`. Fails with
+/// Runs the programs of a class and writes the results, or merges its parts. Needs a `QGuiApplication`. Fails with
 /// `UsageError`, before any program runs.
 ClassStatus RunClass(const Command& command, const std::string& version);
 

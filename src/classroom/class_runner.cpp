@@ -10,7 +10,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Milliseconds between two looks at the clock.
+/// Milliseconds between two checks of the clock.
 constexpr int WatchInterval = 50;
 
 }  // namespace
@@ -24,7 +24,7 @@ std::vector<PupilRun> ClassRunner::Run() {
     timer_.start(WatchInterval);
     StartMore();
     loop_.exec();
-    // Those that still run are killed as they go.
+    // Those that are still running are killed by their destructors.
     running_.clear();
   }
   std::vector<PupilRun> ended;
@@ -39,7 +39,7 @@ void ClassRunner::StartMore() {
     const std::size_t index = next_++;
     const Order order{pupils_[index], plan_.Limits, plan_.Screen, plan_.Goals, plan_.ModelFolder, plan_.ModelPicture};
     running_.push_back({index, std::make_unique<RunProcess>(order, plan_.Folder / std::to_string(index))});
-    // Looked at a moment later, when the process is not at work any more.
+    // A moment later, because the process object is still at work here.
     running_.back().Process->Start(plan_.Program, [this] {
       QMetaObject::invokeMethod(
           &timer_, [this] { Look(); }, Qt::QueuedConnection);

@@ -21,11 +21,11 @@ class ClassRunner {
     int Jobs = 1;
     /// The program to start.
     QString Program;
-    /// What the programs are asked for; empty for none.
+    /// The goals that the programs are compared with, if any.
     std::vector<Goal> Goals = {};
     std::filesystem::path ModelFolder = {};
     std::filesystem::path ModelPicture = {};
-    /// A folder for the runs' own folders, which is there and empty.
+    /// An existing, empty folder for the runs' own folders.
     std::filesystem::path Folder;
   };
   /// Called for each run as it is done, in any order.
@@ -33,8 +33,8 @@ class ClassRunner {
 
   ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone);
 
-  /// The runs in the order of the pupils; if it was interrupted only those that had ended, and no process is left.
-  /// Needs a `QCoreApplication`.
+  /// The runs in the order of the pupils. After an interruption these are only the ones that had ended, and no process
+  /// is left. Needs a `QCoreApplication`.
   std::vector<PupilRun> Run();
 
   bool WasInterrupted() const { return interrupted_; }

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Pixels: a line that is off by no more is the same line.
+/// Pixels: a line that is off by no more than this is the same line.
 constexpr int NearPixels = 2;
 
 constexpr double UnitsPerDot = UnitsPerPixel;
@@ -34,7 +34,7 @@ void Draw(QPainter& painter, const Drawing& drawing, const QColor& colour, int w
                         std::max(2.0, figure.Across / UnitsPerDot), std::max(2.0, figure.Down / UnitsPerDot));
 }
 
-/// The drawing in grey, what it lacks in blue, and what it has too much in orange.
+/// The drawing in grey, what it lacks in blue, and what it has in excess in orange.
 void WriteDifference(const fs::path& file, QSize size, const Drawing& drawing, const ShapeComparison& comparison) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
@@ -47,7 +47,7 @@ void WriteDifference(const fs::path& file, QSize size, const Drawing& drawing, c
   image.save(NameOf(file));
 }
 
-/// Spoilt by nothing that the pupil did: a text without blanks at its ends, in capitals.
+/// So that blanks and capitals make no difference.
 QStringList Plain(const QStringList& texts) {
   QStringList plain;
   for (const QString& text : texts) plain.append(text.simplified().toUpper());

@@ -5,14 +5,14 @@
 
 namespace zerimo::classroom {
 
-/// Compares what a program has done for a goal with what the model did. The current folder is the scratch folder of
-/// the run; the picture of the difference goes beside the others.
+/// Compares what a program did for a goal with what the model did. The current folder is the scratch folder of the run;
+/// the picture of the difference goes beside the others.
 GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run);
 
 /// Keeps what the model did for a goal.
 void WriteModel(std::size_t index, const SessionRun& run);
 
-/// The lines that are alike, in per cent of the longer of the two lists. Blanks and capitals do not matter.
+/// The lines that are alike, in per cent of the longer of the two lists. Blanks and capitals are ignored.
 double PercentOfTexts(const QStringList& wanted, const QStringList& printed);
 
 }  // namespace zerimo::classroom

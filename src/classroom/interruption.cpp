@@ -38,7 +38,7 @@ Interruption::Interruption() {
   came = 0;
   for (std::size_t i = 0; i < Noted.size(); ++i) {
     formerHandlers[i] = std::signal(Noted[i], Note);
-    // Whoever started the run wants it to go on, as behind nohup.
+    // Whoever started the run wants it to go on, as under nohup.
     if (formerHandlers[i] == SIG_IGN) std::signal(Noted[i], SIG_IGN);
   }
   HandleBrokenPipe(SIG_IGN);

@@ -2,9 +2,8 @@
 
 namespace zerimo::classroom {
 
-/// While it lives, an interrupt from the terminal or a request to end is only noted (one that the process is told
-/// to ignore stays ignored), and output that nobody reads any
-/// more is no reason to end.
+/// While it exists, an interrupt from the terminal or a request to end is only recorded (one that the process is told
+/// to ignore stays ignored), and output that nobody reads any more does not end the process.
 class Interruption {
  public:
   Interruption();

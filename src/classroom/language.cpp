@@ -7,7 +7,7 @@ namespace zerimo::classroom {
 QString Language::Of(const Finding& finding) const {
   QByteArray words(Mistakes[static_cast<std::size_t>(finding.What)]);
   const bool hasNoSuggestion = finding.What == Mistake::UnknownWord && finding.Details.value(1).isEmpty();
-  // What stands between bars is said only if there is something to suggest.
+  // The text between bars appears only if there is something to suggest.
   const qsizetype bar = words.indexOf('|');
   if (hasNoSuggestion && bar >= 0) words.remove(bar, words.lastIndexOf('|') - bar);
   words.replace('|', "");

@@ -7,8 +7,8 @@
 
 namespace zerimo::classroom {
 
-/// The words of a report in one language. %1, %2 ... stand for what is filled in. A language is one source, which
-/// defines one of these, and a row in `FindLanguage`.
+/// The words of a report in one language. %1, %2 ... stand for what is filled in. A language is a source that defines
+/// one of these, and a row in `FindLanguage`.
 struct Language {
   /// As in `lang="en"`.
   const char* Code;

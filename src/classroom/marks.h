@@ -7,7 +7,7 @@
 namespace zerimo::classroom {
 
 /// The first line of a table of marks, and the line of one run: comma-separated, in quotes, UTF-8, CRLF. A text that a
-/// spreadsheet would take for a formula gets an apostrophe in front.
+/// spreadsheet would take for a formula begins with an apostrophe.
 QByteArray MarksHead();
 QByteArray MarksOf(const PupilRun& run);
 

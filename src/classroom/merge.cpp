@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Programs on one page: as many as are in memory at a time.
+/// Programs on one page, which is also how many are in memory at a time.
 constexpr std::size_t ProgramsOnPage = 100;
 
 /// Writes a report of any number of runs: an index, and pages beside it.

@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A path may be no text at all, so it travels as the digits of its bytes.
+/// A path need not be valid text, so it is written as the digits of its bytes.
 Json Packed(const fs::path& path) {
   const std::u8string bytes = path.u8string();
   const QByteArray view(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));

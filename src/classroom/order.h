@@ -7,7 +7,7 @@
 #include "classroom/task.h"
 #include "controls/controls.h"
 
-/// How the runner and the process of one run talk: by files in the run's folder.
+/// How the runner and the process of one run communicate: through files in the run's folder.
 namespace zerimo::classroom {
 
 /// The files of a run's folder.
@@ -18,7 +18,7 @@ inline constexpr const char* Transcript = "transcript.jsonl";
 /// Of the goal that is being tried.
 inline constexpr const char* GoalTranscript = "goal.jsonl";
 inline constexpr const char* Picture = "picture.png";
-/// There if memory was refused.
+/// Exists if memory was refused.
 inline constexpr const char* OutOfMemory = "memory";
 /// The folder that the pupil's program works in.
 inline constexpr const char* Scratch = "scratch";
@@ -31,7 +31,7 @@ std::string GoalPicture(std::size_t goal);
 std::string Difference(std::size_t goal);
 }  // namespace run_file
 
-/// What a run is told.
+/// What a run is to do.
 struct Order {
   Pupil Who;
   RunLimits Limits;
@@ -39,7 +39,7 @@ struct Order {
   std::vector<Goal> Goals = {};
   /// The folder of the model's run, which the goals are compared with; empty for the model itself.
   std::filesystem::path ModelFolder = {};
-  /// The model's picture, if the model is no program.
+  /// The model's picture, if the model is not a program.
   std::filesystem::path ModelPicture = {};
 };
 
@@ -49,7 +49,7 @@ std::optional<Order> ReadOrder(const std::filesystem::path& file);
 
 /// Fails with `Failure` (file access).
 void WriteOutcome(const std::filesystem::path& file, const RunOutcome& outcome);
-/// Nothing if there is no whole outcome.
+/// Nothing if there is no complete outcome.
 std::optional<RunOutcome> ReadOutcome(const std::filesystem::path& file);
 
 }  // namespace zerimo::classroom

@@ -12,7 +12,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// The picture as it is in its file, or made smaller.
+/// The picture as it is in its file, or reduced.
 QByteArray BytesOfPicture(const std::filesystem::path& file, int width, QSize& size) {
   if (width == 0) {
     size = QImageReader(NameOf(file)).size();

@@ -10,9 +10,9 @@
 /// Pieces of the pages of a report.
 namespace zerimo::classroom {
 
-/// A text as it may stand in a page, also between quotes.
+/// A text made safe for a page, even between quotes.
 QString Escaped(const QString& text);
-/// The same of something with lines.
+/// The same for a text of several lines.
 QString EscapedLines(const QString& text);
 /// What a pupil has written, on one line.
 QString EscapedReadable(const QString& text);
@@ -40,7 +40,7 @@ class PictureSource {
   std::size_t bytes_ = 0;
 };
 
-/// All about one run: its section of the page. `number` counts from 1.
+/// The section of the page about one run. `number` counts from 1.
 QString SectionOf(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
                   PictureSource& pictures, bool hasOverview);
 

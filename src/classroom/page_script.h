@@ -2,7 +2,7 @@
 
 namespace zerimo::classroom {
 
-/// What a page does if scripts run: the overview sorts by its heads, and shows the programs with one kind of note.
+/// What a page can do if scripts run: the overview sorts by its headings, and shows the programs with one kind of note.
 /// Everything can be read without it.
 inline constexpr const char* PageScript = R"(
 'use strict';

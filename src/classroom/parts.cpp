@@ -24,7 +24,7 @@ void CopyPictures(const fs::path& from, const fs::path& to) {
   }
 }
 
-/// What stands in a file up to its last whole line.
+/// Cuts a file off after its last complete line.
 void CutHalfLine(const fs::path& file) {
   std::error_code error;
   const auto size = fs::file_size(file, error);

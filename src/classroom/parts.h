@@ -10,15 +10,15 @@
 
 namespace zerimo::classroom {
 
-/// The runs of a part of a class: a file with one JSON object a line, and a folder with the pictures beside it. A line
-/// is on the disk before the next program's is written, so a kill loses only what had not ended.
+/// The runs of a part of a class: a file with one JSON object a line, and a folder with the pictures beside it. Each
+/// line is on the disk before the next is written, so a kill loses only programs that had not ended.
 class PartFile {
  public:
-  /// Goes on with the file if `resumes`, and begins it anew otherwise. Fails with `Failure` (file access).
+  /// Goes on with the file if `resumes`, otherwise starts it afresh. Fails with `Failure` (file access).
   PartFile(const std::filesystem::path& file, bool resumes);
 
   bool Has(const std::filesystem::path& program) const;
-  /// Writes down a run with its pictures. Fails with `Failure` (file access).
+  /// Adds a run with its pictures. Fails with `Failure` (file access).
   void Add(const PupilRun& run);
 
  private:
@@ -28,8 +28,8 @@ class PartFile {
   std::size_t count_ = 0;
 };
 
-/// Hands over the runs of a part one after the other. A line that broke off is skipped. Returns whether the file could
-/// be read.
+/// Hands over the runs of a part one after the other. An incomplete line is skipped. Returns whether the file could be
+/// read.
 bool ForEachRun(const std::filesystem::path& file, const std::function<void(PupilRun)>& take);
 
 }  // namespace zerimo::classroom

@@ -15,22 +15,22 @@ struct FirstCall {
   std::string Note;
 };
 
-/// The procedures of a program, as the store has them when it is loaded.
+/// The procedures of a program, as they are in the store once it is loaded.
 class ProgramOutline {
  public:
   explicit ProgramOutline(std::string_view programText);
 
-  /// The procedure of the file's name; otherwise the last one that no other of the program's procedures calls. One
-  /// that needs inputs is none. `name` is the file's name without its ending.
+  /// The procedure of the file's name; otherwise the last one that no other of the program's procedures calls. One that
+  /// needs inputs does not count. `name` is the file's name without its ending.
   FirstCall FirstCallOf(std::string_view name) const;
 
-  /// The procedure that a whole class is asked for, with inputs or without: that of the file's name, otherwise the last
-  /// one that no other calls. Empty if there is none.
+  /// The procedure that stands for PROGRAM, with inputs or without: that of the file's name, otherwise the last one
+  /// that no other calls. Empty if there is none.
   std::string MainProcedure(std::string_view name) const;
 
   bool Has(std::string_view procedure) const;
 
-  /// The names of the procedures behind which another one, or nothing, comes before a line END.
+  /// The names of the procedures that are followed by another one, or by nothing, before any line END.
   std::vector<std::string> WithoutEnd() const;
 
  private:

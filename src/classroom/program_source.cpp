@@ -50,7 +50,7 @@ void ProgramSource::Match(const Store& store) {
     if (kept.empty() || stored.empty()) continue;
     const bool isSame = kept == stored;
     const int count = isSame || !kept.starts_with("REPEAT") ? 1 : std::max(1, LengthOfRepeat(store, first));
-    // A program that is not what stands first in the store can't be told.
+    // If the program is not the first thing in the store, its lines can't be matched.
     if (!isSame && i == 0) return;
     QStringList lines;
     for (int line = first; line < first + count; ++line) lines.append(QString::fromStdString(LineAt(store, line)));

@@ -14,7 +14,7 @@ class ProgramSource {
   static constexpr int MostLines = 1000;
   static constexpr qsizetype LongestLine = 500;
 
-  /// `program` is the text of the file; the store is as it stands after the run.
+  /// `program` is the text of the file; `store` is as it is after the run.
   ProgramSource(const QString& program, const Store& store);
 
   std::vector<SourceLine> Lines;
@@ -25,14 +25,14 @@ class ProgramSource {
 
  private:
   void Match(const Store& store);
-  /// The store's lines from `first` on that a REPEAT became; 0 of them if there is none.
+  /// How many lines of the store, from `first` on, a REPEAT became; 0 if they are not from one.
   static int LengthOfRepeat(const Store& store, int first);
 
   /// From the line of the store to that of the file.
   std::vector<int> fileLines_;
 };
 
-/// The text of a file for people: UTF-8 if it is that, single bytes otherwise.
+/// The text of a file for people: read as UTF-8 if it is valid, otherwise as single bytes.
 QString TextOfProgram(const std::string& bytes);
 
 }  // namespace zerimo::classroom

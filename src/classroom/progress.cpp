@@ -18,10 +18,10 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Columns that every terminal has, without the last, which may begin a new line.
+/// Columns that every terminal has, minus the last, which may cause a line break.
 constexpr int Columns = 79;
 
-/// The characters that take two columns, as far as they are common.
+/// The common characters that take two columns.
 constexpr std::array<std::pair<char32_t, char32_t>, 8> Wide = {{{0x1100, 0x115F},
                                                                 {0x2E80, 0xA4CF},
                                                                 {0xAC00, 0xD7A3},

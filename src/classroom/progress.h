@@ -5,12 +5,12 @@
 
 namespace zerimo::classroom {
 
-/// Tells how far a class run is: on a terminal in one line that changes, elsewhere in a line for each program.
+/// Reports how far a class run has come: on a terminal in one line that changes, elsewhere in a line for each program.
 class Progress {
  public:
   Progress(std::ostream& stream, bool onTerminal) : output_(stream), terminal_(onTerminal) {}
 
-  /// `words` belong to the program that has just been done.
+  /// `words` are about the program that has just ended.
   void Tell(std::size_t done, std::size_t all, const QString& words);
   /// A last line that stays.
   void Close(const QString& words);

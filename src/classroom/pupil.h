@@ -39,7 +39,7 @@ enum class Result {
 /// The word of a result: "ended", "stopped", "failed", "refused", "not run", "crashed".
 QString WordOf(Result result);
 
-/// Where a run stood when it did not come to its end. What is not known is empty or 0.
+/// Where a run was when it was stopped. What is not known is empty or 0.
 struct StopPlace {
   /// The line of the session or of what was typed for it, from 1.
   int Line = 0;
@@ -53,14 +53,14 @@ struct StopPlace {
 /// A line of a program's file.
 struct SourceLine {
   QString Text;
-  /// The lines of the store that stand for it, if they differ from it.
+  /// The lines of the store made from it, if they differ from it.
   std::optional<QStringList> Stored = {};
 };
 
 /// In which way a drawing is compared with the goal's.
 enum class GoalWay { Shapes, Pixels, Texts };
 
-/// What became of one goal.
+/// The result of one goal.
 struct GoalOutcome {
   QString Title;
   GoalWay Way = GoalWay::Shapes;
@@ -71,7 +71,7 @@ struct GoalOutcome {
   std::optional<Placement> Placed = {};
 };
 
-/// What a run tells of itself.
+/// What a run reports about itself.
 struct RunOutcome {
   Result How = Result::Crashed;
   /// `finished`, `BYE`, `QUIT`, `Abort` or `close`; `seconds`, `steps` or `memory`; otherwise empty.
@@ -80,7 +80,7 @@ struct RunOutcome {
   StopPlace Where;
   /// The lines that were typed for the pupil, if there was no session.
   QStringList Typed;
-  /// What a teacher may want to know besides.
+  /// What else a teacher may want to know.
   QStringList Notes;
   /// What is suspicious in the program and its run.
   std::vector<Finding> Findings = {};
@@ -95,7 +95,7 @@ struct ShownBox {
   QString Kind;
   QString Title;
   QString Text;
-  /// The words of the buttons; boxes alone have them.
+  /// The words of the buttons; only boxes have them.
   QString Buttons;
   QString Answer;
 };
@@ -117,7 +117,7 @@ struct PupilRun {
   Said Told;
   /// Wall-clock time of the process.
   double Seconds = 0;
-  /// The picture as a PNG file, or empty if there is none. Those of the goals lie beside it.
+  /// The picture as a PNG file, or empty if there is none. Those of the goals are beside it.
   std::filesystem::path Picture;
 
   /// Whether the run needs a teacher's eye.

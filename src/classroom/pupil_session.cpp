@@ -39,7 +39,7 @@ std::string TakeFile(const fs::path& file, const std::string& what) {
   if (fs::is_directory(status)) throw Reason(what + " is a folder");
   if (status.type() == fs::file_type::not_found) throw Reason(what + " is a link that leads nowhere");
   if (!fs::exists(status)) throw Reason(what + " can not be read");
-  // A pipe would wait for ever.
+  // Reading a pipe might wait for ever.
   if (!fs::is_regular_file(status)) throw Reason(what + " is no file but a pipe or a device");
   const std::uintmax_t size = fs::file_size(file, error);
   if (!error && size > LargestProgram) throw Reason(what + " is too large: the most is 4 megabytes");
@@ -51,7 +51,7 @@ std::string TakeFile(const fs::path& file, const std::string& what) {
   return bytes;
 }
 
-/// Whether a name stays as it is when it is typed behind LOAD.
+/// Whether a name stays as it is when it is typed after LOAD.
 bool IsPlain(const std::string& name) {
   return !name.empty() && name.size() <= LongestLoadName && std::ranges::all_of(name, [](char character) {
     const bool isDigit = character >= '0' && character <= '9';
@@ -68,7 +68,7 @@ std::string LoadNameOf(const fs::path& file) {
 
 std::FILE* memoryNote = nullptr;
 
-/// Leaves a note that memory was refused, should the process not live to tell.
+/// Leaves a note that memory was refused, in case the process can't report it any more.
 void NoteMemory() {
   std::fputc('m', memoryNote);
   throw std::bad_alloc();
@@ -106,20 +106,20 @@ void PupilSession::ReadFiles() {
   program_ = TakeFile(order_.Who.Program, "the program");
   if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session");
   outcome_.Findings = FindingsIn(TextOfProgram(program_));
-  // Of a program that is read as one line only that is said: the rest follows from it.
+  // If a program is read as one line, only that is reported: the rest follows from it.
   const auto isNone = [](const Finding& finding) {
     return finding.What == Mistake::Empty || finding.What == Mistake::OneLine;
   };
   if (std::ranges::none_of(outcome_.Findings, isNone)) outline_.emplace(program_);
 }
 
-/// The program stands in the scratch folder by its own name, or by a plain one if its own can't be typed; and by the
-/// name that a session for the whole class calls it.
+/// The program is in the scratch folder under its own name, or under a plain one if its own can't be typed, and also
+/// under the name that a session for the whole class uses.
 void PupilSession::PlaceProgram() {
   const fs::path scratch(run_file::Scratch);
   fs::create_directory(scratch);
   std::vector<std::string> names = {loadName_};
-  // Elsewhere a file PROGRAM.ZRM of the class folder is meant.
+  // Otherwise the name would mean a file PROGRAM.ZRM of the class folder.
   if (!order_.Goals.empty() || session_.find(AnyName) != std::string::npos) names.emplace_back(AnyName);
   for (const std::string& name : names) {
     std::ofstream copy(scratch / (name + ".ZRM"), std::ios::binary);

@@ -16,7 +16,7 @@ class PupilSession {
   explicit PupilSession(const Order& order);
 
   /// Runs the program, then its goals, and writes transcript, picture and what the goals need. `tell` gets the outcome
-  /// after each of them, so that a process that dies has told what it could.
+  /// after each of them, so that a process that dies has reported what it could.
   void Run(const std::function<void(const RunOutcome&)>& tell);
 
  private:

@@ -143,7 +143,7 @@ std::vector<ShownBox> BoxesAt(const Json& json) {
   return boxes;
 }
 
-/// What readers of the file have always found among the notes, though it is a finding too.
+/// Kept among the notes for older readers of the file, though it is a finding too.
 QStringList NotesOfFindings(const std::vector<Finding>& findings) {
   QStringList notes;
   QStringList withoutEnd;

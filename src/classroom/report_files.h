@@ -8,18 +8,19 @@
 
 namespace zerimo::classroom {
 
-/// The files that come of a class run: the page, its summary, the marks and the pupils' pages.
+/// The files that a class run writes: the page, its summary, the marks and the pupils' pages.
 class ReportFiles {
  public:
-  /// Fails with `UsageError` if nothing can be written there: told before hundreds of programs have run in vain.
+  /// Fails with `UsageError` if nothing can be written there, so that this is known before hundreds of programs have
+  /// run in vain.
   explicit ReportFiles(const ClassOptions& options);
 
   bool HasPage() const { return !page_.empty(); }
   const std::filesystem::path& Page() const { return page_; }
-  /// The page, or the records where there is none.
+  /// The name of the page, or of the records if there is no page.
   QString Name() const;
 
-  /// Each file takes its place when it is whole. Fails (file access).
+  /// Each file appears only when it is complete. Fails (file access).
   void Write(const Report& report) const;
 
  private:

@@ -7,11 +7,11 @@
 
 namespace zerimo::classroom {
 
-/// A class run for people: one HTML page in UTF-8 that needs nothing beside it and reaches for nothing. Its one script
-/// is its own, and nothing is lost without it.
+/// A class run for people: one HTML page in UTF-8 that needs and loads nothing else. Its one script is its own, and
+/// nothing is lost without it.
 QByteArray PageOf(const Report& report);
 
-/// The page of one pupil, to be handed back: nothing in it is about anyone else.
+/// The page of one pupil, to be handed back, with nothing about anyone else.
 QByteArray PageOfPupil(const Report& report, const PupilRun& run);
 
 /// One page of a report that has several.

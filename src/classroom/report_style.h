@@ -2,7 +2,7 @@
 
 namespace zerimo::classroom {
 
-/// How the page looks: on a wide window and a telephone, in the light, in the dark and on paper.
+/// How the page looks: in a wide window and on a telephone, in light and dark colours, and on paper.
 inline constexpr const char* PageStyle = R"(
 :root { --ink: #1b1f24; --quiet: #57606a; --paper: #ffffff; --sheet: #f3f5f7;
   --line: #c4cad1; --link: #0550ae; --good: #116329; --bad: #a40e26;

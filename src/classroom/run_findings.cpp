@@ -6,7 +6,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// A drawing of which hardly anything is seen is not meant so; hills that rise from below the picture are.
+/// A drawing that is nearly all outside the picture is a mistake; hills that rise from below it are not.
 constexpr double NearlyAll = 0.9;
 
 constexpr const char* FenceWords = "outside of the Fence";

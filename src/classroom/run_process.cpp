@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 /// A larger picture is left out of the report.
 constexpr std::uintmax_t LargestPicture = std::uintmax_t{8} << 20;
 
-/// Bytes without which a process can't tell how it went.
+/// The free bytes that a process needs to report how it went.
 constexpr std::uintmax_t LeastRoom = std::uintmax_t{64} << 10;
 
 bool IsFull(const fs::path& folder) {

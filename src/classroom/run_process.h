@@ -11,11 +11,11 @@ namespace zerimo::classroom {
 /// One pupil's run in a process of its own.
 class RunProcess {
  public:
-  /// Seconds for the start of a process and for its picture, beside the limit of the session.
+  /// Seconds for the start of a process and for its picture, on top of the limit of the session.
   static constexpr double TimeAround = 5;
 
-  /// `folder` is the run's own and is made by `Start`. Nothing that goes wrong leaves this object: it becomes the
-  /// outcome of the run.
+  /// `folder` is the run's own and is created by `Start`. No failure leaves this object: it becomes the outcome of the
+  /// run.
   RunProcess(Order order, std::filesystem::path folder, double timeAround = TimeAround);
 
   /// `onEnd` is called when the process has ended; it must leave this object alone.
@@ -23,10 +23,10 @@ class RunProcess {
 
   bool HasEnded() const { return ended_; }
 
-  /// Kills a process that does not keep the limit of seconds by itself.
+  /// Kills a process that does not stop by itself at the limit of seconds.
   void EndIfLate();
 
-  /// When it has ended: all about the run. What the program wrote is thrown away.
+  /// Everything about the run, once it has ended. What the program wrote is deleted.
   PupilRun TakeRun();
 
  private:

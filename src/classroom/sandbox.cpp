@@ -28,14 +28,14 @@ constexpr std::uint64_t ReadRights =
     LANDLOCK_ACCESS_FS_EXECUTE | LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr std::uint64_t RightsOfFiles =
     LANDLOCK_ACCESS_FS_EXECUTE | LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE;
-/// All that the first version of the kernel's interface knows: to read, to write, to make and to remove.
+/// All rights of the first version of the kernel's interface: to read, write, create and remove.
 constexpr std::uint64_t AllRights = (LANDLOCK_ACCESS_FS_MAKE_SYM << 1) - 1;
 
 /// Where fonts, libraries and the plugins of the toolkit are read from.
 constexpr std::array SystemFolders = {"/usr",       "/lib",       "/lib64",    "/etc/fonts",  "/etc/ld.so.cache",
                                       "/var/cache", "/proc/self", "/dev/null", "/dev/urandom"};
 
-/// The calls that make another process, reach one, use a network, or change files by their names past the rules.
+/// The calls that create or reach another process, use a network, or change files by name without regard to the rules.
 constexpr std::array RefusedCalls = {SCMP_SYS(execve),
                                      SCMP_SYS(execveat),
                                      SCMP_SYS(fork),
@@ -75,7 +75,7 @@ constexpr std::array RefusedCalls = {SCMP_SYS(execve),
                                      SCMP_SYS(futimesat),
                                      SCMP_SYS(truncate)};
 
-/// Adds what may be done below a folder, or with a file. What is not there can't be reached either.
+/// Adds what may be done below a folder, or with a file. What does not exist can't be reached either.
 bool Allow(int rules, const fs::path& path, std::uint64_t rights) {
   const int place = open(path.c_str(), O_PATH | O_CLOEXEC);
   if (place < 0) return true;
@@ -109,7 +109,7 @@ bool ConfineCalls() {
              isDone;
   };
   for (const int call : RefusedCalls) refuse(call, EPERM);
-  // A thread is no process. The newer call hides its flags; without it the older one is used.
+  // A thread is not a process. The newer call hides its flags; if it is refused, the older one is used.
   refuse(SCMP_SYS(clone), EPERM, SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0));
   refuse(SCMP_SYS(clone3), ENOSYS);
   refuse(SCMP_SYS(tgkill), EPERM, SCMP_A0(SCMP_CMP_NE, static_cast<scmp_datum_t>(getpid())));

@@ -9,13 +9,13 @@ namespace zerimo::classroom {
 struct SandboxFolders {
   /// Read and written.
   std::filesystem::path Own;
-  /// Folders and files that are read alone, beside those of the operating system that fonts and libraries lie in.
+  /// Folders and files that are only read, besides those of the operating system with fonts and libraries.
   std::vector<std::filesystem::path> Read;
 };
 
-/// From now on this process can't start another one, can't use a network and reaches no other file, whatever its code
-/// does; files that are open stay open. The operating system keeps it so, and nothing takes it back. False where the
-/// operating system can't, or not all of it; what it can do holds all the same.
+/// From now on this process can't start another one, use a network or reach any other file, whatever its code does;
+/// open files stay open. The operating system enforces this, and nothing can undo it. Returns false if the operating
+/// system can't do all of it; what it can do is in force all the same.
 bool EnterSandbox(const SandboxFolders& folders);
 
 }  // namespace zerimo::classroom

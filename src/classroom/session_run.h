@@ -12,13 +12,13 @@
 
 namespace zerimo::classroom {
 
-/// What is done with a program: a session as it stands in a file, or lines that are typed if there is none.
+/// What is done with a program: a session from a file, or lines that are typed if there is none.
 struct Play {
   std::string Session;
   std::vector<std::string> Typed;
 };
 
-/// Text that a pupil has written, as it is kept: not too long for a report.
+/// Text that a pupil has written, cut to a length for a report.
 QString ShortText(const QString& text);
 QString FromLatin1(const std::string& text);
 
@@ -28,16 +28,16 @@ class SessionRun {
   /// The transcript goes to a file.
   SessionRun(const Order& order, const std::filesystem::path& transcript);
 
-  /// Nothing that goes wrong in the session leaves this object.
+  /// No failure in the session leaves this object.
   void Run(const Play& play);
 
-  /// How it went, and what there is to note.
+  /// How it went, with any notes.
   const RunOutcome& Went() const { return outcome_; }
   const DrawingRecorder& Recorder() const { return recorder_; }
   /// What was said, from the transcript.
   Said Told() const;
   Form1& System() { return system_.System(); }
-  /// The line of the store where it stood when it was stopped, or 0.
+  /// The line of the store where it was stopped, or 0.
   int StoreLine() const { return storeLine_; }
 
   /// The picture as it is now. Fails (file access).

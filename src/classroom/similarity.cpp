@@ -19,7 +19,7 @@ bool IsCommon(const QString& bare) {
          bare == "ENDIF" || bare == "TO n";
 }
 
-/// How often each bare line stands in a text.
+/// How often each bare line occurs in a text.
 QHash<QString, int> CountsOf(const QStringList& lines) {
   QHash<QString, int> counts;
   for (const QString& line : lines) {
@@ -92,7 +92,7 @@ std::vector<AlikePair> AlikePairs(const std::vector<PupilRun>& runs, const QStri
     for (std::size_t j = i + 1; j < runs.size(); ++j) {
       const int fewer = std::min(prints[i].Lines, prints[j].Lines);
       const int more = std::max(prints[i].Lines, prints[j].Lines);
-      // A short program that a long one happens to contain is no copy of it.
+      // A short program that a long one happens to contain is not a copy.
       if (fewer < FewestLines || more > 2 * fewer) continue;
       const double percent = 100.0 * SharedLines(prints[i], prints[j]) / fewer;
       if (percent >= LeastAlike) pairs.push_back({i, j, percent, MatchingLines(runs[i], prints[i], prints[j])});

@@ -13,21 +13,21 @@ struct AlikePair {
   /// Their places in the list of runs.
   std::size_t One = 0;
   std::size_t Other = 0;
-  /// The part of the lines of the shorter program that the other one has too, in per cent.
+  /// The share of the shorter program's lines that the other one has too, in per cent.
   double Percent = 0;
   /// The lines of the first one that match.
   QStringList Lines;
 };
 
-/// A smaller part of alike lines is no sign of anything.
+/// A smaller share means nothing.
 inline constexpr double LeastAlike = 80;
 /// Programs with fewer lines of their own are alike by chance.
 inline constexpr int FewestLines = 6;
 
-/// The pairs that are most alike first. What stands in `given`, a program that everyone was given, does not count.
+/// The pairs, the most alike first. Lines of `given`, a program that everyone was given, do not count.
 std::vector<AlikePair> AlikePairs(const std::vector<PupilRun>& runs, const QString& given);
 
-/// A line without what a copier changes: "FD 10" and "FD :SIZE" are one.
+/// A line without what someone who copies would change: "FD 10" and "FD :SIZE" are one.
 QString Bare(const QString& line);
 
 }  // namespace zerimo::classroom

@@ -24,7 +24,7 @@ QString Section(const QString& text, const QString& heading) {
   return pattern.match(text).captured(1);
 }
 
-/// One of the words behind the colon of a goal.
+/// One of the items after the colon of a goal.
 bool Take(Goal& goal, const QString& word) {
   static const QRegularExpression points("^(\\d+(?:\\.\\d+)?) points?$");
   static const QRegularExpression pixels("^pixels(?: (\\d+(?:\\.\\d+)?) ?%)?$");
@@ -110,7 +110,7 @@ Task ReadTask(const fs::path& place) {
     if (task.Model.empty()) throw batch::UsageError("--task " + place.string() + ": GOAL.ZRM or GOAL.png is missing");
     if (task.Goals.empty()) task.Goals = {Goal{}};
   }
-  // Of a picture nothing is known but its pixels.
+  // Of a picture, only the pixels are known.
   if (!task.HasModelProgram()) {
     for (Goal& goal : task.Goals) goal.Way = GoalWay::Pixels;
   }

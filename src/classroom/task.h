@@ -10,13 +10,13 @@
 
 namespace zerimo::classroom {
 
-/// One thing that a program shall do.
+/// One thing that a program should do.
 struct Goal {
   /// What is typed after the program is loaded; empty for the call that a program without a session gets.
   QStringList Typed;
   GoalWay Way = GoalWay::Shapes;
   ShapeRules Shapes;
-  /// The overlap that is enough where pixels are compared, in per cent.
+  /// The overlap of pixels that is enough, in per cent.
   double Enough = 95;
   double Points = 1;
 
@@ -26,7 +26,7 @@ struct Goal {
 /// What a class was asked for.
 struct Task {
   QString Title;
-  /// What the pupils were told, as it stands in TASK.md.
+  /// What the pupils were told, as written in TASK.md.
   QString Words;
   /// The teacher's program, or a picture; empty if there are no goals.
   std::filesystem::path Model;
@@ -35,8 +35,8 @@ struct Task {
   bool HasModelProgram() const;
 };
 
-/// A task from its folder: TASK.md, and GOAL.ZRM or GOAL with the ending of a picture. A file is a model alone. Fails
-/// with `UsageError`, which names the line that is not understood.
+/// A task from its folder: TASK.md, and GOAL.ZRM or GOAL with the ending of a picture. A place that is a file is a
+/// model alone. Fails with `UsageError`, which names the line that is not understood.
 Task ReadTask(const std::filesystem::path& place);
 
 /// The goals of the section "Goals" of TASK.md: "- `STAR 50`: pixels 90 %, 2 points". Fails with `UsageError`.

@@ -7,7 +7,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Takes events as long as they fit.
+/// Collects what events say, as long as it fits.
 class SaidBuilder {
  public:
   void Take(const Json& event) {
@@ -68,7 +68,7 @@ Said SaidIn(const QByteArray& transcript) {
     const std::optional<Json> event = ParsedObject(transcript.mid(begin, end - begin).toStdString());
     if (event) builder.Take(*event);
   }
-  // What may have stood behind the last whole line.
+  // Something may have followed the last complete line.
   if (begin < transcript.size()) builder.Told.LinesAreCut = builder.Told.BoxesAreCut = true;
   return builder.Told;
 }

@@ -12,7 +12,7 @@ inline constexpr qsizetype MostBoxes = 100;
 /// Characters of all lines, and of all boxes.
 inline constexpr qsizetype MostCharacters = 32768;
 
-/// What a transcript tells. One that breaks off, or is none at all, tells what can be read.
+/// What a transcript says. Of one that breaks off, or is not a transcript, it gives what can be read.
 Said SaidIn(const QByteArray& transcript);
 
 }  // namespace zerimo::classroom

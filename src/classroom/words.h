@@ -10,13 +10,13 @@ namespace zerimo::classroom {
 /// How a run went, in a few words: "ended", "stopped: more than 10 seconds".
 QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Language& language = English);
 
-/// Where a run stood, as the end of a sentence: "in line 2 (STAR), in the procedure SPIN at FD 10"; or empty.
+/// Where a run was, as the end of a sentence: "in line 2 (STAR), in the procedure SPIN at FD 10"; or empty.
 QString WordsOf(const StopPlace& place, const Language& language = English);
 
-/// How a drawing lies that is the goal in another place: "turned by 90 degrees to the right".
+/// How a drawing that is the goal in another place is placed: "turned by 90 degrees to the right".
 QString WordsOf(const Placement& placement, const Language& language);
 
-/// Words of a language, with what is filled in. What a pupil has written can't bring in more.
+/// Words of a language, with what is filled in. What a pupil has written can't add more.
 QString Filled(const char* words, const QStringList& values);
 
 /// "1 second", "1000 steps in one line", "64 MB of memory": the limits.
@@ -24,7 +24,7 @@ QString WordsOfSecondLimit(double seconds, const Language& language = English);
 QString WordsOfStepLimit(quint64 steps, const Language& language = English);
 QString WordsOfMemoryLimit(int megabytes, const Language& language = English);
 
-/// Seconds with one place: "0.4 s".
+/// Seconds with one decimal: "0.4 s".
 QString WordsOfSeconds(double seconds);
 
 }  // namespace zerimo::classroom

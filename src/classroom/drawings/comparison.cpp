@@ -45,7 +45,7 @@ std::vector<Shape> WithoutPartner(const std::vector<Shape>& shapes, std::vector<
   return alone;
 }
 
-/// The lines that the others do not cover; where colours count, by lines of their own colour.
+/// The lines that the others do not cover; if colours count, only lines of the same colour cover.
 std::vector<Line> NotCovered(const std::vector<Line>& lines, const std::vector<Line>& others, const ShapeRules& rules) {
   if (!rules.Colour) return Uncovered(lines, others, rules.Tolerance);
   std::vector<Line> left;

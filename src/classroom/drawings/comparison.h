@@ -18,22 +18,22 @@ struct ShapeRules {
   bool Colour = false;
 };
 
-/// How a drawing lies where the goal's shapes are all there, but not in their place.
+/// How a drawing has all the goal's shapes, but in another place.
 struct Placement {
   /// Clockwise, from -180 to 180.
   double Degrees = 0;
   bool Mirrored = false;
   double Scale = 1;
-  /// Surface units, y downwards: of the middle of all shapes.
+  /// Of the middle of all shapes, in surface units, y downwards.
   Point Shift;
 };
 
 struct ShapeComparison {
-  /// How much of both drawings the other one has too. 100 only where all of it is.
+  /// How much of each drawing is in the other one too. 100 only if all of it is.
   double Percent = 0;
   /// Whether all that counts is alike.
   bool Same = false;
-  /// What the goal has and the drawing lacks, and the other way round.
+  /// What the goal has and the drawing lacks, and vice versa.
   Drawing Missing;
   Drawing Extra;
   /// Set if it is the goal turned, mirrored, scaled or shifted.

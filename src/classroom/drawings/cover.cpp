@@ -28,7 +28,7 @@ struct Span {
   }
 };
 
-/// Where slope * t + start lies between two values.
+/// Where slope * t + start is between two values.
 Span WhereBetween(double slope, double start, double least, double most) {
   if (slope == 0) {
     const double all = std::numeric_limits<double>::infinity();
@@ -39,14 +39,14 @@ Span WhereBetween(double slope, double start, double least, double most) {
   return {std::min(one, other), std::max(one, other)};
 }
 
-/// What is near a point that lies beside the line.
+/// The part of the axis that is near a point.
 Span NearPoint(Point point, double tolerance) {
   if (std::abs(point.Y) > tolerance) return {};
   const double reach = std::sqrt(tolerance * tolerance - point.Y * point.Y);
   return {point.X - reach, point.X + reach};
 }
 
-/// A line as the first axis: other points are told along it and beside it.
+/// A line as the first axis of a coordinate system.
 class Frame {
  public:
   explicit Frame(const Line& line)
@@ -67,7 +67,8 @@ class Frame {
   Point along_;
 };
 
-/// What of the frame's axis lies near another line: that is one stretch, for what is near a line has no dents.
+/// The part of the frame's axis that is near another line. It is one stretch, because the points near a line form a
+/// convex shape.
 Span Covered(const Frame& frame, const Line& by, double tolerance) {
   const Point from = frame.In(by.From);
   const Point to = frame.In(by.To);
@@ -101,7 +102,7 @@ std::vector<Line> Uncovered(const Line& line, const std::vector<Line>& others, d
     const Span span = Covered(frame, other, tolerance);
     if (span.Begin <= span.End) spans.push_back(span);
   }
-  // A line that nothing touches is left as a whole, however short it is.
+  // A line that nothing touches stays whole, however short it is.
   if (spans.empty()) return {line};
   std::ranges::sort(spans, {}, &Span::Begin);
   spans.push_back({frame.Length(), frame.Length()});

@@ -6,8 +6,8 @@
 
 namespace zerimo::classroom {
 
-/// The parts of a line that no other line covers. A line covers what lies no farther from it than the tolerance, if the
-/// two run nearly alike; which way they were drawn, and in how many parts, does not matter. Parts that are not longer
+/// The parts of a line that no other line covers. A line covers what is no farther from it than the tolerance, if the
+/// two are nearly parallel; in which direction they were drawn, and in how many parts, does not matter. Parts no longer
 /// than twice the tolerance count as covered. Surface units.
 std::vector<Line> Uncovered(const Line& line, const std::vector<Line>& others, double tolerance);
 

@@ -15,7 +15,7 @@ using nlohmann::json;
 /// Surface units: half a pixel.
 constexpr double EraserWidth = 8;
 
-/// The step of a line beside which it is no line but a point.
+/// Surface units: a shorter line is a point, and a smaller gap is none.
 constexpr double LeastLength = 1;
 
 /// Parts of a line that differ by less in direction (as a sine) go straight on.

@@ -23,7 +23,7 @@ struct Line {
   double Length() const;
 };
 
-/// What is no line: a circle, an oval, a dot or a text.
+/// A shape that is not a line: a circle, an oval, a dot or a text.
 struct Figure {
   Point Centre;
   /// The half-axes; both 0 for a dot or a text.
@@ -33,8 +33,8 @@ struct Figure {
   std::string Text;
 };
 
-/// What can be seen at the end of a run, as shapes in the order in which they were drawn. Lines that a eraser, or a pen
-/// of the background's colour, has taken away are not there. Poured colour is no shape.
+/// What can be seen at the end of a run, as shapes in the order in which they were drawn. Lines that an eraser, or a
+/// pen of the background's colour, has removed are not there. Poured colour is not a shape.
 struct Drawing {
   std::vector<Line> Lines;
   std::vector<Figure> Figures;
@@ -46,7 +46,7 @@ struct Drawing {
   bool IsEmpty() const { return Lines.empty() && Figures.empty(); }
 };
 
-/// The lines with those that go straight on made one.
+/// The lines, with those that go straight on joined into one.
 std::vector<Line> Joined(const std::vector<Line>& lines);
 
 /// Fails with `Failure` (file access).
@@ -60,11 +60,11 @@ class DrawingRecorder final : public SurfaceRecorder {
   void Record(const Surface& surface, const SurfaceOperation& operation) override;
 
   const Drawing& Drawn() const { return drawing_; }
-  /// Whether a change of the background took away what had been drawn.
+  /// Whether a change of the background wiped away what had been drawn.
   bool WasWiped() const { return wiped_; }
   /// Whether anything was ever drawn, poured or loaded.
   bool HasDrawn() const { return hasDrawn_; }
-  /// The part of the shapes that lie outside the surface, from 0 to 1.
+  /// The share of the shapes that is outside the surface, from 0 to 1.
   double PartOutside(const Surface& surface) const;
 
  private:

@@ -14,7 +14,7 @@ constexpr QRgb OnlyInPicture = qRgb(225, 100, 0);
 
 QRgb CommonestColour(const QImage& image) {
   QHash<QRgb, int> counts;
-  // Every seventh pixel tells the background as well.
+  // Every seventh pixel is enough to find the background.
   for (int y = 0; y < image.height(); ++y) {
     for (int x = y % 7; x < image.width(); x += 7) ++counts[image.pixel(x, y)];
   }

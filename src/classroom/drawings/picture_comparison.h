@@ -11,9 +11,9 @@ struct PixelComparison {
   QImage Difference;
 };
 
-/// Drawn is what has not the commonest colour of its picture. A drawn pixel that has a partner within `near` pixels
-/// counts as drawn in both. Where `colour` counts, two drawn pixels must have the same. The second picture is brought
-/// to the size of the first.
+/// A pixel counts as drawn if it does not have the commonest colour of its picture, and as drawn in both if it has a
+/// partner within `near` pixels; with `colour`, the two must have the same colour. The second picture is scaled to the
+/// size of the first.
 PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int near, bool colour);
 
 }  // namespace zerimo::classroom

@@ -11,11 +11,11 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Drawings of more lines are not looked at: nobody would see it either.
+/// Drawings with more lines are not tried: nobody would see it either.
 constexpr std::size_t MostLines = 400;
 constexpr std::size_t MostTries = 200;
 
-/// Sizes that differ by a smaller part count as one size.
+/// Sizes that differ by a smaller fraction count as equal.
 constexpr double SameSize = 0.03;
 
 /// The middle of all shapes, and how far they spread from it.

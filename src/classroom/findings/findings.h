@@ -7,8 +7,8 @@
 
 namespace zerimo::classroom {
 
-/// What is suspicious in the text of a program, in the order of its lines, each mistake once a line. Of a program that
-/// is empty or read as one line only that is told: the rest would follow from it.
+/// What is suspicious in the text of a program, in the order of its lines, each mistake once a line. If a program is
+/// empty or read as one line, only that is reported: the rest would follow from it.
 std::vector<Finding> FindingsIn(const QString& program);
 
 /// The parts of the search, each with a kind of its own; they add to what is there.

@@ -7,7 +7,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Levels of IF from which on an ELSE belongs to the wrong one.
+/// From this many levels of IF on, an ELSE belongs to the wrong one.
 constexpr std::size_t DeepLevels = 3;
 
 /// Follows the IFs of one procedure.

@@ -14,7 +14,7 @@ QString TextOf(std::string_view latin1) {
   return QString::fromLatin1(latin1.data(), static_cast<qsizetype>(latin1.size()));
 }
 
-/// The known words with the number of their inputs, a marker below 0 for those that take the rest of the line.
+/// The known words with the number of their inputs, or a negative marker for those that take the rest of the line.
 QHash<QString, int> TableOfWords() {
   QHash<QString, int> words;
   for (const WordFacts& facts : AllWords())

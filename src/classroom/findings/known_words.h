@@ -5,16 +5,16 @@
 
 namespace zerimo::classroom {
 
-/// Whether a text is a word of the language, those of control such as `TO` and `IF` among them.
+/// Whether a text is a word of the language, including `TO`, `IF` and the like.
 bool IsKnownWord(const QString& word);
 
-/// The inputs of a word that can't do without them: 0 for one that can, is no word, or takes the rest of its line.
+/// How many inputs a word needs: 0 if it can do without, is not a word, or takes the rest of its line.
 int NeededInputsOf(const QString& word);
 
-/// The word among the known ones and `others` that is spelt most like this one, or empty.
+/// The known word, or the one among `others`, whose spelling is most like this one, or empty.
 QString SuggestionFor(const QString& word, const QStringList& others);
 
-/// How many letters have to be changed, put in, taken out or swapped to make one text the other.
+/// How many letters have to be changed, inserted, removed or swapped to turn one text into the other.
 int LettersBetween(const QString& one, const QString& other);
 
 }  // namespace zerimo::classroom

@@ -10,13 +10,13 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// The quote of `MAKE "N` is none of a pair.
+/// The quote of `MAKE "N` is not one of a pair.
 QString WithoutQuoted(QString line) {
   static const QRegularExpression quoted("(?<!MAKE )\"[^\"]*\"");
   return line.replace(quoted, "\"\"").simplified();
 }
 
-/// The words of a body; what stands in square brackets is one word.
+/// The words of a body; what is in square brackets is one word.
 QStringList WordsOfBody(const QString& body) {
   QStringList words(1);
   int depth = 0;

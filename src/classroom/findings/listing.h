@@ -10,7 +10,7 @@ namespace zerimo::classroom {
 struct Statement {
   /// The line of the file, from 1.
   int Line = 0;
-  /// On one line, single blanks; what stands between quotes is cut out, so that "" is left.
+  /// On one line with single blanks; the text between quotes is cut out, so that "" is left.
   QString Text;
   bool InBody = false;
   /// The index of its procedure, or -1 outside.
@@ -28,7 +28,7 @@ struct ListedProcedure {
   bool HasEnd = false;
 };
 
-/// The text of a program taken apart, as a reader sees it.
+/// The text of a program taken apart as a reader would.
 class Listing {
  public:
   explicit Listing(const QString& program);
@@ -52,7 +52,7 @@ class Listing {
 /// The lines of a text, however they end.
 QStringList LinesOf(const QString& text);
 
-/// What stands between the first opening bracket and its closing one, which may be missing.
+/// The text between the first opening bracket and its closing one, which may be missing.
 QString BodyOf(const QString& repeat);
 
 }  // namespace zerimo::classroom

@@ -93,7 +93,7 @@ struct MistakeFacts {
   Mistake What;
   /// Its name in files.
   const char* Code;
-  /// The heading of docs/quirks.md that tells of it, as the address of the heading, or empty.
+  /// The address of the heading in docs/quirks.md that explains it, or empty.
   const char* Quirk;
 };
 
@@ -106,7 +106,7 @@ struct Finding {
   Mistake What;
   /// The line of the program's file, from 1, or 0 for the program as a whole.
   int Line = 0;
-  /// What the words of the mistake name, in their order: "FORWRD", "FORWARD".
+  /// What is filled into the words for the mistake, in order: "FORWRD", "FORWARD".
   QStringList Details;
 
   bool operator==(const Finding&) const = default;

@@ -41,8 +41,7 @@ void FindUnknown(const Listing& listing, Findings& findings) {
   }
 }
 
-/// A name that is 0 vanishes from its line: harmful in front of a sign for times or division, and after times before a
-/// minus.
+/// A name that is 0 vanishes from its line: harmful before a `*` or `/`, and between a `*` and a minus.
 void FindZeros(const Listing& listing, Findings& findings) {
   QStringList zeros;
   for (const Statement& each : listing.Statements) {

@@ -16,7 +16,7 @@ void FindEnds(const Listing& listing, Findings& findings) {
   }
 }
 
-/// Outside the procedures only names with a number are read, above the first of them.
+/// Outside the procedures only `MAKE` lines with a number, above the first procedure, are read.
 void FindOutside(const Listing& listing, Findings& findings) {
   static const QRegularExpression name("^MAKE :[A-Z]+ \\(?-?[\\d.]+\\)?$");
   if (listing.Procedures.empty()) return;
@@ -30,7 +30,7 @@ void FindOutside(const Listing& listing, Findings& findings) {
 
 bool ClosesIf(const Statement& statement) { return statement.Text == "ENDIF" || statement.Text == "ELSE"; }
 
-/// A call of itself loses what stands after it, and does not hand on its inputs.
+/// A procedure that calls itself loses what follows the call, and does not pass on its inputs.
 void FindRecursion(const Listing& listing, Findings& findings) {
   const std::vector<Statement>& all = listing.Statements;
   for (std::size_t i = 0; i < all.size(); ++i) {

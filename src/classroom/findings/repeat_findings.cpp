@@ -29,7 +29,7 @@ void FindBrackets(const Statement& repeat, Findings& findings) {
     findings.push_back({Mistake::MissingBracket, repeat.Line, {}});
 }
 
-/// A PRINT that is not the last of its body takes the statements that follow for its sum.
+/// A PRINT that is not the last in its body takes the following statements as part of its sum.
 void FindPrint(const Statement& repeat, Findings& findings) {
   static const QRegularExpression print("(?:^|[ \\[])(PRINT|WRITE|MESSAGE) ([^\" \\]\\[]+) ([A-Z]+)");
   for (auto walk = print.globalMatch(BodyOf(repeat.Text)); walk.hasNext();) {
@@ -59,7 +59,7 @@ void FindInRepeats(const Listing& listing, Findings& findings) {
     if (statement.Word() != "REPEAT") continue;
     FindInCount(statement, findings);
     FindPrint(statement, findings);
-    // An inner one belongs to the line's brackets.
+    // An inner one is checked with the brackets of the whole line.
     if (statement.InBody) continue;
     FindBrackets(statement, findings);
     FindLongBody(listing, statement, findings);

@@ -9,7 +9,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// A mistake that the text of one statement shows. What the pattern's first group holds is named to the reader.
+/// A mistake that the text of one statement shows. The reader is told the text of the pattern's first group.
 struct Pattern {
   Mistake What;
   const char* Text;
@@ -70,7 +70,7 @@ void FindLargeNumbers(const Statement& statement, Findings& findings) {
   }
 }
 
-/// A name keeps its value, but two decimals of it are used.
+/// A name keeps its value, but only two decimals of it are used.
 void FindThirds(const Statement& statement, Findings& findings) {
   static const QRegularExpression division("^MAKE \"[A-Z]+ \\(?(\\d+)/(\\d+)\\)?$");
   const auto match = division.match(statement.Text);
@@ -92,7 +92,7 @@ void FindMissingBlank(const Statement& statement, Findings& findings) {
 void FindInStatements(const Listing& listing, Findings& findings) {
   static const std::vector<QRegularExpression> compiled = Compiled();
   for (const Statement& statement : listing.Statements) {
-    // The statements of a body are looked at one by one.
+    // The statements of a body are checked one by one.
     if (statement.Word() == "REPEAT") continue;
     for (std::size_t i = 0; i < compiled.size(); ++i) {
       const auto match = compiled[i].match(statement.Text);

@@ -19,7 +19,7 @@ bool TakesTheRest(const QString& word) {
   return takers.contains(word);
 }
 
-/// The one word on a line is a sum where it is none of the others: a name, or a number.
+/// Whether a line of one word is a sum: it begins like a name or a number, or has a sign in it.
 bool IsSum(const Statement& statement) {
   static const QRegularExpression sum("^[(:#\\d-]|[-+*/%<>=!]");
   return sum.match(statement.Word()).hasMatch();
@@ -39,7 +39,7 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
   findings.push_back({Mistake::UnknownWord, statement.Line, {word, SuggestionFor(capitals, names)}});
 }
 
-/// In the editor a line is one statement; a second one becomes a part of the first one's inputs.
+/// In the editor a line is one statement; a second one becomes part of the first one's inputs.
 void FindSeveral(const Listing& listing, const Statement& statement, Findings& findings) {
   if (statement.InBody || TakesTheRest(statement.Word())) return;
   const QStringList words = statement.Text.split(u' ');
@@ -53,7 +53,7 @@ void FindSeveral(const Listing& listing, const Statement& statement, Findings& f
 int GivenInputs(const Statement& statement) {
   const QString rest = statement.Rest();
   if (rest.isEmpty()) return 0;
-  // Blanks beside a sign do not part two inputs.
+  // Blanks beside a sign do not separate inputs.
   static const QRegularExpression besideSign(" ?([-+*/%<>=!]) ?");
   return static_cast<int>(QString(rest).replace(besideSign, "\\1").split(u' ').size());
 }

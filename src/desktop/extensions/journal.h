@@ -16,7 +16,7 @@ class Journal : public Extension {
   static constexpr int MostFiles = 10;
   static constexpr std::streamoff MostBytes = 1 << 20;
 
-  /// A file is made in the folder when the first line comes.
+  /// A file is created in the folder when the first line comes.
   Journal(Form1& form1, std::filesystem::path folder);
 
   /// Adds a line or several.

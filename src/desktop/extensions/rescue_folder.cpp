@@ -19,7 +19,7 @@ QString ToQString(const fs::path& path) { return QString::fromStdU16String(path.
 
 std::unique_ptr<QLockFile> LockOf(const fs::path& file) {
   auto lock = std::make_unique<QLockFile>(ToQString(file) + QLatin1String(".lock"));
-  // However old a lock is, it holds as long as its process lives.
+  // However old a lock is, it is valid as long as its process lives.
   lock->setStaleLockTime(0);
   return lock;
 }

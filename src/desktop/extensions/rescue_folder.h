@@ -9,7 +9,7 @@
 
 namespace zerimo {
 
-/// A text that a former window has left.
+/// A text that an earlier window has left.
 struct RescuedText {
   std::filesystem::path File;
   std::string Text;
@@ -19,13 +19,13 @@ struct RescuedText {
 };
 
 /// A folder with one file for each window whose text is not saved. A file stays locked while its window lives, and no
-/// file is ever written over by another window.
+/// window ever overwrites another one's file.
 class RescueFolder {
  public:
   explicit RescueFolder(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// Writes this window's text beside its former one and renames it. Tells whether that went through; if not, the
-  /// former one stays.
+  /// Writes this window's text beside its former one and renames it. Returns whether that succeeded; if not, the former
+  /// one stays.
   bool Write(const std::string& text);
   /// Removes this window's text.
   void Remove();

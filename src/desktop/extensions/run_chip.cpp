@@ -9,7 +9,7 @@ namespace zerimo {
 namespace {
 
 constexpr int LongRun = 2000;
-/// Between two looks at the clock, in milliseconds.
+/// Between two checks of the clock, in milliseconds.
 constexpr int Beat = 250;
 constexpr int EdgeDistance = 8;
 constexpr double ChipPoints = 10.5;

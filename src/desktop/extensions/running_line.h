@@ -8,15 +8,15 @@ class QListView;
 
 namespace zerimo {
 
-/// Tells which line of the store runs next, and marks it in the list of the diagnosis panel.
+/// Finds which line of the store runs next, and marks it in the list of the diagnosis panel.
 class RunningLine {
  public:
   /// `list` shows `List1`.
   RunningLine(const Form1& form1, QListView& list) : form1_(form1), list_(list) {}
 
-  /// To be called before each step of a walk.
+  /// Must be called before each step of a walk.
   void Step();
-  /// To be called when the walk is over.
+  /// Must be called when the walk is over.
   void Clear();
 
   /// "BOX, line 12: FD :S", with the number that the list shows.

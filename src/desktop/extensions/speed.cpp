@@ -38,7 +38,7 @@ void Speed::Choose(const Pace& pace) {
   pace_ = &pace;
   waiting_ = false;
   chip_.Say(QLatin1String(pace.Words));
-  // At full speed, a step of a walk asks nobody.
+  // At full speed, a step costs nothing extra.
   session_.Watch().OnStep = pace.Pause == 0 ? std::function<void()>() : [this] { Step(); };
   if (pace.Pause == 0) line_.Clear();
 }

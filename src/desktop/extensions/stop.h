@@ -6,8 +6,8 @@
 
 namespace zerimo {
 
-/// Stops the line that runs: with Ctrl+Break or Ctrl+., with a button in a box that comes again at once, and as an
-/// answer when the window is closed during a run.
+/// Stops the running line: with Ctrl+Break or Ctrl+., with a button in a box that comes back at once, and as an answer
+/// when the window is closed during a run.
 class Stop : public Extension {
  public:
   explicit Stop(Session& session) : session_(session) {}
