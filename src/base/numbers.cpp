@@ -13,8 +13,6 @@ namespace zerimo {
 
 namespace {
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
-
 bool IsExponentMark(char character) {
   return character == 'E' || character == 'e' || character == 'D' || character == 'd';
 }
@@ -77,8 +75,7 @@ std::string DecimalNumber(std::string_view text) {
 
 /// The number in a text of at most 15 digits and nothing else, the most common case.
 std::optional<double> WholeNumber(std::string_view text) {
-  constexpr std::size_t mostDigits = 15;
-  if (text.empty() || text.size() > mostDigits) return std::nullopt;
+  if (text.empty() || text.size() > MostExactDigits) return std::nullopt;
   std::int64_t value = 0;
   for (const char character : text) {
     if (!IsDigit(character)) return std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -7,6 +8,11 @@
 /// The conversions between numbers and texts, and the roundings. Everything in the system uses these.
 /// Behaviour: docs/interpreter.md, "Text".
 namespace zerimo {
+
+/// How many digits a number can have so that its text and its value are one to one.
+inline constexpr std::size_t MostExactDigits = 15;
+
+constexpr bool IsDigit(char character) noexcept { return character >= '0' && character <= '9'; }
 
 /// The number at the beginning of a text. Blanks, tabs and line feeds are skipped wherever they stand; an optional
 /// sign, digits with at most one decimal point and an optional exponent ("E" or "D", either case) are read, and the

@@ -66,4 +66,8 @@ bool Contains(std::string_view text, std::string_view pattern) { return Position
 
 int Length(std::string_view text) { return static_cast<int>(text.size()); }
 
+bool IsQuoted(std::string_view text) { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
+
+std::string WithoutEnds(std::string_view text) { return std::string(Mid(text, 2, Length(text) - 2)); }
+
 }  // namespace zerimo

@@ -41,4 +41,10 @@ bool Contains(std::string_view text, std::string_view pattern);
 /// The number of characters.
 int Length(std::string_view text);
 
+/// Whether the text begins, blanks aside, and ends with a double quote. One quote alone does both.
+bool IsQuoted(std::string_view text);
+
+/// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are not two.
+std::string WithoutEnds(std::string_view text);
+
 }  // namespace zerimo

@@ -53,8 +53,8 @@ void AppendTurtle(JsonLine& event, const Turtle& turtle) {
       .Number("TurtleY", turtle.TurtleY)
       .Number("TurtleDir", turtle.TurtleDir)
       .Number("Resolution", turtle.Resolution)
-      .Number("FenceMode", turtle.FenceMode)
-      .Number("PenState", turtle.PenState)
+      .Number("FenceMode", static_cast<double>(turtle.FenceMode))
+      .Number("PenState", static_cast<double>(turtle.PenState))
       .Number("PenColor", turtle.PenColor)
       .Number("BGColor", turtle.BGColor);
 }

@@ -1,8 +1,12 @@
 #include "classroom/process_limits.h"
 
 #include <csignal>
+#include <new>
+
+#include "classroom/order.h"
 
 #if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 #endif
@@ -30,6 +34,16 @@ constexpr rlim_t LargestFileWritten = rlim_t{256} << 20;
 #endif
 
 #if ZERIMO_LIMITS_MEMORY
+/// Leaves a note that memory was refused, should the process not live to tell. It asks for none itself.
+void NoteMemory() {
+  const int note = ::open(run_file::OutOfMemory, O_WRONLY | O_CREAT | O_TRUNC, 0600);
+  if (note >= 0) {
+    [[maybe_unused]] const auto written = ::write(note, "m", 1);
+    ::close(note);
+  }
+  throw std::bad_alloc();
+}
+
 rlim_t AddressSpaceInUse() {
   rlim_t pages = 0;
   std::ifstream("/proc/self/statm") >> pages;
@@ -55,7 +69,9 @@ void TameProcess() {
 
 void LimitMemory([[maybe_unused]] int megabytes) {
 #if ZERIMO_LIMITS_MEMORY
-  if (megabytes > 0) SetSoftLimit(RLIMIT_AS, AddressSpaceInUse() + (static_cast<rlim_t>(megabytes) << 20));
+  if (megabytes <= 0) return;
+  std::set_new_handler(NoteMemory);
+  SetSoftLimit(RLIMIT_AS, AddressSpaceInUse() + (static_cast<rlim_t>(megabytes) << 20));
 #endif
 }
 

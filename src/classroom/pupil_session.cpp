@@ -1,10 +1,8 @@
 #include "classroom/pupil_session.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <fstream>
 #include <functional>
-#include <new>
 #include <stdexcept>
 
 #include "base/text.h"
@@ -64,21 +62,6 @@ std::string LoadNameOf(const fs::path& file) {
   const std::u8string stem = file.stem().u8string();
   const std::string name = UpperCase(std::string(stem.begin(), stem.end()));
   return IsPlain(name) ? name : AnyName;
-}
-
-std::FILE* memoryNote = nullptr;
-
-/// Leaves a note that memory was refused, in case the process can't report it any more.
-void NoteMemory() {
-  std::fputc('m', memoryNote);
-  throw std::bad_alloc();
-}
-
-void WatchMemory() {
-  memoryNote = std::fopen(run_file::OutOfMemory, "wb");
-  if (memoryNote == nullptr) return;
-  std::setvbuf(memoryNote, nullptr, _IONBF, 0);
-  std::set_new_handler(NoteMemory);
 }
 
 }  // namespace
@@ -209,7 +192,6 @@ int RunPupil() {
   const std::optional<Order> order = ReadOrder(run_file::Order);
   if (!order) return 1;
   TameProcess();
-  WatchMemory();
   const Pupil& who = order->Who;
   std::vector<fs::path> readable = {who.Program.parent_path(), who.Program, who.Session};
   for (const fs::path& model : {order->ModelFolder, order->ModelPicture}) {

@@ -59,7 +59,7 @@ void Form1::DefaultValue() {
   interpreter.controlPath.CurProcName.clear();
   interpreter.store.FileDataCount = 0;
   interpreter.controlPath.SetCtrlStr(".");
-  turtle.PenState = 1;
+  turtle.PenState = PenPosition::Down;
   interpreter.dispatch.DetailsOn = false;
   Picture1.Left = 0;
   Picture1.Width = screen.Width;
@@ -67,7 +67,7 @@ void Form1::DefaultValue() {
   Picture1.SetHeight(screen.Height - controls.Picture3.Height());
   turtle.Resolution = 50;
   controls.Text3.Text = "50";
-  turtle.FenceMode = 1;
+  turtle.FenceMode = Bounds::Window;
   for (int code = 0; code < controls.Label13.Size; ++code) controls.Label13[code].BackColor = QBColor(code);
   for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     frame->Width = controls.Label13[0].Width;

@@ -11,12 +11,6 @@ namespace zerimo {
 
 namespace {
 
-/// Whether an input is a text in double quotes.
-bool IsQuoted(std::string_view rest) { return Trimmed(rest).starts_with('"') && rest.ends_with('"'); }
-
-/// The characters between the first and the last; a single double quote has none and fails.
-std::string BetweenQuotes(std::string_view rest) { return std::string(Mid(rest, 2, Length(rest) - 2)); }
-
 double RemainderOf(double a, std::int16_t b) {
   const std::int32_t whole = ToInt32(a);
   if (b == 0) throw Failure(FailureKind::DivisionByZero);
@@ -89,7 +83,7 @@ void GeneralPrimitives::Message(PrimitiveCall& call) {
   PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
   PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
   if (IsQuoted(call.Rest)) {
-    context_.services.MessageBox(BetweenQuotes(call.Rest));
+    context_.services.MessageBox(WithoutEnds(call.Rest));
   } else {
     context_.services.MessageBox(Str(context_.arguments.Number(call.Rest)));
   }
@@ -97,7 +91,7 @@ void GeneralPrimitives::Message(PrimitiveCall& call) {
 
 void GeneralPrimitives::Print(PrimitiveCall& call) {
   if (IsQuoted(call.Rest)) {
-    context_.controls.List4.Add("?" + BetweenQuotes(call.Rest));
+    context_.controls.List4.Add("?" + WithoutEnds(call.Rest));
   } else {
     context_.controls.List4.Add("?" + Str(context_.arguments.Number(call.Rest)));
   }

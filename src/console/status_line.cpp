@@ -21,19 +21,6 @@ std::string_view ColourName(std::int32_t code) {
   return code >= 0 && code < 16 ? ColourNames[static_cast<std::size_t>(code)] : std::string_view{};
 }
 
-std::string_view PenStateName(std::uint8_t penState) {
-  switch (penState) {
-    case 1:
-      return "Pen Down";
-    case 2:
-      return "Pen Up";
-    case 3:
-      return "Pen Erase";
-    default:
-      return {};
-  }
-}
-
 void StatusLine::TitleText() {
   const std::string background(ColourName(turtle_.BGColor));
   const std::string pen(ColourName(turtle_.PenColor));

@@ -30,7 +30,4 @@ class StatusLine {
 /// The name that the status line shows for a colour code; empty for anything else.
 std::string_view ColourName(std::int32_t code);
 
-/// "Pen Down", "Pen Up" or "Pen Erase"; empty for anything else.
-std::string_view PenStateName(std::uint8_t penState);
-
 }  // namespace zerimo

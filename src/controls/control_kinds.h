@@ -18,6 +18,12 @@ class Control;
 /// A colour value: red + 256 * green + 65536 * blue.
 using Colour = std::int32_t;
 
+inline constexpr Colour White = 0xFFFFFF;
+inline constexpr Colour Yellow = 0x00FFFF;
+inline constexpr Colour Blue = 0xFF0000;
+inline constexpr Colour Red = 0x0000FF;
+inline constexpr Colour Green = 0x00FF00;
+
 /// The value of one property, as `ReadProperties` reports it.
 using PropertyValue = std::variant<bool, double, float, std::string, std::vector<std::string>>;
 
@@ -101,7 +107,7 @@ class TextBox : public Control {
  public:
   using Control::Control;
   std::string Text;
-  Colour BackColor = 0xFFFFFF;
+  Colour BackColor = White;
   Colour ForeColor = 0;
   double FontSize = 8.25;
   void ReadProperties(const PropertyReader& read) const override;
@@ -127,7 +133,7 @@ class ListBox : public Control {
   /// If set, `Add` calls it with the item and `Clear` with null.
   std::function<void(const std::string* item)> OnChange;
 
-  Colour BackColor = 0xFFFFFF;
+  Colour BackColor = White;
   Colour ForeColor = 0;
   double FontSize = 8.25;
   void ReadProperties(const PropertyReader& read) const override;

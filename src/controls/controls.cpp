@@ -15,12 +15,6 @@ void Place(Control& control, float left, float top, float width, float height) {
   control.SetHeight(height);
 }
 
-constexpr Colour White = 0xFFFFFF;
-constexpr Colour Yellow = 0x00FFFF;
-constexpr Colour Blue = 0xFF0000;
-constexpr Colour Red = 0x0000FF;
-constexpr Colour Green = 0x00FF00;
-
 }  // namespace
 
 Colour QBColor(int code) {

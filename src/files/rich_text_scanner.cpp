@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/numbers.h"
+
 namespace zerimo {
 
 namespace {
@@ -9,7 +11,6 @@ namespace {
 constexpr int GreatestNumber = 0x7FFFFFFF;
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsPlain(char c) { return c >= 32 && c <= 126 && c != '{' && c != '}' && c != '\\'; }
 
 int HexDigit(char c) {

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* RescuedName = "Rescued.ZRM";
-constexpr const char* LineEnd = "\r\n";
+constexpr const char* LineBreak = "\r\n";
 
 }  // namespace
 
@@ -30,7 +30,7 @@ void Saving::ShowSaveAs() {
 
 void Saving::SaveAs(const std::string& saveAsFileName) {
   std::string text = context_.controls.Text2.Text;
-  context_.folders.WriteFile(saveAsFileName, SpaceFilter(text) + LineEnd);
+  context_.folders.WriteFile(saveAsFileName, SpaceFilter(text) + LineBreak);
 }
 
 void Saving::SaveFromEditor() {

@@ -34,11 +34,11 @@ void Colours::SetPC(PrimitiveCall& call) {
   Surface& surface = context_.Picture1;
   const double number = context_.arguments.Number(call.Rest);
   PassOver([&] { turtle.PenColor = ToByte(ColourCode(number)); });
-  if (turtle.PenState == 1 || turtle.PenState == 2) {
+  if (turtle.PenState == PenPosition::Down || turtle.PenState == PenPosition::Up) {
     PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
   }
   // Before the first SETBG the background's colour is not a code: this fails then, and the pen goes on erasing.
-  if (turtle.PenState == 3) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
+  if (turtle.PenState == PenPosition::Erase) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
   PassOver([&] {
     double code = number;
     turtleFigure_.TurtleColor(code);
@@ -55,8 +55,8 @@ void Colours::SetBG(PrimitiveCall& call) {
   // A negative code is kept, and every use of it fails until the next SETBG.
   PassOver([&] { turtle.BGColor = ColourCode(number); });
   PassOver([&] { surface.SetBackColor(QBColor(turtle.BGColor)); });
-  if (turtle.PenState == 1) PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
-  if (turtle.PenState == 3) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
+  if (turtle.PenState == PenPosition::Down) PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
+  if (turtle.PenState == PenPosition::Erase) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
   SelectSquare(number);
   context_.controls.Label15.Caption = "Setbg " + Str(number);
 }

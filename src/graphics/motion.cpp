@@ -1,6 +1,5 @@
 #include "graphics/motion.h"
 
-#include <array>
 #include <cmath>
 
 #include "base/failure.h"
@@ -13,8 +12,6 @@ namespace {
 
 /// Neither pi nor the figure's `FigurePi`: a full turn leaves the heading at about 6.2831874.
 constexpr double TurnPi = 3.1415937;
-
-constexpr std::array<const char*, 4> PenWords = {"", "Pen Down", "Pen Up", "Pen Erase"};
 
 }  // namespace
 
@@ -39,7 +36,7 @@ void Motion::BindMoves() {
 void Motion::BindPen() {
   Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
-  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = 2; });
+  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = PenPosition::Up; });
   primitives.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
   primitives.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
   primitives.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
@@ -80,7 +77,8 @@ void Motion::MoveBy(double distance) {
 
 bool Motion::AdmitsMove(double x, double y) const {
   const Surface& surface = context_.Picture1;
-  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
+  return context_.turtle.FenceMode == TurtleBounds::Window ||
+         (x >= 0 && x <= surface.Width && y >= 0 && ToSingle(y) <= surface.Height());
 }
 
 void Motion::Right(PrimitiveCall& call) {
@@ -111,7 +109,7 @@ void Motion::SetX(PrimitiveCall& call) {
 }
 
 bool Motion::AdmitsSetX(double x) const {
-  return context_.turtle.FenceMode == 1 || (x >= 0 && x <= context_.Picture1.Width);
+  return context_.turtle.FenceMode == TurtleBounds::Window || (x >= 0 && x <= context_.Picture1.Width);
 }
 
 void Motion::SetY(PrimitiveCall& call) {
@@ -126,7 +124,7 @@ void Motion::SetY(PrimitiveCall& call) {
 }
 
 bool Motion::AdmitsSetY(double y) const {
-  return context_.turtle.FenceMode == 1 || (y >= 0 && y <= context_.Picture1.Height());
+  return context_.turtle.FenceMode == TurtleBounds::Window || (y >= 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::SetXY(PrimitiveCall& call) {
@@ -148,13 +146,13 @@ void Motion::SetXY(PrimitiveCall& call) {
 
 bool Motion::AdmitsSetXY(double x, double y) const {
   // The left and the top edge are refused here, unlike in `FD`.
-  return context_.turtle.FenceMode == 1 ||
+  return context_.turtle.FenceMode == TurtleBounds::Window ||
          (x > 0 && x <= context_.Picture1.Width && y > 0 && y <= context_.Picture1.Height());
 }
 
 void Motion::DrawTo(double x, double y) {
   const Turtle& turtle = context_.turtle;
-  if (turtle.PenState == 2) return;
+  if (turtle.PenState == PenPosition::Up) return;
   PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
 }
 
@@ -168,24 +166,26 @@ void Motion::Resolution(PrimitiveCall& call) {
   context_.turtle.Resolution = value;
 }
 
-void Motion::Pen() { context_.services.MessageBox(PenWords.at(context_.turtle.PenState), box::Information, "Zerimo"); }
+void Motion::Pen() {
+  context_.services.MessageBox(std::string(PenStateName(context_.turtle.PenState)), box::Information, "Zerimo");
+}
 
 void Motion::PenDown() {
-  context_.turtle.PenState = 1;
+  context_.turtle.PenState = PenPosition::Down;
   PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.turtle.PenColor)); });
 }
 
 void Motion::PenErase() {
-  context_.turtle.PenState = 3;
+  context_.turtle.PenState = PenPosition::Erase;
   context_.Picture1.SetForeColor(context_.Picture1.BackColor());
 }
 
 void Motion::PenReverse() {
   // An erasing pen goes on erasing.
-  if (context_.turtle.PenState == 2) {
+  if (context_.turtle.PenState == PenPosition::Up) {
     PenDown();
-  } else if (context_.turtle.PenState == 1) {
-    context_.turtle.PenState = 2;
+  } else if (context_.turtle.PenState == PenPosition::Down) {
+    context_.turtle.PenState = PenPosition::Up;
   }
 }
 

@@ -12,8 +12,6 @@ namespace zerimo {
 namespace {
 
 constexpr double HintPi = 3.1415927;
-constexpr Colour White = 0xFFFFFF;
-constexpr Colour Red = 255;
 
 /// The word that a button chooses, or the empty text.
 std::string ChosenWord(MouseButton button, bool shift) {

@@ -43,7 +43,7 @@ class Shapes {
   /// The same for a stamp, with its inside in the colour too.
   void InStampColour(PrimitiveCall& call, const Drawing& draw);
 
-  bool PenIsUp() const { return context_.turtle.PenState == 2; }
+  bool PenIsUp() const { return context_.turtle.PenState == PenPosition::Up; }
   double Word(PrimitiveCall& call, int nthWord) const;
   /// A word in turtle steps as surface units.
   double Units(PrimitiveCall& call, int nthWord) const;

@@ -11,8 +11,8 @@ namespace {
 
 constexpr double LargestFontSize = 2160;
 
-void Require(bool accepted) {
-  if (!accepted) throw Failure(FailureKind::InvalidArgument);
+void RequireAccepted(bool isAccepted) {
+  if (!isAccepted) throw Failure(FailureKind::InvalidArgument);
 }
 
 int WholePixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<double>(units) / UnitsPerPixel)); }
@@ -40,25 +40,25 @@ void Surface::SetFillColor(Colour value) {
 }
 
 void Surface::SetFillStyle(std::int32_t value) {
-  Require(value >= 0 && value <= 7);
+  RequireAccepted(value >= 0 && value <= 7);
   fillStyle_ = value;
   TellSet("FillStyle", static_cast<double>(value));
 }
 
 void Surface::SetDrawMode(std::int32_t value) {
-  Require(value >= 1 && value <= 16);
+  RequireAccepted(value >= 1 && value <= 16);
   drawMode_ = value;
   TellSet("DrawMode", static_cast<double>(value));
 }
 
 void Surface::SetDrawWidth(std::int32_t value) {
-  Require(value >= 1);
+  RequireAccepted(value >= 1);
   drawWidth_ = value;
   TellSet("DrawWidth", static_cast<double>(value));
 }
 
 void Surface::SetScaleMode(int value) {
-  Require(value == 1 || value == 3);
+  RequireAccepted(value == 1 || value == 3);
   scaleMode_ = value;
   TellSet("ScaleMode", static_cast<double>(value));
 }
@@ -74,13 +74,13 @@ void Surface::SetCurrentY(double value) {
 }
 
 void Surface::SetFontSize(double value) {
-  Require(value > 0 && value <= LargestFontSize);
+  RequireAccepted(value > 0 && value <= LargestFontSize);
   fontSize_ = value;
   TellSet("Font.Size", value);
 }
 
 void Surface::SetHeight(float value) {
-  Require(value >= 0);
+  RequireAccepted(value >= 0);
   height = value;
   TellSet("Height", value);
 }

@@ -7,15 +7,6 @@
 
 namespace zerimo {
 
-namespace {
-
-/// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are fewer than two.
-std::string WithoutEnds(const std::string& text) { return std::string(Mid(text, 2, Length(text) - 2)); }
-
-bool IsQuoted(const std::string& text) { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
-
-}  // namespace
-
 void SurfaceText::Bind() {
   Dispatch& primitives = context_.dispatch;
   primitives.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });

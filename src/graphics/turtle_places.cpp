@@ -16,7 +16,7 @@ void TurtlePlaces::Bind() {
   primitives.Bind(Action::Fence, [this](PrimitiveCall&) { Fence(); });
   primitives.Bind(Action::XCor, [this](PrimitiveCall&) { XCor(); });
   primitives.Bind(Action::YCor, [this](PrimitiveCall&) { YCor(); });
-  primitives.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
+  primitives.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = TurtleBounds::Window; });
   primitives.Bind(Action::Draw, [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
   primitives.Bind(Action::GetXY, [this](PrimitiveCall&) { GetXY(); });
   primitives.Bind(Action::Home, [this](PrimitiveCall&) { Home(); });
@@ -33,7 +33,7 @@ void TurtlePlaces::Fence() {
   if (outside) {
     context_.services.MessageBox(OutsideText);
   } else {
-    turtle.FenceMode = 2;
+    turtle.FenceMode = TurtleBounds::Fence;
   }
 }
 
@@ -71,7 +71,8 @@ void TurtlePlaces::HomeXY() { MoveHome(CentreX(), CentreY()); }
 void TurtlePlaces::MoveHome(double x, double y) {
   Turtle& turtle = context_.turtle;
   // The fence is not tested: the centre is always allowed.
-  if (turtle.PenState != 2) PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+  if (turtle.PenState != PenPosition::Up)
+    PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
   turtle.TurtleX = x;
   turtle.TurtleY = y;
 }

@@ -31,7 +31,7 @@ struct BracketPlaces {
   }
 };
 
-TokenArray Cut(std::string_view expression) {
+TokenArray CutIntoTokens(std::string_view expression) {
   TokenArray tokens;
   int number = 1;
   for (std::size_t at = 0; at < expression.size(); ++at) {
@@ -117,7 +117,7 @@ double Arithmetic::Evaluator(std::string_view expression) const {
   if (trimmed.starts_with('/') || trimmed.starts_with('*')) return 0;
   // Added to 0 like any sum, so that the result is never minus zero.
   if (IsOneToken(expression)) return 0 + Val(expression);
-  TokenArray tokens = Cut(expression);
+  TokenArray tokens = CutIntoTokens(expression);
   SpaceRemover(tokens);
   UnaryMinusProcessor(tokens);
   // The order of these is the precedence. An operator alone in the first token is counted but never performed: such an

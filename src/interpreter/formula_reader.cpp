@@ -13,11 +13,6 @@ namespace {
 
 using Kind = Operand::Kind;
 
-constexpr std::size_t MostDigits = 15;
-constexpr std::string_view Digits = "0123456789";
-
-bool IsDigit(char character) { return Digits.find(character) != std::string_view::npos; }
-
 /// Marks stand for replaced names in a text: nothing takes them for a name or a sign.
 constexpr char FirstMark = '\x01';
 constexpr char LastMark = '\x08';
@@ -168,7 +163,8 @@ class SideReader {
   bool ReadNumber(Formula::Term& term) {
     const std::size_t end = std::min(rest_.find_first_not_of("0123456789."), rest_.size());
     const std::string_view number = rest_.substr(0, end);
-    if (std::ranges::count(number, '.') > 1 || std::ranges::none_of(number, IsDigit) || end > MostDigits) return false;
+    if (std::ranges::count(number, '.') > 1 || std::ranges::none_of(number, IsDigit) || end > MostExactDigits)
+      return false;
     term.Factors.push_back({Kind::Constant, Val(number), 0});
     rest_.remove_prefix(end);
     return true;

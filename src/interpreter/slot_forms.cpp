@@ -10,15 +10,11 @@ namespace zerimo {
 
 namespace {
 
-constexpr std::size_t MostDigits = 15;
-
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
-
 bool IsPlainNumber(std::string_view text) {
   if (text.starts_with('-')) text.remove_prefix(1);
   const auto digits = static_cast<std::size_t>(std::ranges::count_if(text, IsDigit));
   const auto points = static_cast<std::size_t>(std::ranges::count(text, '.'));
-  return digits > 0 && digits <= MostDigits && points <= 1 && digits + points == text.size();
+  return digits > 0 && digits <= MostExactDigits && points <= 1 && digits + points == text.size();
 }
 
 }  // namespace

@@ -1,8 +1,26 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace zerimo {
+
+/// Where a move may end: anywhere, or on the surface only.
+enum class TurtleBounds : std::uint8_t { Window = 1, Fence = 2 };
+
+enum class PenPosition : std::uint8_t { Down = 1, Up = 2, Erase = 3 };
+
+constexpr std::string_view PenStateName(PenPosition pen) noexcept {
+  switch (pen) {
+    case PenPosition::Down:
+      return "Pen Down";
+    case PenPosition::Up:
+      return "Pen Up";
+    case PenPosition::Erase:
+      return "Pen Erase";
+  }
+  return {};
+}
 
 /// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edges of the
 /// surface, `TurtleDir` is in radians, 0 up and growing clockwise, never normalised.
@@ -12,10 +30,8 @@ struct Turtle {
   double TurtleDir = 0;
   /// Surface units per turtle step.
   double Resolution = 50;
-  /// 1 window (no limit), 2 fence.
-  std::uint8_t FenceMode = 1;
-  /// 1 down, 2 up, 3 erase.
-  std::uint8_t PenState = 1;
+  TurtleBounds FenceMode = Bounds::Window;
+  PenPosition PenState = PenPosition::Down;
   /// Colour code 0 to 15.
   std::uint8_t PenColor = 15;
   /// Colour code of the background; the raw colour value of the surface until the first `SETBG`.

@@ -98,7 +98,7 @@ void Variables::SetValue(int number, const std::string& value) {
 
 void Variables::KeepFormer(std::size_t index) {
   // Only the first former text of a slot counts.
-  if (!shownInList2_ || isFormer_[index]) return;
+  if (isFormer_[index]) return;
   former_[index] = VariableArray[index];
   isFormer_[index] = true;
   formerSlots_.push_back(index);
@@ -134,12 +134,10 @@ void Variables::RebuildList2() {
 void Variables::ListSlots() {
   for (const std::size_t index : formerSlots_) isFormer_[index] = false;
   formerSlots_.clear();
-  shownInList2_ = true;
   List2.SetLazily([this] { return ListedSlots(); });
 }
 
-std::vector<std::string> Variables::ListedSlots() {
-  shownInList2_ = false;
+std::vector<std::string> Variables::ListedSlots() const {
   std::vector<std::string> items;
   for (std::size_t index = 0; index < SlotCount; ++index) {
     const std::string& slot = isFormer_[index] ? former_[index] : VariableArray[index];

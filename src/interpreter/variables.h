@@ -122,7 +122,7 @@ class Variables : OperandSource {
   void ReadGlobal(const std::string& name, double& value) const;
   void KeepFormer(std::size_t index);
   void ListSlots();
-  std::vector<std::string> ListedSlots();
+  std::vector<std::string> ListedSlots() const;
 
   Store& store_;
   ControlPath& controlPath_;
@@ -147,7 +147,6 @@ class Variables : OperandSource {
   std::array<std::string, SlotCount> former_;
   std::array<bool, SlotCount> isFormer_{};
   std::vector<std::size_t> formerSlots_;
-  bool shownInList2_ = false;
 };
 
 /// The first name in an expression, or the empty text. The caller's text is trimmed.

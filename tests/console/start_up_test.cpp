@@ -112,8 +112,8 @@ TEST_F(StartUp, StateHasItsStartValues) {
   EXPECT_EQ(System.turtle.TurtleY, 5760);
   EXPECT_EQ(System.turtle.TurtleDir, 0);
   EXPECT_EQ(System.turtle.Resolution, 50);
-  EXPECT_EQ(System.turtle.FenceMode, 1);
-  EXPECT_EQ(System.turtle.PenState, 1);
+  EXPECT_EQ(System.turtle.FenceMode, TurtleBounds::Window);
+  EXPECT_EQ(System.turtle.PenState, PenPosition::Down);
   EXPECT_EQ(System.turtle.PenColor, 15);
   EXPECT_EQ(System.turtle.BGColor, 8388736);
   EXPECT_EQ(System.interpreter.store.Line(1), "");
@@ -266,7 +266,7 @@ TEST_F(StartUp, ByeAnsweredNoLeavesEverything) {
   Type("BYE");
   Type("FD 10");
   EXPECT_EQ(System.interpreter.store.Line(1), "TO A");
-  EXPECT_EQ(System.turtle.PenState, 2);
+  EXPECT_EQ(System.turtle.PenState, PenPosition::Up);
   EXPECT_EQ(System.turtle.TurtleY, 5760 - 500);
   EXPECT_TRUE(controls.Image1.Visible());
 }

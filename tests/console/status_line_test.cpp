@@ -61,7 +61,7 @@ TEST_F(StatusLineTest, ARoundedNothingHasNoSign) {
 }
 
 TEST_F(StatusLineTest, PenStateTwoIsUp) {
-  System.turtle.PenState = 2;
+  System.turtle.PenState = PenPosition::Up;
   Type("SHOW DETAILS");
   EXPECT_TRUE(Shows("[Pen State:Pen Up]")) << Caption();
 }
@@ -160,10 +160,9 @@ TEST(StatusNames, FollowTheTable) {
   EXPECT_EQ(ColourName(16), "");
   EXPECT_EQ(ColourName(-1), "");
   EXPECT_EQ(ColourName(8388736), "");
-  EXPECT_EQ(PenStateName(1), "Pen Down");
-  EXPECT_EQ(PenStateName(2), "Pen Up");
-  EXPECT_EQ(PenStateName(3), "Pen Erase");
-  EXPECT_EQ(PenStateName(4), "");
+  EXPECT_EQ(PenStateName(PenPosition::Down), "Pen Down");
+  EXPECT_EQ(PenStateName(PenPosition::Up), "Pen Up");
+  EXPECT_EQ(PenStateName(PenPosition::Erase), "Pen Erase");
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ class DrawingTest : public testing::Test {
     return Recorder.Operations;
   }
 
-  void FenceIn() { turtle.FenceMode = 2; }
+  void FenceIn() { turtle.FenceMode = TurtleBounds::Fence; }
 
   ScreenSize Size{15360, 11520};
   Controls controls{Size};

@@ -344,42 +344,42 @@ TEST_F(MotionTest, PenTellsItsState) {
 
 TEST_F(MotionTest, PenUpLeavesTheForeground) {
   EXPECT_EQ(Do("PU"), Nothing);
-  EXPECT_EQ(turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, PenPosition::Up);
 }
 
 TEST_F(MotionTest, PenDownSetsTheColourOfThePen) {
   turtle.PenColor = 12;
   EXPECT_EQ(Do("PD"), Texts{"ForeColor=255"});
-  EXPECT_EQ(turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, PenPosition::Down);
 }
 
 TEST_F(MotionTest, PenEraseSetsTheColourOfTheBackground) {
   EXPECT_EQ(Do("PE"), Texts{"ForeColor=8388736"});
-  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenState, PenPosition::Erase);
 }
 
 TEST_F(MotionTest, PenReverseTurnsDownAndUp) {
   EXPECT_EQ(Do("PX"), Nothing);
-  EXPECT_EQ(turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, PenPosition::Up);
   EXPECT_EQ(Do("PX"), Texts{"ForeColor=16777215"});
-  EXPECT_EQ(turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, PenPosition::Down);
 }
 
 TEST_F(MotionTest, PenReverseWhileErasingGoesOnErasing) {
   EXPECT_EQ(Do("PE", "PX"), Texts{"ForeColor=8388736"});
-  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenState, PenPosition::Erase);
 }
 
 TEST_F(MotionTest, LongPenNamesAreTheSameAndTheRestIsIgnored) {
   Do("PENUP 5");
-  EXPECT_EQ(turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, PenPosition::Up);
   Do("PENDOWN 5");
-  EXPECT_EQ(turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, PenPosition::Down);
   Do("PENERASE 5");
-  EXPECT_EQ(turtle.PenState, 3);
-  turtle.PenState = 1;
+  EXPECT_EQ(turtle.PenState, PenPosition::Erase);
+  turtle.PenState = PenPosition::Down;
   Do("PENREVERSE 5");
-  EXPECT_EQ(turtle.PenState, 2);
+  EXPECT_EQ(turtle.PenState, PenPosition::Up);
 }
 
 TEST_F(MotionTest, UpMoveDownLeavesNoLineAndTheColourIsBack) {
@@ -389,7 +389,7 @@ TEST_F(MotionTest, UpMoveDownLeavesNoLineAndTheColourIsBack) {
 
 TEST_F(MotionTest, EraseUpDownIsDownInThePenColour) {
   EXPECT_EQ(Do("PE", "PU", "PD"), Texts({"ForeColor=8388736", "ForeColor=16777215"}));
-  EXPECT_EQ(turtle.PenState, 1);
+  EXPECT_EQ(turtle.PenState, PenPosition::Down);
 }
 
 TEST_F(MotionTest, ErasingMoveDrawsInTheBackground) {
@@ -473,12 +473,12 @@ INSTANTIATE_TEST_SUITE_P(typedLines, DrawModeInput,
 
 TEST_F(MotionTest, CleanClearsAndKeepsTheTurtle) {
   turtle.TurtleDir = 1;
-  turtle.PenState = 3;
+  turtle.PenState = PenPosition::Erase;
   EXPECT_EQ(Do("CLEAN"), Texts{"Cls"});
   EXPECT_EQ(turtle.TurtleX, 1000);
   EXPECT_EQ(turtle.TurtleY, 2000);
   EXPECT_EQ(turtle.TurtleDir, 1);
-  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_EQ(turtle.PenState, PenPosition::Erase);
   EXPECT_TRUE(controls.Image1.Visible());
 }
 
@@ -494,12 +494,12 @@ TEST_F(MotionTest, ClearScreenTakesTheTitleAwayAndGoesToTheMiddleOfTheForm) {
 
 TEST_F(MotionTest, ClearScreenKeepsPenFenceAndResolution) {
   FenceIn();
-  turtle.PenState = 3;
+  turtle.PenState = PenPosition::Erase;
   turtle.PenColor = 4;
   turtle.Resolution = 7;
   EXPECT_EQ(Do("CLEARSCREEN 1", "CS"), Texts({"Cls", "Cls"}));
-  EXPECT_EQ(turtle.FenceMode, 2);
-  EXPECT_EQ(turtle.PenState, 3);
+  EXPECT_EQ(turtle.FenceMode, TurtleBounds::Fence);
+  EXPECT_EQ(turtle.PenState, PenPosition::Erase);
   EXPECT_EQ(turtle.PenColor, 4);
   EXPECT_EQ(turtle.Resolution, 7);
 }

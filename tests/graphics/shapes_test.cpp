@@ -268,7 +268,7 @@ void PrintTo(const PenRow& one, std::ostream* out) { *out << Quoted(one.Line) <<
 class PenUpShape : public DrawingTest, public testing::WithParamInterface<PenRow> {};
 
 TEST_P(PenUpShape, IsDrawnOnlyIfItIsAStamp) {
-  turtle.PenState = 2;
+  turtle.PenState = PenPosition::Up;
   Do(GetParam().Line);
   EXPECT_EQ(!Pixels.Calls.empty(), GetParam().DrawnWithThePenUp);
 }
@@ -298,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(Shapes, PenUpShape,
                                          PenRow{"STAMPOVALRGB 4 2 255", true}, PenRow{"STAMPRECTRGB 2 2 255", true}));
 
 TEST_F(ShapesTest, LineRGBWithThePenUpStillSetsAndPutsBackItsColour) {
-  turtle.PenState = 2;
+  turtle.PenState = PenPosition::Up;
   EXPECT_EQ(Do("LINERGB 0 0 1 1 255"), Texts({"ForeColor=255", "ForeColor=16777215"}));
 }
 

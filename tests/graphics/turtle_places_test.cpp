@@ -22,7 +22,7 @@ TEST_P(FenceEdge, DecidesWhetherTheFenceIsTurnedOn) {
   turtle.TurtleX = GetParam().X;
   turtle.TurtleY = GetParam().Y;
   Do("FENCE");
-  EXPECT_EQ(turtle.FenceMode, GetParam().Inside ? 2 : 1);
+  EXPECT_EQ(turtle.FenceMode, GetParam().Inside ? TurtleBounds::Fence : TurtleBounds::Window);
   EXPECT_EQ(services.Boxes, GetParam().Inside ? std::vector<ShownBox>{} : std::vector<ShownBox>{OutsideBox});
   EXPECT_EQ(turtle.TurtleX, GetParam().X);
   EXPECT_EQ(turtle.TurtleY, GetParam().Y);
@@ -39,14 +39,14 @@ TEST_F(TurtlePlacesTest, RefusedFenceLeavesAFenceOn) {
   FenceIn();
   turtle.TurtleX = -100;
   Do("FENCE");
-  EXPECT_EQ(turtle.FenceMode, 2);
+  EXPECT_EQ(turtle.FenceMode, TurtleBounds::Fence);
 }
 
 TEST_F(TurtlePlacesTest, WindowNeedsNoTestOfThePosition) {
   FenceIn();
   turtle.TurtleX = -100;
   Do("WINDOW");
-  EXPECT_EQ(turtle.FenceMode, 1);
+  EXPECT_EQ(turtle.FenceMode, TurtleBounds::Window);
   EXPECT_TRUE(services.Boxes.empty());
 }
 
@@ -145,7 +145,7 @@ TEST_F(TurtlePlacesTest, HomeYKeepsTheColumn) {
 class HomeName : public DrawingTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(HomeName, DrawsNoLineWithThePenUp) {
-  turtle.PenState = 2;
+  turtle.PenState = PenPosition::Up;
   EXPECT_EQ(Do(GetParam()), Nothing);
 }
 
@@ -168,7 +168,7 @@ TEST_P(HomeName, IgnoresWhatFollowsIt) { EXPECT_EQ(Do(std::string(GetParam()) + 
 INSTANTIATE_TEST_SUITE_P(variables, HomeName, testing::Values("HOME", "HOMEX", "HOMEY", "HOMEXY"));
 
 TEST_F(TurtlePlacesTest, HomeYMovesWithoutALineWithThePenUp) {
-  turtle.PenState = 2;
+  turtle.PenState = PenPosition::Up;
   Do("HOMEY");
   EXPECT_EQ(turtle.TurtleY, 4500);
 }

@@ -157,7 +157,8 @@ class Side : SurfaceRecorder {
     for (const double number : {turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir, turtle.Resolution}) {
       trace.Note(number);
     }
-    trace.Note(static_cast<double>(turtle.PenState * 100 + turtle.FenceMode * 10 + turtle.PenColor));
+    trace.Note(static_cast<double>(static_cast<int>(turtle.PenState) * 100 + static_cast<int>(turtle.FenceMode) * 10 +
+                                   turtle.PenColor));
   }
 
   static constexpr int FirstLines = 40;
