@@ -13,7 +13,7 @@ namespace zerimo {
 
 namespace {
 
-bool IsExponentMark(char character) {
+bool IsExponentMark(char character) noexcept {
   return character == 'E' || character == 'e' || character == 'D' || character == 'd';
 }
 
@@ -26,7 +26,7 @@ std::string WithoutSkipped(std::string_view text) {
   return rest;
 }
 
-int DigitValue(char character) {
+int DigitValue(char character) noexcept {
   if (IsDigit(character)) return character - '0';
   if (character >= 'A' && character <= 'F') return character - 'A' + 10;
   if (character >= 'a' && character <= 'f') return character - 'a' + 10;
@@ -74,7 +74,7 @@ std::string DecimalNumber(std::string_view text) {
 }
 
 /// The number in a text of at most 15 digits and nothing else, the most common case.
-std::optional<double> WholeNumber(std::string_view text) {
+std::optional<double> WholeNumber(std::string_view text) noexcept {
   if (text.empty() || text.size() > MostExactDigits) return std::nullopt;
   std::int64_t value = 0;
   for (const char character : text) {
@@ -85,7 +85,7 @@ std::optional<double> WholeNumber(std::string_view text) {
 }
 
 /// The exponent of a decimal number, 0 without one.
-double ExponentOf(std::string_view number) {
+double ExponentOf(std::string_view number) noexcept {
   const auto mark = number.find('e');
   if (mark == std::string_view::npos) return 0;
   const char* const first = number.data() + mark + (number[mark + 1] == '+' ? 2 : 1);

@@ -13,7 +13,7 @@ std::size_t Offset(int position) {
   return static_cast<std::size_t>(position - 1);
 }
 
-char Capital(char character) {
+char Capital(char character) noexcept {
   const auto code = static_cast<unsigned char>(character);
   const bool small = (code >= 'a' && code <= 'z') || (code >= 224 && code <= 254 && code != 247);
   return small ? static_cast<char>(code - 32) : character;
@@ -21,7 +21,7 @@ char Capital(char character) {
 
 }  // namespace
 
-std::string_view Trimmed(std::string_view text) {
+std::string_view Trimmed(std::string_view text) noexcept {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
@@ -51,22 +51,22 @@ std::string_view From(std::string_view text, int position) {
   return offset < text.size() ? text.substr(offset) : std::string_view{};
 }
 
-int PositionOf(std::string_view text, std::string_view pattern) {
+int PositionOf(std::string_view text, std::string_view pattern) noexcept {
   if (text.empty()) return 0;
   const auto found = text.find(pattern);
   return found == std::string_view::npos ? 0 : static_cast<int>(found) + 1;
 }
 
-int LastPositionOf(std::string_view text, char character) {
+int LastPositionOf(std::string_view text, char character) noexcept {
   const auto found = text.rfind(character);
   return found == std::string_view::npos ? 0 : static_cast<int>(found) + 1;
 }
 
-bool Contains(std::string_view text, std::string_view pattern) { return PositionOf(text, pattern) != 0; }
+bool Contains(std::string_view text, std::string_view pattern) noexcept { return PositionOf(text, pattern) != 0; }
 
-int Length(std::string_view text) { return static_cast<int>(text.size()); }
+int Length(std::string_view text) noexcept { return static_cast<int>(text.size()); }
 
-bool IsQuoted(std::string_view text) { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
+bool IsQuoted(std::string_view text) noexcept { return Trimmed(text).starts_with('"') && text.ends_with('"'); }
 
 std::string WithoutEnds(std::string_view text) { return std::string(Mid(text, 2, Length(text) - 2)); }
 

@@ -7,7 +7,7 @@
 namespace zerimo {
 
 /// The text without the blanks (code 32, nothing else) at its two ends.
-std::string_view Trimmed(std::string_view text);
+std::string_view Trimmed(std::string_view text) noexcept;
 
 /// Trims the caller's text in place.
 void Trim(std::string& text);
@@ -30,19 +30,19 @@ std::string_view From(std::string_view text, int position);
 
 /// Position of the first occurrence of `pattern` in `text`, or 0. The empty pattern is found at 1 in a text that is
 /// not empty.
-int PositionOf(std::string_view text, std::string_view pattern);
+int PositionOf(std::string_view text, std::string_view pattern) noexcept;
 
 /// Position of the last occurrence of a character, or 0.
-int LastPositionOf(std::string_view text, char character);
+int LastPositionOf(std::string_view text, char character) noexcept;
 
 /// Whether `pattern` occurs anywhere in `text`.
-bool Contains(std::string_view text, std::string_view pattern);
+bool Contains(std::string_view text, std::string_view pattern) noexcept;
 
 /// The number of characters.
-int Length(std::string_view text);
+int Length(std::string_view text) noexcept;
 
 /// Whether the text begins, blanks aside, and ends with a double quote. One quote alone does both.
-bool IsQuoted(std::string_view text);
+bool IsQuoted(std::string_view text) noexcept;
 
 /// All characters but the first and the last, whatever they are. Fails (invalid argument) if there are not two.
 std::string WithoutEnds(std::string_view text);

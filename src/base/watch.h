@@ -16,8 +16,8 @@ class Watch {
 /// Watches nothing.
 class NoWatch final : public Watch {
  public:
-  void Step() override {}
-  void Tick() override {}
+  void Step() noexcept override {}
+  void Tick() noexcept override {}
 };
 
 }  // namespace zerimo

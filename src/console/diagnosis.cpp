@@ -4,7 +4,7 @@
 
 namespace zerimo {
 
-void Diagnosis::Command1Click() { context_.controls.Frame1.Hide(); }
+void Diagnosis::Command1Click() noexcept { context_.controls.Frame1.Hide(); }
 
 void Diagnosis::Command2Click() {
   interpreter_.controlPath.SetCtrlStr(".");

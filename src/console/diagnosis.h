@@ -10,7 +10,7 @@ class Diagnosis {
  public:
   Diagnosis(const DrawingContext& context, Interpreter& interpreter) : context_(context), interpreter_(interpreter) {}
 
-  void Command1Click();
+  void Command1Click() noexcept;
   /// "Refresh": forgets the variables, the control string and the names of the lowering.
   void Command2Click();
   /// The resolution as typed. Fails (overflow) beyond the range of numbers.

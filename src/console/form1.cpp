@@ -30,7 +30,7 @@ Form1::Form1(ScreenSize screen, Folders places, Services& services, Watch& watch
   BindPrimitives();
 }
 
-DrawingContext Form1::Drawing(Services& services) {
+DrawingContext Form1::Drawing(Services& services) noexcept {
   return {turtle, Picture1, controls, interpreter.arguments, services, interpreter.dispatch};
 }
 
@@ -67,7 +67,7 @@ void Form1::DefaultValue() {
   Picture1.SetHeight(screen.Height - controls.Picture3.Height());
   turtle.Resolution = 50;
   controls.Text3.Text = "50";
-  turtle.FenceMode = Bounds::Window;
+  turtle.FenceMode = TurtleBounds::Window;
   for (int code = 0; code < controls.Label13.Size; ++code) controls.Label13[code].BackColor = QBColor(code);
   for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     frame->Width = controls.Label13[0].Width;

@@ -32,15 +32,15 @@ class Form1 {
   void MouseMove(Control& control, float x, float y);
   void MouseDown(Control& control, MouseButton button, bool shift, float x, float y);
   /// A control is dropped on the surface.
-  void DragDrop(Control& source, float x, float y);
-  void DragOver();
+  void DragDrop(Control& source, float x, float y) noexcept;
+  void DragOver() noexcept;
   /// The user changed a text or a scroll bar.
   void Change(Control& control);
   void Tick(Timer& timer);
 
   /// A control by its name ("Picture1", "Text1(0)"), or null.
   Control* FindControl(const std::string& name);
-  Timer* FindTimer(const std::string& name);
+  Timer* FindTimer(const std::string& name) noexcept;
 
   /// For an end by a failure, or by closing during a run: keeps the editor's text. See `Saving`.
   std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const {
@@ -61,9 +61,10 @@ class Form1 {
   Keys keys;
 
  private:
-  DrawingContext Drawing(Services& services);
+  DrawingContext Drawing(Services& services) noexcept;
   void BindPrimitives();
   void DefaultValue();
+  /// Never fails: the indices are those of the design.
   void InitialGraphicsScreen();
   void PlaceOverlays();
 };

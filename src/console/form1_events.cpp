@@ -9,7 +9,7 @@ constexpr float UnrolledPalette = 3615;
 
 /// The index of a control in an array, or -1.
 template <typename Kind, int Count>
-int IndexIn(const ControlArray<Kind, Count>& array, const Control& control) {
+int IndexIn(const ControlArray<Kind, Count>& array, const Control& control) noexcept {
   for (int index = 0; index < Count; ++index) {
     if (&array[index] == &control) return index;
   }
@@ -62,9 +62,9 @@ void Form1::MouseDown(Control& control, MouseButton button, bool shift, float, f
   if (&control == &controls.File1) files.helpPages.File1MouseDown();
 }
 
-void Form1::DragDrop(Control& source, float x, float y) { graphics.palette.Picture1DragDrop(source, x, y); }
+void Form1::DragDrop(Control& source, float x, float y) noexcept { graphics.palette.Picture1DragDrop(source, x, y); }
 
-void Form1::DragOver() {
+void Form1::DragOver() noexcept {
   controls.Form1.Left = 0;
   controls.Form1.Top = 0;
 }
@@ -90,7 +90,7 @@ Control* Form1::FindControl(const std::string& name) {
   return found;
 }
 
-Timer* Form1::FindTimer(const std::string& name) {
+Timer* Form1::FindTimer(const std::string& name) noexcept {
   for (Timer* timer : {&controls.Timer2, &controls.Timer3, &controls.Timer4}) {
     if (timer->Name() == name) return timer;
   }

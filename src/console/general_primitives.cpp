@@ -83,6 +83,7 @@ void GeneralPrimitives::Message(PrimitiveCall& call) {
   PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
   PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
   if (IsQuoted(call.Rest)) {
+    // Leaves: a single quote has nothing between its ends.
     context_.services.MessageBox(WithoutEnds(call.Rest));
   } else {
     context_.services.MessageBox(Str(context_.arguments.Number(call.Rest)));

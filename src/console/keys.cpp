@@ -65,7 +65,7 @@ void Keys::ScrollRows() {
   PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
 }
 
-void Keys::ClosePanels() {
+void Keys::ClosePanels() noexcept {
   context_.controls.Frame1.Hide();
   context_.controls.Picture2.Hide();
   files_.helpPages.CloseView();
@@ -107,7 +107,7 @@ void Keys::RichTextBox1KeyDown(int keyCode) {
   if (keyCode == key::F11) files_.helpPages.SavePage();
 }
 
-void Keys::File1KeyDown(int keyCode) {
+void Keys::File1KeyDown(int keyCode) noexcept {
   if (keyCode == key::Esc) files_.helpPages.CloseView();
 }
 

@@ -34,16 +34,18 @@ class Keys {
   void Picture1KeyDown(int keyCode);
   void Text2KeyDown(int keyCode);
   void RichTextBox1KeyDown(int keyCode);
-  void File1KeyDown(int keyCode);
+  void File1KeyDown(int keyCode) noexcept;
   void Form1KeyDown(int keyCode);
 
   /// Fires once and gives the focus to row 0; a refused focus is ignored.
   void Timer2Tick();
 
  private:
+  /// Enter in row `index`, 0 to 4. Never fails.
   void EnterLine(int index);
+  /// Never fails.
   void ScrollRows();
-  void ClosePanels();
+  void ClosePanels() noexcept;
   void AskForProgramFile();
 
   DrawingContext context_;

@@ -20,6 +20,7 @@ class ScreenModes {
 
  private:
   void FullScreen();
+  /// Never fails.
   void SplitScreen();
   void TextScreen();
   void ClearText();

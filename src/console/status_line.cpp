@@ -17,7 +17,7 @@ constexpr double Pi = 3.1415927;
 
 }  // namespace
 
-std::string_view ColourName(std::int32_t code) {
+std::string_view ColourName(std::int32_t code) noexcept {
   return code >= 0 && code < 16 ? ColourNames[static_cast<std::size_t>(code)] : std::string_view{};
 }
 

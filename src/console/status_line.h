@@ -28,6 +28,6 @@ class StatusLine {
 };
 
 /// The name that the status line shows for a colour code; empty for anything else.
-std::string_view ColourName(std::int32_t code);
+std::string_view ColourName(std::int32_t code) noexcept;
 
 }  // namespace zerimo

@@ -11,19 +11,19 @@ void FocusKeeper::SetFocus(Control& control) {
   focus_ = &control;
 }
 
-void FocusKeeper::VisibilityChanged() {
+void FocusKeeper::VisibilityChanged() noexcept {
   if (focus_ != nullptr && !focus_->IsOnScreen()) focus_ = nullptr;
 }
 
 Control::Control(std::string controlName, Control* onPanel, FocusKeeper* focusKeeper)
     : name_(std::move(controlName)), panel_(onPanel), keeper_(focusKeeper) {}
 
-void Control::SetVisible(bool value) {
+void Control::SetVisible(bool value) noexcept {
   visible_ = value;
   if (keeper_ != nullptr) keeper_->VisibilityChanged();
 }
 
-bool Control::IsOnScreen() const { return visible_ && (panel_ == nullptr || panel_->IsOnScreen()); }
+bool Control::IsOnScreen() const noexcept { return visible_ && (panel_ == nullptr || panel_->IsOnScreen()); }
 
 void Control::ReadProperties(const PropertyReader& read) const {
   read("Visible", visible_);
@@ -74,7 +74,7 @@ void ListBox::Clear() {
   if (OnChange) OnChange(nullptr);
 }
 
-void ListBox::SetLazily(std::function<std::vector<std::string>()> fill) {
+void ListBox::SetLazily(std::function<std::vector<std::string>()> fill) noexcept {
   pending_ = std::move(fill);
   ++version_;
   ++clearings_;

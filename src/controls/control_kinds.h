@@ -35,13 +35,13 @@ using PropertyReader = std::function<void(const char* name, const PropertyValue&
 class FocusKeeper {
  public:
   /// The control that has the focus, or null.
-  Control* Focus() const { return focus_; }
+  Control* Focus() const noexcept { return focus_; }
 
   /// Gives the focus to a control; fails (focus refused) if the control or a panel that holds it is hidden.
   void SetFocus(Control& control);
 
   /// Must be called when the visibility of any control has changed.
-  void VisibilityChanged();
+  void VisibilityChanged() noexcept;
 
  private:
   Control* focus_ = nullptr;
@@ -56,22 +56,22 @@ class Control {
   Control& operator=(const Control&) = delete;
 
   /// The control's name, with its index if it is an element of an array: "List4", "Text1(0)".
-  const std::string& Name() const { return name_; }
+  const std::string& Name() const noexcept { return name_; }
   /// The panel that holds it; null for the window itself and for what is directly on the window.
-  Control* Panel() const { return panel_; }
+  Control* Panel() const noexcept { return panel_; }
 
-  bool Visible() const { return visible_; }
-  void SetVisible(bool value);
-  void Show() { SetVisible(true); }
-  void Hide() { SetVisible(false); }
+  bool Visible() const noexcept { return visible_; }
+  void SetVisible(bool value) noexcept;
+  void Show() noexcept { SetVisible(true); }
+  void Hide() noexcept { SetVisible(false); }
   /// Whether it and all panels that hold it are visible.
-  bool IsOnScreen() const;
+  bool IsOnScreen() const noexcept;
 
   float Left = 0;
   float Top = 0;
   float Width = 0;
 
-  float Height() const { return height; }
+  float Height() const noexcept { return height; }
   virtual void SetHeight(float value) { height = value; }
 
   /// Reports the properties: first those that visible controls have in common, then the kind's own.
@@ -92,7 +92,7 @@ class Window : public Control {
  public:
   using Control::Control;
   /// The title bar's text.
-  const std::string& Caption() const { return caption_; }
+  const std::string& Caption() const noexcept { return caption_; }
   void SetCaption(std::string text);
   /// If set, called at each assignment of the caption.
   std::function<void(const std::string& text)> OnCaption;
@@ -124,11 +124,11 @@ class ListBox : public Control {
 
   /// Puts off filling the list: `fill` is called when the items are first asked for. It must then return the items as
   /// of now.
-  void SetLazily(std::function<std::vector<std::string>()> fill);
+  void SetLazily(std::function<std::vector<std::string>()> fill) noexcept;
 
-  std::uint64_t Version() const { return version_; }
+  std::uint64_t Version() const noexcept { return version_; }
   /// Counts the clearings, so that a shell knows whether a new version only adds to the end of the old one.
-  std::uint64_t Clearings() const { return clearings_; }
+  std::uint64_t Clearings() const noexcept { return clearings_; }
 
   /// If set, `Add` calls it with the item and `Clear` with null.
   std::function<void(const std::string* item)> OnChange;
@@ -228,7 +228,7 @@ class Timer {
  public:
   explicit Timer(std::string timerName, std::int32_t interval, bool enabled)
       : Interval(interval), Enabled(enabled), name_(std::move(timerName)) {}
-  const std::string& Name() const { return name_; }
+  const std::string& Name() const noexcept { return name_; }
   /// Milliseconds; 0 never ticks.
   std::int32_t Interval;
   bool Enabled;

@@ -19,8 +19,8 @@ class LateText {
   LateText(const char* text) : text_(text) {}             // NOLINT(google-explicit-constructor)
 
   /// The text is what the source gives, until another text is assigned or `Keep` is called.
-  void Follow(Source source) { source_ = std::move(source); }
-  bool Follows() const { return source_ != nullptr; }
+  void Follow(Source source) noexcept { source_ = std::move(source); }
+  bool Follows() const noexcept { return source_ != nullptr; }
 
   /// Keeps what the source gives now.
   void Keep() {

@@ -116,7 +116,7 @@ char32_t CharacterOf(int codePage, unsigned char byte) {
   return found->Characters[byte - FirstOfTable];
 }
 
-int CodePageOfCharset(int charset) {
+int CodePageOfCharset(int charset) noexcept {
   for (const Charset& set : Charsets) {
     if (set.Number == charset) return set.CodePage;
   }

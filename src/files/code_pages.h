@@ -10,6 +10,6 @@ inline constexpr int WesternCodePage = 1252;
 char32_t CharacterOf(int codePage, unsigned char byte);
 
 /// The code page of a font's character set, or 0 if the set is that of the document.
-int CodePageOfCharset(int charset);
+int CodePageOfCharset(int charset) noexcept;
 
 }  // namespace zerimo

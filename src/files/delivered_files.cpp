@@ -48,7 +48,7 @@ bool IsSampleOrPicture(const fs::path& name) {
   return std::ranges::find(endings, UpperCase(Folders::ToSystem(name.extension()))) != std::end(endings);
 }
 
-bool IsVisible(const fs::path& name) { return name.native().front() != '.'; }
+bool IsVisible(const fs::path& name) noexcept { return name.native().front() != '.'; }
 
 /// The regular files of a folder, sorted; none if it can't be read.
 std::vector<fs::path> FilesOf(const fs::path& folder) {

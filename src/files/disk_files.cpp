@@ -42,7 +42,7 @@ fs::path NewNameIn(const fs::path& folder) {
   return folder / name.append(TemporaryEnding);
 }
 
-bool IsTemporaryName(const std::string& name) {
+bool IsTemporaryName(const std::string& name) noexcept {
   return name.size() == TemporaryBeginning.size() + TemporaryDigits + TemporaryEnding.size() &&
          name.starts_with(TemporaryBeginning) && name.ends_with(TemporaryEnding);
 }

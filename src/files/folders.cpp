@@ -23,7 +23,7 @@ constexpr bool DriveLettersAreFolders = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void Fail(FailureKind kind) { throw Failure(kind); }
 
-bool BeginsWithDriveLetter(std::string_view path) {
+bool BeginsWithDriveLetter(std::string_view path) noexcept {
   if (path.size() < 2 || path[1] != ':') return false;
   const char letter = path[0];
   return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');

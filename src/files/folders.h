@@ -21,7 +21,9 @@ class Folders {
   std::string AppFolder;
 
   /// Whether a system path names a folder.
-  static bool HasFolder(std::string_view systemPath) { return systemPath.find('\\') != std::string_view::npos; }
+  static bool HasFolder(std::string_view systemPath) noexcept {
+    return systemPath.find('\\') != std::string_view::npos;
+  }
 
   /// A path of the disk as the system names it: with backslashes, and a question mark for each character that
   /// single-byte text can't hold.

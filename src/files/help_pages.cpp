@@ -58,7 +58,7 @@ void HelpPages::SavePage() {
   context_.folders.WriteFile(name, context_.controls.RichTextBox1.Document + "\r\n");
 }
 
-void HelpPages::CloseView() {
+void HelpPages::CloseView() noexcept {
   context_.controls.RichTextBox1.Hide();
   context_.controls.File1.Hide();
 }

@@ -21,7 +21,7 @@ class HelpPages {
   void SavePage();
 
   /// Hides the page and the list.
-  void CloseView();
+  void CloseView() noexcept;
 
  private:
   void Open(PrimitiveCall& call);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr char CarriageReturn = '\r';
 
-bool IsKept(char character) { return character >= 32 && character <= 126; }
+bool IsKept(char character) noexcept { return character >= 32 && character <= 126; }
 
 /// Appends the kept characters of a piece to a line, whatever that holds: stale text stays before them. Returns whether
 /// there were any.

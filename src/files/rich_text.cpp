@@ -28,7 +28,7 @@ std::string Cleaned(std::string_view line) {
   return text;
 }
 
-std::string_view TakeLine(std::string_view& text) {
+std::string_view TakeLine(std::string_view& text) noexcept {
   const auto end = text.find_first_of(LineEnd);
   const std::string_view line = text.substr(0, end);
   text.remove_prefix(line.size());
@@ -44,7 +44,7 @@ void Append(Paragraph& paragraph, std::string_view text, const CharacterForm& fo
   paragraph.Runs.back().Text += text;
 }
 
-bool IsRtf(std::string_view bytes) { return bytes.substr(0, 5) == "{\\rtf"; }
+bool IsRtf(std::string_view bytes) noexcept { return bytes.substr(0, 5) == "{\\rtf"; }
 
 std::string PlainText(const RichText& text) {
   std::string plain;

@@ -74,7 +74,7 @@ struct RichText {
 void Append(Paragraph& paragraph, std::string_view text, const CharacterForm& form);
 
 /// Whether a page is rich text (RTF): it begins with "{\rtf".
-bool IsRtf(std::string_view bytes);
+bool IsRtf(std::string_view bytes) noexcept;
 
 /// Reads RTF. What is unknown is skipped, and its text is kept. Never fails: of text that is not RTF it gives what can
 /// be read. Beyond `MostParagraphs` and `MostRuns` the text goes on in the last one.

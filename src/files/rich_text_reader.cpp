@@ -127,7 +127,7 @@ void RtfReader::ActOnText(std::string_view text) {
   AddText(text);
 }
 
-bool RtfReader::IsSubstitute() {
+bool RtfReader::IsSubstitute() noexcept {
   if (substitutesLeft_ == 0) return false;
   --substitutesLeft_;
   return true;
@@ -222,7 +222,7 @@ int RtfReader::CodePageOfNow() const {
   return font == fonts_.end() || font->second.CodePage == 0 ? codePage_ : font->second.CodePage;
 }
 
-std::optional<Colour> RtfReader::ColourOf(int number) const {
+std::optional<Colour> RtfReader::ColourOf(int number) const noexcept {
   const auto index = static_cast<std::size_t>(number);
   return number >= 0 && index < colours_.size() ? colours_[index] : std::nullopt;
 }

@@ -70,7 +70,7 @@ class RtfReader {
   void ActOnText(std::string_view text);
 
   /// Steps over a piece that is a substitute after a Unicode character; returns whether it was one.
-  bool IsSubstitute();
+  bool IsSubstitute() noexcept;
   void AddCharacter(char32_t character);
   void AddText(std::string_view utf8);
   void AddToPage(std::string_view utf8);
@@ -81,34 +81,34 @@ class RtfReader {
   void TakeUnit(char32_t unit);
   const CharacterForm& FormOfNow();
   int CodePageOfNow() const;
-  std::optional<Colour> ColourOf(int number) const;
+  std::optional<Colour> ColourOf(int number) const noexcept;
 
   // What control words do; `value` comes from the table of words.
   void Special(Number, int value);
   void EndParagraph(Number, int);
-  void EnterDestination(Number, int value);
-  void Bold(Number n, int);
-  void Italic(Number n, int);
-  void Strike(Number n, int);
-  void Underline(Number n, int value);
-  void FontNumber(Number n, int);
+  void EnterDestination(Number, int value) noexcept;
+  void Bold(Number n, int) noexcept;
+  void Italic(Number n, int) noexcept;
+  void Strike(Number n, int) noexcept;
+  void Underline(Number n, int value) noexcept;
+  void FontNumber(Number n, int) noexcept;
   void FontSize(Number n, int);
-  void Color(Number n, int);
-  void Background(Number n, int);
-  void PlainForm(Number, int);
-  void PlainParagraph(Number, int);
-  void Align(Number, int value);
+  void Color(Number n, int) noexcept;
+  void Background(Number n, int) noexcept;
+  void PlainForm(Number, int) noexcept;
+  void PlainParagraph(Number, int) noexcept;
+  void Align(Number, int value) noexcept;
   void LeftIndent(Number n, int);
   void RightIndent(Number n, int);
   void FirstIndent(Number n, int);
   void SpaceBefore(Number n, int);
   void SpaceAfter(Number n, int);
   void Tab(Number n, int);
-  void CodePage(Number n, int value);
-  void DefaultFont(Number n, int);
+  void CodePage(Number n, int value) noexcept;
+  void DefaultFont(Number n, int) noexcept;
   void Unicode(Number n, int);
   void Substitutes(Number n, int);
-  void BulletList(Number, int);
+  void BulletList(Number, int) noexcept;
   void DefineFont(Number n, int);
   void FontCharset(Number n, int);
   void FontCodePage(Number n, int);

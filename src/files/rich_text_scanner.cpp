@@ -10,10 +10,10 @@ namespace {
 
 constexpr int GreatestNumber = 0x7FFFFFFF;
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsPlain(char c) { return c >= 32 && c <= 126 && c != '{' && c != '}' && c != '\\'; }
+bool IsLetter(char c) noexcept { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsPlain(char c) noexcept { return c >= 32 && c <= 126 && c != '{' && c != '}' && c != '\\'; }
 
-int HexDigit(char c) {
+int HexDigit(char c) noexcept {
   if (IsDigit(c)) return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
@@ -44,7 +44,7 @@ RtfToken RtfScanner::Next() {
   }
 }
 
-RtfToken RtfScanner::TextToken() {
+RtfToken RtfScanner::TextToken() noexcept {
   RtfToken token;
   if (!IsPlain(rtf_[at_])) {
     token.Is = RtfToken::Kind::Character;
@@ -70,7 +70,7 @@ RtfToken RtfScanner::ControlToken() {
   return token;
 }
 
-RtfToken RtfScanner::HexToken() {
+RtfToken RtfScanner::HexToken() noexcept {
   RtfToken token;
   token.Is = RtfToken::Kind::Character;
   const int high = at_ + 1 < rtf_.size() ? HexDigit(rtf_[at_ + 1]) : -1;

@@ -40,8 +40,8 @@ class RtfScanner {
  private:
   RtfToken ControlToken();
   RtfToken WordToken();
-  RtfToken HexToken();
-  RtfToken TextToken();
+  RtfToken HexToken() noexcept;
+  RtfToken TextToken() noexcept;
 
   std::string_view rtf_;
   std::size_t at_ = 0;

@@ -9,9 +9,9 @@ namespace {
 
 constexpr int UsualHalfPoints = 24;
 
-constexpr int Into(RtfDestination destination) { return static_cast<int>(destination); }
+constexpr int Into(RtfDestination destination) noexcept { return static_cast<int>(destination); }
 
-bool IsOn(const RtfToken& word) { return !word.HasNumber || word.Number != 0; }
+bool IsOn(const RtfToken& word) noexcept { return !word.HasNumber || word.Number != 0; }
 
 int LengthOf(const RtfToken& word) {
   return std::clamp(word.Number, -rtf_limits::GreatestLength, rtf_limits::GreatestLength);
@@ -147,44 +147,44 @@ std::span<const RtfReader::WordMeaning> RtfReader::MeaningsIn(RtfDestination whe
 
 void RtfReader::Special(Number, int value) { AddCharacter(static_cast<char32_t>(value)); }
 
-void RtfReader::Bold(Number n, int) {
+void RtfReader::Bold(Number n, int) noexcept {
   now_.Characters.Bold = IsOn(n);
   formIsKnown_ = false;
 }
 
-void RtfReader::Italic(Number n, int) {
+void RtfReader::Italic(Number n, int) noexcept {
   now_.Characters.Italic = IsOn(n);
   formIsKnown_ = false;
 }
 
-void RtfReader::Strike(Number n, int) {
+void RtfReader::Strike(Number n, int) noexcept {
   now_.Characters.Strike = IsOn(n);
   formIsKnown_ = false;
 }
 
-void RtfReader::Underline(Number n, int value) {
+void RtfReader::Underline(Number n, int value) noexcept {
   now_.Characters.Underline = value != 0 && IsOn(n);
   formIsKnown_ = false;
 }
 
-void RtfReader::FontNumber(Number n, int) {
+void RtfReader::FontNumber(Number n, int) noexcept {
   now_.Font = n.Number;
   formIsKnown_ = false;
 }
 
-void RtfReader::Color(Number n, int) {
+void RtfReader::Color(Number n, int) noexcept {
   now_.Color = n.Number;
   formIsKnown_ = false;
 }
 
-void RtfReader::Background(Number n, int) {
+void RtfReader::Background(Number n, int) noexcept {
   now_.Background = n.Number;
   formIsKnown_ = false;
 }
 
-void RtfReader::PlainParagraph(Number, int) { now_.Form = {}; }
+void RtfReader::PlainParagraph(Number, int) noexcept { now_.Form = {}; }
 
-void RtfReader::Align(Number, int value) { now_.Form.Align = static_cast<Alignment>(value); }
+void RtfReader::Align(Number, int value) noexcept { now_.Form.Align = static_cast<Alignment>(value); }
 
 void RtfReader::LeftIndent(Number n, int) { now_.Form.LeftIndent = LengthOf(n); }
 
@@ -196,9 +196,9 @@ void RtfReader::SpaceBefore(Number n, int) { now_.Form.SpaceBefore = LengthOf(n)
 
 void RtfReader::SpaceAfter(Number n, int) { now_.Form.SpaceAfter = LengthOf(n); }
 
-void RtfReader::CodePage(Number n, int value) { codePage_ = value != 0 ? value : n.Number; }
+void RtfReader::CodePage(Number n, int value) noexcept { codePage_ = value != 0 ? value : n.Number; }
 
-void RtfReader::DefaultFont(Number n, int) {
+void RtfReader::DefaultFont(Number n, int) noexcept {
   defaultFont_ = n.Number;
   formIsKnown_ = false;
 }
@@ -213,7 +213,7 @@ void RtfReader::FontCodePage(Number n, int) {
   if (RtfFont* const font = FontInTable()) font->CodePage = n.Number;
 }
 
-void RtfReader::EnterDestination(Number, int value) {
+void RtfReader::EnterDestination(Number, int value) noexcept {
   if (isFirstInGroup_) now_.Where = static_cast<RtfDestination>(value);
 }
 
@@ -222,7 +222,7 @@ void RtfReader::FontSize(Number n, int) {
   formIsKnown_ = false;
 }
 
-void RtfReader::PlainForm(Number, int) {
+void RtfReader::PlainForm(Number, int) noexcept {
   const RtfGroup plain;
   now_.Font = plain.Font;
   now_.Color = plain.Color;
@@ -241,7 +241,7 @@ void RtfReader::Unicode(Number n, int) {
   substitutesLeft_ = now_.Substitutes;
 }
 
-void RtfReader::BulletList(Number, int) {
+void RtfReader::BulletList(Number, int) noexcept {
   // The list's form has a group of its own but applies to the paragraphs around it.
   if (!outer_.empty()) outer_.back().Form.Bullet = true;
 }

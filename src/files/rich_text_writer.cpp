@@ -22,7 +22,7 @@ class Table {
     values_.push_back(value);
     return values_.size();
   }
-  const std::vector<Value>& Values() const { return values_; }
+  const std::vector<Value>& Values() const noexcept { return values_; }
 
  private:
   std::vector<Value> values_;

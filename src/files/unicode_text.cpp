@@ -9,11 +9,11 @@ namespace {
 
 constexpr char32_t LastCharacter = 0x10FFFF;
 
-bool IsSurrogate(char32_t character) { return character >= 0xD800 && character <= 0xDFFF; }
+bool IsSurrogate(char32_t character) noexcept { return character >= 0xD800 && character <= 0xDFFF; }
 
 void AppendByte(std::string& text, char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); }
 
-std::size_t BytesOf(unsigned char first) {
+std::size_t BytesOf(unsigned char first) noexcept {
   if (first < 0x80) return 1;
   if (first >= 0xC2 && first < 0xE0) return 2;
   if (first >= 0xE0 && first < 0xF0) return 3;
@@ -27,7 +27,7 @@ struct Decoded {
   std::size_t Bytes = 0;
 };
 
-Decoded Decode(std::string_view text, std::size_t offset) {
+Decoded Decode(std::string_view text, std::size_t offset) noexcept {
   static constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
   static constexpr std::array<unsigned, 5> bitsOfFirst = {0, 0x7F, 0x1F, 0x0F, 0x07};
   const auto first = static_cast<unsigned char>(text[offset]);
@@ -62,13 +62,13 @@ void AppendUtf8(std::string& text, char32_t character) {
   AppendByte(text, 0x80 | (character & 0x3F));
 }
 
-char32_t NextCharacter(std::string_view text, std::size_t& offset) {
+char32_t NextCharacter(std::string_view text, std::size_t& offset) noexcept {
   const Decoded decoded = Decode(text, offset);
   offset += decoded.Bytes == 0 ? 1 : decoded.Bytes;
   return decoded.Character;
 }
 
-bool IsUtf8(std::string_view bytes) {
+bool IsUtf8(std::string_view bytes) noexcept {
   for (std::size_t offset = 0; offset < bytes.size();) {
     const Decoded decoded = Decode(bytes, offset);
     if (decoded.Bytes == 0) return false;

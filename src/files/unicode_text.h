@@ -16,9 +16,9 @@ void AppendUtf8(std::string& text, char32_t character);
 
 /// The character at an offset of UTF-8 text; moves the offset past it. A byte that is not UTF-8 counts alone as the
 /// replacement character.
-char32_t NextCharacter(std::string_view text, std::size_t& offset);
+char32_t NextCharacter(std::string_view text, std::size_t& offset) noexcept;
 
-bool IsUtf8(std::string_view bytes);
+bool IsUtf8(std::string_view bytes) noexcept;
 
 std::string Utf8FromLatin1(std::string_view text);
 

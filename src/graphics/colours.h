@@ -22,7 +22,7 @@ class Colours {
   void TextColor(PrimitiveCall& call);
   void TextBackground(PrimitiveCall& call);
 
-  /// Moves the frames of the palette to the square of a number, which is not reduced to a code.
+  /// Moves the frames of the palette to the square of a number, which is not reduced to a code. Never fails.
   void SelectSquare(double number);
 
   DrawingContext context_;

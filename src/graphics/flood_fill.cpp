@@ -26,7 +26,7 @@ void FloodFills::Bind() {
 
 void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
   const Turtle& turtle = context_.turtle;
-  context_.Picture1.SetScaleMode(Pixels);
+  context_.Picture1.SetScaleMode(Pixels);  // Never fails.
   const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
   PassOver([&] {

@@ -108,7 +108,7 @@ void Motion::SetX(PrimitiveCall& call) {
   turtle.TurtleX = target;
 }
 
-bool Motion::AdmitsSetX(double x) const {
+bool Motion::AdmitsSetX(double x) const noexcept {
   return context_.turtle.FenceMode == TurtleBounds::Window || (x >= 0 && x <= context_.Picture1.Width);
 }
 
@@ -123,7 +123,7 @@ void Motion::SetY(PrimitiveCall& call) {
   turtle.TurtleY = target;
 }
 
-bool Motion::AdmitsSetY(double y) const {
+bool Motion::AdmitsSetY(double y) const noexcept {
   return context_.turtle.FenceMode == TurtleBounds::Window || (y >= 0 && y <= context_.Picture1.Height());
 }
 
@@ -144,7 +144,7 @@ void Motion::SetXY(PrimitiveCall& call) {
   turtle.TurtleY = centreY - dy;
 }
 
-bool Motion::AdmitsSetXY(double x, double y) const {
+bool Motion::AdmitsSetXY(double x, double y) const noexcept {
   // The left and the top edge are refused here, unlike in `FD`.
   return context_.turtle.FenceMode == TurtleBounds::Window ||
          (x > 0 && x <= context_.Picture1.Width && y > 0 && y <= context_.Picture1.Height());
@@ -189,7 +189,7 @@ void Motion::PenReverse() {
   }
 }
 
-void Motion::ShowFigure(bool visible) {
+void Motion::ShowFigure(bool visible) noexcept {
   Controls& controls = context_.controls;
   controls.Shape2.SetVisible(visible);
   controls.Line1.SetVisible(visible);

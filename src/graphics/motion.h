@@ -29,7 +29,7 @@ class Motion {
   void PenDown();
   void PenErase();
   void PenReverse();
-  void ShowFigure(bool visible);
+  void ShowFigure(bool visible) noexcept;
   void LineWidth(PrimitiveCall& call);
   void DrawMode(PrimitiveCall& call);
   void ClearScreen();
@@ -39,9 +39,9 @@ class Motion {
   void Turn(double degrees);
   /// Whether the fence lets a move through. Fails (overflow) as its rounding does.
   bool AdmitsMove(double x, double y) const;
-  bool AdmitsSetX(double x) const;
-  bool AdmitsSetY(double y) const;
-  bool AdmitsSetXY(double x, double y) const;
+  bool AdmitsSetX(double x) const noexcept;
+  bool AdmitsSetY(double y) const noexcept;
+  bool AdmitsSetXY(double x, double y) const noexcept;
   void DrawTo(double x, double y);
   void Refuse();
 

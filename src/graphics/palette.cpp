@@ -49,7 +49,7 @@ void Palette::Picture1Click() {
   controls.Timer2.Enabled = true;
 }
 
-void Palette::Picture1DragDrop(Control& source, float x, float y) {
+void Palette::Picture1DragDrop(Control& source, float x, float y) noexcept {
   source.Left = x - PaletteGrabX;
   source.Top = y - PaletteGrabY;
 }
@@ -77,7 +77,7 @@ void Palette::Label13MouseMove(int index) {
   controls.Label13[index].BorderStyle = 0;
 }
 
-void Palette::Label14MouseMove() { context_.controls.Label14.BackColor = Red; }
+void Palette::Label14MouseMove() noexcept { context_.controls.Label14.BackColor = Red; }
 
 void Palette::Label14Click() { context_.dispatch.Execute(UpperCase(Trimmed(context_.controls.Label15.Caption))); }
 
@@ -97,7 +97,7 @@ void Palette::HScroll2Change() {
   controls.Label8.BackColor = colour;
 }
 
-void Palette::Check1Click() {
+void Palette::Check1Click() noexcept {
   // Only the flag decides, neither the check mark nor what is visible.
   CoordinatesOn = !CoordinatesOn;
   context_.controls.Line5.SetVisible(CoordinatesOn);

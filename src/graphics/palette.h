@@ -16,18 +16,19 @@ class Palette {
 
   /// The hint that follows the mouse; x and y are surface units. Fails at a `Resolution` of 0.
   void Picture1MouseMove(float x, float y);
-  /// Returns the window to its place and gives the focus to the first empty row; a refused focus is ignored.
+  /// Returns the window to its place and gives the focus to the first empty row; a refused focus is ignored. Never
+  /// fails.
   void Picture1Click();
   /// Places the dropped control.
-  void Picture1DragDrop(Control& source, float x, float y);
+  void Picture1DragDrop(Control& source, float x, float y) noexcept;
   void Picture2MouseMove(float x, float y);
   void Label13MouseDown(int index, MouseButton button, bool shift);
   void Label13MouseMove(int index);
-  void Label14MouseMove();
+  void Label14MouseMove() noexcept;
   void Label14Click();
   void HScroll1Change();
   void HScroll2Change();
-  void Check1Click();
+  void Check1Click() noexcept;
 
   /// Where the pointer last was inside the palette.
   float PaletteGrabX = 0;

@@ -198,8 +198,8 @@ double Shapes::Units(PrimitiveCall& call, int nthWord) const {
   return StepsToUnits(context_.turtle, Word(call, nthWord));
 }
 
-double Shapes::CentreX() const { return context_.Picture1.Width / 2.0; }
+double Shapes::CentreX() const noexcept { return context_.Picture1.Width / 2.0; }
 
-double Shapes::CentreY() const { return context_.controls.Form1.Height() / 2.0; }
+double Shapes::CentreY() const noexcept { return context_.controls.Form1.Height() / 2.0; }
 
 }  // namespace zerimo

@@ -43,12 +43,12 @@ class Shapes {
   /// The same for a stamp, with its inside in the colour too.
   void InStampColour(PrimitiveCall& call, const Drawing& draw);
 
-  bool PenIsUp() const { return context_.turtle.PenState == PenPosition::Up; }
+  bool PenIsUp() const noexcept { return context_.turtle.PenState == PenPosition::Up; }
   double Word(PrimitiveCall& call, int nthWord) const;
   /// A word in turtle steps as surface units.
   double Units(PrimitiveCall& call, int nthWord) const;
-  double CentreX() const;
-  double CentreY() const;
+  double CentreX() const noexcept;
+  double CentreY() const noexcept;
 
   DrawingContext context_;
 };

@@ -151,7 +151,9 @@ void Surface::ExtFloodFill(std::int16_t x, std::int16_t y, Colour atPoint) {
   Tell(surface_operation::FloodFill{x, y, atPoint});
 }
 
-int Surface::Rows() const { return static_cast<int>(std::ceil(static_cast<double>(Height()) / UnitsPerPixel)); }
+int Surface::Rows() const noexcept {
+  return static_cast<int>(std::ceil(static_cast<double>(Height()) / UnitsPerPixel));
+}
 
 void Surface::SetPicture(const std::filesystem::path& file, const std::string& pictureName) {
   canvas_.LoadPicture(file, backColor_);

@@ -81,30 +81,30 @@ class Surface : public Control {
   void AddRecorder(SurfaceRecorder& recorder) { recorders_.push_back(&recorder); }
   void RemoveRecorder(SurfaceRecorder& recorder) { std::erase(recorders_, &recorder); }
 
-  Colour BackColor() const { return backColor_; }
+  Colour BackColor() const noexcept { return backColor_; }
   /// Sets the background colour and clears everything that was drawn, as `Cls` does.
   void SetBackColor(Colour value);
-  Colour ForeColor() const { return foreColor_; }
+  Colour ForeColor() const noexcept { return foreColor_; }
   void SetForeColor(Colour value);
-  Colour FillColor() const { return fillColor_; }
+  Colour FillColor() const noexcept { return fillColor_; }
   void SetFillColor(Colour value);
-  int FillStyle() const { return fillStyle_; }
+  int FillStyle() const noexcept { return fillStyle_; }
   /// 0 to 7.
   void SetFillStyle(std::int32_t value);
-  int DrawMode() const { return drawMode_; }
+  int DrawMode() const noexcept { return drawMode_; }
   /// 1 to 16.
   void SetDrawMode(std::int32_t value);
-  int DrawWidth() const { return drawWidth_; }
+  int DrawWidth() const noexcept { return drawWidth_; }
   /// Pixels, from 1.
   void SetDrawWidth(std::int32_t value);
-  int ScaleMode() const { return scaleMode_; }
+  int ScaleMode() const noexcept { return scaleMode_; }
   /// 1 surface units, 3 pixels.
   void SetScaleMode(int value);
-  float CurrentX() const { return currentX_; }
+  float CurrentX() const noexcept { return currentX_; }
   void SetCurrentX(double value);
-  float CurrentY() const { return currentY_; }
+  float CurrentY() const noexcept { return currentY_; }
   void SetCurrentY(double value);
-  double FontSize() const { return fontSize_; }
+  double FontSize() const noexcept { return fontSize_; }
   /// Points, above 0 and at most 2160.
   void SetFontSize(double value);
   void SetHeight(float value) override;
@@ -130,7 +130,8 @@ class Surface : public Control {
   /// Writes the picture in the surface's present size.
   void SavePicture(const std::filesystem::path& file) const;
 
-  /// The pixel that a point of the surface falls on, in the present scale: all operations convert by it.
+  /// The pixel that a point of the surface falls on, in the present scale: all operations convert by it. Never fails:
+  /// no place is not a number.
   PixelPoint ToPixels(double x, double y) const;
 
   /// The half-axes of a circle or an oval in pixels: across and down.
@@ -140,8 +141,8 @@ class Surface : public Control {
   };
   Axes HalfAxes(const surface_operation::Circle& circle) const;
 
-  Stroke PenStroke() const { return {foreColor_, drawWidth_, drawMode_}; }
-  Filling Inside() const { return {fillColor_, fillStyle_}; }
+  Stroke PenStroke() const noexcept { return {foreColor_, drawWidth_, drawMode_}; }
+  Filling Inside() const noexcept { return {fillColor_, fillStyle_}; }
 
   void ReadProperties(const PropertyReader& read) const override;
 
@@ -153,9 +154,9 @@ class Surface : public Control {
   }
   void TellRecorders(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
-  double ScaleDivisor() const { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
+  double ScaleDivisor() const noexcept { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
   /// How many rows of the canvas the height covers, partly covered ones included.
-  int Rows() const;
+  int Rows() const noexcept;
 
   Canvas& canvas_;
   std::vector<SurfaceRecorder*> recorders_;

@@ -37,7 +37,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   PassOver([&] { whole = WithoutEnds(call.Rest); });
   // The last comma counts, so that the text may contain commas.
   const int comma = LastPositionOf(whole, ',');
-  std::string parameters(From(whole, comma + 1));
+  std::string parameters(From(whole, comma + 1));  // Never fails.
   const double colour = context_.arguments.WordNumber(parameters, 1);
   const double x = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 2));
   const double y = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 3));

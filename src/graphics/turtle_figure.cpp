@@ -71,7 +71,7 @@ void TurtleFigure::TurtleColorRGB(double red, double green, double blue) {
   SetColour(RGB(ToInt16(red), ToInt16(green), ToInt16(blue)));
 }
 
-void TurtleFigure::SetColour(Colour colour) {
+void TurtleFigure::SetColour(Colour colour) noexcept {
   controls_.Shape2.BorderColor = colour;
   for (LightLine* line : {&controls_.Line1, &controls_.Line2, &controls_.Line3}) line->BorderColor = colour;
 }

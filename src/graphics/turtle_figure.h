@@ -30,7 +30,7 @@ class TurtleFigure {
     bool operator==(const Place&) const = default;
   };
   void MoveTo(const Place& place);
-  void SetColour(Colour colour);
+  void SetColour(Colour colour) noexcept;
 
   Controls& controls_;
   /// Where the figure is; nothing else moves it.

@@ -77,8 +77,8 @@ void TurtlePlaces::MoveHome(double x, double y) {
   turtle.TurtleY = y;
 }
 
-double TurtlePlaces::CentreX() const { return context_.controls.Form1.Width / 2.0; }
+double TurtlePlaces::CentreX() const noexcept { return context_.controls.Form1.Width / 2.0; }
 
-double TurtlePlaces::CentreY() const { return context_.controls.Form1.Height() / 2.0; }
+double TurtlePlaces::CentreY() const noexcept { return context_.controls.Form1.Height() / 2.0; }
 
 }  // namespace zerimo

@@ -23,8 +23,8 @@ class TurtlePlaces {
   void HomeXY();
 
   void MoveHome(double x, double y);
-  double CentreX() const;
-  double CentreY() const;
+  double CentreX() const noexcept;
+  double CentreY() const noexcept;
 
   DrawingContext context_;
 };

@@ -14,7 +14,9 @@ namespace {
 
 constexpr std::string_view Operators = "%-+*/";
 
-bool CutsTokens(char character) { return character == '\r' || Operators.find(character) != std::string_view::npos; }
+bool CutsTokens(char character) noexcept {
+  return character == '\r' || Operators.find(character) != std::string_view::npos;
+}
 
 /// The innermost pair of brackets, leftmost first; a place keeps its value when nothing is found.
 struct BracketPlaces {
@@ -67,7 +69,7 @@ void PerformLeftmost(TokenArray& tokens, std::string_view op, Operation&& operat
 std::int64_t WholeOperand(double value) { return ToInt32(std::floor(value)); }
 
 /// Whether a text is one token that no pass changes, so that its value is that of the token.
-bool IsOneToken(std::string_view expression) {
+bool IsOneToken(std::string_view expression) noexcept {
   if (expression == "%") return false;
   for (std::size_t at = 1; at < expression.size(); ++at) {
     if (CutsTokens(expression[at])) return false;

@@ -11,13 +11,13 @@ namespace zerimo {
 
 namespace {
 
-/// The last component with its leading ".".
+/// The last component with its leading ".". Never fails.
 std::string_view LastComponent(std::string_view path) {
   const int dot = LastPositionOf(path, '.');
   return dot == 0 ? path : From(path, dot);
 }
 
-/// What `CurrentProcedureRemover` leaves, without copying it.
+/// What `CurrentProcedureRemover` leaves, without copying it. Never fails.
 std::string_view WithoutLastComponent(std::string_view path) {
   const int dot = LastPositionOf(path, '.');
   return dot <= 1 || path.find('.') == static_cast<std::size_t>(dot - 1) ? std::string_view(".") : Left(path, dot - 1);
@@ -128,7 +128,7 @@ std::string RecursionChecker(std::string& path) {
   return path;
 }
 
-int RightMostDotPos(std::string_view text) { return LastPositionOf(text, '.'); }
+int RightMostDotPos(std::string_view text) noexcept { return LastPositionOf(text, '.'); }
 
 std::string ForwardCtrlString(std::string_view text) {
   const int dash = LastPositionOf(text, '-');

@@ -20,22 +20,23 @@ class ControlPath {
 
   const std::string& CtrlStr() const;
 
-  /// Sets the path to any text.
+  /// Sets the path to any text. Never fails.
   void SetCtrlStr(std::string text);
 
-  /// Writes a line number after the first part of the path (`FirstPartExtractor`).
+  /// Writes a line number after the first part of the path (`FirstPartExtractor`). Never fails.
   void WriteLine(int line, Lead lead);
 
-  /// A call: the line of the call in place of the last number, then the procedure and its first line.
+  /// A call: the line of the call in place of the last number, then the procedure and its first line. Never fails.
   void Enter(int callLine, std::string_view procedure, int firstLine);
 
-  /// Removes the last component; false if there was only one, so that nothing runs.
+  /// Removes the last component; false if there was only one, so that nothing runs. Never fails.
   bool Leave();
 
   /// The line reached (`EndValExtractor`).
   std::int16_t LineReached() const;
 
   /// Trims the path and drops its last component if it is the same text as the one before it (`RecursionChecker`).
+  /// Never fails.
   void Tidy();
 
   bool NothingRuns() const;
@@ -48,7 +49,7 @@ class ControlPath {
   std::string CurrentProcedureName() const;
 
   /// The same, empty where that fails.
-  const std::string& ProcedureName() const { return procedureName_; }
+  const std::string& ProcedureName() const noexcept { return procedureName_; }
 
  private:
   struct Reached {
@@ -70,7 +71,7 @@ class ControlPath {
   std::optional<Reached> recursionAt_;
 };
 
-/// The text up to and including its last "-"; no "-" gives the empty text.
+/// The text up to and including its last "-"; no "-" gives the empty text. Never fails.
 std::string FirstPartExtractor(std::string_view text);
 
 /// The number after the last "-", rounded; fails (overflow) beyond 16 bits.
@@ -87,7 +88,7 @@ std::string CurrentProcedureRemover(std::string_view path);
 std::string RecursionChecker(std::string& path);
 
 /// The position of the last ".". Nothing calls it.
-int RightMostDotPos(std::string_view text);
+int RightMostDotPos(std::string_view text) noexcept;
 
 /// The text before the last "-", trimmed, then "-", then the number after it plus 1. Nothing calls it.
 std::string ForwardCtrlString(std::string_view text);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::int16_t MostCounted = 32767;
 
+/// The line as a primitive sees it. Never fails.
 PrimitiveCall Split(const std::string& line) {
   const int blank = PositionOf(line, " ");
   const int wordEnd = blank == 0 ? Length(line) : blank;
@@ -25,7 +26,7 @@ PrimitiveCall Split(const std::string& line) {
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) {
+void Dispatch::Bind(Action action, Handler handler) noexcept {
   handlers_[static_cast<std::size_t>(action)] = std::move(handler);
 }
 

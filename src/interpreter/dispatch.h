@@ -38,7 +38,7 @@ class Dispatch {
   explicit Dispatch(Services& services) : services_(services) {}
 
   /// Binds an action to what it does. Without a handler an action does nothing (but for its missing-input test).
-  void Bind(Action action, Handler handler);
+  void Bind(Action action, Handler handler) noexcept;
 
   /// Carries out one line; the caller's text is trimmed.
   void Executor(std::string& commandLine);

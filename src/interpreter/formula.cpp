@@ -139,7 +139,7 @@ std::optional<bool> Formula::Holds(const OperandSource& source) const {
   return Compare(*left, Comparison, *right);
 }
 
-const Operand* Formula::OnlyOperand() const {
+const Operand* Formula::OnlyOperand() const noexcept {
   const bool isOne = Comparison.empty() && Left.size() == 1 && Left[0].size() == 1 && Left[0][0].Factors.size() == 1;
   return isOne ? &Left[0][0].Factors[0] : nullptr;
 }

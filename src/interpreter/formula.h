@@ -23,7 +23,7 @@ struct Operand {
     /// There is nothing before the sign.
     Nothing,
   };
-  bool IsName() const { return What == Kind::Local || What == Kind::Global; }
+  bool IsName() const noexcept { return What == Kind::Local || What == Kind::Global; }
 
   Kind What = Kind::Nothing;
   double Number = 0;
@@ -73,7 +73,7 @@ class Formula {
   std::optional<bool> Holds(const OperandSource& source) const;
 
   /// The operand if the expression is nothing else, otherwise null.
-  const Operand* OnlyOperand() const;
+  const Operand* OnlyOperand() const noexcept;
 };
 
 }  // namespace zerimo

@@ -17,7 +17,7 @@ using Kind = Operand::Kind;
 constexpr char FirstMark = '\x01';
 constexpr char LastMark = '\x08';
 
-bool IsMark(char character) { return character >= FirstMark && character <= LastMark; }
+bool IsMark(char character) noexcept { return character >= FirstMark && character <= LastMark; }
 
 /// The text with its names replaced as the replacers do it, each by a mark.
 class MarkedText {
@@ -33,8 +33,8 @@ class MarkedText {
     return ReplaceGlobals(names);
   }
 
-  const std::string& Text() const { return text_; }
-  const Operand& At(char mark) const { return operands_[static_cast<std::size_t>(mark - FirstMark)]; }
+  const std::string& Text() const noexcept { return text_; }
+  const Operand& At(char mark) const noexcept { return operands_[static_cast<std::size_t>(mark - FirstMark)]; }
 
  private:
   bool ReplaceCoordinates() {
@@ -110,10 +110,10 @@ class SideReader {
   }
 
  private:
-  bool NextIs(std::string_view characters) const {
+  bool NextIs(std::string_view characters) const noexcept {
     return !rest_.empty() && characters.find(rest_.front()) != std::string_view::npos;
   }
-  char Take() {
+  char Take() noexcept {
     const char character = rest_.front();
     rest_.remove_prefix(1);
     return character;
@@ -177,7 +177,7 @@ class SideReader {
 };
 
 /// The comparison at the front of a text, or empty. "==" compares nothing and stays literal.
-std::string_view ComparisonAt(std::string_view text) {
+std::string_view ComparisonAt(std::string_view text) noexcept {
   for (const std::string_view comparison : {"<=", ">=", "!=", "<", ">", "!", "="}) {
     if (text.starts_with(comparison)) return comparison;
   }

@@ -22,9 +22,9 @@ class Formulas {
   Formulas(const Variables& variables, const OperandSource& source, const ControlPath& controlPath)
       : variables_(variables), source_(source), controlPath_(controlPath) {}
 
-  /// The value of an expression, if literal evaluation is known to give the same.
+  /// The value of an expression, if literal evaluation is known to give the same. Never fails.
   std::optional<double> Value(std::string_view expression);
-  /// The same for a condition.
+  /// The same for a condition. Never fails.
   std::optional<bool> Holds(std::string_view condition);
   /// The formula itself, or nothing.
   const Formula* Of(std::string_view text);

@@ -78,12 +78,12 @@ bool Holds(const Keyword& keyword, std::string_view line, std::string_view tail)
   return tail.empty();
 }
 
-bool HasAny(std::string_view word, std::string_view characters) {
+bool HasAny(std::string_view word, std::string_view characters) noexcept {
   return word.find_first_of(characters) != std::string_view::npos;
 }
 
 /// The class of a line of one word that is not a keyword.
-StatementClass ClassOfWord(std::string_view word, StatementClass soFar) {
+StatementClass ClassOfWord(std::string_view word, StatementClass soFar) noexcept {
   constexpr std::string_view cannotLead = "*/%\\";
   if (cannotLead.find(word.front()) != std::string_view::npos) return soFar;
   // The second test overwrites the first: a word with both kinds of operators is a relation.

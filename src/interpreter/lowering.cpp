@@ -20,7 +20,9 @@ std::size_t Checked(int index, int last) {
   return static_cast<std::size_t>(index - 1);
 }
 
-bool IsRepeatLine(const std::string& line) { return line.starts_with("REPEAT ") || Contains(line, "#REPEAT "); }
+bool IsRepeatLine(const std::string& line) noexcept {
+  return line.starts_with("REPEAT ") || Contains(line, "#REPEAT ");
+}
 
 /// What one round of splitting found.
 struct Cut {
@@ -215,7 +217,7 @@ void Lowering::RefreshRootArray(const LineList& lines) {
   for (const std::string& line : behind) store_.SetLine(target++, line);
 }
 
-void Lowering::ForgetNames() {
+void Lowering::ForgetNames() noexcept {
   RepeatCounterName.clear();
   RepeatLabelName.clear();
 }

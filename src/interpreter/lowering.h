@@ -21,8 +21,8 @@ class BodyArray {
   const std::string& At(int index) const;
   void Set(int index, std::string statement);
   /// Makes it the text ".".
-  void BecomeDot() { dot_ = true; }
-  bool IsDot() const { return dot_; }
+  void BecomeDot() noexcept { dot_ = true; }
+  bool IsDot() const noexcept { return dot_; }
 
  private:
   std::array<std::string, LastIndex> statements_;
@@ -73,7 +73,7 @@ class Lowering {
   void RefreshRootArray(const LineList& lines);
 
   /// Forgets the names used so far, for the diagnosis panel's refresh.
-  void ForgetNames();
+  void ForgetNames() noexcept;
 
  private:
   Store& store_;

@@ -8,10 +8,10 @@ namespace {
 
 constexpr std::string_view Comparisons = "><=!";
 
-bool IsComparison(char character) { return Comparisons.find(character) != std::string_view::npos; }
+bool IsComparison(char character) noexcept { return Comparisons.find(character) != std::string_view::npos; }
 
 /// The number of comparison characters before the first carriage return.
-int CountComparisons(std::string_view expression) {
+int CountComparisons(std::string_view expression) noexcept {
   int count = 0;
   for (const char character : expression) {
     if (character == '\r') break;
@@ -22,7 +22,7 @@ int CountComparisons(std::string_view expression) {
 
 }  // namespace
 
-bool Compare(double left, std::string_view op, double right) {
+bool Compare(double left, std::string_view op, double right) noexcept {
   if (op == "<") return left < right;
   if (op == ">") return left > right;
   if (op == "<=") return left <= right;

@@ -13,6 +13,6 @@ namespace zerimo {
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic);
 
 /// Whether a comparison ("<", ">", "<=", ">=", "!", "!=", "=") holds; "==" never does.
-bool Compare(double left, std::string_view comparison, double right);
+bool Compare(double left, std::string_view comparison, double right) noexcept;
 
 }  // namespace zerimo

@@ -41,6 +41,7 @@ class Runner {
   void ActOnGoto(Walk& walk);
   void ActOnLabel(Walk& walk);
   void ActOnEndIf(Walk& walk);
+  /// Never fails: it ends within the store.
   void ActOnElse(Walk& walk);
   void ActOnExpression(Walk& walk, std::string_view word);
 

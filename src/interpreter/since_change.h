@@ -31,7 +31,7 @@ class SinceChange {
 
 struct TextHash {
   using is_transparent = void;
-  std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+  std::size_t operator()(std::string_view text) const noexcept { return std::hash<std::string_view>{}(text); }
 };
 
 /// A map from texts to values; a look-up copies no text.

@@ -30,7 +30,7 @@ SlotForm::SlotForm(std::string_view slot) {
   if (number != 0 || !std::signbit(number)) Number = number;
 }
 
-std::string_view NamePart(std::string_view slot) {
+std::string_view NamePart(std::string_view slot) noexcept {
   const auto equals = slot.find('=');
   if (equals == std::string_view::npos) return slot;
   const bool isNumeric = slot.find_first_not_of("0123456789.E+-", equals + 1) == std::string_view::npos;

@@ -25,13 +25,13 @@ struct SlotForm {
 
 /// The part of a slot's text that decides which searches find it: all of it, or, if its value is a number, the text up
 /// to the "=".
-std::string_view NamePart(std::string_view slot);
+std::string_view NamePart(std::string_view slot) noexcept;
 
 /// The state of the names in all slots, as a number: throughout one run of the system, equal numbers mean the same
 /// names in the same slots.
 class NameStates {
  public:
-  std::uint64_t Now() const { return now_; }
+  std::uint64_t Now() const noexcept { return now_; }
 
   /// A slot, counted from 0, gets another name part.
   void Change(std::size_t slot, std::string_view name);

@@ -25,7 +25,7 @@ class WorkingCopy {
     if (lines_.size() == SweepLines) throw Failure(FailureKind::SubscriptOutOfRange);
     lines_.push_back(line);
   }
-  const std::vector<std::string>& Lines() const { return lines_; }
+  const std::vector<std::string>& Lines() const noexcept { return lines_; }
 
  private:
   std::vector<std::string> lines_;

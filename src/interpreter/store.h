@@ -39,7 +39,7 @@ class Store {
   StatementClass ClassOf(int number) const { return FormOf(number).Class; }
 
   /// Counts the changes of lines: what is derived from several lines is valid as long as this stays the same.
-  std::uint64_t Changes() const { return changes_; }
+  std::uint64_t Changes() const noexcept { return changes_; }
 
   /// `GiveWord` for the first word of a line, in place: the line is trimmed and gets one blank at its end. Fails like
   /// `GiveWord`.

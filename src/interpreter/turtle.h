@@ -30,7 +30,7 @@ struct Turtle {
   double TurtleDir = 0;
   /// Surface units per turtle step.
   double Resolution = 50;
-  TurtleBounds FenceMode = Bounds::Window;
+  TurtleBounds FenceMode = TurtleBounds::Window;
   PenPosition PenState = PenPosition::Down;
   /// Colour code 0 to 15.
   std::uint8_t PenColor = 15;

@@ -21,12 +21,14 @@ constexpr std::string_view NotInNames = "()0123456789.+-*/%<>=! []";
 constexpr std::string_view ExpressionAlphabet = ")(0123456789.+-*/%<>=![]";
 constexpr std::string_view Delimiters = "\r+-*/\\%><= ()[]!";
 
-bool IsOneOf(std::string_view characters, char character) {
+bool IsOneOf(std::string_view characters, char character) noexcept {
   return characters.find(character) != std::string_view::npos;
 }
 
 /// Whether a character is a delimiter or the end of the text.
-bool IsDelimiter(std::string_view character) { return character.empty() || IsOneOf(Delimiters, character.front()); }
+bool IsDelimiter(std::string_view character) noexcept {
+  return character.empty() || IsOneOf(Delimiters, character.front());
+}
 
 /// Whether a slot, with a mark in front, contains the mark and the key.
 bool SlotContains(char mark, const std::string& slot, const std::string& key) {
@@ -267,13 +269,13 @@ void Variables::CloseSlot(int number) {
   if (last < SlotCount) usedUpTo_ = last - 1;
 }
 
-bool Variables::SpacePresent() const { return deletedSlots_ > 0; }
+bool Variables::SpacePresent() const noexcept { return deletedSlots_ > 0; }
 
 std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
   for (const int slot : LocalsOfProcedure()) {
-    const std::string& local = Slot(slot);
+    const std::string& local = Slot(slot);  // Never fails: it was found.
     PassOver([&] {
       const int dot = PositionOf(local, ".");
       name = Mid(local, dot + 1, PositionOf(local, "=") - dot - 1);
@@ -323,7 +325,7 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
 void Variables::ReadGlobal(const std::string& name, double& value) const {
   const int number = GlobalSlot(name);
   if (number == 0) return;
-  const std::string& slot = Slot(number);
+  const std::string& slot = Slot(number);  // Never fails: it was found.
   PassOver([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
 }
 
@@ -412,7 +414,7 @@ std::string VariableFinder(std::string& expression) {
   return expression.substr(begin, expression.find_first_of(NotInNames, begin) - begin);
 }
 
-bool VariablePresent(std::string_view expression) {
+bool VariablePresent(std::string_view expression) noexcept {
   return expression.find_first_not_of(ExpressionAlphabet) != std::string_view::npos;
 }
 

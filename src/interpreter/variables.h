@@ -44,7 +44,7 @@ class Variables : OperandSource {
   /// Closes deleted slots; always fails (subscript) after closing one, and never returns if only slots above 100 are
   /// deleted.
   void SpaceRemoverFromVariableArray();
-  bool SpacePresent() const;
+  bool SpacePresent() const noexcept;
 
   /// The text with the locals of the running procedure replaced, trimmed.
   std::string VarValReplacer(std::string& expression) const;
@@ -61,17 +61,17 @@ class Variables : OperandSource {
   /// The number of the first slot that is free or deleted; fails (subscript) if there is none.
   int FirstOpenSlot() const;
 
-  bool HasFreeSlot() const { return freeSlots_ != 0; }
+  bool HasFreeSlot() const noexcept { return freeSlots_ != 0; }
 
   /// The slots up to the first free one that hold entries of a procedure.
   const std::vector<int>& SlotsOfProcedure(const std::string& name) const;
 
   /// What is derived from a slot's text.
-  const SlotForm& FormOf(int number) const { return forms_[static_cast<std::size_t>(number - 1)]; }
+  const SlotForm& FormOf(int number) const noexcept { return forms_[static_cast<std::size_t>(number - 1)]; }
 
   /// The number of the current state of all names: what a search has found is valid in the same state. Values that are
   /// numbers do not count.
-  std::uint64_t Names() const { return names_.Now(); }
+  std::uint64_t Names() const noexcept { return names_.Now(); }
 
   /// The names that a text is read with now; nothing if a search for them would never end.
   std::optional<NamesInUse> InUse() const;
@@ -83,7 +83,7 @@ class Variables : OperandSource {
   std::optional<std::string> TextOf(const Operand& operand) const;
 
   /// The formulas of the texts that are evaluated with these variables.
-  Formulas& Known() const { return formulas_; }
+  Formulas& Known() const noexcept { return formulas_; }
 
   /// Sets all slots to one blank and shows them all in `List2`.
   void ForgetAll();
@@ -115,9 +115,11 @@ class Variables : OperandSource {
   void SetValue(int number, const std::string& value);
   bool CloseDeletedSlots();
   void CloseSlot(int number);
+  /// Never fails: with no free slot it never returns.
   std::vector<int> LocalsOfProcedure() const;
   /// Whether a scan goes on at a slot; never returns past the last slot.
   bool SlotGoesOn(int number) const;
+  /// The slot of a global, or 0. Never fails: with no free slot it never returns.
   int GlobalSlot(std::string_view name) const;
   void ReadGlobal(const std::string& name, double& value) const;
   void KeepFormer(std::size_t index);
@@ -153,7 +155,7 @@ class Variables : OperandSource {
 std::string VariableFinder(std::string& expression);
 
 /// Whether a character outside the expression alphabet is in the text.
-bool VariablePresent(std::string_view expression);
+bool VariablePresent(std::string_view expression) noexcept;
 
 /// The text, with a blank at each end, in which the first occurrence of `find` is replaced if it stands between
 /// delimiters. The caller's text gets the blanks too.

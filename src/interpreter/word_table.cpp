@@ -133,7 +133,7 @@ constexpr WordFacts WordTable[] = {
 };
 // clang-format on
 
-constexpr std::array<ActionFacts, ActionCount> DeriveActions() {
+constexpr std::array<ActionFacts, ActionCount> DeriveActions() noexcept {
   std::array<ActionFacts, ActionCount> actions{};
   for (const WordFacts& row : WordTable) {
     if (row.Does == Action::None) continue;
@@ -148,7 +148,7 @@ constexpr std::array<ActionFacts, ActionCount> DeriveActions() {
   return actions;
 }
 
-constexpr std::array<std::string_view, CommandListUsed> DeriveCommandList() {
+constexpr std::array<std::string_view, CommandListUsed> DeriveCommandList() noexcept {
   std::array<std::string_view, CommandListUsed> names{};
   for (const WordFacts& row : WordTable) {
     for (const int place : {row.Place, row.SecondPlace}) {
@@ -192,11 +192,11 @@ static_assert(NoWordHasTwoRows());
 
 }  // namespace
 
-std::span<const WordFacts> AllWords() { return WordTable; }
+std::span<const WordFacts> AllWords() noexcept { return WordTable; }
 
-std::span<const ActionFacts, ActionCount> Actions() { return ActionTable; }
+std::span<const ActionFacts, ActionCount> Actions() noexcept { return ActionTable; }
 
-const ActionFacts& FactsOf(Action action) { return ActionTable[static_cast<std::size_t>(action)]; }
+const ActionFacts& FactsOf(Action action) noexcept { return ActionTable[static_cast<std::size_t>(action)]; }
 
 const WordFacts* FindWord(std::string_view word) {
   const auto* const row = std::ranges::find(WordTable, word, &WordFacts::Word);
@@ -209,6 +209,6 @@ Action ActionOf(std::string_view line) {
   return matches ? row->Does : Action::None;
 }
 
-std::span<const std::string_view> CommandListNames() { return CommandNames; }
+std::span<const std::string_view> CommandListNames() noexcept { return CommandNames; }
 
 }  // namespace zerimo

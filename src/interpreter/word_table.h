@@ -144,7 +144,7 @@ struct WordFacts {
 };
 
 /// The table.
-std::span<const WordFacts> AllWords();
+std::span<const WordFacts> AllWords() noexcept;
 
 /// One action: its names, how they are matched and how a missing input is reported.
 struct ActionFacts {
@@ -159,10 +159,10 @@ struct ActionFacts {
 };
 
 /// All actions in the order of their tests.
-std::span<const ActionFacts, ActionCount> Actions();
+std::span<const ActionFacts, ActionCount> Actions() noexcept;
 
 /// The facts of one action.
-const ActionFacts& FactsOf(Action action);
+const ActionFacts& FactsOf(Action action) noexcept;
 
 /// The facts of a word, or null if the language has no such word.
 const WordFacts* FindWord(std::string_view word);
@@ -174,6 +174,6 @@ Action ActionOf(std::string_view line);
 /// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty.
 inline constexpr int CommandListSize = 100;
 inline constexpr int CommandListUsed = 96;
-std::span<const std::string_view> CommandListNames();
+std::span<const std::string_view> CommandListNames() noexcept;
 
 }  // namespace zerimo
