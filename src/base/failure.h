@@ -46,7 +46,7 @@ struct Stopped {
 /// failure goes on inside it.
 /// Behaviour: docs/interpreter.md, "The skip rule".
 template <typename Statement>
-bool PassOver(Statement&& statement) {
+bool SkipOnFailure(Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
     return true;

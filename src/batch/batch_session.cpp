@@ -106,7 +106,7 @@ void BatchSession::Do(const action::EnterRow& act) {
     return;
   }
   // A hidden row can't have the focus, but Enter works on it all the same.
-  PassOver([&] { form_.controls.Focus.SetFocus(form_.controls.Text1[act.Row]); });
+  SkipOnFailure([&] { form_.controls.Focus.SetFocus(form_.controls.Text1[act.Row]); });
   PressEnter(act.Row);
 }
 

@@ -32,8 +32,8 @@ ProgramOutline::ProgramOutline(std::string_view programText) {
   const auto store = std::make_unique<Store>(list3);
   std::int16_t number = 1;
   // What was filled before the store was full counts.
-  PassOver([&] { FillStore(*store, programText, number); });
-  PassOver([&] {
+  SkipOnFailure([&] { FillStore(*store, programText, number); });
+  SkipOnFailure([&] {
     for (int line = 1; !store->Line(line).empty(); ++line) Take(store->Line(line));
   });
 }

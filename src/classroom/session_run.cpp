@@ -117,10 +117,10 @@ StopPlace SessionRun::WhereItStands(int line, const Play& play) {
   const Form1& form = System();
   StopPlace place = PlaceOfLine(line, play);
   if (form.interpreter.controlPath.CtrlStr() == ".") return place;
-  PassOver([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
+  SkipOnFailure([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  PassOver([&] {
+  SkipOnFailure([&] {
     storeLine_ = EndValExtractor(form.interpreter.controlPath.CtrlStr());
     place.Statement = StatementOf(form.interpreter.store.Line(storeLine_));
   });

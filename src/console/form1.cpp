@@ -139,10 +139,10 @@ void Form1::InitialGraphicsScreen() {
   controls.Picture3.Top = controls.Form1.Height() - controls.Picture3.Height() - BottomStrip;
   for (int row = 0; row < controls.Text1.Size; ++row) {
     controls.Text1[row].Width = controls.Picture3.Width;
-    PassOver([&] { controls.Text1[row].BackColor = RGB(0, 0, ToInt16(200 + 15 * row)); });
-    PassOver([&] { controls.Text1[row].ForeColor = RGB(255, 0, 0); });
+    SkipOnFailure([&] { controls.Text1[row].BackColor = RGB(0, 0, ToInt16(200 + 15 * row)); });
+    SkipOnFailure([&] { controls.Text1[row].ForeColor = RGB(255, 0, 0); });
   }
-  PassOver([&] { controls.Prompt.BackColor = RGB(0, 0, 200); });
+  SkipOnFailure([&] { controls.Prompt.BackColor = RGB(0, 0, 200); });
   controls.Label20[0].Top = 0;
   for (int index = 1; index < controls.Label20.Size; ++index) {
     const Label& above = controls.Label20[index - 1];

@@ -80,8 +80,8 @@ void GeneralPrimitives::Wait(PrimitiveCall& call) {
 }
 
 void GeneralPrimitives::Message(PrimitiveCall& call) {
-  PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
-  PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
+  SkipOnFailure([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
+  SkipOnFailure([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
   if (IsQuoted(call.Rest)) {
     // Leaves: a single quote has nothing between its ends.
     context_.services.MessageBox(WithoutEnds(call.Rest));
@@ -113,9 +113,9 @@ void GeneralPrimitives::TwoInputs(PrimitiveCall& call, Action action) {
   const double a = context_.arguments.WordNumber(call.Rest, 1);
   // The second input is whole: 2.5 counts as 2 and 3.5 as 4.
   std::int16_t b = 0;
-  PassOver([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
+  SkipOnFailure([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
   std::string result;
-  PassOver([&] { result = StrTrimmed(ResultOf(action, a, b)); });
+  SkipOnFailure([&] { result = StrTrimmed(ResultOf(action, a, b)); });
   context_.services.MessageBox(result);
 }
 
@@ -126,7 +126,7 @@ void GeneralPrimitives::ArithmeticLine(PrimitiveCall& call) {
 void GeneralPrimitives::RelationLine(PrimitiveCall& call) {
   context_.arguments.ReplaceNames(call.Rest);
   bool holds = false;
-  PassOver([&] { holds = RelationEvaluator(call.Rest, arithmetic_); });
+  SkipOnFailure([&] { holds = RelationEvaluator(call.Rest, arithmetic_); });
   context_.services.MessageBox(holds ? "Result: True" : "Result: False");
 }
 

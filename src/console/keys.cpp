@@ -16,25 +16,25 @@ void Keys::Text1KeyDown(int index, int keyCode) {
       EnterLine(index);
       break;
     case key::F1:
-      PassOver([&] { context_.dispatch.Execute("EDIT"); });
+      SkipOnFailure([&] { context_.dispatch.Execute("EDIT"); });
       break;
     case key::F2:
-      PassOver([&] { context_.dispatch.Execute("SS"); });
+      SkipOnFailure([&] { context_.dispatch.Execute("SS"); });
       break;
     case key::F3:
-      PassOver([&] { context_.dispatch.Execute("TS"); });
+      SkipOnFailure([&] { context_.dispatch.Execute("TS"); });
       break;
     case key::F4:
-      PassOver([&] { context_.dispatch.Execute("FS"); });
+      SkipOnFailure([&] { context_.dispatch.Execute("FS"); });
       break;
     case key::F9:
-      PassOver([&] { AskForProgramFile(); });
+      SkipOnFailure([&] { AskForProgramFile(); });
       break;
     case key::Up:
-      PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + rows - 1) % rows]); });
+      SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + rows - 1) % rows]); });
       break;
     case key::Down:
-      PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % rows]); });
+      SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % rows]); });
       break;
     default:
       break;
@@ -45,15 +45,15 @@ void Keys::EnterLine(int index) {
   const int lastRow = context_.controls.Text1.Size - 1;
   std::string typed = UpperCase(Trimmed(context_.controls.Text1[index].Text));
   std::string line;
-  PassOver([&] { line = SpaceFilter(typed); });
+  SkipOnFailure([&] { line = SpaceFilter(typed); });
   typedLines_.LastTypedLine = line;
   if (!line.empty() && line != " ") {
     context_.controls.List4.Add("?" + line);
     if (index == lastRow) ScrollRows();
   }
-  PassOver([&] { typedLines_.ComplexExecutor(line); });
+  SkipOnFailure([&] { typedLines_.ComplexExecutor(line); });
   if (index != lastRow)
-    PassOver(
+    SkipOnFailure(
         [&] { context_.controls.Focus.SetFocus(context_.controls.Text1[(index + 1) % context_.controls.Text1.Size]); });
 }
 
@@ -62,7 +62,7 @@ void Keys::ScrollRows() {
   for (int row = 0; row < lastRow; ++row) context_.controls.Text1[row].Text = context_.controls.Text1[row + 1].Text;
   context_.controls.Text1[lastRow].Text.clear();
   // To the box for the line width, not to the row. Unless the diagnosis panel is open, that is refused and ignored.
-  PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
+  SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
 }
 
 void Keys::ClosePanels() noexcept {
@@ -116,7 +116,7 @@ void Keys::Form1KeyDown(int keyCode) {
 }
 
 void Keys::Timer2Tick() {
-  PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[0]); });
+  SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[0]); });
   context_.controls.Timer2.Enabled = false;
 }
 

@@ -23,20 +23,20 @@ void ScreenModes::RestoreSplitScreen() {
 
 void ScreenModes::FullScreen() {
   context_.controls.Text2.Hide();
-  PassOver([&] { context_.Picture1.SetHeight(context_.controls.Form1.Height()); });
-  PassOver([&] { context_.controls.Image1.SetHeight(context_.Picture1.Height()); });
+  SkipOnFailure([&] { context_.Picture1.SetHeight(context_.controls.Form1.Height()); });
+  SkipOnFailure([&] { context_.controls.Image1.SetHeight(context_.Picture1.Height()); });
   context_.controls.Picture3.Hide();
   context_.controls.List4.Hide();
 }
 
 void ScreenModes::SplitScreen() {
-  PassOver(
+  SkipOnFailure(
       [&] { context_.Picture1.SetHeight(context_.controls.Form1.Height() - context_.controls.Picture3.Height()); });
   context_.controls.Picture3.Show();
   // The loop runs to the end, so that the focus ends on the topmost empty row.
   for (int row = context_.controls.Text1.Size - 1; row >= 0; --row) {
     if (!Trimmed(context_.controls.Text1[row].Text).empty()) continue;
-    PassOver([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[row]); });
+    SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[row]); });
   }
   context_.controls.Text2.Hide();
   context_.controls.List4.Hide();
@@ -45,8 +45,9 @@ void ScreenModes::SplitScreen() {
 void ScreenModes::TextScreen() {
   context_.controls.List4.Show();
   context_.controls.Text2.Hide();
-  PassOver([&] { context_.Picture1.SetHeight(context_.controls.Screen.Height - context_.controls.Picture3.Height()); });
-  PassOver([&] { DefinedStatement(store_, context_.controls.List3, context_.controls.List4); });
+  SkipOnFailure(
+      [&] { context_.Picture1.SetHeight(context_.controls.Screen.Height - context_.controls.Picture3.Height()); });
+  SkipOnFailure([&] { DefinedStatement(store_, context_.controls.List3, context_.controls.List4); });
 }
 
 void ScreenModes::ClearText() {
@@ -78,7 +79,7 @@ void ScreenModes::Show(const PrimitiveCall& call) {
     context_.controls.Timer4.Enabled = false;
     context_.dispatch.DetailsOn = true;
   }
-  if (word == "PROCEDURE") PassOver([&] { files_.saving.ShowProcedure(); });
+  if (word == "PROCEDURE") SkipOnFailure([&] { files_.saving.ShowProcedure(); });
   if (word == "DEVELOPER" || word == "DEVELOPERS") ShowDeveloper();
   if (word == "GRID") {
     context_.controls.Line5.Show();

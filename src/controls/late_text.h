@@ -20,7 +20,6 @@ class LateText {
 
   /// The text is what the source gives, until another text is assigned or `Keep` is called.
   void Follow(Source source) noexcept { source_ = std::move(source); }
-  bool Follows() const noexcept { return source_ != nullptr; }
 
   /// Keeps what the source gives now.
   void Keep() {

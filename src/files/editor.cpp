@@ -9,10 +9,10 @@ namespace zerimo {
 
 void Editor::Bind() {
   interpreter_.dispatch.Bind(Action::Edit, [this](PrimitiveCall&) {
-    PassOver([&] { controls_.List4.Hide(); });
-    PassOver([&] { controls_.Text2.Show(); });
-    PassOver([&] { controls_.Focus.SetFocus(controls_.Text2); });
-    PassOver([&] { controls_.Picture3.Hide(); });
+    SkipOnFailure([&] { controls_.List4.Hide(); });
+    SkipOnFailure([&] { controls_.Text2.Show(); });
+    SkipOnFailure([&] { controls_.Focus.SetFocus(controls_.Text2); });
+    SkipOnFailure([&] { controls_.Picture3.Hide(); });
   });
 }
 

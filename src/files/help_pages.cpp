@@ -20,7 +20,7 @@ void HelpPages::Bind() {
 }
 
 void HelpPages::Open(PrimitiveCall& call) {
-  PassOver([&] { SetFolder(); });
+  SkipOnFailure([&] { SetFolder(); });
   const std::string argument = call.Rest;
   call.OnFailure = [this, argument] { context_.services.MessageBox("Help is not available for " + argument); };
   try {

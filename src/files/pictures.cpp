@@ -37,27 +37,27 @@ void Pictures::SavePicture(PrimitiveCall& call) {
   // Even if the name has a folder, unlike in the other primitives.
   call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   call.Rest += ".Bmp";
-  PassOver([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest)); });
+  SkipOnFailure([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest)); });
 }
 
 void Pictures::LoadPicture(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, Action::LoadPicture)) return;
   // The folder goes before NONE too, so NONE clears nothing: it is a file name like any other.
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
-  for (const char* ending : EndingsTried) PassOver([&] { ShowPicture(call.Rest + ending); });
+  for (const char* ending : EndingsTried) SkipOnFailure([&] { ShowPicture(call.Rest + ending); });
 }
 
 void Pictures::SlideShow(PrimitiveCall& call) {
   std::string base;
   std::string interval;
-  PassOver([&] { base = GiveWord(call.Rest, 1); });
-  PassOver([&] { interval = GiveWord(call.Rest, 2); });
+  SkipOnFailure([&] { base = GiveWord(call.Rest, 1); });
+  SkipOnFailure([&] { interval = GiveWord(call.Rest, 2); });
   if (base.empty() || interval.empty()) return;
   context_.controls.Timer3.Enabled = true;
   // The only place that does not use a backslash.
   SlideBaseName = context_.folders.AppFolder + "/" + base;
   const double milliseconds = context_.interpreter.arguments.Number(interval);
-  PassOver([&] { context_.controls.Timer3.Interval = ToInt16(milliseconds); });
+  SkipOnFailure([&] { context_.controls.Timer3.Interval = ToInt16(milliseconds); });
 }
 
 void Pictures::Timer3Tick() {

@@ -35,8 +35,8 @@ void ProgramFiles::Load(PrimitiveCall& call) {
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   FileLoad(call.Rest);
   // Even if the file could not be loaded.
-  PassOver([&] { context_.interpreter.variables.CreateGlobalVariable(); });
-  PassOver([&] { context_.interpreter.lowering.RemoveAllRepeats(); });
+  SkipOnFailure([&] { context_.interpreter.variables.CreateGlobalVariable(); });
+  SkipOnFailure([&] { context_.interpreter.lowering.RemoveAllRepeats(); });
 }
 
 void ProgramFiles::FileLoad(const std::string& nameOfTheFileWithoutExtension) {
@@ -62,7 +62,7 @@ void ProgramFiles::MakeArray(const std::string& file) {
 
 void ProgramFiles::ShowOpen() {
   std::string name;
-  PassOver([&] { name = Trimmed(context_.services.ShowOpen()); });
+  SkipOnFailure([&] { name = Trimmed(context_.services.ShowOpen()); });
   if (name.empty()) return;
   const std::string ending = EndingInCapitals(name);
   if (IsProgramName(name)) {
@@ -70,19 +70,19 @@ void ProgramFiles::ShowOpen() {
   } else if (ending == ".JPG" || ending == ".BMP" || ending == ".GIF") {
     OpenPicture(name);
   } else {
-    PassOver([&] { context_.services.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
+    SkipOnFailure([&] { context_.services.MessageBox("Invalid File Format", box::Critical, "Zerimo"); });
   }
 }
 
 void ProgramFiles::OpenProgram(const std::string& name) {
   // A blank after the question mark, unlike in the entries of typed lines.
-  PassOver([&] { context_.controls.List4.Add("? LOAD " + name); });
-  PassOver([&] { context_.interpreter.dispatch.Execute("LOAD " + name); });
+  SkipOnFailure([&] { context_.controls.List4.Add("? LOAD " + name); });
+  SkipOnFailure([&] { context_.interpreter.dispatch.Execute("LOAD " + name); });
 }
 
 void ProgramFiles::OpenPicture(const std::string& name) {
-  PassOver([&] { pictures_.ShowPicture(name); });
-  PassOver([&] { context_.controls.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
+  SkipOnFailure([&] { pictures_.ShowPicture(name); });
+  SkipOnFailure([&] { context_.controls.List4.Add("? LOADPICTURE " + UpperCase(WithoutEnding(name))); });
 }
 
 }  // namespace zerimo

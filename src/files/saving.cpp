@@ -21,11 +21,11 @@ constexpr const char* LineBreak = "\r\n";
 
 void Saving::ShowSaveAs() {
   std::string name;
-  PassOver([&] { name = context_.services.ShowSave("Zerimo File(.ZRM)"); });
+  SkipOnFailure([&] { name = context_.services.ShowSave("Zerimo File(.ZRM)"); });
   if (Trimmed(name).empty()) return;
   // A full stop anywhere counts, even in a folder's name.
   if (!Contains(name, ".")) name += ".ZRM";
-  PassOver([&] { SaveAs(name); });
+  SkipOnFailure([&] { SaveAs(name); });
 }
 
 void Saving::SaveAs(const std::string& saveAsFileName) {
@@ -40,7 +40,7 @@ void Saving::SaveFromEditor() {
 }
 
 void Saving::ShowProcedure() {
-  PassOver([&] { context_.services.MessageBox(context_.interpreter.store.ProcedureListInStringForm()); });
+  SkipOnFailure([&] { context_.services.MessageBox(context_.interpreter.store.ProcedureListInStringForm()); });
 }
 
 std::optional<fs::path> Saving::RescueEditorText(const std::vector<fs::path>& others) const {
@@ -48,13 +48,13 @@ std::optional<fs::path> Saving::RescueEditorText(const std::vector<fs::path>& ot
   if (text.empty()) return std::nullopt;
   const Folders& folders = context_.folders;
   const std::string name = folders.AppFolder + "\\" + RescuedName;
-  if (PassOver([&] { folders.WriteFile(name, text); })) return folders.ToRead(name);
+  if (SkipOnFailure([&] { folders.WriteFile(name, text); })) return folders.ToRead(name);
   for (const fs::path& folder : others) {
     std::error_code error;
     const bool isNew = fs::create_directories(folder, error);
     // Others may be able to look into the parent folder.
     if (isNew) fs::permissions(folder, fs::perms::owner_all, error);
-    if (PassOver([&] { WriteBeside(folder / RescuedName, text); })) return folder / RescuedName;
+    if (SkipOnFailure([&] { WriteBeside(folder / RescuedName, text); })) return folder / RescuedName;
   }
   return std::nullopt;
 }

@@ -13,9 +13,9 @@ constexpr int LatticeStep = 50;
 /// Sets one colour of the five rows, of the prompt and of the text screen, each in a statement of its own.
 template <typename Statement>
 void ForEachTextControl(Controls& controls, Statement&& statement) {
-  for (int row = 0; row < controls.Text1.Size; ++row) PassOver([&] { statement(controls.Text1[row]); });
-  PassOver([&] { statement(controls.Prompt); });
-  PassOver([&] { statement(controls.List4); });
+  for (int row = 0; row < controls.Text1.Size; ++row) SkipOnFailure([&] { statement(controls.Text1[row]); });
+  SkipOnFailure([&] { statement(controls.Prompt); });
+  SkipOnFailure([&] { statement(controls.List4); });
 }
 
 }  // namespace
@@ -33,13 +33,13 @@ void Colours::SetPC(PrimitiveCall& call) {
   Turtle& turtle = context_.turtle;
   Surface& surface = context_.Picture1;
   const double number = context_.arguments.Number(call.Rest);
-  PassOver([&] { turtle.PenColor = ToByte(ColourCode(number)); });
+  SkipOnFailure([&] { turtle.PenColor = ToByte(ColourCode(number)); });
   if (turtle.PenState == PenPosition::Down || turtle.PenState == PenPosition::Up) {
-    PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
+    SkipOnFailure([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
   }
   // Before the first SETBG the background's colour is not a code: this fails then, and the pen goes on erasing.
-  if (turtle.PenState == PenPosition::Erase) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
-  PassOver([&] {
+  if (turtle.PenState == PenPosition::Erase) SkipOnFailure([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
+  SkipOnFailure([&] {
     double code = number;
     turtleFigure_.TurtleColor(code);
   });
@@ -53,10 +53,10 @@ void Colours::SetBG(PrimitiveCall& call) {
   Surface& surface = context_.Picture1;
   const double number = context_.arguments.Number(call.Rest);
   // A negative code is kept, and every use of it fails until the next SETBG.
-  PassOver([&] { turtle.BGColor = ColourCode(number); });
-  PassOver([&] { surface.SetBackColor(QBColor(turtle.BGColor)); });
-  if (turtle.PenState == PenPosition::Down) PassOver([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
-  if (turtle.PenState == PenPosition::Erase) PassOver([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
+  SkipOnFailure([&] { turtle.BGColor = ColourCode(number); });
+  SkipOnFailure([&] { surface.SetBackColor(QBColor(turtle.BGColor)); });
+  if (turtle.PenState == PenPosition::Down) SkipOnFailure([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
+  if (turtle.PenState == PenPosition::Erase) SkipOnFailure([&] { surface.SetForeColor(QBColor(turtle.BGColor)); });
   SelectSquare(number);
   context_.controls.Label15.Caption = "Setbg " + Str(number);
 }
@@ -82,8 +82,8 @@ void Colours::SelectSquare(double number) {
   Controls& controls = context_.controls;
   const auto square = [&]() -> const Label& { return controls.Label13[ToInt16(number)]; };
   for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
-    PassOver([&] { frame->Left = square().Left; });
-    PassOver([&] { frame->Top = square().Top; });
+    SkipOnFailure([&] { frame->Left = square().Left; });
+    SkipOnFailure([&] { frame->Top = square().Top; });
   }
 }
 

@@ -29,10 +29,10 @@ void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
   context_.Picture1.SetScaleMode(Pixels);  // Never fails.
   const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
-  PassOver([&] {
+  SkipOnFailure([&] {
     (this->*procedure)(ToInt16(turtle.TurtleX / UnitsPerPixel), ToInt16(turtle.TurtleY / UnitsPerPixel), color);
   });
-  PassOver([&] { context_.dispatch.RefreshSurface(); });
+  SkipOnFailure([&] { context_.dispatch.RefreshSurface(); });
 }
 
 void FloodFills::FloodFill(std::int16_t x, std::int16_t y, double color) {
@@ -48,12 +48,12 @@ void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFi
   Surface& surface = context_.Picture1;
   surface.SetScaleMode(Pixels);
   surface.SetFillStyle(Solid);
-  PassOver(std::forward<SetFillColor>(setFillColor));
-  PassOver([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
+  SkipOnFailure(std::forward<SetFillColor>(setFillColor));
+  SkipOnFailure([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
   surface.SetScaleMode(SurfaceUnits);
   // What FILLSTYLE and FILL had set is not restored: circles are outlines from now on.
   surface.SetFillStyle(Transparent);
-  PassOver([&] { context_.dispatch.RefreshSurface(); });
+  SkipOnFailure([&] { context_.dispatch.RefreshSurface(); });
 }
 
 }  // namespace zerimo

@@ -64,11 +64,11 @@ void Motion::MoveBy(double distance) {
   Turtle& turtle = context_.turtle;
   double newX = 0;
   double newY = 0;
-  PassOver([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
-  PassOver([&] { newY = Finite(turtle.TurtleY - distance * std::cos(-turtle.TurtleDir)); });
+  SkipOnFailure([&] { newX = Finite(turtle.TurtleX - distance * std::sin(-turtle.TurtleDir)); });
+  SkipOnFailure([&] { newY = Finite(turtle.TurtleY - distance * std::cos(-turtle.TurtleDir)); });
   // If the test fails, the move goes on.
   bool admitted = true;
-  PassOver([&] { admitted = AdmitsMove(newX, newY); });
+  SkipOnFailure([&] { admitted = AdmitsMove(newX, newY); });
   if (!admitted) return Refuse();
   DrawTo(newX, newY);
   turtle.TurtleX = newX;
@@ -94,7 +94,7 @@ void Motion::Left(PrimitiveCall& call) {
 
 void Motion::Turn(double degrees) {
   Turtle& turtle = context_.turtle;
-  PassOver([&] { turtle.TurtleDir = Finite(turtle.TurtleDir + degrees * TurnPi / 180); });
+  SkipOnFailure([&] { turtle.TurtleDir = Finite(turtle.TurtleDir + degrees * TurnPi / 180); });
 }
 
 void Motion::SetX(PrimitiveCall& call) {
@@ -102,7 +102,7 @@ void Motion::SetX(PrimitiveCall& call) {
   Turtle& turtle = context_.turtle;
   const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
-  PassOver([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
+  SkipOnFailure([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
   if (!AdmitsSetX(target)) return Refuse();
   DrawTo(target, turtle.TurtleY);
   turtle.TurtleX = target;
@@ -117,7 +117,7 @@ void Motion::SetY(PrimitiveCall& call) {
   Turtle& turtle = context_.turtle;
   const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
-  PassOver([&] { target = Finite(context_.controls.Form1.Height() / 2.0 - distance); });
+  SkipOnFailure([&] { target = Finite(context_.controls.Form1.Height() / 2.0 - distance); });
   if (!AdmitsSetY(target)) return Refuse();
   DrawTo(turtle.TurtleX, target);
   turtle.TurtleY = target;
@@ -135,11 +135,11 @@ void Motion::SetXY(PrimitiveCall& call) {
   const double centreX = context_.Picture1.Width / 2.0;
   const double centreY = context_.controls.Form1.Height() / 2.0;
   double targetX = 0;
-  PassOver([&] { targetX = Finite(dx + centreX); });
+  SkipOnFailure([&] { targetX = Finite(dx + centreX); });
   const std::int16_t targetY = WholeNumber(centreY - dy);
   if (!AdmitsSetXY(targetX, targetY)) return Refuse();
   DrawTo(targetX, targetY);
-  PassOver([&] { turtle.TurtleX = Finite(centreX + dx); });
+  SkipOnFailure([&] { turtle.TurtleX = Finite(centreX + dx); });
   // Not rounded: the turtle may be half a unit away from the end of its line.
   turtle.TurtleY = centreY - dy;
 }
@@ -153,7 +153,7 @@ bool Motion::AdmitsSetXY(double x, double y) const noexcept {
 void Motion::DrawTo(double x, double y) {
   const Turtle& turtle = context_.turtle;
   if (turtle.PenState == PenPosition::Up) return;
-  PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+  SkipOnFailure([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
 }
 
 void Motion::Refuse() { context_.services.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
@@ -172,7 +172,7 @@ void Motion::Pen() {
 
 void Motion::PenDown() {
   context_.turtle.PenState = PenPosition::Down;
-  PassOver([&] { context_.Picture1.SetForeColor(QBColor(context_.turtle.PenColor)); });
+  SkipOnFailure([&] { context_.Picture1.SetForeColor(QBColor(context_.turtle.PenColor)); });
 }
 
 void Motion::PenErase() {
@@ -200,13 +200,13 @@ void Motion::ShowFigure(bool visible) noexcept {
 void Motion::LineWidth(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::LineWidth)) return;
   const double width = context_.arguments.Number(call.Rest);
-  PassOver([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
+  SkipOnFailure([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
 }
 
 void Motion::DrawMode(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::DrawMode)) return;
   const double mode = context_.arguments.Number(call.Rest);
-  PassOver([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
+  SkipOnFailure([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
 }
 
 void Motion::ClearScreen() {

@@ -45,7 +45,7 @@ void Palette::Picture1Click() {
   int row = 0;
   while (row < controls.Text1.Size - 1 && !Trimmed(controls.Text1[row].Text).empty()) ++row;
   // In full screen the rows are hidden and the focus is refused: the system goes on.
-  PassOver([&] { controls.Focus.SetFocus(controls.Text1[row]); });
+  SkipOnFailure([&] { controls.Focus.SetFocus(controls.Text1[row]); });
   controls.Timer2.Enabled = true;
 }
 

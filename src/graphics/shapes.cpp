@@ -16,7 +16,7 @@ constexpr double EllipseTurn = 6.2831853;
 /// The remainder by 256, with the number's sign.
 std::int16_t ColourPart(double number) {
   std::int16_t part = 0;
-  PassOver([&] { part = static_cast<std::int16_t>(ToInt32(number) % 256); });
+  SkipOnFailure([&] { part = static_cast<std::int16_t>(ToInt32(number) % 256); });
   return part;
 }
 
@@ -54,8 +54,9 @@ void Shapes::Point(PrimitiveCall& call) {
   const std::int16_t green = ColourPart(Word(call, 2));
   // Blue is not reduced: outside 0 to 255 it counts as 0.
   std::uint8_t blue = 0;
-  PassOver([&] { blue = ToByte(Word(call, 3)); });
-  PassOver([&] { context_.Picture1.PSet(context_.turtle.TurtleX, context_.turtle.TurtleY, RGB(red, green, blue)); });
+  SkipOnFailure([&] { blue = ToByte(Word(call, 3)); });
+  SkipOnFailure(
+      [&] { context_.Picture1.PSet(context_.turtle.TurtleX, context_.turtle.TurtleY, RGB(red, green, blue)); });
 }
 
 void Shapes::Dot(PrimitiveCall& call) {
@@ -63,7 +64,7 @@ void Shapes::Dot(PrimitiveCall& call) {
   const std::int16_t y = WholeStepsToUnits(context_.turtle, Word(call, 2));
   if (PenIsUp()) return;
   // In the pen's colour code, so that a dot shows even if the pen erases.
-  PassOver([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.turtle.PenColor)); });
+  SkipOnFailure([&] { context_.Picture1.PSet(CentreX() + x, CentreY() - y, QBColor(context_.turtle.PenColor)); });
 }
 
 void Shapes::Circle(PrimitiveCall& call) {
@@ -71,7 +72,7 @@ void Shapes::Circle(PrimitiveCall& call) {
   const double y = Units(call, 2);
   const std::int16_t radius = WholeStepsToUnits(context_.turtle, Word(call, 3));
   if (PenIsUp()) return;
-  PassOver([&] { context_.Picture1.Circle(CentreX() + x, context_.controls.Screen.Height / 2.0 - y, radius); });
+  SkipOnFailure([&] { context_.Picture1.Circle(CentreX() + x, context_.controls.Screen.Height / 2.0 - y, radius); });
 }
 
 void Shapes::Line(PrimitiveCall& call) {
@@ -82,7 +83,7 @@ void Shapes::Line(PrimitiveCall& call) {
   const std::int16_t y2 = WholeNumber(Word(call, 4));
   const std::int16_t endY = WholeNumber(CentreY() - y2 * context_.turtle.Resolution);
   if (PenIsUp()) return;
-  PassOver([&] { context_.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
+  SkipOnFailure([&] { context_.Picture1.Line(CentreX() + x1, CentreY() - y1, CentreX() + x2, endY); });
 }
 
 void Shapes::LineRGB(PrimitiveCall& call) { InOutlineColour(call, 5, &Shapes::Line); }
@@ -100,7 +101,7 @@ void Shapes::EllipseWithAngle(PrimitiveCall& call, int angleWord) {
   const double halfHeight = Units(call, 4);
   const std::int16_t degrees = WholeNumber(Word(call, angleWord));
   if (PenIsUp()) return;
-  PassOver([&] {
+  SkipOnFailure([&] {
     DrawEllipse(ToSingle(CentreX() + x), ToSingle(CentreY() - y), ToSingle(halfWidth), ToSingle(halfHeight), degrees);
   });
 }
@@ -140,7 +141,7 @@ void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing&
 void Shapes::StampCircle(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::StampCircle)) return;
   const double radius = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
-  PassOver([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, radius); });
+  SkipOnFailure([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, radius); });
 }
 
 void Shapes::StampOval(PrimitiveCall& call) {
@@ -149,17 +150,18 @@ void Shapes::StampOval(PrimitiveCall& call) {
   double longer = StepsToUnits(context_.turtle, width);
   const double high = StepsToUnits(context_.turtle, height);
   double aspect = 0;
-  PassOver([&] { aspect = Divide(high, longer); });
-  if (high > longer) PassOver([&] { longer = Divide(longer, Divide(longer, high)); });
+  SkipOnFailure([&] { aspect = Divide(high, longer); });
+  if (high > longer) SkipOnFailure([&] { longer = Divide(longer, Divide(longer, high)); });
   if (width == 0 || height == 0) return;
-  PassOver([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, longer / 2, aspect); });
+  SkipOnFailure(
+      [&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, longer / 2, aspect); });
 }
 
 void Shapes::StampRect(PrimitiveCall& call) {
   const Turtle& turtle = context_.turtle;
   const double x = Units(call, 1) / 2;
   const double y = Units(call, 2) / 2;
-  PassOver(
+  SkipOnFailure(
       [&] { context_.Picture1.Box(turtle.TurtleX - x, turtle.TurtleY - y, turtle.TurtleX + x, turtle.TurtleY + y); });
 }
 
@@ -181,13 +183,13 @@ void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
 void Shapes::Fill(PrimitiveCall& call) {
   const double number = context_.arguments.Number(call.Rest);
   std::int32_t code = 0;
-  PassOver([&] { code = ColourCode(number); });
-  PassOver([&] { context_.Picture1.SetFillColor(QBColor(code)); });
+  SkipOnFailure([&] { code = ColourCode(number); });
+  SkipOnFailure([&] { context_.Picture1.SetFillColor(QBColor(code)); });
 }
 
 void Shapes::FillStyle(PrimitiveCall& call) {
   const std::int32_t number = LongNumber(context_.arguments.Number(call.Rest));
-  PassOver([&] { context_.Picture1.SetFillStyle(number % 8); });
+  SkipOnFailure([&] { context_.Picture1.SetFillStyle(number % 8); });
 }
 
 double Shapes::Word(PrimitiveCall& call, int nthWord) const {

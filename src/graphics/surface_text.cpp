@@ -17,13 +17,13 @@ void SurfaceText::Bind() {
 void SurfaceText::TextSize(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextSize)) return;
   const double size = context_.arguments.Number(call.Rest);
-  PassOver([&] { context_.Picture1.SetFontSize(size); });
+  SkipOnFailure([&] { context_.Picture1.SetFontSize(size); });
 }
 
 void SurfaceText::Write(PrimitiveCall& call) {
   BeginAtTurtle();
   if (IsQuoted(call.Rest)) {
-    PassOver([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
+    SkipOnFailure([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
   } else {
     const double number = context_.arguments.Number(call.Rest);
     context_.Picture1.Print(Str(number));
@@ -34,7 +34,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   Surface& surface = context_.Picture1;
   BeginAtTurtle();
   std::string whole;
-  PassOver([&] { whole = WithoutEnds(call.Rest); });
+  SkipOnFailure([&] { whole = WithoutEnds(call.Rest); });
   // The last comma counts, so that the text may contain commas.
   const int comma = LastPositionOf(whole, ',');
   std::string parameters(From(whole, comma + 1));  // Never fails.
@@ -42,26 +42,26 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   const double x = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 2));
   const double y = StepsToUnits(context_.turtle, context_.arguments.WordNumber(parameters, 3));
   const double size = context_.arguments.WordNumber(parameters, 4);
-  PassOver([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
+  SkipOnFailure([&] { surface.SetCurrentX(surface.Width / 2.0 + x); });
   // Only here does the height of the surface itself give the centre.
-  PassOver([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
-  PassOver([&] { surface.SetFontSize(size); });
+  SkipOnFailure([&] { surface.SetCurrentY(surface.Height() / 2.0 - y); });
+  SkipOnFailure([&] { surface.SetFontSize(size); });
   std::string text;
-  PassOver([&] { text = std::string(Left(whole, comma - 1)); });
+  SkipOnFailure([&] { text = std::string(Left(whole, comma - 1)); });
   PrintInColour(text, colour);
 }
 
 void SurfaceText::PrintInColour(const std::string& text, double colour) {
   Surface& surface = context_.Picture1;
   const Colour saved = surface.ForeColor();
-  PassOver([&] { surface.SetForeColor(ToInt32(colour)); });
+  SkipOnFailure([&] { surface.SetForeColor(ToInt32(colour)); });
   surface.Print(text);
   surface.SetForeColor(saved);
 }
 
 void SurfaceText::BeginAtTurtle() {
-  PassOver([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
-  PassOver([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
+  SkipOnFailure([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
+  SkipOnFailure([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
 }
 
 }  // namespace zerimo

@@ -72,7 +72,7 @@ void TurtlePlaces::MoveHome(double x, double y) {
   Turtle& turtle = context_.turtle;
   // The fence is not tested: the centre is always allowed.
   if (turtle.PenState != PenPosition::Up)
-    PassOver([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
+    SkipOnFailure([&] { context_.Picture1.Line(turtle.TurtleX, turtle.TurtleY, x, y); });
   turtle.TurtleX = x;
   turtle.TurtleY = y;
 }

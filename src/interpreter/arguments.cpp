@@ -16,19 +16,19 @@ double Arguments::Number(std::string_view input) const {
 
 double Arguments::WordNumber(std::string& rest, int nthWord) const {
   std::string word;
-  PassOver([&] { word = GiveWord(rest, nthWord); });
+  SkipOnFailure([&] { word = GiveWord(rest, nthWord); });
   return Number(word);
 }
 
 void Arguments::ReplaceNames(std::string& text) const {
-  PassOver([&] { text = variables_.ReplaceXcorAndYcor(text); });
-  PassOver([&] { text = variables_.VarValReplacer(text); });
-  PassOver([&] { text = variables_.GlobalVariableReplacer(text); });
+  SkipOnFailure([&] { text = variables_.ReplaceXcorAndYcor(text); });
+  SkipOnFailure([&] { text = variables_.VarValReplacer(text); });
+  SkipOnFailure([&] { text = variables_.GlobalVariableReplacer(text); });
 }
 
 double Arguments::Evaluate(std::string text) const {
   double value = 0;
-  PassOver([&] { value = arithmetic_.ArithmeticEvaluator(text); });
+  SkipOnFailure([&] { value = arithmetic_.ArithmeticEvaluator(text); });
   return value;
 }
 

@@ -57,7 +57,7 @@ std::optional<ControlPath::Reached> ControlPath::ReadReached(std::string_view te
 void ControlPath::HeadHasChanged() {
   procedureName_.clear();
   recursionAt_.reset();
-  PassOver([&] { procedureName_ = CurrentProcedureName(); });
+  SkipOnFailure([&] { procedureName_ = CurrentProcedureName(); });
   if (!reached_) return;
   const std::string_view last = LastComponent(head_);
   const std::string_view before = LastComponent(WithoutLastComponent(head_));
@@ -96,7 +96,7 @@ void ControlPath::Tidy() {
   if (isAsWritten && reached_ != recursionAt_) return;
   if (CtrlStr() == "1") SetCtrlStr(".");
   std::string text(Trimmed(CtrlStr()));
-  PassOver([&] { text = RecursionChecker(text); });
+  SkipOnFailure([&] { text = RecursionChecker(text); });
   SetCtrlStr(std::move(text));
 }
 

@@ -77,10 +77,11 @@ std::string FirstPartExtractor(std::string_view text);
 /// The number after the last "-", rounded; fails (overflow) beyond 16 bits.
 std::int16_t EndValExtractor(std::string_view text);
 
-/// The trimmed characters before the first blank, or all of them.
+/// The trimmed characters before the first blank, or all of them. Nothing calls it.
 std::string GetProcNameFromProcedureCall(std::string_view procedureCall);
 
-/// The path without its last component; "." if the text holds one "." or none.
+/// The path without its last component; "." if the text holds one "." or none. Nothing
+/// calls it: `RecursionChecker` needs no copy.
 std::string CurrentProcedureRemover(std::string_view path);
 
 /// Drops the last component if it is the same text as the one before it, so that a recursion does not lengthen the

@@ -40,7 +40,7 @@ void Dispatch::Execute(const std::string& line, Action action) {
   PrimitiveCall call = Split(line);
   if (action != Action::None) {
     const Handler& handler = handlers_[static_cast<std::size_t>(action)];
-    PassOver([&] {
+    SkipOnFailure([&] {
       if (handler) {
         handler(call);
       } else {
@@ -85,7 +85,7 @@ void Dispatch::CountFails(const PrimitiveCall& call) {
 }
 
 bool Dispatch::TailStatement(const PrimitiveCall& call, const std::function<void()>& statement) {
-  if (PassOver(statement) || !call.OnFailure) return true;
+  if (SkipOnFailure(statement) || !call.OnFailure) return true;
   call.OnFailure();
   return false;
 }

@@ -29,10 +29,10 @@ LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)) {
       Condition = From(line, PositionOf(line, " ") + 1);
       break;
     case StmtCall:
-      PassOver([&] { Call.emplace(line); });
+      SkipOnFailure([&] { Call.emplace(line); });
       break;
     case StmtTo:
-      PassOver([&] { Header.emplace(WordsOfHeader(line)); });
+      SkipOnFailure([&] { Header.emplace(WordsOfHeader(line)); });
       break;
     default:
       break;

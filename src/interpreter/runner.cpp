@@ -64,7 +64,7 @@ Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs
 void Runner::Run1(std::string_view procedure) {
   ShownPath shown(Label19, controlPath_);
   Walk walk;
-  PassOver([&] { walk.Line = store_.WhereProcedure(procedure); });
+  SkipOnFailure([&] { walk.Line = store_.WhereProcedure(procedure); });
   if (walk.Line == 0) return;
   controlPath_.SetCtrlStr(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
   shown.Follow();
@@ -72,12 +72,12 @@ void Runner::Run1(std::string_view procedure) {
     // A walk past the end of the store has nothing left to run.
     while (!controlPath_.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
       watch_.Step();
-      PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
+      SkipOnFailure([&] { walk.Class = store_.ClassOf(walk.Line); });
       Act(walk);
     }
   } catch (const StopRun&) {
     for (std::string& name : ProceduresOn(controlPath_.CtrlStr())) {
-      PassOver([&] { inputs_.DeleteLocalVariable(name); });
+      SkipOnFailure([&] { inputs_.DeleteLocalVariable(name); });
     }
     controlPath_.SetCtrlStr(".");
   }
@@ -86,7 +86,7 @@ void Runner::Run1(std::string_view procedure) {
 void Runner::Act(Walk& walk) {
   switch (walk.Class) {
     case StmtPrimitive:
-      PassOver([&] {
+      SkipOnFailure([&] {
         store_.TrimLine(walk.Line);
         dispatch_.Execute(store_.Line(walk.Line), store_.FormOf(walk.Line).Primitive);
       });
@@ -109,7 +109,7 @@ void Runner::Act(Walk& walk) {
       break;
     case StmtIf:
       // A condition that fails leaves the line counter: the IF runs again, for ever if it always fails.
-      PassOver([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
+      SkipOnFailure([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
       controlPath_.WriteLine(walk.Line, Lead::Blank);
       break;
     case StmtEndIf:
@@ -119,7 +119,7 @@ void Runner::Act(Walk& walk) {
       ActOnElse(walk);
       break;
     case StmtMake:
-      PassOver([&] { variables_.Make(walk.Line); });
+      SkipOnFailure([&] { variables_.Make(walk.Line); });
       Advance(walk);
       break;
     case StmtArithmetic:
@@ -135,16 +135,16 @@ void Runner::Act(Walk& walk) {
 void Runner::Advance(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::Blank); }
 
 void Runner::ActOnCall(Walk& walk) {
-  PassOver([&] { walk.Name = store_.TakeFirstWord(walk.Line); });
+  SkipOnFailure([&] { walk.Name = store_.TakeFirstWord(walk.Line); });
   int callee = 0;
-  PassOver([&] { callee = store_.WhereProcedure(walk.Name); });
+  SkipOnFailure([&] { callee = store_.WhereProcedure(walk.Name); });
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
     controlPath_.SetCtrlStr(controlPath_.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
-  PassOver([&] { inputs_.CreateLocalVariable(walk.Line); });
+  SkipOnFailure([&] { inputs_.CreateLocalVariable(walk.Line); });
   const int call = walk.Line;
   walk.Line = callee + 1;
   controlPath_.Enter(call, walk.Name, walk.Line);
@@ -153,18 +153,18 @@ void Runner::ActOnCall(Walk& walk) {
 void Runner::ActOnTo(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::None); }
 
 void Runner::ActOnEnd(Walk& walk) {
-  PassOver([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
+  SkipOnFailure([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
   if (controlPath_.Leave()) {
-    PassOver([&] { walk.Line = controlPath_.LineReached() + 1; });
+    SkipOnFailure([&] { walk.Line = controlPath_.LineReached() + 1; });
     controlPath_.WriteLine(walk.Line, Lead::None);
   }
-  PassOver([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
+  SkipOnFailure([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
   std::string_view label;
-  PassOver([&] { label = From(store_.Line(walk.Line), 6); });
-  PassOver([&] { walk.Line = conditionals_.LabelPos(label); });
+  SkipOnFailure([&] { label = From(store_.Line(walk.Line), 6); });
+  SkipOnFailure([&] { walk.Line = conditionals_.LabelPos(label); });
   if (walk.Line == 0) {
     services_.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
     walk.Over = true;
@@ -175,7 +175,7 @@ void Runner::ActOnGoto(Walk& walk) {
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
-  PassOver([&] { walk.Line = controlPath_.LineReached() + 1; });
+  SkipOnFailure([&] { walk.Line = controlPath_.LineReached() + 1; });
   controlPath_.WriteLine(walk.Line, Lead::None);
 }
 
@@ -208,7 +208,7 @@ void Runner::ActOnElse(Walk& walk) {
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
   // Here alone the tidying comes before the act.
   controlPath_.Tidy();
-  PassOver([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
+  SkipOnFailure([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
   Advance(walk);
 }
 

@@ -276,12 +276,12 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   std::string value;
   for (const int slot : LocalsOfProcedure()) {
     const std::string& local = Slot(slot);  // Never fails: it was found.
-    PassOver([&] {
+    SkipOnFailure([&] {
       const int dot = PositionOf(local, ".");
       name = Mid(local, dot + 1, PositionOf(local, "=") - dot - 1);
     });
-    PassOver([&] { value = From(local, PositionOf(local, "=") + 1); });
-    PassOver([&] { expression = Textreplace(expression, name, value); });
+    SkipOnFailure([&] { value = From(local, PositionOf(local, "=") + 1); });
+    SkipOnFailure([&] { expression = Textreplace(expression, name, value); });
   }
   Trim(expression);
   return expression;
@@ -299,7 +299,7 @@ std::vector<int> Variables::LocalsOfProcedure() const {
 
 bool Variables::SlotGoesOn(int number) const {
   bool goesOn = true;
-  PassOver([&] { goesOn = !Slot(number).empty(); });
+  SkipOnFailure([&] { goesOn = !Slot(number).empty(); });
   // With no free slot the scan runs past the last one and never ends.
   while (number > SlotCount) watch_.Tick();
   return goesOn;
@@ -326,7 +326,7 @@ void Variables::ReadGlobal(const std::string& name, double& value) const {
   const int number = GlobalSlot(name);
   if (number == 0) return;
   const std::string& slot = Slot(number);  // Never fails: it was found.
-  PassOver([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
+  SkipOnFailure([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
 }
 
 int Variables::GlobalSlot(std::string_view name) const {

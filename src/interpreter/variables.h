@@ -35,14 +35,14 @@ class Variables : OperandSource {
   void CreateGlobalVariable();
 
   /// Carries out the `MAKE` on a line of the store. Fails as its value does, and (subscript) after it has closed a
-  /// deleted slot or with no free one.
+  /// deleted slot or with no free one. Nothing calls it: the runner has `Make`.
   void VariableUpdate(int lineNumber);
 
   /// The same, but returns false where `VariableUpdate` fails after its work is done.
   bool Make(int lineNumber);
 
   /// Closes deleted slots; always fails (subscript) after closing one, and never returns if only slots above 100 are
-  /// deleted.
+  /// deleted. Nothing calls it: `Make` closes them itself.
   void SpaceRemoverFromVariableArray();
   bool SpacePresent() const noexcept;
 

@@ -171,8 +171,7 @@ const WordFacts* FindWord(std::string_view word);
 /// action leaves the line and its word alone.
 Action ActionOf(std::string_view line);
 
-/// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty.
-inline constexpr int CommandListSize = 100;
+/// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty, and nothing is written for them.
 inline constexpr int CommandListUsed = 96;
 std::span<const std::string_view> CommandListNames() noexcept;
 

@@ -31,19 +31,19 @@ INSTANTIATE_TEST_SUITE_P(Kinds, FailureWords,
                                          Told{FailureKind::InvalidPicture, "Invalid picture"},
                                          Told{FailureKind::FocusRefused, "The control can not take the focus"}));
 
-TEST(PassOverTest, TellsThatAStatementWentThrough) {
+TEST(SkipOnFailureTest, TellsThatAStatementWentThrough) {
   int statements = 0;
-  EXPECT_TRUE(PassOver([&] { ++statements; }));
+  EXPECT_TRUE(SkipOnFailure([&] { ++statements; }));
   EXPECT_EQ(statements, 1);
 }
 
-TEST(PassOverTest, SkipsAFailure) {
-  EXPECT_FALSE(PassOver([] { throw Failure(FailureKind::Overflow); }));
+TEST(SkipOnFailureTest, SkipsAFailure) {
+  EXPECT_FALSE(SkipOnFailure([] { throw Failure(FailureKind::Overflow); }));
 }
 
-TEST(PassOverTest, LetsTheEndOfTheSystemAndALimitThrough) {
-  EXPECT_THROW(PassOver([] { throw Ended{"BYE"}; }), Ended);
-  EXPECT_THROW(PassOver([] { throw Stopped{"steps"}; }), Stopped);
+TEST(SkipOnFailureTest, LetsTheEndOfTheSystemAndALimitThrough) {
+  EXPECT_THROW(SkipOnFailure([] { throw Ended{"BYE"}; }), Ended);
+  EXPECT_THROW(SkipOnFailure([] { throw Stopped{"steps"}; }), Stopped);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "claims.h"
 #include "document_examples.h"
 #include "document_links.h"
+#include "document_quotations.h"
 
 namespace zerimo::help {
 
@@ -42,6 +43,14 @@ TEST(DocumentLinks, LeadToFilesAndHeadingsThatAreThere) {
   for (const std::filesystem::path& document : AllDocuments(sourceFolder)) {
     for (const std::string& link : LinksIn(document))
       EXPECT_TRUE(LeadsSomewhere(document, link)) << link << " in " << document.filename();
+  }
+}
+
+TEST(AddingAWord, IsShownWithLinesThatAreThere) {
+  const std::vector<Quotation> quotations = QuotationsIn(sourceFolder / "CONTRIBUTING.md", "## Add a word");
+  EXPECT_EQ(quotations.size(), 8U);
+  for (const Quotation& quotation : quotations) {
+    EXPECT_TRUE(HasLine(sourceFolder / quotation.File, quotation.Line)) << quotation.Line << " in " << quotation.File;
   }
 }
 

@@ -110,7 +110,7 @@ TEST_P(PictureFormats, BrokenInAnyPlaceNeverHang) {
     QByteArray broken = content;
     broken[place] = static_cast<char>(broken[place] ^ 0xFF);
     Write("broken", broken);
-    PassOver([&] { canvas.LoadPicture(Path("broken"), Blue); });
+    SkipOnFailure([&] { canvas.LoadPicture(Path("broken"), Blue); });
     ASSERT_EQ(canvas.Image().size(), QSize(96, 96));
   }
 }

@@ -44,7 +44,7 @@ struct BareInterpreter {
 
   /// Runs a filtered line as a row's Enter key does; returns whether it succeeded.
   bool Type(std::string line) {
-    return PassOver([&] { typedLines.ComplexExecutor(line); });
+    return SkipOnFailure([&] { typedLines.ComplexExecutor(line); });
   }
 
   Controls controls{ScreenSize{}};

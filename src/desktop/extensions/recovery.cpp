@@ -138,7 +138,7 @@ void Recovery::Offer(Form1& form1, RescuedText& rescued) {
   box.setEscapeButton(later);
   session_.Running().Ask(box);
   if (box.clickedButton() == open) Open(form1, rescued);
-  const bool kept = box.clickedButton() == keep && PassOver([&] { WriteBeside(file, rescued.Text); });
+  const bool kept = box.clickedButton() == keep && SkipOnFailure([&] { WriteBeside(file, rescued.Text); });
   if (kept || box.clickedButton() == drop) RescueFolder::Drop(rescued);
 }
 

@@ -38,7 +38,7 @@ void RescueFolder::Claim() {
 
 bool RescueFolder::Write(const std::string& text) {
   if (own_.empty()) Claim();
-  return PassOver([&] { WriteBeside(own_, text); });
+  return SkipOnFailure([&] { WriteBeside(own_, text); });
 }
 
 void RescueFolder::Remove() {

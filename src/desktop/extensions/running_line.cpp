@@ -9,7 +9,7 @@ namespace zerimo {
 
 void RunningLine::Step() {
   int told = 0;
-  PassOver([&] { told = EndValExtractor(form1_.interpreter.controlPath.CtrlStr()); });
+  SkipOnFailure([&] { told = EndValExtractor(form1_.interpreter.controlPath.CtrlStr()); });
   // After an ENDIF the control string is one ahead of the walk.
   const bool isAhead = line_ > 0 && told == line_ + 2 && form1_.interpreter.store.ClassOf(line_) == StmtEndIf;
   line_ = isAhead ? told - 1 : told;

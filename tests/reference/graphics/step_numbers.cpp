@@ -7,13 +7,13 @@ namespace zerimo::reference {
 
 double StepsToUnits(const Turtle& turtle, double steps) {
   double units = 0;
-  PassOver([&] { units = Finite(steps * turtle.Resolution); });
+  SkipOnFailure([&] { units = Finite(steps * turtle.Resolution); });
   return units;
 }
 
 std::int16_t WholeNumber(double number) {
   std::int16_t whole = 0;
-  PassOver([&] { whole = ToInt16(number); });
+  SkipOnFailure([&] { whole = ToInt16(number); });
   return whole;
 }
 
@@ -23,7 +23,7 @@ std::int16_t WholeStepsToUnits(const Turtle& turtle, double steps) {
 
 std::int32_t LongNumber(double number) {
   std::int32_t whole = 0;
-  PassOver([&] { whole = ToInt32(number); });
+  SkipOnFailure([&] { whole = ToInt32(number); });
   return whole;
 }
 

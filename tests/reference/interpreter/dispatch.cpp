@@ -44,7 +44,7 @@ void Dispatch::RunGroup(MatchedBy group, PrimitiveCall& call) {
   for (const ActionFacts& facts : Actions()) {
     if (facts.Match != group || !Matches(facts, call)) continue;
     const Handler& handler = handlers_[static_cast<std::size_t>(facts.Does)];
-    PassOver([&] {
+    SkipOnFailure([&] {
       if (handler) {
         handler(call);
       } else {
@@ -88,7 +88,7 @@ void Dispatch::Tail(const PrimitiveCall& call) {
 }
 
 bool Dispatch::TailStatement(const PrimitiveCall& call, const std::function<void()>& statement) {
-  if (PassOver(statement) || !call.OnFailure) return true;
+  if (SkipOnFailure(statement) || !call.OnFailure) return true;
   call.OnFailure();
   return false;
 }

@@ -130,12 +130,12 @@ void Lowering::RemoveSingleRepeat() {
 std::string Lowering::BodyFinder(int lineNumber) const {
   std::string body;
   int open = 0;
-  PassOver([&] {
+  SkipOnFailure([&] {
     const std::string& line = store_.Line(lineNumber);
     open = PositionOf(line, "[");
     if (open == 0) open = Length(line) + 1;
   });
-  PassOver([&] {
+  SkipOnFailure([&] {
     const std::string& line = store_.Line(lineNumber);
     // The last character is taken for the closing bracket, whatever it is.
     body = Mid(line, open + 1, Length(line) - open - 1);

@@ -28,13 +28,13 @@ Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs
 
 void Runner::Run1(std::string_view procedure) {
   Walk walk;
-  PassOver([&] { walk.Line = store_.WhereProcedure(procedure); });
+  SkipOnFailure([&] { walk.Line = store_.WhereProcedure(procedure); });
   if (walk.Line != 0) {
     SetPath(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
     // A walk past the end of the store has nothing left to run.
     while (!NothingRuns(controlPath_.CtrlStr()) && !walk.Over && walk.Line <= Store::LineCount) {
       watch_.Step();
-      PassOver([&] { walk.Class = store_.ClassOf(walk.Line); });
+      SkipOnFailure([&] { walk.Class = store_.ClassOf(walk.Line); });
       Act(walk);
     }
   }
@@ -50,7 +50,7 @@ void Runner::SetPath(std::string text) {
 void Runner::Act(Walk& walk) {
   switch (walk.Class) {
     case StmtPrimitive:
-      PassOver([&] {
+      SkipOnFailure([&] {
         store_.TrimLine(walk.Line);
         dispatch_.Execute(store_.Line(walk.Line));
       });
@@ -73,7 +73,7 @@ void Runner::Act(Walk& walk) {
       break;
     case StmtIf:
       // A condition that fails leaves the line counter: the IF runs again, for ever if it always fails.
-      PassOver([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
+      SkipOnFailure([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
       WriteLineBlank(walk.Line);
       break;
     case StmtEndIf:
@@ -83,7 +83,7 @@ void Runner::Act(Walk& walk) {
       ActOnElse(walk);
       break;
     case StmtMake:
-      PassOver([&] { variables_.VariableUpdate(walk.Line); });
+      SkipOnFailure([&] { variables_.VariableUpdate(walk.Line); });
       Advance(walk);
       break;
     case StmtArithmetic:
@@ -102,19 +102,19 @@ void Runner::Advance(Walk& walk) {
 }
 
 void Runner::ActOnCall(Walk& walk) {
-  PassOver([&] {
+  SkipOnFailure([&] {
     LentLine line(store_, walk.Line);
     walk.Name = GiveWord(line.Text, 1);
   });
   int callee = 0;
-  PassOver([&] { callee = store_.WhereProcedure(walk.Name); });
+  SkipOnFailure([&] { callee = store_.WhereProcedure(walk.Name); });
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
     SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
-  PassOver([&] { inputs_.CreateLocalVariable(store_.Line(walk.Line)); });
+  SkipOnFailure([&] { inputs_.CreateLocalVariable(store_.Line(walk.Line)); });
   SetPath(FirstPartExtractor(controlPath_.CtrlStr()) + Str(walk.Line) + "." + walk.Name);
   walk.Line = callee + 1;
   SetPath(controlPath_.CtrlStr() + "-" + Str(walk.Line));
@@ -126,23 +126,23 @@ void Runner::ActOnTo(Walk& walk) {
 }
 
 void Runner::ActOnEnd(Walk& walk) {
-  PassOver([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
+  SkipOnFailure([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
   const int dot = LastPositionOf(controlPath_.CtrlStr(), '.');
   if (dot <= 1) {
     SetPath(".");
   } else {
     SetPath(std::string(Left(controlPath_.CtrlStr(), dot - 1)));
-    PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
+    SkipOnFailure([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
     WriteLinePlain(walk.Line);
   }
-  PassOver([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
+  SkipOnFailure([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
   const std::string firstPart = FirstPartExtractor(controlPath_.CtrlStr());
   std::string label;
-  PassOver([&] { label = From(store_.Line(walk.Line), 6); });
-  PassOver([&] { walk.Line = conditionals_.LabelPos(label); });
+  SkipOnFailure([&] { label = From(store_.Line(walk.Line), 6); });
+  SkipOnFailure([&] { walk.Line = conditionals_.LabelPos(label); });
   if (walk.Line == 0) {
     services_.MessageBox("UnDeclared Label: " + label + " in Goto Statement");
     walk.Over = true;
@@ -153,7 +153,7 @@ void Runner::ActOnGoto(Walk& walk) {
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
-  PassOver([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
+  SkipOnFailure([&] { walk.Line = EndValExtractor(controlPath_.CtrlStr()) + 1; });
   WriteLinePlain(walk.Line);
 }
 
@@ -186,14 +186,14 @@ void Runner::ActOnElse(Walk& walk) {
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
   // Here alone the tidying comes before the act.
   Tidy();
-  PassOver([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
+  SkipOnFailure([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
   Advance(walk);
 }
 
 void Runner::Tidy() {
   if (controlPath_.CtrlStr() == "1") SetPath(".");
   std::string text(Trimmed(controlPath_.CtrlStr()));
-  PassOver([&] { text = RecursionChecker(text); });
+  SkipOnFailure([&] { text = RecursionChecker(text); });
   SetPath(std::move(text));
 }
 

@@ -185,12 +185,12 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
   for (const std::string& local : LocalsOfProcedure()) {
-    PassOver([&] {
+    SkipOnFailure([&] {
       const int dot = PositionOf(local, ".");
       name = Mid(local, dot + 1, PositionOf(local, "=") - dot - 1);
     });
-    PassOver([&] { value = From(local, PositionOf(local, "=") + 1); });
-    PassOver([&] { expression = Textreplace(expression, name, value); });
+    SkipOnFailure([&] { value = From(local, PositionOf(local, "=") + 1); });
+    SkipOnFailure([&] { expression = Textreplace(expression, name, value); });
   }
   Trim(expression);
   return expression;
@@ -198,7 +198,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
 
 std::vector<std::string> Variables::LocalsOfProcedure() const {
   std::string name;
-  PassOver([&] { name = controlPath_.CurrentProcedureName(); });
+  SkipOnFailure([&] { name = controlPath_.CurrentProcedureName(); });
   const std::string key = name + ".";
   std::vector<std::string> locals;
   // What does not fit is ignored, and the scan goes on: without a free slot it never ends.
@@ -210,7 +210,7 @@ std::vector<std::string> Variables::LocalsOfProcedure() const {
 
 bool Variables::SlotGoesOn(int number) const {
   bool goesOn = true;
-  PassOver([&] { goesOn = !Slot(number).empty(); });
+  SkipOnFailure([&] { goesOn = !Slot(number).empty(); });
   // With no free slot the scan runs past the last one and never ends.
   while (number > SlotCount) watch_.Tick();
   return goesOn;
@@ -238,7 +238,7 @@ void Variables::ReadGlobal(const std::string& name, double& value) const {
   for (int number = 1; SlotGoesOn(number); ++number) {
     const std::string& slot = Slot(number);
     if (!SlotContains('$', slot, key)) continue;
-    PassOver([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
+    SkipOnFailure([&] { value = RoundToDecimals(Val(From(slot, PositionOf(slot, "=") + 1)), 2); });
     return;
   }
 }
