@@ -19,7 +19,7 @@ void Place(Control& control, float left, float top, float width, float height) {
 
 Colour QBColor(int code) {
   if (code < 0 || code > 15) throw Failure(FailureKind::InvalidArgument);
-  return ColourTable[static_cast<std::size_t>(code)];
+  return ColoursOfCodes[static_cast<std::size_t>(code)];
 }
 
 Colour RGB(std::int16_t red, std::int16_t green, std::int16_t blue) {
