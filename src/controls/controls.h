@@ -111,7 +111,7 @@ struct Controls {
 };
 
 /// The sixteen colours by their codes.
-inline constexpr std::array<Colour, 16> ColourTable = {
+inline constexpr std::array<Colour, 16> ColoursOfCodes = {
     0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080, 0xC0C0C0,
     0x808080, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF,
 };
