@@ -16,8 +16,8 @@ class Watch {
 /// Watches nothing.
 class NoWatch final : public Watch {
  public:
-  void Step() noexcept override {}
-  void Tick() noexcept override {}
+  void Step() override {}
+  void Tick() override {}
 };
 
 }  // namespace zerimo

@@ -6,15 +6,15 @@
 
 namespace zerimo {
 
-void EmptyCanvas::Create(int width, int height, Colour background) noexcept {
+void EmptyCanvas::Create(int width, int height, Colour background) {
   columns_ = width;
   rows_ = height;
   colour_ = background;
 }
 
-void EmptyCanvas::Clear(Colour background) noexcept { colour_ = background; }
+void EmptyCanvas::Clear(Colour background) { colour_ = background; }
 
-std::optional<Colour> EmptyCanvas::ColourAt(PixelPoint at) const noexcept {
+std::optional<Colour> EmptyCanvas::ColourAt(PixelPoint at) const {
   if (at.X < 0 || at.Y < 0 || at.X >= columns_ || at.Y >= rows_) return std::nullopt;
   return colour_;
 }

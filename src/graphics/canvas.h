@@ -78,15 +78,15 @@ class Canvas {
 /// A canvas without pixels: every point has the background colour, every picture file that exists can be loaded.
 class EmptyCanvas : public Canvas {
  public:
-  void Create(int width, int height, Colour background) noexcept override;
-  void Clear(Colour background) noexcept override;
-  void Line(const Stroke&, PixelPoint, PixelPoint) noexcept override {}
-  void Box(const Stroke&, const Filling&, PixelPoint, PixelPoint) noexcept override {}
-  void Ellipse(const Stroke&, const Filling&, PixelPoint, double, double) noexcept override {}
-  void Point(const Stroke&, PixelPoint) noexcept override {}
-  std::optional<Colour> ColourAt(PixelPoint at) const noexcept override;
-  void FloodFill(PixelPoint, Colour, int) noexcept override {}
-  void Print(std::string_view, PixelPoint, double, Colour) noexcept override {}
+  void Create(int width, int height, Colour background) override;
+  void Clear(Colour background) override;
+  void Line(const Stroke&, PixelPoint, PixelPoint) override {}
+  void Box(const Stroke&, const Filling&, PixelPoint, PixelPoint) override {}
+  void Ellipse(const Stroke&, const Filling&, PixelPoint, double, double) override {}
+  void Point(const Stroke&, PixelPoint) override {}
+  std::optional<Colour> ColourAt(PixelPoint at) const override;
+  void FloodFill(PixelPoint, Colour, int) override {}
+  void Print(std::string_view, PixelPoint, double, Colour) override {}
   void LoadPicture(const std::filesystem::path& file, Colour background) override;
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;
 
