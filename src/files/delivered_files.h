@@ -17,8 +17,8 @@ struct Delivery {
 /// - a new file is added unless one of that name, in any case, exists;
 /// - a file that the user has not changed is updated from its source;
 /// - a file that the user has changed stays as it is;
-/// - a sample, picture or slide that the user has deleted stays deleted; a help page is added again. Nothing is ever
-/// removed. A source that does not exist delivers nothing.
+/// - a sample, picture or slide that the user has deleted stays deleted; a help page is added again.
+/// Nothing is ever removed. A source that does not exist delivers nothing.
 Delivery DeliverFiles(const std::filesystem::path& source, const std::filesystem::path& target);
 
 /// The folder of the help pages in a folder that is delivered from or to.

@@ -7,8 +7,8 @@
 
 namespace zerimo {
 
-/// The control string: the dotted path of the active procedures with the line reached in each, such as ".#TEMP$7-
-/// 5.BOX- 3". "." means that nothing runs. It is the only call stack.
+/// The control string: the dotted path of the active procedures with the line reached in each, such as
+/// ".#TEMP$7- 5.BOX- 3". "." means that nothing runs. It is the only call stack.
 /// Behaviour: docs/interpreter.md, "The control string".
 ///
 /// The path is a head, which ends with its last "-", and the line number after it; the text is made when it is read. A
@@ -44,7 +44,7 @@ class ControlPath {
   /// Name of the procedure whose locals are being made or removed.
   std::string CurProcName;
 
-  /// The name of the procedure that is running: what stands between the last "." and the last "-", trimmed; empty for
+  /// The name of the procedure that is running: the text between the last "." and the last "-", trimmed; empty for
   /// ".". Fails (invalid argument) if there is no such stretch.
   std::string CurrentProcedureName() const;
 

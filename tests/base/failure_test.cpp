@@ -18,7 +18,9 @@ void PrintTo(const Told& one, std::ostream* out) { *out << Quoted(one.Words); }
 
 class FailureWords : public testing::TestWithParam<Told> {};
 
-TEST_P(FailureWords, AreToldAtTheEndOfTheProgram) { EXPECT_STREQ(Failure(GetParam().Kind).what(), GetParam().Words); }
+TEST_P(FailureWords, AreReportedAtTheEndOfTheProgram) {
+  EXPECT_STREQ(Failure(GetParam().Kind).what(), GetParam().Words);
+}
 
 INSTANTIATE_TEST_SUITE_P(Kinds, FailureWords,
                          testing::Values(Told{FailureKind::SubscriptOutOfRange, "Subscript out of range"},

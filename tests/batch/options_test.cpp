@@ -9,7 +9,7 @@
 namespace zerimo::batch {
 namespace {
 
-TEST(Options, StandAsToldWithoutArguments) {
+TEST(Options, HaveTheirDefaultsWithoutArguments) {
   const Options options = ParseOptions({});
   EXPECT_EQ(options.What, Options::Wish::Run);
   EXPECT_EQ(options.SessionFile, "-");
@@ -62,7 +62,7 @@ void PrintTo(const BadUsage& one, std::ostream* out) { *out << testing::PrintToS
 
 class BadOptions : public testing::TestWithParam<BadUsage> {};
 
-TEST_P(BadOptions, AreToldInOneLine) {
+TEST_P(BadOptions, AreReportedInOneLine) {
   try {
     ParseOptions(GetParam().Arguments);
     FAIL() << "taken";

@@ -117,7 +117,7 @@ TEST_F(BatchProgramTest, RefusesPlacesThatCanNotBeWritten) {
   EXPECT_EQ(run.Errors, "zerimo-batch: no/folder/p.png: the picture can not be written\n");
 }
 
-TEST_F(BatchProgramTest, FullDiskIsTold) {
+TEST_F(BatchProgramTest, FullDiskIsReported) {
   const ProgramRun run = program.Run("--transcript /dev/full", "PD\n");
   EXPECT_EQ(run.Status, 1);
   EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");

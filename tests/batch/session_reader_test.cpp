@@ -161,7 +161,7 @@ TEST_F(SessionReaderTest, SelectTakesTheWholeEntry) {
   EXPECT_EQ(Only<action::SelectEntry>("@select File1 FD").List, &FormControls().File1);
 }
 
-TEST_F(SessionReaderTest, TickIsOnceIfNotTold) {
+TEST_F(SessionReaderTest, TickIsOnceIfNoNumberIsGiven) {
   EXPECT_EQ(Only<action::Tick>("@tick Timer3").Times, 1);
   EXPECT_EQ(Only<action::Tick>("@tick Timer4 7").Times, 7);
   EXPECT_EQ(Only<action::Tick>("@tick Timer3").Ticking, &FormControls().Timer3);
@@ -206,7 +206,7 @@ void PrintTo(const BadLine& one, std::ostream* out) { *out << Quoted(one.Line); 
 
 class BadSession : public SessionReaderTest, public testing::WithParamInterface<BadLine> {};
 
-TEST_P(BadSession, IsToldWithItsLine) {
+TEST_P(BadSession, IsReportedWithItsLine) {
   try {
     Read(std::string("FD 10\n\n") + GetParam().Line + "\nRT 90\n");
     FAIL() << "taken";

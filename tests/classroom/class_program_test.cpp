@@ -40,7 +40,7 @@ TEST_F(ClassProgramTest, ASessionBesideTheProgramRunsIt) {
   EXPECT_EQ(Pupil("BOX.ZRM").value("session").toString(), "box.session");
 }
 
-TEST_F(ClassProgramTest, WhatIsWrongInASessionIsToldWithItsLine) {
+TEST_F(ClassProgramTest, WhatIsWrongInASessionIsReportedWithItsLine) {
   Write("BOX.ZRM", "");
   Write("BOX.session", "PD\n@frobnicate\n");
   Write("A.ZRM", "");
@@ -68,7 +68,7 @@ TEST_F(ClassProgramTest, LimitsStopAProgramAndTellWhere) {
   EXPECT_TRUE(QStringList({"REPEAT", "PD", "ENDIF"}).contains(statement)) << statement.toStdString();
 }
 
-TEST_F(ClassProgramTest, AMissingEndIsToldBesideWhatCameOfIt) {
+TEST_F(ClassProgramTest, AMissingEndIsReportedBesideWhatCameOfIt) {
   Write("SPIN.ZRM", "TO SPIN|REPEAT 2 [FD 1]|");
   Write("SPIN.session", "LOAD SPIN\nSPIN\n");
   Run("--steps 500");
@@ -76,7 +76,7 @@ TEST_F(ClassProgramTest, AMissingEndIsToldBesideWhatCameOfIt) {
   EXPECT_EQ(NotesOf("SPIN.ZRM"), QJsonArray{"Procedures without END: SPIN."});
 }
 
-TEST_F(ClassProgramTest, OfAProgramInOneLineOnlyThatIsTold) {
+TEST_F(ClassProgramTest, OfAProgramInOneLineOnlyThatIsReported) {
   Write("LINES.ZRM", "TO LINES\nFD 10\nEND\n");
   Run();
   EXPECT_EQ(PrintedBy("LINES.ZRM"), Lines{"?LOAD LINES"});

@@ -79,7 +79,7 @@ TEST(Comparison, CrossingLinesCoverNothing) {
   EXPECT_FALSE(AreSame(Path({{0, 0}, {60, 0}}), comb));
 }
 
-TEST(Comparison, WhatIsMissingAndWhatIsTooMuchIsTold) {
+TEST(Comparison, WhatIsMissingAndWhatIsTooMuchIsReported) {
   const ShapeComparison result = Compare(Square, Path({{0, 0}, {0, 60}, {60, 60}, {60, 0}, {30, 0}}), {});
   EXPECT_FALSE(result.Same);
   ASSERT_EQ(result.Missing.Lines.size(), 1U);

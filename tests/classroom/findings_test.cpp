@@ -39,7 +39,7 @@ void PrintTo(const Case& one, std::ostream* out) { *out << one.Program; }
 
 class FindingsOf : public testing::TestWithParam<Case> {};
 
-TEST_P(FindingsOf, AreTold) {
+TEST_P(FindingsOf, AreReported) {
   EXPECT_EQ(ToldOf(QString::fromLatin1(GetParam().Program).replace("|", "\r\n")), GetParam().Told);
 }
 

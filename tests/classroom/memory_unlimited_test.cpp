@@ -5,7 +5,7 @@ namespace {
 
 class MemoryLimitTest : public ClassTest {};
 
-TEST_F(MemoryLimitTest, IsToldToBeNoneWhereThereIsNone) {
+TEST_F(MemoryLimitTest, IsReportedToBeNoneWhereThereIsNone) {
   Write("A.ZRM", "TO A|END|");
   EXPECT_EQ(Run("--memory 16").Status, 0);
   EXPECT_EQ(ResultOf("A.ZRM"), "ended");

@@ -45,7 +45,7 @@ TEST(FirstCall, NeedsNoInputs) {
   EXPECT_EQ(none.Note, "Every procedure of the program needs inputs: give them in a session.");
 }
 
-TEST(FirstCall, IsToldIfItIsAnotherBecauseOfInputs) {
+TEST(FirstCall, IsReportedIfItIsAnotherBecauseOfInputs) {
   const FirstCall other = Of("TO SIDE|FD 10|END|TO STAR :N|REPEAT :N [SIDE]|END", "STAR");
   EXPECT_EQ(other.Procedure, "SIDE");
   EXPECT_EQ(other.Note, "STAR needs inputs and was not called: give them in a session.");

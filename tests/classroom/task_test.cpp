@@ -24,7 +24,9 @@ TEST(Task, GoalsAreTheItemsOfTheirSection) {
   EXPECT_EQ(goals[3].Shapes.Tolerance, 100);
 }
 
-TEST(Task, WordsThatAreNotUnderstoodAreTold) { EXPECT_THROW(GoalsIn("## Goals\n- `A`: shapse\n"), batch::UsageError); }
+TEST(Task, WordsThatAreNotUnderstoodAreReported) {
+  EXPECT_THROW(GoalsIn("## Goals\n- `A`: shapse\n"), batch::UsageError);
+}
 
 TEST(Task, AFolderHasWordsAModelAndGoals) {
   const TempFolder disk;

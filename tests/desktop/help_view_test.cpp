@@ -47,7 +47,7 @@ TEST_F(HelpViewTest, TheRowsStayInSightAndUsable) {
   EXPECT_EQ(Page().toPlainText().trimmed(), "FD moves the turtle.");
 }
 
-TEST_F(HelpViewTest, AMissingPageIsToldInABox) {
+TEST_F(HelpViewTest, AMissingPageIsReportedInABox) {
   AnswerNextBox({Qt::Key_Return});
   Enter("help xyz");
   ASSERT_EQ(Boxes.size(), 1u);

@@ -14,7 +14,7 @@ class ListEntriesTest : public testing::Test {
   ListEntries entries{list};
 };
 
-TEST_F(ListEntriesTest, AppendedEntriesAreToldAsInserted) {
+TEST_F(ListEntriesTest, AppendedEntriesAreReportedAsInserted) {
   list.Add("A");
   entries.Sync();
   QSignalSpy inserted(&entries, &QAbstractItemModel::rowsInserted);

@@ -62,7 +62,7 @@ TEST_F(OpeningTest, APictureIsShown) {
   EXPECT_EQ(System().Picture1.Point(30, 30), RGB(255, 0, 0));
 }
 
-TEST_F(OpeningTest, AMissingProgramIsToldByLoad) {
+TEST_F(OpeningTest, AMissingProgramIsReportedByLoad) {
   AnswerNextBox({Qt::Key_Return});
   session->Greet({}, PathOf("missing.zrm"));
   ASSERT_EQ(Boxes.size(), 1u);
@@ -70,7 +70,7 @@ TEST_F(OpeningTest, AMissingProgramIsToldByLoad) {
   EXPECT_EQ(Boxes[0].Buttons, (Items{"Abort", "Retry", "Ignore"}));
 }
 
-TEST_F(OpeningTest, AMissingFileOfAnotherKindIsTold) {
+TEST_F(OpeningTest, AMissingFileOfAnotherKindIsReported) {
   AnswerNextBox({Qt::Key_Return});
   session->Greet({}, PathOf("missing.jpg"));
   ASSERT_EQ(Boxes.size(), 1u);

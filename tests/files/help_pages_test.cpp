@@ -37,7 +37,7 @@ TEST_F(HelpPagesTest, TheWordIsTurnedToCapitals) {
   EXPECT_EQ(View().FileName, "ZMHELP\\FD");
 }
 
-TEST_F(HelpPagesTest, AMissingPageIsToldAsTheUserWroteIt) {
+TEST_F(HelpPagesTest, AMissingPageIsReportedAsTheUserWroteIt) {
   Page("FD", "Forward");
   dispatch.Execute("HELP xyz");
   EXPECT_EQ(services.Boxes, (std::vector{NotAvailable("xyz")}));
@@ -45,12 +45,12 @@ TEST_F(HelpPagesTest, AMissingPageIsToldAsTheUserWroteIt) {
   EXPECT_FALSE(controls.File1.Visible());
 }
 
-TEST_F(HelpPagesTest, AMissingFolderIsTold) {
+TEST_F(HelpPagesTest, AMissingFolderIsReported) {
   dispatch.Execute("HELP XYZ");
   EXPECT_EQ(services.Boxes, (std::vector{NotAvailable("XYZ")}));
 }
 
-TEST_F(HelpPagesTest, AMissingGeneralPageIsToldWithoutAWord) {
+TEST_F(HelpPagesTest, AMissingGeneralPageIsReportedWithoutAWord) {
   dispatch.Execute("HELP");
   EXPECT_EQ(services.Boxes, (std::vector{NotAvailable("")}));
 }
@@ -73,7 +73,7 @@ TEST_F(HelpPagesTest, AMissingPageLeavesTheOpenOne) {
   EXPECT_EQ(View().Text, "Forward");
 }
 
-TEST_F(HelpPagesTest, AFailureInTheRestOfTheCallIsToldToo) {
+TEST_F(HelpPagesTest, AFailureInTheRestOfTheCallIsReportedToo) {
   Page("FD", "Forward");
   dispatch.OverflowCount = 32767;
   dispatch.Execute("HELP FD");

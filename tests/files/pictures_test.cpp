@@ -38,7 +38,7 @@ TEST_F(PicturesTest, SavePicturePutsAppFolderInFrontOfAFolderToo) {
   EXPECT_TRUE(Temp.Has("app/X/PIC.Bmp"));
 }
 
-TEST_F(PicturesTest, AMissingInputIsTold) {
+TEST_F(PicturesTest, AMissingInputIsReported) {
   for (const std::string word : {"SAVEPICTURE", "LOADPICTURE"}) {
     services.Boxes.clear();
     dispatch.Execute(word);

@@ -122,7 +122,7 @@ TEST_F(ProgramFilesTest, ABlankInFrontOfTheNameIsPartOfIt) {
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp(" BOX.ZRM"))}));
 }
 
-TEST_F(ProgramFilesTest, AMissingInputIsTold) {
+TEST_F(ProgramFilesTest, AMissingInputIsReported) {
   for (const char* line : {"LOAD", "LOAD  "}) {
     services.Boxes.clear();
     dispatch.Execute(line);
@@ -138,12 +138,12 @@ TEST_F(ProgramFilesTest, AMissingInputDoesNothingElse) {
   EXPECT_EQ(Program(), (Texts{"REPEAT 2 [FD 1]"}));
 }
 
-TEST_F(ProgramFilesTest, AMissingFileIsTold) {
+TEST_F(ProgramFilesTest, AMissingFileIsReported) {
   dispatch.Execute("LOAD NONE");
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("NONE.ZRM"))}));
 }
 
-TEST_F(ProgramFilesTest, AFolderOfThatNameIsTold) {
+TEST_F(ProgramFilesTest, AFolderOfThatNameIsReported) {
   Temp.MakeFolder("app/BOX.ZRM");
   dispatch.Execute("LOAD BOX");
   EXPECT_EQ(services.Boxes, (std::vector{UnableToLoad(InApp("BOX.ZRM"))}));
@@ -248,7 +248,7 @@ TEST_F(ProgramFilesTest, TheSearchForAnEmptyLineFailsInAFullStore) {
   EXPECT_EQ(store.Line(2000), "FD 1");
 }
 
-TEST_F(ProgramFilesTest, Line2001IsTold) {
+TEST_F(ProgramFilesTest, Line2001IsReported) {
   Temp.Write("app/A.ZRM", Statements(2001));
   controls.List1.Add("FORMER");
   controls.List3.Add("FORMER");

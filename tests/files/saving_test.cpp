@@ -189,7 +189,7 @@ TEST_F(SavingTest, AnEmptyEditorNeedsNoRescue) {
   EXPECT_EQ(Temp.Count("app"), 0);
 }
 
-TEST_F(SavingTest, ARescueThatFailsIsTold) {
+TEST_F(SavingTest, ARescueThatFailsIsReported) {
   Write("FD 10");
   Temp.MakeFolder("app/Rescued.ZRM");
   EXPECT_FALSE(saving.RescueEditorText());

@@ -38,7 +38,7 @@ TEST_F(SurfaceTest, BeginsWithTheValuesOfItsDesign) {
   EXPECT_EQ(Picture1.ScaleMode(), 1);
 }
 
-TEST_F(SurfaceTest, WritesThatTakePlaceAreTold) {
+TEST_F(SurfaceTest, WritesThatTakePlaceAreReported) {
   Picture1.SetBackColor(1);
   Picture1.SetForeColor(2);
   Picture1.SetFillColor(3);
@@ -55,7 +55,7 @@ TEST_F(SurfaceTest, WritesThatTakePlaceAreTold) {
                    "ScaleMode=3", "CurrentX=7.5", "CurrentY=8.5", "Font.Size=9.5", "Height=10"}));
 }
 
-TEST_F(SurfaceTest, WriteOfTheSameValueIsToldToo) {
+TEST_F(SurfaceTest, WriteOfTheSameValueIsReportedToo) {
   Picture1.SetForeColor(2);
   Picture1.SetForeColor(2);
   EXPECT_EQ(Recorder.Operations, Texts({"ForeColor=2", "ForeColor=2"}));
@@ -220,7 +220,7 @@ TEST_F(SurfaceTest, PictureThatIsMissingFailsAndIsNotTold) {
   EXPECT_TRUE(Recorder.Operations.empty());
 }
 
-TEST_F(SurfaceTest, PictureIsToldUnderTheSystemsName) {
+TEST_F(SurfaceTest, PictureIsReportedUnderTheSystemsName) {
   const auto file = std::filesystem::temp_directory_path() / "zerimo_surface_test_picture";
   std::ofstream(file) << "x";
   Picture1.SetPicture(file, "C:\\A.BMP");

@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(Brackets, ArithmeticValue,
 INSTANTIATE_TEST_SUITE_P(CarriageReturn, ArithmeticValue,
                          testing::Values(ValueOfText{"3\r+4", 3}, ValueOfText{"3+4\r5", 7}, ValueOfText{"2*\r3", 3}));
 
-TEST_F(ArithmeticLimitsTest, AMinusZeroIsNone) {
+TEST_F(ArithmeticLimitsTest, AMinusZeroBecomesZero) {
   EXPECT_FALSE(std::signbit(Value("-0")));
   EXPECT_FALSE(std::signbit(Value("-0+0")));
 }

@@ -110,7 +110,7 @@ void PrintTo(const MissingBox& one, std::ostream* out) {
 
 class MissingInputOf : public DispatchTest, public testing::WithParamInterface<MissingBox> {};
 
-TEST_P(MissingInputOf, IsToldInItsBox) {
+TEST_P(MissingInputOf, IsReportedInItsBox) {
   dispatch.Execute(GetParam().Line);
   ASSERT_EQ(services.Boxes.size(), 1U);
   EXPECT_EQ(services.Boxes[0], (ShownBox{std::string("Required Paramiter Missing After ") + GetParam().Line,

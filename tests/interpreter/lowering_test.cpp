@@ -128,14 +128,14 @@ TEST_F(LoweringTest, AnOuterRepeatWithoutAClosingBracketLosesItsLastCharacter) {
   EXPECT_TRUE(services.Boxes.empty());
 }
 
-TEST_F(LoweringTest, ANestedRepeatWithoutABracketIsToldTwice) {
+TEST_F(LoweringTest, ANestedRepeatWithoutABracketIsReportedTwice) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 1 REPEAT 2 RT 1]"}),
             (Texts{"MAKE # 1", "LABEL $", "FD 1", "MAKE # #+1", "IF #<=3", "GOTO $", "ENDIF"}));
   EXPECT_EQ(services.BoxTexts(), (Texts{"Missing [", "Missing ["}));
   EXPECT_EQ(services.Boxes[0], (ShownBox{"Missing [", 0, ""}));
 }
 
-TEST_F(LoweringTest, ANestedRepeatWithoutAClosingBracketIsToldTwice) {
+TEST_F(LoweringTest, ANestedRepeatWithoutAClosingBracketIsReportedTwice) {
   EXPECT_EQ(Lowered({"REPEAT 3 [FD 1 REPEAT 2 [RT 1]"})[2], "FD 1");
   EXPECT_EQ(services.BoxTexts(), (Texts{"] Absent", "] Absent"}));
 }

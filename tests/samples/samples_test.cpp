@@ -141,7 +141,7 @@ TEST_P(SampleProgram, HasAnEndForEveryProcedureAndAProcedureOfItsName) {
   EXPECT_EQ(procedures.front() + "\r", name + "\r");
 }
 
-TEST_P(SampleProgram, IsToldInTheDocument) {
+TEST_P(SampleProgram, IsDescribedInTheDocument) {
   const std::string document = BytesOf(sourceFolder / "docs" / "samples.md");
   EXPECT_NE(document.find("## " + name + "\n"), std::string::npos);
   EXPECT_NE(document.find("(images/samples/" + name + ".png)"), std::string::npos);

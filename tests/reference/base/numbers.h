@@ -7,7 +7,7 @@
 /// The conversions between numbers and texts, and the roundings. Everything in the system uses these.
 namespace zerimo::reference {
 
-/// The number at the beginning of a text. Blanks, tabs and line feeds are skipped wherever they stand; an optional
+/// The number at the beginning of a text. Blanks, tabs and line feeds are skipped wherever they are; an optional
 /// sign, digits with at most one decimal point and an optional exponent ("E" or "D", either case) are read, and the
 /// prefixes "&H" and "&O" read hexadecimal and octal. Reading stops at the first character that can't go on; a text
 /// with no leading number is 0. A number beyond the 64-bit float's range fails (overflow).
