@@ -10,7 +10,6 @@ namespace {
 
 constexpr double Step = 50;
 constexpr Colour Black = 0;
-constexpr Colour Red = 255;
 
 /// Lines through points given in steps.
 Drawing Path(std::vector<Point> points, Colour color = Black) {

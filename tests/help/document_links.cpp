@@ -49,7 +49,10 @@ std::vector<std::string> LinksIn(const std::filesystem::path& document) {
   static const std::regex link("\\]\\(([^)]+)\\)");
   std::ifstream lines(document);
   std::vector<std::string> links;
+  bool isInBlock = false;
   for (std::string line; std::getline(lines, line);) {
+    if (line.find("```") != std::string::npos) isInBlock = !isInBlock;
+    if (isInBlock) continue;
     for (std::sregex_iterator it(line.begin(), line.end(), link), end; it != end; ++it) {
       const std::string target = (*it)[1];
       if (target.find("://") == std::string::npos) links.push_back(target);

@@ -7,10 +7,6 @@
 namespace zerimo {
 
 inline constexpr Colour Black = 0;
-inline constexpr Colour White = 0xFFFFFF;
-inline constexpr Colour Red = 0x0000FF;
-inline constexpr Colour Green = 0x00FF00;
-inline constexpr Colour Blue = 0xFF0000;
 inline constexpr Colour Ground = 0x402010;
 
 inline constexpr int CopyPen = 13;

@@ -17,7 +17,6 @@ namespace zerimo {
 
 namespace {
 
-constexpr Colour Yellow = 0x00FFFF;
 constexpr PixelPoint Middle{47, 47};
 
 struct Scene {
