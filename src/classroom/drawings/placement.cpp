@@ -134,8 +134,8 @@ std::vector<Placement> TriesFor(const Drawing& goal, const Drawing& drawing, dou
     return std::make_tuple(one.Mirrored, std::abs(one.Degrees), one.Degrees);
   };
   std::ranges::sort(tries, {}, key);
-  const auto rest = std::ranges::unique(tries, {}, key);
-  tries.erase(rest.begin(), rest.end());
+  const auto isSame = [&](const Placement& one, const Placement& other) { return key(one) == key(other); };
+  tries.erase(std::unique(tries.begin(), tries.end(), isSame), tries.end());
   if (tries.size() > MostTries) tries.resize(MostTries);
   return tries;
 }

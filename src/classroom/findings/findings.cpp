@@ -12,8 +12,7 @@ bool IsOneLine(const QString& program) { return program.contains(u'\n') && !prog
 void SortAndThin(Findings& findings) {
   const auto key = [](const Finding& one) { return std::make_tuple(one.Line, one.What, one.Details); };
   std::ranges::stable_sort(findings, {}, key);
-  const auto rest = std::ranges::unique(findings);
-  findings.erase(rest.begin(), rest.end());
+  findings.erase(std::unique(findings.begin(), findings.end()), findings.end());
 }
 
 }  // namespace
