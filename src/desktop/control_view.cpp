@@ -16,8 +16,8 @@ int Pixels(float units) { return static_cast<int>(std::lround(units / UnitsPerPi
 
 QRect InPixels(const Control& control) {
   const QPoint topLeft(Pixels(control.Left), Pixels(control.Top));
-  const QPoint behind(Pixels(control.Left + control.Width), Pixels(control.Top + control.Height()));
-  return {topLeft, behind - QPoint(1, 1)};
+  const QPoint past(Pixels(control.Left + control.Width), Pixels(control.Top + control.Height()));
+  return {topLeft, past - QPoint(1, 1)};
 }
 
 void ControlView::Sync(const Room& room) {

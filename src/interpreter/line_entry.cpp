@@ -17,7 +17,7 @@ constexpr int WordSlots = 50;
 
 // The two lists are not mirror images: a blank before = or ( is kept, and so is one after ).
 constexpr std::string_view DropsBlankBefore = "+.-*/\\%<>!)[]}";
-constexpr std::string_view DropsBlankBehind = "+.-*/\\%<>!=([]}";
+constexpr std::string_view DropsBlankAfter = "+.-*/\\%<>!=([]}";
 
 std::string WithSingleBlanks(std::string_view text) {
   std::string result;
@@ -37,12 +37,12 @@ std::string WithoutBlanksBeforeMarks(std::string_view text) {
   return result;
 }
 
-std::string WithoutBlanksBehindMarks(std::string_view text) {
+std::string WithoutBlanksAfterMarks(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size(); ++at) {
     result += text[at];
     const bool blankFollows = at + 1 < text.size() && text[at + 1] == ' ';
-    if (blankFollows && DropsBlankBehind.find(text[at]) != std::string_view::npos) ++at;
+    if (blankFollows && DropsBlankAfter.find(text[at]) != std::string_view::npos) ++at;
   }
   return result;
 }
@@ -106,7 +106,7 @@ std::string SpaceFilter(std::string& text) {
   Trim(text);
   // The passes count positions in 16 bits.
   if (text.size() > LongestFilteredText) throw Failure(FailureKind::Overflow);
-  return WithoutBlanksBehindMarks(WithoutBlanksBeforeMarks(WithSingleBlanks(text)));
+  return WithoutBlanksAfterMarks(WithoutBlanksBeforeMarks(WithSingleBlanks(text)));
 }
 
 StatementClass WhatIsThis(std::string_view line) {

@@ -316,8 +316,8 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
     std::string text = StrTrimmed(value);
     if (text == "0") text.clear();
     const int position = PositionOf(expression, name);
-    const std::string behind(Trimmed(From(expression, position + Length(name))));
-    expression = std::string(Trimmed(std::string(Left(expression, position - 1)) + text + behind));
+    const std::string after(Trimmed(From(expression, position + Length(name))));
+    expression = std::string(Trimmed(std::string(Left(expression, position - 1)) + text + after));
   } while (VariablePresent(expression));
   return expression;
 }
@@ -423,9 +423,9 @@ std::string Textreplace(std::string& text, std::string_view find, std::string_vi
   // Only the first occurrence is ever considered: one inside a longer word blocks the real one after it.
   const int position = PositionOf(text, find);
   if (position == 0) return text;
-  const int behind = position + Length(find);
-  if (!IsDelimiter(CharacterAt(text, position - 1)) || !IsDelimiter(CharacterAt(text, behind))) return text;
-  return std::string(Left(text, position - 1)) + std::string(replacement) + std::string(From(text, behind));
+  const int after = position + Length(find);
+  if (!IsDelimiter(CharacterAt(text, position - 1)) || !IsDelimiter(CharacterAt(text, after))) return text;
+  return std::string(Left(text, position - 1)) + std::string(replacement) + std::string(From(text, after));
 }
 
 }  // namespace zerimo

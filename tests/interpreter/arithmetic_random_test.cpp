@@ -30,9 +30,9 @@ TokenList CutToTokens(const std::string& expression) {
   for (std::size_t at = 0; at < expression.size(); ++at) {
     const std::string character(1, expression[at]);
     const bool cuts = at > 0 && IsOperator(character);
-    const bool behindOperator = at > 0 && IsOperator(std::string(1, expression[at - 1]));
+    const bool afterOperator = at > 0 && IsOperator(std::string(1, expression[at - 1]));
     // After an operator a new token has begun, except that a leading sign keeps the first token open.
-    if (cuts && !behindOperator) fresh = true;
+    if (cuts && !afterOperator) fresh = true;
     if (fresh) tokens.emplace_back();
     if (cuts) {
       tokens.back() = character;

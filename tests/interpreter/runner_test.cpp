@@ -142,14 +142,14 @@ TEST_F(RunnerTest, RecursionAfterALabelGrowsThePath) {
 }
 
 /// The line before a recursive call, and how many components the path has after a while.
-struct InFrontOfTheCall {
+struct BeforeTheCall {
   const char* Line;
   bool Grows;
 };
 
-void PrintTo(const InFrontOfTheCall& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Grows; }
+void PrintTo(const BeforeTheCall& one, std::ostream* out) { *out << Quoted(one.Line) << ", " << one.Grows; }
 
-class RecursionAfter : public RunnerTest, public testing::WithParamInterface<InFrontOfTheCall> {};
+class RecursionAfter : public RunnerTest, public testing::WithParamInterface<BeforeTheCall> {};
 
 TEST_P(RecursionAfter, KeepsOrGrowsThePath) {
   Fill({"TO A", GetParam().Line, "A", "END", "TO B", "END"});
@@ -165,10 +165,10 @@ TEST_P(RecursionAfter, KeepsOrGrowsThePath) {
 // A bare expression checks for recursion before its act, when the inner component still has the number of its own line;
 // an ENDIF writes a number that is too high, and a return from a call one without its blank.
 INSTANTIATE_TEST_SUITE_P(typedLines, RecursionAfter,
-                         testing::Values(InFrontOfTheCall{"FD 1", false}, InFrontOfTheCall{"MAKE X 1", false},
-                                         InFrontOfTheCall{"LABEL X", true}, InFrontOfTheCall{"1+2", true},
-                                         InFrontOfTheCall{"1=2", true}, InFrontOfTheCall{"ENDIF", true},
-                                         InFrontOfTheCall{"B", true}));
+                         testing::Values(BeforeTheCall{"FD 1", false}, BeforeTheCall{"MAKE X 1", false},
+                                         BeforeTheCall{"LABEL X", true}, BeforeTheCall{"1+2", true},
+                                         BeforeTheCall{"1=2", true}, BeforeTheCall{"ENDIF", true},
+                                         BeforeTheCall{"B", true}));
 
 TEST_F(RunnerTest, APrintAfterARecursiveCallIsNotReachedOnceALevel) {
   // The input read is always that of the outermost call, so the condition is always true.

@@ -13,7 +13,7 @@ namespace zerimo::reference {
 
 namespace {
 
-constexpr int LinesBehind = 1000;
+constexpr int LinesAfter = 1000;
 
 std::size_t Checked(int index, int last) {
   if (index < 1 || index > last) throw Failure(FailureKind::SubscriptOutOfRange);
@@ -166,8 +166,8 @@ BodyArray Lowering::CreateBodyArray(std::string& body) const {
 }
 
 std::string Lowering::RepeatNum(std::string_view line) const {
-  const std::string_view behind = From(line, 8);
-  const std::string_view count = behind.substr(0, behind.find('['));
+  const std::string_view after = From(line, 8);
+  const std::string_view count = after.substr(0, after.find('['));
   // The value is dropped; a count that can't be evaluated now fails here.
   std::string copy(count);
   copy = variables_.VarValReplacer(copy);
@@ -205,14 +205,14 @@ LineList Lowering::AddComponents() {
 
 void Lowering::RefreshRootArray(const LineList& lines) {
   const int position = SearchRepeatPos();
-  std::vector<std::string> behind;
+  std::vector<std::string> after;
   for (int number = position + 1; !store_.Line(number).empty(); ++number) {
-    if (behind.size() == LinesBehind) throw Failure(FailureKind::SubscriptOutOfRange);
-    behind.push_back(store_.Line(number));
+    if (after.size() == LinesAfter) throw Failure(FailureKind::SubscriptOutOfRange);
+    after.push_back(store_.Line(number));
   }
   int target = position;
   for (int index = 1; !lines.At(index).empty(); ++index) store_.SetLine(target++, lines.At(index));
-  for (const std::string& line : behind) store_.SetLine(target++, line);
+  for (const std::string& line : after) store_.SetLine(target++, line);
 }
 
 void Lowering::ForgetNames() {
