@@ -94,7 +94,7 @@ function(zerimo_guard_room name)
   string(REPLACE ";" "|" checked "${checked}")
   add_custom_command(
     OUTPUT ${stamp}
-    COMMAND ${CMAKE_COMMAND} -DROOM=${room} "-DMAY_KNOW=${may_know}" "-DSOURCES=${checked}" -DSTAMP=${stamp}
+    COMMAND ${CMAKE_COMMAND} -DROOM=${room} -DTREE=${PROJECT_SOURCE_DIR}/src "-DMAY_KNOW=${may_know}" "-DSOURCES=${checked}" -DSTAMP=${stamp}
             -P ${PROJECT_SOURCE_DIR}/cmake/check_room.cmake
     DEPENDS ${sources} ${headers} ${PROJECT_SOURCE_DIR}/cmake/check_room.cmake
     COMMENT "Room ${room}: what it includes"

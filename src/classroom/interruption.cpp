@@ -7,8 +7,6 @@ namespace zerimo::classroom {
 
 namespace {
 
-using Handler = void (*)(int);
-
 constexpr std::array Noted = {
     SIGINT,
     SIGTERM,
@@ -20,13 +18,12 @@ constexpr std::array Noted = {
 #endif
 };
 
-std::array<Handler, Noted.size()> formerHandlers;
-
+// A handler gets no object.
 volatile std::sig_atomic_t came = 0;
 
 void Note(int) { came = 1; }
 
-void HandleBrokenPipe([[maybe_unused]] Handler handler) {
+void HandleBrokenPipe([[maybe_unused]] void (*handler)(int)) {
 #ifdef SIGPIPE
   std::signal(SIGPIPE, handler);
 #endif
@@ -37,15 +34,15 @@ void HandleBrokenPipe([[maybe_unused]] Handler handler) {
 Interruption::Interruption() {
   came = 0;
   for (std::size_t i = 0; i < Noted.size(); ++i) {
-    formerHandlers[i] = std::signal(Noted[i], Note);
+    formerHandlers_.push_back(std::signal(Noted[i], Note));
     // Whoever started the run wants it to go on, as under nohup.
-    if (formerHandlers[i] == SIG_IGN) std::signal(Noted[i], SIG_IGN);
+    if (formerHandlers_.back() == SIG_IGN) std::signal(Noted[i], SIG_IGN);
   }
   HandleBrokenPipe(SIG_IGN);
 }
 
 Interruption::~Interruption() {
-  for (std::size_t i = 0; i < Noted.size(); ++i) std::signal(Noted[i], formerHandlers[i]);
+  for (std::size_t i = 0; i < Noted.size(); ++i) std::signal(Noted[i], formerHandlers_[i]);
   HandleBrokenPipe(SIG_DFL);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 namespace zerimo::classroom {
 
 /// While it exists, an interrupt from the terminal or a request to end is only recorded (one that the process is told
@@ -12,6 +14,10 @@ class Interruption {
   Interruption& operator=(const Interruption&) = delete;
 
   static bool Came();
+
+ private:
+  /// What each signal did before.
+  std::vector<void (*)(int)> formerHandlers_;
 };
 
 }  // namespace zerimo::classroom

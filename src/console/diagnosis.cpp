@@ -11,7 +11,7 @@ void Diagnosis::Command2Click() {
   interpreter_.variables.ForgetAll();
   interpreter_.lowering.ForgetNames();
   context_.controls.Label17.Caption = "#-" + Str(0);
-  // With the mark of the counter, although a lowering writes the mark of the label.
+  // "#-", although `REPEAT` shows "$-" here.
   context_.controls.Label18.Caption = "#-" + Str(0);
 }
 

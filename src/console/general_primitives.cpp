@@ -69,14 +69,14 @@ void GeneralPrimitives::SayDeveloper() {
 void GeneralPrimitives::WriteCommandList() {
   std::string lines;
   for (const std::string_view name : CommandListNames()) lines += std::string(name) + "\r\n";
-  folders_.WriteFile("Commands.ZMG", lines);
+  folders_.WriteFile("Commands.ZMG", lines);  // Leaves: it is the last statement.
 }
 
 void GeneralPrimitives::Wait(PrimitiveCall& call) {
   context_.arguments.ReplaceNames(call.Rest);
   if (context_.dispatch.TellMissingInput(call, Action::Wait)) return;
   const double milliseconds = context_.arguments.Evaluate(call.Rest);
-  context_.services.Sleep(ToInt32(milliseconds));
+  context_.services.Sleep(ToInt32(milliseconds));  // Leaves: it is the last statement.
 }
 
 void GeneralPrimitives::Message(PrimitiveCall& call) {
@@ -92,6 +92,7 @@ void GeneralPrimitives::Message(PrimitiveCall& call) {
 
 void GeneralPrimitives::Print(PrimitiveCall& call) {
   if (IsQuoted(call.Rest)) {
+    // Leaves, as in `Message`.
     context_.controls.List4.Add("?" + WithoutEnds(call.Rest));
   } else {
     context_.controls.List4.Add("?" + Str(context_.arguments.Number(call.Rest)));
@@ -103,7 +104,8 @@ void GeneralPrimitives::BracketChain(PrimitiveCall& call, char op) {
   call.Rest.pop_back();
   const int length = Length(call.Rest);
   for (int position = 1; position <= length; ++position) {
-    if (CharacterAt(call.Rest, position) != " ") continue;
+    if (CharacterAt(call.Rest, position) != " ") continue;  // Never fails: positions from 1.
+    // Never fails.
     call.Rest = std::string(Left(call.Rest, position - 1)) + op + std::string(Trimmed(From(call.Rest, position + 1)));
   }
   context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest)));

@@ -47,7 +47,17 @@ void ScreenModes::TextScreen() {
   context_.controls.Text2.Hide();
   SkipOnFailure(
       [&] { context_.Picture1.SetHeight(context_.controls.Screen.Height - context_.controls.Picture3.Height()); });
-  SkipOnFailure([&] { DefinedStatement(store_, context_.controls.List3, context_.controls.List4); });
+  SkipOnFailure([&] { DefinedStatement(); });
+}
+
+void ScreenModes::DefinedStatement() {
+  context_.controls.List3.Clear();
+  for (int number = 1; !store_.Line(number).empty(); ++number) {
+    if (store_.ClassOf(number) != StmtTo) continue;
+    LentLine line(store_, number);
+    const std::string name = GiveWord(line.Text, 2);
+    if (name.find_first_of("$#") == std::string::npos) context_.controls.List4.Add(name + " is Defined");
+  }
 }
 
 void ScreenModes::ClearText() {

@@ -23,6 +23,9 @@ class ScreenModes {
   /// Never fails.
   void SplitScreen();
   void TextScreen();
+  /// Empties `List3` and adds to `List4` a line for each defined procedure of the learner's. Fails at a full store.
+  void DefinedStatement();
+  /// Never fails.
   void ClearText();
   void Hide();
   void Show(const PrimitiveCall& call);

@@ -26,9 +26,11 @@ void StatusLine::TitleText() {
   const std::string pen(ColourName(turtle_.PenColor));
   const std::string state(PenStateName(turtle_.PenState));
   const Window& form = controls_.Form1;
+  // Each of the three leaves, and the title stays as it is.
   const double x = Divide(RoundHalfEven(turtle_.TurtleX - static_cast<double>(form.Width / 2)), turtle_.Resolution);
-  const double y = Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle_.TurtleY), turtle_.Resolution);
-  const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / Pi);
+  const double y =
+      Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle_.TurtleY), turtle_.Resolution);  // Leaves.
+  const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / Pi);                                     // Leaves.
   controls_.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
                              "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
                              "]  [BG Color: " + background + "]  [Pen State:" + state + "]");

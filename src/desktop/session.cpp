@@ -18,11 +18,11 @@ ScreenSize UnitsOf(const QRect& area) {
 
 }  // namespace
 
-Session::Session(const QRect& available, const std::string& appFolder)
+Session::Session(const QRect& available, const Folders& folders)
     : stage_(extensions_),
-      services_(stage_, QString::fromStdU16String(Folders(appFolder).ToRead(appFolder).u16string())),
+      services_(stage_, QString::fromStdU16String(folders.ToRead(folders.AppFolder).u16string())),
       watch_(stage_),
-      form1_(UnitsOf(available), Folders(appFolder), services_, watch_, canvas_),
+      form1_(UnitsOf(available), folders, services_, watch_, canvas_),
       window_(form1_, canvas_, *this, available),
       timers_(
           form1_.controls, [this](Timer& timer) { Deliver([&](Form1& form1) { form1.Tick(timer); }); },

@@ -22,7 +22,7 @@ class Session : public Events {
   static constexpr int EndedByFailure = 2;
 
   /// `available` is the part of the screen that the desktop leaves free, in pixels.
-  Session(const QRect& available, const std::string& appFolder);
+  Session(const QRect& available, const Folders& folders);
 
   /// Loads the form and shows the window.
   void Start();

@@ -28,7 +28,7 @@ class Saving {
   /// `SHOW PROCEDURE`: the user's procedures in a box.
   void ShowProcedure();
 
-  /// Writes the editor's text as it stands to Rescued.ZRM, in `AppFolder` or else in the first of the other folders
+  /// Writes the editor's text as it is to Rescued.ZRM, in `AppFolder` or else in the first of the other folders
   /// where that works; these are created if need be. Returns the file, or nothing if there is no text or it could not
   /// be written anywhere. Never fails.
   std::optional<std::filesystem::path> RescueEditorText(const std::vector<std::filesystem::path>& others = {}) const;

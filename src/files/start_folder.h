@@ -22,7 +22,7 @@ struct Surroundings {
 struct StartFolder {
   /// To be `AppFolder`.
   std::filesystem::path Folder;
-  /// Whether it is to be the current folder too.
+  /// Whether relative paths start there too, and not in the current folder.
   bool IsCurrentFolder = false;
   /// The user's own folder if it could not be created, filled or written; otherwise empty.
   std::filesystem::path Unusable;

@@ -64,6 +64,7 @@ void Colours::SetBG(PrimitiveCall& call) {
 void Colours::TextColor(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextColor)) return;
   const double number = context_.arguments.Number(call.Rest);
+  // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.ForeColor = QBColor(ColourCode(number)); });
   SelectSquare(number);
   context_.controls.Label15.Caption = "TEXTCOLOR " + Str(number);
@@ -72,6 +73,7 @@ void Colours::TextColor(PrimitiveCall& call) {
 void Colours::TextBackground(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextBackground)) return;
   const double number = context_.arguments.Number(call.Rest);
+  // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.BackColor = QBColor(ColourCode(number)); });
   SelectSquare(number);
   // Not this primitive's own word: "Apply" then sets the text's colour.

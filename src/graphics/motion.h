@@ -32,6 +32,7 @@ class Motion {
   void ShowFigure(bool visible) noexcept;
   void LineWidth(PrimitiveCall& call);
   void DrawMode(PrimitiveCall& call);
+  /// Never fails.
   void ClearScreen();
 
   /// Moves along the heading by surface units.

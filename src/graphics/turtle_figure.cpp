@@ -34,7 +34,7 @@ void TurtleFigure::TurtlePos(double x, double y, double dir) {
   if (place == place_) return;
   // A move that fails has moved part of the figure: the next one must move all of it.
   place_.reset();
-  MoveTo(place);
+  MoveTo(place);  // Leaves.
   place_ = place;
 }
 

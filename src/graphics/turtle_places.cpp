@@ -40,20 +40,21 @@ void TurtlePlaces::Fence() {
 void TurtlePlaces::XCor() {
   const Turtle& turtle = context_.turtle;
   // Rounded in surface units, so that steps may show decimals; `GETXY` shows whole steps.
-  const double units = RoundHalfEven(turtle.TurtleX - context_.Picture1.Width / 2.0);
-  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));
+  const double units = RoundHalfEven(turtle.TurtleX - context_.Picture1.Width / 2.0);  // Never fails.
+  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));                 // Leaves, without a box.
 }
 
 void TurtlePlaces::YCor() {
   const Turtle& turtle = context_.turtle;
-  const double units = RoundHalfEven(CentreY() - turtle.TurtleY);
-  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));
+  const double units = RoundHalfEven(CentreY() - turtle.TurtleY);       // Never fails.
+  context_.services.MessageBox(Str(Divide(units, turtle.Resolution)));  // Leaves, without a box.
 }
 
 void TurtlePlaces::GetXY() {
   const Turtle& turtle = context_.turtle;
+  // Leaves, without a box; so does the next one.
   const double x = RoundHalfEven(Divide(turtle.TurtleX - context_.Picture1.Width / 2.0, turtle.Resolution));
-  const double y = RoundHalfEven(Divide(CentreY() - turtle.TurtleY, turtle.Resolution));
+  const double y = RoundHalfEven(Divide(CentreY() - turtle.TurtleY, turtle.Resolution));  // Leaves.
   context_.services.MessageBox(Str(x) + "  " + Str(y));
 }
 

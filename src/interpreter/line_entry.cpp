@@ -91,15 +91,6 @@ StatementClass ClassOfWord(std::string_view word, StatementClass soFar) noexcept
   return HasAny(word, "%/*-+") ? StmtArithmetic : soFar;
 }
 
-/// Counts the inputs of a procedure from the blanks of its header; the count is a byte.
-std::int16_t InputsOfHeader(std::string_view header) {
-  std::uint8_t blanks = 0;
-  for (const char character : Trimmed(header)) {
-    if (character == ' ') blanks = ToByte(blanks + 1.0);
-  }
-  return ToByte(blanks - 1.0);
-}
-
 }  // namespace
 
 std::string SpaceFilter(std::string& text) {
@@ -138,26 +129,6 @@ std::string GiveWord(std::string& text, int nthWord) {
   // The empty word after the last blank needs a slot too.
   if (slot + 1 > WordSlots || nthWord < 1 || nthWord > WordSlots) throw Failure(FailureKind::SubscriptOutOfRange);
   return wanted;
-}
-
-std::int16_t HowManyInput(std::string_view command, const Store& store) {
-  const WordFacts* const word = FindWord(command);
-  if (word != nullptr && word->Inputs != inputs::NotCounted) return word->Inputs;
-  const std::string pattern = "TO " + std::string(command) + " ";
-  for (int number = 1; !store.Line(number).empty(); ++number) {
-    if (Contains(store.Line(number) + " ", pattern)) return InputsOfHeader(store.Line(number));
-  }
-  return 0;
-}
-
-void DefinedStatement(Store& store, ListBox& list3, ListBox& list4) {
-  list3.Clear();
-  for (int number = 1; !store.Line(number).empty(); ++number) {
-    if (store.ClassOf(number) != StmtTo) continue;
-    LentLine line(store, number);
-    const std::string name = GiveWord(line.Text, 2);
-    if (!HasAny(name, "$#")) list4.Add(name + " is Defined");
-  }
 }
 
 }  // namespace zerimo

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "controls/control_kinds.h"
 #include "interpreter/statement_class.h"
-#include "interpreter/store.h"
 
 /// Reading lines. Behaviour: docs/interpreter.md, "Reading a line".
 namespace zerimo {
@@ -21,12 +18,5 @@ StatementClass WhatIsThis(std::string_view line);
 /// The n-th word of a text, or the empty text. The caller's text is trimmed and gets one blank at its end. Fails
 /// (subscript) at 50 words or more, and for a number over 50.
 std::string GiveWord(std::string& text, int nthWord);
-
-/// The number of inputs of a word, or a negative marker (`inputs::`). A word that is not a primitive is looked up in
-/// the store. Fails (overflow) at a header with no blank or more than 255.
-std::int16_t HowManyInput(std::string_view command, const Store& store);
-
-/// Empties `List3` and adds to `List4` a line for each defined procedure.
-void DefinedStatement(Store& store, ListBox& list3, ListBox& list4);
 
 }  // namespace zerimo

@@ -88,6 +88,15 @@ Cut CutStatement(std::string_view body, std::int16_t inputCount) {
   }
 }
 
+/// Counts the inputs of a procedure from the blanks of its header; the count is a byte.
+std::int16_t InputsOfHeader(std::string_view header) {
+  std::uint8_t blanks = 0;
+  for (const char character : Trimmed(header)) {
+    if (character == ' ') blanks = ToByte(blanks + 1.0);
+  }
+  return ToByte(blanks - 1.0);
+}
+
 }  // namespace
 
 const std::string& BodyArray::At(int index) const {
@@ -223,5 +232,15 @@ void Lowering::ForgetNames() noexcept {
 }
 
 std::string Firstpart(std::string_view body) { return std::string(body.substr(0, body.find(' '))); }
+
+std::int16_t HowManyInput(std::string_view command, const Store& store) {
+  const WordFacts* const word = FindWord(command);
+  if (word != nullptr && word->Inputs != inputs::NotCounted) return word->Inputs;
+  const std::string pattern = "TO " + std::string(command) + " ";
+  for (int number = 1; !store.Line(number).empty(); ++number) {
+    if (Contains(store.Line(number) + " ", pattern)) return InputsOfHeader(store.Line(number));
+  }
+  return 0;
+}
 
 }  // namespace zerimo

@@ -87,4 +87,8 @@ class Lowering {
 /// The characters before the first blank.
 std::string Firstpart(std::string_view body);
 
+/// The number of inputs of a word, or a negative marker (`inputs::`). A word that is not a primitive is looked up in
+/// the store. Fails (overflow) at a header with no blank or more than 255.
+std::int16_t HowManyInput(std::string_view command, const Store& store);
+
 }  // namespace zerimo

@@ -137,7 +137,7 @@ struct WordFacts {
   MissingInput Missing;
   /// What `HowManyInput` returns: 0 to 6, or a marker of `inputs`.
   std::int16_t Inputs;
-  /// Places in `CommandList`, 1 to 96; 0 for none.
+  /// Places in `CommandList`, 1 to 100; 0 for none.
   int Place;
   HelpPage Page;
   int SecondPlace = 0;
@@ -171,8 +171,7 @@ const WordFacts* FindWord(std::string_view word);
 /// action leaves the line and its word alone.
 Action ActionOf(std::string_view line);
 
-/// The names of `CommandList`, entries 1 to 96; entries 97 to 100 are empty, and nothing is written for them.
-inline constexpr int CommandListUsed = 96;
+/// The names of `CommandList` in the order of their places: 96, with room for 4 more.
 std::span<const std::string_view> CommandListNames() noexcept;
 
 }  // namespace zerimo

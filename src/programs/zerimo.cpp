@@ -46,7 +46,7 @@ std::string WordsAbout(const StartFolder& start) {
          ".\rWhat you save there may be lost: save with SHOW SAVEAS, in another folder.";
 }
 
-/// The absolute path of the file to open, or the empty path. To be called before the current folder changes.
+/// The absolute path of the file to open, or the empty path.
 fs::path FileToOpen() {
   const QStringList arguments = QCoreApplication::arguments();
   for (qsizetype i = 1; i < arguments.size(); ++i) {
@@ -69,9 +69,8 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
   SetDesktopStyle();
   const fs::path file = FileToOpen();
   const StartFolder start = PrepareStartFolder(LookAround());
-  std::error_code ignored;
-  if (start.IsCurrentFolder) fs::current_path(start.Folder, ignored);
-  Session session(QApplication::primaryScreen()->availableGeometry(), AppFolderName(start.Folder));
+  const Disk disk(start.IsCurrentFolder ? start.Folder : fs::path());
+  Session session(QApplication::primaryScreen()->availableGeometry(), Folders(AppFolderName(start.Folder, disk), disk));
   if (!line.Classic)
     AddExtensions(session, DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
   session.Start();

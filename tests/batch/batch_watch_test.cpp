@@ -62,9 +62,7 @@ TEST(BatchWatch, SecondsStopALoopWithoutSteps) {
 TEST(BatchWatch, SecondsEndASleep) {
   BatchWatch watch(0, 0.02);
   watch.StartClock();
-  const auto begin = std::chrono::steady_clock::now();
   EXPECT_EQ(StoppedBy([&] { watch.Sleep(std::chrono::hours(1)); }), "seconds");
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::minutes(1));
 }
 
 TEST(BatchWatch, SleepsAsLongAsAsked) {

@@ -406,5 +406,34 @@ TEST_F(ScreenModesTest, HelpViewKeepsItsPlaceInEveryMode) {
   EXPECT_EQ(controls.RichTextBox1.Height(), height);
 }
 
+TEST_F(ScreenModesTest, TheTextScreenNamesTheLearnersProceduresAndEmptiesList3) {
+  Store& store = System.interpreter.store;
+  System.controls.List3.Add("TO OLD");
+  store.SetLine(1, "TO BOX :S");
+  store.SetLine(2, "END");
+  store.SetLine(3, "TO #TEMP$1");
+  store.SetLine(4, "TS");
+  store.SetLine(5, "END");
+  Execute("TS");
+  EXPECT_TRUE(System.controls.List3.Items().empty());
+  EXPECT_EQ(System.controls.List4.Items(), Texts{"BOX is Defined"});
+  EXPECT_EQ(store.Line(1), "TO BOX :S ");
+}
+
+TEST_F(ScreenModesTest, TheTextScreenLeavesOutNamesWithADollar) {
+  System.interpreter.store.SetLine(1, "TO A$B");
+  System.interpreter.store.SetLine(2, "TO A#B");
+  System.interpreter.store.SetLine(3, "TO AB :N$");
+  Execute("TS");
+  EXPECT_EQ(System.controls.List4.Items(), Texts{"AB is Defined"});
+}
+
+TEST_F(ScreenModesTest, TheTextScreenNamesAllProceduresOfAFullStore) {
+  for (int number = 1; number <= Store::LineCount; ++number) System.interpreter.store.SetLine(number, "TO BOX");
+  Execute("TS");
+  EXPECT_EQ(System.controls.List4.Items().size(), static_cast<std::size_t>(Store::LineCount));
+  EXPECT_TRUE(System.controls.List4.Visible());
+}
+
 }  // namespace
 }  // namespace zerimo

@@ -36,10 +36,9 @@ std::string WithoutMark(QString text) { return text.remove(QLatin1Char('&')).toS
 
 }  // namespace
 
-DesktopTest::DesktopTest(const QRect& available) : formerFolder_(QDir::currentPath()) {
+DesktopTest::DesktopTest(const QRect& available) {
   ForgetFormerEnd();
-  QDir::setCurrent(folder.path());
-  session = std::make_unique<Session>(available, folder.path().toStdString());
+  session = std::make_unique<Session>(available, OwnFolders());
   session->Start();
   // Without a screen, the toolkit gives the window a frame that takes some of the area.
   Shown().setFixedSize(available.size());
@@ -48,9 +47,11 @@ DesktopTest::DesktopTest(const QRect& available) : formerFolder_(QDir::currentPa
   answering_.start(2);
 }
 
-DesktopTest::~DesktopTest() {
-  session.reset();
-  QDir::setCurrent(formerFolder_);
+DesktopTest::~DesktopTest() { session.reset(); }
+
+Folders DesktopTest::OwnFolders() const {
+  const std::string path = folder.path().toStdString();
+  return Folders(path, Disk(path));
 }
 
 void DesktopTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {

@@ -67,6 +67,9 @@ class DesktopTest : public testing::Test {
   std::string ReadFile(const char* name) const;
   bool HasFile(const char* name) const;
 
+  /// Where relative paths start, and the program's folder: `folder`.
+  Folders OwnFolders() const;
+
   QTemporaryDir folder;
   std::unique_ptr<Session> session;
 
@@ -82,7 +85,6 @@ class DesktopTest : public testing::Test {
   std::vector<Waiting> answers_;
   QTimer answering_;
   int rounds_ = 0;
-  QString formerFolder_;
 };
 
 }  // namespace zerimo

@@ -145,11 +145,8 @@ TEST_F(RunsTest, ClosingTheWindowLeavesAProgramThatShowsBoxAfterBox) {
 
 TEST_F(RunsTest, ClosingTheWindowEndsAWait) {
   During(50, [this] { Shown().close(); });
-  QElapsedTimer clock;
-  clock.start();
-  Enter("wait 30000");
+  Enter("wait 3600000");
   EXPECT_TRUE(session->HasEnded());
-  EXPECT_LT(clock.elapsed(), 5000);
 }
 
 TEST_F(RunsTest, TheTextScreenFillsWhileALineRuns) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/failure.h"
+#include "interpreter/lowering.h"
 #include "support/quoted.h"
 
 namespace zerimo {
@@ -93,7 +94,6 @@ INSTANTIATE_TEST_SUITE_P(
 class LineEntryTest : public testing::Test {
  protected:
   ListBox List3{"List3"};
-  ListBox List4{"List4"};
   Store store{List3};
 };
 
@@ -175,7 +175,6 @@ TEST_F(LineEntryTest, AWordMayBeFoundInAnotherLineThanItsHeader) {
 TEST_F(LineEntryTest, LookUpsFailInAStoreWithoutAnEmptyLine) {
   for (int number = 1; number <= 2000; ++number) store.SetLine(number, "FD 1");
   EXPECT_THROW(HowManyInput("NOWHERE", store), Failure);
-  EXPECT_THROW(DefinedStatement(store, List3, List4), Failure);
 }
 
 TEST(GiveWord, GivesTheNthWordAndLeavesABlank) {
@@ -212,27 +211,6 @@ TEST(GiveWord, FortyNineWordsAreTheMost) {
   std::string tooMany = Words(50);
   EXPECT_THROW(GiveWord(tooMany, 1), Failure);
   EXPECT_TRUE(tooMany.ends_with("W50 "));
-}
-
-TEST_F(LineEntryTest, DefinedStatementTellsTheUsersProceduresAndEmptiesList3) {
-  List3.Add("TO OLD");
-  store.SetLine(1, "TO BOX :S");
-  store.SetLine(2, "END");
-  store.SetLine(3, "TO #TEMP$1");
-  store.SetLine(4, "TS");
-  store.SetLine(5, "END");
-  DefinedStatement(store, List3, List4);
-  EXPECT_TRUE(List3.Items().empty());
-  EXPECT_EQ(List4.Items(), (std::vector<std::string>{"BOX is Defined"}));
-  EXPECT_EQ(store.Line(1), "TO BOX :S ");
-}
-
-TEST_F(LineEntryTest, DefinedStatementLeavesOutNamesWithADollar) {
-  store.SetLine(1, "TO A$B");
-  store.SetLine(2, "TO A#B");
-  store.SetLine(3, "TO AB :N$");
-  DefinedStatement(store, List3, List4);
-  EXPECT_EQ(List4.Items(), (std::vector<std::string>{"AB is Defined"}));
 }
 
 }  // namespace

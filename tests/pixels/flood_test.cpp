@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <queue>
 #include <random>
 
@@ -103,12 +102,8 @@ class LargeFloods : public ::testing::Test {
 
   void Wall(double x1, double y1, double x2, double y2) { canvas.Line({White, 1, CopyPen}, {x1, y1}, {x2, y2}); }
 
-  /// Generous, so that a busy machine and the sanitizers pass too; the benchmarks measure the real goal.
-  void FloodInTime(PixelPoint at) {
-    const auto start = std::chrono::steady_clock::now();
-    canvas.FloodFill(at, Green, Height);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
-  }
+  /// A flood that does not end in time ends the test program.
+  void Flood(PixelPoint at) { canvas.FloodFill(at, Green, Height); }
 
   static constexpr int Width = 3840;
   static constexpr int Height = 2160;
@@ -116,20 +111,20 @@ class LargeFloods : public ::testing::Test {
 };
 
 TEST_F(LargeFloods, OfTheWholeSurface) {
-  FloodInTime({1000, 1000});
+  Flood({1000, 1000});
   EXPECT_EQ(canvas.ColourAt({0, 0}), Green);
   EXPECT_EQ(canvas.ColourAt({Width - 1, Height - 1}), Green);
 }
 
 TEST_F(LargeFloods, ThroughAMazeOfLevelWays) {
   for (int y = 1; y < Height; y += 2) Wall(y % 4 == 1 ? 1 : 0, y, y % 4 == 1 ? Width - 1 : Width - 2, y);
-  FloodInTime({0, 0});
+  Flood({0, 0});
   EXPECT_EQ(canvas.ColourAt({0, Height - 2}), Green);
 }
 
 TEST_F(LargeFloods, ThroughAMazeOfUprightWays) {
   for (int x = 1; x < Width; x += 2) Wall(x, x % 4 == 1 ? 1 : 0, x, x % 4 == 1 ? Height - 1 : Height - 2);
-  FloodInTime({0, 0});
+  Flood({0, 0});
   EXPECT_EQ(canvas.ColourAt({Width - 2, 0}), Green);
 }
 
@@ -137,7 +132,7 @@ TEST_F(LargeFloods, ThroughACheckerboardOfOpenCorners) {
   for (int y = 1; y < Height; y += 2) {
     for (int x = 1; x < Width; x += 2) canvas.Point({White, 1, CopyPen}, {1.0 * x, 1.0 * y});
   }
-  FloodInTime({0, 0});
+  Flood({0, 0});
   EXPECT_EQ(canvas.ColourAt({Width - 2, Height - 1}), Green);
   EXPECT_EQ(canvas.ColourAt({1, 1}), White);
 }
@@ -146,7 +141,7 @@ TEST_F(LargeFloods, StayInASquareOfAClosedCheckerboard) {
   for (int y = 0; y < 64; ++y) {
     for (int x = y % 2; x < 64; x += 2) canvas.Point({White, 1, CopyPen}, {1.0 * x, 1.0 * y});
   }
-  FloodInTime({10, 11});
+  Flood({10, 11});
   EXPECT_EQ(canvas.ColourAt({10, 11}), Green);
   EXPECT_EQ(canvas.ColourAt({12, 11}), Ground);
   EXPECT_EQ(canvas.ColourAt({11, 12}), Ground);

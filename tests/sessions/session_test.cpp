@@ -47,7 +47,7 @@ class RecordedSession : public testing::TestWithParam<const char*> {
  protected:
   fs::path Beside(const char* ending) const { return SessionFolder / (std::string(GetParam()) + ending); }
 
-  /// The files that must lie in the folder afterwards.
+  /// The files that must be in the folder afterwards.
   void ExpectFiles() const {
     if (!fs::exists(Beside(".after"))) return;
     for (const fs::directory_entry& file : fs::directory_iterator(Beside(".after"))) {

@@ -44,7 +44,7 @@ class RecoveryTest : public ExtensionsTest {
   /// Ends the session as if its window had been killed, and starts another one in the same folder.
   void StartAnew() {
     session.reset();
-    session = std::make_unique<Session>(QRect(0, 0, 1024, 768), folder.path().toStdString());
+    session = std::make_unique<Session>(QRect(0, 0, 1024, 768), OwnFolders());
     session->Start();
     Shown().setFixedSize(1024, 768);
     AddExtensions(*session, State());

@@ -1,4 +1,3 @@
-#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTest>
 
@@ -57,10 +56,7 @@ TEST_F(StopTest, AnEvaluationThatNeverReturnsStops) {
 }
 
 TEST_F(StopTest, AWaitStops) {
-  QElapsedTimer clock;
-  clock.start();
-  StopLine("wait 30000");
-  EXPECT_LT(clock.elapsed(), 5000);
+  StopLine("wait 3600000");
   EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
 }
 
