@@ -213,7 +213,10 @@ std::optional<Variables::MakeSlots> Variables::SlotsOf(int lineNumber, const Lin
   const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
   const int local = FindLocal(key);
   const int global = FindGlobal(make.Name);
-  const auto keeps = [this](int slot, std::string_view name) { return slot == 0 || NamePart(Slot(slot)) == name; };
+  // A name with a "=" of its own ends elsewhere than where the value is replaced.
+  const auto keeps = [this](int slot, std::string_view name) {
+    return slot == 0 || (NamePart(Slot(slot)) == name && FormOf(slot).KeyLength == name.size());
+  };
   if (!keeps(local, key) || !keeps(global, make.Name + "=")) return std::nullopt;
   slots = {store_.Changes(), Names(), local, global};
   return slots;

@@ -119,6 +119,13 @@ TEST_F(DerivedFormsTest, TheSlotOfAMakeFollowsTheNames) {
   EXPECT_EQ(variables.Slot(3), "Q.A=3");
 }
 
+TEST_F(DerivedFormsTest, AnEqualsSignInTheNameOfAProcedureIsNotThatOfItsInput) {
+  Fill({"TO A=1 X", "MAKE X 5", "END"});
+  variables.SetSlot(1, "A=1.X=");
+  variables.VariableUpdate(2);
+  EXPECT_EQ(variables.Slot(1), "A=1.X=5");
+}
+
 TEST_F(DerivedFormsTest, TheFirstOpenSlotFollowsTheSlots) {
   variables.SetSlot(1, "A=1");
   variables.SetSlot(2, "B=1");
