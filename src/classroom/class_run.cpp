@@ -13,6 +13,7 @@
 #include "classroom/class_folder.h"
 #include "classroom/class_runner.h"
 #include "classroom/interruption.h"
+#include "classroom/page_html.h"
 #include "classroom/parts.h"
 #include "classroom/program_source.h"
 #include "classroom/progress.h"
@@ -163,7 +164,7 @@ class ClassRun {
     return !runner.WasInterrupted() && !Interruption::Came();
   }
 
-  static QString EscapedName(const PupilRun& run) { return ReadableName(run.Who.Program); }
+  static QString EscapedName(const PupilRun& run) { return Readable(PupilName(run.Who)); }
 
   /// A report of a run that was resumed is about all of it.
   void TakeRecords() {

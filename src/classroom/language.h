@@ -74,6 +74,7 @@ struct Language {
   const char* GoalOfCall;
   const char* Met;
   const char* NotMet;
+  const char* GoalsMet;
   const char* Points;
   const char* GoalPicture;
   const char* PupilsPicture;

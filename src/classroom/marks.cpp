@@ -28,10 +28,8 @@ QByteArray MarksHead() {
 }
 
 QByteArray MarksOf(const PupilRun& run) {
-  qsizetype met = 0;
-  for (const GoalOutcome& goal : run.Went.Goals) met += goal.Met ? 1 : 0;
   return Row({NameOf(run.Who.Program.filename()), PupilName(run.Who), WordOf(run.Went.How),
-              QString::number(PointsOf(run)), QString::number(MostPointsOf(run)), QString::number(met),
+              QString::number(PointsOf(run)), QString::number(MostPointsOf(run)), QString::number(run.GoalsMet()),
               QString::number(run.Went.Goals.size()), QString::number(run.Went.Findings.size()),
               QString::number(run.Seconds, 'f', 1)});
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -120,8 +121,14 @@ struct PupilRun {
   /// The picture as a PNG file, or empty if there is none. Those of the goals are beside it.
   std::filesystem::path Picture;
 
+  std::size_t GoalsMet() const {
+    return static_cast<std::size_t>(std::ranges::count_if(Went.Goals, &GoalOutcome::Met));
+  }
   /// Whether the run needs a teacher's eye.
-  bool IsSuspicious() const { return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty(); }
+  bool IsSuspicious() const {
+    return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty() ||
+           GoalsMet() < Went.Goals.size();
+  }
 };
 
 /// The limits of each run; 0 is no limit.

@@ -145,11 +145,20 @@ Play PupilSession::PlayWithoutSession(QStringList& notes) const {
   return play;
 }
 
+SessionRun& PupilSession::Played(const Play& play, const char* transcript) {
+  if (lastRun_ && lastPlay_ == play) return *lastRun_;
+  // The old one's transcript may be written anew.
+  lastRun_.reset();
+  lastPlay_ = play;
+  lastRun_ = std::make_unique<SessionRun>(order_, transcript);
+  lastRun_->Run(play);
+  return *lastRun_;
+}
+
 void PupilSession::RunMain() {
   const Play play = MainPlay();
   for (const std::string& line : play.Typed) outcome_.Typed.append(FromLatin1(line));
-  SessionRun run(order_, run_file::Transcript);
-  run.Run(play);
+  SessionRun& run = Played(play, run_file::Transcript);
   const RunOutcome& went = run.Went();
   outcome_.How = went.How;
   outcome_.By = went.By;
@@ -170,8 +179,7 @@ void PupilSession::AddSource(SessionRun& run) {
 
 void PupilSession::RunGoal(std::size_t index) {
   const Goal& goal = order_.Goals[index];
-  SessionRun run(order_, run_file::GoalTranscript);
-  run.Run(PlayOf(goal));
+  SessionRun& run = Played(PlayOf(goal), run_file::GoalTranscript);
   WritePicture(run, run_file::GoalPicture(index));
   if (!order_.ModelFolder.empty() || !order_.ModelPicture.empty()) {
     outcome_.Goals.push_back(Judge(order_, index, run));

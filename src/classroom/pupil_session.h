@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -29,6 +30,8 @@ class PupilSession {
   Play PlayWithoutSession(QStringList& notes) const;
   /// A session's text in which the lines that begin with PROGRAM call the program's main procedure.
   std::string WithProcedure(const std::string& text) const;
+  /// Plays a session, or takes the last one if it was the same: what ends by a limit need not take its time twice.
+  SessionRun& Played(const Play& play, const char* transcript);
   void RunMain();
   void AddSource(SessionRun& run);
   void RunGoal(std::size_t index);
@@ -42,6 +45,8 @@ class PupilSession {
   /// What `LOAD` calls the program.
   std::string loadName_;
   RunOutcome outcome_;
+  Play lastPlay_;
+  std::unique_ptr<SessionRun> lastRun_;
 };
 
 /// The process of one run: reads its order in the current folder, carries it out and writes the outcome. Returns the

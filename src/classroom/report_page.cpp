@@ -1,6 +1,7 @@
 #include "classroom/report_page.h"
 
 #include <QCryptographicHash>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -167,10 +168,19 @@ class PageWriter {
       notes.append(line + EscapedReadable(language_.Of(finding)));
     }
     for (const QString& note : run.Went.Notes) notes.append(EscapedReadable(note));
+    AddGoalNotes(run, notes);
     const QString words = run.IsSuspicious()
                               ? notes.join(QStringLiteral("<br>"))
                               : Element("span", "good", QStringLiteral("\u2713 ") + Utf8(language_.NothingSuspicious));
     return QStringLiteral("<td data-value=\"%1\">").arg(notes.size()) + words + QStringLiteral("</td>");
+  }
+
+  void AddGoalNotes(const PupilRun& run, QStringList& notes) const {
+    const std::vector<GoalOutcome>& goals = run.Went.Goals;
+    if (run.GoalsMet() == goals.size()) return;
+    notes.append(Filled(language_.GoalsMet, {QString::number(run.GoalsMet()), QString::number(goals.size())}));
+    const auto placed = std::ranges::find_if(goals, [](const GoalOutcome& goal) { return goal.Placed.has_value(); });
+    if (placed != goals.end()) notes.append(Filled(language_.ItIsTheGoal, {WordsOf(*placed->Placed, language_)}));
   }
 
   QString GoalsCell(const PupilRun& run) const {

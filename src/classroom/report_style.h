@@ -17,6 +17,7 @@ a { color: var(--link); }
 h1, h2, h3 { line-height: 1.25; margin: 1.5rem 0 .5rem; }
 h3 { font-size: 1rem; }
 p, ul { margin: .5rem 0; }
+.task { white-space: pre-wrap; }
 .quiet { color: var(--quiet); }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; width: 100%; }
@@ -52,15 +53,20 @@ th[aria-sort=descending] button::after { content: " \2193"; }
 figure { margin: 0; break-inside: avoid; }
 figcaption { font-size: .85rem; color: var(--quiet); }
 .sheet a { display: block; white-space: pre-wrap; }
-@media print { body { max-width: none; padding: 0; font-size: 10pt; } .screen, .print-choice { display: none; }
-  .boxes li, tr, figure { break-inside: avoid; } img { max-height: 7cm; width: auto; } .goal img { max-height: 3.6cm; }
+@media print { body { max-width: none; padding: 0; font-size: 9pt; } .screen, .print-choice { display: none; }
+  h1, h2, h3 { margin: .6rem 0 .2rem; break-after: avoid; } p, ul, pre, .program { margin: .2rem 0; }
+  .table { overflow-x: visible; } th, td { min-width: 0; } th { overflow-wrap: normal; } td.number { white-space: normal; }
+  .boxes li, tr, figure { break-inside: avoid; } img { max-height: 7cm; width: auto; }
+  .goal { grid-template-columns: repeat(3, 4.6cm); } .goal img { max-height: 2.9cm; } .goal figcaption { font-size: 7pt; }
   .pupil .goal ~ img { display: none; } td img { width: 2.5cm; }
   .pupil { break-before: page; border-top: 0; margin-top: 0; }
+  .pupil .program { columns: 2; font-size: 8pt; } .pupil details:not([open]) { display: none; }
   .sheet { grid-template-columns: repeat(3, 1fr); gap: 4mm; } .sheet img { max-height: 4.2cm; }
   .sheet figure { height: 5.3cm; }
   #print-one:checked ~ main .contact { display: none; }
-  #print-twelve:checked ~ main .pupil, #print-twelve:checked ~ main .overview { display: none; }
-  #print-twelve:checked ~ main .contact { break-before: page; } }
+  #print-twelve:checked ~ main .pupil, #print-twelve:checked ~ main .overview,
+  #print-twelve:checked ~ main > h2, #print-twelve:checked ~ main > .task { display: none; }
+  body:has(#print-twelve:checked) header { display: none; } }
 )";
 
 }  // namespace zerimo::classroom

@@ -29,13 +29,16 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
   const DrawingRecorder& recorder = run.Recorder();
   const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
   const bool showsSlides = !run.System().files.pictures.SlideBaseName.empty();
-  if (!recorder.HasDrawn() && isSilent && !showsSlides) findings.push_back({Mistake::NothingDrawn, 0, {}});
+  if (!recorder.HasDrawn() && isSilent && !showsSlides) {
+    const bool isUp = run.System().turtle.PenState == PenPosition::Up;
+    findings.push_back({isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn, 0, {}});
+  }
   if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
     findings.push_back({Mistake::UnderTheTitle, 0, {}});
   if (recorder.PartOutside(run.System().Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
   if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
   const RunOutcome& went = run.Went();
-  if (went.How == Result::Stopped && went.By == "steps")
+  if (went.How == Result::Stopped && went.By != "memory")
     findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement}});
   std::vector<Finding> inBoxes;
   FindInBoxes(told.Boxes, inBoxes);

@@ -16,6 +16,8 @@ namespace zerimo::classroom {
 struct Play {
   std::string Session;
   std::vector<std::string> Typed;
+
+  bool operator==(const Play&) const = default;
 };
 
 /// Text that a pupil has written, cut to a length for a report.

@@ -136,6 +136,16 @@ TEST(Placement, TellsAMirror) {
   EXPECT_NEAR(placed->Degrees, 0, 0.1);
 }
 
+TEST(Placement, TheShiftIsThatOfTheBeginning) {
+  for (const Drawing& drawing :
+       {Changed(Ell, 90, false, 1, {}), Changed(Ell, 0, true, 1, {}), Changed(Ell, 0, false, 2, {})}) {
+    const auto placed = Compare(Ell, drawing, {}).Placed;
+    ASSERT_TRUE(placed);
+    EXPECT_NEAR(placed->Shift.X, 0, 1);
+    EXPECT_NEAR(placed->Shift.Y, 0, 1);
+  }
+}
+
 TEST(Placement, TellsAScaleAndAShift) {
   auto placed = Compare(Ell, Changed(Ell, 0, false, 1.5, {}), {}).Placed;
   ASSERT_TRUE(placed);

@@ -71,7 +71,9 @@ TEST_F(DrawingTest, TellsHowMuchLiesOutside) {
   EXPECT_EQ(Recorder.PartOutside(Picture1), 0);
   Picture1.Line(0, 0, 1000, 0);
   Picture1.Line(0, 0, -1000, 0);
-  EXPECT_EQ(Recorder.PartOutside(Picture1), 0.25);
+  EXPECT_EQ(Recorder.PartOutside(Picture1), 0.5);
+  Picture1.Line(500, 15, -1500, 15);
+  EXPECT_EQ(Recorder.PartOutside(Picture1), 0.625);
 }
 
 TEST_F(DrawingTest, TravelsInAFile) {

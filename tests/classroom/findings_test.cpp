@@ -103,6 +103,8 @@ const Case Words[] = {
     {"TO A|SETXY 10|END|", {"2 missing inputs SETXY 2 1"}},
     {"TO BOX :S :T|FD :S|RT :T|END|TO A|BOX 5|END|", {"6 missing inputs BOX 2 1"}},
     {"TO A|FD :SIDE|END|", {"2 unknown name :SIDE"}},
+    {"TO A :S|FD S|REPEAT 3 [FD S*2 RT 9]|FD :S|END|", {"2 name without colon S", "3 name without colon S"}},
+    {"TO A :S|PRINT \"S\"|LABEL S|MAKE \"T :S|FD :T|END|", {}},
     {"TO A|MAKE \"Z 0|PRINT :Z*5+3|END|", {"3 zero vanishes :Z"}},
     {"TO TWICE :S|PRINT :S+:S|END|", {"2 input twice :S"}},
     {"TO THRICE :N|PRINT 3*:N|END|TO A|THRICE 2+3|END|", {"5 input without brackets 2+3 :N"}},
@@ -155,17 +157,55 @@ TEST(Findings, NothingIsSuspiciousInTheSamples) {
 
 /// The address of a heading in a page that is made of Markdown.
 QString AddressOf(QString heading) {
-  heading = heading.toLower();
-  heading.remove(QRegularExpression("[^\\w\\- ]"));
-  return heading.replace(u' ', u'-');
+  static const QRegularExpression dropped("[^\\w\\- ]", QRegularExpression::UseUnicodePropertiesOption);
+  return heading.toLower().remove(dropped).replace(u' ', u'-');
 }
 
-TEST(Findings, EachLinkLeadsToAQuirk) {
-  QSet<QString> addresses = {""};
+QSet<QString> AddressesOfQuirks() {
+  QSet<QString> addresses;
   for (const QString& line : QString::fromStdString(BytesOf(ZERIMO_SOURCE_DIR "/docs/quirks.md")).split(u'\n')) {
     if (line.startsWith("### ")) addresses.insert(AddressOf(line.mid(4)));
   }
+  return addresses;
+}
+
+TEST(Findings, EachLinkLeadsToAQuirk) {
+  const QSet<QString> addresses = AddressesOfQuirks() + QSet<QString>{""};
   for (const MistakeFacts& facts : Mistakes()) EXPECT_TRUE(addresses.contains(facts.Quirk)) << facts.Quirk;
+}
+
+/// Quirks that no program of a pupil can show, and why.
+struct UnseenQuirk {
+  const char* Address;
+  const char* Why;
+};
+const UnseenQuirk UnseenQuirks[] = {
+    {"why-can-i-not-type-to-square-on-a-row", "about typing: the program is a file"},
+    {"where-has-my-repeat-gone", "no mistake: how a REPEAT is shown in the diagnosis panel"},
+    {"why-does-a-repeat-that-has-always-worked-hang-after-a-long-lesson", "each run begins with no names"},
+    {"why-does-the-turtles-heading-not-start-again-at-360", "no mistake: the drawing is the same"},
+    {"why-is-the-turtles-home-lower-than-the-middle-of-the-picture", "no mistake: the same for everyone"},
+    {"why-did-the-pen-colour-that-i-mixed-go-away", "about the bars of the diagnosis panel"},
+    {"why-are-my-small-letters-and-blanks-gone", "about typing: a file that is loaded keeps them"},
+    {"why-does-everything-hang-after-refresh", "about a button of the diagnosis panel"},
+    {"why-did-zerimo-end-when-i-cancelled-f11", "about a key in a help page"},
+    {"why-did-zerimo-end-when-i-emptied-the-resolution-box", "about a box of the diagnosis panel"},
+    {"why-does-my-typing-land-in-the-box-line-width", "about a box of the diagnosis panel"},
+    {"why-does-line-width-show-1-when-lines-are-4-wide", "about a box of the diagnosis panel"},
+    {"what-is-new-dir-at-the-mouse", "about the mouse"},
+    {"why-is-my-procedure-unknown-although-it-is-in-the-editor", "about the editor's keys: the program is loaded"},
+    {"where-is-the-file-that-i-saved-with-an-empty-name", "hidden files are not run"},
+};
+
+TEST(Findings, EachQuirkIsFoundOrCanNotBeSeen) {
+  QSet<QString> told;
+  for (const MistakeFacts& facts : Mistakes()) told.insert(facts.Quirk);
+  for (const UnseenQuirk& quirk : UnseenQuirks) {
+    EXPECT_FALSE(told.contains(quirk.Address)) << quirk.Address << " is found, so not: " << quirk.Why;
+    told.insert(quirk.Address);
+  }
+  told.remove("");
+  EXPECT_EQ(AddressesOfQuirks(), told);
 }
 
 TEST(Findings, EachMistakeHasItsOwnCode) {

@@ -191,6 +191,15 @@ TEST(ReportPage, TellsHowAGoalWasMissed) {
   EXPECT_TRUE(page.contains("1 of 4 points"));
 }
 
+TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 40, 3, Placement{90, false, 1, {}}},
+                    {"", GoalWay::Texts, true, 100, 1, {}}};
+  const QString page = PageWith({run});
+  EXPECT_FALSE(page.contains("nothing suspicious"));
+  EXPECT_TRUE(page.contains("1 of 2 goals are met.<br>It is the goal, but turned by 90 degrees to the right.</td>"));
+}
+
 TEST(ReportPage, SaysThatItIsPartial) {
   Report report;
   report.Runs = {RunOf("ANNA.ZRM")};

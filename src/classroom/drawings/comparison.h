@@ -24,7 +24,8 @@ struct Placement {
   double Degrees = 0;
   bool Mirrored = false;
   double Scale = 1;
-  /// Of the middle of all shapes, in surface units, y downwards.
+  /// Of the point where the goal begins (its middle if it has no lines), in surface units, y downwards: a drawing that
+  /// only began in another direction or size is not shifted.
   Point Shift;
 };
 

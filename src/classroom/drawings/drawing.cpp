@@ -1,5 +1,6 @@
 #include "classroom/drawings/drawing.h"
 
+#include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -39,6 +40,24 @@ bool GoesOn(const Line& first, const Line& second) {
 bool LiesOutside(const Surface& surface, Point point) {
   return point.X < 0 || point.Y < 0 || point.X > static_cast<double>(surface.Width) ||
          point.Y > static_cast<double>(surface.Height());
+}
+
+/// The part of a line, from 0 to 1, that lies on the surface.
+double PartInside(const Surface& surface, const Line& line) {
+  double first = 0;
+  double last = 1;
+  const auto keep = [&](double from, double to, double most) {
+    if (from == to) {
+      if (from < 0 || from > most) last = first;
+      return;
+    }
+    const auto [near, far] = std::minmax((0 - from) / (to - from), (most - from) / (to - from));
+    first = std::max(first, near);
+    last = std::min(last, far);
+  };
+  keep(line.From.X, line.To.X, static_cast<double>(surface.Width));
+  keep(line.From.Y, line.To.Y, static_cast<double>(surface.Height()));
+  return std::max(0.0, last - first);
 }
 
 }  // namespace
@@ -146,11 +165,17 @@ void DrawingRecorder::Erase(const Line& eraser) {
 }
 
 double DrawingRecorder::PartOutside(const Surface& surface) const {
+  double all = 0;
   double outside = 0;
-  for (const Line& each : drawing_.Lines)
-    outside += 0.5 * LiesOutside(surface, each.From) + 0.5 * LiesOutside(surface, each.To);
-  for (const Figure& each : drawing_.Figures) outside += LiesOutside(surface, each.Centre);
-  const auto all = static_cast<double>(drawing_.Lines.size() + drawing_.Figures.size());
+  for (const Line& each : drawing_.Lines) {
+    all += each.Length();
+    outside += each.Length() * (1 - PartInside(surface, each));
+  }
+  for (const Figure& each : drawing_.Figures) {
+    const double size = each.Across + each.Down + LeastLength;
+    all += size;
+    outside += LiesOutside(surface, each.Centre) ? size : 0;
+  }
   return all == 0 ? 0 : outside / all;
 }
 

@@ -64,7 +64,7 @@ class DrawingRecorder final : public SurfaceRecorder {
   bool WasWiped() const { return wiped_; }
   /// Whether anything was ever drawn, poured or loaded.
   bool HasDrawn() const { return hasDrawn_; }
-  /// The share of the shapes that is outside the surface, from 0 to 1.
+  /// The share of what is drawn, by length, that is outside the surface, from 0 to 1.
   double PartOutside(const Surface& surface) const;
 
  private:

@@ -152,7 +152,9 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   for (Placement placement : TriesFor(goal, drawing, scale)) {
     const Mover mover(placement, from.Middle, to.Middle);
     if (!Fits(mover.Moved(goal), drawing, 1.5 * rules.Tolerance)) continue;
-    placement.Shift = {to.Middle.X - from.Middle.X, to.Middle.Y - from.Middle.Y};
+    const Point start = goal.Lines.empty() ? from.Middle : goal.Lines.front().From;
+    const Point moved = mover.Moved(start);
+    placement.Shift = {moved.X - start.X, moved.Y - start.Y};
     return placement;
   }
   return std::nullopt;

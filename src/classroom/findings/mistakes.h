@@ -52,6 +52,7 @@ enum class Mistake : std::uint8_t {
   SeveralStatements,
   MissingInputs,
   UnknownName,
+  NameWithoutColon,
   ZeroVanishes,
   InputTwice,
   InputWithoutBrackets,
@@ -80,6 +81,7 @@ enum class Mistake : std::uint8_t {
   OneLine,
   // Seen in the run.
   NothingDrawn,
+  NothingWithPenUp,
   UnderTheTitle,
   OutsideThePicture,
   PictureWiped,

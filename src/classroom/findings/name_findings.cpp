@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "classroom/findings/findings.h"
+#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
@@ -28,15 +29,37 @@ QStringList InputsOf(const Listing& listing, const Statement& statement) {
   return listing.Procedures[static_cast<std::size_t>(statement.Procedure)].Inputs;
 }
 
-void FindUnknown(const Listing& listing, Findings& findings) {
+/// The names that the program makes, with their colons.
+QSet<QString> KnownNames(const Listing& listing) {
   QSet<QString> known;
   for (const ListedProcedure& each : listing.Procedures) {
     for (const QString& input : each.Inputs) known.insert(input);
   }
   for (const Statement& each : listing.Statements) known.insert(MadeBy(each));
+  return known;
+}
+
+void FindUnknown(const Listing& listing, const QSet<QString>& known, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     for (const QString& name : NamesIn(statement.Text)) {
       if (!known.contains(name)) findings.push_back({Mistake::UnknownName, statement.Line, {name}});
+    }
+  }
+}
+
+/// A name that is known, but written without its colon, counts as 0.
+void FindWithoutColon(const Listing& listing, const QSet<QString>& known, Findings& findings) {
+  static const QRegularExpression plain("(?<![:\"#\\w.])[A-Z]+(?![\\w.])");
+  static const QStringList ofOtherNames = {"LABEL", "GOTO", "LOAD",        "SAVE",        "SHOW",
+                                           "HIDE",  "HELP", "SAVEPICTURE", "LOADPICTURE", "SLIDESHOW"};
+  for (const Statement& statement : listing.Statements) {
+    if (statement.Word() == "REPEAT" || ofOtherNames.contains(statement.Word())) continue;
+    // What MAKE makes is written without one.
+    const QString read = statement.Word() == "MAKE" ? statement.Rest().section(u' ', 1) : statement.Rest();
+    for (auto walk = plain.globalMatch(read); walk.hasNext();) {
+      const QString name = walk.next().captured();
+      if (known.contains(u':' + name) && !IsKnownWord(name) && listing.Find(name) == nullptr)
+        findings.push_back({Mistake::NameWithoutColon, statement.Line, {name}});
     }
   }
 }
@@ -50,7 +73,7 @@ void FindZeros(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     for (const QString& name : std::as_const(zeros)) {
       const QString word = QRegularExpression::escape(name);
-      const QRegularExpression harmful("(?:^| )" + word + "[*/]|[*]" + word + "[-+]");
+      const QRegularExpression harmful("(?:^| )" + word + "[*/]|[*]" + word + "-");
       if (harmful.match(statement.Text).hasMatch()) findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
     }
   }
@@ -87,7 +110,9 @@ void FindSums(const Listing& listing, const Statement& call, Findings& findings)
 }  // namespace
 
 void FindInNames(const Listing& listing, Findings& findings) {
-  FindUnknown(listing, findings);
+  const QSet<QString> known = KnownNames(listing);
+  FindUnknown(listing, known, findings);
+  FindWithoutColon(listing, known, findings);
   FindZeros(listing, findings);
   for (const Statement& statement : listing.Statements) {
     FindInputTwice(listing, statement, findings);
