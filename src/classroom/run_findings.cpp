@@ -9,6 +9,10 @@ namespace {
 /// A drawing that is nearly all outside the picture is a mistake; hills that rise from below it are not.
 constexpr double NearlyAll = 0.9;
 
+/// The part of the title picture that hides nothing, in fractions of its height.
+constexpr double TitleIsClearFrom = 0.2;
+constexpr double TitleIsClearTo = 0.74;
+
 constexpr const char* FenceWords = "outside of the Fence";
 constexpr const char* MissingWords = "Required Paramiter Missing After ";
 
@@ -33,8 +37,8 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
     const bool isUp = run.System().turtle.PenState == PenPosition::Up;
     findings.push_back({isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn, 0, {}});
   }
-  if (recorder.HasDrawn() && run.System().controls.Image1.Visible())
-    findings.push_back({Mistake::UnderTheTitle, 0, {}});
+  const bool isUnderTheTitle = recorder.LeavesBand(run.System().Picture1, TitleIsClearFrom, TitleIsClearTo);
+  if (isUnderTheTitle && run.System().controls.Image1.Visible()) findings.push_back({Mistake::UnderTheTitle, 0, {}});
   if (recorder.PartOutside(run.System().Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
   if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
   const RunOutcome& went = run.Went();

@@ -76,6 +76,16 @@ TEST_F(DrawingTest, TellsHowMuchLiesOutside) {
   EXPECT_EQ(Recorder.PartOutside(Picture1), 0.625);
 }
 
+TEST_F(DrawingTest, TellsWhatLeavesABand) {
+  Picture1.Line(0, 5760, 9000, 5760);
+  EXPECT_FALSE(Recorder.LeavesBand(Picture1, 0.25, 0.75));
+  Picture1.Circle(500, 8000, 300);
+  EXPECT_FALSE(Recorder.LeavesBand(Picture1, 0.25, 0.75));
+  EXPECT_TRUE(Recorder.LeavesBand(Picture1, 0.25, 0.5));
+  Picture1.Line(0, 5760, 0, 2000);
+  EXPECT_TRUE(Recorder.LeavesBand(Picture1, 0.25, 0.75));
+}
+
 TEST_F(DrawingTest, TravelsInAFile) {
   const TempFolder disk;
   Picture1.Line(0, 0, 1000.5, 0);

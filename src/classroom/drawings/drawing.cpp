@@ -179,4 +179,11 @@ double DrawingRecorder::PartOutside(const Surface& surface) const {
   return all == 0 ? 0 : outside / all;
 }
 
+bool DrawingRecorder::LeavesBand(const Surface& surface, double top, double bottom) const {
+  const double height = surface.Height();
+  const auto leaves = [&](Point point) { return point.Y < top * height || point.Y > bottom * height; };
+  return std::ranges::any_of(drawing_.Lines, [&](const Line& each) { return leaves(each.From) || leaves(each.To); }) ||
+         std::ranges::any_of(drawing_.Figures, [&](const Figure& each) { return leaves(each.Centre); });
+}
+
 }  // namespace zerimo::classroom

@@ -66,6 +66,9 @@ class DrawingRecorder final : public SurfaceRecorder {
   bool HasDrawn() const { return hasDrawn_; }
   /// The share of what is drawn, by length, that is outside the surface, from 0 to 1.
   double PartOutside(const Surface& surface) const;
+  /// Whether something of it begins, ends or has its middle above or below a band, in fractions of the surface's
+  /// height.
+  bool LeavesBand(const Surface& surface, double top, double bottom) const;
 
  private:
   void Add(const Surface& surface, Line line);
