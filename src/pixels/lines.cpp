@@ -163,22 +163,19 @@ void PaintWideLine(SpanPainter& painter, WholeLine line, const RoundPen& pen) {
   if (backward) line = {line.X2, line.Y2, line.X1, line.Y1};
   const Flanks flanks(line, pen.Width(), painter.Columns());
   const auto paintEnds = [&](int first, int last) {
-    for (int row = first; row <= last; ++row) {
+    painter.PaintRows(first, last, [&](int row) {
       ColumnSpan span = flanks.AtRow(row);
       UniteEnd(span, pen, line.X1, line.Y1, row);
       UniteEnd(span, pen, line.X2, line.Y2, row);
-      painter.PaintSpan(row, span.First, span.Last);
-    }
+      return span;
+    });
   };
   const int top = std::max(line.Y1 - pen.Above(), 0);
   const int bottom = std::min(line.Y2 - pen.Above() + pen.Width(), painter.Rows()) - 1;
   const int afterUpperEnd = std::clamp(line.Y1 - pen.Above() + pen.Width(), top, std::max(top, bottom + 1));
   const int lowerEnd = std::clamp(line.Y2 - pen.Above(), afterUpperEnd, std::max(afterUpperEnd, bottom + 1));
   paintEnds(top, afterUpperEnd - 1);
-  for (int row = afterUpperEnd; row < lowerEnd; ++row) {
-    const ColumnSpan span = flanks.BetweenEnds(row);
-    painter.PaintSpan(row, span.First, span.Last);
-  }
+  painter.PaintRows(afterUpperEnd, lowerEnd - 1, [&](int row) { return flanks.BetweenEnds(row); });
   paintEnds(lowerEnd, bottom);
 }
 

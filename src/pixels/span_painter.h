@@ -41,26 +41,56 @@ class SpanPainter {
     }
   }
 
+  /// The same for each row of the buffer from the first to the last one, both included; `spanOf` gives the columns of a
+  /// row.
+  template <typename SpanOf>
+  void PaintRows(int firstRow, int lastRow, SpanOf&& spanOf) {
+    if (firstRow > lastRow) return;
+    if (operation_.IsPlain() && &hatch_ == &HatchPatterns[0]) return FillRows(firstRow, lastRow, spanOf);
+    for (int row = firstRow; row <= lastRow; ++row) {
+      const auto [first, last] = spanOf(row);
+      PaintSpan(row, first, last);
+    }
+  }
+
  private:
   /// How many pixels a plain operation writes at once.
   static constexpr int Block = 4;
 
   Pixel* Row(int row) const { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
 
+  /// All that a row needs is held in locals, which no pixel written could change.
+  template <typename SpanOf>
+  void FillRows(int firstRow, int lastRow, SpanOf&& spanOf) const {
+    const int lastColumn = columns_ - 1;
+    const std::ptrdiff_t rowLength = columns_;
+    const Pixel color = operation_.Toggle;
+    Pixel* pixels = Row(firstRow);
+    for (int row = firstRow; row <= lastRow; ++row, pixels += rowLength) {
+      const auto [first, last] = spanOf(row);
+      const int begin = std::max(first, 0);
+      const int end = std::min(last, lastColumn);
+      if (begin <= end) FillRun(pixels + begin, end - begin + 1, color);
+    }
+  }
+
   void PaintRun(Pixel* pixel, int count) {
-    if (!operation_.IsPlain()) {
-      std::for_each(pixel, pixel + count, [this](Pixel& each) { each = operation_.Apply(each); });
-    } else if (count < Block || count > LongestShort) {
-      std::fill_n(pixel, count, operation_.Toggle);
+    if (operation_.IsPlain()) return FillRun(pixel, count, operation_.Toggle);
+    std::for_each(pixel, pixel + count, [this](Pixel& each) { each = operation_.Apply(each); });
+  }
+
+  static void FillRun(Pixel* pixel, int count, Pixel color) {
+    if (count < Block || count > LongestShort) {
+      std::fill_n(pixel, count, color);
     } else {
-      PaintShort(pixel, count);
+      FillShort(pixel, count, color);
     }
   }
 
   /// For the usual run of a pen, a few pixels long: block by block, the last block overlapping the one before it.
-  void PaintShort(Pixel* pixel, int count) {
+  static void FillShort(Pixel* pixel, int count, Pixel color) {
     std::array<Pixel, Block> block;
-    block.fill(operation_.Toggle);
+    block.fill(color);
     for (int done = 0; done + Block <= count; done += Block) std::memcpy(pixel + done, block.data(), sizeof block);
     std::memcpy(pixel + count - Block, block.data(), sizeof block);
   }
