@@ -11,6 +11,7 @@ int InPixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<do
 }  // namespace
 
 void PictureOutput::Write(const Surface& surface, const std::filesystem::path& file) const {
+  startToolkit_();
   WriteSurface(canvas_, operations_, file, InPixels(surface.Width), InPixels(surface.Height()), surface.BackColor());
 }
 

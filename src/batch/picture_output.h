@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <utility>
 
 #include "graphics/surface.h"
 #include "pictures/image_canvas.h"
@@ -11,6 +13,10 @@ namespace zerimo::batch {
 /// The pixels of a session, and its pictures as files.
 class PictureOutput {
  public:
+  /// `startToolkit` is called each time before the toolkit is needed.
+  explicit PictureOutput(std::function<void()> startToolkit = [] {})
+      : startToolkit_(std::move(startToolkit)), canvas_(startToolkit_) {}
+
   ImageCanvas& Pixels() { return canvas_; }
 
   /// Keeps the operations of the surface from now on, for a picture made of shapes. Each costs memory.
@@ -20,6 +26,7 @@ class PictureOutput {
   void Write(const Surface& surface, const std::filesystem::path& file) const;
 
  private:
+  std::function<void()> startToolkit_;
   ImageCanvas canvas_;
   SvgRecorder operations_{canvas_};
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/wide_registers.h"
+
 namespace zerimo {
 
 namespace {
@@ -14,7 +16,10 @@ constexpr int ShareOfShowing = 4;
 
 }  // namespace
 
-void FrameWatch::Begin() { nextFrame_ = Clock::now() + Frame; }
+void FrameWatch::Begin() {
+  FreeWideRegisters();
+  nextFrame_ = Clock::now() + Frame;
+}
 
 void FrameWatch::Step() {
   if (OnStep) {
@@ -36,6 +41,7 @@ void FrameWatch::Look() {
 void FrameWatch::ShowFrame() {
   const Clock::time_point start = Clock::now();
   stage_.ShowState();
+  FreeWideRegisters();
   const Clock::time_point end = Clock::now();
   nextFrame_ = std::max(start + Frame, end + (ShareOfShowing - 1) * (end - start));
 }

@@ -7,6 +7,7 @@
 
 namespace zerimo {
 
-ImageCanvas::ImageCanvas() : PixelCanvas(std::make_unique<TextPainter>(), std::make_unique<QtPictureFiles>()) {}
+ImageCanvas::ImageCanvas(const std::function<void()>& startToolkit)
+    : PixelCanvas(std::make_unique<TextPainter>(startToolkit), std::make_unique<QtPictureFiles>(startToolkit)) {}
 
 }  // namespace zerimo

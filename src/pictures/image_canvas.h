@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <functional>
 
 #include "pictures/pixel_image.h"
 #include "pixels/pixel_canvas.h"
@@ -10,7 +11,8 @@ namespace zerimo {
 /// The canvas with Qt's text and picture files. Printing text needs a QGuiApplication.
 class ImageCanvas : public PixelCanvas {
  public:
-  ImageCanvas();
+  /// `startToolkit` is called each time before text or a picture file needs the toolkit.
+  explicit ImageCanvas(const std::function<void()>& startToolkit = [] {});
 
   /// The pixels as they are at any time, without a copy (Format_RGB32).
   QImage Image() const { return ImageOver(Pixels()); }

@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "base/failure.h"
+#include "base/wide_registers.h"
 #include "files/disk_files.h"
 #include "pictures/picture_check.h"
 #include "pictures/pixel_image.h"
@@ -77,14 +78,17 @@ QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
 }  // namespace
 
 PixelBuffer QtPictureFiles::Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) {
+  startToolkit_();
   const QImage picture = ReadPicture(file, QSize(mostColumns, mostRows));
   PixelBuffer pixels(picture.width(), picture.height(), background);
   QImage image = ImageOver(pixels);
   QPainter(&image).drawImage(QPoint(0, 0), picture);
+  FreeWideRegisters();
   return pixels;
 }
 
 void QtPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, const std::filesystem::path& file) {
+  startToolkit_();
   const std::string ending = EndingOf(file);
   const auto* format = std::find_if(WritableFormats.begin(), WritableFormats.end(),
                                     [&ending](const WritableFormat& each) { return each.Ending == ending; });
@@ -96,6 +100,7 @@ void QtPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, con
   const QImage image = ImageOver(pixels);
   const QRect part = QRect(0, 0, columns, rows) & image.rect();
   Require(writer.write(part == image.rect() ? image : image.copy(part)), FailureKind::FileAccess);
+  FreeWideRegisters();
   WriteBeside(file, content.toStdString());
 }
 

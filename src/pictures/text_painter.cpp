@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/wide_registers.h"
 #include "pictures/pixel_image.h"
 
 namespace zerimo {
@@ -116,12 +117,14 @@ PixelRect TextPainter::Print(PixelBuffer& pixels, std::string_view text, PixelPo
   painter.setRenderHint(QPainter::TextAntialiasing, false);
   painter.setPen(QColor::fromRgb(color));
   painter.drawGlyphRun(QPointF(visible.X, at.Y + font.Ascent()), glyphs);
+  FreeWideRegisters();
   const double end = visible.X + font.WidthOf(visible.Text);
   return OnCanvas(visible.X - font.Height(), at.Y - font.Height(), end + font.Height(), at.Y + 2 * font.Height(),
                   pixels.Columns(), pixels.Rows());
 }
 
 const TextFont& TextPainter::FontOf(double pointSize) {
+  startToolkit_();
   if (!lastFont_ || lastFont_->PointSize() != pointSize) lastFont_.emplace(pointSize);
   return *lastFont_;
 }

@@ -5,8 +5,10 @@
 #include <QRawFont>
 #include <QString>
 #include <array>
+#include <functional>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "pixels/text_drawer.h"
 
@@ -47,14 +49,17 @@ bool IsPrintable(char character);
 /// The printable characters of a text.
 QString PrintableText(std::string_view text);
 
-/// Prints text with Qt. Needs a QGuiApplication.
+/// Text by Qt. Needs a QGuiApplication, which `startToolkit` may create.
 class TextPainter : public TextDrawer {
  public:
+  explicit TextPainter(std::function<void()> startToolkit) : startToolkit_(std::move(startToolkit)) {}
+
   PixelRect Print(PixelBuffer& pixels, std::string_view text, PixelPoint at, double pointSize, Pixel color) override;
 
  private:
   const TextFont& FontOf(double pointSize);
 
+  std::function<void()> startToolkit_;
   std::optional<TextFont> lastFont_;
 };
 

@@ -3,9 +3,11 @@
 #include <array>
 #include <clocale>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 #include "batch/batch_session.h"
 #include "batch/errors.h"
@@ -53,7 +55,8 @@ std::filesystem::path PathOf(const std::string& latin1) {
 /// One run of the program with its options.
 class Program {
  public:
-  explicit Program(const Options& options) : options_(options) {}
+  Program(const Options& options, std::function<void()> startToolkit)
+      : options_(options), pictures_(std::move(startToolkit)) {}
 
   int Run() {
     const std::optional<std::string> bytes = ReadSessionFile(options_.SessionFile);
@@ -129,10 +132,15 @@ void KeepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message
   if (type == QtFatalMsg) std::cerr << message.toStdString() << '\n';
 }
 
-/// Fonts and picture formats need it; no display is opened.
+/// Fonts and picture formats need it; no display is opened. Most sessions need neither, and it takes longer to start
+/// than they run.
 class HiddenDesktop {
  public:
-  explicit HiddenDesktop(char* programName) : arguments_{programName, nullptr} {
+  explicit HiddenDesktop(char* programName) : arguments_{programName, nullptr} {}
+
+  /// Does nothing if it is started.
+  void Start() {
+    if (application_) return;
     qInstallMessageHandler(KeepQuiet);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Nothing here follows the user's locale, neither numbers nor file names.
@@ -148,8 +156,9 @@ class HiddenDesktop {
 };
 
 int Main(char* programName, const std::vector<std::string>& words) {
+  HiddenDesktop desktop(programName);
   if (words == std::vector<std::string>{classroom::PupilArgument}) {
-    const HiddenDesktop desktop(programName);
+    desktop.Start();
     return classroom::RunPupil();
   }
   const classroom::Command command = classroom::ParseCommand(words);
@@ -161,8 +170,8 @@ int Main(char* programName, const std::vector<std::string>& words) {
     std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
     return 0;
   }
-  const HiddenDesktop desktop(programName);
-  if (!command.IsClass()) return Program(command.Runner).Run();
+  if (!command.IsClass()) return Program(command.Runner, [&desktop] { desktop.Start(); }).Run();
+  desktop.Start();
   return static_cast<int>(classroom::RunClass(command, ZERIMO_VERSION));
 }
 
