@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <thread>
 
-#include "base/failure.h"
-
 namespace zerimo::batch {
 
-BatchWatch::BatchWatch(std::uint64_t steps, double seconds) : stepLimit_(steps), secondLimit_(seconds) {}
+BatchWatch::BatchWatch(std::uint64_t steps, double seconds, std::uint64_t ticks)
+    : stepLimit_(steps), tickLimit_(ticks), secondLimit_(seconds) {}
 
 void BatchWatch::StartClock() {
   if (secondLimit_ == 0) return;

@@ -89,7 +89,7 @@ class ClassRun {
     report_.Folder =
         NameOf(options_.Folder.empty() ? fs::path(options_.List).filename() : FolderOf(options_.Folder).filename());
     report_.Version = QString::fromStdString(version);
-    report_.Limits = {settings_.Seconds, settings_.Steps, options_.Memory};
+    report_.Limits = {settings_.Seconds, settings_.Steps, settings_.Memory};
     report_.TaskTitle = task_.Title;
     report_.TaskWords = task_.Words;
     report_.Words = options_.Words;

@@ -200,6 +200,7 @@ int RunPupil() {
   const std::optional<Order> order = ReadOrder(run_file::Order);
   if (!order) return 1;
   TameProcess();
+  if (order->Limits.Memory > 0) NoteRefusedMemory();
   const Pupil& who = order->Who;
   std::vector<fs::path> readable = {who.Program.parent_path(), who.Program, who.Session};
   for (const fs::path& model : {order->ModelFolder, order->ModelPicture}) {

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <utility>
 
+#include "batch/memory_limit.h"
 #include "classroom/page_html.h"
 #include "classroom/page_script.h"
-#include "classroom/process_limits.h"
 #include "classroom/readable.h"
 #include "classroom/report_style.h"
 #include "classroom/words.h"
@@ -25,7 +25,7 @@ QString LimitText(const RunLimits& limits, const Language& language) {
   QStringList parts;
   if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds, language));
   if (limits.Steps > 0) parts.append(WordsOfStepLimit(limits.Steps, language));
-  if (limits.Memory > 0 && CanLimitMemory()) parts.append(WordsOfMemoryLimit(limits.Memory, language));
+  if (limits.Memory > 0 && batch::MemoryLimit::IsThere()) parts.append(WordsOfMemoryLimit(limits.Memory, language));
   return parts.isEmpty() ? Utf8(language.NoLimits) : parts.join(QStringLiteral(", "));
 }
 

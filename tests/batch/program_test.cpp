@@ -77,6 +77,14 @@ TEST_F(BatchProgramTest, SecondsCountForTheWholeSession) {
   EXPECT_EQ(run.Output.find("REACHED"), std::string::npos);
 }
 
+TEST_F(BatchProgramTest, OutputHasALimit) {
+  const ProgramRun run = program.Run("--output 1", "REPEAT 5000 [PRINT \"" + std::string(400, 'A') + "\"]\n");
+  EXPECT_EQ(run.Status, 3);
+  EXPECT_EQ(run.Errors, "zerimo-batch: -:1: stopped by the limit of output\n");
+  EXPECT_GT(run.Output.size(), std::size_t{1} << 20);
+  EXPECT_LT(run.Output.size(), (std::size_t{1} << 20) + 1000);
+}
+
 TEST_F(BatchProgramTest, LeavesByByeQuitAndCloseWithStatus0) {
   EXPECT_EQ(program.Run("", "@answer box Yes\nBYE\n").Status, 0);
   EXPECT_EQ(program.Run("", "QUIT\n").Status, 0);
