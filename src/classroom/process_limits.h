@@ -6,8 +6,8 @@ namespace zerimo::classroom {
 /// when it crashes. An interrupt from the terminal is left to the runner. What the platform does not have is left out.
 void TameProcess();
 
-/// From now on, memory that is refused leaves the note `run_file::OutOfMemory` in the process's folder, before it ends in
-/// `std::bad_alloc`.
+/// From now on, memory that is refused leaves the note `run_file::OutOfMemory` in the process's folder, before it ends
+/// in `std::bad_alloc`.
 void NoteRefusedMemory();
 
 }  // namespace zerimo::classroom
