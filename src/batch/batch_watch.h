@@ -21,7 +21,7 @@ class BatchWatch final : public Watch {
   void Step() override;
   void Tick() override {
     if (tickLimit_ != 0 && ++ticksTaken_ > tickLimit_) throw Stopped{"ticks"};
-    LookAtClockNowAndThen();
+    LookAtClock();
   }
 
   /// Sleeps, but stops the session at the limit of seconds.
@@ -30,8 +30,9 @@ class BatchWatch final : public Watch {
  private:
   using Clock = std::chrono::steady_clock;
 
-  void LookAtClockNowAndThen();
   void LookAtClock() const;
+  void StopAfter(Clock::time_point now) const;
+  static Clock::time_point Now();
 
   std::uint64_t stepLimit_;
   std::uint64_t stepsTaken_ = 0;
@@ -39,7 +40,6 @@ class BatchWatch final : public Watch {
   std::uint64_t ticksTaken_ = 0;
   double secondLimit_;
   Clock::time_point end_ = Clock::time_point::max();
-  unsigned looks_ = 0;
 };
 
 }  // namespace zerimo::batch

@@ -10,9 +10,9 @@
 
 namespace zerimo::batch {
 
-#if ZERIMO_LIMITS_MEMORY
-
 namespace {
+
+#if ZERIMO_LIMITS_MEMORY
 
 /// Only the soft limit, so that it can be taken back; the hard one stays as it is.
 void LimitAddressSpace(rlim_t bytes) {
@@ -28,26 +28,26 @@ rlim_t AddressSpaceInUse() {
   return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
-}  // namespace
-
-bool MemoryLimit::IsThere() { return true; }
-
-MemoryLimit::MemoryLimit(int megabytes) : isSet_(megabytes > 0) {
-  if (isSet_) LimitAddressSpace(AddressSpaceInUse() + (static_cast<rlim_t>(megabytes) << 20));
-}
-
-MemoryLimit::~MemoryLimit() {
-  if (isSet_) LimitAddressSpace(RLIM_INFINITY);
-}
+void AllowMore(int megabytes) { LimitAddressSpace(AddressSpaceInUse() + (static_cast<rlim_t>(megabytes) << 20)); }
+void AllowAll() { LimitAddressSpace(RLIM_INFINITY); }
 
 #else
 
-bool MemoryLimit::IsThere() { return false; }
-
-MemoryLimit::MemoryLimit(int) : isSet_(false) {}
-
-MemoryLimit::~MemoryLimit() = default;
+void AllowMore(int) {}
+void AllowAll() {}
 
 #endif
+
+}  // namespace
+
+bool MemoryLimit::IsThere() { return ZERIMO_LIMITS_MEMORY != 0; }
+
+MemoryLimit::MemoryLimit(int megabytes) : isSet_(megabytes > 0) {
+  if (isSet_) AllowMore(megabytes);
+}
+
+MemoryLimit::~MemoryLimit() {
+  if (isSet_) AllowAll();
+}
 
 }  // namespace zerimo::batch

@@ -2,8 +2,8 @@
 
 namespace zerimo::batch {
 
-/// While it lives, the process gets at most so many megabytes more. What it does not get ends in `std::bad_alloc`. There
-/// is one at a time.
+/// While it lives, the process gets at most so many megabytes more. What it does not get ends in `std::bad_alloc`.
+/// There is one at a time.
 class MemoryLimit {
  public:
   /// Whether this build can limit the memory of a process.
