@@ -85,6 +85,8 @@ void AddClassOptions(CommandLine& line, ClassOptions& options) {
   addName("--jsonl", "FILE", "add a line of JSON for each program as it ends; pictures go beside it", options.Records);
   line.AddFlag(OfClass, "--resume", "do not run again what --jsonl has already", options.Resume);
   line.AddList(OfClass, "--merge", "PART...", "make one report of the files that --jsonl has written", options.Merged);
+  line.AddFlag(OfClass, "--follow-links", "follow links that lead out of the folder of the programs",
+               options.FollowLinks);
   add("--jobs", "N", "N programs at the same time (one for each core)", TakeJobs);
   line.AddHelp(Usage, HelpEnd);
 }

@@ -93,6 +93,7 @@ int Main(int argc, char** argv) {
 }  // namespace zerimo
 
 int main(int argc, char** argv) {
+  zerimo::LetLargeWritesFail();
   try {
     return zerimo::Main(argc, argv);
   } catch (const std::exception& error) {

@@ -131,6 +131,14 @@ TEST_F(BatchProgramTest, FullDiskIsReported) {
   EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");
 }
 
+TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReported) {
+  program.Write("limited.sh", "#!/bin/sh\nulimit -f 1\nexec '" ZERIMO_BATCH "' \"$@\"\n");
+  std::filesystem::permissions(program.Folder() / "limited.sh", std::filesystem::perms::owner_all);
+  const ProgramRun run = BatchProgram(program.Folder() / "limited.sh").Run("--picture a.png", "CS\n");
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Errors, "zerimo-batch: a.png: the picture can not be written\n");
+}
+
 TEST_F(BatchProgramTest, WritesAPictureByItsEnding) {
   const std::string scene = "CS\nREPEAT 4 [FD 20 RT 90]\nSTAMPCIRCLE 3\n";
   for (const auto& [file, beginning] : {std::pair("a.png", "\x89PNG"), std::pair("b.bmp", "BM"),

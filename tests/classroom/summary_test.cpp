@@ -24,7 +24,7 @@ TEST(Summary, HoldsEveryTextAsItIs) {
   EXPECT_EQ(pupil.value("boxes").toArray().at(0).toObject().value("text").toString(), Hostile);
   EXPECT_EQ(pupil.value("place").toObject().value("statement").toString(), Hostile);
   EXPECT_EQ(pupil.value("session").toString(), "<b>\".session");
-  EXPECT_TRUE(pupil.value("file").toString().endsWith(QStringLiteral("\"'&\n\ufffd.ZRM")));
+  EXPECT_TRUE(pupil.value("file").toString().endsWith(QStringLiteral("\"'&\n\ufffdFF.ZRM")));
 }
 
 TEST(Summary, TellsOfTheRunAsAWhole) {
