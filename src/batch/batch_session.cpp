@@ -1,11 +1,13 @@
 #include "batch/batch_session.h"
 
 #include <algorithm>
+#include <new>
 
 #include "base/failure.h"
 #include "batch/dumps.h"
 #include "batch/errors.h"
 #include "batch/latin1.h"
+#include "batch/memory_limit.h"
 #include "batch/session_reader.h"
 
 namespace zerimo::batch {
@@ -14,10 +16,12 @@ BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& jo
                            const Disk& disk)
     : journal_(journal),
       writePicture_(std::move(pictureWriter)),
-      watch_(settings.Steps, settings.Seconds),
+      watch_(settings.Steps, settings.Seconds, settings.Ticks),
       services_(journal_, watch_, settings.Sleep),
       form_(settings.Screen, Folders(settings.AppFolder, disk), services_, watch_, canvas),
-      trace_(journal_) {
+      trace_(journal_),
+      memory_(settings.Memory) {
+  if (settings.Output > 0) journal_.Limit(static_cast<std::uintmax_t>(settings.Output) << 20);
   form_.controls.List4.OnChange = [this](const std::string* item) {
     if (item != nullptr) {
       journal_.ListAdd(form_.controls.List4.Name(), *item);
@@ -56,6 +60,9 @@ Outcome BatchSession::RunToTheEnd(const Script& script) {
   } catch (const Stopped& stopped) {
     journal_.Stopped(stopped.By);
     return {Ending::Stopped, "stopped by the limit of " + stopped.By, currentLine_, stopped.By};
+  } catch (const std::bad_alloc&) {
+    journal_.Stopped("memory");
+    return {Ending::Stopped, "stopped by the limit of memory", currentLine_, "memory"};
   } catch (const Failure& failure) {
     form_.RescueEditorText();
     journal_.EndedByFailure(failure.what());
@@ -66,6 +73,7 @@ Outcome BatchSession::RunToTheEnd(const Script& script) {
 }
 
 void BatchSession::RunSteps(const Script& script) {
+  const MemoryLimit limit(memory_);
   watch_.StartClock();
   Deliver([this] { form_.Load(); });
   for (const SessionStep& step : script) {

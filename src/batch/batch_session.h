@@ -92,6 +92,7 @@ class BatchSession {
   BatchServices services_;
   Form1 form_;
   SurfaceTrace trace_;
+  int memory_;
   int currentLine_ = 0;
 };
 

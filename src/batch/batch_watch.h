@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 
+#include "base/failure.h"
 #include "base/watch.h"
 
 namespace zerimo::batch {
@@ -10,7 +11,7 @@ namespace zerimo::batch {
 /// Enforces the limits of a session and throws `Stopped` when one is reached. A limit of 0 means none.
 class BatchWatch final : public Watch {
  public:
-  BatchWatch(std::uint64_t steps, double seconds);
+  BatchWatch(std::uint64_t steps, double seconds, std::uint64_t ticks = 0);
 
   /// Starts the wall clock.
   void StartClock();
@@ -18,7 +19,10 @@ class BatchWatch final : public Watch {
   void BeginEvent();
 
   void Step() override;
-  void Tick() override { LookAtClockNowAndThen(); }
+  void Tick() override {
+    if (tickLimit_ != 0 && ++ticksTaken_ > tickLimit_) throw Stopped{"ticks"};
+    LookAtClock();
+  }
 
   /// Sleeps, but stops the session at the limit of seconds.
   void Sleep(std::chrono::milliseconds duration);
@@ -26,14 +30,16 @@ class BatchWatch final : public Watch {
  private:
   using Clock = std::chrono::steady_clock;
 
-  void LookAtClockNowAndThen();
   void LookAtClock() const;
+  void StopAfter(Clock::time_point now) const;
+  static Clock::time_point Now();
 
   std::uint64_t stepLimit_;
   std::uint64_t stepsTaken_ = 0;
+  std::uint64_t tickLimit_;
+  std::uint64_t ticksTaken_ = 0;
   double secondLimit_;
   Clock::time_point end_ = Clock::time_point::max();
-  unsigned looks_ = 0;
 };
 
 }  // namespace zerimo::batch

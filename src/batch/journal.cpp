@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/failure.h"
 #include "batch/box_buttons.h"
 #include "batch/latin1.h"
 
@@ -56,7 +57,7 @@ void Journal::Stopped(const std::string& by) { Write(JsonLine("stopped").Text("b
 void Journal::Finished() { Write(JsonLine("finished")); }
 
 void Journal::Write(const JsonLine& line) {
-  if (transcript_ != nullptr) *transcript_ << line.Finished() << '\n';
+  if (transcript_ != nullptr) Put(*transcript_, line.Finished());
 }
 
 void Journal::Flush() {
@@ -65,7 +66,18 @@ void Journal::Flush() {
 }
 
 void Journal::Tell(const std::string& text) {
-  if (people_ != nullptr) *people_ << ToUtf8(text) << '\n';
+  if (people_ != nullptr) Put(*people_, ToUtf8(text));
+}
+
+void Journal::Put(std::ostream& stream, std::string_view line) {
+  stream << line << '\n';
+  if (!left_) return;
+  const std::uintmax_t bytes = line.size() + 1;
+  if (bytes > *left_) {
+    left_.reset();
+    throw zerimo::Stopped{"output"};
+  }
+  *left_ -= bytes;
 }
 
 }  // namespace zerimo::batch

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "base/services.h"
 #include "batch/json_line.h"
@@ -30,6 +32,10 @@ class Journal {
   void Stopped(const std::string& by);
   void Finished();
 
+  /// From now on what is written may have so many bytes; the event that passes them is the last, and throws `Stopped`.
+  /// What is written after that is not counted.
+  void Limit(std::uintmax_t bytes) { left_ = bytes; }
+
   bool HasTranscript() const { return transcript_ != nullptr; }
   void Write(const JsonLine& line);
   /// Flushes both streams, so that a reader never has to wait for what has already happened.
@@ -37,9 +43,12 @@ class Journal {
 
  private:
   void Tell(const std::string& text);
+  void Put(std::ostream& stream, std::string_view line);
 
   std::ostream* transcript_;
   std::ostream* people_;
+  /// Bytes that may still be written, or nothing where there is no limit.
+  std::optional<std::uintmax_t> left_;
 };
 
 }  // namespace zerimo::batch

@@ -40,9 +40,17 @@ void AppendEscaped(std::string& line, char character) {
   }
 }
 
+bool IsPlain(char character) { return character >= ' ' && character <= '~' && character != '"' && character != '\\'; }
+
 void AppendText(std::string& line, std::string_view latin1) {
   line += '"';
-  for (const char character : latin1) AppendEscaped(line, character);
+  for (const char character : latin1) {
+    if (IsPlain(character)) {
+      line += character;
+    } else {
+      AppendEscaped(line, character);
+    }
+  }
   line += '"';
 }
 

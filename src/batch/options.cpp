@@ -19,6 +19,12 @@ constexpr int LeastScreenHeight = 130;
 constexpr int GreatestScreenSide = 8192;
 constexpr double GreatestSeconds = 1e9;
 
+/// Megabytes.
+constexpr int MemoryOfSession = 1024;
+constexpr int OutputOfSession = 256;
+constexpr int LeastMemory = 16;
+constexpr int GreatestLimit = 1 << 20;
+
 /// Columns of the help before the description of an option.
 constexpr std::size_t HelpColumn = 23;
 
@@ -71,6 +77,20 @@ void TakeSeconds(Options& options, const std::string& value) {
   options.Session.Seconds = *seconds;
 }
 
+void TakeMemory(Options& options, const std::string& value) {
+  const auto memory = WholeText<int>(value);
+  const bool sane = memory && (*memory == 0 || (*memory >= LeastMemory && *memory <= GreatestLimit));
+  if (!sane) Refuse("--memory", value, "megabytes are wanted, from 16 to 1048576, or 0");
+  options.Session.Memory = *memory;
+}
+
+void TakeOutput(Options& options, const std::string& value) {
+  const auto output = WholeText<int>(value);
+  if (!output || *output < 0 || *output > GreatestLimit)
+    Refuse("--output", value, "megabytes are wanted, from 0 to 1048576");
+  options.Session.Output = *output;
+}
+
 void TakeSession(Options& options, const std::string& file) {
   if (file.empty()) throw UsageError("the name of the session is empty");
   options.SessionFile = file;
@@ -92,6 +112,8 @@ CommandLine::CommandLine(Options& options) : options_(options), parser_(std::mak
   parser_->allow_extras();
   parser_->allow_windows_style_options(false);
   parser_->set_help_flag();
+  options.Session.Memory = MemoryOfSession;
+  options.Session.Output = OutputOfSession;
   AddShared();
   AddOfSession();
 }
@@ -109,6 +131,10 @@ void CommandLine::AddShared() {
                "at most S seconds for a session (60), or for each program of a class (10);\n"
                "0 is no limit",
                taking(TakeSeconds)});
+  Add(Shared, {"--memory", "MB",
+               "at most MB megabytes for a session (1024), or for each program of a class (512);\n"
+               "0 is no limit",
+               taking(TakeMemory)});
   parser_
       ->add_flag_callback(
           "--help", [this] { options_.What = Options::Wish::Help; }, "show this text")
@@ -128,6 +154,8 @@ void CommandLine::AddOfSession() {
   Add(OfSession,
       {"--transcript", "FILE", "write what happens as JSON Lines; - is standard output", taking(TakeTranscript)});
   Add(OfSession, {"--picture", "FILE", "write the picture at the end: .png, .bmp, .jpg or .svg", taking(TakePicture)});
+  Add(OfSession,
+      {"--output", "MB", "at most MB megabytes of transcript and output; 0 is no limit (256)", taking(TakeOutput)});
   AddFlag(OfSession, "--sleep", "WAIT really sleeps", options_.Session.Sleep);
   parser_->add_option_function<std::string>(SessionWord, taking(TakeSession))->group("");
 }

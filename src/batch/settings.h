@@ -17,8 +17,14 @@ struct Settings {
   std::string AppFolder = ".";
   /// Passes of Run1's loop in one typed line or handler; 0 is no limit.
   std::uint64_t Steps = 10'000'000;
+  /// Rounds of all other loops that may never end, in the whole session; 0 is no limit.
+  std::uint64_t Ticks = 0;
   /// Wall-clock time of the whole session; 0 is no limit.
   double Seconds = 60;
+  /// Megabytes on top of what the system itself needs; 0 is no limit.
+  int Memory = 0;
+  /// Megabytes of the journal, for programs and people together; 0 is no limit.
+  int Output = 0;
   /// Whether `WAIT` really sleeps.
   bool Sleep = false;
 };

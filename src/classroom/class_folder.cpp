@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "classroom/readable.h"
+#include "files/disk.h"
 
 namespace zerimo::classroom {
 
@@ -63,24 +64,44 @@ void NameAfter(std::vector<Pupil>& pupils, const QString& folder) {
     pupil.Name = pupils.size() == 1 ? folder : folder + u'/' + NameOf(pupil.Program.filename());
 }
 
-std::vector<Pupil> PupilsBelow(const fs::path& folder, const QString& name, int depth) {
-  const std::vector<fs::path> names = VisibleNamesIn(folder);
-  std::vector<Pupil> pupils = PupilsDirectlyIn(folder, names);
-  if (depth > 0) NameAfter(pupils, name);
-  for (const fs::path& each : names) {
-    std::error_code error;
-    const bool isFolder = fs::symlink_status(folder / each, error).type() == fs::file_type::directory;
-    if (!isFolder || EndsIn(each, ".zrm") || depth == DeepestFolder) continue;
-    const QString below = depth == 0 ? NameOf(each) : name + u'/' + NameOf(each);
-    const std::vector<Pupil> inside = PupilsBelow(folder / each, below, depth + 1);
-    pupils.insert(pupils.end(), inside.begin(), inside.end());
+/// The programs of a class folder.
+class Walk {
+ public:
+  Walk(const fs::path& root, bool followsLinks) : root_(Disk::Confined(root, root)), followsLinks_(followsLinks) {}
+
+  std::vector<Pupil> PupilsBelow(const fs::path& folder, const QString& name, int depth) const {
+    const std::vector<fs::path> names = VisibleNamesIn(folder);
+    std::vector<Pupil> pupils = PupilsDirectlyIn(folder, names);
+    if (depth > 0) NameAfter(pupils, name);
+    for (const fs::path& each : names) {
+      std::error_code error;
+      const fs::path place = folder / each;
+      if (!fs::is_directory(place, error) || EndsIn(each, ".zrm") || depth == DeepestFolder) continue;
+      const bool isLink = fs::is_symlink(place, error);
+      // A link to a folder of the class would show its programs twice.
+      if (isLink && root_.MayRead(place)) continue;
+      if (isLink && !followsLinks_) {
+        // What is not followed is one that could not be run.
+        pupils.push_back({place, {}});
+        continue;
+      }
+      const QString below = depth == 0 ? NameOf(each) : name + u'/' + NameOf(each);
+      const std::vector<Pupil> inside = PupilsBelow(place, below, depth + 1);
+      pupils.insert(pupils.end(), inside.begin(), inside.end());
+    }
+    return pupils;
   }
-  return pupils;
-}
+
+ private:
+  Disk root_;
+  bool followsLinks_;
+};
 
 }  // namespace
 
-std::vector<Pupil> PupilsOf(const fs::path& folder) { return PupilsBelow(folder, {}, 0); }
+std::vector<Pupil> PupilsOf(const fs::path& folder, bool followsLinks) {
+  return Walk(folder, followsLinks).PupilsBelow(folder, {}, 0);
+}
 
 std::vector<Pupil> PupilsListedIn(const fs::path& list) {
   std::vector<Pupil> pupils;

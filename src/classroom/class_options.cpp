@@ -11,10 +11,9 @@ using batch::Refuse;
 using batch::UsageError;
 using batch::WholeText;
 
-/// A program of a class gets less time than a session, for there are many.
+/// A program of a class gets less than a session, for there are many.
 constexpr double SecondsInClass = 10;
-constexpr int LeastMemory = 16;
-constexpr int GreatestMemory = 1 << 20;
+constexpr int MemoryInClass = 512;
 
 constexpr const char* OfClass = "A class";
 
@@ -52,13 +51,6 @@ void TakeLanguage(ClassOptions& options, const std::string& value) {
   if (options.Words == nullptr) Refuse("--lang", value, "en or de is wanted");
 }
 
-void TakeMemory(ClassOptions& options, const std::string& value) {
-  const auto memory = WholeText<int>(value);
-  const bool sane = memory && (*memory == 0 || (*memory >= LeastMemory && *memory <= GreatestMemory));
-  if (!sane) Refuse("--memory", value, "megabytes are wanted, from 16 to 1048576, or 0");
-  options.Memory = *memory;
-}
-
 void TakeJobs(ClassOptions& options, const std::string& value) {
   const auto jobs = WholeText<int>(value);
   if (!jobs || *jobs < 1 || *jobs > ClassOptions::MostJobs)
@@ -93,7 +85,8 @@ void AddClassOptions(CommandLine& line, ClassOptions& options) {
   addName("--jsonl", "FILE", "add a line of JSON for each program as it ends; pictures go beside it", options.Records);
   line.AddFlag(OfClass, "--resume", "do not run again what --jsonl has already", options.Resume);
   line.AddList(OfClass, "--merge", "PART...", "make one report of the files that --jsonl has written", options.Merged);
-  add("--memory", "MB", "at most MB megabytes for each program; 0 is no limit (512)", TakeMemory);
+  line.AddFlag(OfClass, "--follow-links", "follow links that lead out of the folder of the programs",
+               options.FollowLinks);
   add("--jobs", "N", "N programs at the same time (one for each core)", TakeJobs);
   line.AddHelp(Usage, HelpEnd);
 }
@@ -129,6 +122,7 @@ Command ParseCommand(const std::vector<std::string>& arguments) {
   if (command.Runner.What != batch::Options::Wish::Run) return command;
   CheckKind(line, command);
   if (command.IsClass() && !line.Has("--seconds")) command.Runner.Session.Seconds = SecondsInClass;
+  if (command.IsClass() && !line.Has("--memory")) command.Runner.Session.Memory = MemoryInClass;
   return command;
 }
 

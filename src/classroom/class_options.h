@@ -47,8 +47,8 @@ struct ClassOptions {
   /// The folder that gets a page for each pupil, or empty.
   std::string Pupils;
   const Language* Words = &English;
-  /// Megabytes for each program, on top of what the system itself needs; 0 is no limit.
-  int Memory = 512;
+  /// Whether links that lead out of the class folder are followed.
+  bool FollowLinks = false;
   /// How many programs run at the same time; 0 is one for each core.
   int Jobs = 0;
   /// More would need more files at the same time than some systems give to a process.

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QTemporaryDir>
 #include <QThread>
 #include <algorithm>
 #include <iostream>
@@ -19,6 +18,7 @@
 #include "classroom/progress.h"
 #include "classroom/readable.h"
 #include "classroom/report_files.h"
+#include "classroom/runs_folder.h"
 #include "classroom/task.h"
 #include "classroom/words.h"
 #include "files/disk_files.h"
@@ -51,7 +51,7 @@ std::vector<Pupil> AllPupils(const ClassOptions& options) {
   const std::string words = isList ? "--list " + options.List : "--class " + options.Folder;
   std::vector<Pupil> pupils;
   try {
-    pupils = isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder));
+    pupils = isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder), options.FollowLinks);
   } catch (const fs::filesystem_error&) {
     throw batch::UsageError(words + (isList ? ": the file can not be read" : ": the folder can not be read"));
   }
@@ -89,7 +89,7 @@ class ClassRun {
     report_.Folder =
         NameOf(options_.Folder.empty() ? fs::path(options_.List).filename() : FolderOf(options_.Folder).filename());
     report_.Version = QString::fromStdString(version);
-    report_.Limits = {settings_.Seconds, settings_.Steps, options_.Memory};
+    report_.Limits = {settings_.Seconds, settings_.Steps, settings_.Memory};
     report_.TaskTitle = task_.Title;
     report_.TaskWords = task_.Words;
     report_.Words = options_.Words;
@@ -98,12 +98,14 @@ class ClassRun {
 
   ClassStatus Run() {
     const Interruption interruption;
-    const QTemporaryDir place;
-    if (!place.isValid()) return Close(ClassStatus::NotWritten, "there is no room for temporary files");
+    const RunsFolder place;
+    if (!place.IsThere()) return Close(ClassStatus::NotWritten, "there is no room for temporary files");
     try {
-      return RunIn(place.path().toStdU16String());
+      return RunIn(place.Path());
     } catch (const batch::UsageError&) {
       throw;
+    } catch (const NoProcess& failure) {
+      return Close(ClassStatus::NotWritten, QString::fromLatin1(failure.what()));
     } catch (const std::exception&) {
       return Close(ClassStatus::NotWritten, files_.Name() + ": the report can not be written");
     }
@@ -154,6 +156,7 @@ class ClassRun {
     ClassRunner::Plan plan = PlanIn(place / "runs");
     if (!task_.Goals.empty() && task_.HasModelProgram()) plan.ModelFolder = place / "model" / "0";
     if (!task_.Goals.empty() && !task_.HasModelProgram()) plan.ModelPicture = task_.Model;
+    if (!options_.Folder.empty() && !options_.FollowLinks) plan.Within = FolderOf(options_.Folder);
     const std::size_t all = pupils_.size();
     ClassRunner runner(std::move(plan), std::move(pupils_), [&](const PupilRun& run, std::size_t done) {
       if (records) records->Add(run);

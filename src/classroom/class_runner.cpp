@@ -1,6 +1,8 @@
 #include "classroom/class_runner.h"
 
+#include <QCoreApplication>
 #include <algorithm>
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -13,10 +15,21 @@ namespace {
 /// Milliseconds between two checks of the clock.
 constexpr int WatchInterval = 50;
 
+/// After a process that could not be started.
+constexpr std::chrono::milliseconds Rest(200);
+/// Tries one after the other while nothing else runs.
+constexpr int MostVainTries = 25;
+
 }  // namespace
 
 ClassRunner::ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone)
-    : plan_(std::move(plan)), pupils_(std::move(pupils)), listener_(std::move(onDone)), runs_(pupils_.size()) {}
+    : plan_(std::move(plan)),
+      pupils_(std::move(pupils)),
+      listener_(std::move(onDone)),
+      runs_(pupils_.size()),
+      waiting_(pupils_.size()) {
+  std::iota(waiting_.begin(), waiting_.end(), std::size_t{0});
+}
 
 std::vector<PupilRun> ClassRunner::Run() {
   if (!pupils_.empty()) {
@@ -27,6 +40,8 @@ std::vector<PupilRun> ClassRunner::Run() {
     // Those that are still running are killed by their destructors.
     running_.clear();
   }
+  if (vainTries_ > MostVainTries)
+    throw NoProcess("no process can be started: are there too many, or is the disk full?");
   std::vector<PupilRun> ended;
   for (std::optional<PupilRun>& run : runs_) {
     if (run) ended.push_back(std::move(*run));
@@ -35,9 +50,11 @@ std::vector<PupilRun> ClassRunner::Run() {
 }
 
 void ClassRunner::StartMore() {
-  while (next_ < pupils_.size() && running_.size() < static_cast<std::size_t>(plan_.Jobs)) {
-    const std::size_t index = next_++;
-    const Order order{pupils_[index], plan_.Limits, plan_.Screen, plan_.Goals, plan_.ModelFolder, plan_.ModelPicture};
+  while (!waiting_.empty() && running_.size() < static_cast<std::size_t>(plan_.Jobs) && Clock::now() >= rest_) {
+    const std::size_t index = waiting_.front();
+    waiting_.pop_front();
+    const Order order{pupils_[index],    plan_.Limits,       plan_.Screen, plan_.Goals,
+                      plan_.ModelFolder, plan_.ModelPicture, plan_.Within, QCoreApplication::applicationPid()};
     running_.push_back({index, std::make_unique<RunProcess>(order, plan_.Folder / std::to_string(index))});
     // A moment later, because the process object is still at work here.
     running_.back().Process->Start(plan_.Program, [this] {
@@ -47,12 +64,26 @@ void ClassRunner::StartMore() {
   }
 }
 
+void ClassRunner::Postpone(std::size_t index) {
+  waiting_.push_front(index);
+  rest_ = Clock::now() + Rest;
+  // Those that run may be all that there is room for.
+  const auto others = static_cast<int>(running_.size()) - 1;
+  plan_.Jobs = std::max(1, std::min(plan_.Jobs, others));
+  vainTries_ = others > 0 ? 0 : vainTries_ + 1;
+}
+
 void ClassRunner::Look() {
   interrupted_ = interrupted_ || Interruption::Came();
-  if (interrupted_) return loop_.quit();
+  if (interrupted_ || vainTries_ > MostVainTries) return loop_.quit();
   for (const Job& job : running_) {
     job.Process->EndIfLate();
     if (!job.Process->HasEnded()) continue;
+    if (job.Process->CouldNotStart()) {
+      Postpone(job.Index);
+      continue;
+    }
+    vainTries_ = 0;
     runs_[job.Index] = job.Process->TakeRun();
     listener_(*runs_[job.Index], ++done_);
   }

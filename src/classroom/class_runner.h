@@ -2,14 +2,23 @@
 
 #include <QEventLoop>
 #include <QTimer>
+#include <chrono>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <vector>
 
 #include "classroom/run_process.h"
 
 namespace zerimo::classroom {
+
+/// No process can be started.
+class NoProcess : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
 /// Runs all programs of a class, some at a time.
 class ClassRunner {
@@ -25,6 +34,8 @@ class ClassRunner {
     std::vector<Goal> Goals = {};
     std::filesystem::path ModelFolder = {};
     std::filesystem::path ModelPicture = {};
+    /// The folder that no link may lead out of; empty if all links are followed.
+    std::filesystem::path Within = {};
     /// An existing, empty folder for the runs' own folders.
     std::filesystem::path Folder;
   };
@@ -34,18 +45,22 @@ class ClassRunner {
   ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone);
 
   /// The runs in the order of the pupils. After an interruption these are only the ones that had ended, and no process
-  /// is left. Needs a `QCoreApplication`.
+  /// is left. A process that can't be started is tried again later, with fewer at a time; fails with `NoProcess` if
+  /// that is in vain. Needs a `QCoreApplication`.
   std::vector<PupilRun> Run();
 
   bool WasInterrupted() const { return interrupted_; }
 
  private:
+  using Clock = std::chrono::steady_clock;
   struct Job {
     std::size_t Index;
     std::unique_ptr<RunProcess> Process;
   };
 
   void StartMore();
+  /// Puts a program whose process could not be started back.
+  void Postpone(std::size_t index);
   /// Takes the runs that have ended, kills the late ones, starts the next ones.
   void Look();
 
@@ -54,7 +69,11 @@ class ClassRunner {
   Listener listener_;
   std::vector<std::optional<PupilRun>> runs_;
   std::vector<Job> running_;
-  std::size_t next_ = 0;
+  /// The indexes of those that have not begun, in order.
+  std::deque<std::size_t> waiting_;
+  /// Nothing is started before.
+  Clock::time_point rest_;
+  int vainTries_ = 0;
   std::size_t done_ = 0;
   bool interrupted_ = false;
   QTimer timer_;

@@ -68,7 +68,8 @@ class Merge {
       entry.Ended += run.Went.How == Result::Ended ? 1 : 0;
       entry.Suspicious += run.IsSuspicious() ? 1 : 0;
     }
-    WriteBeside(files_.Page().parent_path() / name, PageOf(report_).toStdString());
+    const fs::path page = files_.Page().parent_path() / name;
+    WriteBeside(page, PageOf(report_, ReportFiles::PicturesBeside(page)).toStdString());
     entries_.push_back(std::move(entry));
     report_.Runs.clear();
   }

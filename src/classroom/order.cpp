@@ -77,7 +77,9 @@ void WriteOrder(const fs::path& file, const Order& order) {
                              {"height", order.Screen.Height},
                              {"goals", goals},
                              {"modelFolder", Packed(order.ModelFolder)},
-                             {"modelPicture", Packed(order.ModelPicture)}}));
+                             {"modelPicture", Packed(order.ModelPicture)},
+                             {"within", Packed(order.Within)},
+                             {"runner", order.Runner}}));
 }
 
 std::optional<Order> ReadOrder(const fs::path& file) {
@@ -93,6 +95,8 @@ std::optional<Order> ReadOrder(const fs::path& file) {
   for (const Json& goal : ListAt(*json, "goals")) order.Goals.push_back(GoalIn(goal));
   order.ModelFolder = UnpackedAt(*json, "modelFolder");
   order.ModelPicture = UnpackedAt(*json, "modelPicture");
+  order.Within = UnpackedAt(*json, "within");
+  order.Runner = static_cast<std::int64_t>(NumberAt(*json, "runner"));
   return order;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 
@@ -41,6 +42,10 @@ struct Order {
   std::filesystem::path ModelFolder = {};
   /// The model's picture, if the model is not a program.
   std::filesystem::path ModelPicture = {};
+  /// The folder that no link to a program or session may lead out of; empty if all links are followed.
+  std::filesystem::path Within = {};
+  /// The process that has given the order; with it the run ends. 0 if it does not matter.
+  std::int64_t Runner = 0;
 };
 
 /// Fails with `Failure` (file access).

@@ -55,9 +55,20 @@ std::optional<QString> PictureSource::Image(const std::filesystem::path& file, c
   if (bytes.isEmpty()) return std::nullopt;
   bytes_ += static_cast<std::size_t>(bytes.size());
   if (IsFull()) return std::nullopt;
+  const QString address = bytes_ > MostBytes
+                              ? Beside(bytes)
+                              : QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
   return QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"").arg(size.width()).arg(size.height()) + alternative +
-         QStringLiteral("\" src=\"data:image/png;base64,") + QString::fromLatin1(bytes.toBase64()) +
-         QStringLiteral("\">");
+         QStringLiteral("\" src=\"") + address + QStringLiteral("\">");
+}
+
+QString PictureSource::Beside(const QByteArray& bytes) {
+  const std::string name = std::to_string(++count_) + ".png";
+  std::error_code error;
+  std::filesystem::create_directory(beside_, error);
+  WriteBeside(beside_ / name, bytes.toStdString());
+  const QByteArray folder = QByteArray::fromStdString(beside_.filename().string()).toPercentEncoding();
+  return QString::fromLatin1(folder) + u'/' + QString::fromStdString(name);
 }
 
 QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language) {

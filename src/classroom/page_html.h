@@ -3,6 +3,7 @@
 #include <QString>
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 #include "classroom/language.h"
 #include "classroom/pupil.h"
@@ -28,16 +29,26 @@ QString PupilName(const Pupil& who);
 /// Where the pictures of a page come from.
 class PictureSource {
  public:
-  /// Bytes of all pictures of one page together. Those that follow are left out.
-  static constexpr std::size_t MostBytes = std::size_t{128} << 20;
+  /// Bytes of all pictures inside one page together.
+  static constexpr std::size_t MostBytes = std::size_t{32} << 20;
+
+  /// `beside` is a folder in that of the page: it is made for the pictures that pass `MostBytes`. Without one, these
+  /// are left out.
+  explicit PictureSource(std::filesystem::path beside = {}) : beside_(std::move(beside)) {}
 
   /// An element for the picture, drawn at most `width` pixels wide (0: as large as it is), or nothing if it is not
-  /// there or the page is full.
+  /// there or the page is full. Fails (file access) if a picture can't be written beside.
   std::optional<QString> Image(const std::filesystem::path& file, const QString& alternative, int width = 0);
-  bool IsFull() const { return bytes_ > MostBytes; }
+  bool IsFull() const { return bytes_ > MostBytes && beside_.empty(); }
+  bool HasPicturesBeside() const { return count_ > 0; }
 
  private:
+  /// Writes a picture beside the page, and returns its address there.
+  QString Beside(const QByteArray& bytes);
+
+  std::filesystem::path beside_;
   std::size_t bytes_ = 0;
+  int count_ = 0;
 };
 
 /// The section of the page about one run. `number` counts from 1.

@@ -13,6 +13,7 @@
 #include "classroom/readable.h"
 #include "classroom/run_findings.h"
 #include "classroom/sandbox.h"
+#include "files/disk.h"
 
 namespace zerimo::classroom {
 
@@ -31,9 +32,17 @@ class Reason : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-std::string TakeFile(const fs::path& file, const std::string& what) {
+/// Whether a file of a folder is, or lies behind, a link to another place; never where there is no folder.
+bool LeadsOutOf(const fs::path& folder, const fs::path& file) {
+  const bool isOfFolder = std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
+  return !folder.empty() && isOfFolder && !Disk::Confined(folder, folder).MayRead(file);
+}
+
+std::string TakeFile(const fs::path& file, const std::string& what, const fs::path& within) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
+  if (fs::exists(status) && LeadsOutOf(within, file))
+    throw Reason(what + " is a link that leads out of the class folder; --follow-links follows it");
   if (fs::is_directory(status)) throw Reason(what + " is a folder");
   if (status.type() == fs::file_type::not_found) throw Reason(what + " is a link that leads nowhere");
   if (!fs::exists(status)) throw Reason(what + " can not be read");
@@ -86,8 +95,8 @@ void PupilSession::Run(const std::function<void(const RunOutcome&)>& tell) {
 }
 
 void PupilSession::ReadFiles() {
-  program_ = TakeFile(order_.Who.Program, "the program");
-  if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session");
+  program_ = TakeFile(order_.Who.Program, "the program", order_.Within);
+  if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session", order_.Within);
   outcome_.Findings = FindingsIn(TextOfProgram(program_));
   // If a program is read as one line, only that is reported: the rest follows from it.
   const auto isNone = [](const Finding& finding) {
@@ -199,7 +208,8 @@ void PupilSession::WritePicture(SessionRun& run, const std::string& file) {
 int RunPupil() {
   const std::optional<Order> order = ReadOrder(run_file::Order);
   if (!order) return 1;
-  TameProcess();
+  TameProcess(order->Runner);
+  if (order->Limits.Memory > 0) NoteRefusedMemory();
   const Pupil& who = order->Who;
   std::vector<fs::path> readable = {who.Program.parent_path(), who.Program, who.Session};
   for (const fs::path& model : {order->ModelFolder, order->ModelPicture}) {

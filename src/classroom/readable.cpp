@@ -1,6 +1,10 @@
 #include "classroom/readable.h"
 
 #include <QList>
+#include <string>
+#include <string_view>
+
+#include "files/unicode_text.h"
 
 namespace zerimo::classroom {
 
@@ -25,11 +29,25 @@ QString CodeOf(char32_t character) {
   return QStringLiteral("[U+%1]").arg(uint{character}, 4, 16, QLatin1Char('0')).toUpper();
 }
 
+std::string HexOf(char byte) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  const auto code = static_cast<unsigned char>(byte);
+  return {digits[code >> 4U], digits[code & 15U]};
+}
+
 }  // namespace
 
 QString NameOf(const std::filesystem::path& path) {
   const std::u8string name = path.u8string();
-  return QString::fromUtf8(reinterpret_cast<const char*>(name.data()), static_cast<qsizetype>(name.size()));
+  const std::string_view bytes(reinterpret_cast<const char*>(name.data()), name.size());
+  std::string text;
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::size_t begin = at;
+    const char32_t character = NextCharacter(bytes, at);
+    AppendUtf8(text, character);
+    if (character == ReplacementCharacter && at == begin + 1) text += HexOf(bytes[begin]);
+  }
+  return QString::fromStdString(text);
 }
 
 QString Readable(const QString& text) {

@@ -5,7 +5,8 @@
 
 namespace zerimo::classroom {
 
-/// The name of a file as text. Bytes that are not UTF-8 become U+FFFD.
+/// The name of a file as text. A byte that is not UTF-8 becomes U+FFFD and its hexadecimal number, so that no two names
+/// are alike.
 QString NameOf(const std::filesystem::path& path);
 
 /// A text on one line that is harmless in a page or on a terminal: invisible characters, such as controls and direction

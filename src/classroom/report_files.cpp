@@ -64,10 +64,12 @@ void ReportFiles::Write(const Report& report) const {
   }
   if (!options_.Pupils.empty()) WritePupils(report);
   if (!HasPage()) return;
-  const QByteArray page = PageOf(report);
+  const QByteArray page = PageOf(report, PicturesBeside(page_));
   WriteBeside(SummaryFileOf(page_), SummaryOf(report).toStdString());
   WriteBeside(page_, page.toStdString());
 }
+
+fs::path ReportFiles::PicturesBeside(fs::path page) { return page.replace_extension(".pictures"); }
 
 void ReportFiles::WritePupils(const Report& report) const {
   std::set<std::string> taken;

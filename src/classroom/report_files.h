@@ -23,6 +23,9 @@ class ReportFiles {
   /// Each file appears only when it is complete. Fails (file access).
   void Write(const Report& report) const;
 
+  /// The folder for the pictures that a page does not hold itself.
+  static std::filesystem::path PicturesBeside(std::filesystem::path page);
+
  private:
   void WritePupils(const Report& report) const;
 

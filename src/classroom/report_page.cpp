@@ -5,9 +5,9 @@
 #include <cmath>
 #include <utility>
 
+#include "batch/memory_limit.h"
 #include "classroom/page_html.h"
 #include "classroom/page_script.h"
-#include "classroom/process_limits.h"
 #include "classroom/readable.h"
 #include "classroom/report_style.h"
 #include "classroom/words.h"
@@ -25,7 +25,7 @@ QString LimitText(const RunLimits& limits, const Language& language) {
   QStringList parts;
   if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds, language));
   if (limits.Steps > 0) parts.append(WordsOfStepLimit(limits.Steps, language));
-  if (limits.Memory > 0 && CanLimitMemory()) parts.append(WordsOfMemoryLimit(limits.Memory, language));
+  if (limits.Memory > 0 && batch::MemoryLimit::IsThere()) parts.append(WordsOfMemoryLimit(limits.Memory, language));
   return parts.isEmpty() ? Utf8(language.NoLimits) : parts.join(QStringLiteral(", "));
 }
 
@@ -35,14 +35,17 @@ QString HashOf(const char* text) {
 }
 
 /// Only this style, this script and pictures that are part of the page; no address, no form.
-QString ContentPolicy() {
-  return QStringLiteral("default-src 'none'; img-src data:; style-src ") + HashOf(PageStyle) +
-         QStringLiteral("; script-src ") + HashOf(PageScript) + QStringLiteral("; base-uri 'none'; form-action 'none'");
+QString ContentPolicy(bool hasPicturesBeside) {
+  const QString pictures = hasPicturesBeside ? QStringLiteral("data: file: 'self'") : QStringLiteral("data:");
+  return QStringLiteral("default-src 'none'; img-src ") + pictures + QStringLiteral("; style-src ") +
+         HashOf(PageStyle) + QStringLiteral("; script-src ") + HashOf(PageScript) +
+         QStringLiteral("; base-uri 'none'; form-action 'none'");
 }
 
 class PageWriter {
  public:
-  explicit PageWriter(const Report& report) : report_(report), language_(*report.Words) {}
+  explicit PageWriter(const Report& report, const std::filesystem::path& beside = {})
+      : report_(report), language_(*report.Words), pictures_(beside) {}
 
   QByteArray Write() {
     WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
@@ -87,6 +90,9 @@ class PageWriter {
   void Add(const QString& html) { page_ += html.toUtf8(); }
 
   QByteArray Finished() {
+    const QString policy = ContentPolicy(pictures_.HasPicturesBeside());
+    page_.insert(policyAt_,
+                 QStringLiteral("<meta http-equiv=\"Content-Security-Policy\" content=\"%1\">\n").arg(policy).toUtf8());
     page_ += "</main>\n<script>";
     page_ += PageScript;
     page_ += "</script>\n</body>\n</html>\n";
@@ -96,7 +102,7 @@ class PageWriter {
   void WriteHead(const QString& title) {
     Add(QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">\n")
             .arg(Utf8(language_.Code)));
-    Add(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\" content=\"%1\">\n").arg(ContentPolicy()));
+    policyAt_ = page_.size();
     Add(
         QStringLiteral("<meta name=\"referrer\" content=\"no-referrer\">\n"
                        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"));
@@ -230,11 +236,15 @@ class PageWriter {
   const Language& language_;
   PictureSource pictures_;
   QByteArray page_;
+  /// Which pictures the page has is known only at its end.
+  qsizetype policyAt_ = 0;
 };
 
 }  // namespace
 
-QByteArray PageOf(const Report& report) { return PageWriter(report).Write(); }
+QByteArray PageOf(const Report& report, const std::filesystem::path& beside) {
+  return PageWriter(report, beside).Write();
+}
 
 QByteArray IndexPage(const Report& report, const std::vector<IndexEntry>& entries) {
   return PageWriter(report).WriteIndex(entries);

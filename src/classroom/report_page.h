@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <filesystem>
 #include <vector>
 
 #include "classroom/report.h"
@@ -9,7 +10,9 @@ namespace zerimo::classroom {
 
 /// A class run for people: one HTML page in UTF-8 that needs and loads nothing else. Its one script is its own, and
 /// nothing is lost without it.
-QByteArray PageOf(const Report& report);
+/// Pictures that would make it too large go into the folder `beside`, which lies where the page does; without one they
+/// are left out. Fails (file access) if they can't be written.
+QByteArray PageOf(const Report& report, const std::filesystem::path& beside = {});
 
 /// The page of one pupil, to be handed back, with nothing about anyone else.
 QByteArray PageOfPupil(const Report& report, const PupilRun& run);

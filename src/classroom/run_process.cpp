@@ -50,14 +50,18 @@ void RunProcess::Start(const QString& program, std::function<void()> onEnd) {
   };
   QObject::connect(&process_, &QProcess::finished, &process_, end);
   // A process that can't even start does not finish either.
-  QObject::connect(&process_, &QProcess::errorOccurred, &process_, [end](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart) end();
+  const auto fail = [this, end] {
+    couldNotStart_ = true;
+    end();
+  };
+  QObject::connect(&process_, &QProcess::errorOccurred, &process_, [fail](QProcess::ProcessError error) {
+    if (error == QProcess::FailedToStart) fail();
   });
   try {
     fs::create_directory(runFolder_);
     WriteOrder(runFolder_ / run_file::Order, order_);
   } catch (const std::exception&) {
-    // Without its order the process finishes at once.
+    return fail();
   }
   process_.start(program, {QString::fromLatin1(PupilArgument)});
 }
@@ -102,8 +106,6 @@ RunOutcome RunProcess::OutcomeOfSilence() const {
   } else if (fs::file_size(runFolder_ / run_file::OutOfMemory, error) > 0 && !error) {
     outcome.How = Result::Stopped;
     outcome.By = "memory";
-  } else if (process_.error() == QProcess::FailedToStart) {
-    return Crash("the process could not be started");
   } else if (IsFull(runFolder_)) {
     return Crash("the disk for temporary files is full");
   } else if (process_.exitStatus() == QProcess::CrashExit) {

@@ -23,6 +23,9 @@ class RunProcess {
 
   bool HasEnded() const { return ended_; }
 
+  /// Whether there was no process, or no room for its order: no fault of the program, which may be tried again.
+  bool CouldNotStart() const { return couldNotStart_; }
+
   /// Kills a process that does not stop by itself at the limit of seconds.
   void EndIfLate();
 
@@ -42,6 +45,7 @@ class RunProcess {
   Clock::time_point begin_ = Clock::now();
   Clock::time_point finish_ = begin_;
   bool ended_ = false;
+  bool couldNotStart_ = false;
   bool late_ = false;
 };
 

@@ -1,10 +1,7 @@
 #include "classroom/session_run.h"
 
-#include <new>
-
 #include "base/failure.h"
 #include "batch/errors.h"
-#include "classroom/process_limits.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -31,6 +28,7 @@ batch::Settings SettingsOf(const Order& order) {
   settings.Screen = order.Screen;
   settings.Steps = order.Limits.Steps;
   settings.Seconds = order.Limits.Seconds;
+  settings.Memory = order.Limits.Memory;
   return settings;
 }
 
@@ -55,18 +53,9 @@ SessionRun::SessionRun(const Order& order, const fs::path& transcript)
 
 void SessionRun::Run(const Play& play) {
   try {
-    LimitMemory(order_.Limits.Memory);
-    const batch::Outcome went = system_.Run(ScriptOf(play));
-    LiftMemoryLimit();
-    Tell(went, play);
+    Tell(system_.Run(ScriptOf(play)), play);
   } catch (const batch::SessionError& error) {
-    LiftMemoryLimit();
     Tell({batch::Ending::Refused, error.what(), error.Line}, play);
-  } catch (const std::bad_alloc&) {
-    LiftMemoryLimit();
-    outcome_.How = Result::Stopped;
-    outcome_.By = "memory";
-    outcome_.Where = WhereItStands(system_.CurrentLine(), play);
   }
   journal_.Flush();
   if (transcriptFile_.HasFailed()) outcome_.Notes.append("Not all that was said could be kept: is the disk full?");

@@ -1,6 +1,6 @@
 #include "classroom/summary.h"
 
-#include "classroom/process_limits.h"
+#include "batch/memory_limit.h"
 #include "classroom/record.h"
 
 namespace zerimo::classroom {
@@ -15,7 +15,7 @@ Json LimitOrNull(Number limit) {
 Json LimitsOf(const RunLimits& limits) {
   return {{"seconds", LimitOrNull(limits.Seconds)},
           {"steps", LimitOrNull(limits.Steps)},
-          {"megabytes", LimitOrNull(CanLimitMemory() ? limits.Memory : 0)}};
+          {"megabytes", LimitOrNull(batch::MemoryLimit::IsThere() ? limits.Memory : 0)}};
 }
 
 }  // namespace

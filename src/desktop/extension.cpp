@@ -17,6 +17,10 @@ bool Extensions::CloseDuringRun() const {
   return std::any_of(all_.begin(), all_.end(), [](const auto& extension) { return extension->ClosesDuringRun(); });
 }
 
+bool Extensions::KeepText() const {
+  return std::all_of(all_.begin(), all_.end(), [](const auto& extension) { return extension->KeepsText(); });
+}
+
 std::string Extensions::Rescue() const {
   for (const auto& extension : all_) {
     std::string words = extension->Rescue();

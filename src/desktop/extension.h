@@ -33,6 +33,9 @@ class Extension {
   /// The user closes the window during a run. Returns whether the extension deals with it.
   virtual bool ClosesDuringRun() { return false; }
 
+  /// The user closes the window with nothing running. Returns whether the text of the editor is kept or need not be.
+  virtual bool KeepsText() { return true; }
+
   /// Keeps the text of the editor because the session has to end. Returns a text that says where, or the empty text.
   virtual std::string Rescue() { return {}; }
 
@@ -54,6 +57,7 @@ class Extensions : public QObject {
   }
 
   bool CloseDuringRun() const;
+  bool KeepText() const;
   std::string Rescue() const;
 
  protected:

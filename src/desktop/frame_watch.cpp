@@ -39,6 +39,7 @@ void FrameWatch::Look() {
 }
 
 void FrameWatch::ShowFrame() {
+  if (MemoryInUse() > MostMemory) throw OutOfMemory();
   const Clock::time_point start = Clock::now();
   stage_.ShowState();
   FreeWideRegisters();

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <exception>
+#include <new>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/stop_run.h"
@@ -18,7 +20,7 @@ ScreenSize UnitsOf(const QRect& area) {
 
 }  // namespace
 
-Session::Session(const QRect& available, const Folders& folders)
+Session::Session(const QRect& available, const Folders& folders, std::vector<std::filesystem::path> rescuePlaces)
     : stage_(extensions_),
       services_(stage_, QString::fromStdU16String(folders.ToRead(folders.AppFolder).u16string())),
       watch_(stage_),
@@ -26,7 +28,8 @@ Session::Session(const QRect& available, const Folders& folders)
       window_(form1_, canvas_, *this, available),
       timers_(
           form1_.controls, [this](Timer& timer) { Deliver([&](Form1& form1) { form1.Tick(timer); }); },
-          [this] { return stage_.IsRunning(); }) {
+          [this] { return stage_.IsRunning(); }),
+      rescue_(form1_, extensions_, stage_, std::move(rescuePlaces)) {
   stage_.Open(window_, [this] { ShowState(); });
 }
 
@@ -84,24 +87,23 @@ void Session::Run(const std::function<void(Form1& form1)>& event) {
     // Nothing of the handler is left to do.
   } catch (const Ended& end) {
     const bool byClosing = end.By == "close";
-    if (byClosing) Rescue();
+    if (byClosing) rescue_.Keep({});
     End(0, byClosing ? SessionEnd::ByClosing : SessionEnd::ByWord);
+  } catch (const std::bad_alloc&) {
+    TellFailure(OutOfMemory().what());
+    End(EndedByFailure, SessionEnd::ByFailure);
   } catch (const std::exception& failure) {
     TellFailure(failure.what());
     End(EndedByFailure, SessionEnd::ByFailure);
   }
 }
 
-std::string Session::Rescue() {
-  std::string words = extensions_.Rescue();
-  if (words.empty() && form1_.RescueEditorText()) words = "The text of the editor has been saved in Rescued.ZRM.";
-  return words;
-}
-
 void Session::TellFailure(const char* words) {
   std::string text = words + std::string("\r\rZerimo has to end.");
-  const std::string rescued = Rescue();
-  if (!rescued.empty()) text += "\r\r" + rescued;
+  const std::optional<std::string> rescued = rescue_.Keep(text);
+  // The user has read the rest in another box.
+  if (!rescued) return;
+  if (!rescued->empty()) text += "\r\r" + *rescued;
   try {
     services_.MessageBox(text, box::Critical, ProgramName);
   } catch (const Ended&) {
@@ -121,6 +123,8 @@ bool Session::Close() {
     if (!extensions_.CloseDuringRun()) stage_.RequestClose();
     return hasEnded_;
   }
+  // A text that no extension can keep is rescued as at the end of a run.
+  if (!extensions_.KeepText()) Deliver([](Form1&) { throw Ended{"close"}; });
   End(0, SessionEnd::ByClosing);
   return true;
 }

@@ -9,6 +9,7 @@
 #include "desktop/events.h"
 #include "desktop/extension.h"
 #include "desktop/frame_watch.h"
+#include "desktop/last_rescue.h"
 #include "desktop/main_window.h"
 #include "pictures/image_canvas.h"
 
@@ -21,8 +22,9 @@ class Session : public Events {
   /// The exit status after a failure that nothing caught.
   static constexpr int EndedByFailure = 2;
 
-  /// `available` is the part of the screen that the desktop leaves free, in pixels.
-  Session(const QRect& available, const Folders& folders);
+  /// `available` is the part of the screen that the desktop leaves free, in pixels; for `rescuePlaces` see
+  /// `LastRescue`.
+  Session(const QRect& available, const Folders& folders, std::vector<std::filesystem::path> rescuePlaces = {});
 
   /// Loads the form and shows the window.
   void Start();
@@ -50,7 +52,6 @@ class Session : public Events {
   void OpenFile(Form1& form1, const std::filesystem::path& file);
   void ShowState();
   void TellFailure(const char* words);
-  std::string Rescue();
   void End(int status, SessionEnd end);
 
   ImageCanvas canvas_;
@@ -61,6 +62,7 @@ class Session : public Events {
   Form1 form1_;
   MainWindow window_;
   DesktopTimers timers_;
+  LastRescue rescue_;
   bool hasEnded_ = false;
   int exitStatus_ = 0;
 };

@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -190,6 +191,12 @@ void RemoveLeftovers(const fs::path& folder) {
     const fs::file_time_type written = walk->last_write_time(unknown);
     if (!unknown && fs::file_time_type::clock::now() - written > longestSave) fs::remove(walk->path(), unknown);
   }
+}
+
+void LetLargeWritesFail() {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 bool CanWriteInto(const fs::path& folder) {

@@ -23,4 +23,8 @@ void RemoveLeftovers(const std::filesystem::path& folder);
 /// Whether files can be created in a folder: one is created and removed again.
 bool CanWriteInto(const std::filesystem::path& folder);
 
+/// From now on a write beyond the user's limit of a file's size fails, and so can be reported; without this the
+/// operating system ends the program.
+void LetLargeWritesFail();
+
 }  // namespace zerimo

@@ -23,6 +23,9 @@ constexpr bool DriveLettersAreFolders = fs::path::preferred_separator == '\\';
 
 [[noreturn]] void Fail(FailureKind kind) { throw Failure(kind); }
 
+/// No disk has longer ones.
+constexpr std::size_t LongestPath = 4096;
+
 bool BeginsWithDriveLetter(std::string_view path) noexcept {
   if (path.size() < 2 || path[1] != ':') return false;
   const char letter = path[0];
@@ -121,6 +124,8 @@ fs::path Folders::ToRead(const std::string& systemPath) const {
   if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
   // A drive letter alone names nothing, not even the folder where relative paths start.
   if (path.empty()) return path;
+  // It would be looked up in vain, and that takes long.
+  if (systemPath.size() > LongestPath) return disk_.Folder() / path;
   auto found = LookUp(disk_.Folder(), path);
   if (!found && disk_.Shelf()) found = LookUp(*disk_.Shelf(), path);
   if (found && !disk_.MayRead(*found)) Fail(FailureKind::FileNotFound);

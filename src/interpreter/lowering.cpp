@@ -115,11 +115,15 @@ Lowering::Lowering(const ProgramContext& context)
       variables_(context.variables),
       arithmetic_(context.arithmetic),
       services_(context.around.services),
+      watch_(context.around.watch),
       Label17(context.around.controls.Label17),
       Label18(context.around.controls.Label18) {}
 
 void Lowering::RemoveAllRepeats() {
-  while (IsRepeatPresent() != 0) RemoveSingleRepeat();
+  while (IsRepeatPresent() != 0) {
+    watch_.Tick();
+    RemoveSingleRepeat();
+  }
 }
 
 std::int16_t Lowering::IsRepeatPresent() const { return SearchRepeatPos() != 0 ? 1 : 0; }
@@ -159,6 +163,7 @@ BodyArray Lowering::CreateBodyArray(std::string& body) const {
   try {
     int index = 1;
     do {
+      watch_.Tick();
       const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store_));
       if (cut.Message != nullptr) {
         services_.MessageBox(cut.Message);
@@ -236,9 +241,10 @@ std::string Firstpart(std::string_view body) { return std::string(body.substr(0,
 std::int16_t HowManyInput(std::string_view command, const Store& store) {
   const WordFacts* const word = FindWord(command);
   if (word != nullptr && word->Inputs != inputs::NotCounted) return word->Inputs;
-  const std::string pattern = "TO " + std::string(command) + " ";
+  const std::string header = "TO " + std::string(command);
   for (int number = 1; !store.Line(number).empty(); ++number) {
-    if (Contains(store.Line(number) + " ", pattern)) return InputsOfHeader(store.Line(number));
+    const std::string& line = store.Line(number);
+    if (line.ends_with(header) || Contains(line, header + " ")) return InputsOfHeader(line);
   }
   return 0;
 }

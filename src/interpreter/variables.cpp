@@ -278,6 +278,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
   for (const int slot : LocalsOfProcedure()) {
+    watch_.Tick();
     const std::string& local = Slot(slot);  // Never fails: it was found.
     SkipOnFailure([&] {
       const int dot = PositionOf(local, ".");

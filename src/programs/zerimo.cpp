@@ -70,9 +70,11 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
   const fs::path file = FileToOpen();
   const StartFolder start = PrepareStartFolder(LookAround());
   const Disk disk(start.IsCurrentFolder ? start.Folder : fs::path());
-  Session session(QApplication::primaryScreen()->availableGeometry(), Folders(AppFolderName(start.Folder, disk), disk));
-  if (!line.Classic)
-    AddExtensions(session, DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
+  const fs::path state = DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+  const fs::path temporary = DiskPath(QStandardPaths::writableLocation(QStandardPaths::TempLocation));
+  Session session(QApplication::primaryScreen()->availableGeometry(), Folders(AppFolderName(start.Folder, disk), disk),
+                  FoldersForRescue(state, temporary));
+  if (!line.Classic) AddExtensions(session, state);
   session.Start();
   session.Greet(WordsAbout(start), file);
   if (!session.HasEnded()) QApplication::exec();
@@ -91,6 +93,7 @@ int Main(int argc, char** argv) {
 }  // namespace zerimo
 
 int main(int argc, char** argv) {
+  zerimo::LetLargeWritesFail();
   try {
     return zerimo::Main(argc, argv);
   } catch (const std::exception& error) {

@@ -16,6 +16,7 @@
 #include "classroom/class_options.h"
 #include "classroom/class_run.h"
 #include "classroom/pupil_session.h"
+#include "files/disk_files.h"
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -193,6 +194,7 @@ void KeepLineEnds() {
 
 int main(int argc, char** argv) {
   zerimo::batch::KeepLineEnds();
+  zerimo::LetLargeWritesFail();
   std::ios::sync_with_stdio(false);
   const std::vector<std::string> words(argv + 1, argv + argc);
   try {

@@ -41,6 +41,14 @@ TEST(BatchWatch, NoLimitNeverStops) {
             "");
 }
 
+TEST(BatchWatch, TicksOfAllEventsAreCountedTogether) {
+  BatchWatch watch(0, 0, 3);
+  watch.BeginEvent();
+  for (int tick = 0; tick < 3; ++tick) watch.Tick();
+  watch.BeginEvent();
+  EXPECT_EQ(StoppedBy([&] { watch.Tick(); }), "ticks");
+}
+
 TEST(BatchWatch, SecondsStopARunOfSteps) {
   BatchWatch watch(0, 0.01);
   watch.StartClock();

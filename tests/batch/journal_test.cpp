@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "base/failure.h"
+
 namespace zerimo::batch {
 namespace {
 
@@ -69,6 +71,20 @@ TEST(Journal, WorksWithoutStreams) {
   Journal journal(nullptr, nullptr);
   EXPECT_NO_THROW(journal.Box("A", box::Plain, "", Answer::OK));
   EXPECT_FALSE(journal.HasTranscript());
+}
+
+TEST_F(JournalTest, WhatPassesTheLimitIsTheLastAndTheEndIsStillTold) {
+  journal.Limit(40);
+  journal.Beep();
+  EXPECT_THROW(journal.Sleep(1000), Stopped);
+  journal.Stopped("output");
+  EXPECT_EQ(transcript.str(),
+            "{\"event\":\"beep\"}\n{\"event\":\"sleep\",\"ms\":1000}\n{\"event\":\"stopped\",\"by\":\"output\"}\n");
+}
+
+TEST_F(JournalTest, BothKindsOfReadersShareTheLimit) {
+  journal.Limit(100);
+  EXPECT_THROW(journal.ListAdd("List4", std::string(40, 'A')), Stopped);
 }
 
 }  // namespace

@@ -17,6 +17,8 @@ TEST(Options, HaveTheirDefaultsWithoutArguments) {
   EXPECT_EQ(options.Session.Screen.Height, 11520);
   EXPECT_EQ(options.Session.Steps, 10'000'000U);
   EXPECT_EQ(options.Session.Seconds, 60);
+  EXPECT_EQ(options.Session.Memory, 1024);
+  EXPECT_EQ(options.Session.Output, 256);
   EXPECT_FALSE(options.Session.Sleep);
   EXPECT_EQ(options.TranscriptFile, "");
   EXPECT_EQ(options.PictureFile, "");
@@ -38,6 +40,12 @@ TEST(Options, TakeTheirValues) {
   EXPECT_EQ(options.PictureFile, "a.PNG");
   EXPECT_EQ(options.Session.AppFolder, "/");
   EXPECT_EQ(options.SessionFile, "b.session");
+}
+
+TEST(Options, LimitsOfMemoryAndOutputAreMegabytes) {
+  const Options options = ParseOptions({"--memory", "16", "--output", "0"});
+  EXPECT_EQ(options.Session.Memory, 16);
+  EXPECT_EQ(options.Session.Output, 0);
 }
 
 TEST(Options, LastOneCounts) { EXPECT_EQ(ParseOptions({"--steps", "1", "--steps", "2"}).Session.Steps, 2U); }
@@ -88,6 +96,10 @@ std::vector<BadUsage> BadUsages() {
       {{"--seconds", "nan"}, "--seconds nan: a number from 0 to 1000000000 is wanted"},
       {{"--seconds", "inf"}, "--seconds inf: a number from 0 to 1000000000 is wanted"},
       {{"--seconds", ""}, "--seconds : a number from 0 to 1000000000 is wanted"},
+      {{"--memory", "15"}, "--memory 15: megabytes are wanted, from 16 to 1048576, or 0"},
+      {{"--memory", "1048577"}, "--memory 1048577: megabytes are wanted, from 16 to 1048576, or 0"},
+      {{"--output", "-1"}, "--output -1: megabytes are wanted, from 0 to 1048576"},
+      {{"--output", "1.5"}, "--output 1.5: megabytes are wanted, from 0 to 1048576"},
       {{"--picture", "a.gif"}, "--picture a.gif: a file name ending in .png, .bmp, .jpg or .svg is wanted"},
       {{"--picture", ".png"}, "--picture .png: a file name ending in .png, .bmp, .jpg or .svg is wanted"},
       {{"--transcript", ""}, "--transcript : a file name is wanted"},

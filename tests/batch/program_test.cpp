@@ -77,6 +77,14 @@ TEST_F(BatchProgramTest, SecondsCountForTheWholeSession) {
   EXPECT_EQ(run.Output.find("REACHED"), std::string::npos);
 }
 
+TEST_F(BatchProgramTest, OutputHasALimit) {
+  const ProgramRun run = program.Run("--output 1", "REPEAT 5000 [PRINT \"" + std::string(400, 'A') + "\"]\n");
+  EXPECT_EQ(run.Status, 3);
+  EXPECT_EQ(run.Errors, "zerimo-batch: -:1: stopped by the limit of output\n");
+  EXPECT_GT(run.Output.size(), std::size_t{1} << 20);
+  EXPECT_LT(run.Output.size(), (std::size_t{1} << 20) + 1000);
+}
+
 TEST_F(BatchProgramTest, LeavesByByeQuitAndCloseWithStatus0) {
   EXPECT_EQ(program.Run("", "@answer box Yes\nBYE\n").Status, 0);
   EXPECT_EQ(program.Run("", "QUIT\n").Status, 0);
@@ -121,6 +129,14 @@ TEST_F(BatchProgramTest, FullDiskIsReported) {
   const ProgramRun run = program.Run("--transcript /dev/full", "PD\n");
   EXPECT_EQ(run.Status, 1);
   EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");
+}
+
+TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReported) {
+  program.Write("limited.sh", "#!/bin/sh\nulimit -f 1\nexec '" ZERIMO_BATCH "' \"$@\"\n");
+  std::filesystem::permissions(program.Folder() / "limited.sh", std::filesystem::perms::owner_all);
+  const ProgramRun run = BatchProgram(program.Folder() / "limited.sh").Run("--picture a.png", "CS\n");
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Errors, "zerimo-batch: a.png: the picture can not be written\n");
 }
 
 TEST_F(BatchProgramTest, WritesAPictureByItsEnding) {

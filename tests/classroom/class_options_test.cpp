@@ -22,7 +22,7 @@ TEST(ClassOptions, AskForAClass) {
   EXPECT_TRUE(command.IsClass());
   EXPECT_EQ(command.Class.Folder, "5a");
   EXPECT_EQ(command.Class.Report, "r.HTML");
-  EXPECT_EQ(command.Class.Memory, 512);
+  EXPECT_EQ(command.Runner.Session.Memory, 512);
   EXPECT_EQ(command.Class.Jobs, 0);
   EXPECT_EQ(command.Runner.Session.Seconds, 10);
   EXPECT_EQ(command.Runner.Session.Steps, 10'000'000U);
@@ -34,7 +34,7 @@ TEST(ClassOptions, LimitsOfAClassMayStandAnywhere) {
   EXPECT_EQ(command.Runner.Session.Seconds, 3);
   EXPECT_EQ(command.Runner.Session.Steps, 9U);
   EXPECT_EQ(command.Runner.Session.Screen.Width, 12000);
-  EXPECT_EQ(command.Class.Memory, 0);
+  EXPECT_EQ(command.Runner.Session.Memory, 0);
   EXPECT_EQ(command.Class.Jobs, 4);
 }
 
@@ -66,7 +66,6 @@ TEST_P(BadClassOptions, AreToldInOneLine) {
 
 const BadUsage BadUsages[] = {
     {{"--jobs", "2"}, "--jobs: only with --class"},
-    {{"--memory", "64"}, "--memory: only with --class"},
     {{"--out", "r.html"}, "--out: only with --class"},
     {{"--class"}, "--class: a value is missing"},
     {{"--class", ""}, "--class : a folder is wanted"},

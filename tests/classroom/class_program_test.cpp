@@ -116,6 +116,25 @@ TEST_F(ClassProgramTest, WhatCanNotBeRunStopsNobody) {
   EXPECT_EQ(PrintedBy("LAST.ZRM"), (Lines{"?LOAD LAST", "?LAST", "? 1"}));
 }
 
+TEST_F(ClassProgramTest, LinksThatLeadOutAreFollowedOnlyWhereItIsAskedFor) {
+  Program.Write("OUTSIDE.ZRM", "TO OUTSIDE\r\nPRINT 1\r\nEND\r\n");
+  Program.Write("outside.session", "LOAD B\n");
+  fs::create_symlink("../OUTSIDE.ZRM", ClassFolder() / "A.ZRM");
+  Write("B.ZRM", "TO B|PRINT 1|END|");
+  fs::create_symlink("../outside.session", ClassFolder() / "B.session");
+  fs::create_symlink("B.ZRM", ClassFolder() / "C.ZRM");
+  EXPECT_EQ(Run().Status, 0);
+  for (const auto& [file, what] : {std::pair("A.ZRM", "the program"), std::pair("B.ZRM", "the session")}) {
+    EXPECT_EQ(ResultOf(file), "not run");
+    EXPECT_EQ(Pupil(file).value("message").toString(),
+              QString(what) + " is a link that leads out of the class folder; --follow-links follows it");
+  }
+  EXPECT_EQ(ResultOf("C.ZRM"), "ended");
+  EXPECT_EQ(Run("--follow-links").Status, 0);
+  EXPECT_EQ(ResultOf("A.ZRM"), "ended");
+  EXPECT_EQ(ResultOf("B.ZRM"), "ended");
+}
+
 TEST_F(ClassProgramTest, BytesWithoutSenseAreAProgramToo) {
   std::string bytes;
   for (unsigned i = 0; i < 50'000; ++i) bytes += static_cast<char>(i * i * 31 % 251);

@@ -147,5 +147,20 @@ TEST_F(ClassSignalsTest, ProcessesEndWithTheRunner) {
   }));
 }
 
+TEST_F(ClassSignalsTest, WhatAKilledRunnerLeavesIsRemovedByTheNext) {
+  Write("A.ZRM", Endless);
+  Start("30");
+  ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
+  kill(runner, SIGKILL);
+  Wait();
+  EXPECT_FALSE(fs::is_empty(TemporaryFolder()));
+  fs::create_directory(TemporaryFolder() / "zerimo-class-other");
+  Write("A.ZRM", "TO A|END|");
+  EXPECT_EQ(Run().Status, 0);
+  // Where no runner has been, nothing is removed.
+  EXPECT_TRUE(fs::remove(TemporaryFolder() / "zerimo-class-other"));
+  EXPECT_TRUE(fs::is_empty(TemporaryFolder()));
+}
+
 }  // namespace
 }  // namespace zerimo

@@ -19,7 +19,8 @@ TEST(Readable, WhatCanNotBeSeenIsNamed) {
 }
 
 TEST(Readable, BytesOfANameThatAreNoTextStandAsReplacements) {
-  EXPECT_EQ(ReadableName("/folder/a\xFFz.ZRM"), QStringLiteral("a\ufffdz.ZRM"));
+  EXPECT_EQ(ReadableName("/folder/a\xFFz.ZRM"), QStringLiteral("a\ufffdFFz.ZRM"));
+  EXPECT_NE(ReadableName("/folder/a\xFFz.ZRM"), ReadableName("/folder/a\xFEz.ZRM"));
 }
 
 TEST(Readable, LinesHaveOneKindOfEnd) {

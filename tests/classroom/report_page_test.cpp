@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include "classroom/page_html.h"
 #include "files/temp_folder.h"
 #include "hostile_report.h"
 
@@ -220,6 +221,25 @@ TEST(Language, HasWordsForEveryMistake) {
   for (const char* code : {"en", "de"}) {
     for (const char* words : FindLanguage(code)->Mistakes) EXPECT_NE(words, nullptr) << code;
   }
+}
+
+TEST(ReportPage, PicturesThatWouldMakeItTooLargeLieBeside) {
+  const TempFolder temp;
+  const auto pictureOf = [&temp](const char* name, std::uintmax_t size) {
+    temp.Write(name, OnePixel.toStdString());
+    std::filesystem::resize_file(temp.Path / name, size);
+    PupilRun run = RunOf(name);
+    run.Picture = temp.Path / name;
+    return run;
+  };
+  Report report;
+  report.Runs = {pictureOf("small.png", 100), pictureOf("large.png", PictureSource::MostBytes)};
+  const QString page = QString::fromUtf8(PageOf(report, temp.Path / "a b.pictures"));
+  EXPECT_LT(page.size(), 100'000);
+  EXPECT_TRUE(page.contains("src=\"a%20b.pictures/1.png\""));
+  EXPECT_TRUE(page.contains("img-src data: file: 'self';"));
+  EXPECT_EQ(std::filesystem::file_size(temp.Path / "a b.pictures/1.png"), PictureSource::MostBytes);
+  EXPECT_FALSE(QString::fromUtf8(PageOf(report)).contains("a%20b"));
 }
 
 }  // namespace

@@ -77,7 +77,22 @@ TEST_F(RunProcessTest, AProcessThatIsLateIsKilled) {
 TEST_F(RunProcessTest, AProcessThatEndsWithoutAWordIsACrash) {
   ExpectCrash(RunOf(Script("kill -9 $$")), "the process was ended by signal 9");
   ExpectCrash(RunOf(Script("exit 3")), "the process ended with status 3");
-  ExpectCrash(RunOf("/no/such/program"), "the process could not be started");
+}
+
+TEST_F(RunProcessTest, AProcessThatCanNotBeStartedIsNoRun) {
+  RunProcess process({}, Temp.Path / "run");
+  QEventLoop loop;
+  process.Start("/no/such/program", [&loop] { QTimer::singleShot(0, &loop, &QEventLoop::quit); });
+  loop.exec();
+  EXPECT_TRUE(process.CouldNotStart());
+}
+
+TEST_F(RunProcessTest, WithoutRoomForItsOrderAProcessIsNotStarted) {
+  Temp.Write("run", "in the way");
+  RunProcess process({}, Temp.Path / "run");
+  process.Start(Script("touch ../started"), [] {});
+  EXPECT_TRUE(process.CouldNotStart());
+  EXPECT_FALSE(Temp.Has("started"));
 }
 
 TEST_F(RunProcessTest, HalfAnOutcomeIsACrash) {
@@ -139,6 +154,30 @@ TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
   EXPECT_EQ(done.size(), 4U);
   EXPECT_EQ(done.at(0), "B1");
   EXPECT_EQ(Temp.Read("runs/counts").find_first_of("3456789"), std::string::npos);
+}
+
+TEST_F(RunProcessTest, WhatCanNotBeStartedIsTriedAgainLater) {
+  Temp.MakeFolder("runs");
+  ClassRunner::Plan plan;
+  plan.Jobs = 3;
+  plan.Program = Script("exit ${PWD##*/}");
+  plan.Folder = Temp.Path / "runs";
+  Temp.Write("runs/1", "in the way of the second one, until the first one has ended");
+  ClassRunner runner(plan, {{"A", {}}, {"B", {}}, {"C", {}}}, [this](const PupilRun&, std::size_t) {
+    if (fs::is_regular_file(Temp.Path / "runs/1")) fs::remove(Temp.Path / "runs/1");
+  });
+  std::string order;
+  for (const PupilRun& run : runner.Run()) order += run.Who.Program.string() + run.Went.Message.right(1).toStdString();
+  EXPECT_EQ(order, "A0B1C2");
+}
+
+TEST_F(RunProcessTest, WhereNothingCanBeStartedTheRunFails) {
+  Temp.MakeFolder("runs");
+  ClassRunner::Plan plan;
+  plan.Program = "/no/such/program";
+  plan.Folder = Temp.Path / "runs";
+  ClassRunner runner(plan, {{"A", {}}}, [](const PupilRun&, std::size_t) { FAIL() << "nothing has run"; });
+  EXPECT_THROW(runner.Run(), NoProcess);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "classroom/process_limits.h"
+#include "batch/memory_limit.h"
 #include "hostile_report.h"
 
 namespace zerimo::classroom {
@@ -24,7 +24,7 @@ TEST(Summary, HoldsEveryTextAsItIs) {
   EXPECT_EQ(pupil.value("boxes").toArray().at(0).toObject().value("text").toString(), Hostile);
   EXPECT_EQ(pupil.value("place").toObject().value("statement").toString(), Hostile);
   EXPECT_EQ(pupil.value("session").toString(), "<b>\".session");
-  EXPECT_TRUE(pupil.value("file").toString().endsWith(QStringLiteral("\"'&\n\ufffd.ZRM")));
+  EXPECT_TRUE(pupil.value("file").toString().endsWith(QStringLiteral("\"'&\n\ufffdFF.ZRM")));
 }
 
 TEST(Summary, TellsOfTheRunAsAWhole) {
@@ -35,7 +35,7 @@ TEST(Summary, TellsOfTheRunAsAWhole) {
   EXPECT_EQ(summary.value("folder").toString(), Hostile);
   EXPECT_EQ(summary.value("limits").toObject().value("seconds").toDouble(), 10);
   EXPECT_EQ(summary.value("limits").toObject().value("steps").toDouble(), 1000);
-  const QJsonValue megabytes = CanLimitMemory() ? QJsonValue(64) : QJsonValue();
+  const QJsonValue megabytes = batch::MemoryLimit::IsThere() ? QJsonValue(64) : QJsonValue();
   EXPECT_EQ(summary.value("limits").toObject().value("megabytes"), megabytes);
 }
 

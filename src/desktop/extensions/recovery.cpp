@@ -46,7 +46,9 @@ Recovery::Recovery(Session& session, Journal& journal, const fs::path& folder)
       folder_(folder),
       editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.System().controls.Text2))) {
   delay_.setSingleShot(true);
-  QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] { Write(); });
+  QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] {
+    if (!Write()) delay_.start(Delay);
+  });
   QObject::connect(&editor_, &QPlainTextEdit::textChanged, &delay_, [this] { Change(); });
   if (!folder_.Left().empty()) session_.WhenStarted([this](Form1& form1) { OfferAll(form1); });
 }
@@ -61,10 +63,11 @@ void Recovery::Change() {
   if (unsaved_ && !delay_.isActive()) delay_.start(Delay);
 }
 
-void Recovery::Write() {
+bool Recovery::Write() {
   const std::string text = Text();
-  if (text.empty()) return Forget();
-  if (!folder_.Write(text)) delay_.start(Delay);
+  if (!text.empty()) return folder_.Write(text);
+  Forget();
+  return true;
 }
 
 void Recovery::Forget() {
@@ -108,6 +111,8 @@ bool Recovery::IsSaved() const {
   return false;
 }
 
+bool Recovery::KeepsText() { return !unsaved_ || Write(); }
+
 std::string Recovery::Rescue() {
   const std::string text = Text();
   if (text.empty()) return {};
@@ -117,8 +122,7 @@ std::string Recovery::Rescue() {
 }
 
 void Recovery::SessionEnds(SessionEnd end) {
-  if (end == SessionEnd::ByWord) return Forget();
-  if (unsaved_) Write();
+  if (end == SessionEnd::ByWord) Forget();
 }
 
 void Recovery::OfferAll(Form1& form1) {

@@ -20,12 +20,14 @@ class Recovery : public Extension {
   bool PressKey(const QKeyEvent& press) override;
   void BoxOpens(QDialog& dialog) override;
   void RunEnds() override;
+  bool KeepsText() override;
   std::string Rescue() override;
   void SessionEnds(SessionEnd end) override;
 
  private:
   void Change();
-  void Write();
+  /// Returns whether the text is kept.
+  bool Write();
   void Forget();
   std::string Text() const;
   bool IsSaved() const;

@@ -190,6 +190,25 @@ TEST_F(RecoveryTest, AWindowThatLivesKeepsItsText) {
   EXPECT_TRUE(RescueFolder(Rescued()).Left().empty());
 }
 
+TEST_F(RecoveryTest, ATextThatCannotBeKeptIsSavedBesideTheProgramsWhenTheWindowCloses) {
+  std::ofstream(State()) << "in the way";
+  TypeInEditor("to a");
+  Shown().close();
+  EXPECT_TRUE(session->HasEnded());
+  EXPECT_EQ(ReadFile("Rescued.ZRM"), "to a");
+}
+
+TEST_F(RecoveryTest, ATextThatNothingKeepsIsNotGivenUpWithoutAQuestion) {
+  std::ofstream(State()) << "in the way";
+  WriteFile("Rescued.ZRM/in the way", "");
+  TypeInEditor("to a");
+  AnswerNextBox({Qt::Key_Escape});
+  Shown().close();
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_TRUE(Boxes[0].Text.starts_with("The text of the editor could not be kept")) << Boxes[0].Text;
+  EXPECT_TRUE(session->HasEnded());
+}
+
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenStopsNothing) {
   std::ofstream(State()) << "in the way";
   TypeInEditor("to a");

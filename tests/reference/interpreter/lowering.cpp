@@ -104,11 +104,15 @@ Lowering::Lowering(const ProgramContext& context)
       variables_(context.variables),
       arithmetic_(context.arithmetic),
       services_(context.around.services),
+      watch_(context.around.watch),
       Label17(context.around.controls.Label17),
       Label18(context.around.controls.Label18) {}
 
 void Lowering::RemoveAllRepeats() {
-  while (IsRepeatPresent() != 0) RemoveSingleRepeat();
+  while (IsRepeatPresent() != 0) {
+    watch_.Tick();
+    RemoveSingleRepeat();
+  }
 }
 
 std::int16_t Lowering::IsRepeatPresent() const { return SearchRepeatPos() != 0 ? 1 : 0; }
@@ -148,6 +152,7 @@ BodyArray Lowering::CreateBodyArray(std::string& body) const {
   try {
     int index = 1;
     do {
+      watch_.Tick();
       const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store_));
       if (cut.Message != nullptr) {
         services_.MessageBox(cut.Message);

@@ -79,6 +79,7 @@ class Lowering {
   const Variables& variables_;
   const Arithmetic& arithmetic_;
   Services& services_;
+  Watch& watch_;
   Label& Label17;
   Label& Label18;
 };

@@ -185,6 +185,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
   for (const std::string& local : LocalsOfProcedure()) {
+    watch_.Tick();
     SkipOnFailure([&] {
       const int dot = PositionOf(local, ".");
       name = Mid(local, dot + 1, PositionOf(local, "=") - dot - 1);
