@@ -1,7 +1,6 @@
 #include "desktop/desktop_services.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLocale>
 #include <QThread>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "desktop/desktop_text.h"
+#include "desktop/file_dialog.h"
 #include "desktop/message_dialog.h"
 #include "files/folders.h"
 
@@ -64,10 +64,8 @@ std::string DesktopServices::ShowSave(const std::string& text) {
 
 std::string DesktopServices::AskForFile(bool save, const QString& filter) {
   stage_.ShowState();
-  QFileDialog dialog(&stage_.Window(), save ? QStringLiteral("Save As") : QStringLiteral("Open"), folder_, filter);
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  FileDialog dialog(stage_.Window(), save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen,
+                    save ? QStringLiteral("Save As") : QStringLiteral("Open"), folder_, filter);
   // The system overwrites files without asking.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (stage_.Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};

@@ -57,6 +57,11 @@ QString EditorArea::Text() const {
   return text.replace(ParagraphEnd, QLatin1Char('\n'));
 }
 
+bool EditorArea::HasKeys() const {
+  const QWidget* focus = window()->focusWidget();
+  return focus == this || isAncestorOf(focus);
+}
+
 void EditorArea::ReplaceText(const QString& text) {
   const QString old = Text();
   const qsizetype start = CommonStart(old, text);

@@ -17,6 +17,16 @@ class EditorArea : public QPlainTextEdit {
   /// The text with the toolkit's line ends.
   QString Text() const;
 
+  /// Whether keys go to it or to a part of it.
+  bool HasKeys() const;
+
+  // What is shown beside the text needs to know where the text is.
+  using QPlainTextEdit::blockBoundingGeometry;
+  using QPlainTextEdit::contentOffset;
+  using QPlainTextEdit::firstVisibleBlock;
+  using QPlainTextEdit::setViewportMargins;
+  using QPlainTextEdit::viewportMargins;
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;

@@ -118,7 +118,10 @@ void PressLabel::mouseMoveEvent(QMouseEvent* event) {
 
 void PressLabel::mousePressEvent(QMouseEvent* event) {
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
-  Press(ToMouseButton(event->button()), shift, event->position().toPoint());
+  // With any other key beside it, a button chooses nothing.
+  const bool isCombined = event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier);
+  const MouseButton button = isCombined ? MouseButton::None : ToMouseButton(event->button());
+  Press(button, shift, event->position().toPoint());
 }
 
 void PressLabel::mouseReleaseEvent(QMouseEvent* event) {

@@ -40,6 +40,12 @@ bool CallsForFocus(const QKeyEvent& press) {
   }
 }
 
+/// Whether a key puts a character on a row.
+bool Writes(const QKeyEvent& press) {
+  const bool isAlone = (press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
+  return isAlone && !press.text().isEmpty() && press.text().front().isPrint();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& availableArea)
@@ -92,7 +98,8 @@ void MainWindow::SyncFocus() {
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
   if (holder != nullptr && holder->Panel() == &form1_.controls.Picture3) lastRow_ = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
-  if (focusWidget() == &wanted) return;
+  // A part of the editor, such as a bar for finding, has the focus for the editor.
+  if (focusWidget() == &wanted || (view != nullptr && wanted.isAncestorOf(focusWidget()))) return;
   wanted.setFocus(Qt::OtherFocusReason);
   // Unless an arrow key led here, typing replaces the old line.
   auto* row = dynamic_cast<RowEdit*>(&wanted);
@@ -132,10 +139,14 @@ bool MainWindow::focusNextPrevChild(bool next) {
 }
 
 bool MainWindow::HandOn(QKeyEvent& press) {
-  if (focusWidget() != this || !CallsForFocus(press)) return false;
-  Control& receiver = KeyReceiver();
+  QWidget* const before = focusWidget();
+  const bool isForNobody = before == this && CallsForFocus(press);
+  // The text screen has no use for letters.
+  const bool isForRow = before == &WidgetOf(form1_.controls.List4) && Writes(press) && lastRow_->IsOnScreen();
+  if (!isForNobody && !isForRow) return false;
+  Control& receiver = isForRow ? *lastRow_ : KeyReceiver();
   events_.Deliver([&](Form1& form1) { form1.controls.Focus.SetFocus(receiver); });
-  if (focusWidget() == this) return false;
+  if (focusWidget() == before) return false;
   QCoreApplication::sendEvent(focusWidget(), &press);
   return true;
 }

@@ -82,16 +82,15 @@ void SurfaceWidget::ShowHintAt(QPoint at) {
 void SurfaceWidget::leaveEvent(QEvent*) { hint_->hide(); }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
-  Control& control = ControlAt(event->position().toPoint());
-  // The title picture takes no focus, so that it stays where the learner types.
-  if (&control == &form1_.Picture1) setFocus(Qt::MouseFocusReason);
-  pressed_ = event->button() == Qt::LeftButton ? &control : nullptr;
+  pressed_ = event->button() == Qt::LeftButton ? &ControlAt(event->position().toPoint()) : nullptr;
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (event->button() != Qt::LeftButton || pressed_ != &ControlAt(at) || !rect().contains(at)) return;
   pressed_ = nullptr;
+  // Only a click takes the focus, and none on the title picture, so that it stays where the learner types.
+  if (&ControlAt(at) == &form1_.Picture1) setFocus(Qt::MouseFocusReason);
   events_.Deliver([&](Form1& form1) { form1.Click(ControlAt(at)); });
 }
 

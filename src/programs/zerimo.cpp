@@ -1,10 +1,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -13,6 +16,7 @@
 #include "desktop/desktop_style.h"
 #include "desktop/desktop_text.h"
 #include "desktop/extensions/extensions.h"
+#include "desktop/extensions/screen_scale.h"
 #include "desktop/session.h"
 #include "files/disk_files.h"
 #include "files/folders.h"
@@ -59,13 +63,31 @@ fs::path FileToOpen() {
   return {};
 }
 
+void SetScale(int percent) { qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0)); }
+
+/// The toolkit connected with the desktop, at the scale asked for or at one that fits the screen.
+std::unique_ptr<QApplication> Connect(const CommandLine& line, int& argc, char** argv) {
+  if (line.Scale != 0) SetScale(line.Scale);
+  auto application = std::make_unique<QApplication>(argc, argv);
+  if (line.Scale != 0 || line.Classic) return application;
+  const QScreen& screen = *QApplication::primaryScreen();
+  const int scale = ScaleForScreen(screen.size().width(), screen.devicePixelRatio());
+  if (scale == 100) return application;
+  // The toolkit reads the scale when it starts.
+  application.reset();
+  SetScale(scale);
+  return std::make_unique<QApplication>(argc, argv);
+}
+
 int RunInWindow(const CommandLine& line, int argc, char** argv) {
-  if (line.Scale != 0) qputenv("QT_SCALE_FACTOR", QByteArray::number(line.Scale / 100.0));
-  QApplication application(argc, argv);
+  const std::unique_ptr<QApplication> application = Connect(line, argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(ProgramName));
   QApplication::setApplicationVersion(QStringLiteral(ZERIMO_VERSION));
   QApplication::setDesktopFileName(QStringLiteral(ZERIMO_ID));
   QApplication::setQuitOnLastWindowClosed(false);
+  // Where the toolkit may keep how its dialogs were left, for as long as the program runs.
+  const QTemporaryDir settings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   SetDesktopStyle();
   const fs::path file = FileToOpen();
   const StartFolder start = PrepareStartFolder(LookAround());

@@ -21,6 +21,14 @@ TEST_F(FileDialogsTest, AnOpenedProgramIsLoaded) {
   EXPECT_EQ(System().files.programFiles.CurrentFileName.substr(0, 1), "\\");
 }
 
+TEST_F(FileDialogsTest, AProgramIsFoundInAnyCase) {
+  WriteFile("Box.Zrm", "TO BOX\r\nEND\r\n");
+  const std::string name = FullName("bOX.zRM");
+  AnswerNextBox({Qt::Key_Return}, name.c_str());
+  Enter("show open");
+  EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO BOX"});
+}
+
 TEST_F(FileDialogsTest, ACancelledDialogDoesNothing) {
   AnswerNextBox({Qt::Key_Escape});
   Enter("show open");

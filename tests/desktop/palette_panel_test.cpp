@@ -58,7 +58,10 @@ INSTANTIATE_TEST_SUITE_P(ButtonsAndShift, Choices,
                                          ChoiceCase{Qt::RightButton, Qt::NoModifier, "Setbg 3"},
                                          ChoiceCase{Qt::LeftButton, Qt::ShiftModifier, "TEXTCOLOR 3"},
                                          ChoiceCase{Qt::RightButton, Qt::ShiftModifier, "TEXTBACKGROUND 3"},
-                                         ChoiceCase{Qt::MiddleButton, Qt::NoModifier, " 3"}));
+                                         ChoiceCase{Qt::MiddleButton, Qt::NoModifier, " 3"},
+                                         ChoiceCase{Qt::LeftButton, Qt::ControlModifier, " 3"},
+                                         ChoiceCase{Qt::RightButton, Qt::AltModifier, " 3"},
+                                         ChoiceCase{Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier, " 3"}));
 
 TEST_F(PalettePanelTest, TheSquaresHaveTheColoursOfTheirCodes) {
   EXPECT_EQ(Square(12).grab().toImage().pixelColor(17, 17), QColor(255, 0, 0));

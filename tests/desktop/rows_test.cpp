@@ -150,6 +150,17 @@ TEST_F(RowsTest, F1OpensTheEditorAndTypingGoesThere) {
   EXPECT_EQ(Focused(), &Editor());
 }
 
+TEST_F(RowsTest, LettersTypedOnTheTextScreenGoToTheRow) {
+  Enter("fd 1");
+  Press(Qt::Key_F3);
+  WidgetOf(FormControls().List4).setFocus(Qt::MouseFocusReason);
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Focused(), &WidgetOf(FormControls().List4));
+  Type("rt 2");
+  EXPECT_EQ(Focused(), &Row(1));
+  EXPECT_EQ(Row(1).text(), "rt 2");
+}
+
 TEST_F(RowsTest, F3ShowsTheTextScreenAndF2TheDrawing) {
   Press(Qt::Key_F3);
   EXPECT_TRUE(WidgetOf(FormControls().List4).isVisible());

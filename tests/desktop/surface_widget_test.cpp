@@ -110,6 +110,16 @@ TEST_F(SurfaceWidgetTest, AClickGivesTheFocusToTheFirstEmptyRowAndThenToTheFirst
   EXPECT_EQ(Focused(), &Row(0));
 }
 
+TEST_F(SurfaceWidgetTest, OnlyACompletedLeftClickTakesTheFocus) {
+  Enter("cs");
+  QTest::mouseClick(&Surface(), Qt::RightButton, {}, {300, 300});
+  EXPECT_EQ(Focused(), &Row(1));
+  QTest::mousePress(&Surface(), Qt::LeftButton, {}, {300, 300});
+  EXPECT_EQ(Focused(), &Row(1));
+  QTest::mouseRelease(&Surface(), Qt::LeftButton, {}, {300, -50});
+  EXPECT_EQ(Focused(), &Row(1));
+}
+
 TEST_F(SurfaceWidgetTest, AClickInFullScreenDoesNotEndTheProgram) {
   Enter("cs");
   Enter("fs");

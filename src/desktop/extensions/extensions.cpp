@@ -1,5 +1,7 @@
 #include "desktop/extensions/extensions.h"
 
+#include "desktop/extensions/editor_aids.h"
+#include "desktop/extensions/gallery.h"
 #include "desktop/extensions/journal.h"
 #include "desktop/extensions/recovery.h"
 #include "desktop/extensions/run_chip.h"
@@ -16,6 +18,8 @@ void AddExtensions(Session& session, const std::filesystem::path& folder) {
   auto journal = std::make_unique<Journal>(session.System(), folder / "journal");
   session.Add(std::make_unique<Recovery>(session, *journal, folder / "rescued"));
   session.Add(std::move(journal));
+  session.Add(std::make_unique<EditorAids>(session));
+  session.Add(std::make_unique<Gallery>(session));
 }
 
 }  // namespace zerimo

@@ -77,8 +77,7 @@ void Recovery::Forget() {
 }
 
 bool Recovery::PressKey(const QKeyEvent& press) {
-  if (press.key() == Qt::Key_F2 && session_.Shown().focusWidget() == &editor_ && !session_.Running().IsRunning())
-    folding_ = true;
+  if (press.key() == Qt::Key_F2 && editor_.HasKeys() && !session_.Running().IsRunning()) folding_ = true;
   return false;
 }
 
@@ -140,7 +139,7 @@ void Recovery::Offer(Form1& form1, RescuedText& rescued) {
   QPushButton* later = box.addButton(QStringLiteral("Ask &later"), QMessageBox::ActionRole);
   box.setDefaultButton(open);
   box.setEscapeButton(later);
-  session_.Running().Ask(box);
+  session_.Running().Stay(box);
   if (box.clickedButton() == open) Open(form1, rescued);
   const bool kept = box.clickedButton() == keep && SkipOnFailure([&] { WriteBeside(file, rescued.Text); });
   if (kept || box.clickedButton() == drop) RescueFolder::Drop(rescued);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextDocument>
+#include <QWidget>
+
+#include "desktop/editor_view.h"
+
+namespace zerimo {
+
+/// A bar at the lower edge of the editor that finds and replaces text, without regard to case. It is a part of the
+/// editor: the keys of the editor work in it.
+class FindBar : public QWidget {
+ public:
+  explicit FindBar(EditorArea& editor);
+
+  /// Shows the bar with the selected text.
+  void Open();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* press) override;
+
+ private:
+  void Close();
+  /// Gives the bar its place, and the text the rest.
+  void Fit();
+  void Find(QTextDocument::FindFlags direction);
+  void ReplaceOne();
+  void ReplaceAll();
+  bool IsFound() const;
+
+  EditorArea& editor_;
+  QLineEdit wanted_;
+  QLineEdit replacement_;
+  QLabel outcome_;
+};
+
+}  // namespace zerimo

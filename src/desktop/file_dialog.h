@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QFileDialog>
+
+namespace zerimo {
+
+/// The toolkit's file dialog, the same on every desktop. A file to open is found in whatever case its name is typed,
+/// as `LOAD` finds it.
+class FileDialog : public QFileDialog {
+ public:
+  FileDialog(QWidget& parent, AcceptMode mode, const QString& title, const QString& folder, const QString& filter);
+
+ protected:
+  void accept() override;
+};
+
+}  // namespace zerimo
