@@ -35,3 +35,17 @@ function(zerimo_web_command name source)
                  FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
   configure_file(${ZERIMO_FONT} ${CMAKE_BINARY_DIR}/font.ttf COPYONLY)
 endfunction()
+
+# zerimo_web_page(NAME SOURCES... LINKS...): the system for a worker of the page, build/web/page/zerimo.mjs, with the
+# module and the font beside it.
+function(zerimo_web_page name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} zerimo_options)
+  target_link_options(${name} PRIVATE
+    --no-entry -sMODULARIZE=1 -sEXPORT_ES6=1 -sENVIRONMENT=worker -sALLOW_MEMORY_GROWTH=1 -sTOTAL_STACK=8MB
+    -sFORCE_FILESYSTEM=1 -sEXPORTED_FUNCTIONS=_malloc,_free -sEXPORTED_RUNTIME_METHODS=ccall,FS -sTEXTDECODER=2)
+  set_target_properties(${name} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/page OUTPUT_NAME zerimo SUFFIX .mjs)
+  configure_file(${ZERIMO_FONT} ${CMAKE_BINARY_DIR}/page/font.ttf COPYONLY)
+endfunction()

@@ -1,12 +1,11 @@
 #include "web/font_text.h"
 
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "base/failure.h"
+#include "files/disk_files.h"
 #include "web/stb.h"
 
 namespace zerimo::web {
@@ -15,11 +14,6 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr int HalfCovered = 128;
-
-std::string ContentOf(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// A letter as it covers pixels, 0 to 255 each.
 struct Letter {
@@ -81,7 +75,8 @@ void Put(PixelBuffer& pixels, const Letter& letter, int column, int row, Pixel c
 
 }  // namespace
 
-FontText::FontText(const std::filesystem::path& fontFile) : font_(std::make_unique<Font>(ContentOf(fontFile))) {}
+FontText::FontText(const std::filesystem::path& fontFile)
+    : font_(std::make_unique<Font>(BytesOf(fontFile).value_or(std::string()))) {}
 
 FontText::~FontText() = default;
 

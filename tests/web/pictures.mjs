@@ -25,7 +25,7 @@ function predicted(filter, left, above, corner) {
   return [0, left, above, (left + above) >> 1, nearest(left, above, corner)][filter];
 }
 
-function readPicture(file) {
+export function readPicture(file) {
   const chunks = chunksOf(readFileSync(file));
   const header = chunks[0].data;
   const [columns, rows, channels] = [header.readUInt32BE(0), header.readUInt32BE(4), channelsOf.get(header[9])];
