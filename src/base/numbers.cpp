@@ -133,7 +133,8 @@ std::string_view WriteNumber(double number, NumberBuffer& buffer) {
   char* const first = buffer.data();
   char* const last = first + buffer.size();
   if (std::abs(number) < exponentFormFrom && number == std::trunc(number)) {
-    return {first, std::to_chars(first, last, static_cast<std::int64_t>(number)).ptr};
+    const char* const end = std::to_chars(first, last, static_cast<std::int64_t>(number)).ptr;
+    return {first, static_cast<std::size_t>(end - first)};
   }
   // One character is kept free for the sign.
   char* digits = first + 1;
@@ -141,7 +142,7 @@ std::string_view WriteNumber(double number, NumberBuffer& buffer) {
   if (char* const mark = std::find(digits, end, 'e'); mark != end) *mark = 'E';
   if (digits[0] == '0' && digits[1] == '.') ++digits;
   if (number < 0) *--digits = '-';
-  return {digits, end};
+  return {digits, static_cast<std::size_t>(end - digits)};
 }
 
 }  // namespace

@@ -4,26 +4,25 @@
 #include <functional>
 #include <utility>
 
-#include "graphics/surface.h"
+#include "batch/session_pictures.h"
 #include "pictures/image_canvas.h"
 #include "pictures/svg_picture.h"
 
 namespace zerimo::batch {
 
-/// The pixels of a session, and its pictures as files.
-class PictureOutput {
+/// Pixels and picture files by Qt, and SVG.
+class PictureOutput : public SessionPictures {
  public:
   /// `startToolkit` is called each time before the toolkit is needed.
   explicit PictureOutput(std::function<void()> startToolkit = [] {})
       : startToolkit_(std::move(startToolkit)), canvas_(startToolkit_) {}
 
-  ImageCanvas& Pixels() { return canvas_; }
+  ImageCanvas& Pixels() override { return canvas_; }
 
-  /// Keeps the operations of the surface from now on, for a picture made of shapes. Each costs memory.
-  void KeepOperations(Surface& surface) { surface.AddRecorder(operations_); }
+  /// Each costs memory.
+  void KeepOperations(Surface& surface) override { surface.AddRecorder(operations_); }
 
-  /// Writes the surface as large as it is now; the file's ending decides the format. Fails (file access).
-  void Write(const Surface& surface, const std::filesystem::path& file) const;
+  void Write(const Surface& surface, const std::filesystem::path& file) const override;
 
  private:
   std::function<void()> startToolkit_;

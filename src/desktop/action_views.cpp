@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-#include "desktop/control_words.h"
+#include "console/control_words.h"
 #include "desktop/desktop_text.h"
 
 namespace zerimo {

@@ -1,7 +1,7 @@
 #include <QLabel>
 
+#include "console/control_words.h"
 #include "desktop/action_views.h"
-#include "desktop/control_words.h"
 #include "desktop/desktop_text.h"
 #include "desktop/editor_view.h"
 #include "desktop/help_views.h"

@@ -15,8 +15,8 @@
 #include "base/failure.h"
 #include "base/wide_registers.h"
 #include "files/disk_files.h"
-#include "pictures/picture_check.h"
 #include "pictures/pixel_image.h"
+#include "pixels/picture_check.h"
 
 namespace zerimo {
 
@@ -66,7 +66,7 @@ QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
   const QByteArray format = reader.format();
   const bool isReadable =
       std::find(ReadableFormats.begin(), ReadableFormats.end(), format.toStdString()) != ReadableFormats.end();
-  Require(isReadable && IsWholePicture(content, format), FailureKind::InvalidPicture);
+  Require(isReadable && IsWholePicture(content.toStdString(), format.toStdString()), FailureKind::InvalidPicture);
   const QSize size = reader.size();
   Require(!size.isEmpty() && qint64{size.width()} * size.height() <= MostPixels, FailureKind::InvalidPicture);
   reader.setClipRect(QRect(QPoint(0, 0), size.boundedTo(largest)));

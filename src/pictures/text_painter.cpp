@@ -89,11 +89,6 @@ QGlyphRun TextFont::GlyphsOf(std::string_view text) const {
   return run;
 }
 
-bool IsPrintable(char character) {
-  const auto code = static_cast<unsigned char>(character);
-  return (code >= 32 && code < 127) || code >= 160;
-}
-
 QString PrintableText(std::string_view text) {
   QString printable;
   printable.reserve(static_cast<qsizetype>(text.size()));

@@ -43,9 +43,6 @@ class TextFont {
   std::array<double, 256> advances_{};
 };
 
-/// Control characters print nothing and take no space.
-bool IsPrintable(char character);
-
 /// The printable characters of a text.
 QString PrintableText(std::string_view text);
 

@@ -7,6 +7,12 @@
 
 namespace zerimo {
 
+/// Control characters print nothing and take no space.
+inline bool IsPrintable(char character) {
+  const auto code = static_cast<unsigned char>(character);
+  return (code >= 32 && code < 127) || code >= 160;
+}
+
 /// Prints text on pixels. A toolkit or a page supplies one.
 class TextDrawer {
  public:

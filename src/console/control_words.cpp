@@ -1,4 +1,4 @@
-#include "desktop/control_words.h"
+#include "console/control_words.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@ namespace zerimo {
 
 namespace {
 
-constexpr std::array<ControlWords, 33> Words = {{
+constexpr std::array<ControlWords, 33> WordsOfControls = {{
     {"Form1", "Zerimo", "F2 brings the drawing and the command rows back.", ""},
     {"Picture1", "Drawing surface", "", ""},
     {"Picture3", "Command rows", "Five rows for commands.", ""},
@@ -57,8 +57,9 @@ constexpr std::array<ControlWords, 33> Words = {{
 
 const ControlWords* FindControlWords(std::string_view control) {
   const std::string_view name = control.substr(0, control.find('('));
-  const auto found = std::find_if(Words.begin(), Words.end(), [&](const auto& words) { return words.Control == name; });
-  return found == Words.end() ? nullptr : &*found;
+  const auto found = std::find_if(WordsOfControls.begin(), WordsOfControls.end(),
+                                  [&](const auto& words) { return words.Control == name; });
+  return found == WordsOfControls.end() ? nullptr : &*found;
 }
 
 int IndexInName(std::string_view control) {

@@ -1,4 +1,4 @@
-#include "pictures/picture_check.h"
+#include "pixels/picture_check.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -10,16 +10,17 @@ namespace {
 /// Walks through bytes. Past the end everything reads as zero, and `IsInside` is false from then on.
 class ByteWalk {
  public:
-  explicit ByteWalk(const QByteArray& content) : bytes_(content) {}
+  explicit ByteWalk(std::string_view content) : bytes_(content) {}
 
-  bool IsInside() const { return position_ <= bytes_.size(); }
-  bool IsAtEnd() const { return position_ >= bytes_.size(); }
+  bool IsInside() const { return position_ <= Size(); }
+  bool IsAtEnd() const { return position_ >= Size(); }
   void Skip(std::int64_t count) { position_ += count; }
   void GoTo(std::int64_t place) { position_ = place; }
-  std::int64_t Size() const { return bytes_.size(); }
+  std::int64_t Size() const { return static_cast<std::int64_t>(bytes_.size()); }
 
   unsigned Byte() {
-    const unsigned value = position_ < bytes_.size() ? static_cast<unsigned char>(bytes_[position_]) : 0U;
+    const unsigned value =
+        position_ < Size() ? static_cast<unsigned char>(bytes_[static_cast<std::size_t>(position_)]) : 0U;
     ++position_;
     return value;
   }
@@ -41,8 +42,8 @@ class ByteWalk {
   }
 
  private:
-  const QByteArray& bytes_;
-  qsizetype position_ = 0;
+  std::string_view bytes_;
+  std::int64_t position_ = 0;
 };
 
 /// More than any picture that is read has; sizes computed from these stay within 64 bits.
@@ -166,7 +167,7 @@ bool IsWholePng(ByteWalk walk) {
 
 }  // namespace
 
-bool IsWholePicture(const QByteArray& content, const QByteArray& format) {
+bool IsWholePicture(std::string_view content, std::string_view format) {
   const ByteWalk walk(content);
   if (format == "bmp") return IsWholeBitmap(walk);
   if (format == "jpeg") return IsWholeJpeg(walk);

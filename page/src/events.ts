@@ -1,0 +1,112 @@
+// Hands the user's events to the system, one at a time, and keeps those that come while a line runs.
+import { meansStop } from "./keys";
+import type { Call, Told, ToWorker } from "./protocol";
+
+type Word = string | number;
+
+/** A held key that stays down makes so many events at most. */
+const mostKept = 1000;
+
+/** Types a key into a text box as the browser would have done. */
+function typeInto(box: HTMLInputElement | HTMLTextAreaElement, key: string): void {
+  const [from, to] = [box.selectionStart ?? 0, box.selectionEnd ?? 0];
+  if (key === "Backspace") box.setRangeText("", from === to ? Math.max(0, from - 1) : from, to, "end");
+  else if (key === "Enter" && box instanceof HTMLTextAreaElement) box.setRangeText("\n", from, to, "end");
+  else if ([...key].length === 1) box.setRangeText(key, from, to, "end");
+  else return;
+  box.dispatchEvent(new Event("input", { bubbles: true }));
+}
+
+/** What a touch keyboard wrote. */
+function replayLetters(letters: string): void {
+  const box = document.activeElement;
+  if (!(box instanceof HTMLInputElement || box instanceof HTMLTextAreaElement)) return;
+  for (const letter of letters) typeInto(box, letter);
+}
+
+function replay(event: Event): void {
+  const isKey = event instanceof KeyboardEvent;
+  if (event instanceof InputEvent) return replayLetters(event.data ?? "");
+  const target = isKey ? (document.activeElement ?? document.body) : event.target;
+  const again = new (event.constructor as typeof Event)(event.type, event);
+  if (!target?.dispatchEvent(again) || !isKey || event.ctrlKey || event.metaKey) return;
+  if (target instanceof HTMLInputElement || target instanceof HTMLTextAreaElement) typeInto(target, event.key);
+}
+
+export class Events {
+  private running = false;
+  private readonly waiting: Call[] = [];
+  private readonly kept: Event[] = [];
+  private readonly timers = new Map<string, { clock: number; every: number; isDue: boolean }>();
+
+  /** `collect` gives what the user has typed since it was last asked. */
+  constructor(
+    private readonly send: (message: ToWorker) => void,
+    private readonly collect: () => [string, string][],
+    private readonly whenRunning: (running: boolean) => void,
+  ) {
+    for (const type of ["keydown", "pointerdown", "pointermove", "pointerup", "click", "beforeinput"]) {
+      window.addEventListener(type, (event) => this.hold(event), { capture: true });
+    }
+  }
+
+  isRunning(): boolean {
+    return this.running;
+  }
+
+  deliver(name: string, ...words: Word[]): void {
+    this.waiting.push({ kind: "call", name, words, texts: [] });
+    if (!this.running) this.next();
+  }
+
+  /** The system has carried out the last event and shown what it left. */
+  done(): void {
+    this.running = false;
+    this.whenRunning(false);
+    if (this.waiting.length > 0) return this.next();
+    while (this.kept.length > 0 && !this.running) replay(this.kept.shift()!);
+    for (const [name, timer] of this.timers) {
+      if (!timer.isDue || this.running) continue;
+      timer.isDue = false;
+      this.deliver("Tick", name);
+    }
+  }
+
+  setTimer(told: Told): void {
+    const [name, every] = [String(told.name), told["Enabled"] === true ? Number(told["Interval"]) : 0];
+    const known = this.timers.get(name);
+    if (known?.every === every) return;
+    clearInterval(known?.clock);
+    this.timers.delete(name);
+    if (every <= 0) return;
+    const clock = window.setInterval(() => this.tick(name), every);
+    this.timers.set(name, { clock, every, isDue: false });
+  }
+
+  private tick(name: string): void {
+    const timer = this.timers.get(name);
+    if (timer === undefined) return;
+    timer.isDue = this.running;
+    if (!timer.isDue) this.deliver("Tick", name);
+  }
+
+  private next(): void {
+    const call = this.waiting.shift();
+    if (call === undefined) return;
+    this.running = true;
+    this.whenRunning(true);
+    this.send({ ...call, texts: this.collect() });
+  }
+
+  /** Boxes and the page's own bar are not the system's: they live while it runs. */
+  private hold(event: Event): void {
+    if (!this.running || !event.isTrusted || (event instanceof KeyboardEvent && meansStop(event))) return;
+    const target = event.target instanceof Element ? event.target : document.body;
+    if (target.closest("dialog, #bar") || document.querySelector("dialog[open]")) return;
+    event.preventDefault();
+    event.stopImmediatePropagation();
+    const isMove = event.type === "pointermove" && this.kept.at(-1)?.type === "pointermove";
+    if (isMove) this.kept.pop();
+    if (this.kept.length < mostKept) this.kept.push(event);
+  }
+}

@@ -1,0 +1,109 @@
+// The system in its worker. While a line runs or a box stands, this thread is held, and the page lives on.
+import start, { type System } from "zerimo";
+import { type Call, type File, type FromWorker, Shared, type Start, type ToWorker } from "./protocol";
+
+const folder = "/Zerimo";
+
+const post = (message: FromWorker, move: Transferable[] = []) => self.postMessage(message, { transfer: move });
+
+/** The learner's folder as the system sees it, and what has changed there since the page was told. */
+class Folder {
+  private readonly known = new Map<string, string>();
+
+  constructor(private readonly files: System["FS"]) {
+    files.mkdir(folder);
+    files.chdir(folder);
+  }
+
+  names(): string[] {
+    return this.files.readdir(folder).filter((name) => this.files.isFile(this.files.stat(`${folder}/${name}`).mode));
+  }
+
+  put(files: File[]): void {
+    for (const [path, bytes] of files) {
+      const below = path.split("/").slice(0, -1).join("/");
+      if (below !== "" && !this.files.readdir(folder).includes(below)) this.files.mkdir(`${folder}/${below}`);
+      this.files.writeFile(`${folder}/${path}`, bytes);
+    }
+    this.takeChanged();
+  }
+
+  tellChanged(): void {
+    const changed = this.takeChanged();
+    if (changed.length > 0) post({ kind: "written", files: changed });
+  }
+
+  private takeChanged(): File[] {
+    const changed: File[] = [];
+    for (const name of this.names()) {
+      const { mtime, size } = this.files.stat(`${folder}/${name}`);
+      const mark = `${mtime.getTime()} ${size}`;
+      if (this.known.get(name) === mark) continue;
+      this.known.set(name, mark);
+      changed.push([name, this.files.readFile(`${folder}/${name}`)]);
+    }
+    return changed;
+  }
+}
+
+class Worker {
+  private constructor(
+    private readonly system: System,
+    private readonly shell: number,
+    private readonly own: Folder,
+  ) {}
+
+  static async begin({ shared, width, height, files }: Start): Promise<Worker> {
+    const memory = new Shared(shared);
+    let own: Folder | undefined;
+    const port = {
+      tell: (message: string) => post({ kind: "told", told: JSON.parse(message) }),
+      show: (pixels: Uint8Array, columns: number, first: number, rows: number) =>
+        post({ kind: "rows", rows: { pixels, columns, first, rows } }, [pixels.buffer as ArrayBuffer]),
+      ask: (question: string) => {
+        own?.tellChanged();
+        memory.expectAnswer();
+        post({ kind: "ask", question: JSON.parse(question), files: own?.names() ?? [] });
+        return memory.awaitAnswer();
+      },
+      hold: (milliseconds: number) => {
+        own?.tellChanged();
+        memory.hold(milliseconds);
+      },
+      takeStop: () => memory.takeStop(),
+      timeOfDay: () => new Date().toLocaleTimeString([], { timeStyle: "short" }).replace(/\s/gu, " "),
+    };
+    const system = await start({ port, locateFile: (name) => new URL(name, self.location.href).href });
+    const font = await fetch(new URL("font.ttf", self.location.href));
+    system.FS.writeFile("/font.ttf", new Uint8Array(await font.arrayBuffer()));
+    own = new Folder(system.FS);
+    own.put(files);
+    const shell = system.ccall("StartSystem", "number", ["number", "number"], [width, height]);
+    return new Worker(system, shell, own);
+  }
+
+  run({ name, words, texts }: Call): void {
+    for (const [control, text] of texts) this.call("PutText", [control, text]);
+    this.call(name, words);
+    this.own.tellChanged();
+    post({ kind: "done" });
+  }
+
+  put(files: File[]): void {
+    this.own.put(files);
+  }
+
+  private call(name: string, words: (string | number)[]): void {
+    const kinds = words.map((word) => (typeof word === "string" ? "string" : "number"));
+    this.system.ccall(name, null, ["number", ...kinds], [this.shell, ...words]);
+  }
+}
+
+let worker: Promise<Worker> | undefined;
+
+self.onmessage = async ({ data }: MessageEvent<ToWorker>) => {
+  if (data.kind === "start") worker = Worker.begin(data);
+  const ready = await worker;
+  if (data.kind === "call") ready?.run(data);
+  if (data.kind === "put") ready?.put(data.files);
+};

@@ -1,0 +1,24 @@
+// The system as Emscripten makes it, see src/programs/zerimo_page.cpp.
+declare module "zerimo" {
+  export interface Port {
+    tell(message: string): void;
+    show(pixels: Uint8Array, columns: number, first: number, rows: number): void;
+    ask(question: string): string;
+    hold(milliseconds: number): void;
+    takeStop(): boolean;
+    timeOfDay(): string;
+  }
+  export interface System {
+    ccall(name: string, result: "number" | null, kinds: ("number" | "string")[], words: (string | number)[]): number;
+    FS: {
+      mkdir(folder: string): void;
+      chdir(folder: string): void;
+      readdir(folder: string): string[];
+      stat(path: string): { mode: number; mtime: Date; size: number };
+      isFile(mode: number): boolean;
+      readFile(path: string): Uint8Array;
+      writeFile(path: string, bytes: Uint8Array): void;
+    };
+  }
+  export default function start(options: { port: Port; locateFile(name: string): string }): Promise<System>;
+}

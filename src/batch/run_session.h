@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "batch/options.h"
+#include "batch/session_pictures.h"
+
+namespace zerimo::batch {
+
+/// Tells on standard error what went wrong, and returns the exit status for it.
+int Complain(const std::string& words);
+
+/// Carries out one session as the command line asks for it: reads it, writes the transcript and the picture at the end,
+/// and returns the exit status.
+int RunSession(const Options& options, SessionPictures& pictures);
+
+}  // namespace zerimo::batch

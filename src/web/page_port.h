@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "pixels/pixel_buffer.h"
+
+/// What the page supplies: functions of the worker in which the system runs (`page/src/worker.ts`). Texts are UTF-8,
+/// and messages are JSON.
+namespace zerimo::web {
+
+/// Hands a message to the page and does not wait.
+void TellPage(const std::string& message);
+
+/// Shows these rows of the picture, from the first to the last.
+void ShowRows(const PixelBuffer& pixels, int first, int last);
+
+/// Holds the system until the page has answered a message. An answer that begins with a plus sign has its text after
+/// it; the empty one means that the box was cancelled.
+std::string AskPage(const std::string& question);
+
+/// Holds the system for a time, or until the user stops the program.
+void HoldFor(double milliseconds);
+
+/// Whether the user wants the program to stop; asked again, it says no.
+bool TakeStop();
+
+/// The time of day in the browser's short form.
+std::string PageTimeOfDay();
+
+}  // namespace zerimo::web

@@ -1,0 +1,95 @@
+#include "web/page_services.h"
+
+#include <emscripten.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "base/stop_run.h"
+#include "batch/box_buttons.h"
+#include "batch/json_line.h"
+#include "batch/latin1.h"
+#include "web/page_port.h"
+
+namespace zerimo::web {
+
+namespace {
+
+using batch::JsonLine;
+
+constexpr double FrameMilliseconds = 16;
+/// The clock is read once in this many steps and rounds.
+constexpr unsigned LooksAtOnce = 16;
+/// Showing takes at most a quarter of the time.
+constexpr double ShareOfShowing = 4;
+
+void LeaveIfStopped() {
+  if (TakeStop()) throw StopRun();
+}
+
+/// What follows the plus sign.
+std::string TextOf(const std::string& answer) {
+  return answer.empty() ? std::string() : batch::FromUtf8(std::string_view(answer).substr(1));
+}
+
+}  // namespace
+
+std::string PageServices::Ask(const std::string& question) {
+  show_();
+  const std::string answer = AskPage(question);
+  LeaveIfStopped();
+  return TextOf(answer);
+}
+
+Answer PageServices::MessageBox(const std::string& text, int style, const std::string& title) {
+  const batch::BoxButtons& buttons = batch::ButtonsOf(style);
+  std::vector<std::string> words;
+  for (const Answer button : buttons.Buttons) words.emplace_back(batch::WordOf(button));
+  const std::string chosen = Ask(JsonLine("box")
+                                     .Text("text", text)
+                                     .Text("title", title)
+                                     .Texts("buttons", words)
+                                     .Text("unasked", batch::WordOf(buttons.Unasked))
+                                     .Finished());
+  const auto found = std::find(words.begin(), words.end(), chosen);
+  return found == words.end() ? buttons.Unasked : buttons.Buttons[static_cast<std::size_t>(found - words.begin())];
+}
+
+std::string PageServices::InputBox(const std::string& prompt, const std::string& title,
+                                   const std::string& defaultAnswer) {
+  return Ask(JsonLine("input").Text("text", prompt).Text("title", title).Text("value", defaultAnswer).Finished());
+}
+
+std::string PageServices::ShowOpen() {
+  if (!offeredFile_.empty()) return std::exchange(offeredFile_, {});
+  return Ask(JsonLine("open").Text("title", "Open").Finished());
+}
+
+std::string PageServices::ShowSave(const std::string& text) {
+  return Ask(JsonLine("save").Text("title", "Save As").Text("text", text).Finished());
+}
+
+void PageServices::Sleep(std::int32_t milliseconds) {
+  if (milliseconds < 0) return;
+  show_();
+  HoldFor(milliseconds);
+  LeaveIfStopped();
+}
+
+void PageServices::Beep() { TellPage("[" + JsonLine("beep").Finished() + "]"); }
+
+std::string PageServices::TimeOfDay() { return batch::FromUtf8(PageTimeOfDay()); }
+
+void PageWatch::Begin() { nextFrame_ = emscripten_get_now() + FrameMilliseconds; }
+
+void PageWatch::Look() {
+  if (++looks_ % LooksAtOnce != 0) return;
+  const double start = emscripten_get_now();
+  if (start < nextFrame_) return;
+  LeaveIfStopped();
+  show_();
+  const double end = emscripten_get_now();
+  nextFrame_ = std::max(start + FrameMilliseconds, end + (ShareOfShowing - 1) * (end - start));
+}
+
+}  // namespace zerimo::web

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "base/services.h"
+#include "base/watch.h"
+
+namespace zerimo::web {
+
+/// Boxes, dialogs, waits and sounds of the page. Each leaves the run with `StopRun` if the user stops the program.
+class PageServices : public Services {
+ public:
+  /// `show` brings the page up to date.
+  explicit PageServices(std::function<void()> show) : show_(std::move(show)) {}
+
+  Answer MessageBox(const std::string& text, int style, const std::string& title) override;
+  std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultAnswer) override;
+  std::string ShowOpen() override;
+  std::string ShowSave(const std::string& text) override;
+  void Sleep(std::int32_t milliseconds) override;
+  void Beep() override;
+  std::string TimeOfDay() override;
+
+  /// The next `ShowOpen` answers with this path at once.
+  void OfferFile(const std::string& systemPath) { offeredFile_ = systemPath; }
+
+ private:
+  std::string Ask(const std::string& question);
+
+  std::function<void()> show_;
+  std::string offeredFile_;
+};
+
+/// Shows the picture as it grows while a line runs, at most once in a frame, and lets the user stop the program.
+class PageWatch : public Watch {
+ public:
+  explicit PageWatch(std::function<void()> show) : show_(std::move(show)) {}
+
+  /// To be called when a handler begins.
+  void Begin();
+  void Step() override { Look(); }
+  void Tick() override { Look(); }
+
+ private:
+  void Look();
+
+  std::function<void()> show_;
+  /// In milliseconds of the browser's clock.
+  double nextFrame_ = 0;
+  unsigned looks_ = 0;
+};
+
+}  // namespace zerimo::web

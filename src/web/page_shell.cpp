@@ -1,0 +1,59 @@
+#include "web/page_shell.h"
+
+#include <exception>
+#include <memory>
+
+#include "base/failure.h"
+#include "base/stop_run.h"
+#include "batch/json_line.h"
+#include "files/start_folder.h"
+#include "web/font_text.h"
+#include "web/page_port.h"
+#include "web/stb_picture_files.h"
+
+namespace zerimo::web {
+
+PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile)
+    : canvas_(std::make_unique<FontText>(fontFile), std::make_unique<StbPictureFiles>()),
+      services_([this] { screen_.Show(); }),
+      watch_([this] { screen_.Show(); }),
+      form1_(screen, Folders(AppFolderName(std::filesystem::current_path())), services_, watch_, canvas_),
+      screen_(form1_, canvas_) {
+  screen_.Describe();
+}
+
+void PageShell::Deliver(const std::function<void(Form1& form1)>& event) {
+  if (hasEnded_) return;
+  // A wish that came too late to stop the last run.
+  TakeStop();
+  watch_.Begin();
+  Run(event);
+  screen_.Show();
+}
+
+void PageShell::Run(const std::function<void(Form1& form1)>& event) {
+  try {
+    event(form1_);
+  } catch (const StopRun&) {
+    // Nothing of the handler is left to do.
+  } catch (const Ended& ended) {
+    End(ended.By);
+  } catch (const std::exception& failure) {
+    form1_.RescueEditorText();
+    End(failure.what());
+  }
+}
+
+void PageShell::Open(const std::string& systemPath) {
+  Deliver([&](Form1& form1) {
+    services_.OfferFile(systemPath);
+    form1.interpreter.dispatch.Execute("SHOW OPEN");
+  });
+}
+
+void PageShell::End(const std::string& by) {
+  hasEnded_ = true;
+  TellPage("[" + batch::JsonLine("ended").Text("by", by).Finished() + "]");
+}
+
+}  // namespace zerimo::web
