@@ -193,7 +193,7 @@ void RemoveLeftovers(const fs::path& folder) {
   }
 }
 
-void LetLargeWritesFail() {
+void LetLargeWritesFail() noexcept {
 #ifdef SIGXFSZ
   std::signal(SIGXFSZ, SIG_IGN);
 #endif

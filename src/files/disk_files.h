@@ -25,6 +25,6 @@ bool CanWriteInto(const std::filesystem::path& folder);
 
 /// From now on a write beyond the user's limit of a file's size fails, and so can be reported; without this the
 /// operating system ends the program.
-void LetLargeWritesFail();
+void LetLargeWritesFail() noexcept;
 
 }  // namespace zerimo
