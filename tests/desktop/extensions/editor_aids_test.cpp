@@ -137,8 +137,9 @@ TEST_F(EditorAidsTest, ColouringIsNoChangeOfTheText) {
   WriteFile("MINE.ZRM", "TO A\rFD 10\rEND\r");
   Enter("load mine");
   const std::string loaded = FormControls().Text2.Text;
+  EXPECT_NE(loaded, "");
   Enter("edit");
-  LeaveEditor();
+  Settle();
   EXPECT_EQ(FormControls().Text2.Text, loaded);
 }
 
