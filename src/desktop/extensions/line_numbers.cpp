@@ -55,8 +55,9 @@ void LineNumbers::paintEvent(QPaintEvent* event) {
   QTextBlock line = editor_.firstVisibleBlock();
   QRectF place = editor_.blockBoundingGeometry(line).translated(editor_.contentOffset());
   while (line.isValid() && place.top() <= event->rect().bottom()) {
-    const QRectF number(0, place.top(), width() - EdgeDistance, place.height());
-    painter.drawText(number, Qt::AlignRight | Qt::AlignVCenter, QString::number(line.blockNumber() + 1));
+    // The last line is as high as the page's margin makes it.
+    const QRectF number(0, place.top(), width() - EdgeDistance, painter.fontMetrics().height());
+    painter.drawText(number, Qt::AlignRight | Qt::AlignTop, QString::number(line.blockNumber() + 1));
     line = line.next();
     place = editor_.blockBoundingGeometry(line).translated(editor_.contentOffset());
   }
