@@ -51,7 +51,7 @@ double PartInside(const Surface& surface, const Line& line) {
       if (from < 0 || from > most) last = first;
       return;
     }
-    const auto [near, far] = std::minmax((0 - from) / (to - from), (most - from) / (to - from));
+    const auto [near, far] = std::minmax({(0 - from) / (to - from), (most - from) / (to - from)});
     first = std::max(first, near);
     last = std::min(last, far);
   };

@@ -19,14 +19,17 @@ class SpeedTest : public ExtensionsTest {
   void Space() { QTest::keyClick(&Row(0), Qt::Key_Space); }
   QListView& Lines() { return WidgetAs<QListView>(FormControls().List1); }
 
-  /// Enters a line and steps through it; returns what the chip says before each step.
+  /// Enters a line whose steps all differ, and steps through it; returns what the chip says before each step.
   std::vector<std::string> Steps(const char* line) {
     std::vector<std::string> steps;
     Choose(Qt::Key_4);
     QTimer stepper;
     QObject::connect(&stepper, &QTimer::timeout, [&] {
       if (!session->Running().IsRunning()) return;
-      steps.push_back(Chip().text().toStdString());
+      const std::string told = Chip().text().toStdString();
+      // The step that the last Space asked for is still on its way.
+      if (!steps.empty() && steps.back() == told) return;
+      steps.push_back(told);
       marked.push_back(Lines().currentIndex().row());
       Space();
     });
