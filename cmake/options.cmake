@@ -11,16 +11,19 @@ if(ZERIMO_CCACHE)
   endif()
 endif()
 
-add_library(zerimo_options INTERFACE)
+add_library(zerimo_warnings INTERFACE)
 if(MSVC)
   # Sources are UTF-8, and min and max are not macros.
-  target_compile_options(zerimo_options INTERFACE /W4 /utf-8)
-  target_compile_definitions(zerimo_options INTERFACE NOMINMAX)
+  target_compile_options(zerimo_warnings INTERFACE /W4 /utf-8)
+  target_compile_definitions(zerimo_warnings INTERFACE NOMINMAX)
 else()
-  target_compile_options(zerimo_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+  target_compile_options(zerimo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 endif()
 # GCC 12 warns wrongly about "text" + std::string in optimised builds.
-target_compile_options(zerimo_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_compile_options(zerimo_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+
+add_library(zerimo_options INTERFACE)
+target_link_libraries(zerimo_options INTERFACE zerimo_warnings)
 target_include_directories(zerimo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 if(APPLE)

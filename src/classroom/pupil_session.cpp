@@ -32,7 +32,7 @@ class Reason : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Whether a file of a folder is, or lies behind, a link to another place; never where there is no folder.
+/// Whether a file of a folder is a link, or is reached through one, to another place; never where there is no folder.
 bool LeadsOutOf(const fs::path& folder, const fs::path& file) {
   const bool isOfFolder = std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
   return !folder.empty() && isOfFolder && !Disk::Confined(folder, folder).MayRead(file);

@@ -42,7 +42,7 @@ std::optional<double> Perform(char op, double left, double right) {
   return ThroughText(result);
 }
 
-/// The passes over one side of a condition, or over an expression.
+/// Works out one side of a condition, or an expression.
 class Evaluation {
  public:
   explicit Evaluation(const OperandSource& source) : source_(source) {}

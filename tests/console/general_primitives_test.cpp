@@ -141,7 +141,7 @@ class TwoInputsOf : public GeneralPrimitivesTest, public testing::WithParamInter
 
 TEST_P(TwoInputsOf, GoToABox) { EXPECT_EQ(BoxesOf(GetParam().Line), (Texts{GetParam().Box})); }
 
-INSTANTIATE_TEST_SUITE_P(Reckoning, TwoInputsOf,
+INSTANTIATE_TEST_SUITE_P(Results, TwoInputsOf,
                          testing::Values(TwoInputs{"SUM 1 2", "3"}, TwoInputs{"SUM 1 2.5", "3"},
                                          TwoInputs{"SUM 1 3.5", "5"}, TwoInputs{"SUM .25 0", ".25"},
                                          TwoInputs{"SUM 1 40000", "1"}, TwoInputs{"SUM", "0"},

@@ -40,8 +40,9 @@ within() {
   done
 }
 
+# Without -noreset the display would drop a client that comes while the last other one leaves.
 start_display() {
-  Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" 3>"$work/display" 2>/dev/null &
+  Xvfb -displayfd 3 -noreset -screen 0 "${width}x${height}x24" 3>"$work/display" 2>/dev/null &
   started+=($!)
   within 20 test -s "$work/display" || fail "the display does not start"
   DISPLAY=:$(cat "$work/display")

@@ -40,9 +40,10 @@ within() {
   done
 }
 
-# A display for the windows that are started from now on.
+# A display for the windows that are started from now on. Without -noreset it would drop a client that comes while the
+# last other one leaves.
 start_display() {
-  Xvfb -displayfd 3 -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
+  Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
   display=$!
   within 30 test -s "$work/display" || fail "the display does not start"
   DISPLAY=:$(cat "$work/display")

@@ -18,7 +18,7 @@ class PenWalk {
 
   void Take(const Statement& statement, bool isCall) {
     const QString word = statement.Word();
-    // Nobody knows what a procedure, a jump or a condition leaves behind.
+    // After a call, a jump or a condition the pen's state is unknown.
     if (isCall || word == "LABEL" || word == "IF" || word == "ELSE" || word == "ENDIF") return Begin();
     if (word == "PU" || word == "PENUP") pen_ = Pen::Up;
     if (word == "PD" || word == "PENDOWN") pen_ = Pen::Down;
