@@ -14,13 +14,14 @@
 /// Bytes that this program has asked for: a copy of a text asks for as many as it is long.
 static std::size_t bytesAskedFor = 0;
 
-void* operator new(std::size_t size) {
+// Where only one of the two is inlined, a compiler sees memory that is freed in another way than it was asked for.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   bytesAskedFor += size;
   if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;
   throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace zerimo {
 namespace {
