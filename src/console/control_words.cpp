@@ -40,7 +40,7 @@ constexpr std::array<ControlWords, 33> WordsOfControls = {{
     {"Label8", "Preview of the pen color", "", ""},
     {"Label9", "Preview of the back color", "", ""},
     {"Picture2", "Palette", "Sixteen colours, and Apply. Drag it by its title.", ""},
-    {"Label13", "Colour square %1",
+    {"Label13", "Colour",
      "Space chooses the pen, with Ctrl the background, with Shift the text, with both the background of the text.",
      "Pen: left button. Background: right button. With Shift: the colours of the text."},
     {"Label14", "Apply", "Carries out the command of the palette.", ""},

@@ -1,6 +1,7 @@
 #include "desktop/control_view.h"
 
 #include <QPalette>
+#include <QVariant>
 #include <cmath>
 
 #include "desktop/desktop_text.h"
@@ -9,6 +10,9 @@
 namespace zerimo {
 
 namespace {
+
+constexpr double EasyContrast = 7;
+constexpr Colour Black = 0x000000;
 
 int Pixels(float units) { return static_cast<int>(std::lround(units / UnitsPerPixel)); }
 
@@ -30,6 +34,22 @@ void ControlView::Sync(const Room& room) {
 }
 
 QRect ControlView::Place(const Room&) const { return InPixels(source_); }
+
+QFont ReadingFont(const QWidget& widget, double points, bool bold) {
+  const QVariant percent = widget.window()->property(LetterPercent);
+  return ControlFont(percent.isValid() ? points * percent.toInt() / 100 : points, bold);
+}
+
+void ShowTextColours(QWidget& widget, Colour background, Colour text) {
+  const auto contrast = [&] { return Contrast(ToQColor(background), ToQColor(text)); };
+  if (widget.window()->property(EasyToRead).toBool() && contrast() < EasyContrast) {
+    text = White;
+    if (contrast() < EasyContrast) text = Black;
+    // On a colour of middle brightness, neither will do.
+    if (contrast() < EasyContrast) background = White;
+  }
+  ShowColours(widget, background, text);
+}
 
 void ShowColours(QWidget& widget, Colour background, Colour text) {
   QPalette palette = widget.palette();

@@ -49,4 +49,14 @@ class ControlView {
 /// Sets a widget's background and text colours unless they are set already.
 void ShowColours(QWidget& widget, Colour background, Colour text);
 
+/// The same for text that the class reads: on a window whose property of this name is true, the colours get a contrast
+/// of at least seven to one. What the control says stays.
+inline constexpr const char* EasyToRead = "easyToRead";
+void ShowTextColours(QWidget& widget, Colour background, Colour text);
+
+/// The font for text that the class reads, by its size in points: as large as the window's property of this name says,
+/// in percent.
+inline constexpr const char* LetterPercent = "letterPercent";
+QFont ReadingFont(const QWidget& widget, double points, bool bold = false);
+
 }  // namespace zerimo

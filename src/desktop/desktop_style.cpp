@@ -22,6 +22,7 @@ class DesktopStyle final : public QProxyStyle {
                 QStyleHintReturn* returned) const override {
     if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_FocusFrame_AboveWidget) return 1;
     return QProxyStyle::styleHint(hint, option, widget, returned);
   }
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {

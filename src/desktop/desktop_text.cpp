@@ -37,6 +37,14 @@ QChar KnownCharacter(QChar character) {
   return twin == PlainTwins.end() ? QChar(u'?') : QChar(twin->Plain);
 }
 
+/// The brightness of a colour as an eye sees it, from 0 to 1.
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
 QString ToQString(std::string_view text) {
@@ -71,6 +79,11 @@ std::string WithCarriageReturns(const QString& text) {
 QColor ToQColor(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
 
 QColor ReadableOn(const QColor& background) { return qGray(background.rgb()) < 112 ? Qt::white : Qt::black; }
+
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
+  return (lighter + 0.05) / (darker + 0.05);
+}
 
 QFont ControlFont(double points, bool bold) {
   QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});

@@ -27,6 +27,8 @@ std::string WithCarriageReturns(const QString& text);
 QColor ToQColor(Colour colour);
 /// Black or white, whichever is easier to read on a background.
 QColor ReadableOn(const QColor& background);
+/// The ratio of the brightness of two colours as the guidelines for web pages define it: 1 to 21.
+double Contrast(const QColor& one, const QColor& other);
 
 /// Arial, or the font with its metrics, in points at 96 dots an inch whatever the display reports: the controls are
 /// placed in such dots too. Never smaller than 13 pixels.

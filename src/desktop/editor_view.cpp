@@ -13,7 +13,6 @@ namespace zerimo {
 namespace {
 
 constexpr QChar ParagraphEnd = QChar(u'\u2029');
-constexpr int CaretWidth = 2;
 /// Stands in for a tab, which the program would lose, joining the words around it.
 const char* const Tab = "  ";
 
@@ -111,9 +110,9 @@ void EditorView::Collect() {
 QRect EditorView::Place(const Room& room) const { return InPixels(Source()).intersected(room.Client); }
 
 void EditorView::SyncLook() {
-  const QFont font = ControlFont(box_.FontSize);
+  const QFont font = ReadingFont(area_, box_.FontSize);
   if (area_.font() != font) area_.setFont(font);
-  ShowColours(area_, box_.BackColor, box_.ForeColor);
+  ShowTextColours(area_, box_.BackColor, box_.ForeColor);
   if (touched_ || box_.Text == shown_) return;
   area_.ReplaceText(WithLineEnds(box_.Text));
   shown_ = box_.Text;

@@ -9,6 +9,9 @@ namespace zerimo {
 /// A text area that admits only characters that the system has.
 class EditorArea : public QPlainTextEdit {
  public:
+  /// In pixels.
+  static constexpr int CaretWidth = 2;
+
   explicit EditorArea(QWidget& parent);
 
   /// Replaces the text in one step that can be undone. The caret keeps its line and column if they still exist.

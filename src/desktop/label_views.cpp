@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "console/control_words.h"
 #include "desktop/desktop_text.h"
 #include "graphics/surface.h"
 
@@ -47,7 +48,10 @@ float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
 }  // namespace
 
 LabelView::LabelView(Label& control, QWidget& parent, Events&)
-    : ControlView(control, *new QLabel(&parent)), label_(control), text_(static_cast<QLabel&>(Widget())) {
+    : ControlView(control, *new QLabel(&parent)),
+      label_(control),
+      text_(static_cast<QLabel&>(Widget())),
+      words_(FindControlWords(control.Name())) {
   text_.setTextFormat(Qt::PlainText);
   text_.setFont(ControlFont(LabelPoints));
   text_.setAutoFillBackground(true);
@@ -56,12 +60,17 @@ LabelView::LabelView(Label& control, QWidget& parent, Events&)
 
 void LabelView::SyncLook() {
   const QString caption = ToQString(label_.Caption);
-  if (text_.text() != caption) {
-    text_.setText(caption);
-    // A control string may be wider than its label.
-    text_.setToolTip(text_.sizeHint().width() > text_.width() ? caption : QString());
-  }
+  if (text_.text() != caption) ShowText(caption);
   ShowColours(text_, label_.BackColor, label_.ForeColor);
+}
+
+void LabelView::ShowText(const QString& caption) {
+  text_.setText(caption);
+  // Of a control string that is wider than its label, the end is shown: where the program is.
+  const bool isWide = text_.sizeHint().width() > text_.width();
+  text_.setAlignment(Qt::AlignVCenter | (isWide ? Qt::AlignRight : Qt::AlignLeft));
+  text_.setToolTip(isWide ? caption : QString());
+  if (words_ != nullptr) text_.setAccessibleName(QLatin1String(words_->Name) + QStringLiteral(": ") + caption);
 }
 
 CaptionView::CaptionView(Label& control, QWidget& parent, Events&)

@@ -7,7 +7,9 @@
 
 namespace zerimo {
 
-/// A line of text.
+struct ControlWords;
+
+/// A line of text. A screen reader is told what the text is about, and the text.
 class LabelView : public ControlView {
  public:
   LabelView(Label& control, QWidget& parent, Events& events);
@@ -16,8 +18,12 @@ class LabelView : public ControlView {
   void SyncLook() override;
 
  private:
+  void ShowText(const QString& caption);
+
   Label& label_;
   QLabel& text_;
+  /// Null if there are none.
+  const ControlWords* words_;
 };
 
 /// A title caption: letters without a background.

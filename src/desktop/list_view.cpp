@@ -83,12 +83,12 @@ QRect ListBoxView::Place(const Room& room) const {
 }
 
 void ListBoxView::SyncLook() {
-  const QFont font = ControlFont(list_.FontSize, list_.FontSize >= BoldFrom);
+  const QFont font = ReadingFont(view_, list_.FontSize, list_.FontSize >= BoldFrom);
   if (view_.font() != font) {
     view_.setFont(font);
     entries_.SetFont(font);
   }
-  ShowColours(view_, list_.BackColor, list_.ForeColor);
+  ShowTextColours(view_, list_.BackColor, list_.ForeColor);
   if (list_.IsOnScreen()) ShowEntries();
 }
 

@@ -57,8 +57,8 @@ class MainWindow : public QWidget {
   void SyncPlace();
   void SyncFocus();
   void FillAvailableArea();
-  /// If no control has the focus, gives it to the one that the learner is looking at, and sends the key there. Returns
-  /// whether it did.
+  /// If no control has the focus, gives it to the one that the learner is looking at, and sends the key there. A letter
+  /// for the text screen goes to the row. Returns whether the key has gone elsewhere.
   bool HandOn(QKeyEvent& press);
   /// The first of these that is on the screen: the editor, the row that had the focus last, the help page, the text
   /// screen, the surface.

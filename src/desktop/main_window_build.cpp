@@ -1,6 +1,7 @@
 #include <QLabel>
 
 #include "console/control_words.h"
+#include "console/status_line.h"
 #include "desktop/action_views.h"
 #include "desktop/desktop_text.h"
 #include "desktop/editor_view.h"
@@ -53,7 +54,10 @@ void MainWindow::Describe(const ControlView& view) {
   const ControlWords* words = FindControlWords(name);
   if (words == nullptr) return;
   QString title = QString::fromLatin1(words->Name);
-  if (title.contains(QLatin1String("%1"))) title = title.arg(IndexInName(name) + 1);
+  const int index = IndexInName(name);
+  // The colours are known by their codes, which count from 0.
+  if (words->Control == "Label13") title = QStringLiteral("%1 %2").arg(index).arg(ToQString(ColourName(index)));
+  if (title.contains(QLatin1String("%1"))) title = title.arg(index + 1);
   widget.setAccessibleName(title);
   widget.setAccessibleDescription(QLatin1String(words->Description));
   widget.setToolTip(QLatin1String(words->ToolTip));

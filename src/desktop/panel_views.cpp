@@ -13,8 +13,6 @@ namespace zerimo {
 namespace {
 
 constexpr double PanelPoints = 9.75;
-/// The height in pixels, that of the palette's title.
-constexpr int CaptionBar = 20;
 constexpr Colour CaptionGround = 0xFF0000;
 constexpr Colour CaptionLetters = 0x00FFFF;
 
@@ -53,13 +51,19 @@ CaptionFrame::CaptionFrame(QWidget& parent, const PanelBox& control) : QFrame(&p
 void CaptionFrame::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);
-  const QRect bar(0, 0, width(), CaptionBar);
+  const QRect bar(0, 0, width(), BarHeight);
   painter.fillRect(bar, ToQColor(CaptionGround));
   painter.setPen(ToQColor(CaptionLetters));
   painter.drawText(bar.adjusted(10, 0, 0, 0), Qt::AlignVCenter, ToQString(panel_.Caption));
 }
 
-QRect FramePanelView::Place(const Room& room) const { return WithinReach(InPixels(Source()), room.Client); }
+QRect FramePanelView::Place(const Room& room) const {
+  QRect place = InPixels(Source()).translated(static_cast<CaptionFrame&>(Widget()).Shift());
+  const QRect& area = place.height() <= room.AboveRows.height() ? room.AboveRows : room.Client;
+  place = WithinReach(place, area);
+  if (place.right() > area.right()) place.moveRight(area.right());
+  return place;
+}
 
 PaletteFrame::PaletteFrame(QWidget& parent, PanelBox& control, Events& events)
     : QFrame(&parent), panel_(control), events_(events) {

@@ -25,16 +25,25 @@ class RowsPanelView : public ControlView {
 /// A panel with its caption in a bar along the upper edge.
 class CaptionFrame : public QFrame {
  public:
+  /// The height of the bar in pixels, that of the palette's title.
+  static constexpr int BarHeight = 20;
+
   CaptionFrame(QWidget& parent, const PanelBox& control);
+
+  /// Where the panel is shown, beside the place that its data says, in pixels.
+  QPoint Shift() const { return shift_; }
+  void SetShift(QPoint shift) { shift_ = shift; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   const PanelBox& panel_;
+  QPoint shift_;
 };
 
-/// `Frame1`, the diagnosis panel.
+/// `Frame1`, the diagnosis panel: above the rows if there is room, and never with its upper right corner, where it is
+/// closed, outside the window.
 class FramePanelView : public ControlView {
  public:
   FramePanelView(PanelBox& control, QWidget& parent, Events&)

@@ -38,6 +38,8 @@ class Session : public Events {
   MainWindow& Shown() { return window_; }
   Stage& Running() { return stage_; }
   FrameWatch& Watch() { return watch_; }
+  DesktopServices& Desktop() { return services_; }
+  const ImageCanvas& Canvas() const { return canvas_; }
 
   void Add(std::unique_ptr<Extension> extension) { extensions_.Add(std::move(extension)); }
 

@@ -35,7 +35,7 @@ class PromptColumn final : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.setPen(ToQColor(box_.ForeColor));
+    painter.setPen(palette().color(QPalette::Text));
     painter.setFont(font());
     QRect line(0, 0, width(), RowDistance + 1);
     for (const QString& text : WithLineEnds(box_.Text).split(QLatin1Char('\n'))) {
@@ -84,7 +84,7 @@ void LineView::SyncLook() {
   const bool isRow = box_.FontSize > 12;
   const QFont font = ControlFont(box_.FontSize, isRow);
   if (edit_.font() != font) edit_.setFont(font);
-  ShowColours(edit_, box_.BackColor, box_.ForeColor);
+  ShowTextColours(edit_, box_.BackColor, box_.ForeColor);
   const QString text = ToQString(box_.Text);
   if (touched_ || edit_.text() == text) return;
   const QSignalBlocker notOfUser(edit_);
@@ -103,7 +103,7 @@ PromptView::PromptView(TextBox& box, QWidget& parent, Events&)
 void PromptView::SyncLook() {
   const QFont font = ControlFont(box_.FontSize, true);
   if (Widget().font() != font) Widget().setFont(font);
-  ShowColours(Widget(), box_.BackColor, box_.ForeColor);
+  ShowTextColours(Widget(), box_.BackColor, box_.ForeColor);
 }
 
 }  // namespace zerimo

@@ -45,6 +45,23 @@ TEST_F(DiagnosisPanelTest, TheControlStringIsShown) {
   EXPECT_EQ(WidgetAs<QLabel>(FormControls().Label19).text().toStdString(), ".");
 }
 
+TEST_F(DiagnosisPanelTest, OfALongControlStringTheEndIsSeen) {
+  auto& text = WidgetAs<QLabel>(FormControls().Label19);
+  EXPECT_TRUE(text.alignment().testFlag(Qt::AlignLeft));
+  FormControls().Label19.Caption = "." + std::string(200, 'X') + "- 12";
+  Shown().Sync();
+  EXPECT_TRUE(text.alignment().testFlag(Qt::AlignRight));
+  EXPECT_EQ(text.toolTip(), text.text());
+  EXPECT_EQ(text.accessibleName(), "Control String: " + text.text());
+}
+
+TEST_F(DiagnosisPanelTest, ItsCloseButtonIsInSightOnASmallScreen) {
+  Shown().setFixedSize(640, 480);
+  const QWidget& panel = WidgetOf(FormControls().Frame1);
+  const QWidget& close = WidgetOf(FormControls().Command1);
+  EXPECT_TRUE(Shown().rect().contains(close.geometry().translated(panel.pos())));
+}
+
 TEST_F(DiagnosisPanelTest, TheListsAreShown) {
   Enter("make a 10");
   auto& list = WidgetAs<QAbstractItemView>(FormControls().List2);

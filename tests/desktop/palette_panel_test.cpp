@@ -122,6 +122,11 @@ TEST_F(PalettePanelTest, TheKeyboardChoosesAndApplies) {
   EXPECT_EQ(System().turtle.PenColor, 7);
 }
 
+TEST_F(PalettePanelTest, AScreenReaderNamesTheSquaresByTheirColours) {
+  EXPECT_EQ(Square(0).accessibleName(), "0 Black");
+  EXPECT_EQ(Square(12).accessibleName(), "12 Light Red");
+}
+
 TEST_F(PalettePanelTest, AScreenReaderPressesASquare) {
   WidgetAs<QAbstractButton>(FormControls().Label13[2]).click();
   EXPECT_EQ(Command(), "Setpc 2");

@@ -3,6 +3,10 @@
 #include "desktop/extensions/editor_aids.h"
 #include "desktop/extensions/gallery.h"
 #include "desktop/extensions/journal.h"
+#include "desktop/extensions/letter_size.h"
+#include "desktop/extensions/panel_drag.h"
+#include "desktop/extensions/picture_keys.h"
+#include "desktop/extensions/projector.h"
 #include "desktop/extensions/recovery.h"
 #include "desktop/extensions/run_chip.h"
 #include "desktop/extensions/speed.h"
@@ -19,7 +23,11 @@ void AddExtensions(Session& session, const std::filesystem::path& folder) {
   session.Add(std::make_unique<Recovery>(session, *journal, folder / "rescued"));
   session.Add(std::move(journal));
   session.Add(std::make_unique<EditorAids>(session));
+  session.Add(std::make_unique<PictureKeys>(session));
   session.Add(std::make_unique<Gallery>(session));
+  session.Add(std::make_unique<Projector>(session));
+  session.Add(std::make_unique<PanelDrag>(session));
+  session.Add(std::make_unique<LetterSize>(session));
 }
 
 }  // namespace zerimo

@@ -1,0 +1,69 @@
+#include "desktop/extensions/picture_keys.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include "base/failure.h"
+#include "desktop/desktop_text.h"
+#include "desktop/file_dialog.h"
+
+namespace zerimo {
+
+namespace {
+
+const char* const Kinds =
+    "PNG picture (*.png);;JPEG picture (*.jpg);;SVG drawing, sharp at any size (*.svg);;BMP picture (*.bmp)";
+
+/// "png" for "PNG picture (*.png)".
+QString EndingIn(const QString& kind) { return kind.section(QLatin1String("*."), 1).chopped(1); }
+
+}  // namespace
+
+PictureKeys::PictureKeys(Session& session)
+    : session_(session),
+      drawn_(session.Canvas()),
+      folder_(
+          QString::fromStdU16String(session.System().folders.ToRead(session.System().folders.AppFolder).u16string())) {
+  // The session ends before its extensions do.
+  session.System().Picture1.AddRecorder(drawn_);
+}
+
+bool PictureKeys::PressKey(const QKeyEvent& press) {
+  if (press.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier)) return false;
+  // During a run, the window keeps the key for later.
+  if (press.key() == Qt::Key_S && !session_.Running().IsRunning()) {
+    session_.Deliver([this](Form1&) { Save(); });
+    return true;
+  }
+  if (press.key() != Qt::Key_C) return false;
+  QGuiApplication::clipboard()->setImage(session_.Canvas().Image().copy(QRect(QPoint(), Size())));
+  return true;
+}
+
+QSize PictureKeys::Size() const { return InPixels(session_.System().Picture1).size(); }
+
+void PictureKeys::Save() {
+  FileDialog dialog(session_.Shown(), QFileDialog::AcceptSave, QStringLiteral("Save the Picture"), folder_,
+                    QLatin1String(Kinds));
+  dialog.setDefaultSuffix(EndingIn(dialog.selectedNameFilter()));
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                   [&dialog](const QString& kind) { dialog.setDefaultSuffix(EndingIn(kind)); });
+  if (session_.Running().Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  folder_ = dialog.directory().absolutePath();
+  Write(dialog.selectedFiles().constFirst());
+}
+
+void PictureKeys::Write(const QString& file) {
+  const Colour background = session_.System().Picture1.BackColor();
+  const bool isWritten = SkipOnFailure([&] {
+    WriteSurface(session_.Canvas(), drawn_, file.toStdU16String(), Size().width(), Size().height(), background);
+  });
+  if (isWritten) return;
+  session_.Desktop().MessageBox(
+      "The picture was not saved in " + ToSystemText(file) +
+          ".\r\rThe name may end with .png, .jpg, .svg or .bmp, and the folder must be one that you may write to.",
+      box::Critical, ProgramName);
+}
+
+}  // namespace zerimo
