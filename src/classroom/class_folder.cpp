@@ -100,7 +100,9 @@ class Walk {
 }  // namespace
 
 std::vector<Pupil> PupilsOf(const fs::path& folder, bool followsLinks) {
-  return Walk(folder, followsLinks).PupilsBelow(folder, {}, 0);
+  std::vector<Pupil> pupils = Walk(folder, followsLinks).PupilsBelow(folder, {}, 0);
+  for (Pupil& pupil : pupils) pupil.Place = pupil.Program.lexically_relative(folder);
+  return pupils;
 }
 
 std::vector<Pupil> PupilsListedIn(const fs::path& list) {
@@ -114,7 +116,7 @@ std::vector<Pupil> PupilsListedIn(const fs::path& list) {
     std::error_code error;
     fs::path session = fs::path(program).replace_extension(".session");
     if (!fs::is_regular_file(session, error)) session.clear();
-    pupils.push_back({program, session});
+    pupils.push_back({program, session, {}, line});
   }
   return pupils;
 }
@@ -130,7 +132,7 @@ void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
   }
   for (Pupil& pupil : pupils) {
     for (const fs::path& key :
-         {pupil.Program.filename(), pupil.Program.stem(), pupil.Program.parent_path().filename()}) {
+         {PlaceOf(pupil), pupil.Program.filename(), pupil.Program.stem(), pupil.Program.parent_path().filename()}) {
       const auto found = names.constFind(Folded(key));
       if (found == names.cend()) continue;
       pupil.Name = *found;

@@ -18,8 +18,8 @@ std::vector<Pupil> PupilsOf(const std::filesystem::path& folder, bool followsLin
 /// The programs that a file lists, one a line, each with the session beside it. Fails as `PupilsOf` does.
 std::vector<Pupil> PupilsListedIn(const std::filesystem::path& list);
 
-/// Names from a table in UTF-8, whose lines are FILE,NAME or FOLDER,NAME; a semicolon will do too. Capitals and the
-/// file's ending are ignored.
+/// Names from a table in UTF-8, whose lines are FILE,NAME or FOLDER,NAME; a semicolon will do too. A file may be named
+/// with its folders. Capitals and the file's ending are ignored.
 void TakeNames(std::vector<Pupil>& pupils, const std::string& table);
 
 }  // namespace zerimo::classroom

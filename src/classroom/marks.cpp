@@ -28,8 +28,8 @@ QByteArray MarksHead() {
 }
 
 QByteArray MarksOf(const PupilRun& run) {
-  return Row({NameOf(run.Who.Program.filename()), PupilName(run.Who), WordOf(run.Went.How),
-              QString::number(PointsOf(run)), QString::number(MostPointsOf(run)), QString::number(run.GoalsMet()),
+  return Row({NameOf(PlaceOf(run.Who)), PupilName(run.Who), WordOf(run.Went.How), QString::number(PointsOf(run)),
+              QString::number(MostPointsOf(run)), QString::number(run.GoalsMet()),
               QString::number(run.Went.Goals.size()), QString::number(run.Went.Findings.size()),
               QString::number(run.Seconds, 'f', 1)});
 }

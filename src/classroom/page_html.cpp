@@ -46,7 +46,7 @@ QString Paragraph(const QString& html) { return Element("p", "", html) + u'\n'; 
 
 QString Heading(const char* words) { return Element("h3", "", QString::fromUtf8(words)) + u'\n'; }
 
-QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(who.Program.filename()) : who.Name; }
+QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(PlaceOf(who)) : who.Name; }
 
 std::optional<QString> PictureSource::Image(const std::filesystem::path& file, const QString& alternative, int width) {
   if (file.empty()) return std::nullopt;

@@ -17,9 +17,16 @@ struct Pupil {
   std::filesystem::path Program;
   /// The session beside it, or empty.
   std::filesystem::path Session;
-  /// What the report calls the pupil; the name of the file if it is empty.
+  /// What the report calls the pupil; the program's place if it is empty.
   QString Name = {};
+  /// Where the program is in its class folder, or as the list says it; the name of the file if it is empty.
+  std::filesystem::path Place = {};
 };
+
+/// A program's place as the reader of a report knows it.
+inline std::filesystem::path PlaceOf(const Pupil& who) {
+  return who.Place.empty() ? who.Program.filename() : who.Place;
+}
 
 /// How a run went.
 enum class Result {

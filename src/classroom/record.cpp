@@ -202,7 +202,7 @@ RunOutcome OutcomeIn(const Json& json) {
 }
 
 Json JsonOf(const PupilRun& run) {
-  Json json = {{"file", ValueOf(NameOf(run.Who.Program.filename()))},
+  Json json = {{"file", ValueOf(NameOf(PlaceOf(run.Who)))},
                {"name", OrNull(run.Who.Name)},
                {"session", OrNull(NameOf(run.Who.Session.filename()))}};
   json.update(JsonOf(run.Went));
@@ -218,7 +218,8 @@ Json JsonOf(const PupilRun& run) {
 
 PupilRun RunIn(const Json& json) {
   PupilRun run;
-  run.Who = {TextAt(json, "file").toStdU16String(), TextAt(json, "session").toStdU16String(), TextAt(json, "name")};
+  const std::filesystem::path place = TextAt(json, "file").toStdU16String();
+  run.Who = {place, TextAt(json, "session").toStdU16String(), TextAt(json, "name"), place};
   run.Went = OutcomeIn(json);
   for (const QString& note : NotesOfFindings(run.Went.Findings)) run.Went.Notes.removeOne(note);
   run.Seconds = NumberAt(json, "seconds");

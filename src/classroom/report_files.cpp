@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 fs::path SummaryFileOf(fs::path report) { return report.replace_extension(".json"); }
 
-fs::path PlaceOf(const char* option, const std::string& name) {
+fs::path WritablePlace(const char* option, const std::string& name) {
   std::error_code error;
   fs::path file = fs::absolute(name, error);
   const fs::path folder = file.parent_path();
@@ -45,9 +45,9 @@ std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
 }  // namespace
 
 ReportFiles::ReportFiles(const ClassOptions& options) : options_(options) {
-  if (!options.Report.empty()) page_ = PlaceOf("--out", options.Report);
-  if (!options.Marks.empty()) PlaceOf("--csv", options.Marks);
-  if (!options.Records.empty()) PlaceOf("--jsonl", options.Records);
+  if (!options.Report.empty()) page_ = WritablePlace("--out", options.Report);
+  if (!options.Marks.empty()) WritablePlace("--csv", options.Marks);
+  if (!options.Records.empty()) WritablePlace("--jsonl", options.Records);
   std::error_code error;
   if (!options.Pupils.empty()) fs::create_directories(options.Pupils, error);
   if (!options.Pupils.empty() && !CanWriteInto(options.Pupils))

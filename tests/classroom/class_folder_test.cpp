@@ -68,26 +68,40 @@ TEST_F(ClassFolderTest, AFolderBelowBelongsToThePupilOfItsName) {
   Temp.Write("Ben Cole/B.ZRM", "");
   Temp.Write(".hidden/C.ZRM", "");
   QStringList names;
-  for (const Pupil& pupil : PupilsOf(Temp.Path)) names.append(pupil.Name);
+  std::vector<fs::path> places;
+  for (const Pupil& pupil : PupilsOf(Temp.Path)) {
+    names.append(pupil.Name);
+    places.push_back(PlaceOf(pupil));
+  }
   EXPECT_EQ(names, (QStringList{"", "Anna Berg", "Ben Cole/A.ZRM", "Ben Cole/B.ZRM"}));
+  EXPECT_EQ(places, (std::vector<fs::path>{"ZOE.ZRM", "Anna Berg/STAR.ZRM", "Ben Cole/A.ZRM", "Ben Cole/B.ZRM"}));
 }
 
 TEST_F(ClassFolderTest, NamesComeFromATable) {
-  std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}}, {"5a/1234/STAR.ZRM", {}}, {"5a/BEN.ZRM", {}}};
-  TakeNames(pupils, "anna,Anna Berg\r\n1234;\"Zoe \"\"Z\"\" Cole\"\nnobody,Nobody\n");
+  std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}},
+                               {"5a/1234/STAR.ZRM", {}},
+                               {"5a/BEN.ZRM", {}},
+                               {"5a/77/A.ZRM", {}, {}, "77/A.ZRM"},
+                               {"5a/77/B.ZRM", {}, {}, "77/B.ZRM"}};
+  TakeNames(pupils,
+            "anna,Anna Berg\r\n1234;\"Zoe \"\"Z\"\" Cole\"\nnobody,Nobody\n77/a.zrm,Ina Dorn\n77/b.zrm,Jan Eck\n");
   EXPECT_EQ(pupils[0].Name, "Anna Berg");
   EXPECT_EQ(pupils[1].Name, "Zoe \"Z\" Cole");
   EXPECT_EQ(pupils[2].Name, "");
+  EXPECT_EQ(pupils[3].Name, "Ina Dorn");
+  EXPECT_EQ(pupils[4].Name, "Jan Eck");
 }
 
 TEST_F(ClassFolderTest, AListNamesPrograms) {
   Make({"ANNA.ZRM", "BEN.ZRM", "BEN.session"});
-  Temp.Write("list", Temp.Path.string() + "/ANNA.ZRM\r\n\n" + Temp.Path.string() + "/BEN.ZRM\n");
+  const std::string ben = Temp.Path.string() + "/./BEN.ZRM";
+  Temp.Write("list", Temp.Path.string() + "/ANNA.ZRM\r\n\n" + ben + "\n");
   const std::vector<Pupil> pupils = PupilsListedIn(Temp.Path / "list");
   ASSERT_EQ(pupils.size(), 2U);
   EXPECT_EQ(pupils[0].Program, Temp.Path / "ANNA.ZRM");
   EXPECT_EQ(pupils[0].Session, fs::path());
-  EXPECT_EQ(pupils[1].Session, Temp.Path / "BEN.session");
+  EXPECT_EQ(pupils[1].Session, Temp.Path / "./BEN.session");
+  EXPECT_EQ(PlaceOf(pupils[1]), fs::path(ben));
 }
 
 TEST_F(ClassFolderTest, ASessionHasTheNameOfItsProgram) {

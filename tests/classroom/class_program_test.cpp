@@ -285,7 +285,8 @@ TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
   const ProgramRun run = Program.Run("--merge 1.jsonl 2.jsonl --out all.html --csv all.csv");
   EXPECT_EQ(run.Errors, "zerimo-batch: 3 programs; the report is all.html\n");
   EXPECT_EQ(run.Status, 0);
-  EXPECT_NE(Program.Read("all.html").find("<a href=\"all-1.html\">A.ZRM \xE2\x80\x93 B.ZRM</a>"), std::string::npos);
+  EXPECT_NE(Program.Read("all.html").find("<a href=\"all-1.html\">class/A.ZRM \xE2\x80\x93 class/B.ZRM</a>"),
+            std::string::npos);
   EXPECT_NE(Program.Read("all-1.html").find("src=\"data:image/png;base64,"), std::string::npos);
   EXPECT_EQ(std::ranges::count(Program.Read("all.csv"), '\n'), 4);
 }
