@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "pictures/image_canvas.h"
+#include <vector>
+
+#include "pixels/pixel_canvas.h"
 
 namespace zerimo {
 
@@ -17,10 +19,26 @@ inline constexpr int Transparent = 1;
 /// The rows of the small canvas.
 inline constexpr int Rows = 96;
 
+/// The rectangle from one corner to the other, both included.
+inline PixelRect Between(int left, int top, int right, int bottom) { return {left, top, right, bottom}; }
+
+inline PixelRect Sized(int left, int top, int columns, int rows) {
+  return {left, top, left + columns - 1, top + rows - 1};
+}
+
+inline bool Holds(const PixelRect& outer, const PixelRect& inner) { return United(outer, inner) == outer; }
+
+/// A copy of all pixels, row after row.
+inline std::vector<Pixel> PixelsOf(const PixelCanvas& canvas) {
+  const PixelBuffer& pixels = canvas.Pixels();
+  return {pixels.Row(0), pixels.Row(0) + pixels.Columns() * pixels.Rows()};
+}
+
 /// A canvas of 96 by 96 pixels in one colour.
-class CanvasTest : public ::testing::Test {
+template <typename Kind>
+class CanvasTestOf : public ::testing::Test {
  protected:
-  CanvasTest() { canvas.Create(96, 96, Ground); }
+  CanvasTestOf() { canvas.Create(96, 96, Ground); }
 
   Colour At(int x, int y) const { return *canvas.ColourAt({1.0 * x, 1.0 * y}); }
 
@@ -34,11 +52,11 @@ class CanvasTest : public ::testing::Test {
   }
 
   /// The rectangle around the pixels that do not have the colour of the ground.
-  QRect Drawn() const {
-    QRect drawn;
+  PixelRect Drawn() const {
+    PixelRect drawn;
     for (int y = 0; y < canvas.Pixels().Rows(); ++y) {
       for (int x = 0; x < canvas.Pixels().Columns(); ++x) {
-        if (At(x, y) != Ground) drawn |= QRect(x, y, 1, 1);
+        if (At(x, y) != Ground) drawn = United(drawn, {x, y, x, y});
       }
     }
     return drawn;
@@ -46,7 +64,14 @@ class CanvasTest : public ::testing::Test {
 
   static Stroke Pen(Colour colour, int width = 1, int drawMode = CopyPen) { return {colour, width, drawMode}; }
 
-  ImageCanvas canvas;
+  Kind canvas;
 };
+
+/// A canvas that prints no text and knows no picture files.
+struct BareCanvas : PixelCanvas {
+  BareCanvas() : PixelCanvas(nullptr, nullptr) {}
+};
+
+using CanvasTest = CanvasTestOf<BareCanvas>;
 
 }  // namespace zerimo

@@ -2,8 +2,10 @@
 
 #include <queue>
 #include <random>
+#include <utility>
+#include <vector>
 
-#include "canvas_fixture.h"
+#include "pixels/canvas_fixture.h"
 
 namespace zerimo {
 
@@ -65,33 +67,35 @@ TEST_F(Floods, NothingHappensBelowTheRows) {
   EXPECT_EQ(Count(Ground), 96 * 96);
 }
 
-/// The same, done in the simplest way.
-QImage FloodedPlainly(QImage image, QPoint at, QRgb fill) {
-  const QRgb old = image.pixel(at);
-  std::queue<QPoint> open({at});
+/// The pixels after a flood that is done in the simplest way.
+std::vector<Pixel> FloodedPlainly(PixelBuffer pixels, int atX, int atY, Pixel fill) {
+  const Pixel old = pixels.Row(atY)[atX];
+  std::queue<std::pair<int, int>> open({{atX, atY}});
   while (!open.empty()) {
-    const QPoint here = open.front();
+    const auto [x, y] = open.front();
     open.pop();
-    if (!image.rect().contains(here) || image.pixel(here) != old || old == fill) continue;
-    image.setPixel(here, fill);
-    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) open.push(here + step);
+    const bool isInside = x >= 0 && x < pixels.Columns() && y >= 0 && y < pixels.Rows();
+    if (!isInside || pixels.Row(y)[x] != old || old == fill) continue;
+    pixels.Row(y)[x] = fill;
+    for (const auto& [right, down] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}}) open.emplace(x + right, y + down);
   }
-  return image;
+  return {pixels.Row(0), pixels.Row(0) + pixels.Columns() * pixels.Rows()};
 }
 
 TEST_F(Floods, AgreeWithThePlainestWayOnRandomPictures) {
   std::mt19937 random(11);
   const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
   for (int round = 0; round < 200; ++round) {
-    ImageCanvas noise;
+    BareCanvas noise;
     noise.Create(37, 29, Ground);
     for (int dot = 0; dot < 37 * 29 * (round % 6) / 10; ++dot) {
       noise.Point(Pen(White), {1.0 * below(37), 1.0 * below(29)});
     }
-    const QPoint at(below(37), below(29));
-    const QImage expected = FloodedPlainly(noise.Image().copy(), at, 0xFF00FF00);
-    noise.FloodFill({1.0 * at.x(), 1.0 * at.y()}, Green, 29);
-    ASSERT_EQ(noise.Image(), expected) << round;
+    const int x = below(37);
+    const int y = below(29);
+    const std::vector<Pixel> expected = FloodedPlainly(noise.Pixels(), x, y, 0xFF00FF00);
+    noise.FloodFill({1.0 * x, 1.0 * y}, Green, 29);
+    ASSERT_EQ(PixelsOf(noise), expected) << round;
   }
 }
 
@@ -107,7 +111,7 @@ class LargeFloods : public ::testing::Test {
 
   static constexpr int Width = 3840;
   static constexpr int Height = 2160;
-  ImageCanvas canvas;
+  BareCanvas canvas;
 };
 
 TEST_F(LargeFloods, OfTheWholeSurface) {

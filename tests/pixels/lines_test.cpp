@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "canvas_fixture.h"
+#include "pixels/canvas_fixture.h"
 
 namespace zerimo {
 
@@ -27,7 +27,7 @@ TEST_F(Lines, ALineOfOnePointIsOnePixel) {
 TEST_F(Lines, ALevelLineHasOnePixelAColumn) {
   canvas.Line(Pen(White), {10, 20}, {70, 45});
   EXPECT_EQ(Count(White), 61);
-  EXPECT_EQ(Drawn(), QRect(QPoint(10, 20), QPoint(70, 45)));
+  EXPECT_EQ(Drawn(), Between(10, 20, 70, 45));
 }
 
 TEST_F(Lines, ASteepLineHasOnePixelARow) {
@@ -57,7 +57,7 @@ TEST_F(Lines, ALevelLineIsAsThickAsItsWidth) {
   for (int width = 1; width <= 20; ++width) {
     canvas.Clear(Ground);
     canvas.Line(Pen(White, width), {40, 48}, {60, 48});
-    EXPECT_EQ(Drawn(), QRect(40 - width / 2, 48 - width / 2, 20 + width, width)) << width;
+    EXPECT_EQ(Drawn(), Sized(40 - width / 2, 48 - width / 2, 20 + width, width)) << width;
   }
 }
 
@@ -65,7 +65,7 @@ TEST_F(Lines, AnUprightLineIsAsThickAsItsWidth) {
   for (int width = 1; width <= 20; ++width) {
     canvas.Clear(Ground);
     canvas.Line(Pen(White, width), {48, 40}, {48, 60});
-    EXPECT_EQ(Drawn(), QRect(48 - width / 2, 40 - width / 2, width, 20 + width)) << width;
+    EXPECT_EQ(Drawn(), Sized(48 - width / 2, 40 - width / 2, width, 20 + width)) << width;
   }
 }
 
@@ -98,7 +98,7 @@ TEST_F(Lines, PointsAreAsWideAsTheStroke) {
   for (int width = 1; width <= 30; ++width) {
     canvas.Clear(Ground);
     canvas.Point(Pen(White, width), {48, 48});
-    EXPECT_EQ(Drawn(), QRect(48 - width / 2, 48 - width / 2, width, width)) << width;
+    EXPECT_EQ(Drawn(), Sized(48 - width / 2, 48 - width / 2, width, width)) << width;
   }
 }
 
@@ -121,11 +121,11 @@ TEST_P(InvertedTwice, LinesLeaveNothing) {
 }
 
 TEST_P(InvertedTwice, EachPixelOfALineIsInvertedOnce) {
-  ImageCanvas copied;
+  BareCanvas copied;
   copied.Create(96, 96, Ground);
   canvas.Line(Pen(Black, GetParam(), Invert), {10, 80}, {83, 33});
   copied.Line(Pen(~Ground & White, GetParam()), {10, 80}, {83, 33});
-  EXPECT_EQ(canvas.Image(), copied.Image());
+  EXPECT_EQ(PixelsOf(canvas), PixelsOf(copied));
 }
 
 TEST_P(InvertedTwice, ShapesLeaveNothing) {
@@ -138,12 +138,12 @@ TEST_P(InvertedTwice, ShapesLeaveNothing) {
 }
 
 TEST_P(InvertedTwice, EachPixelOfAnEllipseIsInvertedOnce) {
-  ImageCanvas copied;
+  BareCanvas copied;
   copied.Create(96, 96, Ground);
   const Colour inverted = ~Ground & White;
   canvas.Ellipse(Pen(Black, GetParam(), Invert), {Red, Solid}, {50, 40}, 37, 29);
   copied.Ellipse(Pen(inverted, GetParam()), {inverted, Solid}, {50, 40}, 37, 29);
-  EXPECT_EQ(canvas.Image(), copied.Image());
+  EXPECT_EQ(PixelsOf(canvas), PixelsOf(copied));
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, InvertedTwice, ::testing::Values(1, 2, 5, 17));

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "canvas_fixture.h"
+#include "pixels/canvas_fixture.h"
 
 namespace zerimo {
 
@@ -27,7 +27,7 @@ class RasterOperations : public ::testing::TestWithParam<Operation> {
   Stroke Pen(int width) const { return {PenColour, width, GetParam().DrawMode}; }
   Colour At(int x, int y) const { return *canvas.ColourAt({1.0 * x, 1.0 * y}); }
 
-  ImageCanvas canvas;
+  BareCanvas canvas;
 };
 
 TEST_P(RasterOperations, OfLinesAndPoints) {
@@ -57,9 +57,7 @@ TEST_P(RasterOperations, OfHatches) {
 TEST_P(RasterOperations, KeepPixelsOpaque) {
   canvas.Box(Pen(2), {0xC08040, 6}, {5, 5}, {34, 34});
   for (int y = 0; y < 40; ++y) {
-    for (int x = 0; x < 40; ++x) {
-      ASSERT_EQ(reinterpret_cast<const QRgb*>(canvas.Image().constScanLine(y))[x] >> 24, 0xFFU);
-    }
+    for (int x = 0; x < 40; ++x) ASSERT_EQ(canvas.Pixels().Row(y)[x] >> 24, 0xFFU);
   }
 }
 

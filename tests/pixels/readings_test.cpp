@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "canvas_fixture.h"
 #include "graphics/surface.h"
+#include "pixels/canvas_fixture.h"
 
 namespace zerimo {
 
@@ -52,20 +52,6 @@ TEST_F(Readings, AFloodEndsAtTheHeightOfTheSurface) {
   EXPECT_EQ(Count(Blue), 96 * 50);
 }
 
-TEST_F(Readings, PrintedTextStaysUntilTheSurfaceIsCleared) {
-  surface.SetCurrentX(300);
-  surface.SetCurrentY(300);
-  surface.SetForeColor(Red);
-  surface.Print("HELLO");
-  const int letters = Count(Red);
-  EXPECT_GT(letters, 0);
-  surface.SetForeColor(Green);
-  surface.Line(0, 1200, 1200, 1200);
-  EXPECT_EQ(Count(Red), letters);
-  surface.Cls();
-  EXPECT_EQ(Count(Ground), 96 * 96);
-}
-
 TEST_F(Readings, OutsideTheCanvasThereIsNoColour) {
   EXPECT_EQ(surface.Point(-15, 0), -1);
   EXPECT_EQ(surface.Point(0, 96 * UnitsPerPixel), -1);
@@ -80,7 +66,7 @@ TEST_F(Readings, ColoursOutsideThreeBytesAreCutToThem) {
 
 TEST_F(Readings, ATurnedRedIsRed) {
   surface.PSet(300, 300, 255);
-  EXPECT_EQ(canvas.Image().pixelColor(20, 20), QColor(255, 0, 0));
+  EXPECT_EQ(canvas.Pixels().Row(20)[20], 0xFFFF0000);
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <utility>
 #include <vector>
 
-#include "canvas_fixture.h"
+#include "pixels/canvas_fixture.h"
 #include "pixels/hatch.h"
 
 namespace zerimo {
@@ -18,26 +20,26 @@ using Ellipses = CanvasTest;
 
 TEST_F(Boxes, CoverBothCorners) {
   canvas.Box(Pen(White), {Red, Solid}, {10, 20}, {40, 60});
-  EXPECT_EQ(Drawn(), QRect(QPoint(10, 20), QPoint(40, 60)));
+  EXPECT_EQ(Drawn(), Between(10, 20, 40, 60));
   EXPECT_EQ(Count(White), 2 * 31 + 2 * 39);
   EXPECT_EQ(Count(Red), 29 * 39);
 }
 
 TEST_F(Boxes, AreTheSameFromAnyCorner) {
   canvas.Box(Pen(White, 3), {Red, 4}, {10, 20}, {40, 60});
-  const QImage first = canvas.Image().copy();
+  const std::vector<Pixel> first = PixelsOf(canvas);
   const std::vector<std::pair<PixelPoint, PixelPoint>> diagonals{
       {{40, 60}, {10, 20}}, {{10, 60}, {40, 20}}, {{40, 20}, {10, 60}}};
   for (const auto& [from, to] : diagonals) {
     canvas.Clear(Ground);
     canvas.Box(Pen(White, 3), {Red, 4}, from, to);
-    EXPECT_EQ(canvas.Image(), first);
+    EXPECT_EQ(PixelsOf(canvas), first);
   }
 }
 
 TEST_F(Boxes, OutlineLiesInsideTheBounds) {
   canvas.Box(Pen(White, 6), {Red, Solid}, {10, 20}, {40, 60});
-  EXPECT_EQ(Drawn(), QRect(QPoint(10, 20), QPoint(40, 60)));
+  EXPECT_EQ(Drawn(), Between(10, 20, 40, 60));
   EXPECT_EQ(Count(Red), (31 - 12) * (41 - 12));
 }
 
@@ -70,12 +72,14 @@ TEST_P(FillStyles, HatchesLeaveWhatIsBelow) {
 
 TEST_P(FillStyles, HatchesOfNeighboursMeet) {
   canvas.Box(Pen(White), {Red, GetParam()}, {0, 0}, {95, 95});
-  ImageCanvas parts;
+  BareCanvas parts;
   parts.Create(96, 96, Ground);
   parts.Box(Pen(White), {Red, GetParam()}, {0, 0}, {50, 95});
   parts.Box(Pen(White), {Red, GetParam()}, {45, 0}, {95, 95});
   EXPECT_EQ(parts.ColourAt({60, 30}), At(60, 30));
-  EXPECT_EQ(parts.Image().copy(51, 1, 40, 90), canvas.Image().copy(51, 1, 40, 90));
+  for (int y = 1; y < 91; ++y) {
+    for (int x = 51; x < 91; ++x) ASSERT_EQ(parts.Pixels().Row(y)[x], canvas.Pixels().Row(y)[x]) << x << "," << y;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FillStyles, ::testing::Range(0, 8));
@@ -121,12 +125,12 @@ INSTANTIATE_TEST_SUITE_P(All, HatchDirections,
 
 TEST_F(Ellipses, FillTheirBounds) {
   canvas.Ellipse(Pen(White), {Red, Solid}, {48, 48}, 30, 20);
-  EXPECT_EQ(Drawn(), QRect(QPoint(18, 28), QPoint(78, 68)));
+  EXPECT_EQ(Drawn(), Between(18, 28, 78, 68));
 }
 
 TEST_F(Ellipses, HalfAPixelCountsAsOne) {
   canvas.Ellipse(Pen(White), {Red, Solid}, {48, 48}, 29.5, 20.49);
-  EXPECT_EQ(Drawn(), QRect(QPoint(18, 28), QPoint(78, 68)));
+  EXPECT_EQ(Drawn(), Between(18, 28, 78, 68));
 }
 
 TEST_F(Ellipses, OfNoSizeAreAPoint) {
@@ -173,14 +177,17 @@ class EllipseSizes : public CanvasTest {
 
 TEST_F(EllipseSizes, AreSymmetrical) {
   ForEach([this](int, int, int) {
-    const QImage part = canvas.Image().copy(0, 0, 95, 95);
-    ASSERT_EQ(part, part.mirrored(true, false));
-    ASSERT_EQ(part, part.mirrored(false, true));
+    const PixelBuffer& pixels = canvas.Pixels();
+    for (int y = 0; y < 95; ++y) {
+      const std::vector<Pixel> row(pixels.Row(y), pixels.Row(y) + 95);
+      ASSERT_TRUE(std::equal(row.begin(), row.end(), row.rbegin())) << y;
+      ASSERT_TRUE(std::equal(row.begin(), row.end(), pixels.Row(94 - y))) << y;
+    }
   });
 }
 
 TEST_F(EllipseSizes, LieInsideTheirBoundsAndReachThem) {
-  ForEach([this](int a, int b, int) { ASSERT_EQ(Drawn(), QRect(QPoint(47 - a, 47 - b), QPoint(47 + a, 47 + b))); });
+  ForEach([this](int a, int b, int) { ASSERT_EQ(Drawn(), Between(47 - a, 47 - b, 47 + a, 47 + b)); });
 }
 
 TEST_F(EllipseSizes, OutlineHoldsAFloodInside) {
@@ -215,12 +222,12 @@ void PrintTo(const Outlined& one, std::ostream* out) {
 class EllipseOutlines : public CanvasTest, public ::testing::WithParamInterface<Outlined> {
  protected:
   /// Whether a pixel outside the ellipse is no farther away than the width.
-  bool IsNearTheOutside(const QImage& ellipse, int x, int y) const {
+  bool IsNearTheOutside(int x, int y) const {
     const int width = GetParam().Width;
     for (int dy = -width; dy <= width; ++dy) {
       for (int dx = -width; dx <= width; ++dx) {
-        const QPoint other(x + dx, y + dy);
-        const bool isOutside = !ellipse.rect().contains(other) || ellipse.pixel(other) == ellipse.pixel(0, 0);
+        const std::optional<Colour> other = canvas.ColourAt({1.0 * (x + dx), 1.0 * (y + dy)});
+        const bool isOutside = !other || other == At(0, 0);
         if (dx * dx + dy * dy <= width * width && isOutside) return true;
       }
     }
@@ -230,11 +237,10 @@ class EllipseOutlines : public CanvasTest, public ::testing::WithParamInterface<
 
 TEST_P(EllipseOutlines, AreAsWideAsTheStrokeEverywhere) {
   canvas.Ellipse(Pen(White, GetParam().Width), {Red, Solid}, {47, 47}, GetParam().A, GetParam().B);
-  const QImage ellipse = canvas.Image().copy();
   for (int y = 0; y < 96; ++y) {
     for (int x = 0; x < 96; ++x) {
       if (At(x, y) == Ground) continue;
-      ASSERT_EQ(At(x, y) == White, IsNearTheOutside(ellipse, x, y)) << x << "," << y;
+      ASSERT_EQ(At(x, y) == White, IsNearTheOutside(x, y)) << x << "," << y;
     }
   }
 }

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "canvas_fixture.h"
+#include "pictures/picture_fixture.h"
 #include "support/failure_of.h"
 #include "support/full_disk.h"
 
@@ -35,7 +35,7 @@ QByteArray SmallGif(int width = 2, int height = 2) {
   return gif;
 }
 
-class PictureFiles : public CanvasTest {
+class PictureFiles : public PictureTest {
  protected:
   std::filesystem::path Path(const char* name) const { return folder.filePath(name).toStdString(); }
 

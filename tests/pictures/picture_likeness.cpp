@@ -1,4 +1,4 @@
-#include "picture_likeness.h"
+#include "pictures/picture_likeness.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "golden.h"
+#include "pictures/golden.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "canvas_fixture.h"
-#include "picture_likeness.h"
+#include "pictures/picture_fixture.h"
+#include "pictures/picture_likeness.h"
 #include "pixels/rgb.h"
 
 namespace zerimo {

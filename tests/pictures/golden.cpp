@@ -1,4 +1,4 @@
-#include "golden.h"
+#include "pictures/golden.h"
 
 #include <QDir>
 #include <QPainter>
@@ -27,7 +27,7 @@ QImage DifferenceOf(const QImage& expected, const QImage& actual) {
 }  // namespace
 
 QImage GoldenPicture(const std::string& name, const QImage& actual) {
-  const QString file = QString::fromStdString(ZERIMO_SOURCE_DIR "/tests/pixels/golden/" + name + ".png");
+  const QString file = QString::fromStdString(ZERIMO_SOURCE_DIR "/tests/pictures/golden/" + name + ".png");
   if (qEnvironmentVariableIsSet("ZERIMO_UPDATE_GOLDEN")) actual.save(file);
   return QImage(file).convertToFormat(QImage::Format_RGB32);
 }

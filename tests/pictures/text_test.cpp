@@ -2,14 +2,15 @@
 
 #include <string>
 
-#include "canvas_fixture.h"
+#include "graphics/surface.h"
+#include "pictures/picture_fixture.h"
 #include "pictures/text_painter.h"
 
 namespace zerimo {
 
 namespace {
 
-class Texts : public CanvasTest {
+class Texts : public PictureTest {
  protected:
   /// The width of a blank at 12 points, in pixels.
   static double BlankWidth() { return TextFont(12).WidthOf(' '); }
@@ -17,11 +18,11 @@ class Texts : public CanvasTest {
 
 TEST_F(Texts, BeginAtTheirTopLeftCorner) {
   canvas.Print("HHH", {20, 30}, 12, White);
-  const QRect drawn = Drawn();
-  EXPECT_GE(drawn.left(), 20);
-  EXPECT_LE(drawn.left(), 23);
-  EXPECT_GE(drawn.top(), 30);
-  EXPECT_LE(drawn.top(), 37);
+  const PixelRect drawn = Drawn();
+  EXPECT_GE(drawn.Left, 20);
+  EXPECT_LE(drawn.Left, 23);
+  EXPECT_GE(drawn.Top, 30);
+  EXPECT_LE(drawn.Top, 37);
 }
 
 TEST_F(Texts, AreNotSmoothed) {
@@ -32,13 +33,14 @@ TEST_F(Texts, AreNotSmoothed) {
 
 TEST_F(Texts, LeaveTheBackgroundBetweenLetters) {
   canvas.Print("O", {20, 20}, 40, White);
-  EXPECT_EQ(At(Drawn().center().x(), Drawn().center().y()), Ground);
+  const PixelRect drawn = Drawn();
+  EXPECT_EQ(At((drawn.Left + drawn.Right) / 2, (drawn.Top + drawn.Bottom) / 2), Ground);
 }
 
 TEST_F(Texts, OfTwelvePointsAreSixteenPixelsHigh) {
   // The height of this font's capitals is 0.716 of its size.
   canvas.Print("H", {20, 20}, 12, White);
-  EXPECT_NEAR(Drawn().height(), 0.716 * 16, 1);
+  EXPECT_NEAR(Drawn().Rows(), 0.716 * 16, 1);
 }
 
 TEST_F(Texts, HaveFractionsOfAPoint) {
@@ -51,10 +53,10 @@ TEST_F(Texts, HaveFractionsOfAPoint) {
 
 TEST_F(Texts, KeepTheirBlanks) {
   canvas.Print("AB", {2, 2}, 12, White);
-  const int together = Drawn().width();
+  const int together = Drawn().Columns();
   canvas.Clear(Ground);
   canvas.Print("A  B", {2, 2}, 12, White);
-  EXPECT_GE(Drawn().width(), together + 6);
+  EXPECT_GE(Drawn().Columns(), together + 6);
 }
 
 TEST_F(Texts, HaveNoLigatures) {
@@ -69,13 +71,13 @@ TEST_F(Texts, HaveNoLigatures) {
 
 TEST_F(Texts, AreCutAtTheEdge) {
   canvas.Print("WWWWWWWWWWWWWWWWWWWWWWWW", {60, 30}, 12, White);
-  EXPECT_EQ(Drawn().right(), 95);
-  EXPECT_LT(Drawn().height(), 20);
+  EXPECT_EQ(Drawn().Right, 95);
+  EXPECT_LT(Drawn().Rows(), 20);
 }
 
 TEST_F(Texts, ThatBeginOutsideShowTheirOtherPart) {
   canvas.Print("WWWWWWWWWWWWWWWWWWWWWWWW", {-100, 30}, 12, White);
-  EXPECT_EQ(Drawn().left(), 0);
+  EXPECT_EQ(Drawn().Left, 0);
 }
 
 TEST_F(Texts, ThatBeginFarOutsideLandOnTheSamePixels) {
@@ -84,6 +86,48 @@ TEST_F(Texts, ThatBeginFarOutsideLandOnTheSamePixels) {
   canvas.Clear(Ground);
   canvas.Print(std::string(1000, ' ') + "abcdefghijklmnopqrstuvwxyz", {-40 - 1000.0 * BlankWidth(), 30}, 12, White);
   EXPECT_EQ(canvas.Image(), all);
+}
+
+TEST_F(Texts, FarOffLeaveTheCanvas) {
+  for (const double far : {40000.0, 3e9, 1e19, 2.2e37}) {
+    canvas.Print("Text", {far, 10}, 12, White);
+    canvas.Print("Text", {10, far}, 12, White);
+    canvas.Print("Text", {-far, -far}, 12, White);
+    EXPECT_EQ(Count(Ground), 96 * 96) << far;
+  }
+}
+
+TEST_F(Texts, LieInTheAreaThatTheyChange) {
+  canvas.TakeDirty();
+  canvas.Print("jgf/WA", {-6, 20}, 30, White);
+  EXPECT_FALSE(Drawn().IsEmpty());
+  EXPECT_TRUE(Holds(canvas.LastChange(), Drawn()));
+  EXPECT_TRUE(Holds(canvas.TakeDirty(), Drawn()));
+}
+
+TEST_F(Texts, OutsideTheCanvasChangeNothing) {
+  canvas.TakeDirty();
+  canvas.Print("Text", {300, 10}, 12, White);
+  EXPECT_TRUE(canvas.TakeDirty().IsEmpty());
+}
+
+TEST_F(Texts, StayUntilTheSurfaceIsCleared) {
+  Surface surface{"Picture1", canvas};
+  surface.Width = 96 * UnitsPerPixel;
+  surface.SetHeight(96 * UnitsPerPixel);
+  surface.CreateCanvas(surface.Width, surface.Height());
+  surface.SetBackColor(Ground);
+  surface.SetCurrentX(300);
+  surface.SetCurrentY(300);
+  surface.SetForeColor(Red);
+  surface.Print("HELLO");
+  const int letters = Count(Red);
+  EXPECT_GT(letters, 0);
+  surface.SetForeColor(Green);
+  surface.Line(0, 1200, 1200, 1200);
+  EXPECT_EQ(Count(Red), letters);
+  surface.Cls();
+  EXPECT_EQ(Count(Ground), 96 * 96);
 }
 
 TEST_F(Texts, HaveLettersBeyondAscii) {

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "canvas_fixture.h"
-#include "golden.h"
-#include "picture_likeness.h"
+#include "pictures/golden.h"
+#include "pictures/picture_fixture.h"
+#include "pictures/picture_likeness.h"
 #include "support/failure_of.h"
 
 namespace zerimo {
