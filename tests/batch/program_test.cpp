@@ -171,9 +171,8 @@ TEST_F(BatchProgramTest, PictureNamesMayHaveLettersBeyondAscii) {
 
 TEST_F(BatchProgramTest, SaysNothingMoreInAPlainLocale) {
   EXPECT_EQ(program.Run("", "@ nothing\n").Errors, "");
-  setenv("LC_ALL", "C", 1);
+  program.Environment["LC_ALL"] = "C";
   EXPECT_EQ(program.Run("", "PRINT 1/4\n").Errors, "");
-  unsetenv("LC_ALL");
 }
 
 }  // namespace

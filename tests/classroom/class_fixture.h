@@ -23,12 +23,7 @@ class ClassTest : public testing::Test {
     const std::filesystem::path runtime = Program.Folder().parent_path() / "runtime";
     std::filesystem::create_directory(runtime);
     std::filesystem::permissions(runtime, std::filesystem::perms::owner_all);
-    setenv("TMPDIR", TemporaryFolder().c_str(), 1);
-    setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
-  }
-  ~ClassTest() override {
-    unsetenv("TMPDIR");
-    unsetenv("XDG_RUNTIME_DIR");
+    Program.Environment = {{"TMPDIR", TemporaryFolder()}, {"XDG_RUNTIME_DIR", runtime}};
   }
 
   std::filesystem::path ClassFolder() const { return Program.Folder() / "class"; }

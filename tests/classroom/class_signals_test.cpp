@@ -40,10 +40,15 @@ bool WaitUntil(Condition&& condition) {
 
 class ClassSignalsTest : public ClassTest {
  protected:
-  void Start(const char* seconds) {
+  using Handler = void (*)(int);
+
+  /// Starts the runner; `hangUp` is what it does at first when its terminal is closed.
+  void Start(const char* seconds, Handler hangUp = SIG_DFL) {
     runner = fork();
     ASSERT_GE(runner, 0);
     if (runner > 0) return;
+    for (const auto& [name, value] : Program.Environment) setenv(name.c_str(), value.c_str(), 1);
+    std::signal(SIGHUP, hangUp);
     const int errors = open((Program.Folder() / "errors").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     dup2(errors, STDERR_FILENO);
     const bool there = chdir(Program.Folder().c_str()) == 0;
@@ -123,9 +128,7 @@ TEST_F(ClassSignalsTest, AProgressThatNobodyReadsStopsNothing) {
 
 TEST_F(ClassSignalsTest, ARunUnderNohupGoesOnWhenTheTerminalIsClosed) {
   Write("A.ZRM", Endless);
-  std::signal(SIGHUP, SIG_IGN);
-  Start("0.5");
-  std::signal(SIGHUP, SIG_DFL);
+  Start("0.5", SIG_IGN);
   ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
   kill(runner, SIGHUP);
   EXPECT_EQ(Wait(), 0);

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 
 namespace zerimo {
@@ -43,11 +44,15 @@ class BatchProgram {
   }
   std::string Read(const std::string& name) const { return BytesOf(Folder() / name); }
 
+  /// What the program's environment has besides that of the tests. No value holds a quote.
+  std::map<std::string, std::string> Environment;
+
   /// `arguments` are words of the shell; `input` is what the program reads.
   ProgramRun Run(const std::string& arguments, const std::string& input = {}) const {
     std::ofstream(outside / "input", std::ios::binary) << input;
-    const std::string command = "cd '" + Folder().string() + "' && '" + executable.string() + "' " + arguments +
-                                " <../input >../output 2>../errors";
+    std::string command = "cd '" + Folder().string() + "' && env ";
+    for (const auto& [name, value] : Environment) command += name + "='" + value + "' ";
+    command += "'" + executable.string() + "' " + arguments + " <../input >../output 2>../errors";
     const int result = std::system(command.c_str());
     return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, BytesOf(outside / "output"), BytesOf(outside / "errors")};
   }
