@@ -19,11 +19,6 @@ bool IsPictureName(std::string_view file) {
   return std::ranges::find(endings, EndingOf(file)) != std::end(endings);
 }
 
-bool IsPageName(std::string_view file) {
-  const std::string name = UpperCase(file);
-  return (name.ends_with(".HTML") && name.size() > 5) || (name.ends_with(".HTM") && name.size() > 4);
-}
-
 bool IsVectorPictureName(std::string_view file) { return EndingOf(file) == ".SVG"; }
 
 }  // namespace zerimo::batch

@@ -32,9 +32,6 @@ struct Settings {
 /// Whether a file name has one of the endings of the pictures that can be written: .png, .bmp, .jpg, .svg in any case.
 bool IsPictureName(std::string_view file);
 
-/// Whether a file name has one of the endings of a page: .html or .htm in any case.
-bool IsPageName(std::string_view file);
-
 /// Whether the picture is written from the recorded operations and not from the pixels.
 bool IsVectorPictureName(std::string_view file);
 

@@ -1,5 +1,6 @@
 #include "classroom/class_options.h"
 
+#include "base/text.h"
 #include "batch/errors.h"
 
 namespace zerimo::classroom {
@@ -27,13 +28,19 @@ constexpr const char* HelpEnd =
     "same name beside it if there is one, and a page about all of them is written.\n"
     "Exit status with --class: 0 the report is written; 1 it can not be written; 2 bad usage; 3 interrupted.\n";
 
+/// Whether a file name has one of the endings of a page: .html or .htm in any case.
+bool IsPageName(std::string_view file) {
+  const std::string name = UpperCase(file);
+  return (name.ends_with(".HTML") && name.size() > 5) || (name.ends_with(".HTM") && name.size() > 4);
+}
+
 void TakeFolder(ClassOptions& options, const std::string& value) {
   if (value.empty()) Refuse("--class", value, "a folder is wanted");
   options.Folder = value;
 }
 
 void TakeReport(ClassOptions& options, const std::string& value) {
-  if (!batch::IsPageName(value)) Refuse("--out", value, "a file name ending in .html or .htm is wanted");
+  if (!IsPageName(value)) Refuse("--out", value, "a file name ending in .html or .htm is wanted");
   options.Report = value;
 }
 

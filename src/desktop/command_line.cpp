@@ -22,25 +22,26 @@ int ScaleFrom(const std::string& text) {
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
   CommandLine line;
-  int files = 0;
-  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-    if (*argument == "--classic") {
+  for (std::size_t at = 0; at < arguments.size(); ++at) {
+    const std::string& argument = arguments[at];
+    if (argument == "--classic") {
       line.Classic = true;
-    } else if (*argument == "--scale") {
-      if (++argument != arguments.end()) line.Scale = ScaleFrom(*argument);
+    } else if (argument == "--scale") {
+      if (++at < arguments.size()) line.Scale = ScaleFrom(arguments[at]);
       if (line.Scale != 0) continue;
       line.Refusal = "--scale needs a number from 50 to 400, in percent";
       return line;
-    } else if (argument->empty()) {
+    } else if (argument.empty()) {
       line.Refusal = "the name of the file is empty";
       return line;
-    } else if (argument->front() == '-') {
-      line.Refusal =
-          *argument + ": there are only the options --classic and --scale; the name of one file can be given";
+    } else if (argument.front() == '-') {
+      line.Refusal = argument + ": there are only the options --classic and --scale; the name of one file can be given";
       return line;
-    } else if (++files > 1) {
+    } else if (line.File) {
       line.Refusal = "only one file can be opened";
       return line;
+    } else {
+      line.File = at;
     }
   }
   return line;

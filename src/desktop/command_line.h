@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +15,8 @@ struct CommandLine {
   bool Classic = false;
   /// "--scale PERCENT", from 50 to 400; 0 if not given.
   int Scale = 0;
+  /// Which argument, counted from 0, names the file to open. Only the toolkit knows how to decode it.
+  std::optional<std::size_t> File;
 };
 
 /// Reads the arguments after the program's name.

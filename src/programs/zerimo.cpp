@@ -51,16 +51,10 @@ std::string WordsAbout(const StartFolder& start) {
 }
 
 /// The absolute path of the file to open, or the empty path.
-fs::path FileToOpen() {
-  const QStringList arguments = QCoreApplication::arguments();
-  for (qsizetype i = 1; i < arguments.size(); ++i) {
-    if (arguments.at(i) == QLatin1String("--scale")) {
-      ++i;
-    } else if (!arguments.at(i).startsWith(QLatin1Char('-'))) {
-      return fs::absolute(DiskPath(arguments.at(i)));
-    }
-  }
-  return {};
+fs::path FileToOpen(const CommandLine& line) {
+  if (!line.File) return {};
+  const auto place = static_cast<qsizetype>(*line.File) + 1;
+  return fs::absolute(DiskPath(QCoreApplication::arguments().at(place)));
 }
 
 void SetScale(int percent) { qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0)); }
@@ -89,7 +83,7 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
   const QTemporaryDir settings;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   SetDesktopStyle();
-  const fs::path file = FileToOpen();
+  const fs::path file = FileToOpen(line);
   const StartFolder start = PrepareStartFolder(LookAround());
   const Disk disk(start.IsCurrentFolder ? start.Folder : fs::path());
   const fs::path state = DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
