@@ -18,21 +18,21 @@ BatchSession::BatchSession(const Settings& settings, Canvas& canvas, Journal& jo
       writePicture_(std::move(pictureWriter)),
       watch_(settings.Steps, settings.Seconds, settings.Ticks),
       services_(journal_, watch_, settings.Sleep),
-      form_(settings.Screen, Folders(settings.AppFolder, disk), services_, watch_, canvas),
+      form1(settings.Screen, Folders(settings.AppFolder, disk), services_, watch_, canvas),
       trace_(journal_),
       memory_(settings.Memory) {
   if (settings.Output > 0) journal_.Limit(static_cast<std::uintmax_t>(settings.Output) << 20);
-  form_.controls.List4.OnChange = [this](const std::string* item) {
+  form1.controls.List4.OnChange = [this](const std::string* item) {
     if (item != nullptr) {
-      journal_.ListAdd(form_.controls.List4.Name(), *item);
+      journal_.ListAdd(form1.controls.List4.Name(), *item);
     } else {
-      journal_.ListClear(form_.controls.List4.Name());
+      journal_.ListClear(form1.controls.List4.Name());
     }
   };
-  form_.controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
+  form1.controls.Form1.OnCaption = [this](const std::string& text) { journal_.Caption(text); };
 }
 
-Script BatchSession::Read(std::string_view utf8) { return ReadSession(utf8, form_); }
+Script BatchSession::Read(std::string_view utf8) { return ReadSession(utf8, form1); }
 
 Outcome BatchSession::Run(std::string_view utf8) {
   try {
@@ -64,7 +64,7 @@ Outcome BatchSession::RunToTheEnd(const Script& script) {
     journal_.Stopped("memory");
     return {Ending::Stopped, "stopped by the limit of memory", currentLine_, "memory"};
   } catch (const Failure& failure) {
-    form_.RescueEditorText();
+    form1.RescueEditorText();
     journal_.EndedByFailure(failure.what());
     return {Ending::Failed, std::string("ended by a failure: ") + failure.what(), currentLine_};
   } catch (const SessionError& error) {
@@ -75,7 +75,7 @@ Outcome BatchSession::RunToTheEnd(const Script& script) {
 void BatchSession::RunSteps(const Script& script) {
   const MemoryLimit limit(memory_);
   watch_.StartClock();
-  Deliver([this] { form_.Load(); });
+  Deliver([this] { form1.Load(); });
   for (const SessionStep& step : script) {
     currentLine_ = step.Line;
     std::visit([this](const auto& act) { Do(act); }, step.Act);
@@ -86,25 +86,25 @@ void BatchSession::RunSteps(const Script& script) {
 void BatchSession::Deliver(const std::function<void()>& event) {
   watch_.BeginEvent();
   event();
-  Timer& timer2 = form_.controls.Timer2;
+  Timer& timer2 = form1.controls.Timer2;
   if (!timer2.Enabled) return;
   watch_.BeginEvent();
-  form_.Tick(timer2);
+  form1.Tick(timer2);
 }
 
 int BatchSession::RowWithFocus() {
-  const Control* const focus = form_.controls.Focus.Focus();
-  for (int row = 0; row < form_.controls.Text1.Size; ++row) {
-    if (focus == &form_.controls.Text1[row]) return row;
+  const Control* const focus = form1.controls.Focus.Focus();
+  for (int row = 0; row < form1.controls.Text1.Size; ++row) {
+    if (focus == &form1.controls.Text1[row]) return row;
   }
   return 0;
 }
 
-void BatchSession::PressEnter(int row) { Do(action::PressKey{&form_.controls.Text1[row], key::Enter}); }
+void BatchSession::PressEnter(int row) { Do(action::PressKey{&form1.controls.Text1[row], key::Enter}); }
 
 void BatchSession::Do(const action::TypeLine& act) {
   const int row = RowWithFocus();
-  form_.controls.Text1[row].Text = act.Text;
+  form1.controls.Text1[row].Text = act.Text;
   PressEnter(row);
 }
 
@@ -114,63 +114,63 @@ void BatchSession::Do(const action::EnterRow& act) {
     return;
   }
   // A hidden row can't have the focus, but Enter works on it all the same.
-  SkipOnFailure([&] { form_.controls.Focus.SetFocus(form_.controls.Text1[act.Row]); });
+  SkipOnFailure([&] { form1.controls.Focus.SetFocus(form1.controls.Text1[act.Row]); });
   PressEnter(act.Row);
 }
 
-void BatchSession::Do(const action::SetRow& act) { form_.controls.Text1[act.Row].Text = act.Text; }
+void BatchSession::Do(const action::SetRow& act) { form1.controls.Text1[act.Row].Text = act.Text; }
 
 void BatchSession::Do(const action::TypeOver& act) {
   act.Box->Text = act.Text;
-  Deliver([&] { form_.Change(*act.Box); });
+  Deliver([&] { form1.Change(*act.Box); });
 }
 
 void BatchSession::Do(const action::PressKey& act) {
-  for (int row = 0; row < form_.controls.Text1.Size; ++row) {
-    const TextBox& box = form_.controls.Text1[row];
+  for (int row = 0; row < form1.controls.Text1.Size; ++row) {
+    const TextBox& box = form1.controls.Text1[row];
     if (act.Target == &box && act.KeyCode == key::Enter) journal_.Typed(row, box.Text);
   }
-  Deliver([&] { form_.KeyDown(*act.Target, act.KeyCode); });
+  Deliver([&] { form1.KeyDown(*act.Target, act.KeyCode); });
 }
 
 void BatchSession::Do(const action::Click& act) {
-  Deliver([&] { form_.Click(*act.Target); });
+  Deliver([&] { form1.Click(*act.Target); });
 }
 
 void BatchSession::Do(const action::MoveMouse& act) {
-  Deliver([&] { form_.MouseMove(*act.Target, act.X, act.Y); });
+  Deliver([&] { form1.MouseMove(*act.Target, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::PressMouse& act) {
-  Deliver([&] { form_.MouseDown(*act.Target, act.Button, act.Shift, act.X, act.Y); });
+  Deliver([&] { form1.MouseDown(*act.Target, act.Button, act.Shift, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::Drop& act) {
-  Deliver([&] { form_.DragDrop(*act.Source, act.X, act.Y); });
+  Deliver([&] { form1.DragDrop(*act.Source, act.X, act.Y); });
 }
 
 void BatchSession::Do(const action::Scroll& act) {
   act.Bar->Value = act.Value;
-  Deliver([&] { form_.Change(*act.Bar); });
+  Deliver([&] { form1.Change(*act.Bar); });
 }
 
 void BatchSession::Do(const action::SelectEntry& act) {
-  FileListBox& files = form_.controls.File1;
+  FileListBox& files = form1.controls.File1;
   const bool isFile = act.List == &files;
-  const std::vector<std::string>& entries = isFile ? files.Items : form_.controls.List4.Items();
+  const std::vector<std::string>& entries = isFile ? files.Items : form1.controls.List4.Items();
   if (std::ranges::find(entries, act.Entry) == entries.end()) {
     throw SessionError(currentLine_, ToUtf8(act.List->Name() + " has no entry " + act.Entry));
   }
   if (isFile) {
     files.FileName = act.Entry;
-    Deliver([&] { form_.MouseDown(files, MouseButton::Left, false, 0, 0); });
+    Deliver([&] { form1.MouseDown(files, MouseButton::Left, false, 0, 0); });
   }
-  Deliver([&] { form_.Click(*act.List); });
+  Deliver([&] { form1.Click(*act.List); });
 }
 
 void BatchSession::Do(const action::Tick& act) {
   for (int tick = 0; tick < act.Times && act.Ticking->Enabled; ++tick) {
-    Deliver([&] { form_.Tick(*act.Ticking); });
+    Deliver([&] { form1.Tick(*act.Ticking); });
   }
 }
 
@@ -189,18 +189,18 @@ void BatchSession::Do(const action::AnswerDialog& act) {
 }
 
 void BatchSession::Do(const action::Trace& act) {
-  form_.Picture1.RemoveRecorder(trace_);
-  if (act.On) form_.Picture1.AddRecorder(trace_);
+  form1.Picture1.RemoveRecorder(trace_);
+  if (act.On) form1.Picture1.AddRecorder(trace_);
 }
 
-void BatchSession::Do(const action::Dump& act) { journal_.Write(DumpOf(form_, act.What)); }
+void BatchSession::Do(const action::Dump& act) { journal_.Write(DumpOf(form1, act.What)); }
 
 void BatchSession::Do(const action::DumpControl& act) { journal_.Write(DumpOf(act)); }
 
 void BatchSession::Do(const action::WritePicture& act) {
   if (!writePicture_) return;
   try {
-    writePicture_(form_.Picture1, act.File);
+    writePicture_(form1.Picture1, act.File);
   } catch (const std::exception&) {
     throw SessionError(currentLine_, ToUtf8(act.File) + " can not be written");
   }

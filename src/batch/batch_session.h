@@ -49,8 +49,6 @@ class BatchSession {
   /// Reads and runs; a mistake in the session gives an outcome too.
   Outcome Run(std::string_view utf8);
 
-  Form1& System() { return form_; }
-
   /// The line of the session being carried out; 0 before the first.
   int CurrentLine() const { return currentLine_; }
 
@@ -90,7 +88,11 @@ class BatchSession {
   PictureWriter writePicture_;
   BatchWatch watch_;
   BatchServices services_;
-  Form1 form_;
+
+ public:
+  Form1 form1;
+
+ private:
   SurfaceTrace trace_;
   int memory_;
   int currentLine_ = 0;

@@ -11,41 +11,41 @@ using NumberedTexts = std::vector<std::pair<int, std::string>>;
 
 JsonLine DumpEvent(const char* what) { return JsonLine("dump").Text("what", what); }
 
-JsonLine DumpStore(const Form1& form) {
+JsonLine DumpStore(const Form1& form1) {
   std::vector<std::string> lines;
-  for (int number = 1; number <= Store::LineCount && !form.interpreter.store.Line(number).empty(); ++number) {
-    lines.push_back(form.interpreter.store.Line(number));
+  for (int number = 1; number <= Store::LineCount && !form1.interpreter.store.Line(number).empty(); ++number) {
+    lines.push_back(form1.interpreter.store.Line(number));
   }
   return DumpEvent("store").Texts("lines", lines);
 }
 
-JsonLine DumpStoreAll(const Form1& form) {
+JsonLine DumpStoreAll(const Form1& form1) {
   NumberedTexts lines;
   for (int number = 1; number <= Store::LineCount; ++number) {
-    if (!form.interpreter.store.Line(number).empty()) lines.emplace_back(number, form.interpreter.store.Line(number));
+    if (!form1.interpreter.store.Line(number).empty()) lines.emplace_back(number, form1.interpreter.store.Line(number));
   }
   return DumpEvent("storeall").TextsByNumber("lines", lines);
 }
 
-JsonLine DumpVariables(const Form1& form) {
+JsonLine DumpVariables(const Form1& form1) {
   NumberedTexts slots;
   for (int number = 1; number <= Variables::SlotCount; ++number) {
-    if (!form.interpreter.variables.Slot(number).empty())
-      slots.emplace_back(number, form.interpreter.variables.Slot(number));
+    if (!form1.interpreter.variables.Slot(number).empty())
+      slots.emplace_back(number, form1.interpreter.variables.Slot(number));
   }
   return DumpEvent("variables").TextsByNumber("slots", slots);
 }
 
-void AppendInterpreter(JsonLine& event, const Form1& form) {
-  event.Text("CtrlStr", form.interpreter.controlPath.CtrlStr())
-      .Text("CurProcName", form.interpreter.controlPath.CurProcName)
-      .Number("FileDataCount", form.interpreter.store.FileDataCount)
-      .Flag("DetailsOn", form.interpreter.dispatch.DetailsOn)
-      .Number("TempProcNo", form.interpreter.typedLines.TempProcNo)
-      .Number("OverflowCount", form.interpreter.dispatch.OverflowCount)
-      .Text("LastTypedLine", form.interpreter.typedLines.LastTypedLine)
-      .Text("RepeatCounterName", form.interpreter.lowering.RepeatCounterName)
-      .Text("RepeatLabelName", form.interpreter.lowering.RepeatLabelName);
+void AppendInterpreter(JsonLine& event, const Form1& form1) {
+  event.Text("CtrlStr", form1.interpreter.controlPath.CtrlStr())
+      .Text("CurProcName", form1.interpreter.controlPath.CurProcName)
+      .Number("FileDataCount", form1.interpreter.store.FileDataCount)
+      .Flag("DetailsOn", form1.interpreter.dispatch.DetailsOn)
+      .Number("TempProcNo", form1.interpreter.typedLines.TempProcNo)
+      .Number("OverflowCount", form1.interpreter.dispatch.OverflowCount)
+      .Text("LastTypedLine", form1.interpreter.typedLines.LastTypedLine)
+      .Text("RepeatCounterName", form1.interpreter.lowering.RepeatCounterName)
+      .Text("RepeatLabelName", form1.interpreter.lowering.RepeatLabelName);
 }
 
 void AppendTurtle(JsonLine& event, const Turtle& turtle) {
@@ -59,16 +59,16 @@ void AppendTurtle(JsonLine& event, const Turtle& turtle) {
       .Number("BGColor", turtle.BGColor);
 }
 
-JsonLine DumpState(const Form1& form) {
+JsonLine DumpState(const Form1& form1) {
   JsonLine event = DumpEvent("state");
-  AppendInterpreter(event, form);
-  AppendTurtle(event, form.turtle);
-  const Control* const focus = form.controls.Focus.Focus();
-  event.Flag("CoordinatesOn", form.graphics.palette.CoordinatesOn)
-      .Text("CurrentFileName", form.files.programFiles.CurrentFileName)
-      .Text("SlideBaseName", form.files.pictures.SlideBaseName)
-      .Number("SlideCounter", form.files.pictures.SlideCounter)
-      .Text("SlideFileName", form.files.pictures.SlideFileName)
+  AppendInterpreter(event, form1);
+  AppendTurtle(event, form1.turtle);
+  const Control* const focus = form1.controls.Focus.Focus();
+  event.Flag("CoordinatesOn", form1.graphics.palette.CoordinatesOn)
+      .Text("CurrentFileName", form1.files.programFiles.CurrentFileName)
+      .Text("SlideBaseName", form1.files.pictures.SlideBaseName)
+      .Number("SlideCounter", form1.files.pictures.SlideCounter)
+      .Text("SlideFileName", form1.files.pictures.SlideFileName)
       .Text("Focus", focus == nullptr ? std::string() : focus->Name());
   return event;
 }
@@ -83,18 +83,18 @@ constexpr std::array<const char*, 30> PropertyOrder = {
 
 }  // namespace
 
-JsonLine DumpOf(const Form1& form, action::DumpKind what) {
+JsonLine DumpOf(const Form1& form1, action::DumpKind what) {
   switch (what) {
     case action::DumpKind::Store:
-      return DumpStore(form);
+      return DumpStore(form1);
     case action::DumpKind::StoreAll:
-      return DumpStoreAll(form);
+      return DumpStoreAll(form1);
     case action::DumpKind::Variables:
-      return DumpVariables(form);
+      return DumpVariables(form1);
     case action::DumpKind::State:
       break;
   }
-  return DumpState(form);
+  return DumpState(form1);
 }
 
 JsonLine DumpOf(const action::DumpControl& control) {

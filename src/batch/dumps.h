@@ -7,7 +7,7 @@
 namespace zerimo::batch {
 
 /// The `dump` events.
-JsonLine DumpOf(const Form1& form, action::DumpKind what);
+JsonLine DumpOf(const Form1& form1, action::DumpKind what);
 JsonLine DumpOf(const action::DumpControl& control);
 
 }  // namespace zerimo::batch

@@ -61,7 +61,7 @@ class Program {
   int RunScript(BatchSession& session, const std::string& bytes) {
     try {
       const Script script = session.Read(bytes);
-      if (WantsOperations(script)) pictures_.KeepOperations(session.System().Picture1);
+      if (WantsOperations(script)) pictures_.KeepOperations(session.form1.Picture1);
       return Close(session, session.Run(script));
     } catch (const SessionError& error) {
       return ComplainAt(error.Line, error.what());
@@ -89,7 +89,7 @@ class Program {
   bool WritePicture(BatchSession& session) const {
     if (options_.PictureFile.empty()) return true;
     try {
-      pictures_.Write(session.System().Picture1, options_.PictureFile);
+      pictures_.Write(session.form1.Picture1, options_.PictureFile);
       return true;
     } catch (const std::exception&) {
       return false;

@@ -102,7 +102,7 @@ std::string WithoutEscapes(std::string_view text) {
 /// Turns the words of one directive into an action.
 class DirectiveReader {
  public:
-  DirectiveReader(Form1& form, std::string_view text, int line) : form_(form), words_(text, line) {}
+  DirectiveReader(Form1& form1, std::string_view text, int line) : form1_(form1), words_(text, line) {}
 
   SessionAction Enter() {
     if (!words_.HasMore()) return action::EnterRow{action::EnterRow::RowWithFocus};
@@ -116,7 +116,7 @@ class DirectiveReader {
 
   SessionAction TypeOver() {
     Control& control = AnyControl();
-    const std::array<TextBox*, 3> boxes = {&form_.controls.Text2, &form_.controls.Text3, &form_.controls.Text4};
+    const std::array<TextBox*, 3> boxes = {&form1_.controls.Text2, &form1_.controls.Text3, &form1_.controls.Text4};
     for (TextBox* const box : boxes) {
       if (box == &control) return action::TypeOver{box, WithoutEscapes(words_.Text())};
     }
@@ -159,7 +159,7 @@ class DirectiveReader {
 
   SessionAction Select() {
     Control& control = AnyControl();
-    if (&control != &form_.controls.File1 && &control != &form_.controls.List4) {
+    if (&control != &form1_.controls.File1 && &control != &form1_.controls.List4) {
       words_.Fail(control.Name() + " has no entries to select; File1 and List4 have");
     }
     return action::SelectEntry{&control, words_.Text()};
@@ -167,7 +167,7 @@ class DirectiveReader {
 
   SessionAction Tick() {
     const std::string name(words_.Word("the timer"));
-    Timer* const timer = form_.FindTimer(name);
+    Timer* const timer = form1_.FindTimer(name);
     if (timer == nullptr) words_.Fail("there is no timer " + name);
     const int times = words_.HasMore() ? words_.Number("number of ticks", 1, std::numeric_limits<int>::max()) : 1;
     return action::Tick{timer, times};
@@ -213,7 +213,7 @@ class DirectiveReader {
 
   Control& AnyControl() {
     const std::string name(words_.Word("the control"));
-    Control* const control = form_.FindControl(name);
+    Control* const control = form1_.FindControl(name);
     if (control == nullptr) words_.Fail("there is no control " + name);
     return *control;
   }
@@ -239,12 +239,12 @@ class DirectiveReader {
 
   SessionAction DumpControl() {
     const std::string name(words_.Word("the control"));
-    const action::DumpControl dump{form_.FindControl(name), form_.FindTimer(name)};
+    const action::DumpControl dump{form1_.FindControl(name), form1_.FindTimer(name)};
     if (dump.Shown == nullptr && dump.Ticking == nullptr) words_.Fail("there is no control " + name);
     return dump;
   }
 
-  Form1& form_;
+  Form1& form1_;
   DirectiveWords words_;
 };
 
@@ -273,21 +273,21 @@ constexpr std::array<Directive, 16> Directives = {{
 }};
 
 /// The action of a line that begins with `@`, or nothing for a comment.
-std::optional<SessionAction> ReadDirective(std::string_view text, int line, Form1& form) {
+std::optional<SessionAction> ReadDirective(std::string_view text, int line, Form1& form1) {
   const std::string_view name = text.substr(1, text.find(' ') - 1);
   if (name.empty()) return std::nullopt;
   const Directive* const directive = Find(Directives, name);
   if (directive == nullptr)
     throw SessionError(line, "there is no directive " + ToUtf8(text.substr(0, name.size() + 1)));
-  DirectiveReader reader(form, text.substr(1 + name.size()), line);
+  DirectiveReader reader(form1, text.substr(1 + name.size()), line);
   SessionAction act = (reader.*directive->Read)();
   reader.NothingLeft();
   return act;
 }
 
-std::optional<SessionAction> ReadLine(std::string_view text, int line, Form1& form) {
+std::optional<SessionAction> ReadLine(std::string_view text, int line, Form1& form1) {
   if (text.find_first_not_of(' ') == std::string_view::npos) return std::nullopt;
-  if (text.front() == '@') return ReadDirective(text, line, form);
+  if (text.front() == '@') return ReadDirective(text, line, form1);
   return action::TypeLine{std::string(text)};
 }
 
@@ -301,7 +301,7 @@ std::string Decoded(std::string_view utf8, int line) {
 
 }  // namespace
 
-Script ReadSession(std::string_view utf8, Form1& form) {
+Script ReadSession(std::string_view utf8, Form1& form1) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (utf8.starts_with(byteOrderMark)) utf8.remove_prefix(byteOrderMark.size());
   Script script;
@@ -309,7 +309,7 @@ Script ReadSession(std::string_view utf8, Form1& form) {
     const std::size_t length = std::min(utf8.find('\n'), utf8.size());
     std::string text = Decoded(utf8.substr(0, length), line);
     if (text.ends_with('\r')) text.pop_back();
-    if (std::optional<SessionAction> act = ReadLine(text, line, form)) script.push_back({line, std::move(*act)});
+    if (std::optional<SessionAction> act = ReadLine(text, line, form1)) script.push_back({line, std::move(*act)});
     utf8.remove_prefix(std::min(length + 1, utf8.size()));
   }
   return script;

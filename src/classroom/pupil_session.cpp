@@ -180,7 +180,7 @@ void PupilSession::RunMain() {
 }
 
 void PupilSession::AddSource(SessionRun& run) {
-  ProgramSource source(TextOfProgram(program_), run.System().interpreter.store);
+  ProgramSource source(TextOfProgram(program_), run.form1.interpreter.store);
   outcome_.Where.ProgramLine = source.LineOf(run.StoreLine());
   outcome_.Source = std::move(source.Lines);
   outcome_.SourceIsCut = source.IsCut;

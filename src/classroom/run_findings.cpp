@@ -32,14 +32,14 @@ void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings)
   const Said told = run.Told();
   const DrawingRecorder& recorder = run.Recorder();
   const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
-  const bool showsSlides = !run.System().files.pictures.SlideBaseName.empty();
+  const bool showsSlides = !run.form1.files.pictures.SlideBaseName.empty();
   if (!recorder.HasDrawn() && isSilent && !showsSlides) {
-    const bool isUp = run.System().turtle.PenState == PenPosition::Up;
+    const bool isUp = run.form1.turtle.PenState == PenPosition::Up;
     findings.push_back({isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn, 0, {}});
   }
-  const bool isUnderTheTitle = recorder.LeavesBand(run.System().Picture1, TitleIsClearFrom, TitleIsClearTo);
-  if (isUnderTheTitle && run.System().controls.Image1.Visible()) findings.push_back({Mistake::UnderTheTitle, 0, {}});
-  if (recorder.PartOutside(run.System().Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
+  const bool isUnderTheTitle = recorder.LeavesBand(run.form1.Picture1, TitleIsClearFrom, TitleIsClearTo);
+  if (isUnderTheTitle && run.form1.controls.Image1.Visible()) findings.push_back({Mistake::UnderTheTitle, 0, {}});
+  if (recorder.PartOutside(run.form1.Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
   if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
   const RunOutcome& went = run.Went();
   if (went.How == Result::Stopped && went.By != "memory")

@@ -45,15 +45,15 @@ SessionRun::SessionRun(const Order& order, const fs::path& transcript)
       transcriptName_(transcript),
       transcriptFile_(transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
-      system_(
+      session_(
           SettingsOf(order), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {},
           Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {
-  System().Picture1.AddRecorder(recorder_);
+  form1.Picture1.AddRecorder(recorder_);
 }
 
 void SessionRun::Run(const Play& play) {
   try {
-    Tell(system_.Run(ScriptOf(play)), play);
+    Tell(session_.Run(ScriptOf(play)), play);
   } catch (const batch::SessionError& error) {
     Tell({batch::Ending::Refused, error.what(), error.Line}, play);
   }
@@ -62,7 +62,7 @@ void SessionRun::Run(const Play& play) {
 }
 
 batch::Script SessionRun::ScriptOf(const Play& play) {
-  if (play.Typed.empty()) return system_.Read(play.Session);
+  if (play.Typed.empty()) return session_.Read(play.Session);
   batch::Script script;
   for (const std::string& line : play.Typed)
     script.push_back({static_cast<int>(script.size()) + 1, batch::action::TypeLine{line}});
@@ -103,15 +103,14 @@ StopPlace SessionRun::PlaceOfLine(int line, const Play& play) {
 }
 
 StopPlace SessionRun::WhereItStands(int line, const Play& play) {
-  const Form1& form = System();
   StopPlace place = PlaceOfLine(line, play);
-  if (form.interpreter.controlPath.CtrlStr() == ".") return place;
-  SkipOnFailure([&] { place.Procedure = FromLatin1(form.interpreter.controlPath.CurrentProcedureName()); });
+  if (form1.interpreter.controlPath.CtrlStr() == ".") return place;
+  SkipOnFailure([&] { place.Procedure = FromLatin1(form1.interpreter.controlPath.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
   SkipOnFailure([&] {
-    storeLine_ = EndValExtractor(form.interpreter.controlPath.CtrlStr());
-    place.Statement = StatementOf(form.interpreter.store.Line(storeLine_));
+    storeLine_ = EndValExtractor(form1.interpreter.controlPath.CtrlStr());
+    place.Statement = StatementOf(form1.interpreter.store.Line(storeLine_));
   });
   return place;
 }
@@ -120,6 +119,6 @@ Said SessionRun::Told() const {
   return SaidIn(QByteArray::fromStdString(BytesOf(transcriptName_).value_or(std::string())));
 }
 
-void SessionRun::WritePicture(const fs::path& file) { pictures_.Write(System().Picture1, file); }
+void SessionRun::WritePicture(const fs::path& file) { pictures_.Write(form1.Picture1, file); }
 
 }  // namespace zerimo::classroom

@@ -38,7 +38,6 @@ class SessionRun {
   const DrawingRecorder& Recorder() const { return recorder_; }
   /// What was said, from the transcript.
   Said Told() const;
-  Form1& System() { return system_.System(); }
   /// The line of the store where it was stopped, or 0.
   int StoreLine() const { return storeLine_; }
 
@@ -58,10 +57,13 @@ class SessionRun {
   std::ostream transcript_{&transcriptFile_};
   batch::Journal journal_{&transcript_, nullptr};
   batch::PictureOutput pictures_;
-  batch::BatchSession system_;
+  batch::BatchSession session_;
   DrawingRecorder recorder_;
   RunOutcome outcome_;
   int storeLine_ = 0;
+
+ public:
+  Form1& form1 = session_.form1;
 };
 
 }  // namespace zerimo::classroom

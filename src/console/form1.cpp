@@ -14,10 +14,10 @@ constexpr float BottomStrip = 400;
 
 }  // namespace
 
-Form1::Form1(ScreenSize screen, Folders places, Services& services, Watch& watch, Canvas& canvas)
+Form1::Form1(ScreenSize screen, Folders givenFolders, Services& services, Watch& watch, Canvas& canvas)
     : controls(screen),
       Picture1("Picture1", canvas),
-      folders(std::move(places)),
+      folders(std::move(givenFolders)),
       interpreter({services, watch, controls, turtle}),
       graphics(Drawing(services)),
       files({interpreter, controls, services, folders}, Picture1),

@@ -19,7 +19,7 @@ namespace zerimo {
 /// with `Failure` (nothing caught it: the system has ended), `Ended` or `Stopped`; the shell ends the system then.
 class Form1 {
  public:
-  Form1(ScreenSize screen, Folders folders, Services& services, Watch& watch, Canvas& canvas);
+  Form1(ScreenSize screen, Folders givenFolders, Services& services, Watch& watch, Canvas& canvas);
 
   /// The load event: must be called once, before any other event.
   void Load();

@@ -24,17 +24,17 @@ Session::Session(const QRect& available, const Folders& folders, std::vector<std
     : stage_(extensions_),
       services_(stage_, QString::fromStdU16String(folders.ToRead(folders.AppFolder).u16string())),
       watch_(stage_),
-      form1_(UnitsOf(available), folders, services_, watch_, canvas_),
-      window_(form1_, canvas_, *this, available),
+      form1(UnitsOf(available), folders, services_, watch_, canvas_),
+      window_(form1, canvas_, *this, available),
       timers_(
-          form1_.controls, [this](Timer& timer) { Deliver([&](Form1& form1) { form1.Tick(timer); }); },
+          form1.controls, [this](Timer& timer) { Deliver([&](Form1&) { form1.Tick(timer); }); },
           [this] { return stage_.IsRunning(); }),
-      rescue_(form1_, extensions_, stage_, std::move(rescuePlaces)) {
+      rescue_(form1, extensions_, stage_, std::move(rescuePlaces)) {
   stage_.Open(window_, [this] { ShowState(); });
 }
 
 void Session::Start() {
-  Deliver([](Form1& form1) { form1.Load(); });
+  Deliver([this](Form1&) { form1.Load(); });
   if (hasEnded_) return;
   window_.show();
   // Without a window manager, nothing else gives a new window the keyboard.
@@ -43,19 +43,19 @@ void Session::Start() {
 
 void Session::Greet(const std::string& words, const std::filesystem::path& file) {
   if (words.empty() && file.empty()) return;
-  WhenStarted([this, words, file](Form1& form1) {
+  WhenStarted([this, words, file](Form1&) {
     if (!words.empty()) services_.MessageBox(words, box::Critical, ProgramName);
-    if (!file.empty()) OpenFile(form1, file);
+    if (!file.empty()) OpenFile(file);
   });
 }
 
 void Session::WhenStarted(const std::function<void(Form1& form1)>& event) {
   // The start ends with the tick that gives row 0 the focus.
-  if (!stage_.IsRunning() && !form1_.controls.Timer2.Enabled) return Deliver(event);
+  if (!stage_.IsRunning() && !form1.controls.Timer2.Enabled) return Deliver(event);
   QTimer::singleShot(1, &window_, [this, event] { WhenStarted(event); });
 }
 
-void Session::OpenFile(Form1& form1, const std::filesystem::path& file) {
+void Session::OpenFile(const std::filesystem::path& file) {
   const std::string name = Folders::ToSystem(std::filesystem::absolute(file));
   std::error_code error;
   // `LOAD` reports a missing program, but the system has no message for a missing picture.
@@ -67,7 +67,7 @@ void Session::OpenFile(Form1& form1, const std::filesystem::path& file) {
   form1.interpreter.dispatch.Execute("SHOW OPEN");
 }
 
-void Session::Deliver(const std::function<void(Form1& form1_)>& event) {
+void Session::Deliver(const std::function<void(Form1& form1)>& event) {
   if (hasEnded_ || stage_.IsRunning()) return;
   stage_.BeginRun();
   watch_.Begin();
@@ -82,7 +82,7 @@ void Session::Deliver(const std::function<void(Form1& form1_)>& event) {
 
 void Session::Run(const std::function<void(Form1& form1)>& event) {
   try {
-    event(form1_);
+    event(form1);
   } catch (const StopRun&) {
     // Nothing of the handler is left to do.
   } catch (const Ended& end) {

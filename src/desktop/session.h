@@ -34,7 +34,6 @@ class Session : public Events {
 
   bool HasEnded() const { return hasEnded_; }
   int ExitStatus() const { return exitStatus_; }
-  Form1& System() { return form1_; }
   MainWindow& Shown() { return window_; }
   Stage& Running() { return stage_; }
   FrameWatch& Watch() { return watch_; }
@@ -46,12 +45,12 @@ class Session : public Events {
   /// Delivers an event as soon as the system has started and nothing runs.
   void WhenStarted(const std::function<void(Form1& form1)>& event);
 
-  void Deliver(const std::function<void(Form1& form1_)>& event) override;
+  void Deliver(const std::function<void(Form1& form1)>& event) override;
   bool Close() override;
 
  private:
-  void Run(const std::function<void(Form1& form1_)>& event);
-  void OpenFile(Form1& form1, const std::filesystem::path& file);
+  void Run(const std::function<void(Form1& form1)>& event);
+  void OpenFile(const std::filesystem::path& file);
   void ShowState();
   void TellFailure(const char* words);
   void End(int status, SessionEnd end);
@@ -61,7 +60,11 @@ class Session : public Events {
   Stage stage_;
   DesktopServices services_;
   FrameWatch watch_;
-  Form1 form1_;
+
+ public:
+  Form1 form1;
+
+ private:
   MainWindow window_;
   DesktopTimers timers_;
   LastRescue rescue_;

@@ -14,7 +14,7 @@ namespace {
 /// Calls `act(form1, control)` as an event, if there is such a control.
 template <typename Act>
 void On(PageShell& shell, const char* name, Act&& act) {
-  Control* const control = shell.System().FindControl(name);
+  Control* const control = shell.form1.FindControl(name);
   if (control == nullptr) return;
   shell.Deliver([&](Form1& form1) { act(form1, *control); });
 }
@@ -33,17 +33,17 @@ EMSCRIPTEN_KEEPALIVE void Load(PageShell* shell) {
 
 /// Puts what the user has changed into the control; no event of its own.
 EMSCRIPTEN_KEEPALIVE void PutText(PageShell* shell, const char* name, const char* text) {
-  auto* const box = dynamic_cast<TextBox*>(shell->System().FindControl(name));
+  auto* const box = dynamic_cast<TextBox*>(shell->form1.FindControl(name));
   if (box != nullptr) box->Text = batch::FromUtf8(text);
 }
 
 EMSCRIPTEN_KEEPALIVE void PutEntry(PageShell* shell, const char* name, const char* entry) {
-  auto* const list = dynamic_cast<FileListBox*>(shell->System().FindControl(name));
+  auto* const list = dynamic_cast<FileListBox*>(shell->form1.FindControl(name));
   if (list != nullptr) list->FileName = batch::FromUtf8(entry);
 }
 
 EMSCRIPTEN_KEEPALIVE void PutValue(PageShell* shell, const char* name, int value) {
-  auto* const bar = dynamic_cast<ScrollBar*>(shell->System().FindControl(name));
+  auto* const bar = dynamic_cast<ScrollBar*>(shell->form1.FindControl(name));
   if (bar != nullptr) bar->Value = value;
 }
 
@@ -83,7 +83,7 @@ EMSCRIPTEN_KEEPALIVE void Drop(PageShell* shell, const char* name, float x, floa
 }
 
 EMSCRIPTEN_KEEPALIVE void Tick(PageShell* shell, const char* name) {
-  Timer* const timer = shell->System().FindTimer(name);
+  Timer* const timer = shell->form1.FindTimer(name);
   if (timer != nullptr) shell->Deliver([&](Form1& form1) { form1.Tick(*timer); });
 }
 

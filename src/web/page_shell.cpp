@@ -17,8 +17,8 @@ PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile)
     : canvas_(std::make_unique<FontText>(fontFile), std::make_unique<StbPictureFiles>()),
       services_([this] { screen_.Show(); }),
       watch_([this] { screen_.Show(); }),
-      form1_(screen, Folders(AppFolderName(std::filesystem::current_path())), services_, watch_, canvas_),
-      screen_(form1_, canvas_) {
+      form1(screen, Folders(AppFolderName(std::filesystem::current_path())), services_, watch_, canvas_),
+      screen_(form1, canvas_) {
   screen_.Describe();
 }
 
@@ -33,19 +33,19 @@ void PageShell::Deliver(const std::function<void(Form1& form1)>& event) {
 
 void PageShell::Run(const std::function<void(Form1& form1)>& event) {
   try {
-    event(form1_);
+    event(form1);
   } catch (const StopRun&) {
     // Nothing of the handler is left to do.
   } catch (const Ended& ended) {
     End(ended.By);
   } catch (const std::exception& failure) {
-    form1_.RescueEditorText();
+    form1.RescueEditorText();
     End(failure.what());
   }
 }
 
 void PageShell::Open(const std::string& systemPath) {
-  Deliver([&](Form1& form1) {
+  Deliver([&](Form1&) {
     services_.OfferFile(systemPath);
     form1.interpreter.dispatch.Execute("SHOW OPEN");
   });

@@ -16,8 +16,6 @@ class PageShell {
   /// Works in the current folder, where `font.ttf` is the font of printed text.
   PageShell(ScreenSize screen, const std::filesystem::path& fontFile);
 
-  Form1& System() { return form1_; }
-
   /// Runs a handler of the system and shows what it has left. Does nothing once the system has ended.
   void Deliver(const std::function<void(Form1& form1)>& event);
 
@@ -31,7 +29,11 @@ class PageShell {
   PixelCanvas canvas_;
   PageServices services_;
   PageWatch watch_;
-  Form1 form1_;
+
+ public:
+  Form1 form1;
+
+ private:
   PageScreen screen_;
   bool hasEnded_ = false;
 };

@@ -18,7 +18,7 @@ using Lines = std::vector<std::string>;
 struct After : InMemorySession {
   explicit After(const std::string& script, const Settings& settings = {}) : InMemorySession(settings) { Run(script); }
 
-  Form1& Form() { return Session.System(); }
+  Form1& Form() { return Session.form1; }
   Controls& FormControls() { return Form().controls; }
   std::string Focus() {
     const Control* const focus = FormControls().Focus.Focus();

@@ -9,41 +9,41 @@ namespace {
 
 class DumpsTest : public testing::Test {
  protected:
-  DumpsTest() { form.Load(); }
+  DumpsTest() { form1.Load(); }
 
   std::string Control(const std::string& name) {
-    return DumpOf(action::DumpControl{form.FindControl(name), form.FindTimer(name)}).Finished();
+    return DumpOf(action::DumpControl{form1.FindControl(name), form1.FindTimer(name)}).Finished();
   }
 
   InMemorySession world;
-  Form1& form = world.Session.System();
+  Form1& form1 = world.Session.form1;
 };
 
 TEST_F(DumpsTest, StoreEndsAtTheFirstEmptyLine) {
-  form.interpreter.store.SetLine(1, "TO A");
-  form.interpreter.store.SetLine(2, "END");
-  form.interpreter.store.SetLine(4, "STALE");
-  EXPECT_EQ(DumpOf(form, action::DumpKind::Store).Finished(),
+  form1.interpreter.store.SetLine(1, "TO A");
+  form1.interpreter.store.SetLine(2, "END");
+  form1.interpreter.store.SetLine(4, "STALE");
+  EXPECT_EQ(DumpOf(form1, action::DumpKind::Store).Finished(),
             R"({"event":"dump","what":"store","lines":["TO A","END"]})");
 }
 
 TEST_F(DumpsTest, StoreAllHasEveryLineThatIsNotEmpty) {
-  form.interpreter.store.SetLine(1, "TO A");
-  form.interpreter.store.SetLine(2000, "STALE");
-  EXPECT_EQ(DumpOf(form, action::DumpKind::StoreAll).Finished(),
+  form1.interpreter.store.SetLine(1, "TO A");
+  form1.interpreter.store.SetLine(2000, "STALE");
+  EXPECT_EQ(DumpOf(form1, action::DumpKind::StoreAll).Finished(),
             R"({"event":"dump","what":"storeall","lines":{"1":"TO A","2000":"STALE"}})");
 }
 
 TEST_F(DumpsTest, VariablesHaveTheirSlots) {
-  form.interpreter.variables.SetSlot(1, "X=5");
-  form.interpreter.variables.SetSlot(2, " ");
-  form.interpreter.variables.SetSlot(500, "A.:N=1");
-  EXPECT_EQ(DumpOf(form, action::DumpKind::Variables).Finished(),
+  form1.interpreter.variables.SetSlot(1, "X=5");
+  form1.interpreter.variables.SetSlot(2, " ");
+  form1.interpreter.variables.SetSlot(500, "A.:N=1");
+  EXPECT_EQ(DumpOf(form1, action::DumpKind::Variables).Finished(),
             R"({"event":"dump","what":"variables","slots":{"1":"X=5","2":" ","500":"A.:N=1"}})");
 }
 
 TEST_F(DumpsTest, StateHasItsKeysInOrder) {
-  EXPECT_EQ(DumpOf(form, action::DumpKind::State).Finished(),
+  EXPECT_EQ(DumpOf(form1, action::DumpKind::State).Finished(),
             R"({"event":"dump","what":"state","CtrlStr":".","CurProcName":"","FileDataCount":0,"DetailsOn":false,)"
             R"("TempProcNo":0,"OverflowCount":0,"LastTypedLine":"","RepeatCounterName":"","RepeatLabelName":"",)"
             R"("TurtleX":7680,"TurtleY":5760,"TurtleDir":0,"Resolution":50,"FenceMode":1,"PenState":1,"PenColor":15,)"
@@ -52,12 +52,12 @@ TEST_F(DumpsTest, StateHasItsKeysInOrder) {
 }
 
 TEST_F(DumpsTest, FocusIsTheNameOfTheControlThatHasIt) {
-  form.controls.Focus.SetFocus(form.controls.Text1[2]);
-  EXPECT_TRUE(DumpOf(form, action::DumpKind::State).Finished().ends_with(R"json("Focus":"Text1(2)"})json"));
+  form1.controls.Focus.SetFocus(form1.controls.Text1[2]);
+  EXPECT_TRUE(DumpOf(form1, action::DumpKind::State).Finished().ends_with(R"json("Focus":"Text1(2)"})json"));
 }
 
 TEST_F(DumpsTest, TextBoxHasItsProperties) {
-  form.controls.Text1[1].Text = "FD 10";
+  form1.controls.Text1[1].Text = "FD 10";
   EXPECT_EQ(
       Control("Text1(1)"),
       R"json({"event":"dump","what":"control","name":"Text1(1)","Visible":true,"Left":240,"Top":360,)json"
@@ -82,13 +82,13 @@ TEST_F(DumpsTest, LightLineHasItsEnds) {
 }
 
 TEST_F(DumpsTest, ListHasItsItems) {
-  form.controls.List4.Add("?FD 10");
+  form1.controls.List4.Add("?FD 10");
   EXPECT_NE(Control("List4").find(R"("Items":["?FD 10"],"BackColor")"), std::string::npos);
 }
 
 TEST_F(DumpsTest, FileListHasItsNameBeforeItsPath) {
-  form.controls.File1.FileName = "FD";
-  form.controls.File1.Path = "ZMHELP\\";
+  form1.controls.File1.FileName = "FD";
+  form1.controls.File1.Path = "ZMHELP\\";
   EXPECT_TRUE(Control("File1").ends_with(R"("Items":[],"FileName":"FD","Path":"ZMHELP\\"})"));
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 class SessionReaderTest : public testing::Test {
  protected:
-  Script Read(const std::string& text) { return ReadSession(text, world.Session.System()); }
+  Script Read(const std::string& text) { return ReadSession(text, world.Session.form1); }
 
   /// The only action of a session.
   template <typename Kind>
@@ -24,7 +24,7 @@ class SessionReaderTest : public testing::Test {
     return std::get<Kind>(script.at(0).Act);
   }
 
-  Controls& FormControls() { return world.Session.System().controls; }
+  Controls& FormControls() { return world.Session.form1.controls; }
 
   InMemorySession world;
 };
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(All, SessionKeys,
 
 TEST_F(SessionReaderTest, MouseMoveHasAPlace) {
   const auto move = Only<action::MoveMouse>("@mouse move Picture1 7830 -5560.5");
-  EXPECT_EQ(move.Target, &world.Session.System().Picture1);
+  EXPECT_EQ(move.Target, &world.Session.form1.Picture1);
   EXPECT_EQ(move.X, 7830);
   EXPECT_EQ(move.Y, -5560.5F);
 }

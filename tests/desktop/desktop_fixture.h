@@ -22,8 +22,7 @@ class DesktopTest : public testing::Test {
   explicit DesktopTest(const QRect& available = {0, 0, 1024, 768});
   ~DesktopTest() override;
 
-  Controls& FormControls() { return session->System().controls; }
-  Form1& System() { return session->System(); }
+  Controls& FormControls() { return session->form1.controls; }
   MainWindow& Shown() { return session->Shown(); }
   QWidget& WidgetOf(const Control& control) { return Shown().WidgetOf(control); }
   template <typename Widget>

@@ -87,8 +87,8 @@ class SlideShowTest : public DesktopTest {
     ASSERT_TRUE(slide.save(folder.filePath(QLatin1String(name)), "JPG", 100));
   }
 
-  std::int16_t Counter() { return System().files.pictures.SlideCounter; }
-  QColor TopLeft() { return WidgetOf(System().Picture1).grab({30, 30, 1, 1}).toImage().pixelColor(0, 0); }
+  std::int16_t Counter() { return session->form1.files.pictures.SlideCounter; }
+  QColor TopLeft() { return WidgetOf(session->form1.Picture1).grab({30, 30, 1, 1}).toImage().pixelColor(0, 0); }
 };
 
 TEST_F(SlideShowTest, TheSlidesComeOneAfterTheOtherUntilANumberIsMissing) {
@@ -109,11 +109,11 @@ TEST_F(SlideShowTest, TheSlidesComeOneAfterTheOtherUntilANumberIsMissing) {
 TEST_F(SlideShowTest, TheShowStandsStillWhileALineRuns) {
   WriteSlide("TRIP1.JPG", Qt::red);
   Type("wait 150");
-  System().interpreter.dispatch.Execute("SLIDESHOW TRIP 40");
+  session->form1.interpreter.dispatch.Execute("SLIDESHOW TRIP 40");
   Press(Qt::Key_Return);
-  EXPECT_EQ(System().files.pictures.SlideFileName, "");
+  EXPECT_EQ(session->form1.files.pictures.SlideFileName, "");
   EXPECT_TRUE(FormControls().Timer3.Enabled);
-  EXPECT_TRUE(Until([this] { return !System().files.pictures.SlideFileName.empty(); }));
+  EXPECT_TRUE(Until([this] { return !session->form1.files.pictures.SlideFileName.empty(); }));
 }
 
 }  // namespace

@@ -29,16 +29,16 @@ TEST_F(DiagnosisPanelTest, TheFieldsShowTheValuesOfTheStart) {
 
 TEST_F(DiagnosisPanelTest, AResolutionIsTakenAsItIsTyped) {
   Retype(Field(FormControls().Text3), "100");
-  EXPECT_EQ(System().turtle.Resolution, 100);
+  EXPECT_EQ(session->form1.turtle.Resolution, 100);
   Retype(Field(FormControls().Text3), "abc");
-  EXPECT_EQ(System().turtle.Resolution, 0);
+  EXPECT_EQ(session->form1.turtle.Resolution, 0);
 }
 
 TEST_F(DiagnosisPanelTest, ALineWidthIsTakenAsItIsTyped) {
   Retype(Field(FormControls().Text4), "3");
-  EXPECT_EQ(System().Picture1.DrawWidth(), 3);
+  EXPECT_EQ(session->form1.Picture1.DrawWidth(), 3);
   Retype(Field(FormControls().Text4), "-1");
-  EXPECT_EQ(System().Picture1.DrawWidth(), 3);
+  EXPECT_EQ(session->form1.Picture1.DrawWidth(), 3);
 }
 
 TEST_F(DiagnosisPanelTest, TheControlStringIsShown) {
@@ -112,7 +112,7 @@ TEST_F(DiagnosisPanelTest, AMovedBarColoursTheBackgroundAndItsPreview) {
   red.setFocus();
   Press(Qt::Key_End);
   EXPECT_EQ(FormControls().HScroll1[0].Value, 255);
-  EXPECT_EQ(System().Picture1.BackColor(), 255);
+  EXPECT_EQ(session->form1.Picture1.BackColor(), 255);
   EXPECT_EQ(WidgetOf(FormControls().Label9).grab().toImage().pixelColor(10, 30), QColor(255, 0, 0));
 }
 
@@ -121,7 +121,7 @@ TEST_F(DiagnosisPanelTest, AMovedBarColoursThePen) {
   ASSERT_EQ(green.value(), 255);
   green.setFocus();
   Press(Qt::Key_Home);
-  EXPECT_EQ(System().Picture1.ForeColor(), 0xFF00FF);
+  EXPECT_EQ(session->form1.Picture1.ForeColor(), 0xFF00FF);
   EXPECT_EQ(FormControls().Line1.BorderColor, 0xFF00FF);
 }
 

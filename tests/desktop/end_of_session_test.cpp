@@ -128,7 +128,7 @@ TEST_F(EndOfSessionTest, AMouseMoveAtAResolutionOfNothingEndsTheProgram) {
   QTest::keyClick(&field, Qt::Key_Delete);
   ASSERT_FALSE(session->HasEnded());
   AnswerNextBox({Qt::Key_Return});
-  QTest::mouseMove(&WidgetOf(System().Picture1), {20, 20});
+  QTest::mouseMove(&WidgetOf(session->form1.Picture1), {20, 20});
   EXPECT_TRUE(Until([this] { return session->HasEnded(); }));
   EXPECT_EQ(session->ExitStatus(), 2);
 }

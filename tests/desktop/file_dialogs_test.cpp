@@ -18,7 +18,7 @@ TEST_F(FileDialogsTest, AnOpenedProgramIsLoaded) {
   AnswerNextBox({Qt::Key_Return}, name.c_str());
   Enter("show open");
   EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO BOX"});
-  EXPECT_EQ(System().files.programFiles.CurrentFileName.substr(0, 1), "\\");
+  EXPECT_EQ(session->form1.files.programFiles.CurrentFileName.substr(0, 1), "\\");
 }
 
 TEST_F(FileDialogsTest, AProgramIsFoundInAnyCase) {

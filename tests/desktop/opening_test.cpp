@@ -25,7 +25,7 @@ TEST_F(OpeningTest, AProgramIsLoadedAsShowOpenLoadsIt) {
   EXPECT_EQ(FormControls().List4.Items(), Items{"? LOAD " + nameWithoutEnding});
   EXPECT_EQ(FormControls().List3.Items(), Items{"TO BOX"});
   EXPECT_EQ(FormControls().Text2.Text, "TO BOX\r\nFD 10\r\nEND\r\n");
-  EXPECT_EQ(System().files.programFiles.CurrentFileName, nameWithoutEnding);
+  EXPECT_EQ(session->form1.files.programFiles.CurrentFileName, nameWithoutEnding);
   EXPECT_TRUE(Boxes.empty());
 }
 
@@ -59,7 +59,7 @@ TEST_F(OpeningTest, APictureIsShown) {
   session->Greet({}, PathOf("red.bmp"));
   ASSERT_EQ(FormControls().List4.Items().size(), 1u);
   EXPECT_EQ(FormControls().List4.Items()[0].substr(0, 14), "? LOADPICTURE ");
-  EXPECT_EQ(System().Picture1.Point(30, 30), RGB(255, 0, 0));
+  EXPECT_EQ(session->form1.Picture1.Point(30, 30), RGB(255, 0, 0));
 }
 
 TEST_F(OpeningTest, AMissingProgramIsReportedByLoad) {
@@ -109,7 +109,7 @@ TEST_F(OpeningTest, WhatIsToTellComesBeforeTheFile) {
 
 TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
   WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
-  session->Deliver([](Form1& form) { form.controls.Timer2.Enabled = true; });
+  session->Deliver([](Form1& form1) { form1.controls.Timer2.Enabled = true; });
   session->Greet({}, PathOf("box.zrm"));
   EXPECT_TRUE(FormControls().List3.Items().empty());
   EXPECT_TRUE(Until([this] { return FormControls().List3.Items() == Items{"TO BOX"}; }));
@@ -120,7 +120,9 @@ std::string RefusalOf(const std::vector<std::string>& arguments) { return ReadCo
 
 TEST(CommandLine, NoneOrOneFileIsTaken) {
   EXPECT_EQ(RefusalOf({}), "");
+  EXPECT_EQ(ReadCommandLine({}).File, std::nullopt);
   EXPECT_EQ(RefusalOf({"box.zrm"}), "");
+  EXPECT_EQ(ReadCommandLine({"box.zrm"}).File, 0U);
 }
 
 TEST(CommandLine, OptionsMayStandAroundTheFile) {
@@ -128,6 +130,8 @@ TEST(CommandLine, OptionsMayStandAroundTheFile) {
   EXPECT_EQ(line.Refusal, "");
   EXPECT_TRUE(line.Classic);
   EXPECT_EQ(line.Scale, 150);
+  EXPECT_EQ(line.File, 1U);
+  EXPECT_EQ(ReadCommandLine({"--scale", "150", "box.zrm"}).File, 2U);
   EXPECT_FALSE(ReadCommandLine({"box.zrm"}).Classic);
 }
 

@@ -95,13 +95,13 @@ TEST_F(PalettePanelTest, AClickOnApplyRightAfterTheStartRunsSetpc15) {
   Enter("setpc 4");
   FormControls().Label15.Caption = "Setpc 15";
   QTest::mouseClick(&Apply(), Qt::LeftButton);
-  EXPECT_EQ(System().turtle.PenColor, 15);
+  EXPECT_EQ(session->form1.turtle.PenColor, 15);
 }
 
 TEST_F(PalettePanelTest, ApplyCarriesTheChosenCommandOut) {
   QTest::mouseClick(&Square(3), Qt::LeftButton);
   QTest::mouseClick(&Apply(), Qt::LeftButton);
-  EXPECT_EQ(System().turtle.PenColor, 3);
+  EXPECT_EQ(session->form1.turtle.PenColor, 3);
 }
 
 TEST_F(PalettePanelTest, TheKeyboardChoosesAndApplies) {
@@ -119,7 +119,7 @@ TEST_F(PalettePanelTest, TheKeyboardChoosesAndApplies) {
   Press(Qt::Key_Return);
   Apply().setFocus();
   Press(Qt::Key_Return);
-  EXPECT_EQ(System().turtle.PenColor, 7);
+  EXPECT_EQ(session->form1.turtle.PenColor, 7);
 }
 
 TEST_F(PalettePanelTest, AScreenReaderNamesTheSquaresByTheirColours) {
@@ -143,8 +143,8 @@ TEST_F(PalettePanelTest, ItLandsWithTheOffsetWithWhichItWasTaken) {
   Drag(Panel(), {4, 200}, {-150, 90});
   EXPECT_EQ(Panel().pos(), before + QPoint(-150, 90));
   EXPECT_EQ(FormControls().Picture2.Left, static_cast<float>(15 * (before.x() - 150)));
-  EXPECT_EQ(System().graphics.palette.PaletteGrabX, 60);
-  EXPECT_EQ(System().graphics.palette.PaletteGrabY, 3000);
+  EXPECT_EQ(session->form1.graphics.palette.PaletteGrabX, 60);
+  EXPECT_EQ(session->form1.graphics.palette.PaletteGrabY, 3000);
 }
 
 TEST_F(PalettePanelTest, ItsTitleDragsItToo) {

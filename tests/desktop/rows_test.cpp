@@ -13,10 +13,10 @@ using Texts = std::vector<std::string>;
 TEST_F(RowsTest, TheFirstRowHasTheFocusAfterTheStart) { EXPECT_EQ(Focused(), &Row(0)); }
 
 TEST_F(RowsTest, ALineTypedWithKeysRuns) {
-  const double start = System().turtle.TurtleY;
+  const double start = session->form1.turtle.TurtleY;
   Enter("fd   10");
   EXPECT_EQ(FormControls().List4.Items(), Texts{"?FD 10"});
-  EXPECT_EQ(System().turtle.TurtleY, start - 500);
+  EXPECT_EQ(session->form1.turtle.TurtleY, start - 500);
 }
 
 TEST_F(RowsTest, EnterGivesTheFocusToTheNextRowAndKeepsTheText) {
@@ -108,7 +108,7 @@ TEST_F(OldLines, EnterAloneRunsTheOldOneAgain) {
 
 TEST_F(OldLines, AClickOnTheDrawingMakesRoomForANewLineOnTheFirstRow) {
   Enter("cs");
-  QTest::mouseClick(&WidgetOf(System().Picture1), Qt::LeftButton, {}, {10, 500});
+  QTest::mouseClick(&WidgetOf(session->form1.Picture1), Qt::LeftButton, {}, {10, 500});
   Settle();
   ASSERT_EQ(Focused(), &Row(0));
   Type("fd 3");
@@ -173,22 +173,22 @@ TEST_F(RowsTest, F4HidesTheRowsAndThenNothingHasTheFocus) {
   Press(Qt::Key_F4);
   EXPECT_FALSE(Row(0).isVisible());
   EXPECT_EQ(FormControls().Focus.Focus(), nullptr);
-  EXPECT_EQ(WidgetOf(System().Picture1).height(), 768);
+  EXPECT_EQ(WidgetOf(session->form1.Picture1).height(), 768);
 }
 
 TEST_F(RowsTest, F2BringsTheRowsBackFromTheFullScreen) {
   Press(Qt::Key_F4);
   QTest::keyClick(&Shown(), Qt::Key_F2);
   EXPECT_TRUE(Row(0).isVisible());
-  EXPECT_EQ(WidgetOf(System().Picture1).height(), 768 - 129);
+  EXPECT_EQ(WidgetOf(session->form1.Picture1).height(), 768 - 129);
 }
 
 TEST_F(RowsTest, F2OnTheSurfaceGivesTheFocusToTheFirstRow) {
   Enter("cs");
   Press(Qt::Key_F4);
-  QTest::mouseClick(&WidgetOf(System().Picture1), Qt::LeftButton, {}, {10, 500});
+  QTest::mouseClick(&WidgetOf(session->form1.Picture1), Qt::LeftButton, {}, {10, 500});
   Settle();
-  ASSERT_EQ(Focused(), &WidgetOf(System().Picture1));
+  ASSERT_EQ(Focused(), &WidgetOf(session->form1.Picture1));
   Press(Qt::Key_F2);
   EXPECT_EQ(Focused(), &Row(0));
 }

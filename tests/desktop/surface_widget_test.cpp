@@ -8,7 +8,7 @@ namespace {
 
 class SurfaceWidgetTest : public DesktopTest {
  protected:
-  SurfaceWidget& Surface() { return WidgetAs<SurfaceWidget>(System().Picture1); }
+  SurfaceWidget& Surface() { return WidgetAs<SurfaceWidget>(session->form1.Picture1); }
   QColor PixelAt(int x, int y) { return Surface().grab().toImage().pixelColor(x, y); }
   /// As soon as the window has stopped adjusting its own place.
   void DragWindowAway() {
@@ -19,9 +19,9 @@ class SurfaceWidgetTest : public DesktopTest {
     }));
   }
   std::string HintAt(int x, int y) {
-    System().Picture1.ToolTipText.clear();
+    session->form1.Picture1.ToolTipText.clear();
     QTest::mouseMove(&Surface(), {x, y});
-    Until([this] { return !System().Picture1.ToolTipText.empty(); });
+    Until([this] { return !session->form1.Picture1.ToolTipText.empty(); });
     return Surface().Hint().text().toStdString();
   }
 };
@@ -51,7 +51,7 @@ TEST_F(SurfaceWidgetTest, TheFigureLiesAboveThePictureAndFollowsTheTurtle) {
   Enter("pu");
   Enter("setxy 10 10");
   EXPECT_EQ(PixelAt(512, 401), QColor(128, 0, 128));
-  EXPECT_EQ(System().Picture1.Point(7680, 6015), 8388736);
+  EXPECT_EQ(session->form1.Picture1.Point(7680, 6015), 8388736);
 }
 
 TEST_F(SurfaceWidgetTest, TheFigureStaysVisibleOverAFlood) {
@@ -98,7 +98,7 @@ TEST_F(SurfaceWidgetTest, TheHintStaysInSightAtTheEdges) {
 TEST_F(SurfaceWidgetTest, TheTitlePictureGivesNoHint) {
   QTest::mouseMove(&Surface(), {300, 300});
   QTest::qWait(20);
-  EXPECT_EQ(System().Picture1.ToolTipText, "");
+  EXPECT_EQ(session->form1.Picture1.ToolTipText, "");
 }
 
 TEST_F(SurfaceWidgetTest, AClickGivesTheFocusToTheFirstEmptyRowAndThenToTheFirst) {

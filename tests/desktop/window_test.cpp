@@ -149,7 +149,7 @@ TEST_F(WindowTest, TheTabKeyFindsTheFirstRowWhenNothingHasTheFocus) {
 TEST_F(WindowTest, InFullScreenTheTabKeyReachesTheSurface) {
   Press(Qt::Key_F4);
   QTest::keyClick(&Shown(), Qt::Key_Tab);
-  EXPECT_EQ(Focused(), &WidgetOf(System().Picture1));
+  EXPECT_EQ(Focused(), &WidgetOf(session->form1.Picture1));
   Press(Qt::Key_F1);
   EXPECT_EQ(Focused(), &Editor());
 }
@@ -218,7 +218,7 @@ TEST_F(WindowTest, AfterTheHelpViewTypingGoesOnInTheRow) {
 
 TEST_F(WindowTest, TheFullScreenFillsTheWindow) {
   Press(Qt::Key_F4);
-  EXPECT_EQ(WidgetOf(System().Picture1).geometry(), QRect(0, 0, 1024, 768));
+  EXPECT_EQ(WidgetOf(session->form1.Picture1).geometry(), QRect(0, 0, 1024, 768));
 }
 
 }  // namespace

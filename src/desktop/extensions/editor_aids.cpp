@@ -12,7 +12,7 @@ namespace zerimo {
 
 EditorAids::EditorAids(Session& session)
     : session_(session),
-      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.System().controls.Text2))),
+      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.form1.controls.Text2))),
       marks_(*new EditorMarks(editor_)),
       bar_(*new FindBar(editor_)) {
   new LineNumbers(editor_);
@@ -35,9 +35,9 @@ bool EditorAids::PressKey(const QKeyEvent& press) {
 }
 
 void EditorAids::BoxOpens(QDialog&) {
-  const Store& store = session_.System().interpreter.store;
+  const Store& store = session_.form1.interpreter.store;
   int line = 0;
-  SkipOnFailure([&] { line = EndValExtractor(session_.System().interpreter.controlPath.CtrlStr()); });
+  SkipOnFailure([&] { line = EndValExtractor(session_.form1.interpreter.controlPath.CtrlStr()); });
   if (line < 1 || line > Store::LineCount) return;
   int head = line;
   while (head > 1 && !store.Line(head).starts_with("TO ")) --head;

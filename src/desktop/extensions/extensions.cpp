@@ -2,8 +2,8 @@
 
 #include "desktop/extensions/editor_aids.h"
 #include "desktop/extensions/gallery.h"
-#include "desktop/extensions/journal.h"
 #include "desktop/extensions/letter_size.h"
+#include "desktop/extensions/line_journal.h"
 #include "desktop/extensions/panel_drag.h"
 #include "desktop/extensions/picture_keys.h"
 #include "desktop/extensions/projector.h"
@@ -14,14 +14,14 @@
 
 namespace zerimo {
 
-void AddExtensions(Session& session, const std::filesystem::path& folder) {
+void AddExtensions(Session& session, const std::filesystem::path& folder, std::chrono::milliseconds keepAfter) {
   session.Add(std::make_unique<Stop>(session));
   auto chip = std::make_unique<RunChip>(session);
   session.Add(std::make_unique<Speed>(session, *chip));
   session.Add(std::move(chip));
-  auto journal = std::make_unique<Journal>(session.System(), folder / "journal");
-  session.Add(std::make_unique<Recovery>(session, *journal, folder / "rescued"));
-  session.Add(std::move(journal));
+  auto lineJournal = std::make_unique<LineJournal>(session.form1, folder / "journal");
+  session.Add(std::make_unique<Recovery>(session, *lineJournal, folder / "rescued", keepAfter));
+  session.Add(std::move(lineJournal));
   session.Add(std::make_unique<EditorAids>(session));
   session.Add(std::make_unique<PictureKeys>(session));
   session.Add(std::make_unique<Gallery>(session));

@@ -16,7 +16,7 @@ constexpr int Largest = 400;
 }  // namespace
 
 LetterSize::LetterSize(Session& session) : window_(session.Shown()) {
-  const Controls& controls = session.System().controls;
+  const Controls& controls = session.form1.controls;
   for (const Control* control :
        {static_cast<const Control*>(&controls.Text2), static_cast<const Control*>(&controls.List4),
         static_cast<const Control*>(&controls.List1)}) {

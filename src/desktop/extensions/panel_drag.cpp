@@ -6,7 +6,7 @@ namespace zerimo {
 
 PanelDrag::PanelDrag(Session& session)
     : window_(session.Shown()),
-      panel_(static_cast<CaptionFrame&>(session.Shown().WidgetOf(session.System().controls.Frame1))) {
+      panel_(static_cast<CaptionFrame&>(session.Shown().WidgetOf(session.form1.controls.Frame1))) {
   panel_.installEventFilter(this);
 }
 

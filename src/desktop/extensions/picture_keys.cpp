@@ -23,10 +23,9 @@ QString EndingIn(const QString& kind) { return kind.section(QLatin1String("*."),
 PictureKeys::PictureKeys(Session& session)
     : session_(session),
       drawn_(session.Canvas()),
-      folder_(
-          QString::fromStdU16String(session.System().folders.ToRead(session.System().folders.AppFolder).u16string())) {
+      folder_(QString::fromStdU16String(session.form1.folders.ToRead(session.form1.folders.AppFolder).u16string())) {
   // The session ends before its extensions do.
-  session.System().Picture1.AddRecorder(drawn_);
+  session.form1.Picture1.AddRecorder(drawn_);
 }
 
 bool PictureKeys::PressKey(const QKeyEvent& press) {
@@ -41,7 +40,7 @@ bool PictureKeys::PressKey(const QKeyEvent& press) {
   return true;
 }
 
-QSize PictureKeys::Size() const { return InPixels(session_.System().Picture1).size(); }
+QSize PictureKeys::Size() const { return InPixels(session_.form1.Picture1).size(); }
 
 void PictureKeys::Save() {
   FileDialog dialog(session_.Shown(), QFileDialog::AcceptSave, QStringLiteral("Save the Picture"), folder_,
@@ -55,7 +54,7 @@ void PictureKeys::Save() {
 }
 
 void PictureKeys::Write(const QString& file) {
-  const Colour background = session_.System().Picture1.BackColor();
+  const Colour background = session_.form1.Picture1.BackColor();
   const bool isWritten = SkipOnFailure([&] {
     WriteSurface(session_.Canvas(), drawn_, file.toStdU16String(), Size().width(), Size().height(), background);
   });

@@ -40,7 +40,7 @@ bool Projector::PressKey(const QKeyEvent& press) {
 void Projector::Switch(bool on) {
   MainWindow& window = session_.Shown();
   window.setProperty(EasyToRead, on);
-  auto& editor = static_cast<EditorArea&>(window.WidgetOf(session_.System().controls.Text2));
+  auto& editor = static_cast<EditorArea&>(window.WidgetOf(session_.form1.controls.Text2));
   editor.setCursorWidth(on ? ThickCaret : EditorArea::CaretWidth);
   if (on) {
     auto* frame = new ThickFrame(window);

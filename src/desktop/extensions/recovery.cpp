@@ -20,8 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// From a change to the file, and from a write that failed to the next, in milliseconds.
-constexpr int Delay = 1000;
 constexpr int LongestLineShown = 60;
 
 /// The first name among Rescued.ZRM, Rescued2.ZRM, ... that is free in a folder.
@@ -40,14 +38,15 @@ QString WordsAbout(const RescuedText& rescued) {
 
 }  // namespace
 
-Recovery::Recovery(Session& session, Journal& journal, const fs::path& folder)
+Recovery::Recovery(Session& session, LineJournal& lineJournal, const fs::path& folder, std::chrono::milliseconds delay)
     : session_(session),
-      journal_(journal),
+      lineJournal_(lineJournal),
       folder_(folder),
-      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.System().controls.Text2))) {
+      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.form1.controls.Text2))) {
   delay_.setSingleShot(true);
+  delay_.setInterval(delay);
   QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] {
-    if (!Write()) delay_.start(Delay);
+    if (!Write()) delay_.start();
   });
   QObject::connect(&editor_, &QPlainTextEdit::textChanged, &delay_, [this] { Change(); });
   if (!folder_.Left().empty()) session_.WhenStarted([this](Form1& form1) { OfferAll(form1); });
@@ -57,10 +56,10 @@ std::string Recovery::Text() const { return WithCarriageReturns(editor_.Text());
 
 void Recovery::Change() {
   // What the system writes itself, as when it loads a program, is in the control already.
-  const bool byUser = Text() != session_.System().controls.Text2.Text;
+  const bool byUser = Text() != session_.form1.controls.Text2.Text;
   typed_ = typed_ || byUser;
   unsaved_ = unsaved_ || byUser;
-  if (unsaved_ && !delay_.isActive()) delay_.start(Delay);
+  if (unsaved_ && !delay_.isActive()) delay_.start();
 }
 
 bool Recovery::Write() {
@@ -93,7 +92,7 @@ void Recovery::BoxOpens(QDialog& dialog) {
 
 void Recovery::RunEnds() {
   const bool folded = std::exchange(folding_, false);
-  if (folded) journal_.Note(Text());
+  if (folded) lineJournal_.Note(Text());
   const bool saved = IsSaved();
   if (saved) typed_ = false;
   if (unsaved_ && (folded || saved)) Forget();
@@ -105,7 +104,7 @@ bool Recovery::IsSaved() const {
   std::string text = Text();
   const std::string saved = SpaceFilter(text) + "\r\n";
   for (const char* ending : {"", ".ZRM"}) {
-    if (BytesOf(session_.System().folders.ToRead(name_ + ending)) == saved) return true;
+    if (BytesOf(session_.form1.folders.ToRead(name_ + ending)) == saved) return true;
   }
   return false;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QTimer>
+#include <chrono>
 
-#include "desktop/extensions/journal.h"
+#include "desktop/extensions/line_journal.h"
 #include "desktop/extensions/rescue_folder.h"
 #include "desktop/session.h"
 
@@ -14,8 +15,10 @@ class EditorArea;
 /// window left behind. Losing power, the display or the process costs at most two seconds of typing.
 class Recovery : public Extension {
  public:
-  /// `folder` is where the texts are kept.
-  Recovery(Session& session, Journal& journal, const std::filesystem::path& folder);
+  /// `folder` is where the texts are kept; `delay` passes from a change to the file, and from a write that failed to
+  /// the next.
+  Recovery(Session& session, LineJournal& lineJournal, const std::filesystem::path& folder,
+           std::chrono::milliseconds delay);
 
   bool PressKey(const QKeyEvent& press) override;
   void BoxOpens(QDialog& dialog) override;
@@ -37,7 +40,7 @@ class Recovery : public Extension {
   void Open(Form1& form1, RescuedText& rescued);
 
   Session& session_;
-  Journal& journal_;
+  LineJournal& lineJournal_;
   RescueFolder folder_;
   EditorArea& editor_;
   QTimer delay_;

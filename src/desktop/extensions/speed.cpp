@@ -18,7 +18,7 @@ const Speed::Pace Speed::Paces[4] = {
 Speed::Speed(Session& session, RunChip& chip)
     : session_(session),
       chip_(chip),
-      line_(session.System(), static_cast<QListView&>(session.Shown().WidgetOf(session.System().controls.List1))) {}
+      line_(session.form1, static_cast<QListView&>(session.Shown().WidgetOf(session.form1.controls.List1))) {}
 
 bool Speed::PressKey(const QKeyEvent& press) {
   if (waiting_ && pace_->Pause < 0 && press.key() == Qt::Key_Space && press.modifiers() == Qt::NoModifier) {

@@ -40,7 +40,7 @@ void Stop::BoxOpens(QDialog& dialog) {
 
 bool Stop::ClosesDuringRun() {
   // Only a program can be stopped; the system's own questions close with the window.
-  if (session_.System().interpreter.controlPath.CtrlStr() == ".") return false;
+  if (session_.form1.interpreter.controlPath.CtrlStr() == ".") return false;
   // Closing the window a second time is clear enough.
   if (asking_) return false;
   asking_ = true;

@@ -12,7 +12,10 @@ namespace zerimo {
 /// A session with all extensions.
 class ExtensionsTest : public DesktopTest {
  protected:
-  ExtensionsTest() { AddExtensions(*session, State()); }
+  /// A text of the editor is kept `keepAfter` its change.
+  explicit ExtensionsTest(std::chrono::milliseconds keepAfter = std::chrono::seconds(1)) : KeepAfter(keepAfter) {
+    AddExtensions(*session, State(), KeepAfter);
+  }
 
   /// The folder for what the user types.
   std::filesystem::path State() const { return folder.filePath("state").toStdString(); }
@@ -28,6 +31,8 @@ class ExtensionsTest : public DesktopTest {
 
   /// Runs an action `after` milliseconds from now, while the next line runs.
   static void During(int after, std::function<void()> action) { QTimer::singleShot(after, qApp, std::move(action)); }
+
+  const std::chrono::milliseconds KeepAfter;
 
   QLabel& Chip() { return *Shown().findChild<QLabel*>("RunChip"); }
 };

@@ -21,7 +21,7 @@ class PictureKeysTest : public ExtensionsTest {
     Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
   }
   QImage Saved(const char* name) { return QImage(folder.filePath(QLatin1String(name))); }
-  QSize Picture() { return InPixels(System().Picture1).size(); }
+  QSize Picture() { return InPixels(session->form1.Picture1).size(); }
 };
 
 /// The middle of the line that the turtle drew.
@@ -73,7 +73,7 @@ TEST_F(PictureKeysTest, NothingOfTheSystemChanges) {
   const std::vector<std::string> history = FormControls().List4.Items();
   SaveAs("a.png");
   EXPECT_EQ(FormControls().List4.Items(), history);
-  EXPECT_EQ(System().Picture1.ToolTipText, "");
+  EXPECT_EQ(session->form1.Picture1.ToolTipText, "");
   EXPECT_EQ(Focused(), &Row(2));
 }
 

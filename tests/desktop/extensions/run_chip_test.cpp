@@ -33,7 +33,7 @@ TEST_F(RunChipTest, ItStandsInTheCornerAndTakesNoClicks) {
 TEST_F(RunChipTest, NothingOfItIsAControlOrInThePicture) {
   Press(Qt::Key_3, Qt::ControlModifier);
   EXPECT_EQ(Chip().parentWidget(), &Shown());
-  EXPECT_EQ(System().FindControl("RunChip"), nullptr);
+  EXPECT_EQ(session->form1.FindControl("RunChip"), nullptr);
 }
 
 }  // namespace

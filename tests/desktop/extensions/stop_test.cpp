@@ -22,42 +22,42 @@ TEST_F(StopTest, ALineStopsAndDrawingVariablesAndHistoryStay) {
   During(50, [this] { QTest::keyClick(&Row(0), Qt::Key_Pause, Qt::ControlModifier); });
   Enter("make \"n 5 fd 10 label a goto a");
   EXPECT_FALSE(session->HasEnded());
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
   EXPECT_EQ(FormControls().List4.Items(), (Texts{"?CS", "?MAKE \"N 5 FD 10 LABEL A GOTO A"}));
   EXPECT_EQ(FormControls().List2.Items(), Texts{":N=5"});
-  EXPECT_EQ(System().interpreter.store.Line(1), "");
-  EXPECT_LT(System().turtle.TurtleY, static_cast<double>(FormControls().Screen.Height / 2));
+  EXPECT_EQ(session->form1.interpreter.store.Line(1), "");
+  EXPECT_LT(session->form1.turtle.TurtleY, static_cast<double>(FormControls().Screen.Height / 2));
   EXPECT_EQ(Focused(), &Row(2));
 }
 
 TEST_F(StopTest, TheNextLineRunsAsEver) {
   StopLine("label a goto a");
   Enter("rt 90");
-  EXPECT_NEAR(System().turtle.TurtleDir, 3.14159265 / 2, 1e-6);
+  EXPECT_NEAR(session->form1.turtle.TurtleDir, 3.14159265 / 2, 1e-6);
 }
 
 TEST_F(StopTest, AProcedureStopsAndStays) {
   TypeInEditor("to a\nfd 1\na\nend");
   Press(Qt::Key_F2);
   StopLine("a");
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
   EXPECT_EQ(FormControls().List3.Items(), Texts{"TO A"});
 }
 
 TEST_F(StopTest, TheOtherKeyStopsToo) {
   StopLine("label a goto a", Qt::Key_Period);
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
 }
 
 TEST_F(StopTest, AnEvaluationThatNeverReturnsStops) {
   StopLine("fd -/3");
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
-  EXPECT_EQ(System().interpreter.store.Line(1), "");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.store.Line(1), "");
 }
 
 TEST_F(StopTest, AWaitStops) {
   StopLine("wait 3600000");
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
 }
 
 TEST_F(StopTest, WhileNothingRunsTheKeyDoesNothing) {
@@ -71,7 +71,7 @@ TEST_F(StopTest, AKeyStopsBehindABox) {
   WhileABoxStands([this] { QTest::keyClick(&Shown(), Qt::Key_Pause, Qt::ControlModifier); });
   Enter("repeat 1000 [message 1]");
   EXPECT_EQ(Boxes.size(), 1u);
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
 }
 
 TEST_F(StopTest, ABoxThatComesAgainAtOnceOffersToStop) {
@@ -81,7 +81,7 @@ TEST_F(StopTest, ABoxThatComesAgainAtOnceOffersToStop) {
   ASSERT_EQ(Boxes.size(), 2u);
   EXPECT_EQ(Boxes[0].Buttons, Texts{"OK"});
   EXPECT_EQ(Boxes[1].Buttons, (Texts{"OK", "Stop the program"}));
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
 }
 
 TEST_F(StopTest, TheFirstBoxOfALineOffersNothing) {
@@ -106,7 +106,7 @@ TEST_F(ClosingDuringARun, StopKeepsTheWindow) {
   ASSERT_EQ(Boxes.size(), 1u);
   EXPECT_EQ(Boxes[0].Buttons, (Texts{"Stop the program", "Close Zerimo", "Go on"}));
   EXPECT_FALSE(session->HasEnded());
-  EXPECT_EQ(System().interpreter.controlPath.CtrlStr(), ".");
+  EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
 }
 
 TEST_F(ClosingDuringARun, CloseEndsTheSession) {
@@ -118,7 +118,7 @@ TEST_F(ClosingDuringARun, CloseEndsTheSession) {
 TEST_F(ClosingDuringARun, GoOnGoesOn) {
   CloseAndAnswer(Qt::Key_G, "wait 150 rt 90");
   EXPECT_FALSE(session->HasEnded());
-  EXPECT_NEAR(System().turtle.TurtleDir, 3.14159265 / 2, 1e-6);
+  EXPECT_NEAR(session->form1.turtle.TurtleDir, 3.14159265 / 2, 1e-6);
 }
 
 TEST_F(ClosingDuringARun, ClosingTwiceCloses) {

@@ -1,4 +1,4 @@
-#include "desktop/extensions/journal.h"
+#include "desktop/extensions/line_journal.h"
 
 #include <fstream>
 #include <sstream>
@@ -11,7 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-class JournalTest : public ExtensionsTest {
+class LineJournalTest : public ExtensionsTest {
  protected:
   fs::path JournalFolder() const { return State() / "journal"; }
 
@@ -31,29 +31,29 @@ class JournalTest : public ExtensionsTest {
   }
 };
 
-TEST_F(JournalTest, NothingTypedMakesNoFile) { EXPECT_EQ(Files(), Texts{}); }
+TEST_F(LineJournalTest, NothingTypedMakesNoFile) { EXPECT_EQ(Files(), Texts{}); }
 
-TEST_F(JournalTest, EnteredLinesAreKeptAndPrintedTextIsNot) {
+TEST_F(LineJournalTest, EnteredLinesAreKeptAndPrintedTextIsNot) {
   Enter("print \"x");
   Enter("ct");
   Enter("rt 90");
   EXPECT_EQ(Files(), Texts{"PRINT \"X\nCT\nRT 90\n"});
 }
 
-TEST_F(JournalTest, ALineIsKeptBeforeItRuns) {
+TEST_F(LineJournalTest, ALineIsKeptBeforeItRuns) {
   Texts during;
   During(50, [&] { during = Files(); });
   Enter("wait 100");
   EXPECT_EQ(during, Texts{"WAIT 100\n"});
 }
 
-TEST_F(JournalTest, AProgramTakenOverIsKept) {
+TEST_F(LineJournalTest, AProgramTakenOverIsKept) {
   TypeInEditor("to a\nend");
   Press(Qt::Key_F2);
   EXPECT_EQ(Files(), Texts{"to a\nend\n"});
 }
 
-TEST_F(JournalTest, TenFilesAreKept) {
+TEST_F(LineJournalTest, TenFilesAreKept) {
   fs::create_directories(JournalFolder());
   for (int year = 2001; year <= 2012; ++year) {
     std::ofstream(JournalFolder() / (std::to_string(year) + "-01-01 10.00.00 1.txt")) << year;
@@ -65,15 +65,15 @@ TEST_F(JournalTest, TenFilesAreKept) {
   EXPECT_EQ(files.back(), "RT 90\n");
 }
 
-TEST_F(JournalTest, AFileEndsAtAMegabyte) {
-  Journal journal(System(), JournalFolder());
+TEST_F(LineJournalTest, AFileEndsAtAMegabyte) {
+  LineJournal lineJournal(session->form1, JournalFolder());
   const std::string line(1000, 'x');
-  for (int i = 0; i < 2000; ++i) journal.Note(line);
+  for (int i = 0; i < 2000; ++i) lineJournal.Note(line);
   EXPECT_LE(Files().at(0).size(), std::size_t{1} << 20);
   EXPECT_GT(Files().at(0).size(), (std::size_t{1} << 20) - 1002);
 }
 
-TEST_F(JournalTest, AFolderThatCannotBeMadeStopsNothing) {
+TEST_F(LineJournalTest, AFolderThatCannotBeMadeStopsNothing) {
   std::ofstream(State()) << "in the way";
   Enter("rt 90");
   EXPECT_EQ(FormControls().List4.Items(), Texts{"?RT 90"});

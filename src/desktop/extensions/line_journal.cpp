@@ -1,4 +1,4 @@
-#include "desktop/extensions/journal.h"
+#include "desktop/extensions/line_journal.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -12,7 +12,7 @@ namespace zerimo {
 
 namespace fs = std::filesystem;
 
-Journal::Journal(Form1& form1, fs::path folder) : folder_(std::move(folder)) {
+LineJournal::LineJournal(Form1& form1, fs::path folder) : folder_(std::move(folder)) {
   // The history also gets what a program prints.
   form1.controls.List4.OnChange = [this, &form1](const std::string* item) {
     if (item != nullptr && *item == "?" + form1.interpreter.typedLines.LastTypedLine)
@@ -20,14 +20,14 @@ Journal::Journal(Form1& form1, fs::path folder) : folder_(std::move(folder)) {
   };
 }
 
-void Journal::Note(const std::string& text) {
+void LineJournal::Note(const std::string& text) {
   if (!file_.is_open()) Open();
   const QByteArray line = (WithLineEnds(text) + QLatin1Char('\n')).toUtf8();
   if (file_.tellp() + static_cast<std::streamoff>(line.size()) > MostBytes) return;
   file_ << line.toStdString() << std::flush;
 }
 
-void Journal::Open() {
+void LineJournal::Open() {
   std::error_code ignored;
   fs::create_directories(folder_, ignored);
   MakeRoom();
@@ -37,7 +37,7 @@ void Journal::Open() {
   file_.open(folder_ / name.toStdU16String(), std::ios::binary | std::ios::app);
 }
 
-void Journal::MakeRoom() const {
+void LineJournal::MakeRoom() const {
   std::vector<fs::path> files;
   std::error_code error;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder_, error)) files.push_back(entry.path());
