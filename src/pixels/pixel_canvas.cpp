@@ -154,6 +154,11 @@ void PixelCanvas::SavePicture(const std::filesystem::path& file, int width, int 
   files_->Write(pixels_, std::max(width, 1), std::max(height, 1), file);
 }
 
+void PixelCanvas::PutPixels(const PixelBuffer& pixels) {
+  pixels_ = pixels;
+  Changed(pixels_.Bounds());
+}
+
 PixelRect PixelCanvas::TakeDirty() { return std::exchange(dirty_, {}); }
 
 PixelCanvas::Pen PixelCanvas::MakePen(const Stroke& stroke) {

@@ -33,6 +33,8 @@ class PixelCanvas : public Canvas {
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;
 
   const PixelBuffer& Pixels() const { return pixels_; }
+  /// Takes over pixels, whatever was drawn before.
+  void PutPixels(const PixelBuffer& pixels);
 
   /// The rectangle around everything that may have changed since the last call.
   PixelRect TakeDirty();

@@ -4,8 +4,10 @@
 #include "desktop/extensions/gallery.h"
 #include "desktop/extensions/letter_size.h"
 #include "desktop/extensions/line_journal.h"
+#include "desktop/extensions/look_back.h"
 #include "desktop/extensions/panel_drag.h"
 #include "desktop/extensions/picture_keys.h"
+#include "desktop/extensions/print_picture.h"
 #include "desktop/extensions/projector.h"
 #include "desktop/extensions/recovery.h"
 #include "desktop/extensions/run_chip.h"
@@ -23,7 +25,9 @@ void AddExtensions(Session& session, const std::filesystem::path& folder, std::c
   session.Add(std::make_unique<Recovery>(session, *lineJournal, folder / "rescued", keepAfter));
   session.Add(std::move(lineJournal));
   session.Add(std::make_unique<EditorAids>(session));
+  session.Add(std::make_unique<LookBack>(session));
   session.Add(std::make_unique<PictureKeys>(session));
+  session.Add(std::make_unique<PrintPicture>(session));
   session.Add(std::make_unique<Gallery>(session));
   session.Add(std::make_unique<Projector>(session));
   session.Add(std::make_unique<PanelDrag>(session));
