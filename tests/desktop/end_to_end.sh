@@ -2,9 +2,6 @@
 # Starts the program on a display of its own with a window manager, types a line with real key events, and compares what
 # is on the screen with the picture that the batch runner draws for the same line.
 # Usage: end_to_end.sh ZERIMO ZERIMO-BATCH
-set -euo pipefail
-
-here=$(cd "$(dirname "$0")" && pwd)
 zerimo=$1
 batch=$2
 width=1024
@@ -12,52 +9,11 @@ height=768
 # The part of the surface that the title bar and the rows are sure to leave free.
 part=1000x560+0+0
 lines=('CS' 'HT' 'REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]')
-
-work=$(mktemp -d)
-started=()
-finish() {
-  # The last started ends first. Each is waited for: a display that ends late takes its successor's socket with it.
-  for ((i = ${#started[@]} - 1; i >= 0; i--)); do
-    kill "${started[i]}" 2>/dev/null || true
-    wait "${started[i]}" 2>/dev/null || true
-  done
-  rm -rf "$work"
-}
-trap finish EXIT
-
-fail() {
-  echo "$1" >&2
-  exit 1
-}
-
-# within SECONDS COMMAND...: repeats the command until it succeeds.
-within() {
-  local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [ "$SECONDS" -lt "$end" ] || return 1
-    sleep 0.1
-  done
-}
-
-# Without -noreset the display would drop a client that comes while the last other one leaves.
-start_display() {
-  Xvfb -displayfd 3 -noreset -screen 0 "${width}x${height}x24" 3>"$work/display" 2>/dev/null &
-  started+=($!)
-  within 20 test -s "$work/display" || fail "the display does not start"
-  DISPLAY=:$(cat "$work/display")
-  export DISPLAY
-  openbox 2>/dev/null &
-  started+=($!)
-  within 20 has_window_manager || fail "the window manager does not start"
-}
-
-has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+. "$(dirname "$0")/display.sh" $width $height
 
 start_program() {
   # No session bus: what is on the screen must not depend on the desktop that the test is started from.
-  export HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb DBUS_SESSION_BUS_ADDRESS=disabled:
-  export LSAN_OPTIONS=suppressions=$here/other_libraries.leaks:print_suppressions=0
+  export DBUS_SESSION_BUS_ADDRESS=disabled:
   "$zerimo" &
   program=$!
   started+=("$program")
@@ -92,7 +48,6 @@ screen_is_as_expected() {
   [ "$differing" = 0 ]
 }
 
-start_display
 start_program
 for line in "${lines[@]}"; do type_line "$line"; done
 type_line 'SHOW DETAILS'

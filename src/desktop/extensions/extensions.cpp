@@ -1,5 +1,6 @@
 #include "desktop/extensions/extensions.h"
 
+#include "desktop/extensions/announcer.h"
 #include "desktop/extensions/editor_aids.h"
 #include "desktop/extensions/gallery.h"
 #include "desktop/extensions/letter_size.h"
@@ -32,6 +33,7 @@ void AddExtensions(Session& session, const std::filesystem::path& folder, std::c
   session.Add(std::make_unique<Projector>(session));
   session.Add(std::make_unique<PanelDrag>(session));
   session.Add(std::make_unique<LetterSize>(session));
+  session.Add(std::make_unique<Announcer>(session));
 }
 
 }  // namespace zerimo
