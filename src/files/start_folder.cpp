@@ -28,12 +28,12 @@ StartFolder PrepareUserFolder(const fs::path& source, const fs::path& documents)
 
 }  // namespace
 
-StartFolder PrepareStartFolder(const Surroundings& around) {
-  const bool isInOneFolder = HasHelpPages(around.ProgramFolder) || !HasHelpPages(around.ShareFolder);
-  const fs::path& source = isInOneFolder ? around.ProgramFolder : around.ShareFolder;
-  StartFolder start = isInOneFolder && around.CanWriteIntoProgramFolder
-                          ? StartFolder{around.ProgramFolder, false, {}}
-                          : PrepareUserFolder(source, around.DocumentsFolder);
+StartFolder PrepareStartFolder(const Surroundings& surroundings) {
+  const bool isInOneFolder = HasHelpPages(surroundings.ProgramFolder) || !HasHelpPages(surroundings.ShareFolder);
+  const fs::path& source = isInOneFolder ? surroundings.ProgramFolder : surroundings.ShareFolder;
+  StartFolder start = isInOneFolder && surroundings.CanWriteIntoProgramFolder
+                          ? StartFolder{surroundings.ProgramFolder, false, {}}
+                          : PrepareUserFolder(source, surroundings.DocumentsFolder);
   RemoveLeftovers(start.Folder);
   return start;
 }

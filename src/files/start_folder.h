@@ -32,7 +32,7 @@ struct StartFolder {
 /// folder `Zerimo` in the user's documents, which is created and brought up to date here (see `DeliverFiles`); if that
 /// can't be written and has no help pages either, the folder that it should have been filled from. What an interrupted
 /// save has left there is removed.
-StartFolder PrepareStartFolder(const Surroundings& around);
+StartFolder PrepareStartFolder(const Surroundings& surroundings);
 
 /// A folder as `AppFolder`: the system's name of it. If that name leads elsewhere, because the path has characters that
 /// the system can't hold, and the disk's relative paths start at the folder, it is a full stop.

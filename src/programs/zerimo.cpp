@@ -34,13 +34,13 @@ constexpr int Refused = 1;
 fs::path DiskPath(const QString& path) { return path.toStdU16String(); }
 
 Surroundings LookAround() {
-  Surroundings around;
+  Surroundings surroundings;
   const QString programFolder = QCoreApplication::applicationDirPath();
-  around.ProgramFolder = DiskPath(programFolder);
-  around.CanWriteIntoProgramFolder = CanWriteInto(around.ProgramFolder);
-  around.ShareFolder = DiskPath(QDir::cleanPath(programFolder + QStringLiteral("/" ZERIMO_SHARE_FOLDER)));
-  around.DocumentsFolder = DiskPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-  return around;
+  surroundings.ProgramFolder = DiskPath(programFolder);
+  surroundings.CanWriteIntoProgramFolder = CanWriteInto(surroundings.ProgramFolder);
+  surroundings.ShareFolder = DiskPath(QDir::cleanPath(programFolder + QStringLiteral("/" ZERIMO_SHARE_FOLDER)));
+  surroundings.DocumentsFolder = DiskPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  return surroundings;
 }
 
 std::string WordsAbout(const StartFolder& start) {

@@ -15,10 +15,10 @@ class StartFolderTest : public ::testing::Test {
  protected:
   StartFolderTest() {
     Temp.MakeFolder("bin");
-    around.ProgramFolder = Temp.Path / "bin";
-    around.CanWriteIntoProgramFolder = true;
-    around.ShareFolder = Temp.Path / "share";
-    around.DocumentsFolder = Temp.Path / "documents";
+    surroundings.ProgramFolder = Temp.Path / "bin";
+    surroundings.CanWriteIntoProgramFolder = true;
+    surroundings.ShareFolder = Temp.Path / "share";
+    surroundings.DocumentsFolder = Temp.Path / "documents";
   }
 
   void GiveFilesTo(const std::string& folder) const {
@@ -27,12 +27,12 @@ class StartFolderTest : public ::testing::Test {
   }
 
   TempFolder Temp;
-  Surroundings around;
+  Surroundings surroundings;
 };
 
 TEST_F(StartFolderTest, APortableProgramWorksInItsOwnFolder) {
   GiveFilesTo("bin");
-  const StartFolder start = PrepareStartFolder(around);
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "bin");
   EXPECT_FALSE(start.IsCurrentFolder);
   EXPECT_TRUE(start.Unusable.empty());
@@ -42,17 +42,17 @@ TEST_F(StartFolderTest, APortableProgramWorksInItsOwnFolder) {
 TEST_F(StartFolderTest, APortableProgramTakesNoNoticeOfAnInstalledOne) {
   GiveFilesTo("bin");
   GiveFilesTo("share");
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "bin");
+  EXPECT_EQ(PrepareStartFolder(surroundings).Folder, Temp.Path / "bin");
 }
 
 TEST_F(StartFolderTest, AProgramWithNothingAroundItWorksInItsOwnFolder) {
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "bin");
+  EXPECT_EQ(PrepareStartFolder(surroundings).Folder, Temp.Path / "bin");
 }
 
 TEST_F(StartFolderTest, AnInstalledProgramWorksInTheDocuments) {
   GiveFilesTo("share");
-  around.CanWriteIntoProgramFolder = false;
-  const StartFolder start = PrepareStartFolder(around);
+  surroundings.CanWriteIntoProgramFolder = false;
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_TRUE(start.IsCurrentFolder);
   EXPECT_TRUE(start.Unusable.empty());
@@ -62,20 +62,20 @@ TEST_F(StartFolderTest, AnInstalledProgramWorksInTheDocuments) {
 
 TEST_F(StartFolderTest, AnInstalledProgramWorksInTheDocumentsAlsoForOneWhoMayWriteEverywhere) {
   GiveFilesTo("share");
-  EXPECT_EQ(PrepareStartFolder(around).Folder, Temp.Path / "documents/Zerimo");
+  EXPECT_EQ(PrepareStartFolder(surroundings).Folder, Temp.Path / "documents/Zerimo");
 }
 
 TEST_F(StartFolderTest, APortableProgramThatCanNotBeWrittenWorksInTheDocuments) {
   GiveFilesTo("bin");
-  around.CanWriteIntoProgramFolder = false;
-  const StartFolder start = PrepareStartFolder(around);
+  surroundings.CanWriteIntoProgramFolder = false;
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_EQ(Temp.Read("documents/Zerimo/FLOWER.ZRM"), "flower");
 }
 
 TEST_F(StartFolderTest, NothingToFillTheFolderFromLeavesItEmpty) {
-  around.CanWriteIntoProgramFolder = false;
-  const StartFolder start = PrepareStartFolder(around);
+  surroundings.CanWriteIntoProgramFolder = false;
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_TRUE(start.Unusable.empty());
   EXPECT_EQ(Temp.Count("documents/Zerimo"), 0);
@@ -83,8 +83,8 @@ TEST_F(StartFolderTest, NothingToFillTheFolderFromLeavesItEmpty) {
 
 TEST_F(StartFolderTest, ADocumentsFolderMayHaveBlanksAndUmlautsInItsName) {
   GiveFilesTo("share");
-  around.DocumentsFolder = Temp.Path / u8"Jörg Müller" / u8"Eigene Öfen";
-  const StartFolder start = PrepareStartFolder(around);
+  surroundings.DocumentsFolder = Temp.Path / u8"Jörg Müller" / u8"Eigene Öfen";
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / u8"Jörg Müller" / u8"Eigene Öfen" / "Zerimo");
   EXPECT_TRUE(fs::exists(start.Folder / "ZMHELP" / "FD"));
 }
@@ -92,7 +92,7 @@ TEST_F(StartFolderTest, ADocumentsFolderMayHaveBlanksAndUmlautsInItsName) {
 TEST_F(StartFolderTest, DocumentsThatCanNotBeWrittenLeaveTheInstalledFiles) {
   GiveFilesTo("share");
   Temp.Write("documents", "a file in its place");
-  const StartFolder start = PrepareStartFolder(around);
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "share");
   EXPECT_TRUE(start.IsCurrentFolder);
   EXPECT_EQ(start.Unusable, Temp.Path / "documents/Zerimo");
@@ -100,13 +100,13 @@ TEST_F(StartFolderTest, DocumentsThatCanNotBeWrittenLeaveTheInstalledFiles) {
 
 TEST_F(StartFolderTest, AFolderWithTheHelpPagesIsUsedAlsoIfNotAllCanBeWritten) {
   GiveFilesTo("share");
-  PrepareStartFolder(around);
+  PrepareStartFolder(surroundings);
   Temp.Write("share/ZMHELP/NEW", "new page");
   Temp.Write("share/TREE.ZRM", "tree");
   fs::remove(Temp.Path / "documents/Zerimo/.zerimo-files");
   // A folder in the place of the list can't be replaced by it.
   Temp.Write("documents/Zerimo/.zerimo-files/x", "");
-  const StartFolder start = PrepareStartFolder(around);
+  const StartFolder start = PrepareStartFolder(surroundings);
   EXPECT_EQ(start.Folder, Temp.Path / "documents/Zerimo");
   EXPECT_EQ(start.Unusable, Temp.Path / "documents/Zerimo");
   EXPECT_TRUE(Temp.Has("documents/Zerimo/ZMHELP/NEW"));
