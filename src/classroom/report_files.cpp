@@ -3,11 +3,12 @@
 #include <set>
 
 #include "batch/errors.h"
+#include "batch/memory_limit.h"
 #include "classroom/marks.h"
 #include "classroom/page_html.h"
 #include "classroom/readable.h"
+#include "classroom/record.h"
 #include "classroom/report_page.h"
-#include "classroom/summary.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -42,7 +43,30 @@ std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   return file + ".html";
 }
 
+template <typename Number>
+Json LimitOrNull(Number limit) {
+  return limit == 0 ? Json() : Json(limit);
+}
+
+Json LimitsOf(const RunLimits& limits) {
+  return {{"seconds", LimitOrNull(limits.Seconds)},
+          {"steps", LimitOrNull(limits.Steps)},
+          {"megabytes", LimitOrNull(batch::MemoryLimit::IsThere() ? limits.Memory : 0)}};
+}
+
 }  // namespace
+
+QByteArray SummaryOf(const Report& report) {
+  Json pupils = Json::array();
+  for (const PupilRun& run : report.Runs) pupils.push_back(JsonOf(run));
+  return QByteArray::fromStdString(Indented({{"format", 1},
+                                             {"version", 2},
+                                             {"program", "zerimo-batch " + report.Version.toStdString()},
+                                             {"made", ValueOf(report.Made)},
+                                             {"folder", ValueOf(report.Folder)},
+                                             {"limits", LimitsOf(report.Limits)},
+                                             {"pupils", pupils}}));
+}
 
 ReportFiles::ReportFiles(const ClassOptions& options) : options_(options) {
   if (!options.Report.empty()) page_ = WritablePlace("--out", options.Report);

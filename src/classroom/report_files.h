@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <filesystem>
 
@@ -7,6 +8,9 @@
 #include "classroom/report.h"
 
 namespace zerimo::classroom {
+
+/// A class run for other programs, as JSON in UTF-8.
+QByteArray SummaryOf(const Report& report);
 
 /// The files that a class run writes: the page, its summary, the marks and the pupils' pages.
 class ReportFiles {

@@ -1,9 +1,12 @@
 #include "desktop/desktop_text.h"
 
+#include <QKeyEvent>
 #include <QStringList>
 #include <algorithm>
 #include <array>
 #include <cmath>
+
+#include "console/keys.h"
 
 namespace zerimo {
 
@@ -28,6 +31,19 @@ constexpr std::array<PlainTwin, 9> PlainTwins = {{
     {u'\u2013', u'-'},
     {u'\u2212', u'-'},
     {u'\u202F', u' '},
+}};
+
+struct KeyPair {
+  int Toolkit;
+  int System;
+};
+
+constexpr std::array<KeyPair, 5> KnownKeys = {{
+    {Qt::Key_Return, key::Enter},
+    {Qt::Key_Enter, key::Enter},
+    {Qt::Key_Escape, key::Esc},
+    {Qt::Key_Up, key::Up},
+    {Qt::Key_Down, key::Down},
 }};
 
 QChar KnownCharacter(QChar character) {
@@ -74,6 +90,13 @@ std::string WithCarriageReturns(const QString& text) {
   QString lines = text;
   lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
   return ToSystemText(lines);
+}
+
+int KeyCode(const QKeyEvent& event) {
+  const int toolkit = event.key();
+  if (toolkit >= Qt::Key_F1 && toolkit <= Qt::Key_F12) return key::F1 + (toolkit - Qt::Key_F1);
+  const auto* const found = std::ranges::find(KnownKeys, toolkit, &KeyPair::Toolkit);
+  return found == KnownKeys.end() ? 0 : found->System;
 }
 
 QColor ToQColor(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }

@@ -8,7 +8,9 @@
 
 #include "controls/control_kinds.h"
 
-/// Conversions between the system's single-byte text, colours and point sizes and those of the toolkit.
+class QKeyEvent;
+
+/// Conversions between the system's single-byte text, keys, colours and point sizes and those of the toolkit.
 namespace zerimo {
 
 /// The program's name, which is also the title of boxes for which the system gives none.
@@ -23,6 +25,9 @@ std::string ToSystemText(const QString& text);
 /// Carriage returns, line feeds and pairs of them become the toolkit's line ends; the way back gives pairs.
 QString WithLineEnds(std::string_view text);
 std::string WithCarriageReturns(const QString& text);
+
+/// The system's code of a key, or 0 for one that it does not know.
+int KeyCode(const QKeyEvent& event);
 
 QColor ToQColor(Colour colour);
 /// Black or white, whichever is easier to read on a background.

@@ -14,7 +14,6 @@
 
 #include "console/keys.h"
 #include "desktop/desktop_text.h"
-#include "desktop/key_codes.h"
 #include "desktop/text_views.h"
 #include "desktop/title_picture.h"
 #include "graphics/surface.h"

@@ -6,7 +6,6 @@
 #include <ostream>
 
 #include "console/keys.h"
-#include "desktop/key_codes.h"
 
 namespace zerimo {
 namespace {

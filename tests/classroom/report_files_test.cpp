@@ -1,4 +1,4 @@
-#include "classroom/summary.h"
+#include "classroom/report_files.h"
 
 #include <gtest/gtest.h>
 
