@@ -199,12 +199,8 @@ TEST_F(FoldersTest, WhatCanNotBeWrittenFailsAndLeavesNothing) {
 
 TEST_F(FoldersTest, ADiskThatIsFullHalfWayLeavesTheFormerFile) {
   Temp.Write("BOX.ZRM", "FORMER");
-  std::optional<FailureKind> failure;
-  {
-    const FullDisk full(10000);
-    failure = FailureOf([&] { folders.WriteFile("BOX.ZRM", std::string(100000, 'A')); });
-  }
-  EXPECT_EQ(failure, FailureKind::FileAccess);
+  EXPECT_EQ(FailureOnFullDisk(10000, [&] { folders.WriteFile("BOX.ZRM", std::string(100000, 'A')); }),
+            FailureKind::FileAccess);
   EXPECT_EQ(Temp.Read("BOX.ZRM"), "FORMER");
   EXPECT_EQ(Temp.Count(), 1);
 }

@@ -173,10 +173,7 @@ TEST_F(PictureFiles, ACodedBitmapThatTellsNoSizeIsWholeWithItsEnd) {
 
 TEST_F(PictureFiles, ASmallPictureOnAFullDiskFailsAndLeavesTheFormerOne) {
   Write("P.BMP", "former");
-  {
-    const FullDisk full(20);
-    EXPECT_EQ(FailureOf([&] { canvas.SavePicture(Path("P.BMP"), 4, 4); }), FailureKind::FileAccess);
-  }
+  EXPECT_EQ(FailureOnFullDisk(20, [&] { canvas.SavePicture(Path("P.BMP"), 4, 4); }), FailureKind::FileAccess);
   EXPECT_EQ(Read("P.BMP"), "former");
 }
 

@@ -1,29 +1,36 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
+#include <optional>
+
+#include "support/failure_of.h"
 
 namespace zerimo {
 
-/// Keeps files from growing beyond a size, as a full disk does.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &former_);
-    const rlimit limit{size, former_.rlim_max};
+/// The kind of failure with which a statement fails where files can't grow beyond a size, as on a full disk, or nothing
+/// if it succeeds. It runs in a process of its own.
+template <typename Statement>
+std::optional<FailureKind> FailureOnFullDisk(rlim_t size, Statement&& statement) {
+  const pid_t child = fork();
+  if (child == 0) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = size;
     setrlimit(RLIMIT_FSIZE, &limit);
+    const std::optional<FailureKind> failure = FailureOf(statement);
+    _exit(failure ? 1 + static_cast<int>(*failure) : 0);
   }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &former_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit former_{};
-  void (*handler_)(int);
-};
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status));
+  const int told = WEXITSTATUS(status);
+  return told == 0 ? std::nullopt : std::optional(static_cast<FailureKind>(told - 1));
+}
 
 }  // namespace zerimo
