@@ -132,7 +132,7 @@ std::string_view WriteNumber(double number, NumberBuffer& buffer) {
   constexpr double exponentFormFrom = 1E15;
   char* const first = buffer.data();
   char* const last = first + buffer.size();
-  if (std::abs(number) < exponentFormFrom && number == std::trunc(number)) {
+  if (std::abs(number) < exponentFormFrom && IsWhole(number)) {
     const char* const end = std::to_chars(first, last, static_cast<std::int64_t>(number)).ptr;
     return {first, static_cast<std::size_t>(end - first)};
   }
@@ -161,6 +161,9 @@ std::string StrTrimmed(double number) {
 }
 
 double RoundHalfEven(double number) {
+  // Most numbers are whole, and then nothing is to be rounded.
+  constexpr double wholeBelow = 1E15;
+  if (std::abs(number) < wholeBelow && IsWhole(number)) return number;
   if (std::isnan(number)) throw Failure(FailureKind::Overflow);
   const double below = std::floor(number);
   const double rest = number - below;

@@ -27,6 +27,9 @@ std::string Str(double number);
 /// `Str` without the leading blank.
 std::string StrTrimmed(double number);
 
+/// Whether a number has no decimals. It must be within 64 bits.
+inline bool IsWhole(double number) noexcept { return static_cast<double>(static_cast<std::int64_t>(number)) == number; }
+
 /// To the nearest whole number, a half going to the even neighbour. Not-a-number fails (overflow).
 double RoundHalfEven(double number);
 

@@ -22,6 +22,7 @@ char Capital(char character) noexcept {
 }  // namespace
 
 std::string_view Trimmed(std::string_view text) noexcept {
+  if (!text.empty() && text.front() != ' ' && text.back() != ' ') return text;
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
