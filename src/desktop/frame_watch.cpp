@@ -9,9 +9,9 @@ namespace zerimo {
 namespace {
 
 constexpr std::chrono::milliseconds Frame{16};
-/// Small loops read the clock once in this many rounds.
-constexpr unsigned TicksPerLook = 16;
-/// Showing takes at most a quarter of the time.
+/// For thirty pictures a second.
+constexpr std::chrono::milliseconds LongestFrame{33};
+/// Showing takes at most a quarter of the time, unless that would leave too few pictures.
 constexpr int ShareOfShowing = 4;
 
 }  // namespace
@@ -27,15 +27,13 @@ void FrameWatch::Step() {
     const auto step = OnStep;
     step();
   }
-  Look();
-}
-
-void FrameWatch::Tick() {
-  if (++ticks_ % TicksPerLook == 0) Look();
+  LookNowAndThen();
 }
 
 void FrameWatch::Look() {
-  if (stage_.IsRunning() && Clock::now() >= nextFrame_) ShowFrame();
+  const Clock::time_point now = Clock::now();
+  looks_.Looked(now);
+  if (stage_.IsRunning() && now >= nextFrame_) ShowFrame();
 }
 
 void FrameWatch::ShowFrame() {
@@ -43,8 +41,10 @@ void FrameWatch::ShowFrame() {
   const Clock::time_point start = Clock::now();
   stage_.ShowState();
   FreeWideRegisters();
-  const Clock::time_point end = Clock::now();
-  nextFrame_ = std::max(start + Frame, end + (ShareOfShowing - 1) * (end - start));
+  const Clock::duration took = Clock::now() - start;
+  // Where pictures are slow, the run gets as much time as they do.
+  nextFrame_ = start + std::clamp<Clock::duration>(ShareOfShowing * took, Frame,
+                                                   std::max<Clock::duration>(LongestFrame, 2 * took));
 }
 
 }  // namespace zerimo

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "base/watch.h"
+#include "desktop/clock_looks.h"
 #include "desktop/memory_in_use.h"
 #include "desktop/stage.h"
 
@@ -20,7 +21,7 @@ class FrameWatch : public Watch {
   void Begin();
 
   void Step() override;
-  void Tick() override;
+  void Tick() override { LookNowAndThen(); }
 
   /// Called before each step of a walk, if set.
   std::function<void()> OnStep;
@@ -29,13 +30,16 @@ class FrameWatch : public Watch {
   std::uint64_t MostMemory = MemoryToSpare();
 
  private:
-  using Clock = std::chrono::steady_clock;
+  using Clock = ClockLooks::Clock;
+  void LookNowAndThen() {
+    if (looks_.IsDue()) Look();
+  }
   void Look();
   void ShowFrame();
 
   Stage& stage_;
   Clock::time_point nextFrame_;
-  unsigned ticks_ = 0;
+  ClockLooks looks_;
 };
 
 }  // namespace zerimo
