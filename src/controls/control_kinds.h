@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "controls/late_number.h"
 #include "controls/late_text.h"
 
 /// The controls of the window as plain data. The system reads and writes these; a shell shows them and turns the
@@ -67,8 +68,8 @@ class Control {
   /// Whether it and all panels that hold it are visible.
   bool IsOnScreen() const noexcept;
 
-  float Left = 0;
-  float Top = 0;
+  LateNumber Left;
+  LateNumber Top;
   float Width = 0;
 
   float Height() const noexcept { return height; }
@@ -213,10 +214,10 @@ class Shape : public Control {
 class LightLine : public Control {
  public:
   using Control::Control;
-  float X1 = 0;
-  float Y1 = 0;
-  float X2 = 0;
-  float Y2 = 0;
+  LateNumber X1;
+  LateNumber Y1;
+  LateNumber X2;
+  LateNumber Y2;
   Colour BorderColor = 0;
   /// Pixels.
   int BorderWidth = 1;

@@ -27,15 +27,41 @@ void PlaceLine(LightLine& line, FigurePoint from, FigurePoint to) {
   line.Y2 = ToSingle(to.Y);
 }
 
+/// Whether all places of the figure are far inside the range of singles.
+bool CanNotFail(double x, double y, double dir) {
+  constexpr double far = 1E30;
+  return std::abs(x) < far && std::abs(y) < far && std::isfinite(dir);
+}
+
 }  // namespace
+
+TurtleFigure::TurtleFigure(Controls& controls) : controls_(controls) {
+  controls_.Shape2.Left.LeaveTo(*this);
+  controls_.Shape2.Top.LeaveTo(*this);
+  for (LightLine* line : {&controls_.Line1, &controls_.Line2, &controls_.Line3}) {
+    for (LateNumber* number : {&line->X1, &line->Y1, &line->X2, &line->Y2}) number->LeaveTo(*this);
+  }
+}
 
 void TurtleFigure::TurtlePos(double x, double y, double dir) {
   const Place place{x, y, dir};
   if (place == place_) return;
-  // A move that fails has moved part of the figure: the next one must move all of it.
+  if (place_ && CanNotFail(x, y, dir)) {
+    place_ = place;
+    isBehind_ = true;
+    return;
+  }
+  CatchUp();
+  // A move that fails has moved some of it: the next one moves all.
   place_.reset();
   MoveTo(place);  // Leaves.
   place_ = place;
+}
+
+void TurtleFigure::CatchUp() {
+  if (!isBehind_) return;
+  isBehind_ = false;
+  MoveTo(*place_);
 }
 
 void TurtleFigure::MoveTo(const Place& place) {

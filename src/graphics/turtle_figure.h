@@ -7,10 +7,14 @@
 
 namespace zerimo {
 
-/// The four lightweight controls over the surface that show the turtle. They are moved, never painted into the picture.
-class TurtleFigure {
+/// The four lightweight controls over the surface that show the turtle. They are moved, never painted into the picture,
+/// and moved only when somebody looks where they are.
+class TurtleFigure : PutOff {
  public:
-  explicit TurtleFigure(Controls& controls) : controls_(controls) {}
+  explicit TurtleFigure(Controls& controls);
+  ~TurtleFigure() override = default;
+  TurtleFigure(const TurtleFigure&) = delete;
+  TurtleFigure& operator=(const TurtleFigure&) = delete;
 
   /// Moves the figure: a position in surface units and a heading in radians.
   void TurtlePos(double x, double y, double dir);
@@ -29,12 +33,15 @@ class TurtleFigure {
     double Dir;
     bool operator==(const Place&) const = default;
   };
+  /// Never fails: a move that could is not put off.
+  void CatchUp() override;
   void MoveTo(const Place& place);
   void SetColour(Colour colour) noexcept;
 
   Controls& controls_;
   /// Where the figure is; nothing else moves it.
   std::optional<Place> place_;
+  bool isBehind_ = false;
 };
 
 }  // namespace zerimo

@@ -51,6 +51,17 @@ TEST_F(TurtleFigureTest, DrawsNothing) { EXPECT_EQ(Do("REFRESH"), Nothing); }
 
 TEST_F(TurtleFigureTest, PositionBeyondSinglesFails) { EXPECT_THROW(turtleFigure.TurtlePos(1E300, 0, 0), Failure); }
 
+TEST_F(TurtleFigureTest, AMoveThatFailsMovesSomeOfItFromTheLastPlace) {
+  turtleFigure.TurtlePos(1000, 2000, 0);
+  turtleFigure.TurtlePos(1500, 2000, 0);
+  EXPECT_THROW(turtleFigure.TurtlePos(1E300, 0, 0), Failure);
+  EXPECT_NEAR(controls.Shape2.Left, 1420, 0.01);
+  EXPECT_NEAR(controls.Line2.X1, 1500, 0.01);
+  turtleFigure.TurtlePos(1500, 2000, 0);
+  turtleFigure.TurtlePos(1600, 2000, 0);
+  EXPECT_NEAR(controls.Shape2.Left, 1520, 0.01);
+}
+
 TEST_F(TurtleFigureTest, TurtleColorReducesTheCallersNumber) {
   double code = 17;
   turtleFigure.TurtleColor(code);
