@@ -27,7 +27,7 @@ std::string_view WithoutLastComponent(std::string_view path) {
 
 const std::string& ControlPath::CtrlStr() const {
   if (!textIsMade_) {
-    text_ = head_ + (reached_->Form == Lead::Blank ? Str(reached_->Line) : StrTrimmed(reached_->Line));
+    text_ = head_ + (reached_.Form == Lead::Blank ? Str(reached_.Line) : StrTrimmed(reached_.Line));
     textIsMade_ = true;
   }
   return text_;
@@ -35,20 +35,20 @@ const std::string& ControlPath::CtrlStr() const {
 
 void ControlPath::SetCtrlStr(std::string text) {
   head_ = FirstPartExtractor(text);
-  reached_ = head_.empty() ? std::nullopt : ReadReached(std::string_view(text).substr(head_.size()));
+  reached_ = head_.empty() ? Reached{} : ReadReached(std::string_view(text).substr(head_.size()));
   text_ = std::move(text);
   textIsMade_ = true;
-  if (!reached_) head_ = text_;
+  if (!reached_.IsKnown()) head_ = text_;
   HeadHasChanged();
 }
 
 /// Reads only what `WriteLine` writes: other spellings of a number stay text.
-std::optional<ControlPath::Reached> ControlPath::ReadReached(std::string_view text) {
+ControlPath::Reached ControlPath::ReadReached(std::string_view text) {
   constexpr std::size_t mostDigits = 9;
   const Lead form = text.starts_with(' ') ? Lead::Blank : Lead::None;
   const std::string_view digits = text.substr(form == Lead::Blank ? 1 : 0);
-  if (digits.empty() || digits.size() > mostDigits || (digits.front() == '0' && digits.size() > 1)) return std::nullopt;
-  if (digits.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
+  if (digits.empty() || digits.size() > mostDigits || (digits.front() == '0' && digits.size() > 1)) return {};
+  if (digits.find_first_not_of("0123456789") != std::string_view::npos) return {};
   Reached reached{0, form};
   std::from_chars(digits.data(), digits.data() + digits.size(), reached.Line);
   return reached;
@@ -56,20 +56,17 @@ std::optional<ControlPath::Reached> ControlPath::ReadReached(std::string_view te
 
 void ControlPath::HeadHasChanged() {
   procedureName_.clear();
-  recursionAt_.reset();
+  recursionAt_ = {};
   SkipOnFailure([&] { procedureName_ = CurrentProcedureName(); });
-  if (!reached_) return;
+  procedureNumber_ = FindOrMake(numbers_, procedureName_, [this] { return ++lastNumber_; });
+  if (!reached_.IsKnown()) return;
   const std::string_view last = LastComponent(head_);
   const std::string_view before = LastComponent(WithoutLastComponent(head_));
   if (before.starts_with(last)) recursionAt_ = ReadReached(before.substr(last.size()));
 }
 
-void ControlPath::WriteLine(int line, Lead lead) {
-  if (!reached_ || line < 0) {
-    return SetCtrlStr(FirstPartExtractor(CtrlStr()) + (lead == Lead::Blank ? Str(line) : StrTrimmed(line)));
-  }
-  reached_ = Reached{line, lead};
-  textIsMade_ = false;
+void ControlPath::WriteAsText(int line, Lead lead) {
+  SetCtrlStr(FirstPartExtractor(CtrlStr()) + (lead == Lead::Blank ? Str(line) : StrTrimmed(line)));
 }
 
 void ControlPath::Enter(int callLine, std::string_view procedure, int firstLine) {
@@ -87,20 +84,16 @@ bool ControlPath::Leave() {
   return true;
 }
 
-std::int16_t ControlPath::LineReached() const {
-  return reached_ ? ToInt16(reached_->Line) : EndValExtractor(CtrlStr());
+std::int16_t ControlPath::ReadLine() const {
+  return reached_.IsKnown() ? ToInt16(reached_.Line) : EndValExtractor(CtrlStr());
 }
 
-void ControlPath::Tidy() {
-  const bool isAsWritten = reached_ && !head_.starts_with(' ');
-  if (isAsWritten && reached_ != recursionAt_) return;
+void ControlPath::TidyText() {
   if (CtrlStr() == "1") SetCtrlStr(".");
   std::string text(Trimmed(CtrlStr()));
   SkipOnFailure([&] { text = RecursionChecker(text); });
   SetCtrlStr(std::move(text));
 }
-
-bool ControlPath::NothingRuns() const { return !reached_ && (head_ == "." || head_ == " " || head_.empty()); }
 
 std::string ControlPath::CurrentProcedureName() const {
   if (head_ == ".") return {};

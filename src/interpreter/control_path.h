@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
+
+#include "interpreter/since_change.h"
 
 namespace zerimo {
 
@@ -24,7 +25,11 @@ class ControlPath {
   void SetCtrlStr(std::string text);
 
   /// Writes a line number after the first part of the path (`FirstPartExtractor`). Never fails.
-  void WriteLine(int line, Lead lead);
+  void WriteLine(int line, Lead lead) {
+    if (!reached_.IsKnown() || line < 0) return WriteAsText(line, lead);
+    reached_ = {line, lead};
+    textIsMade_ = false;
+  }
 
   /// A call: the line of the call in place of the last number, then the procedure and its first line. Never fails.
   void Enter(int callLine, std::string_view procedure, int firstLine);
@@ -33,13 +38,18 @@ class ControlPath {
   bool Leave();
 
   /// The line reached (`EndValExtractor`).
-  std::int16_t LineReached() const;
+  std::int16_t LineReached() const {
+    return reached_.IsKnown() && reached_.Line <= INT16_MAX ? static_cast<std::int16_t>(reached_.Line) : ReadLine();
+  }
 
   /// Trims the path and drops its last component if it is the same text as the one before it (`RecursionChecker`).
   /// Never fails.
-  void Tidy();
+  void Tidy() {
+    const bool isTidy = reached_.IsKnown() && reached_ != recursionAt_ && !head_.starts_with(' ');
+    if (!isTidy) TidyText();
+  }
 
-  bool NothingRuns() const;
+  bool NothingRuns() const { return !reached_.IsKnown() && (head_ == "." || head_ == " " || head_.empty()); }
 
   /// Name of the procedure whose locals are being made or removed.
   std::string CurProcName;
@@ -51,24 +61,35 @@ class ControlPath {
   /// The same, empty where that fails.
   const std::string& ProcedureName() const noexcept { return procedureName_; }
 
+  /// A number for that name: equal numbers stand for equal names as long as the system runs.
+  std::uint32_t ProcedureNumber() const { return procedureNumber_; }
+
  private:
+  /// A line number at the end of the path, if the path has that form.
   struct Reached {
-    int Line;
-    Lead Form;
+    int Line = -1;
+    Lead Form = Lead::None;
+    bool IsKnown() const { return Line >= 0; }
     bool operator==(const Reached&) const = default;
   };
-  static std::optional<Reached> ReadReached(std::string_view text);
+  static Reached ReadReached(std::string_view text);
+  void WriteAsText(int line, Lead lead);
+  std::int16_t ReadLine() const;
+  void TidyText();
   void HeadHasChanged();
 
-  /// The head if `reached_` is set, otherwise the whole path.
+  /// The head if the line reached is known, otherwise the whole path.
   std::string head_ = ".";
-  std::optional<Reached> reached_;
+  Reached reached_;
   mutable std::string text_ = ".";
   mutable bool textIsMade_ = true;
   // Derived from the head.
   std::string procedureName_;
-  /// The line at which the last two components are the same text.
-  std::optional<Reached> recursionAt_;
+  std::uint32_t procedureNumber_ = 0;
+  /// The line at which the last two components are the same text, if there is one.
+  Reached recursionAt_;
+  TextMap<std::uint32_t> numbers_;
+  std::uint32_t lastNumber_ = 0;
 };
 
 /// The text up to and including its last "-"; no "-" gives the empty text. Never fails.
