@@ -52,9 +52,9 @@ void TextBox::ReadProperties(const PropertyReader& read) const {
 }
 
 const std::vector<std::string>& ListBox::Items() const {
-  if (pending_) {
-    items_ = pending_();
-    pending_ = nullptr;
+  if (isPutOff_) {
+    isPutOff_ = false;
+    items_ = Fill();
   }
   return items_;
 }
@@ -67,17 +67,11 @@ void ListBox::Add(std::string item) {
 }
 
 void ListBox::Clear() {
-  pending_ = nullptr;
+  isPutOff_ = false;
   items_.clear();
   ++version_;
   ++clearings_;
   if (OnChange) OnChange(nullptr);
-}
-
-void ListBox::SetLazily(std::function<std::vector<std::string>()> fill) noexcept {
-  pending_ = std::move(fill);
-  ++version_;
-  ++clearings_;
 }
 
 void ListBox::ReadProperties(const PropertyReader& read) const {

@@ -123,9 +123,14 @@ class ListBox : public Control {
   void Add(std::string item);
   void Clear();
 
-  /// Puts off filling the list: `fill` is called when the items are first asked for. It must then return the items as
-  /// of now.
-  void SetLazily(std::function<std::vector<std::string>()> fill) noexcept;
+  /// Fills the list if that was put off. It must return the items as of the time when it was put off.
+  std::function<std::vector<std::string>()> Fill;
+  /// Puts off filling the list until the items are asked for.
+  void FillLater() noexcept {
+    isPutOff_ = true;
+    ++version_;
+    ++clearings_;
+  }
 
   std::uint64_t Version() const noexcept { return version_; }
   /// Counts the clearings, so that a shell knows whether a new version only adds to the end of the old one.
@@ -141,7 +146,7 @@ class ListBox : public Control {
 
  private:
   mutable std::vector<std::string> items_;
-  mutable std::function<std::vector<std::string>()> pending_;
+  mutable bool isPutOff_ = false;
   std::uint64_t version_ = 0;
   std::uint64_t clearings_ = 0;
 };

@@ -32,7 +32,7 @@ void Colours::SetPC(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::SetPC)) return;
   Turtle& turtle = context_.turtle;
   Surface& surface = context_.Picture1;
-  const double number = context_.arguments.Number(call.Rest);
+  const double number = context_.arguments.Number(call);
   SkipOnFailure([&] { turtle.PenColor = ToByte(ColourCode(number)); });
   if (turtle.PenState == PenPosition::Down || turtle.PenState == PenPosition::Up) {
     SkipOnFailure([&] { surface.SetForeColor(QBColor(turtle.PenColor)); });
@@ -51,7 +51,7 @@ void Colours::SetBG(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::SetBG)) return;
   Turtle& turtle = context_.turtle;
   Surface& surface = context_.Picture1;
-  const double number = context_.arguments.Number(call.Rest);
+  const double number = context_.arguments.Number(call);
   // A negative code is kept, and every use of it fails until the next SETBG.
   SkipOnFailure([&] { turtle.BGColor = ColourCode(number); });
   SkipOnFailure([&] { surface.SetBackColor(QBColor(turtle.BGColor)); });
@@ -63,7 +63,7 @@ void Colours::SetBG(PrimitiveCall& call) {
 
 void Colours::TextColor(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextColor)) return;
-  const double number = context_.arguments.Number(call.Rest);
+  const double number = context_.arguments.Number(call);
   // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.ForeColor = QBColor(ColourCode(number)); });
   SelectSquare(number);
@@ -72,7 +72,7 @@ void Colours::TextColor(PrimitiveCall& call) {
 
 void Colours::TextBackground(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextBackground)) return;
-  const double number = context_.arguments.Number(call.Rest);
+  const double number = context_.arguments.Number(call);
   // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.BackColor = QBColor(ColourCode(number)); });
   SelectSquare(number);

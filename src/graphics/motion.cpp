@@ -48,14 +48,14 @@ void Motion::BindPen() {
 }
 
 void Motion::Forward(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call));
   // The input is evaluated before the test for a missing one, unlike in most primitives.
   if (context_.dispatch.TellMissingInput(call, Action::Forward)) return;
   MoveBy(distance);
 }
 
 void Motion::Back(PrimitiveCall& call) {
-  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call));
   if (context_.dispatch.TellMissingInput(call, Action::Back)) return;
   MoveBy(-distance);
 }
@@ -84,12 +84,12 @@ bool Motion::AdmitsMove(double x, double y) const {
 void Motion::Right(PrimitiveCall& call) {
   // After its box RT goes on and turns by 0.
   context_.dispatch.TellMissingInput(call, Action::Right);
-  Turn(context_.arguments.Number(call.Rest));
+  Turn(context_.arguments.Number(call));
 }
 
 void Motion::Left(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::Left)) return;
-  Turn(-context_.arguments.Number(call.Rest));
+  Turn(-context_.arguments.Number(call));
 }
 
 void Motion::Turn(double degrees) {
@@ -100,7 +100,7 @@ void Motion::Turn(double degrees) {
 void Motion::SetX(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::SetX)) return;
   Turtle& turtle = context_.turtle;
-  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call));
   double target = 0;
   SkipOnFailure([&] { target = Finite(context_.Picture1.Width / 2.0 + distance); });
   if (!AdmitsSetX(target)) return Refuse();
@@ -115,7 +115,7 @@ bool Motion::AdmitsSetX(double x) const noexcept {
 void Motion::SetY(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::SetY)) return;
   Turtle& turtle = context_.turtle;
-  const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
+  const double distance = StepsToUnits(turtle, context_.arguments.Number(call));
   double target = 0;
   SkipOnFailure([&] { target = Finite(context_.controls.Form1.Height() / 2.0 - distance); });
   if (!AdmitsSetY(target)) return Refuse();
@@ -159,7 +159,7 @@ void Motion::DrawTo(double x, double y) {
 void Motion::Refuse() { context_.services.MessageBox("The Zerimo Turtle can not move outside of the Fence"); }
 
 void Motion::Resolution(PrimitiveCall& call) {
-  double value = context_.arguments.Number(call.Rest);
+  double value = context_.arguments.Number(call);
   if (value == 0) value = 10;
   // After its box RESOLUTION goes on: a missing input gives 10.
   context_.dispatch.TellMissingInput(call, Action::Resolution);
@@ -199,13 +199,13 @@ void Motion::ShowFigure(bool visible) noexcept {
 
 void Motion::LineWidth(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::LineWidth)) return;
-  const double width = context_.arguments.Number(call.Rest);
+  const double width = context_.arguments.Number(call);
   SkipOnFailure([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
 }
 
 void Motion::DrawMode(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::DrawMode)) return;
-  const double mode = context_.arguments.Number(call.Rest);
+  const double mode = context_.arguments.Number(call);
   SkipOnFailure([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
 }
 

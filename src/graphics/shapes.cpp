@@ -140,7 +140,7 @@ void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing&
 
 void Shapes::StampCircle(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::StampCircle)) return;
-  const double radius = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
+  const double radius = StepsToUnits(context_.turtle, context_.arguments.Number(call));
   SkipOnFailure([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, radius); });
 }
 
@@ -181,14 +181,14 @@ void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
 }
 
 void Shapes::Fill(PrimitiveCall& call) {
-  const double number = context_.arguments.Number(call.Rest);
+  const double number = context_.arguments.Number(call);
   std::int32_t code = 0;
   SkipOnFailure([&] { code = ColourCode(number); });
   SkipOnFailure([&] { context_.Picture1.SetFillColor(QBColor(code)); });
 }
 
 void Shapes::FillStyle(PrimitiveCall& call) {
-  const std::int32_t number = LongNumber(context_.arguments.Number(call.Rest));
+  const std::int32_t number = LongNumber(context_.arguments.Number(call));
   SkipOnFailure([&] { context_.Picture1.SetFillStyle(number % 8); });
 }
 

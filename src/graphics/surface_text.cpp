@@ -16,7 +16,7 @@ void SurfaceText::Bind() {
 
 void SurfaceText::TextSize(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, Action::TextSize)) return;
-  const double size = context_.arguments.Number(call.Rest);
+  const double size = context_.arguments.Number(call);
   SkipOnFailure([&] { context_.Picture1.SetFontSize(size); });
 }
 
@@ -25,7 +25,7 @@ void SurfaceText::Write(PrimitiveCall& call) {
   if (IsQuoted(call.Rest)) {
     SkipOnFailure([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
   } else {
-    const double number = context_.arguments.Number(call.Rest);
+    const double number = context_.arguments.Number(call);
     context_.Picture1.Print(Str(number));
   }
 }

@@ -7,9 +7,9 @@
 
 namespace zerimo {
 
-double Arguments::Number(std::string_view input) const {
-  if (const auto value = variables_.Known().Value(input)) return *value;
-  std::string text(input);
+double Arguments::Number(const EvaluatedText& input) const {
+  if (const double known = variables_.Known().Value(input); IsNumber(known)) return known;
+  std::string text = input.Text();
   ReplaceNames(text);
   return Evaluate(std::move(text));
 }

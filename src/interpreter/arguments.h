@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "interpreter/arithmetic.h"
+#include "interpreter/primitive_call.h"
 #include "interpreter/variables.h"
 
 namespace zerimo {
@@ -18,7 +19,12 @@ class Arguments {
 
   /// The value of a text: XCOR and YCOR, locals, globals, arithmetic. What fails is skipped; a value that could not
   /// be computed is 0.
-  double Number(std::string_view input) const;
+  double Number(std::string_view input) const { return Number(variables_.Known(input)); }
+
+  /// The same for the whole input of a call, whatever the action has made of it.
+  double Number(const PrimitiveCall& call) const {
+    return call.Input != nullptr ? Number(*call.Input) : Number(call.Rest);
+  }
 
   /// The value of the n-th word of the caller's text, which `GiveWord` changes.
   double WordNumber(std::string& rest, int nthWord) const;
@@ -30,6 +36,8 @@ class Arguments {
   double Evaluate(std::string text) const;
 
  private:
+  double Number(const EvaluatedText& input) const;
+
   const Variables& variables_;
   const Arithmetic& arithmetic_;
 };

@@ -8,6 +8,8 @@
 
 namespace zerimo {
 
+std::string_view NameOfLabel(std::string_view jump) { return From(jump, 6); }  // Never fails.
+
 std::int16_t Conditionals::Ifprocessor(int lineNumber) {
   store_.FileDataCount = static_cast<std::int16_t>(store_.FirstEmptyLine() - 1);
   const Branches branches = BranchesOf(lineNumber);
@@ -18,9 +20,9 @@ std::int16_t Conditionals::Ifprocessor(int lineNumber) {
 }
 
 bool Conditionals::Holds(int lineNumber) const {
-  const std::string& text = store_.FormOf(lineNumber).Condition;
-  if (const auto holds = variables_.Known().Holds(text); holds && variables_.CoordinatesExist()) return *holds;
-  std::string condition = text;
+  const EvaluatedText& text = store_.FormOf(lineNumber).Condition;
+  if (const auto holds = variables_.KnownToHold(text)) return *holds;
+  std::string condition = text.Text();
   condition = variables_.ReplaceXcorAndYcor(condition);
   condition = variables_.VarValReplacer(condition);
   condition = variables_.GlobalVariableReplacer(condition);
@@ -28,11 +30,9 @@ bool Conditionals::Holds(int lineNumber) const {
 }
 
 Conditionals::Branches Conditionals::BranchesOf(int lineNumber) {
-  auto& known = branches_.Get(store_.Changes(), [] { return std::unordered_map<int, Branches>(); });
-  if (const auto found = known.find(lineNumber); found != known.end()) return found->second;
-  const Branches branches{FindElse(lineNumber), FindEndIf(lineNumber)};
-  known.emplace(lineNumber, branches);
-  return branches;
+  return branches_[static_cast<std::size_t>(lineNumber)].Get(store_.Changes(), [&] {
+    return Branches{FindElse(lineNumber), FindEndIf(lineNumber)};
+  });
 }
 
 int Conditionals::FindElse(int lineNumber) const {
@@ -71,12 +71,12 @@ int Conditionals::FindEndIf(int lineNumber) const {
   return 0;
 }
 
-std::int16_t Conditionals::LabelPos(std::string_view labelName) {
-  auto& known = labels_.Get(store_.Changes(), [] { return TextMap<std::int16_t>(); });
-  return FindOrMake(known, labelName, [&] { return FindLabel(labelName); });
+std::int16_t Conditionals::LabelOf(int lineNumber) {
+  return labels_[static_cast<std::size_t>(lineNumber)].Get(
+      store_.Changes(), [&] { return LabelPos(NameOfLabel(store_.Line(lineNumber))); });
 }
 
-std::int16_t Conditionals::FindLabel(std::string_view labelName) const {
+std::int16_t Conditionals::LabelPos(std::string_view labelName) const {
   const std::string wanted = "LABEL " + std::string(labelName);
   int found = 0;
   // There is no early exit: of several labels the last one wins.

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "interpreter/arithmetic.h"
 #include "interpreter/context.h"
@@ -11,6 +11,9 @@
 #include "interpreter/variables.h"
 
 namespace zerimo {
+
+/// What stands after the word of a `GOTO` line. Never fails.
+std::string_view NameOfLabel(std::string_view jump);
 
 /// `IF`, `ELSE`, `ENDIF` and labels, by scanning the neighbouring lines. Results are kept until a line changes.
 /// Behaviour: docs/interpreter.md, "IF, ELSE, ENDIF, GOTO, LABEL".
@@ -24,7 +27,10 @@ class Conditionals {
   std::int16_t Ifprocessor(int lineNumber);
 
   /// The number of the last line that is exactly "LABEL " and the name, or 0.
-  std::int16_t LabelPos(std::string_view labelName);
+  std::int16_t LabelPos(std::string_view labelName) const;
+
+  /// The same for the label of the `GOTO` on a line.
+  std::int16_t LabelOf(int lineNumber);
 
  private:
   struct Branches {
@@ -34,7 +40,6 @@ class Conditionals {
 
   bool Holds(int lineNumber) const;
   Branches BranchesOf(int lineNumber);
-  std::int16_t FindLabel(std::string_view labelName) const;
   /// The line of the `ELSE` that counts as this `IF`'s, or 0.
   int FindElse(int lineNumber) const;
   /// The line of the `ENDIF` of this `IF`, or 0.
@@ -43,8 +48,9 @@ class Conditionals {
   Store& store_;
   const Variables& variables_;
   const Arithmetic& arithmetic_;
-  SinceChange<std::unordered_map<int, Branches>> branches_;
-  SinceChange<TextMap<std::int16_t>> labels_;
+  /// By the number of the line.
+  std::vector<SinceChange<Branches>> branches_{Store::LineCount + 1};
+  std::vector<SinceChange<std::int16_t>> labels_{Store::LineCount + 1};
 };
 
 }  // namespace zerimo

@@ -62,14 +62,14 @@ class ControlPath {
   const std::string& ProcedureName() const noexcept { return procedureName_; }
 
   /// A number for that name: equal numbers stand for equal names as long as the system runs.
-  std::uint32_t ProcedureNumber() const { return procedureNumber_; }
+  std::uint32_t ProcedureNumber() const noexcept { return procedureNumber_; }
 
  private:
   /// A line number at the end of the path, if the path has that form.
   struct Reached {
     int Line = -1;
     Lead Form = Lead::None;
-    bool IsKnown() const { return Line >= 0; }
+    bool IsKnown() const noexcept { return Line >= 0; }
     bool operator==(const Reached&) const = default;
   };
   static Reached ReadReached(std::string_view text);

@@ -12,15 +12,13 @@ namespace {
 
 constexpr std::int16_t MostCounted = 32767;
 
-/// The line as a primitive sees it. Never fails.
+/// The line is trimmed.
 PrimitiveCall Split(const std::string& line) {
-  const int blank = PositionOf(line, " ");
-  const int wordEnd = blank == 0 ? Length(line) : blank;
+  const auto blank = line.find(' ');
   PrimitiveCall call;
-  call.CommandLine = line;
-  call.Word = std::string(Trimmed(Left(line, wordEnd)));
-  call.Rest = std::string(From(line, wordEnd + 1));
-  call.SavedRest = call.Rest;
+  call.Word = line.substr(0, blank);
+  if (blank != std::string::npos) call.Rest = line.substr(blank + 1);
+  call.InputIsMissing = call.Rest.empty() || call.Rest == " ";
   return call;
 }
 
@@ -32,12 +30,17 @@ void Dispatch::Bind(Action action, Handler handler) noexcept {
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
-  Execute(commandLine, ActionOf(commandLine));
+  PrimitiveCall call = Split(commandLine);
+  CarryOut(call, ActionOf(commandLine));
 }
 
-void Dispatch::Execute(const std::string& line, Action action) {
-  // An action may overwrite the line in the store, so the call keeps a copy.
+void Dispatch::Execute(const std::string& line, const LineForm& form) {
   PrimitiveCall call = Split(line);
+  call.Input = &form.Input;
+  CarryOut(call, form.Primitive);
+}
+
+void Dispatch::CarryOut(PrimitiveCall& call, Action action) {
   if (action != Action::None) {
     const Handler& handler = handlers_[static_cast<std::size_t>(action)];
     SkipOnFailure([&] {
@@ -53,7 +56,7 @@ void Dispatch::Execute(const std::string& line, Action action) {
 
 bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
   const MissingInput missing = FactsOf(action).Missing;
-  if (missing == MissingInput::NoTest || !call.InputIsMissing()) return false;
+  if (missing == MissingInput::NoTest || !call.InputIsMissing) return false;
   const std::string text = "Required Paramiter Missing After " + call.Word;
   switch (missing) {
     case MissingInput::Information:

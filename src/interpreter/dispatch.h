@@ -7,26 +7,11 @@
 
 #include "base/services.h"
 #include "interpreter/arguments.h"
+#include "interpreter/line_form.h"
+#include "interpreter/primitive_call.h"
 #include "interpreter/word_table.h"
 
 namespace zerimo {
-
-/// The locals of one call of `Executor` that the actions share.
-struct PrimitiveCall {
-  /// The whole line, trimmed.
-  std::string CommandLine;
-  /// The first word.
-  std::string Word;
-  /// The text after the first word; an action may rewrite it.
-  std::string Rest;
-  /// The copy of Rest that the missing-input test looks at.
-  std::string SavedRest;
-  /// If an action sets it, a failing statement of the tail calls it instead of being skipped.
-  std::function<void()> OnFailure;
-
-  /// Whether the saved copy of Rest is the empty text or one blank.
-  bool InputIsMissing() const { return SavedRest.empty() || SavedRest == " "; }
-};
 
 /// Carries out primitive lines: the line and its first word are compared with each primitive's name, and the action
 /// bound to the name does the work. Runs under the skip rule; so do the actions, statement by statement.
@@ -47,7 +32,7 @@ class Dispatch {
   void Execute(std::string commandLine) { Executor(commandLine); }
 
   /// The same for a trimmed line whose action is known (`ActionOf`).
-  void Execute(const std::string& line, Action action);
+  void Execute(const std::string& line, const LineForm& form);
 
   /// If the input is missing, shows the box that says so. Returns whether it was missing.
   bool TellMissingInput(const PrimitiveCall& call, Action action);
@@ -63,6 +48,7 @@ class Dispatch {
   std::int16_t OverflowCount = 0;
 
  private:
+  void CarryOut(PrimitiveCall& call, Action action);
   void Tail(const PrimitiveCall& call);
   /// A full count fails each time; the failure is reported without being thrown.
   void CountFails(const PrimitiveCall& call);

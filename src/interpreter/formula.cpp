@@ -1,10 +1,11 @@
 #include "interpreter/formula.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
 #include "base/numbers.h"
-#include "interpreter/relations.h"
+#include "interpreter/operands.h"
 
 namespace zerimo {
 
@@ -13,6 +14,8 @@ namespace {
 /// A number beyond these has, or may have, an exponent in its text.
 constexpr double PlainBelow = 1E14;
 constexpr double PlainFrom = 0.001;
+/// The 15 digits of a larger number may be too large to be read.
+constexpr double ReadableBelow = 1E308;
 
 bool IsPlain(double number) {
   const double size = std::abs(number);
@@ -22,88 +25,80 @@ bool IsPlain(double number) {
 /// A number after it has been written as text and read back.
 double ThroughText(double number) {
   // Added to 0, so that no minus zero is left.
-  if (std::abs(number) < PlainBelow && number == std::trunc(number)) return number + 0.0;
+  if (std::abs(number) < PlainBelow && IsWhole(number)) return number + 0.0;
   return Val(Str(number));
 }
 
-std::optional<double> Remainder(double left, double right) {
+double Remainder(double left, double right) {
   constexpr double wholeBelow = 2147483647;
   const double dividend = std::floor(left);
   const double divisor = std::floor(right);
-  if (!(std::abs(dividend) < wholeBelow && std::abs(divisor) < wholeBelow) || divisor == 0) return std::nullopt;
+  if (!(std::abs(dividend) < wholeBelow && std::abs(divisor) < wholeBelow) || divisor == 0) return NoNumber;
   return static_cast<double>(static_cast<std::int64_t>(dividend) % static_cast<std::int64_t>(divisor));
 }
 
-std::optional<double> Perform(char op, double left, double right) {
+double Perform(char op, double left, double right) {
   if (op == '%') return Remainder(left, right);
-  if (op == '/' && right == 0) return std::nullopt;
+  if (op == '/' && right == 0) return NoNumber;
   const double result = op == '/' ? left / right : left * right;
-  if (!std::isfinite(result)) return std::nullopt;
-  return ThroughText(result);
+  return std::abs(result) < ReadableBelow ? ThroughText(result) : NoNumber;
 }
 
 /// Works out one side of a condition, or an expression.
 class Evaluation {
  public:
-  explicit Evaluation(const OperandSource& source) : source_(source) {}
+  explicit Evaluation(const Operands& operands) : operands_(operands) {}
 
-  std::optional<double> Of(const Formula::Side& side) {
-    std::optional<double> value;
-    for (std::size_t number = 0; number < side.size(); ++number) {
-      value = Of(side[number]);
-      if (!value) return std::nullopt;
-      if (number + 1 == side.size()) break;
+  double Of(const Formula::Side& side) {
+    if (IsNumber(side.Known)) return side.Known;
+    const std::size_t brackets = side.Sums.size() - 1;
+    for (std::size_t number = 0; number < brackets; ++number) {
       // A bracket's value is pasted as text.
-      brackets_[number] = ThroughText(*value);
-      if (!IsPlain(brackets_[number])) return std::nullopt;
+      const double value = Of(side.Sums[number]);
+      if (!IsNumber(value)) return NoNumber;
+      brackets_[number] = ThroughText(value);
+      if (!IsPlain(brackets_[number])) return NoNumber;
     }
-    return value;
+    return Of(side.Sums.back());
   }
 
  private:
-  std::optional<double> Of(const Formula::Sum& sum) {
+  double Of(const Formula::Sum& sum) {
     double total = 0;
     for (std::size_t at = 0; at < sum.size(); ++at) {
       const Formula::Term& term = sum[at];
-      bool subtracts = term.Sign == '-';
-      if (!ReadFactors(term)) return std::nullopt;
+      if (!ReadFactors(term)) return NoNumber;
       if (vanished_) {
         // The sign after it would stick to the next number and not to the next term.
         const bool heads = at == 0 && sum.size() > 1 && sum[1].Factors.size() > 1;
-        if (term.Factors.size() > 1 || heads) return std::nullopt;
+        if (term.Factors.size() > 1 || heads) return NoNumber;
         continue;
       }
       // A minus sign that is pasted after another sign is the one that counts.
-      if (at > 0 && factors_[0] < 0) {
-        subtracts = true;
-        factors_[0] = -factors_[0];
-      }
+      const bool subtracts = term.Sign == '-' || (at > 0 && factors_[0] < 0);
+      if (at > 0) factors_[0] = std::abs(factors_[0]);
       for (const Formula::Step& step : term.Steps) {
-        const auto result = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
-        if (!result) return std::nullopt;
-        factors_[step.Left] = *result;
+        factors_[step.Left] = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
+        if (!IsNumber(factors_[step.Left])) return NoNumber;
       }
       total = subtracts ? total - factors_[0] : total + factors_[0];
-      if (!std::isfinite(total)) return std::nullopt;
     }
-    return total;
+    return std::isfinite(total) ? total : NoNumber;
   }
 
   bool ReadFactors(const Formula::Term& term) {
     vanished_ = false;
     for (std::size_t at = 0; at < term.Factors.size(); ++at) {
       const Operand& operand = term.Factors[at];
-      const std::optional<double> number = NumberOf(operand);
-      if (!number) return false;
-      const bool leavesNothing =
-          operand.What == Operand::Kind::Nothing || (operand.What == Operand::Kind::Global && *number == 0);
-      vanished_ = vanished_ || leavesNothing;
-      factors_[at] = *number;
+      factors_[at] = NumberOf(operand);
+      if (!IsNumber(factors_[at])) return false;
+      vanished_ = vanished_ || operand.What == Operand::Kind::Nothing ||
+                  (operand.What == Operand::Kind::Global && factors_[at] == 0);
     }
     return true;
   }
 
-  std::optional<double> NumberOf(const Operand& operand) const {
+  double NumberOf(const Operand& operand) const {
     switch (operand.What) {
       case Operand::Kind::Constant:
         return operand.Number;
@@ -112,36 +107,52 @@ class Evaluation {
       case Operand::Kind::Bracket:
         return brackets_[static_cast<std::size_t>(operand.Index)];
       default:
-        return source_.NumberOf(operand);
+        return operands_.NumberOf(operand);
     }
   }
 
-  const OperandSource& source_;
+  const Operands& operands_;
   std::array<double, Formula::MostFactors> factors_;
   std::array<double, Formula::MostFactors> brackets_;
-  /// Whether a factor of the term has vanished from the text.
+  /// Whether a factor of the term has left nothing in the text.
   bool vanished_ = false;
 };
 
-}  // namespace
-
-std::optional<double> Formula::Value(const OperandSource& source) const {
-  if (!Comparison.empty()) return std::nullopt;
-  return Evaluation(source).Of(Left);
+bool IsConstant(const Formula::Term& term) {
+  return std::ranges::none_of(term.Factors, [](const Operand& operand) { return operand.IsPasted(); });
 }
 
-std::optional<bool> Formula::Holds(const OperandSource& source) const {
-  const auto left = Evaluation(source).Of(Left);
-  if (!left) return std::nullopt;
-  if (Comparison.empty()) return *left != 0;
-  const auto right = Evaluation(source).Of(Right);
-  if (!right) return std::nullopt;
-  return Compare(*left, Comparison, *right);
+bool IsConstant(const Formula::Side& side) {
+  return !side.Sums.empty() && std::ranges::all_of(side.Sums, [](const Formula::Sum& sum) {
+    return std::ranges::all_of(sum, [](const Formula::Term& term) { return IsConstant(term); });
+  });
+}
+
+}  // namespace
+
+void Formula::WorkOutConstants(const Operands& operands) {
+  for (Side* const side : {&Left, &Right}) {
+    if (IsConstant(*side)) side->Known = Evaluation(operands).Of(*side);
+  }
+}
+
+double Formula::Value(const Operands& operands) const {
+  return Compare == nullptr ? Evaluation(operands).Of(Left) : NoNumber;
+}
+
+std::optional<bool> Formula::Holds(const Operands& operands) const {
+  const double left = Evaluation(operands).Of(Left);
+  if (!IsNumber(left)) return std::nullopt;
+  if (Compare == nullptr) return left != 0;
+  const double right = Evaluation(operands).Of(Right);
+  if (!IsNumber(right)) return std::nullopt;
+  return Compare(left, right);
 }
 
 const Operand* Formula::OnlyOperand() const noexcept {
-  const bool isOne = Comparison.empty() && Left.size() == 1 && Left[0].size() == 1 && Left[0][0].Factors.size() == 1;
-  return isOne ? &Left[0][0].Factors[0] : nullptr;
+  const bool isOne =
+      Compare == nullptr && Left.Sums.size() == 1 && Left.Sums[0].size() == 1 && Left.Sums[0][0].Factors.size() == 1;
+  return isOne ? &Left.Sums[0][0].Factors[0] : nullptr;
 }
 
 }  // namespace zerimo

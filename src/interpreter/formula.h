@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <vector>
+
+#include "interpreter/relations.h"
+#include "interpreter/slot_forms.h"
 
 namespace zerimo {
 
@@ -24,6 +26,7 @@ struct Operand {
     Nothing,
   };
   bool IsName() const noexcept { return What == Kind::Local || What == Kind::Global; }
+  bool IsPasted() const noexcept { return IsName() || What == Kind::XCor || What == Kind::YCor; }
 
   Kind What = Kind::Nothing;
   double Number = 0;
@@ -31,13 +34,7 @@ struct Operand {
   int Index = 0;
 };
 
-/// Gives formulas the values that are pasted into them.
-class OperandSource {
- public:
-  virtual ~OperandSource() = default;
-  /// The value of a local, a global or a coordinate, if its text is nothing but digits, a point and a minus sign.
-  virtual std::optional<double> NumberOf(const Operand& operand) const = 0;
-};
+class Operands;
 
 /// An expression whose passes are done once and for all: the operations on numbers that remain if every pasted text is
 /// a plain number. Anything else, and whatever fails, has no value here and is evaluated literally.
@@ -59,18 +56,25 @@ class Formula {
   };
   using Sum = std::vector<Term>;
   /// One side of a condition, or all of an expression: the contents of its brackets, innermost first, then the whole.
-  using Side = std::vector<Sum>;
+  struct Side {
+    std::vector<Sum> Sums;
+    /// Its value, if that can be worked out once and for all.
+    double Known = NoNumber;
+  };
 
   Side Left;
-  /// The comparison, or empty if there is none.
-  std::string_view Comparison;
+  /// How the sides are compared; null if there is only one.
+  Comparison Compare = nullptr;
   Side Right;
 
-  /// The value of an expression.
-  std::optional<double> Value(const OperandSource& source) const;
+  /// Works out once and for all the sides that hold no names.
+  void WorkOutConstants(const Operands& operands);
+
+  /// The value of an expression, or no number.
+  double Value(const Operands& operands) const;
 
   /// Whether a condition holds.
-  std::optional<bool> Holds(const OperandSource& source) const;
+  std::optional<bool> Holds(const Operands& operands) const;
 
   /// The operand if the expression is nothing else, otherwise null.
   const Operand* OnlyOperand() const noexcept;

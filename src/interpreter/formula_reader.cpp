@@ -128,8 +128,8 @@ class SideReader {
       if (!ReadTerm(term)) return false;
       sum.push_back(std::move(term));
     } while (NextIs("+-"));
-    side_.push_back(std::move(sum));
-    return side_.size() < Formula::MostFactors;
+    side_.Sums.push_back(std::move(sum));
+    return side_.Sums.size() < Formula::MostFactors;
   }
 
   bool ReadTerm(Formula::Term& term) {
@@ -156,7 +156,7 @@ class SideReader {
   bool ReadBrackets(Formula::Term& term) {
     Take();
     if (!ReadSum() || rest_.empty() || Take() != ')') return false;
-    term.Factors.push_back({Kind::Bracket, 0, static_cast<int>(side_.size()) - 1});
+    term.Factors.push_back({Kind::Bracket, 0, static_cast<int>(side_.Sums.size()) - 1});
     return true;
   }
 
@@ -201,12 +201,10 @@ std::optional<Formula> ReadFormula(std::string_view text, const NamesInUse& name
   const std::string_view comparison = ComparisonAt(whole.substr(at));
   auto left = SideReader(marked, whole.substr(0, at)).Read();
   if (!left) return std::nullopt;
-  Formula formula{std::move(*left), comparison, {}};
-  if (comparison.empty()) return formula;
+  if (comparison.empty()) return Formula{std::move(*left), nullptr, {}};
   auto right = SideReader(marked, whole.substr(at + comparison.size())).Read();
   if (!right) return std::nullopt;
-  formula.Right = std::move(*right);
-  return formula;
+  return Formula{std::move(*left), ComparisonOf(comparison), std::move(*right)};
 }
 
 }  // namespace zerimo

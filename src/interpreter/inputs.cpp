@@ -35,7 +35,7 @@ void Inputs::CreateLocals(const Words& call) {
 }
 
 std::string Inputs::InputText(const std::string& word) const {
-  if (const Formula* const formula = variables_.Known().Of(word)) {
+  if (const Formula* const formula = variables_.Known().Of(variables_.Known(word))) {
     const Operand* const operand = formula->OnlyOperand();
     if (operand != nullptr && operand->What == Operand::Kind::Constant) return std::string(Trimmed(word));
     if (operand != nullptr && operand->IsName()) {

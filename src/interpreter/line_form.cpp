@@ -12,21 +12,27 @@ namespace {
 
 const std::string NoWord;
 
+std::string_view AfterFirstBlank(std::string_view line) noexcept {
+  const auto blank = line.find(' ');
+  return blank == std::string_view::npos ? std::string_view() : line.substr(blank + 1);
+}
+
 }  // namespace
 
 LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)) {
   switch (Class) {
     case StmtPrimitive:
       Primitive = ActionOf(Trimmed(line));
+      Input = EvaluatedText(AfterFirstBlank(Trimmed(line)));
       break;
     case StmtMake: {
       MakeWords make(line);
       Name = std::move(make.Name);
-      Value = std::move(make.Value);
+      Value = EvaluatedText(make.Value);
       break;
     }
     case StmtIf:
-      Condition = From(line, PositionOf(line, " ") + 1);
+      Condition = EvaluatedText(AfterFirstBlank(line));
       break;
     case StmtCall:
       SkipOnFailure([&] { Call.emplace(line); });

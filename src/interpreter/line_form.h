@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "interpreter/evaluated_text.h"
 #include "interpreter/statement_class.h"
 #include "interpreter/word_table.h"
 
@@ -39,11 +40,13 @@ struct LineForm {
   StatementClass Class;
   /// Of a primitive: its action, or `Action::None`.
   Action Primitive = Action::None;
+  /// Of a primitive: everything after its word.
+  EvaluatedText Input;
   /// Of a `MAKE`: the name as the slots hold it, and the text of the value.
   std::string Name;
-  std::string Value;
+  EvaluatedText Value;
   /// Of an `IF`: the condition.
-  std::string Condition;
+  EvaluatedText Condition;
   /// Of a call and of a header (after its `TO`): the words, unless there are too many.
   std::optional<Words> Call;
   std::optional<Words> Header;

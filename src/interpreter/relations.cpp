@@ -22,15 +22,15 @@ int CountComparisons(std::string_view expression) noexcept {
 
 }  // namespace
 
-bool Compare(double left, std::string_view op, double right) noexcept {
-  if (op == "<") return left < right;
-  if (op == ">") return left > right;
-  if (op == "<=") return left <= right;
-  if (op == ">=") return left >= right;
-  if (op == "!" || op == "!=") return left != right;
-  if (op == "=") return left == right;
-  // Only "==" is left, which is no operator: never true.
-  return false;
+Comparison ComparisonOf(std::string_view text) noexcept {
+  if (text == "<") return [](double left, double right) { return left < right; };
+  if (text == ">") return [](double left, double right) { return left > right; };
+  if (text == "<=") return [](double left, double right) { return left <= right; };
+  if (text == ">=") return [](double left, double right) { return left >= right; };
+  if (text == "!" || text == "!=") return [](double left, double right) { return left != right; };
+  if (text == "=") return [](double left, double right) { return left == right; };
+  // Only "==" is left, which is no operator.
+  return [](double, double) { return false; };
 }
 
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic) {
@@ -45,7 +45,7 @@ bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic) {
                                   : Mid(expression, position + 1, length - position));
   const double leftValue = arithmetic.ArithmeticEvaluator(left);
   const double rightValue = arithmetic.ArithmeticEvaluator(right);
-  return Compare(leftValue, op, rightValue);
+  return ComparisonOf(op)(leftValue, rightValue);
 }
 
 }  // namespace zerimo

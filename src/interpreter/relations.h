@@ -12,7 +12,10 @@ namespace zerimo {
 /// is true, and the caller's text comes back with its brackets replaced. Fails as its sides do.
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic);
 
-/// Whether a comparison ("<", ">", "<=", ">=", "!", "!=", "=") holds; "==" never does.
-bool Compare(double left, std::string_view comparison, double right) noexcept;
+/// Whether two numbers compare in some way ("<", ">", "<=", ">=", "!", "!=", "=").
+using Comparison = bool (*)(double left, double right);
+
+/// The comparison that an operator makes. That of anything else, also of "==", is never true.
+Comparison ComparisonOf(std::string_view text) noexcept;
 
 }  // namespace zerimo

@@ -88,7 +88,7 @@ void Runner::Act(Walk& walk) {
     case StmtPrimitive:
       SkipOnFailure([&] {
         store_.TrimLine(walk.Line);
-        dispatch_.Execute(store_.Line(walk.Line), store_.FormOf(walk.Line).Primitive);
+        dispatch_.Execute(store_.Line(walk.Line), store_.FormOf(walk.Line));
       });
       Advance(walk);
       break;
@@ -162,10 +162,11 @@ void Runner::ActOnEnd(Walk& walk) {
 }
 
 void Runner::ActOnGoto(Walk& walk) {
-  std::string_view label;
-  SkipOnFailure([&] { label = From(store_.Line(walk.Line), 6); });
-  SkipOnFailure([&] { walk.Line = conditionals_.LabelPos(label); });
+  const int jump = walk.Line;
+  SkipOnFailure([&] { walk.Line = conditionals_.LabelOf(jump); });
   if (walk.Line == 0) {
+    std::string_view label;
+    SkipOnFailure([&] { label = NameOfLabel(store_.Line(jump)); });
     services_.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
     walk.Over = true;
     return;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/failure.h"
 #include "base/numbers.h"
 
 namespace zerimo {
@@ -27,7 +28,41 @@ SlotForm::SlotForm(std::string_view slot) {
   if (!IsPlainNumber(value)) return;
   const double number = Val(value);
   // The number would lose the sign of a minus zero's text.
-  if (number != 0 || !std::signbit(number)) Number = number;
+  if (number == 0 && std::signbit(number)) return;
+  Number = number;
+  Pasted = PlainOrNone(IsWhole(number) ? number : RoundToDecimals(number, 2));
+}
+
+SlotTable::Slot& SlotTable::At(int number) const {
+  if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
+  return slots_[static_cast<std::size_t>(number - 1)];
+}
+
+const std::string& SlotTable::Text(int number) const {
+  Slot& slot = At(number);
+  if (!slot.IsWritten) {
+    slot.Text.replace(slot.Form.KeyLength, std::string::npos, StrTrimmed(slot.Form.Number));
+    slot.IsWritten = true;
+  }
+  return slot.Text;
+}
+
+void SlotTable::SetText(int number, std::string text) {
+  Slot& slot = At(number);
+  slot.Form = SlotForm(text);
+  slot.Text = std::move(text);
+  slot.IsWritten = true;
+}
+
+void SlotTable::SetNumber(int number, double value) {
+  Slot& slot = At(number);
+  const double plain = PlainOrNone(value);
+  if (IsNumber(plain) && IsWhole(plain)) {
+    slot.Form.Number = slot.Form.Pasted = plain;
+    slot.IsWritten = false;
+  } else {
+    SetText(number, slot.Text.substr(0, slot.Form.KeyLength) + StrTrimmed(value));
+  }
 }
 
 std::string_view NamePart(std::string_view slot) noexcept {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -12,6 +14,16 @@
 
 namespace zerimo {
 
+/// Stands for a value that is not known; no evaluation gives it.
+inline constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+inline bool IsNumber(double value) { return !std::isnan(value); }
+
+/// A number whose text is pasted with all its digits and no exponent, or no number. A minus zero becomes a zero.
+inline double PlainOrNone(double number) {
+  constexpr double plainBelow = 1E13;
+  return std::abs(number) < plainBelow ? number + 0.0 : NoNumber;
+}
+
 /// What is derived from the text of a variable slot.
 struct SlotForm {
   SlotForm() = default;
@@ -20,7 +32,36 @@ struct SlotForm {
   /// The length of the name with its "=", or 0 if there is none.
   std::size_t KeyLength = 0;
   /// The value, if its text is nothing but digits, a point and a minus sign.
-  std::optional<double> Number;
+  double Number = NoNumber;
+  /// The same as it is pasted for a global: rounded to two decimals.
+  double Pasted = NoNumber;
+};
+
+/// The texts of all variable slots, numbered from 1, and what is derived from each. A number that takes the place of a
+/// value is written as text when that is read.
+class SlotTable {
+ public:
+  static constexpr int SlotCount = 500;
+
+  /// Fails (subscript) outside 1 to 500.
+  const std::string& Text(int number) const;
+  /// Fails (subscript) outside 1 to 500.
+  void SetText(int number, std::string text);
+  /// Replaces the value of a slot that has one.
+  void SetNumber(int number, double value);
+
+  /// For slots 1 to 500.
+  const SlotForm& FormOf(int number) const noexcept { return slots_[static_cast<std::size_t>(number - 1)].Form; }
+
+ private:
+  struct Slot {
+    std::string Text;
+    SlotForm Form;
+    bool IsWritten = true;
+  };
+  Slot& At(int number) const;
+
+  mutable std::array<Slot, SlotCount> slots_;
 };
 
 /// The part of a slot's text that decides which searches find it: all of it, or, if its value is a number, the text up

@@ -33,12 +33,7 @@ class WorkingCopy {
 
 }  // namespace
 
-std::size_t Store::Index(int number) const {
-  if (number < 1 || number > LineCount) throw Failure(FailureKind::SubscriptOutOfRange);
-  return static_cast<std::size_t>(number - 1);
-}
-
-const std::string& Store::Line(int number) const { return FileDataArray[Index(number)]; }
+void Store::FailOutside() { throw Failure(FailureKind::SubscriptOutOfRange); }
 
 void Store::SetLine(int number, std::string text) { Put(Index(number), std::move(text)); }
 
@@ -49,9 +44,8 @@ void Store::Put(std::size_t index, std::string text) noexcept {
   ++changes_;
 }
 
-const LineForm& Store::FormOf(int number) const {
-  const std::size_t index = Index(number);
-  if (!forms_[index]) forms_[index] = std::make_unique<LineForm>(FileDataArray[index]);
+const LineForm& Store::MakeForm(std::size_t index) const {
+  forms_[index] = std::make_unique<LineForm>(FileDataArray[index]);
   return *forms_[index];
 }
 

@@ -27,13 +27,16 @@ class Store {
   explicit Store(ListBox& list3) : List3(list3) {}
 
   /// A line by its number; fails (subscript) outside 1 to 2000.
-  const std::string& Line(int number) const;
+  const std::string& Line(int number) const { return FileDataArray[Index(number)]; }
 
   /// Changes a line and drops what was derived from it; fails (subscript) outside 1 to 2000.
   void SetLine(int number, std::string text);
 
   /// What is derived from a line, kept until its text changes. Fails like `Line`.
-  const LineForm& FormOf(int number) const;
+  const LineForm& FormOf(int number) const {
+    const std::size_t index = Index(number);
+    return forms_[index] ? *forms_[index] : MakeForm(index);
+  }
 
   /// The class of a line (`WhatIsThis`). Fails like `Line`.
   StatementClass ClassOf(int number) const { return FormOf(number).Class; }
@@ -84,7 +87,12 @@ class Store {
  private:
   friend class LentLine;
 
-  std::size_t Index(int number) const;
+  static std::size_t Index(int number) {
+    if (number < 1 || number > LineCount) FailOutside();
+    return static_cast<std::size_t>(number - 1);
+  }
+  [[noreturn]] static void FailOutside();
+  const LineForm& MakeForm(std::size_t index) const;
   void Put(std::size_t index, std::string text) noexcept;
 
   std::int16_t FindProcedure(std::string_view procedure) const;

@@ -64,44 +64,31 @@ Variables::Variables(const InterpreterContext& context, Store& store, ControlPat
                      const Arithmetic& arithmetic)
     : store_(store),
       controlPath_(controlPath),
-      turtle_(context.turtle),
-      Form1(context.controls.Form1),
       List2(context.controls.List2),
       arithmetic_(arithmetic),
       watch_(context.watch),
-      formulas_(*this, *this, controlPath) {}
-
-const std::string& Variables::Slot(int number) const {
-  if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
-  return VariableArray[static_cast<std::size_t>(number - 1)];
+      operands_(slotTable_, context.turtle, context.controls.Form1),
+      formulas_(*this, operands_, controlPath) {
+  List2.Fill = [this] { return ListedSlots(); };
 }
 
 void Variables::SetSlot(int number, std::string text) {
-  if (number < 1 || number > SlotCount) throw Failure(FailureKind::SubscriptOutOfRange);
+  const std::string& slot = Slot(number);
   const auto index = static_cast<std::size_t>(number - 1);
-  std::string& slot = VariableArray[index];
-  KeepFormer(index);
+  KeepFormer(number);
   freeSlots_ += static_cast<int>(text.empty()) - static_cast<int>(slot.empty());
   deletedSlots_ += static_cast<int>(text == " ") - static_cast<int>(slot == " ");
   if (text.empty() || text == " ") openFrom_ = std::min(openFrom_, number);
   if (!text.empty()) usedUpTo_ = std::max(usedUpTo_, number);
   if (NamePart(slot) != NamePart(text)) names_.Change(index, NamePart(text));
-  slot = std::move(text);
-  forms_[index] = SlotForm(slot);
+  slotTable_.SetText(number, std::move(text));
 }
 
-void Variables::SetValue(int number, const std::string& value) {
+void Variables::KeepFormer(int number) {
   const auto index = static_cast<std::size_t>(number - 1);
-  KeepFormer(index);
-  std::string& slot = VariableArray[index];
-  slot.replace(forms_[index].KeyLength, std::string::npos, value);
-  forms_[index] = SlotForm(slot);
-}
-
-void Variables::KeepFormer(std::size_t index) {
   // Only the first former text of a slot counts.
   if (isFormer_[index]) return;
-  former_[index] = VariableArray[index];
+  former_[index] = Slot(number);
   isFormer_[index] = true;
   formerSlots_.push_back(index);
 }
@@ -133,16 +120,17 @@ void Variables::RebuildList2() {
   if (freeSlots_ == 0) throw Failure(FailureKind::SubscriptOutOfRange);
 }
 
-void Variables::ListSlots() {
+void Variables::ListSlots() noexcept {
   for (const std::size_t index : formerSlots_) isFormer_[index] = false;
   formerSlots_.clear();
-  List2.SetLazily([this] { return ListedSlots(); });
+  List2.FillLater();
 }
 
 std::vector<std::string> Variables::ListedSlots() const {
   std::vector<std::string> items;
-  for (std::size_t index = 0; index < SlotCount; ++index) {
-    const std::string& slot = isFormer_[index] ? former_[index] : VariableArray[index];
+  for (int number = 1; number <= SlotCount; ++number) {
+    const auto index = static_cast<std::size_t>(number - 1);
+    const std::string& slot = isFormer_[index] ? former_[index] : Slot(number);
     if (slot.empty()) break;
     items.push_back(slot);
   }
@@ -181,12 +169,13 @@ void Variables::VariableUpdate(int lineNumber) {
 bool Variables::Make(int lineNumber) {
   const LineForm& make = store_.FormOf(lineNumber);
   const double value = ValueOf(make);
-  const std::string result = StrTrimmed(value);
-  const auto known = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make) : std::nullopt;
-  if (known) {
-    if (known->Local != 0) SetValue(known->Local, result);
-    if (known->Global != 0) SetValue(known->Global, result);
+  const MakeSlots* const known = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make) : nullptr;
+  if (known != nullptr) {
+    // `List2` is made anew below: what it showed before need not be kept.
+    if (known->Local != 0) slotTable_.SetNumber(known->Local, value);
+    if (known->Global != 0) slotTable_.SetNumber(known->Global, value);
   } else {
+    const std::string result = StrTrimmed(value);
     const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
     if (const int slot = FindLocal(key); slot != 0) SetSlot(slot, key + result);
     // A local's new value goes to the global of that name too.
@@ -197,8 +186,8 @@ bool Variables::Make(int lineNumber) {
 }
 
 double Variables::ValueOf(const LineForm& make) {
-  if (const auto value = formulas_.Value(make.Value); value && CoordinatesExist()) return *value;
-  std::string value = make.Value;
+  if (const double known = KnownValue(make.Value); IsNumber(known)) return known;
+  std::string value = make.Value.Text();
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);
@@ -206,20 +195,20 @@ double Variables::ValueOf(const LineForm& make) {
 }
 
 /// The slots that a `MAKE` writes to, if it leaves the names as they are.
-std::optional<Variables::MakeSlots> Variables::SlotsOf(int lineNumber, const LineForm& make) {
+const Variables::MakeSlots* Variables::SlotsOf(int lineNumber, const LineForm& make) {
   MakeSlots& slots = makes_[static_cast<std::size_t>(lineNumber)];
-  if (slots.Lines == store_.Changes() && slots.Names == Names()) return slots;
+  if (slots.Lines == store_.Changes() && slots.Names == Names()) return &slots;
   slots.Names = 0;
   const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
   const int local = FindLocal(key);
   const int global = FindGlobal(make.Name);
   // A name with a "=" of its own ends elsewhere than where the value is replaced.
   const auto keeps = [this](int slot, std::string_view name) {
-    return slot == 0 || (NamePart(Slot(slot)) == name && FormOf(slot).KeyLength == name.size());
+    return slot == 0 || (NamePart(Slot(slot)) == name && slotTable_.FormOf(slot).KeyLength == name.size());
   };
-  if (!keeps(local, key) || !keeps(global, make.Name + "=")) return std::nullopt;
+  if (!keeps(local, key) || !keeps(global, make.Name + "=")) return nullptr;
   slots = {store_.Changes(), Names(), local, global};
-  return slots;
+  return &slots;
 }
 
 std::string Variables::EnclosingProcedure(int lineNumber) const {
@@ -356,56 +345,22 @@ std::optional<NamesInUse> Variables::InUse() const {
   return names;
 }
 
-std::optional<double> Variables::NumberOf(const Operand& operand) const {
-  // Above this, a number's text has an exponent or no digit left for the second decimal.
-  constexpr double plainBelow = 1E13;
-  double number = 0;
-  if (operand.What == Operand::Kind::XCor || operand.What == Operand::Kind::YCor) {
-    if (!CoordinatesExist()) return std::nullopt;
-    number = operand.What == Operand::Kind::XCor ? X() : Y();
-  } else {
-    const SlotForm& form = FormOf(operand.Index);
-    if (!form.Number) return std::nullopt;
-    if (operand.What == Operand::Kind::Local) return form.Number;
-    number = *form.Number;
-    if (std::abs(number) < plainBelow && number != std::trunc(number)) number = RoundToDecimals(number, 2);
-  }
-  if (!(std::abs(number) < plainBelow)) return std::nullopt;
-  return number + 0.0;
-}
-
 std::optional<std::string> Variables::TextOf(const Operand& operand) const {
-  const std::optional<double> number = NumberOf(operand);
-  if (!number) return std::nullopt;
+  const double number = operands_.NumberOf(operand);
+  if (!IsNumber(number)) return std::nullopt;
   switch (operand.What) {
     case Operand::Kind::Local:
-      return Slot(operand.Index).substr(FormOf(operand.Index).KeyLength);
+      return Slot(operand.Index).substr(slotTable_.FormOf(operand.Index).KeyLength);
     case Operand::Kind::Global:
-      return *number == 0 ? std::string() : StrTrimmed(*number);
+      return number == 0 ? std::string() : StrTrimmed(number);
     default:
       return std::nullopt;
   }
 }
 
-bool Variables::CoordinatesExist() const {
-  // Far inside the range of numbers, so that no quotient leaves it.
-  constexpr double largest = 1E100;
-  const double resolution = std::abs(turtle_.Resolution);
-  return std::abs(turtle_.TurtleX) < largest && std::abs(turtle_.TurtleY) < largest && resolution > 1 / largest &&
-         resolution < largest;
-}
-
-double Variables::X() const {
-  return RoundToDecimals(Divide(turtle_.TurtleX - Form1.Width / 2.0, turtle_.Resolution), 1);
-}
-
-double Variables::Y() const {
-  return RoundToDecimals(Divide(Form1.Height() / 2.0 - turtle_.TurtleY, turtle_.Resolution), 1);
-}
-
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
-  const double x = X();
-  const double y = Y();
+  const double x = operands_.X();
+  const double y = operands_.Y();
   text = ReplaceAll(text, "XCOR", x, watch_);
   text = ReplaceAll(text, "YCOR", y, watch_);
   return text;

@@ -10,7 +10,9 @@
 #include "interpreter/arithmetic.h"
 #include "interpreter/context.h"
 #include "interpreter/control_path.h"
+#include "interpreter/formula_reader.h"
 #include "interpreter/formulas.h"
+#include "interpreter/operands.h"
 #include "interpreter/slot_forms.h"
 #include "interpreter/store.h"
 
@@ -19,14 +21,14 @@ namespace zerimo {
 /// All variables: 500 text slots, numbered from 1. A slot holds "" (free; most scans stop there), " " (deleted),
 /// NAME=value (a global) or PROCEDURE.NAME=value (a local).
 /// Behaviour: docs/interpreter.md, "Variables".
-class Variables : OperandSource {
+class Variables {
  public:
-  static constexpr int SlotCount = 500;
+  static constexpr int SlotCount = SlotTable::SlotCount;
 
   Variables(const InterpreterContext& context, Store& store, ControlPath& controlPath, const Arithmetic& arithmetic);
 
   /// A slot by its number; fails (subscript) outside 1 to 500.
-  const std::string& Slot(int number) const;
+  const std::string& Slot(int number) const { return slotTable_.Text(number); }
 
   /// Changes a slot and what is derived from it; fails (subscript) outside 1 to 500.
   void SetSlot(int number, std::string text);
@@ -66,9 +68,6 @@ class Variables : OperandSource {
   /// The slots up to the first free one that hold entries of a procedure.
   const std::vector<int>& SlotsOfProcedure(const std::string& name) const;
 
-  /// What is derived from a slot's text.
-  const SlotForm& FormOf(int number) const noexcept { return forms_[static_cast<std::size_t>(number - 1)]; }
-
   /// The number of the current state of all names: what a search has found is valid in the same state. Values that are
   /// numbers do not count.
   std::uint64_t Names() const noexcept { return names_.Now(); }
@@ -76,14 +75,24 @@ class Variables : OperandSource {
   /// The names that a text is read with now; nothing if a search for them would never end.
   std::optional<NamesInUse> InUse() const;
 
-  /// Whether the turtle's place can be expressed in steps: if not, every `MAKE` and every condition fails.
-  bool CoordinatesExist() const;
-
   /// The text that replaces a name which is the only operand; nothing if its value is not a plain number.
   std::optional<std::string> TextOf(const Operand& operand) const;
 
   /// The formulas of the texts that are evaluated with these variables.
-  Formulas& Known() const noexcept { return formulas_; }
+  const Formulas& Known() const noexcept { return formulas_; }
+
+  /// A text that belongs to no line, with the formulas that it had when it was last evaluated.
+  const EvaluatedText& Known(std::string_view text) const { return formulas_.Known(text); }
+
+  /// The value of an expression for the whole line, all of whose stages succeed or fail together; no number unless the
+  /// formula is known to give it.
+  double KnownValue(const EvaluatedText& expression) const {
+    return operands_.CoordinatesExist() ? formulas_.Value(expression) : NoNumber;
+  }
+  /// The same for a condition.
+  std::optional<bool> KnownToHold(const EvaluatedText& condition) const {
+    return operands_.CoordinatesExist() ? formulas_.Holds(condition) : std::nullopt;
+  }
 
   /// Sets all slots to one blank and shows them all in `List2`.
   void ForgetAll();
@@ -101,18 +110,13 @@ class Variables : OperandSource {
     std::vector<int> Slots;
   };
 
-  std::optional<double> NumberOf(const Operand& operand) const override;
-  double X() const;
-  double Y() const;
-
   double ValueOf(const LineForm& make);
   std::string EnclosingProcedure(int lineNumber) const;
-  std::optional<MakeSlots> SlotsOf(int lineNumber, const LineForm& make);
+  /// Null if the names would change.
+  const MakeSlots* SlotsOf(int lineNumber, const LineForm& make);
   int FindLocal(const std::string& key) const;
   /// The slot that a global is written to, 0 if a local without a procedure is in the way.
   int FindGlobal(const std::string& name) const;
-  /// Replaces the value in a slot by a number.
-  void SetValue(int number, const std::string& value);
   bool CloseDeletedSlots();
   void CloseSlot(int number);
   /// Never fails: with no free slot it never returns.
@@ -122,20 +126,18 @@ class Variables : OperandSource {
   /// The slot of a global, or 0. Never fails: with no free slot it never returns.
   int GlobalSlot(std::string_view name) const;
   void ReadGlobal(const std::string& name, double& value) const;
-  void KeepFormer(std::size_t index);
-  void ListSlots();
+  void KeepFormer(int number);
+  void ListSlots() noexcept;
   std::vector<std::string> ListedSlots() const;
 
   Store& store_;
   ControlPath& controlPath_;
-  const Turtle& turtle_;
-  const Window& Form1;
   ListBox& List2;
   const Arithmetic& arithmetic_;
   Watch& watch_;
-  std::array<std::string, SlotCount> VariableArray;
-  std::array<SlotForm, SlotCount> forms_;
+  SlotTable slotTable_;
   NameStates names_;
+  Operands operands_;
   mutable Formulas formulas_;
   std::vector<MakeSlots> makes_{Store::LineCount + 1};
   mutable TextMap<ProcedureSlots> procedures_;

@@ -60,16 +60,18 @@ class ListsTest : public DesktopTest {
 
 TEST_F(ListsTest, AListThatNobodyLooksAtIsNotFilled) {
   bool filled = false;
-  FormControls().List1.SetLazily([&] {
+  FormControls().List1.Fill = [&] {
     filled = true;
     return std::vector<std::string>{"1"};
-  });
+  };
+  FormControls().List1.FillLater();
   session->Deliver([](Form1&) {});
   EXPECT_FALSE(filled);
 }
 
 TEST_F(ListsTest, AListIsFilledWhenItsPanelOpens) {
-  FormControls().List1.SetLazily([] { return std::vector<std::string>{" 1  TO A"}; });
+  FormControls().List1.Fill = [] { return std::vector<std::string>{" 1  TO A"}; };
+  FormControls().List1.FillLater();
   session->Deliver([](Form1& form1) { form1.controls.Frame1.Show(); });
   EXPECT_EQ(WidgetAs<QListView>(FormControls().List1).model()->index(0, 0).data().toString(), " 1  TO A");
 }

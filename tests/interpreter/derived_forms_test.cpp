@@ -19,7 +19,7 @@ TEST_F(DerivedFormsTest, TheClassAndTheActionOfALineFollowTheLine) {
   EXPECT_EQ(store.ClassOf(1), StmtMake);
   EXPECT_EQ(store.FormOf(1).Name, ":A");
   store.SetLine(1, "MAKE \"A 6");
-  EXPECT_EQ(store.FormOf(1).Value, "6");
+  EXPECT_EQ(store.FormOf(1).Value.Text(), "6");
 }
 
 TEST_F(DerivedFormsTest, TheFirstEmptyLineFollowsTheLines) {
@@ -45,6 +45,24 @@ TEST_F(DerivedFormsTest, TheLineOfALabelFollowsTheLines) {
   EXPECT_EQ(conditionals.LabelPos("X"), 2);
   store.SetLine(3, "LABEL X");
   EXPECT_EQ(conditionals.LabelPos("X"), 3);
+}
+
+TEST_F(DerivedFormsTest, TheGoalOfAJumpFollowsTheLines) {
+  Fill({"TO A", "LABEL X", "GOTO X", "END"});
+  EXPECT_EQ(conditionals.LabelOf(3), 2);
+  store.SetLine(4, "LABEL X");
+  EXPECT_EQ(conditionals.LabelOf(3), 4);
+  store.SetLine(3, "GOTO Y");
+  EXPECT_EQ(conditionals.LabelOf(3), 0);
+}
+
+TEST_F(DerivedFormsTest, AnInputFollowsItsLine) {
+  Fill({"TO A", "FD 1+2", "END"});
+  dispatch.Bind(Action::Forward, [&](PrimitiveCall& call) { Calls.push_back(Str(arguments.Number(call))); });
+  runner.Run1("A");
+  store.SetLine(2, "FD 3+4");
+  runner.Run1("A");
+  EXPECT_EQ(Calls, (std::vector<std::string>{" 3", " 7"}));
 }
 
 TEST_F(DerivedFormsTest, TheBranchesOfAConditionFollowTheLines) {
@@ -79,6 +97,49 @@ TEST_F(DerivedFormsTest, AValueFollowsItsSlot) {
   EXPECT_EQ(arguments.Number("3+A"), 3);
   variables.SetSlot(1, "A=-7");
   EXPECT_EQ(arguments.Number("3-A"), -4);
+}
+
+TEST_F(DerivedFormsTest, ANumberInASlotIsWrittenWhenTheSlotIsRead) {
+  Fill({"TO P", "MAKE A A*2", "MAKE A A/8", "MAKE A A-A", "END"});
+  variables.SetSlot(1, "A=5");
+  variables.VariableUpdate(2);
+  EXPECT_EQ(arguments.Number("A"), 10);
+  EXPECT_EQ(variables.Slot(1), "A=10");
+  variables.VariableUpdate(2);
+  variables.VariableUpdate(3);
+  EXPECT_EQ(variables.Slot(1), "A=2.5");
+  variables.VariableUpdate(4);
+  variables.SetSlot(2, "B=1");
+  EXPECT_EQ(variables.Slot(1), "A=0");
+  variables.VariableUpdate(2);
+  variables.SetSlot(1, "A=7");
+  EXPECT_EQ(variables.Slot(1), "A=7");
+}
+
+TEST_F(DerivedFormsTest, TheListOfVariablesIsThatOfTheLastMake) {
+  Fill({"TO P", "MAKE A A+1", "END"});
+  variables.SetSlot(1, "A=5");
+  variables.VariableUpdate(2);
+  variables.SetSlot(1, "A=9");
+  EXPECT_EQ(controls.List2.Items(), std::vector<std::string>{"A=6"});
+  variables.VariableUpdate(2);
+  EXPECT_EQ(controls.List2.Items(), std::vector<std::string>{"A=10"});
+}
+
+TEST_F(DerivedFormsTest, AFormulaOfConstantsIsWorkedOutOnce) {
+  EXPECT_EQ(arguments.Number("(2+3)*(4-1)/(7-2)"), 3);
+  EXPECT_EQ(arguments.Number("(2+3)*(4-1)/(7-2)"), 3);
+  EXPECT_EQ(arguments.Number("1/0"), 0);
+  EXPECT_EQ(arguments.Number("1/0"), 0);
+}
+
+TEST_F(DerivedFormsTest, ACoordinateFollowsTheTurtle) {
+  turtle.Resolution = 50;
+  const double x = arguments.Number("XCOR+1");
+  turtle.TurtleX += 500;
+  EXPECT_EQ(arguments.Number("XCOR+1"), x + 10);
+  turtle.Resolution = 0;
+  EXPECT_EQ(arguments.Number("XCOR+1"), 1);
 }
 
 TEST_F(DerivedFormsTest, AFormulaFollowsTheNames) {

@@ -106,6 +106,11 @@ TEST_F(LimitsTest, MoreWordsThanACallHolds) {
   EXPECT_GT(Type("REPEAT 3 [Q]"), 15);
 }
 
+TEST_F(LimitsTest, ALimitOfStepsStopsAtTheSameLine) {
+  Load({"TO P :N", "MAKE \"K :K+:N", "END"});
+  for (int steps = 1; steps <= 60; ++steps) EXPECT_EQ(Type("REPEAT 9 [P 2 IF :K>5 FD :K ENDIF]", steps), steps);
+}
+
 class ValuesTest : public LimitsTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(ValuesTest, CrossTheKindsOfNumbersInALoop) {
