@@ -127,7 +127,9 @@ class Side : SurfaceRecorder {
       trace.Note(interpreter.store.Line(number));
     }
     for (int number = 1; number <= FirstSlots; ++number) trace.Note(interpreter.variables.Slot(number));
+    for (const std::string& item : controls.List2.Items()) trace.Note(item);
     NoteTurtle();
+    NoteFigure();
     trace.EndStep();
   }
 
@@ -147,9 +149,7 @@ class Side : SurfaceRecorder {
     for (const ShownBox& box : services.Boxes) trace.Note(box.Text + box.Title);
     services.Boxes.clear();
     NoteTurtle();
-    for (const LightLine* line : {&controls.Line1, &controls.Line2, &controls.Line3}) {
-      for (const float place : {line->X1, line->Y1, line->X2, line->Y2}) trace.Note(static_cast<double>(place));
-    }
+    NoteFigure();
     trace.EndStep();
   }
 
@@ -159,6 +159,13 @@ class Side : SurfaceRecorder {
     }
     trace.Note(static_cast<double>(static_cast<int>(turtle.PenState) * 100 + static_cast<int>(turtle.FenceMode) * 10 +
                                    turtle.PenColor));
+  }
+
+  void NoteFigure() {
+    for (const LightLine* line : {&controls.Line1, &controls.Line2, &controls.Line3}) {
+      for (const float place : {line->X1, line->Y1, line->X2, line->Y2}) trace.Note(static_cast<double>(place));
+    }
+    for (const float place : {controls.Shape2.Left, controls.Shape2.Top}) trace.Note(static_cast<double>(place));
   }
 
   static constexpr int FirstLines = 40;
