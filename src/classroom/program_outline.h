@@ -1,9 +1,11 @@
 #pragma once
 
-#include <set>
+#include <QSet>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "classroom/findings/listing.h"
 
 namespace zerimo::classroom {
 
@@ -28,21 +30,16 @@ class ProgramOutline {
   /// that no other calls. Empty if there is none.
   std::string MainProcedure(std::string_view name) const;
 
-  bool Has(std::string_view procedure) const;
-
-  /// The names of the procedures that are followed by another one, or by nothing, before any line END.
-  std::vector<std::string> WithoutEnd() const;
+  bool Has(const QString& procedure) const;
 
  private:
   struct Procedure {
-    std::string Name;
+    QString Name;
     bool NeedsInputs = false;
-    bool HasEnd = false;
     /// The words of its body, its own name left out.
-    std::set<std::string> Words;
+    QSet<QString> Words;
   };
 
-  void Take(const std::string& line);
   bool IsCalledByAnother(const Procedure& one) const;
 
   std::vector<Procedure> procedures_;

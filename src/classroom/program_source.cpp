@@ -49,7 +49,7 @@ void ProgramSource::Match(const Store& store) {
     const std::string stored = LineAt(store, first);
     if (kept.empty() || stored.empty()) continue;
     const bool isSame = kept == stored;
-    const int count = isSame || !kept.starts_with("REPEAT") ? 1 : std::max(1, LengthOfRepeat(store, first));
+    const int count = isSame ? 1 : std::max(1, LengthOfRepeat(store, first));
     // If the program is not the first thing in the store, its lines can't be matched.
     if (!isSame && i == 0) return;
     QStringList lines;

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "batch/errors.h"
+#include "classroom/findings/known_words.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -20,7 +21,7 @@ QString StatementOf(const std::string& line) {
   if (line.starts_with("TO #")) return {};
   const bool isOfRepeat =
       line.find('#') != std::string::npos || line.starts_with("LABEL $") || line.starts_with("GOTO $");
-  return isOfRepeat ? QStringLiteral("REPEAT") : FromLatin1(line);
+  return isOfRepeat ? NameOf(IsOneOf<inputs::Repeat>) : FromLatin1(line);
 }
 
 batch::Settings SettingsOf(const Order& order) {

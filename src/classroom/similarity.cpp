@@ -1,12 +1,10 @@
 #include "classroom/similarity.h"
 
 #include <QHash>
-#include <QRegularExpression>
 #include <algorithm>
 #include <functional>
 #include <utility>
 
-#include "classroom/findings/known_words.h"
 #include "classroom/findings/listing.h"
 
 namespace zerimo::classroom {
@@ -15,8 +13,10 @@ namespace {
 
 /// Lines that every program has.
 bool IsCommon(const QString& bare) {
-  return bare.isEmpty() || bare == "END" || bare == "CS" || bare == "HT" || bare == "PU" || bare == "PD" ||
-         bare == "ENDIF" || bare == "TO n";
+  using enum Action;
+  static const QString head = NameOf(IsOneOf<StmtTo>) + " n";
+  return bare.isEmpty() || bare == head ||
+         IsOneOf<StmtEnd, StmtEndIf, ClearScreen, HideTurtle, PenUp, PenDown>(KnownWord(bare));
 }
 
 /// How often each bare line occurs in a text.
@@ -69,7 +69,7 @@ QStringList MatchingLines(const PupilRun& run, const Fingerprint& own, const Fin
 }  // namespace
 
 QString Bare(const QString& line) {
-  static const QRegularExpression quoted("(?<!MAKE )\"[^\"]*\"");
+  static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"[^\"]*\"", IsOneOf<StmtMake>);
   static const QRegularExpression word("[A-Z][A-Z0-9_]*|[:\"][A-Z0-9]+|\\d+(?:\\.\\d+)?");
   const QString text = line.toUpper().simplified().replace(quoted, "t");
   QString bare;

@@ -1,8 +1,5 @@
 #include "interpreter/line_entry.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -47,35 +44,20 @@ std::string WithoutBlanksAfterMarks(std::string_view text) {
   return result;
 }
 
-/// A keyword line: its word, and the place in the line that the second test looks at.
-struct Keyword {
-  std::string_view Word;
-  enum { BlankAt, NothingAt, NoTail } Test;
-  int Position;
-  StatementClass Class;
-};
-
-constexpr std::array<Keyword, 8> Keywords = {{
-    {"TO", Keyword::BlankAt, 3, StmtTo},
-    {"END", Keyword::NoTail, 0, StmtEnd},
-    {"GOTO", Keyword::BlankAt, 5, StmtGoto},
-    {"LABEL", Keyword::BlankAt, 6, StmtLabel},
-    {"IF", Keyword::BlankAt, 3, StmtIf},
-    {"ENDIF", Keyword::NothingAt, 6, StmtEndIf},
-    {"ELSE", Keyword::NothingAt, 5, StmtElse},
-    {"MAKE", Keyword::BlankAt, 5, StmtMake},
-}};
-
-bool Holds(const Keyword& keyword, std::string_view line, std::string_view tail) {
-  switch (keyword.Test) {
-    case Keyword::BlankAt:
-      return CharacterAt(line, keyword.Position) == " ";
-    case Keyword::NothingAt:
-      return CharacterAt(line, keyword.Position).empty();
-    case Keyword::NoTail:
-      break;
+/// Whether a line that begins with a word is of the word's own class; `tail` is what follows the first blank.
+bool IsOfItsClass(const WordFacts& word, std::string_view line, std::string_view tail) {
+  const std::string_view next = CharacterAt(line, Length(word.Word) + 1);
+  switch (word.LineClass) {
+    case StmtCall:
+      return false;
+    case StmtEnd:
+      return tail.empty();
+    case StmtEndIf:
+    case StmtElse:
+      return next.empty();
+    default:
+      return next == " ";
   }
-  return tail.empty();
 }
 
 bool HasAny(std::string_view word, std::string_view characters) noexcept {
@@ -106,12 +88,9 @@ StatementClass WhatIsThis(std::string_view line) {
   const std::string_view tail = blank == 0 ? std::string_view{} : From(line, blank + 1);
 
   const WordFacts* const word = FindWord(head);
+  if (word != nullptr && IsOfItsClass(*word, line, tail)) return word->LineClass;
   const bool isPrimitive = word != nullptr && word->Place != 0;
   const StatementClass soFar = isPrimitive ? StmtPrimitive : StmtCall;
-
-  for (const Keyword& keyword : Keywords) {
-    if (head == keyword.Word && Holds(keyword, line, tail)) return keyword.Class;
-  }
   return !head.empty() && tail.empty() ? ClassOfWord(head, soFar) : soFar;
 }
 

@@ -120,16 +120,16 @@ constexpr WordFacts WordTable[] = {
     // Words without an action: the runner or the lowering knows them, or nothing does.
     {"GETX", Action::None, Word, NoTest, 0, 21, Page},
     {"GETY", Action::None, Word, NoTest, 0, 22, Page},
-    {"ENDIF", Action::None, Word, NoTest, 0, 0, Page},
-    {"LABEL", Action::None, Word, NoTest, 1, 0, Page},
-    {"GOTO", Action::None, Word, NoTest, 1, 0, Page},
-    {"IF", Action::None, Word, NoTest, 1, 0, Page},
+    {"ENDIF", Action::None, Word, NoTest, 0, 0, Page, 0, StmtEndIf},
+    {"LABEL", Action::None, Word, NoTest, 1, 0, Page, 0, StmtLabel},
+    {"GOTO", Action::None, Word, NoTest, 1, 0, Page, 0, StmtGoto},
+    {"IF", Action::None, Word, NoTest, 1, 0, Page, 0, StmtIf},
     {"SAVE", Action::None, Word, NoTest, 1, 80, Page},
-    {"MAKE", Action::None, Word, NoTest, 2, 0, Page},
+    {"MAKE", Action::None, Word, NoTest, 2, 0, Page, 0, StmtMake},
     {"REPEAT", Action::None, Word, NoTest, inputs::Repeat, 30, Page},
-    {"TO", Action::None, Word, NoTest, NotCounted, 0, Page},
-    {"END", Action::None, Word, NoTest, NotCounted, 0, Page},
-    {"ELSE", Action::None, Word, NoTest, NotCounted, 0, Page},
+    {"TO", Action::None, Word, NoTest, NotCounted, 0, Page, 0, StmtTo},
+    {"END", Action::None, Word, NoTest, NotCounted, 0, Page, 0, StmtEnd},
+    {"ELSE", Action::None, Word, NoTest, NotCounted, 0, Page, 0, StmtElse},
 };
 // clang-format on
 

@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "interpreter/statement_class.h"
+
 /// The one table of facts about the words of the language: a row for each word. Everything else here is derived from
 /// it.
 /// Behaviour: docs/interpreter.md, "Carrying out a word".
@@ -141,6 +143,8 @@ struct WordFacts {
   int Place;
   HelpPage Page;
   int SecondPlace = 0;
+  /// The class that only lines with this word have, or `StmtCall`.
+  StatementClass LineClass = StmtCall;
 };
 
 /// The table.

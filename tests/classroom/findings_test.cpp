@@ -48,6 +48,7 @@ const Case Statements[] = {
     {"TO A|FD -5|END|", {"2 minus input FD"}},
     {"TO A|REPEAT 2 [RT 90 FD -5]|END|", {"2 minus input FD"}},
     {"TO A|SETXY 10 -20|END|", {"2 minus second input SETXY"}},
+    {"TO A|SUM 10 -20|END|", {"2 minus second input SUM"}},
     {"TO A|MAKE \"N -5|FD :N|END|", {"2 minus make N"}},
     {"TO A|PRINT 3--4|END|", {"2 double minus 3--4"}},
     {"TO A|PRINT 2*7%4|END|", {"2 percent after times 2*7%4"}},
@@ -76,6 +77,8 @@ const Case Statements[] = {
     {"TO A|MESSAGE \"HELLO|END|", {"2 open quote \"HELLO"}},
     {"TO A|(SUM 1 2 3|END|", {"2 open sum (SUM 1 2 3"}},
     {"TO A|GETX|END|", {"2 dead word GETX"}},
+    {"TO A|SAVE MINE|SOUND 5|SOUND|FULLSCREEN|END|",
+     {"2 dead word SAVE MINE", "3 dead word SOUND 5", "5 dead word FULLSCREEN"}},
     {"TO A|IF 1=2|FD 1|ELSE FD 2|ENDIF|END|", {"4 else with more FD 2"}},
 };
 INSTANTIATE_TEST_SUITE_P(Statements, FindingsOf, testing::ValuesIn(Statements));
@@ -117,6 +120,8 @@ const Case Programs[] = {
     {"FD 10|TO A|FD 1|END|RT 90|", {"1 outside procedures FD 10", "5 outside procedures RT 90"}},
     {"TO A|END|TO A|END|", {"3 duplicate procedure A 1"}},
     {"TO A|FD 10|", {"1 without end A"}},
+    {"TO A|FD 1| END |TO B|END|", {}},
+    {"TO A|FD 1|TO B|END|TO C|FD 2|", {"1 without end A", "5 without end C"}},
     {"TO A|IF 1=2|FD 10|END|", {"2 if without endif"}},
     {"TO A|IF 1=2|FD 10|ELSE|FD 5|END|", {"2 misplaced else"}},
     {"TO A|IF 1=2|IF 1=1|IF 1=1|FD 1|ENDIF|ELSE|FD 2|ENDIF|ENDIF|END|", {}},
@@ -128,6 +133,7 @@ const Case Programs[] = {
     {"TO A|FD 1|IF XCOR<9|A|ENDIF|RT 90|END|", {"4 recursion goes on A"}},
     {"TO A :N|FD :N|A :N-1|END|", {"3 recursion with input A"}},
     {"TO A|PE|PX|END|", {"3 eraser reversed PX"}},
+    {"TO A|PENERASE|PENREVERSE|END|", {"3 eraser reversed PENREVERSE"}},
     {"TO A|PE|SETPC 4|END|", {"3 eraser colour SETPC"}},
     {"TO A|PU|CIRCLE 0 0 30|PD|CIRCLE 0 0 20|END|", {"3 shape with pen up CIRCLE"}},
     {"TO A|FLOODFILL 14|FILL 4|STAMPCIRCLE 9|END|", {"4 empty shapes STAMPCIRCLE"}},

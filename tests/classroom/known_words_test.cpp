@@ -12,11 +12,35 @@ TEST(KnownWords, AreThoseOfTheLanguage) {
 }
 
 TEST(KnownWords, NeedTheirInputs) {
-  EXPECT_EQ(NeededInputsOf("FD"), 1);
-  EXPECT_EQ(NeededInputsOf("SETXY"), 2);
-  EXPECT_EQ(NeededInputsOf("CS"), 0);
-  EXPECT_EQ(NeededInputsOf("HELP"), 0);
-  EXPECT_EQ(NeededInputsOf("PRINT"), 0);
+  EXPECT_EQ(NeededInputsOf(KnownWord("FD")), 1);
+  EXPECT_EQ(NeededInputsOf(KnownWord("SETXY")), 2);
+  EXPECT_EQ(NeededInputsOf(KnownWord("CS")), 0);
+  EXPECT_EQ(NeededInputsOf(KnownWord("HELP")), 0);
+  EXPECT_EQ(NeededInputsOf(KnownWord("PRINT")), 0);
+}
+
+TEST(KnownWords, AreToldApartByWhatTheyDo) {
+  for (const char* word : {"PU", "PENUP"}) EXPECT_TRUE(IsOneOf<Action::PenUp>(KnownWord(word))) << word;
+  EXPECT_TRUE((IsOneOf<StmtElse, StmtEndIf>(KnownWord("ENDIF"))));
+  EXPECT_TRUE(IsOneOf<inputs::Repeat>(KnownWord("REPEAT")));
+  EXPECT_FALSE(IsOneOf<StmtElse>(KnownWord("FD")));
+  EXPECT_FALSE(IsOneOf<StmtElse>(KnownWord("NOWHERE")));
+}
+
+TEST(KnownWords, SomeDoNothing) {
+  QStringList dead;
+  for (const WordFacts& word : AllWords()) {
+    const QString name = QString::fromLatin1(word.Word.data(), static_cast<qsizetype>(word.Word.size()));
+    if (IsKnownWord(name) && IsDead(word)) dead.append(name);
+  }
+  dead.sort();
+  EXPECT_EQ(dead, (QStringList{"CLEARTEXT", "FULLSCREEN", "GETX", "GETY", "SAVE", "SAYDEVELOPERS", "SPLITSCREEN",
+                               "TEXTSCREEN"}));
+}
+
+TEST(KnownWords, StandInExpressions) {
+  EXPECT_EQ(ExpressionOf("^@ (X)", IsOneOf<Action::BracketSum>).pattern(), "^(?:\\(SUM) (X)");
+  EXPECT_EQ(ExpressionOf("^& 7", IsOneOf<Action::SetXY, Action::LineWidth>).pattern(), "^(?:LW|SETXY \\S+) 7");
 }
 
 TEST(KnownWords, ASlipIsOneLetter) {

@@ -13,11 +13,6 @@ FirstCall Of(std::string text, const char* name) {
   return ProgramOutline(text).FirstCallOf(name);
 }
 
-std::vector<std::string> WithoutEnd(std::string text) {
-  std::ranges::replace(text, '|', '\r');
-  return ProgramOutline(text).WithoutEnd();
-}
-
 TEST(FirstCall, IsTheProcedureOfTheFilesName) {
   EXPECT_EQ(Of("TO SIDE|FD 10|END|TO STAR|SIDE|END|TO LAST|END", "STAR").Procedure, "STAR");
   EXPECT_EQ(Of("TO STAR|END|TO LAST|END", "star").Procedure, "STAR");
@@ -30,6 +25,15 @@ TEST(FirstCall, IsOtherwiseTheLastThatNoOtherCalls) {
 
 TEST(FirstCall, SeesCallsInsideRepeat) {
   EXPECT_EQ(Of("TO ROSE|REPEAT 4 [LEAF RT 90]|END|TO LEAF|FD 10|END", "ANNA").Procedure, "ROSE");
+}
+
+TEST(FirstCall, MayBeOfAProcedureThatIsIndented) {
+  EXPECT_EQ(Of("TO SIDE|END|  TO STAR|SIDE|END", "ANNA").Procedure, "STAR");
+}
+
+TEST(FirstCall, IsNotHinderedByATextOrALineOutside) {
+  EXPECT_EQ(Of("TO STAR|END|TO SIDE|PRINT \"MY STAR\"|END", "STAR").Procedure, "STAR");
+  EXPECT_EQ(Of("TO SIDE|END|TO STAR|END|STAR|SIDE", "ANNA").Procedure, "STAR");
 }
 
 TEST(FirstCall, MayCallItself) { EXPECT_EQ(Of("TO SPIN|FD 1|SPIN|END", "ANNA").Procedure, "SPIN"); }
@@ -53,7 +57,7 @@ TEST(FirstCall, IsReportedIfItIsAnotherBecauseOfInputs) {
 }
 
 TEST(FirstCall, IsNoneWithoutProcedures) {
-  for (const char* text : {"", "|||", "FD 10|RT 90|", "TO|END", "to star|fd 10|end", "  TO STAR|END"}) {
+  for (const char* text : {"", "|||", "FD 10|RT 90|", "TO|END", "to star|fd 10|end", "TOSTAR|END"}) {
     EXPECT_EQ(Of(text, "ANNA").Procedure, "") << text;
     EXPECT_EQ(Of(text, "ANNA").Note, "The program has no procedure: no line begins with TO in capital letters.")
         << text;
@@ -70,13 +74,6 @@ TEST(FirstCall, ProgramsBeyondTheStoreCountAsFarAsTheyFit) {
   std::string text = "TO FIRST\r";
   for (int i = 0; i < 3000; ++i) text += "FD 1\r";
   EXPECT_EQ(Of(text + "TO LAST\rEND\r", "ANNA").Procedure, "FIRST");
-}
-
-TEST(WithoutEnd, ProceduresAreNamed) {
-  using Names = std::vector<std::string>;
-  EXPECT_EQ(WithoutEnd("TO A|FD 1| END |TO B|END|"), Names{});
-  EXPECT_EQ(WithoutEnd("TO A|FD 1|TO B|END|TO C|FD 2"), (Names{"A", "C"}));
-  EXPECT_EQ(WithoutEnd("TO A|IF 1=1|ENDIF|end|"), Names{"A"});
 }
 
 }  // namespace

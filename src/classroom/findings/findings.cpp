@@ -3,9 +3,35 @@
 #include <algorithm>
 #include <tuple>
 
+#include "interpreter/store.h"
+
 namespace zerimo::classroom {
 
 namespace {
+
+/// The characters of a line that the store does not keep, each once.
+QString DroppedFrom(const QString& line) {
+  QString dropped;
+  for (const QChar character : line) {
+    const bool isKept = character.unicode() >= 32 && character.unicode() <= 126;
+    if (!isKept && character != u'\t' && !dropped.contains(character)) dropped += character;
+  }
+  return dropped;
+}
+
+bool IsBlank(const QString& line) { return !line.isEmpty() && line.count(u' ') == line.size(); }
+
+void FindInFile(const Listing& listing, Findings& findings) {
+  const int count = static_cast<int>(listing.Lines.size());
+  for (int i = 0; i < count; ++i) {
+    const QString& line = listing.Lines[i];
+    const QString dropped = DroppedFrom(line);
+    if (!dropped.isEmpty()) findings.push_back({Mistake::DroppedLetters, i + 1, {dropped}});
+    if (line.contains(u'\t')) findings.push_back({Mistake::Tab, i + 1, {}});
+    if (IsBlank(line) && i + 1 < count) findings.push_back({Mistake::BlankLine, i + 1, {}});
+  }
+  if (count > Store::LineCount) findings.push_back({Mistake::TooLong, Store::LineCount, {QString::number(count)}});
+}
 
 bool IsOneLine(const QString& program) { return program.contains(u'\n') && !program.contains(u'\r'); }
 

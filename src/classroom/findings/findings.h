@@ -20,6 +20,5 @@ void FindInNames(const Listing& listing, Findings& findings);
 void FindInProcedures(const Listing& listing, Findings& findings);
 void FindInJumps(const Listing& listing, Findings& findings);
 void FindInPens(const Listing& listing, Findings& findings);
-void FindInFile(const Listing& listing, Findings& findings);
 
 }  // namespace zerimo::classroom

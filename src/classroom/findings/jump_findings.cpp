@@ -16,10 +16,9 @@ class IfWalk {
   explicit IfWalk(Findings& findings) : findings_(findings) {}
 
   void Take(const Statement& statement) {
-    const QString word = statement.Word();
-    if (word == "IF") open_.push_back({statement.Line, false});
-    if (statement.Text == "ELSE") TakeElse(statement.Line);
-    if (word == "ENDIF" && !open_.empty()) open_.pop_back();
+    if (statement.Is<StmtIf>()) open_.push_back({statement.Line, false});
+    if (statement.Is<StmtElse>() && statement.Rest().isEmpty()) TakeElse(statement.Line);
+    if (statement.Is<StmtEndIf>() && !open_.empty()) open_.pop_back();
   }
 
   void End() {
@@ -49,7 +48,7 @@ void FindIfs(const Listing& listing, Findings& findings) {
   for (std::size_t i = 0; i < listing.Statements.size(); ++i) {
     const Statement& statement = listing.Statements[i];
     if (i > 0 && statement.Procedure != listing.Statements[i - 1].Procedure) walk.End();
-    if (statement.Word() != "REPEAT") walk.Take(statement);
+    if (!statement.Is<inputs::Repeat>()) walk.Take(statement);
   }
   walk.End();
 }
@@ -57,14 +56,14 @@ void FindIfs(const Listing& listing, Findings& findings) {
 void FindLabels(const Listing& listing, Findings& findings) {
   QHash<QString, int> lines;
   for (const Statement& each : listing.Statements) {
-    if (each.Word() != "LABEL") continue;
+    if (!each.Is<StmtLabel>()) continue;
     if (lines.contains(each.Rest()))
       findings.push_back(
           {Mistake::DuplicateLabel, each.Line, {each.Rest(), QString::number(lines.value(each.Rest()))}});
     lines.insert(each.Rest(), each.Line);
   }
   for (const Statement& each : listing.Statements) {
-    if (each.Word() == "GOTO" && !lines.contains(each.Rest()))
+    if (each.Is<StmtGoto>() && !lines.contains(each.Rest()))
       findings.push_back({Mistake::UnknownLabel, each.Line, {each.Rest()}});
   }
 }
@@ -73,7 +72,7 @@ void FindLabels(const Listing& listing, Findings& findings) {
 void FindSwallowed(const Listing& listing, Findings& findings) {
   for (std::size_t i = 1; i < listing.Statements.size(); ++i) {
     const Statement& label = listing.Statements[i];
-    if (label.Word() == "LABEL" && listing.Statements[i - 1].Text == "ENDIF")
+    if (label.Is<StmtLabel>() && listing.Statements[i - 1].Is<StmtEndIf>())
       findings.push_back({Mistake::LabelAfterEndif, label.Line, {label.Rest()}});
   }
 }

@@ -1,10 +1,7 @@
 #include "classroom/findings/known_words.h"
 
-#include <QHash>
 #include <algorithm>
 #include <vector>
-
-#include "interpreter/word_table.h"
 
 namespace zerimo::classroom {
 
@@ -14,32 +11,62 @@ QString TextOf(std::string_view latin1) {
   return QString::fromLatin1(latin1.data(), static_cast<qsizetype>(latin1.size()));
 }
 
-/// The known words with the number of their inputs, or a negative marker for those that take the rest of the line.
-QHash<QString, int> TableOfWords() {
-  QHash<QString, int> words;
-  for (const WordFacts& facts : AllWords())
-    words.insert(TextOf(facts.Word), facts.Inputs == inputs::NotCounted ? 0 : facts.Inputs);
-  for (const char* word : {"TO", "END", "ELSE", "ENDIF"}) words.insert(QString::fromLatin1(word), 0);
-  for (const char* inner : {"AEXP", "REXP"}) words.remove(QString::fromLatin1(inner));
+/// The words that only the system uses itself are not known.
+std::vector<const WordFacts*> ListOfWords() {
+  std::vector<const WordFacts*> words;
+  for (const WordFacts& word : AllWords()) {
+    if (!IsOneOf<Action::ArithmeticLine, Action::RelationLine>(&word)) words.push_back(&word);
+  }
   return words;
 }
 
-const QHash<QString, int>& Words() {
-  static const QHash<QString, int> words = TableOfWords();
+const std::vector<const WordFacts*>& Words() {
+  static const std::vector<const WordFacts*> words = ListOfWords();
   return words;
 }
 
-/// Words that are complete without their input.
-bool MayStandAlone(const QString& word) {
-  static const QStringList alone = {"HELP", "SHOW", "SOUND", "HIDE", "SLIDESHOW"};
-  return alone.contains(word);
-}
+/// Whether a word never gets an input: it is no longer itself if something follows it.
+bool StandsAlone(const WordFacts& word) { return word.Match == MatchedBy::WholeLine; }
 
 }  // namespace
 
-bool IsKnownWord(const QString& word) { return Words().contains(word); }
+const WordFacts* KnownWord(const QString& word) {
+  const auto found = std::ranges::find(Words(), word, [](const WordFacts* each) { return TextOf(each->Word); });
+  return found == Words().end() ? nullptr : *found;
+}
 
-int NeededInputsOf(const QString& word) { return MayStandAlone(word) ? 0 : std::max(0, Words().value(word)); }
+bool IsDead(const WordFacts& word) {
+  if (word.Does != Action::None) return word.Place == 0;
+  return word.LineClass == StmtCall && !IsOneOf<inputs::Repeat>(&word);
+}
+
+bool TakesAName(const WordFacts* word) {
+  return IsOneOf<StmtLabel, StmtGoto, Action::Load, Action::Show, Action::Hide, Action::Help, Action::SavePicture,
+                 Action::LoadPicture, Action::SlideShow>(word) ||
+         (word != nullptr && IsDead(*word));
+}
+
+int NeededInputsOf(const WordFacts* word) {
+  const bool mayStandAlone = IsOneOf<Action::Help, Action::Show, Action::Sound, Action::SlideShow>(word);
+  return word == nullptr || mayStandAlone ? 0 : std::max<int>(0, word->Inputs);
+}
+
+QString NameOf(bool (*isSuch)(const WordFacts*)) {
+  const auto found = std::ranges::find_if(Words(), isSuch);
+  return found == Words().end() ? QString() : TextOf((*found)->Word);
+}
+
+QRegularExpression ExpressionOf(QString text, bool (*isSuch)(const WordFacts*)) {
+  QStringList names;
+  QStringList withInputs;
+  for (const WordFacts* word : Words()) {
+    if (!isSuch(word)) continue;
+    names.append(QRegularExpression::escape(TextOf(word->Word)));
+    if (!StandsAlone(*word)) withInputs.append(names.last() + QString(" \\S+").repeated(std::max(0, word->Inputs - 1)));
+  }
+  text.replace(u'@', "(?:" + names.join(u'|') + ')');
+  return QRegularExpression(text.replace(u'&', "(?:" + withInputs.join(u'|') + ')'));
+}
 
 int LettersBetween(const QString& one, const QString& other) {
   const auto columns = static_cast<std::size_t>(other.size());
@@ -61,7 +88,8 @@ int LettersBetween(const QString& one, const QString& other) {
 }
 
 QString SuggestionFor(const QString& word, const QStringList& others) {
-  QStringList all = Words().keys() + others;
+  QStringList all = others;
+  for (const WordFacts* each : Words()) all.append(TextOf(each->Word));
   all.sort();
   QString best;
   // A third of the letters may be wrong, and at most two of a short word.

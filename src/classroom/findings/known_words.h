@@ -1,15 +1,45 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
+#include "interpreter/word_table.h"
+
+/// The words of the language as a reader of programs needs them. They are told apart by what they do, never by their
+/// spelling: another word, or another name for one, needs no change here.
 namespace zerimo::classroom {
 
-/// Whether a text is a word of the language, including `TO`, `IF` and the like.
-bool IsKnownWord(const QString& word);
+/// The row of a word that programs can use, `TO`, `IF` and the like included, or null.
+const WordFacts* KnownWord(const QString& word);
+
+inline bool IsKnownWord(const QString& word) { return KnownWord(word) != nullptr; }
+
+inline bool Means(const WordFacts& word, Action does) { return word.Does == does; }
+inline bool Means(const WordFacts& word, StatementClass lineClass) { return word.LineClass == lineClass; }
+inline bool Means(const WordFacts& word, std::int16_t inputs) { return word.Inputs == inputs; }
+
+/// Whether a word has one of these actions, classes of lines, or markers of inputs. A null pointer has none.
+template <auto... Which>
+bool IsOneOf(const WordFacts* word) {
+  return word != nullptr && (... || Means(*word, Which));
+}
+
+/// Whether a word is in the language, but does nothing.
+bool IsDead(const WordFacts& word);
+
+/// Whether what follows a word names a file, a page, a window or a label.
+bool TakesAName(const WordFacts* word);
 
 /// How many inputs a word needs: 0 if it can do without, is not a word, or takes the rest of its line.
-int NeededInputsOf(const QString& word);
+int NeededInputsOf(const WordFacts* word);
+
+/// The name of the first such word.
+QString NameOf(bool (*isSuch)(const WordFacts*));
+
+/// An expression in which @ stands for any of the known words that are such, and & for any of them with all its inputs
+/// but the last.
+QRegularExpression ExpressionOf(QString text, bool (*isSuch)(const WordFacts*));
 
 /// The known word, or the one among `others`, whose spelling is most like this one, or empty.
 QString SuggestionFor(const QString& word, const QStringList& others);

@@ -1,10 +1,6 @@
 #include "classroom/findings/listing.h"
 
-#include <QRegularExpression>
 #include <algorithm>
-#include <utility>
-
-#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
@@ -12,7 +8,7 @@ namespace {
 
 /// The quote of `MAKE "N` is not one of a pair.
 QString WithoutQuoted(QString line) {
-  static const QRegularExpression quoted("(?<!MAKE )\"[^\"]*\"");
+  static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"[^\"]*\"", IsOneOf<StmtMake>);
   return line.replace(quoted, "\"\"").simplified();
 }
 
@@ -54,17 +50,14 @@ QString BodyOf(const QString& repeat) {
 }
 
 Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
-  for (const QString& line : std::as_const(Lines)) {
-    const QStringList words = line.simplified().split(u' ');
-    if (words.size() > 1 && words[0] == "TO") Procedures.push_back({words[1], words.mid(2), 0, false});
-  }
-  int procedure = -1;
+  // A body is taken apart at the names of procedures that may stand below it.
+  for (int i = 0; i < Lines.size(); ++i) TakeHead(Lines[i], i + 1);
+  std::size_t next = 0;
   for (int i = 0; i < Lines.size(); ++i) {
     const QString line = WithoutQuoted(Lines[i]);
-    if (line.startsWith("TO ")) {
-      current_ = ++procedure;
-      Procedures[static_cast<std::size_t>(current_)].Line = i + 1;
-    } else if (line == "END") {
+    if (next < Procedures.size() && Procedures[next].Line == i + 1) {
+      current_ = static_cast<int>(next++);
+    } else if (IsOneOf<StmtEnd>(KnownWord(line))) {
       if (current_ >= 0) Procedures[static_cast<std::size_t>(current_)].HasEnd = true;
       current_ = -1;
     } else if (!line.isEmpty()) {
@@ -73,9 +66,15 @@ Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
   }
 }
 
+void Listing::TakeHead(const QString& line, int number) {
+  const QStringList words = line.simplified().split(u' ');
+  if (words.size() > 1 && IsOneOf<StmtTo>(KnownWord(words[0])))
+    Procedures.push_back({words[1], words.mid(2), number, false});
+}
+
 void Listing::TakeStatement(const QString& text, int number, bool inBody) {
-  Statements.push_back({number, text, inBody, current_});
-  if (Statements.back().Word() == "REPEAT") TakeBody(BodyOf(text), number);
+  Statements.push_back({number, text, inBody, current_, KnownWord(text.section(u' ', 0, 0))});
+  if (Statements.back().Is<inputs::Repeat>()) TakeBody(BodyOf(text), number);
 }
 
 void Listing::TakeBody(const QString& body, int number) {

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <vector>
 
+#include "classroom/findings/known_words.h"
+
 namespace zerimo::classroom {
 
 /// One statement as its pupil wrote it: a line outside REPEAT, or a part of a body.
@@ -15,9 +17,17 @@ struct Statement {
   bool InBody = false;
   /// The index of its procedure, or -1 outside.
   int Procedure = -1;
+  /// The row of its word, or null.
+  const WordFacts* Known = nullptr;
 
   QString Word() const { return Text.section(u' ', 0, 0); }
   QString Rest() const { return Text.section(u' ', 1); }
+
+  /// Whether its word is one of these; see `IsOneOf`.
+  template <auto... Which>
+  bool Is() const {
+    return IsOneOf<Which...>(Known);
+  }
 };
 
 struct ListedProcedure {
@@ -43,6 +53,7 @@ class Listing {
   const ListedProcedure* Find(const QString& name) const;
 
  private:
+  void TakeHead(const QString& line, int number);
   void TakeStatement(const QString& text, int number, bool inBody);
   void TakeBody(const QString& body, int number);
 

@@ -1,9 +1,7 @@
-#include <QRegularExpression>
 #include <QSet>
 #include <algorithm>
 
 #include "classroom/findings/findings.h"
-#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
@@ -19,7 +17,7 @@ QStringList NamesIn(const QString& text) {
 
 /// The name that a statement makes, with its colon, or empty.
 QString MadeBy(const Statement& statement) {
-  static const QRegularExpression make("^MAKE [\":]([A-Z]+)");
+  static const QRegularExpression make = ExpressionOf("^@ [\":]([A-Z]+)", IsOneOf<StmtMake>);
   const auto match = make.match(statement.Text);
   return match.hasMatch() ? u':' + match.captured(1) : QString();
 }
@@ -50,12 +48,10 @@ void FindUnknown(const Listing& listing, const QSet<QString>& known, Findings& f
 /// A name that is known, but written without its colon, counts as 0.
 void FindWithoutColon(const Listing& listing, const QSet<QString>& known, Findings& findings) {
   static const QRegularExpression plain("(?<![:\"#\\w.])[A-Z]+(?![\\w.])");
-  static const QStringList ofOtherNames = {"LABEL", "GOTO", "LOAD",        "SAVE",        "SHOW",
-                                           "HIDE",  "HELP", "SAVEPICTURE", "LOADPICTURE", "SLIDESHOW"};
   for (const Statement& statement : listing.Statements) {
-    if (statement.Word() == "REPEAT" || ofOtherNames.contains(statement.Word())) continue;
+    if (statement.Is<inputs::Repeat>() || TakesAName(statement.Known)) continue;
     // What MAKE makes is written without one.
-    const QString read = statement.Word() == "MAKE" ? statement.Rest().section(u' ', 1) : statement.Rest();
+    const QString read = statement.Is<StmtMake>() ? statement.Rest().section(u' ', 1) : statement.Rest();
     for (auto walk = plain.globalMatch(read); walk.hasNext();) {
       const QString name = walk.next().captured();
       if (known.contains(u':' + name) && !IsKnownWord(name) && listing.Find(name) == nullptr)
@@ -68,7 +64,7 @@ void FindWithoutColon(const Listing& listing, const QSet<QString>& known, Findin
 void FindZeros(const Listing& listing, Findings& findings) {
   QStringList zeros;
   for (const Statement& each : listing.Statements) {
-    if (each.Text.startsWith("MAKE ") && each.Text.endsWith(" 0")) zeros.append(MadeBy(each));
+    if (each.Is<StmtMake>() && each.Text.endsWith(" 0")) zeros.append(MadeBy(each));
   }
   for (const Statement& statement : listing.Statements) {
     for (const QString& name : std::as_const(zeros)) {
@@ -80,7 +76,7 @@ void FindZeros(const Listing& listing, Findings& findings) {
 }
 
 void FindInputTwice(const Listing& listing, const Statement& statement, Findings& findings) {
-  if (statement.Word() == "REPEAT") return;
+  if (statement.Is<inputs::Repeat>()) return;
   for (const QString& input : InputsOf(listing, statement)) {
     const bool isTwice = std::ranges::any_of(statement.Text.split(u' '),
                                              [&input](const QString& word) { return NamesIn(word).count(input) > 1; });

@@ -1,5 +1,3 @@
-#include <QStringList>
-
 #include "classroom/findings/findings.h"
 
 namespace zerimo::classroom {
@@ -17,35 +15,36 @@ class PenWalk {
   }
 
   void Take(const Statement& statement, bool isCall) {
-    const QString word = statement.Word();
     // After a call, a jump or a condition the pen's state is unknown.
-    if (isCall || word == "LABEL" || word == "IF" || word == "ELSE" || word == "ENDIF") return Begin();
-    if (word == "PU" || word == "PENUP") pen_ = Pen::Up;
-    if (word == "PD" || word == "PENDOWN") pen_ = Pen::Down;
-    if (word == "PE" || word == "PENERASE") pen_ = Pen::Eraser;
-    TellOfPen(statement, word);
-    TellOfFilling(statement, word);
+    if (isCall || statement.Is<StmtLabel, StmtIf, StmtElse, StmtEndIf>()) return Begin();
+    if (statement.Is<Action::PenUp>()) pen_ = Pen::Up;
+    if (statement.Is<Action::PenDown>()) pen_ = Pen::Down;
+    if (statement.Is<Action::PenErase>()) pen_ = Pen::Eraser;
+    TellOfPen(statement);
+    TellOfFilling(statement);
   }
 
  private:
   enum class Pen { Unknown, Up, Down, Eraser };
 
-  void TellOfPen(const Statement& statement, const QString& word) {
-    static const QStringList shapes = {"DOT", "CIRCLE", "LINE", "ELLIPSE"};
-    if (pen_ == Pen::Eraser && (word == "PX" || word == "PENREVERSE")) Add(Mistake::EraserReversed, statement);
-    if (pen_ == Pen::Eraser && word == "SETPC") Add(Mistake::EraserColour, statement);
-    if (pen_ == Pen::Up && (word == "PX" || word == "PENREVERSE")) pen_ = Pen::Down;
-    if (pen_ == Pen::Up && shapes.contains(word)) Add(Mistake::ShapeWithPenUp, statement);
+  void TellOfPen(const Statement& statement) {
+    using enum Action;
+    const bool reverses = statement.Is<PenReverse>();
+    if (pen_ == Pen::Eraser && reverses) Add(Mistake::EraserReversed, statement);
+    if (pen_ == Pen::Eraser && statement.Is<SetPC>()) Add(Mistake::EraserColour, statement);
+    if (pen_ == Pen::Up && reverses) pen_ = Pen::Down;
+    if (pen_ == Pen::Up && statement.Is<Dot, Circle, Line, Ellipse>()) Add(Mistake::ShapeWithPenUp, statement);
   }
 
-  void TellOfFilling(const Statement& statement, const QString& word) {
-    static const QStringList filled = {"STAMPCIRCLE", "STAMPOVAL", "STAMPRECT", "CIRCLE", "ELLIPSE"};
-    if (word == "FLOODFILL") flooded_ = true;
-    if (word == "FILLSTYLE") flooded_ = false;
+  void TellOfFilling(const Statement& statement) {
+    using enum Action;
+    const bool isFull = statement.Is<StampCircle, StampOval, StampRect, Circle, Ellipse>();
+    if (statement.Is<FloodFill>()) flooded_ = true;
+    if (statement.Is<FillStyle>()) flooded_ = false;
     // A new colour for the inside shows that a full shape is meant.
-    if (word == "FILL") meansFull_ = true;
-    if (flooded_ && meansFull_ && filled.contains(word)) Add(Mistake::EmptyShapes, statement);
-    if (word != "FILL") meansFull_ = meansFull_ && !filled.contains(word);
+    if (statement.Is<Fill>()) meansFull_ = true;
+    if (flooded_ && meansFull_ && isFull) Add(Mistake::EmptyShapes, statement);
+    if (isFull) meansFull_ = false;
   }
 
   void Add(Mistake mistake, const Statement& statement) {
@@ -66,7 +65,7 @@ void FindInPens(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     if (statement.Procedure != procedure) walk.Begin();
     procedure = statement.Procedure;
-    if (statement.Word() != "REPEAT") walk.Take(statement, listing.Find(statement.Word()) != nullptr);
+    if (!statement.Is<inputs::Repeat>()) walk.Take(statement, listing.Find(statement.Word()) != nullptr);
   }
 }
 

@@ -1,4 +1,3 @@
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "classroom/findings/findings.h"
@@ -18,7 +17,7 @@ void FindEnds(const Listing& listing, Findings& findings) {
 
 /// Outside the procedures only `MAKE` lines with a number, above the first procedure, are read.
 void FindOutside(const Listing& listing, Findings& findings) {
-  static const QRegularExpression name("^MAKE :[A-Z]+ \\(?-?[\\d.]+\\)?$");
+  static const QRegularExpression name = ExpressionOf("^@ :[A-Z]+ \\(?-?[\\d.]+\\)?$", IsOneOf<StmtMake>);
   if (listing.Procedures.empty()) return;
   const int first = listing.Procedures.front().Line;
   for (const Statement& each : listing.Statements) {
@@ -28,7 +27,7 @@ void FindOutside(const Listing& listing, Findings& findings) {
   }
 }
 
-bool ClosesIf(const Statement& statement) { return statement.Text == "ENDIF" || statement.Text == "ELSE"; }
+bool ClosesIf(const Statement& statement) { return statement.Is<StmtEndIf, StmtElse>() && statement.Rest().isEmpty(); }
 
 /// A procedure that calls itself loses what follows the call, and does not pass on its inputs.
 void FindRecursion(const Listing& listing, Findings& findings) {

@@ -1,8 +1,6 @@
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "classroom/findings/findings.h"
-#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
@@ -19,7 +17,8 @@ void FindInCount(const Statement& repeat, Findings& findings) {
   if (isNumber && number != 0 && count.contains(u'.'))
     findings.push_back({Mistake::CountFraction, repeat.Line, {count}});
   if (isNumber && number > GreatestCount) findings.push_back({Mistake::CountTooLarge, repeat.Line, {count}});
-  if (count.startsWith(u':') && repeat.Text.contains("MAKE \"" + count.mid(1) + u' '))
+  const QString make = NameOf(IsOneOf<StmtMake>) + " \"" + count.mid(1) + ' ';
+  if (count.startsWith(u':') && repeat.Text.contains(make))
     findings.push_back({Mistake::CountChanged, repeat.Line, {count}});
 }
 
@@ -31,7 +30,8 @@ void FindBrackets(const Statement& repeat, Findings& findings) {
 
 /// A PRINT that is not the last in its body takes the following statements as part of its sum.
 void FindPrint(const Statement& repeat, Findings& findings) {
-  static const QRegularExpression print("(?:^|[ \\[])(PRINT|WRITE|MESSAGE) ([^\" \\]\\[]+) ([A-Z]+)");
+  static const QRegularExpression print =
+      ExpressionOf("(?:^|[ \\[])(@) ([^\" \\]\\[]+) ([A-Z]+)", IsOneOf<Action::Print, Action::Write, Action::Message>);
   for (auto walk = print.globalMatch(BodyOf(repeat.Text)); walk.hasNext();) {
     const auto match = walk.next();
     if (IsKnownWord(match.captured(3))) findings.push_back({Mistake::PrintInRepeat, repeat.Line, {match.captured(1)}});
@@ -39,7 +39,7 @@ void FindPrint(const Statement& repeat, Findings& findings) {
 }
 
 void FindIndented(const Listing& listing, Findings& findings) {
-  static const QRegularExpression indented("^[ \t]+REPEAT\\b");
+  static const QRegularExpression indented = ExpressionOf("^[ \t]+@\\b", IsOneOf<inputs::Repeat>);
   for (int i = 0; i < listing.Lines.size(); ++i) {
     if (indented.match(listing.Lines[i]).hasMatch()) findings.push_back({Mistake::IndentedRepeat, i + 1, {}});
   }
@@ -56,7 +56,7 @@ void FindLongBody(const Listing& listing, const Statement& repeat, Findings& fin
 void FindInRepeats(const Listing& listing, Findings& findings) {
   FindIndented(listing, findings);
   for (const Statement& statement : listing.Statements) {
-    if (statement.Word() != "REPEAT") continue;
+    if (!statement.Is<inputs::Repeat>()) continue;
     FindInCount(statement, findings);
     FindPrint(statement, findings);
     // An inner one is checked with the brackets of the whole line.

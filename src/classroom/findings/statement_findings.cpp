@@ -1,78 +1,96 @@
-#include <QRegularExpression>
 #include <array>
 #include <cmath>
 
 #include "classroom/findings/findings.h"
-#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
 namespace {
 
-/// A mistake that the text of one statement shows. The reader is told the text of the pattern's first group.
+/// Whether a word takes two numbers or more.
+bool TakesNumbers(const WordFacts* word) {
+  return word != nullptr && word->Does != Action::None && word->Inputs > 1 && !TakesAName(word);
+}
+
+constexpr auto IsIf = IsOneOf<StmtIf>;
+constexpr auto IsMake = IsOneOf<StmtMake>;
+
+/// A mistake that the text of one statement shows. The reader is told the text of the expression's first group.
 struct Pattern {
   Mistake What;
+  /// See `ExpressionOf`; it is about any statement if it names no words.
   const char* Text;
+  bool (*Words)(const WordFacts*) = IsOneOf<>;
+  /// The number in the first group is a mistake if it is greater.
+  double Greatest = -1;
 };
 
+/// The greatest number of units that 16 bits hold, in steps of 50.
+constexpr double GreatestStep = 655;
+constexpr double GreatestNumber = 32767;
+
+using enum Action;
+
 constexpr std::array Patterns = {
-    Pattern{Mistake::MinusInput, "^(?!IF |MAKE |PRINT |MESSAGE |WRITE|WRITERGB )([A-Z]+) -\\s*[\\d:.(A-Z]"},
-    Pattern{Mistake::MinusSecondInput,
-            "^(SETXY|DOT|POINT|LINE|CIRCLE|ELLIPSE|STAMPOVAL|STAMPRECT|LINERGB|ELLIPSERGB) [^\"]*[\\w)] -[\\d:.(]"},
-    Pattern{Mistake::MinusMake, "^MAKE \"?:?([A-Z]+) -"},
+    Pattern{Mistake::MinusInput, "^(?!@ )([A-Z]+) -\\s*[\\d:.(A-Z]",
+            IsOneOf<StmtIf, StmtMake, inputs::Print, inputs::Message, inputs::Write>},
+    Pattern{Mistake::MinusSecondInput, "^(@) [^\"]*[\\w)] -[\\d:.(]", TakesNumbers},
+    Pattern{Mistake::MinusMake, "^@ \"?:?([A-Z]+) -", IsMake},
     Pattern{Mistake::DoubleMinus, "(\\S*--\\S*)"},
     Pattern{Mistake::PercentAfterTimes, "([\\w):.]*\\w\\*[\\w:.]+%\\S*)"},
     Pattern{Mistake::MissingTimes, "([\\d)]+\\(\\S*)"},
     Pattern{Mistake::BarePoint, " (\\.\\d+)"},
-    Pattern{Mistake::BlankBeforeEquals, "^IF [^\"]* (=)"},
+    Pattern{Mistake::BlankBeforeEquals, "^@ [^\"]* (=)", IsIf},
     Pattern{Mistake::Exponent, "(?:^|[^\\w:\"])(\\d+E[+-]?\\d+)"},
-    Pattern{Mistake::HalfNumber, "^(?:SETPC|SETBG|FILL|FILLSTYLE|FLOODFILL|LW|WAIT|DRAWMODE|TEXTSIZE) (\\d+\\.\\d+)$"},
-    Pattern{Mistake::WholeStep,
-            "^(?:CIRCLE \\S+ \\S+|SETXY \\S+|DOT \\S+|LINE \\S+ \\S+ \\S+) (\\(?-?\\d+\\.\\d+\\)?)$"},
+    Pattern{Mistake::HalfNumber, "^& (\\d+\\.\\d+)$",
+            IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize>},
+    Pattern{Mistake::WholeStep, "^& (\\(?-?\\d+\\.\\d+\\)?)$", IsOneOf<Circle, SetXY, Dot, Line>},
     Pattern{Mistake::DivisionByZero, "(\\S*/0(?![\\d.])\\S*)"},
+    Pattern{Mistake::TooLarge, "^& \\(?-?(\\d+)\\)?$", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
+    Pattern{Mistake::TooLarge, "^& (\\d+)$",
+            IsOneOf<Sum, Product, Quotient, Remainder, LineWidth, Wait, SetPC, SetBG, Fill>, GreatestNumber},
     Pattern{Mistake::DigitInName, "(:[A-Z]+\\d+)"},
-    Pattern{Mistake::DigitInName, "^MAKE \"([A-Z]+\\d+)"},
-    Pattern{Mistake::MakeWithoutQuote, "^MAKE ([A-Z]+)\\b"},
-    Pattern{Mistake::WrongSign, "^IF [^\"]*(==|<>|><|=<|=>|!==)"},
-    Pattern{Mistake::TwoComparisons, "^IF ([^\" ]*[<>=!]=?[^<>=!\" ]+[<>!][^\" ]*)"},
-    Pattern{Mistake::LogicWord, "^IF [^\"]*\\b(AND|OR|NOT)\\b"},
-    Pattern{Mistake::LongLineWidth, "^LINEWIDTH (\\S.*)"},
-    Pattern{Mistake::ColourCode, "^(?:SETPC|SETBG|FILL|FLOODFILL|TEXTCOLOR) (1[6-9]|[2-9]\\d|\\d{3,}|\\(-\\d+\\))$"},
-    Pattern{Mistake::OpenQuote, "^(?:PRINT|MESSAGE|WRITE) (\"[^\"]+)$"},
-    Pattern{Mistake::OpenSum, "^(\\((?:SUM|PRODUCT)\\b[^)]*)$"},
-    Pattern{Mistake::DeadWord, "^(GETX|GETY|FULLSCREEN|SPLITSCREEN|TEXTSCREEN|CLEARTEXT|SAVE|SAVE \\S.*|SOUND \\S.*)$"},
-    Pattern{Mistake::ElseWithMore, "^ELSE (\\S.*)"},
-};
-
-/// Numbers from which on these words do nothing: a step counts 50 units, and 16 bits hold 32767.
-struct Bound {
-  const char* Text;
-  double Greatest;
-};
-
-constexpr std::array Bounds = {
-    Bound{"^(?:SETXY \\S+|DOT \\S+|SETY) \\(?-?(\\d+)\\)?$", 655},
-    Bound{"^(?:SUM|PRODUCT|QUOTIENT|REMAINDER) \\S+ (\\d+)$", 32767},
-    Bound{"^(?:LW|WAIT|SETPC|SETBG|FILL) (\\d+)$", 32767},
+    Pattern{Mistake::DigitInName, "^@ \"([A-Z]+\\d+)", IsMake},
+    Pattern{Mistake::MakeWithoutQuote, "^@ ([A-Z]+)\\b", IsMake},
+    Pattern{Mistake::WrongSign, "^@ [^\"]*(==|<>|><|=<|=>|!==)", IsIf},
+    Pattern{Mistake::TwoComparisons, "^@ ([^\" ]*[<>=!]=?[^<>=!\" ]+[<>!][^\" ]*)", IsIf},
+    Pattern{Mistake::LogicWord, "^@ [^\"]*\\b(AND|OR|NOT)\\b", IsIf},
+    Pattern{Mistake::ColourCode, "^& (1[6-9]|[2-9]\\d|\\d{3,}|\\(-\\d+\\))$",
+            IsOneOf<SetPC, SetBG, Fill, FloodFill, TextColor>},
+    Pattern{Mistake::OpenQuote, "^@ (\"[^\"]+)$", IsOneOf<Print, Message, Write>},
+    Pattern{Mistake::OpenSum, "^(@\\b[^)]*)$", IsOneOf<BracketSum, BracketProduct>},
+    Pattern{Mistake::ElseWithMore, "^@ (\\S.*)", IsOneOf<StmtElse>},
 };
 
 std::vector<QRegularExpression> Compiled() {
   std::vector<QRegularExpression> all;
-  for (const Pattern& each : Patterns) all.emplace_back(QString::fromLatin1(each.Text));
+  for (const Pattern& each : Patterns) all.push_back(ExpressionOf(QString::fromLatin1(each.Text), each.Words));
   return all;
 }
 
-void FindLargeNumbers(const Statement& statement, Findings& findings) {
-  for (const Bound& bound : Bounds) {
-    const auto match = QRegularExpression(QString::fromLatin1(bound.Text)).match(statement.Text);
-    if (match.hasMatch() && match.captured(1).toDouble() > bound.Greatest)
-      findings.push_back({Mistake::TooLarge, statement.Line, {match.captured(1)}});
+void FindPatterns(const Statement& statement, Findings& findings) {
+  static const std::vector<QRegularExpression> compiled = Compiled();
+  for (std::size_t i = 0; i < compiled.size(); ++i) {
+    const auto match = compiled[i].match(statement.Text);
+    if (match.hasMatch() && (Patterns[i].Greatest < 0 || match.captured(1).toDouble() > Patterns[i].Greatest))
+      findings.push_back({Patterns[i].What, statement.Line, {match.captured(1)}});
   }
+}
+
+/// A word that does nothing, alone or with what follows it.
+void FindDeadWord(const Statement& statement, Findings& findings) {
+  if (statement.Known == nullptr) return;
+  const bool losesInput = statement.Known->Match == MatchedBy::WholeLine && statement.Known->Inputs > 0;
+  if (losesInput && statement.Rest().isEmpty()) return;
+  if (losesInput && statement.Is<LineWidth>())
+    findings.push_back({Mistake::LongLineWidth, statement.Line, {statement.Rest()}});
+  else if (losesInput || IsDead(*statement.Known))
+    findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});
 }
 
 /// A name keeps its value, but only two decimals of it are used.
 void FindThirds(const Statement& statement, Findings& findings) {
-  static const QRegularExpression division("^MAKE \"[A-Z]+ \\(?(\\d+)/(\\d+)\\)?$");
+  static const QRegularExpression division = ExpressionOf("^@ \"[A-Z]+ \\(?(\\d+)/(\\d+)\\)?$", IsMake);
   const auto match = division.match(statement.Text);
   if (!match.hasMatch() || match.captured(2).toDouble() == 0) return;
   const double hundredths = 100 * match.captured(1).toDouble() / match.captured(2).toDouble();
@@ -90,15 +108,11 @@ void FindMissingBlank(const Statement& statement, Findings& findings) {
 }  // namespace
 
 void FindInStatements(const Listing& listing, Findings& findings) {
-  static const std::vector<QRegularExpression> compiled = Compiled();
   for (const Statement& statement : listing.Statements) {
     // The statements of a body are checked one by one.
-    if (statement.Word() == "REPEAT") continue;
-    for (std::size_t i = 0; i < compiled.size(); ++i) {
-      const auto match = compiled[i].match(statement.Text);
-      if (match.hasMatch()) findings.push_back({Patterns[i].What, statement.Line, {match.captured(1)}});
-    }
-    FindLargeNumbers(statement, findings);
+    if (statement.Is<inputs::Repeat>()) continue;
+    FindPatterns(statement, findings);
+    FindDeadWord(statement, findings);
     FindThirds(statement, findings);
     FindMissingBlank(statement, findings);
   }

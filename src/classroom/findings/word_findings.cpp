@@ -1,7 +1,4 @@
-#include <QRegularExpression>
-
 #include "classroom/findings/findings.h"
-#include "classroom/findings/known_words.h"
 
 namespace zerimo::classroom {
 
@@ -12,11 +9,9 @@ bool IsWord(const QString& text) {
   return word.match(text).hasMatch();
 }
 
-bool TakesTheRest(const QString& word) {
-  static const QStringList takers = {"REPEAT", "PRINT",       "WRITE",       "WRITERGB",  "MESSAGE",  "IF",
-                                     "LOAD",   "GOTO",        "LABEL",       "SHOW",      "HIDE",     "HELP",
-                                     "(SUM",   "SAVEPICTURE", "LOADPICTURE", "SLIDESHOW", "(PRODUCT", "ELSE"};
-  return takers.contains(word);
+bool TakesTheRest(const WordFacts* word) {
+  const bool isCounted = word == nullptr || word->Inputs >= 0 || word->Inputs == inputs::NotCounted;
+  return !isCounted || TakesAName(word) || IsOneOf<StmtIf, StmtElse>(word);
 }
 
 /// Whether a line of one word is a sum: it begins like a name or a number, or has a sign in it.
@@ -28,7 +23,7 @@ bool IsSum(const Statement& statement) {
 void FindUnknown(const Listing& listing, const Statement& statement, Findings& findings) {
   const QString word = statement.Word();
   const QStringList names = listing.ProcedureNames();
-  if (IsKnownWord(word) || names.contains(word) || IsSum(statement)) return;
+  if (statement.Known != nullptr || names.contains(word) || IsSum(statement)) return;
   const QString capitals = word.toUpper();
   if (word != capitals && (IsKnownWord(capitals) || names.contains(capitals))) {
     findings.push_back({Mistake::SmallLetters, statement.Line, {word, capitals}});
@@ -41,7 +36,7 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
 
 /// In the editor a line is one statement; a second one becomes part of the first one's inputs.
 void FindSeveral(const Listing& listing, const Statement& statement, Findings& findings) {
-  if (statement.InBody || TakesTheRest(statement.Word())) return;
+  if (statement.InBody || TakesTheRest(statement.Known)) return;
   const QStringList words = statement.Text.split(u' ');
   for (const QString& word : words.mid(1)) {
     if (!IsKnownWord(word) && listing.Find(word) == nullptr) continue;
@@ -61,7 +56,7 @@ int GivenInputs(const Statement& statement) {
 void FindMissingInputs(const Listing& listing, const Statement& statement, Findings& findings) {
   const QString word = statement.Word();
   const ListedProcedure* const procedure = listing.Find(word);
-  const qsizetype needed = procedure == nullptr ? NeededInputsOf(word) : procedure->Inputs.size();
+  const qsizetype needed = procedure == nullptr ? NeededInputsOf(statement.Known) : procedure->Inputs.size();
   const int given = GivenInputs(statement);
   if (given < needed && (given == 0 || IsWord(word)))
     findings.push_back(
