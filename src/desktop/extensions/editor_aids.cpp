@@ -40,7 +40,7 @@ void EditorAids::BoxOpens(QDialog&) {
   SkipOnFailure([&] { line = EndValExtractor(session_.form1.interpreter.controlPath.CtrlStr()); });
   if (line < 1 || line > Store::LineCount) return;
   int head = line;
-  while (head > 1 && !store.Line(head).starts_with("TO ")) --head;
+  while (head > 1 && store.ClassOf(head) != StmtTo) --head;
   // While it runs, a line may have a blank at its end.
   const auto textOf = [&](int number) { return std::string(Trimmed(store.Line(number))); };
   SkipOnFailure([&] { marks_.MarkStatement(textOf(head), textOf(line)); });

@@ -62,7 +62,7 @@ void EditorMarks::MarkStatement(const std::string& head, const std::string& stat
   bool isInProcedure = false;
   for (QTextBlock line = editor_.document()->begin(); line.isValid(); line = line.next()) {
     const std::string text = Tidied(line);
-    if (text.starts_with("TO ")) isInProcedure = text == head;
+    if (WhatIsThis(text) == StmtTo) isInProcedure = text == head;
     if (!isInProcedure || statement.empty() || text.find(statement) == std::string::npos) continue;
     marked_ = QTextCursor(line);
     markedText_ = editor_.Text();

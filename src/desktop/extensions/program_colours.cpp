@@ -27,6 +27,7 @@ void ProgramColours::highlightBlock(const QString& text) {
   for (QRegularExpressionMatchIterator matches = words_.globalMatch(text); matches.hasNext();) {
     const QRegularExpressionMatch match = matches.next();
     const QString word = match.captured().toUpper();
+    const WordFacts* const known = FindWord(word.toStdString());
     const auto format = [&](const QTextCharFormat& look) {
       setFormat(static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength()), look);
     };
@@ -34,10 +35,10 @@ void ProgramColours::highlightBlock(const QString& text) {
       format(name_);
     } else if (followsTo) {
       format(head_);
-    } else if (FindWord(word.toStdString()) != nullptr) {
+    } else if (known != nullptr) {
       format(word_);
     }
-    followsTo = word == QLatin1String("TO");
+    followsTo = known != nullptr && known->LineClass == StmtTo;
   }
 }
 

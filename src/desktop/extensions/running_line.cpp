@@ -30,8 +30,9 @@ QString RunningLine::Words() const {
 
 std::string RunningLine::Procedure() const {
   for (int number = line_; number > 0; --number) {
-    const std::string& line = form1_.interpreter.store.Line(number);
-    if (!line.starts_with("TO ")) continue;
+    const Store& store = form1_.interpreter.store;
+    if (store.ClassOf(number) != StmtTo) continue;
+    const std::string& line = store.Line(number);
     const std::string name = line.substr(3, line.find(' ', 3) - 3);
     return name.starts_with('#') ? "Your line" : name;
   }
