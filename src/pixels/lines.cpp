@@ -71,11 +71,19 @@ void PaintSteepLine(SpanPainter& painter, WholeLine line) {
   }
 }
 
+/// Whether a pen as wide as this stays inside the canvas all along the line.
+bool IsInside(const WholeLine& line, int width, const SpanPainter& painter) {
+  const auto [left, right] = std::minmax(line.X1, line.X2);
+  const auto [top, bottom] = std::minmax(line.Y1, line.Y2);
+  return left >= width && top >= width && right < painter.Columns() - width && bottom < painter.Rows() - width;
+}
+
 /// The two long sides of a line that goes down, and its ends, square to them.
 class Flanks {
  public:
-  Flanks(const WholeLine& line, int width, int columns)
-      : columns_(columns),
+  Flanks(const WholeLine& line, int width, const SpanPainter& painter)
+      : columns_(painter.Columns()),
+        isInside_(IsInside(line, width, painter)),
         aX_(line.X1 - (width % 2 == 0 ? 0.5 : 0)),
         aY_(line.Y1 - (width % 2 == 0 ? 0.5 : 0)),
         dX_(line.X2 - line.X1),
@@ -118,10 +126,13 @@ class Flanks {
 
  private:
   ColumnSpan Columns(double from, double to) const {
+    if (isInside_) return {FirstFrom(from), LastTo(to)};
     return {FirstFrom(from, 0, columns_), LastTo(to, -1, columns_ - 1)};
   }
 
   int columns_;
+  /// Most lines are, and then no place need be cut.
+  bool isInside_;
   double aX_;
   double aY_;
   double dX_;
@@ -161,7 +172,7 @@ void PaintThinLine(SpanPainter& painter, const WholeLine& line) {
 void PaintWideLine(SpanPainter& painter, WholeLine line, const RoundPen& pen) {
   const bool backward = std::pair(line.Y1, line.X1) > std::pair(line.Y2, line.X2);
   if (backward) line = {line.X2, line.Y2, line.X1, line.Y1};
-  const Flanks flanks(line, pen.Width(), painter.Columns());
+  const Flanks flanks(line, pen.Width(), painter);
   const auto paintEnds = [&](int first, int last) {
     painter.PaintRows(first, last, [&](int row) {
       ColumnSpan span = flanks.AtRow(row);

@@ -29,6 +29,10 @@ class PixelBuffer {
   const Pixel* Row(int row) const { return pixels_.data() + Offset(row); }
 
   void Fill(Pixel pixel) { std::fill(pixels_.begin(), pixels_.end(), pixel); }
+  /// The area must be inside the buffer.
+  void Fill(const PixelRect& area, Pixel pixel) {
+    for (int row = area.Top; row <= area.Bottom; ++row) std::fill_n(Row(row) + area.Left, area.Columns(), pixel);
+  }
 
  private:
   std::ptrdiff_t Offset(int row) const { return static_cast<std::ptrdiff_t>(row) * columns_; }

@@ -59,12 +59,23 @@ PixelCanvas::PixelCanvas(std::unique_ptr<TextDrawer> text, std::unique_ptr<Pictu
 
 void PixelCanvas::Create(int width, int height, Colour background) {
   pixels_ = MakeBuffer(width, height, ToRgb(background));
-  Changed(pixels_.Bounds());
+  IsClearNow(ToRgb(background));
 }
 
 void PixelCanvas::Clear(Colour background) {
-  pixels_.Fill(ToRgb(background));
+  const Pixel ground = ToRgb(background);
+  if (ground == ground_) {
+    pixels_.Fill(drawn_, ground);
+  } else {
+    pixels_.Fill(ground);
+  }
+  IsClearNow(ground);
+}
+
+void PixelCanvas::IsClearNow(Pixel ground) {
   Changed(pixels_.Bounds());
+  ground_ = ground;
+  drawn_ = {};
 }
 
 void PixelCanvas::Line(const Stroke& stroke, PixelPoint from, PixelPoint to) {
@@ -142,12 +153,15 @@ void PixelCanvas::FloodFill(PixelPoint at, Colour fill, int rows) {
 
 void PixelCanvas::Print(std::string_view text, PixelPoint at, double pointSize, Colour color) {
   Changed(text_->Print(pixels_, text, at, pointSize, ToRgb(color)));
+  // The drawer's estimate is good enough for the screen, but a clear must leave nothing.
+  drawn_ = pixels_.Bounds();
 }
 
 void PixelCanvas::LoadPicture(const std::filesystem::path& file, Colour background) {
   const PixelBuffer picture = files_->Read(file, pixels_.Columns(), pixels_.Rows(), ToRgb(background));
   Clear(background);
   for (int row = 0; row < picture.Rows(); ++row) std::copy_n(picture.Row(row), picture.Columns(), pixels_.Row(row));
+  Changed(pixels_.Bounds());
 }
 
 void PixelCanvas::SavePicture(const std::filesystem::path& file, int width, int height) const {
@@ -174,6 +188,7 @@ const PixelCanvas::Pen& PixelCanvas::PenOf(const Stroke& stroke) {
 void PixelCanvas::Changed(const PixelRect& area) {
   lastChange_ = area.IsEmpty() ? PixelRect() : area;
   dirty_ = United(dirty_, lastChange_);
+  drawn_ = United(drawn_, lastChange_);
 }
 
 }  // namespace zerimo

@@ -54,6 +54,8 @@ class PixelCanvas : public Canvas {
   const Pen& PenOf(const Stroke& stroke);
   bool Covers(PixelPoint at) const;
   void Changed(const PixelRect& area);
+  /// Nothing is drawn.
+  void IsClearNow(Pixel ground);
 
   PixelBuffer pixels_;
   std::unique_ptr<TextDrawer> text_;
@@ -62,6 +64,9 @@ class PixelCanvas : public Canvas {
   EllipseSpans ellipse_;
   PixelRect dirty_;
   PixelRect lastChange_;
+  /// The colour of the last clear, and the rectangle around what was drawn since: all else is of that colour.
+  Pixel ground_ = 0;
+  PixelRect drawn_;
 };
 
 /// The half-axis of an ellipse in whole pixels: it covers the columns or rows from its centre minus that to its centre

@@ -44,6 +44,13 @@ inline int LastTo(double place, int least, int greatest) {
   return cut > place && cut > least ? cut - 1 : cut;
 }
 
+/// The same for places between 0 and the greatest `int`.
+inline int FirstFrom(double place) {
+  const int cut = static_cast<int>(place);
+  return cut + static_cast<int>(cut < place);
+}
+inline int LastTo(double place) { return static_cast<int>(place); }
+
 /// The part of a rectangle (edges included) that is on a canvas of that size; an empty one if there is none.
 inline PixelRect OnCanvas(double left, double top, double right, double bottom, int columns, int rows) {
   return {Clamped(left, 0, columns), Clamped(top, 0, rows), Clamped(right, -1, columns - 1),
