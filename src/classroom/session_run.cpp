@@ -42,8 +42,7 @@ QString FromLatin1(const std::string& text) {
 }
 
 SessionRun::SessionRun(const Order& order, const fs::path& transcript)
-    : order_(order),
-      transcriptName_(transcript),
+    : transcriptName_(transcript),
       transcriptFile_(transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
       session_(

@@ -51,7 +51,6 @@ class SessionRun {
   /// The place in the session and in the program.
   StopPlace WhereItStands(int line, const Play& play);
 
-  const Order& order_;
   std::filesystem::path transcriptName_;
   BoundedFile transcriptFile_;
   std::ostream transcript_{&transcriptFile_};

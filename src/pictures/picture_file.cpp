@@ -57,8 +57,7 @@ QByteArray ReadContent(const std::filesystem::path& file) {
 }
 
 /// The upper left part, at most that large; transparent parts stay transparent.
-QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
-  QByteArray content = ReadContent(file);
+QImage Decoded(QByteArray& content, QSize largest) {
   QBuffer device(&content);
   device.open(QIODevice::ReadOnly);
   QImageReader reader(&device);
@@ -79,7 +78,11 @@ QImage ReadPicture(const std::filesystem::path& file, QSize largest) {
 
 PixelBuffer QtPictureFiles::Read(const std::filesystem::path& file, int mostColumns, int mostRows, Pixel background) {
   startToolkit_();
-  const QImage picture = ReadPicture(file, QSize(mostColumns, mostRows));
+  return PictureIn(ReadContent(file), mostColumns, mostRows, background);
+}
+
+PixelBuffer PictureIn(QByteArray content, int mostColumns, int mostRows, Pixel background) {
+  const QImage picture = Decoded(content, QSize(mostColumns, mostRows));
   PixelBuffer pixels(picture.width(), picture.height(), background);
   QImage image = ImageOver(pixels);
   QPainter(&image).drawImage(QPoint(0, 0), picture);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -21,6 +22,9 @@ class QtPictureFiles : public PictureFiles {
  private:
   std::function<void()> startToolkit_;
 };
+
+/// The picture in the bytes of a file, as `PictureFiles::Read` gives it. Fails (invalid picture).
+PixelBuffer PictureIn(QByteArray content, int mostColumns, int mostRows, Pixel background);
 
 /// The ending of a file name, in small letters and with its point.
 std::string EndingOf(const std::filesystem::path& file);
