@@ -32,7 +32,7 @@ void RunInWindow(const std::string& line) {
   const std::string path = folder.path().toStdString();
   Session session(QApplication::primaryScreen()->availableGeometry(), Folders(path, Disk(path)));
   session.Start();
-  PaintCount pictures(session.Shown().WidgetOf(session.System().Picture1));
+  PaintCount pictures(session.Shown().WidgetOf(session.form1.Picture1));
   QElapsedTimer clock;
   session.WhenStarted([&](Form1& form1) {
     std::string typed = line;
