@@ -8,7 +8,9 @@
 
 namespace zerimo {
 
-/// A text that can be made late: while it follows a source, the source is asked only when the text is read.
+/// A text that can be made late: while it follows a source, the source is asked only when the text is read. It is then
+/// what the source gives at that moment; a list that is filled late (`ListBox::FillLater`) is as of the moment when it
+/// was put off.
 class LateText {
  public:
   using Source = std::function<const std::string&()>;
