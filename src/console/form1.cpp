@@ -19,19 +19,16 @@ Form1::Form1(ScreenSize screen, Folders givenFolders, Services& services, Watch&
       Picture1("Picture1", canvas),
       folders(std::move(givenFolders)),
       interpreter({services, watch, controls, turtle}),
-      graphics(Drawing(services)),
+      drawing_{{services, watch, controls, turtle}, Picture1, interpreter.arguments, interpreter.dispatch},
+      graphics(drawing_),
       files({interpreter, controls, services, folders}, Picture1),
-      generalPrimitives(Drawing(services), interpreter.arithmetic, folders),
+      generalPrimitives(drawing_, interpreter.arithmetic, folders),
       statusLine(controls, turtle, services),
-      screenModes(Drawing(services), interpreter.store, files),
-      diagnosis(Drawing(services), interpreter),
-      keys(Drawing(services), interpreter.typedLines, screenModes, files) {
+      screenModes(drawing_, interpreter.store, files),
+      diagnosis(drawing_, interpreter),
+      keys(drawing_, interpreter.typedLines, screenModes, files) {
   Picture1.CreateCanvas(screen.Width, screen.Height);
   BindPrimitives();
-}
-
-DrawingContext Form1::Drawing(Services& services) noexcept {
-  return {turtle, Picture1, controls, interpreter.arguments, services, interpreter.dispatch};
 }
 
 void Form1::BindPrimitives() {

@@ -52,6 +52,11 @@ class Form1 {
   Turtle turtle;
   const Folders folders;
   Interpreter interpreter;
+
+ private:
+  DrawingContext drawing_;
+
+ public:
   Graphics graphics;
   Files files;
   GeneralPrimitives generalPrimitives;
@@ -61,7 +66,6 @@ class Form1 {
   Keys keys;
 
  private:
-  DrawingContext Drawing(Services& services) noexcept;
   void BindPrimitives();
   void DefaultValue();
   /// Never fails: the indices are those of the design.

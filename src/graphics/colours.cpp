@@ -21,11 +21,11 @@ void ForEachTextControl(Controls& controls, Statement&& statement) {
 }  // namespace
 
 void Colours::Bind() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::SetPC, [this](PrimitiveCall& call) { SetPC(call); });
-  primitives.Bind(Action::SetBG, [this](PrimitiveCall& call) { SetBG(call); });
-  primitives.Bind(Action::TextColor, [this](PrimitiveCall& call) { TextColor(call); });
-  primitives.Bind(Action::TextBackground, [this](PrimitiveCall& call) { TextBackground(call); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::SetPC, [this](PrimitiveCall& call) { SetPC(call); });
+  dispatch.Bind(Action::SetBG, [this](PrimitiveCall& call) { SetBG(call); });
+  dispatch.Bind(Action::TextColor, [this](PrimitiveCall& call) { TextColor(call); });
+  dispatch.Bind(Action::TextBackground, [this](PrimitiveCall& call) { TextBackground(call); });
 }
 
 void Colours::SetPC(PrimitiveCall& call) {

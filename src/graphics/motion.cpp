@@ -21,30 +21,30 @@ void Motion::Bind() {
 }
 
 void Motion::BindMoves() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
-  primitives.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
-  primitives.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
-  primitives.Bind(Action::Left, [this](PrimitiveCall& call) { Left(call); });
-  primitives.Bind(Action::SetX, [this](PrimitiveCall& call) { SetX(call); });
-  primitives.Bind(Action::SetY, [this](PrimitiveCall& call) { SetY(call); });
-  primitives.Bind(Action::SetXY, [this](PrimitiveCall& call) { SetXY(call); });
-  primitives.Bind(Action::Resolution, [this](PrimitiveCall& call) { Resolution(call); });
-  primitives.Bind(Action::ClearScreen, [this](PrimitiveCall&) { ClearScreen(); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
+  dispatch.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
+  dispatch.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
+  dispatch.Bind(Action::Left, [this](PrimitiveCall& call) { Left(call); });
+  dispatch.Bind(Action::SetX, [this](PrimitiveCall& call) { SetX(call); });
+  dispatch.Bind(Action::SetY, [this](PrimitiveCall& call) { SetY(call); });
+  dispatch.Bind(Action::SetXY, [this](PrimitiveCall& call) { SetXY(call); });
+  dispatch.Bind(Action::Resolution, [this](PrimitiveCall& call) { Resolution(call); });
+  dispatch.Bind(Action::ClearScreen, [this](PrimitiveCall&) { ClearScreen(); });
 }
 
 void Motion::BindPen() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
-  primitives.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = PenPosition::Up; });
-  primitives.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
-  primitives.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
-  primitives.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
-  primitives.Bind(Action::HideTurtle, [this](PrimitiveCall&) { ShowFigure(false); });
-  primitives.Bind(Action::ShowTurtle, [this](PrimitiveCall&) { ShowFigure(true); });
-  primitives.Bind(Action::LineWidth, [this](PrimitiveCall& call) { LineWidth(call); });
-  primitives.Bind(Action::DrawMode, [this](PrimitiveCall& call) { DrawMode(call); });
-  primitives.Bind(Action::Clean, [this](PrimitiveCall&) { context_.Picture1.Cls(); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
+  dispatch.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = PenPosition::Up; });
+  dispatch.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
+  dispatch.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
+  dispatch.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
+  dispatch.Bind(Action::HideTurtle, [this](PrimitiveCall&) { ShowFigure(false); });
+  dispatch.Bind(Action::ShowTurtle, [this](PrimitiveCall&) { ShowFigure(true); });
+  dispatch.Bind(Action::LineWidth, [this](PrimitiveCall& call) { LineWidth(call); });
+  dispatch.Bind(Action::DrawMode, [this](PrimitiveCall& call) { DrawMode(call); });
+  dispatch.Bind(Action::Clean, [this](PrimitiveCall&) { context_.Picture1.Cls(); });
 }
 
 void Motion::Forward(PrimitiveCall& call) {

@@ -28,25 +28,25 @@ void Shapes::Bind() {
 }
 
 void Shapes::BindFigures() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::Point, [this](PrimitiveCall& call) { Point(call); });
-  primitives.Bind(Action::Dot, [this](PrimitiveCall& call) { Dot(call); });
-  primitives.Bind(Action::Circle, [this](PrimitiveCall& call) { Circle(call); });
-  primitives.Bind(Action::Line, [this](PrimitiveCall& call) { Line(call); });
-  primitives.Bind(Action::Ellipse, [this](PrimitiveCall& call) { Ellipse(call); });
-  primitives.Bind(Action::LineRGB, [this](PrimitiveCall& call) { LineRGB(call); });
-  primitives.Bind(Action::EllipseRGB, [this](PrimitiveCall& call) { EllipseRGB(call); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::Point, [this](PrimitiveCall& call) { Point(call); });
+  dispatch.Bind(Action::Dot, [this](PrimitiveCall& call) { Dot(call); });
+  dispatch.Bind(Action::Circle, [this](PrimitiveCall& call) { Circle(call); });
+  dispatch.Bind(Action::Line, [this](PrimitiveCall& call) { Line(call); });
+  dispatch.Bind(Action::Ellipse, [this](PrimitiveCall& call) { Ellipse(call); });
+  dispatch.Bind(Action::LineRGB, [this](PrimitiveCall& call) { LineRGB(call); });
+  dispatch.Bind(Action::EllipseRGB, [this](PrimitiveCall& call) { EllipseRGB(call); });
 }
 
 void Shapes::BindStamps() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::StampCircle, [this](PrimitiveCall& call) { StampCircle(call); });
-  primitives.Bind(Action::StampOval, [this](PrimitiveCall& call) { StampOval(call); });
-  primitives.Bind(Action::StampRect, [this](PrimitiveCall& call) { StampRect(call); });
-  primitives.Bind(Action::StampOvalRGB, [this](PrimitiveCall& call) { StampOvalRGB(call); });
-  primitives.Bind(Action::StampRectRGB, [this](PrimitiveCall& call) { StampRectRGB(call); });
-  primitives.Bind(Action::Fill, [this](PrimitiveCall& call) { Fill(call); });
-  primitives.Bind(Action::FillStyle, [this](PrimitiveCall& call) { FillStyle(call); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::StampCircle, [this](PrimitiveCall& call) { StampCircle(call); });
+  dispatch.Bind(Action::StampOval, [this](PrimitiveCall& call) { StampOval(call); });
+  dispatch.Bind(Action::StampRect, [this](PrimitiveCall& call) { StampRect(call); });
+  dispatch.Bind(Action::StampOvalRGB, [this](PrimitiveCall& call) { StampOvalRGB(call); });
+  dispatch.Bind(Action::StampRectRGB, [this](PrimitiveCall& call) { StampRectRGB(call); });
+  dispatch.Bind(Action::Fill, [this](PrimitiveCall& call) { Fill(call); });
+  dispatch.Bind(Action::FillStyle, [this](PrimitiveCall& call) { FillStyle(call); });
 }
 
 void Shapes::Point(PrimitiveCall& call) {

@@ -8,10 +8,10 @@
 namespace zerimo {
 
 void SurfaceText::Bind() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
-  primitives.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
-  primitives.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
+  dispatch.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
+  dispatch.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
 }
 
 void SurfaceText::TextSize(PrimitiveCall& call) {

@@ -20,9 +20,8 @@ struct InterpreterContext {
   Turtle& turtle;
 };
 
-/// What the parts that walk or rewrite the program share.
-struct ProgramContext {
-  InterpreterContext around;
+/// What the parts that walk or rewrite the program share besides.
+struct ProgramContext : InterpreterContext {
   Store& store;
   ControlPath& controlPath;
   Variables& variables;

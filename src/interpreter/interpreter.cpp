@@ -6,7 +6,7 @@ Interpreter::Interpreter(const InterpreterContext& context)
     : program_{context, store, controlPath, variables, arithmetic},
       store(context.controls.List3),
       arithmetic(context.watch),
-      variables(context, store, controlPath, arithmetic),
+      variables(program_),
       arguments(variables, arithmetic),
       dispatch(context.services),
       inputs(program_),

@@ -6,7 +6,9 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "interpreter/arithmetic.h"
 #include "interpreter/line_entry.h"
+#include "interpreter/variables.h"
 #include "interpreter/word_table.h"
 
 namespace zerimo {
@@ -110,18 +112,9 @@ const std::string& LineList::At(int index) const { return lines_[Checked(index, 
 
 void LineList::Set(int index, std::string line) { lines_[Checked(index, LastIndex)] = std::move(line); }
 
-Lowering::Lowering(const ProgramContext& context)
-    : store_(context.store),
-      variables_(context.variables),
-      arithmetic_(context.arithmetic),
-      services_(context.around.services),
-      watch_(context.around.watch),
-      Label17(context.around.controls.Label17),
-      Label18(context.around.controls.Label18) {}
-
 void Lowering::RemoveAllRepeats() {
   while (IsRepeatPresent() != 0) {
-    watch_.Tick();
+    context_.watch.Tick();
     RemoveSingleRepeat();
   }
 }
@@ -129,8 +122,8 @@ void Lowering::RemoveAllRepeats() {
 std::int16_t Lowering::IsRepeatPresent() const { return SearchRepeatPos() != 0 ? 1 : 0; }
 
 std::int16_t Lowering::SearchRepeatPos() const {
-  for (int number = 1; !store_.Line(number).empty(); ++number) {
-    if (IsRepeatLine(store_.Line(number))) return static_cast<std::int16_t>(number);
+  for (int number = 1; !context_.store.Line(number).empty(); ++number) {
+    if (IsRepeatLine(context_.store.Line(number))) return static_cast<std::int16_t>(number);
   }
   return 0;
 }
@@ -146,12 +139,12 @@ std::string Lowering::BodyFinder(int lineNumber) const {
   std::string body;
   int open = 0;
   SkipOnFailure([&] {
-    const std::string& line = store_.Line(lineNumber);
+    const std::string& line = context_.store.Line(lineNumber);
     open = PositionOf(line, "[");
     if (open == 0) open = Length(line) + 1;
   });
   SkipOnFailure([&] {
-    const std::string& line = store_.Line(lineNumber);
+    const std::string& line = context_.store.Line(lineNumber);
     // The last character is taken for the closing bracket, whatever it is.
     body = Mid(line, open + 1, Length(line) - open - 1);
   });
@@ -163,10 +156,10 @@ BodyArray Lowering::CreateBodyArray(std::string& body) const {
   try {
     int index = 1;
     do {
-      watch_.Tick();
-      const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), store_));
+      context_.watch.Tick();
+      const Cut cut = CutStatement(body, HowManyInput(Firstpart(body), context_.store));
       if (cut.Message != nullptr) {
-        services_.MessageBox(cut.Message);
+        context_.services.MessageBox(cut.Message);
         return statements;
       }
       // A blank at its end stays: "LABEL " is a label with no name.
@@ -186,9 +179,9 @@ std::string Lowering::RepeatNum(std::string_view line) const {
   const std::string_view count = after.substr(0, after.find('['));
   // The value is dropped; a count that can't be evaluated now fails here.
   std::string copy(count);
-  copy = variables_.VarValReplacer(copy);
-  copy = variables_.GlobalVariableReplacer(copy);
-  ToInt16(arithmetic_.ArithmeticEvaluator(copy));
+  copy = context_.variables.VarValReplacer(copy);
+  copy = context_.variables.GlobalVariableReplacer(copy);
+  ToInt16(context_.arithmetic.ArithmeticEvaluator(copy));
   return std::string(Trimmed(count));
 }
 
@@ -197,10 +190,10 @@ LineList Lowering::AddComponents() {
   if (position != 0) {
     RepeatCounterName += '#';
     RepeatLabelName += '$';
-    Label17.Caption = "#-" + Str(static_cast<double>(RepeatCounterName.size()));
-    Label18.Caption = "$-" + Str(static_cast<double>(RepeatLabelName.size()));
+    context_.controls.Label17.Caption = "#-" + Str(static_cast<double>(RepeatCounterName.size()));
+    context_.controls.Label18.Caption = "$-" + Str(static_cast<double>(RepeatLabelName.size()));
   }
-  const std::string count = RepeatNum(store_.Line(position));
+  const std::string count = RepeatNum(context_.store.Line(position));
   const std::string& counter = RepeatCounterName;
   std::string body = BodyFinder(position);
   const BodyArray statements = CreateBodyArray(body);
@@ -222,13 +215,13 @@ LineList Lowering::AddComponents() {
 void Lowering::RefreshRootArray(const LineList& lines) {
   const int position = SearchRepeatPos();
   std::vector<std::string> after;
-  for (int number = position + 1; !store_.Line(number).empty(); ++number) {
+  for (int number = position + 1; !context_.store.Line(number).empty(); ++number) {
     if (after.size() == LinesAfter) throw Failure(FailureKind::SubscriptOutOfRange);
-    after.push_back(store_.Line(number));
+    after.push_back(context_.store.Line(number));
   }
   int target = position;
-  for (int index = 1; !lines.At(index).empty(); ++index) store_.SetLine(target++, lines.At(index));
-  for (const std::string& line : after) store_.SetLine(target++, line);
+  for (int index = 1; !lines.At(index).empty(); ++index) context_.store.SetLine(target++, lines.At(index));
+  for (const std::string& line : after) context_.store.SetLine(target++, line);
 }
 
 void Lowering::ForgetNames() noexcept {

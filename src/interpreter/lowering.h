@@ -5,10 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "interpreter/arithmetic.h"
 #include "interpreter/context.h"
 #include "interpreter/store.h"
-#include "interpreter/variables.h"
 
 namespace zerimo {
 
@@ -45,7 +43,7 @@ class LineList {
 /// Behaviour: docs/interpreter.md, "REPEAT".
 class Lowering {
  public:
-  explicit Lowering(const ProgramContext& context);
+  explicit Lowering(const ProgramContext& context) : context_(context) {}
 
   /// Grows by one "#" for each lowering: the counter's name.
   std::string RepeatCounterName;
@@ -76,13 +74,7 @@ class Lowering {
   void ForgetNames() noexcept;
 
  private:
-  Store& store_;
-  const Variables& variables_;
-  const Arithmetic& arithmetic_;
-  Services& services_;
-  Watch& watch_;
-  Label& Label17;
-  Label& Label18;
+  ProgramContext context_;
 };
 
 /// The characters before the first blank.

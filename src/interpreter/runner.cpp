@@ -8,6 +8,9 @@
 #include "base/numbers.h"
 #include "base/stop_run.h"
 #include "base/text.h"
+#include "interpreter/control_path.h"
+#include "interpreter/store.h"
+#include "interpreter/variables.h"
 
 namespace zerimo {
 
@@ -51,35 +54,27 @@ std::vector<std::string> ProceduresOn(const std::string& path) {
 }  // namespace
 
 Runner::Runner(const ProgramContext& context, Dispatch& dispatch, Inputs& inputs, Conditionals& conditionals)
-    : store_(context.store),
-      controlPath_(context.controlPath),
-      dispatch_(dispatch),
-      variables_(context.variables),
-      inputs_(inputs),
-      conditionals_(conditionals),
-      services_(context.around.services),
-      watch_(context.around.watch),
-      Label19(context.around.controls.Label19) {}
+    : context_(context), dispatch_(dispatch), inputs_(inputs), conditionals_(conditionals) {}
 
 void Runner::Run1(std::string_view procedure) {
-  ShownPath shown(Label19, controlPath_);
+  ShownPath shown(context_.controls.Label19, context_.controlPath);
   Walk walk;
-  SkipOnFailure([&] { walk.Line = store_.WhereProcedure(procedure); });
+  SkipOnFailure([&] { walk.Line = context_.store.WhereProcedure(procedure); });
   if (walk.Line == 0) return;
-  controlPath_.SetCtrlStr(controlPath_.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
+  context_.controlPath.SetCtrlStr(context_.controlPath.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
   shown.Follow();
   try {
     // A walk past the end of the store has nothing left to run.
-    while (!controlPath_.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
-      watch_.Step();
-      SkipOnFailure([&] { walk.Class = store_.ClassOf(walk.Line); });
+    while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
+      context_.watch.Step();
+      SkipOnFailure([&] { walk.Class = context_.store.ClassOf(walk.Line); });
       Act(walk);
     }
   } catch (const StopRun&) {
-    for (std::string& name : ProceduresOn(controlPath_.CtrlStr())) {
+    for (std::string& name : ProceduresOn(context_.controlPath.CtrlStr())) {
       SkipOnFailure([&] { inputs_.DeleteLocalVariable(name); });
     }
-    controlPath_.SetCtrlStr(".");
+    context_.controlPath.SetCtrlStr(".");
   }
 }
 
@@ -87,8 +82,8 @@ void Runner::Act(Walk& walk) {
   switch (walk.Class) {
     case StmtPrimitive:
       SkipOnFailure([&] {
-        store_.TrimLine(walk.Line);
-        dispatch_.Execute(store_.Line(walk.Line), store_.FormOf(walk.Line));
+        context_.store.TrimLine(walk.Line);
+        dispatch_.Execute(context_.store.Line(walk.Line), context_.store.FormOf(walk.Line));
       });
       Advance(walk);
       break;
@@ -110,7 +105,7 @@ void Runner::Act(Walk& walk) {
     case StmtIf:
       // A condition that fails leaves the line counter: the IF runs again, for ever if it always fails.
       SkipOnFailure([&] { walk.Line = conditionals_.Ifprocessor(walk.Line); });
-      controlPath_.WriteLine(walk.Line, Lead::Blank);
+      context_.controlPath.WriteLine(walk.Line, Lead::Blank);
       break;
     case StmtEndIf:
       ActOnEndIf(walk);
@@ -119,7 +114,7 @@ void Runner::Act(Walk& walk) {
       ActOnElse(walk);
       break;
     case StmtMake:
-      SkipOnFailure([&] { variables_.Make(walk.Line); });
+      SkipOnFailure([&] { context_.variables.Make(walk.Line); });
       Advance(walk);
       break;
     case StmtArithmetic:
@@ -129,36 +124,36 @@ void Runner::Act(Walk& walk) {
       ActOnExpression(walk, "REXP ");
       return;
   }
-  if (!walk.Over) controlPath_.Tidy();
+  if (!walk.Over) context_.controlPath.Tidy();
 }
 
-void Runner::Advance(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::Blank); }
+void Runner::Advance(Walk& walk) { context_.controlPath.WriteLine(++walk.Line, Lead::Blank); }
 
 void Runner::ActOnCall(Walk& walk) {
-  SkipOnFailure([&] { walk.Name = store_.TakeFirstWord(walk.Line); });
+  SkipOnFailure([&] { walk.Name = context_.store.TakeFirstWord(walk.Line); });
   int callee = 0;
-  SkipOnFailure([&] { callee = store_.WhereProcedure(walk.Name); });
+  SkipOnFailure([&] { callee = context_.store.WhereProcedure(walk.Name); });
   if (callee == 0) {
     // No message; the old number stays inside and the path grows.
     ++walk.Line;
-    controlPath_.SetCtrlStr(controlPath_.CtrlStr() + "-" + Str(walk.Line));
+    context_.controlPath.SetCtrlStr(context_.controlPath.CtrlStr() + "-" + Str(walk.Line));
     return;
   }
   SkipOnFailure([&] { inputs_.CreateLocalVariable(walk.Line); });
   const int call = walk.Line;
   walk.Line = callee + 1;
-  controlPath_.Enter(call, walk.Name, walk.Line);
+  context_.controlPath.Enter(call, walk.Name, walk.Line);
 }
 
-void Runner::ActOnTo(Walk& walk) { controlPath_.WriteLine(++walk.Line, Lead::None); }
+void Runner::ActOnTo(Walk& walk) { context_.controlPath.WriteLine(++walk.Line, Lead::None); }
 
 void Runner::ActOnEnd(Walk& walk) {
-  SkipOnFailure([&] { controlPath_.CurProcName = controlPath_.CurrentProcedureName(); });
-  if (controlPath_.Leave()) {
-    SkipOnFailure([&] { walk.Line = controlPath_.LineReached() + 1; });
-    controlPath_.WriteLine(walk.Line, Lead::None);
+  SkipOnFailure([&] { context_.controlPath.CurProcName = context_.controlPath.CurrentProcedureName(); });
+  if (context_.controlPath.Leave()) {
+    SkipOnFailure([&] { walk.Line = context_.controlPath.LineReached() + 1; });
+    context_.controlPath.WriteLine(walk.Line, Lead::None);
   }
-  SkipOnFailure([&] { inputs_.DeleteLocalVariable(controlPath_.CurProcName); });
+  SkipOnFailure([&] { inputs_.DeleteLocalVariable(context_.controlPath.CurProcName); });
 }
 
 void Runner::ActOnGoto(Walk& walk) {
@@ -166,40 +161,40 @@ void Runner::ActOnGoto(Walk& walk) {
   SkipOnFailure([&] { walk.Line = conditionals_.LabelOf(jump); });
   if (walk.Line == 0) {
     std::string_view label;
-    SkipOnFailure([&] { label = NameOfLabel(store_.Line(jump)); });
-    services_.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
+    SkipOnFailure([&] { label = NameOfLabel(context_.store.Line(jump)); });
+    context_.services.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
     walk.Over = true;
     return;
   }
-  controlPath_.WriteLine(walk.Line, Lead::None);
+  context_.controlPath.WriteLine(walk.Line, Lead::None);
 }
 
 void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
-  SkipOnFailure([&] { walk.Line = controlPath_.LineReached() + 1; });
-  controlPath_.WriteLine(walk.Line, Lead::None);
+  SkipOnFailure([&] { walk.Line = context_.controlPath.LineReached() + 1; });
+  context_.controlPath.WriteLine(walk.Line, Lead::None);
 }
 
 void Runner::ActOnEndIf(Walk& walk) {
   ++walk.Line;
   // One ahead of the counter.
-  controlPath_.WriteLine(walk.Line + 1, Lead::Blank);
+  context_.controlPath.WriteLine(walk.Line + 1, Lead::Blank);
 }
 
 void Runner::ActOnElse(Walk& walk) {
   int ifs = 0;
   int endIfs = 0;
   for (int number = walk.Line; number <= Store::LineCount; ++number) {
-    if (store_.ClassOf(number) == StmtIf) ++ifs;
-    if (store_.ClassOf(number) == StmtEndIf) ++endIfs;
+    if (context_.store.ClassOf(number) == StmtIf) ++ifs;
+    if (context_.store.ClassOf(number) == StmtEndIf) ++endIfs;
     if (endIfs > ifs) {
       walk.Line = number + 1;
-      controlPath_.WriteLine(walk.Line, Lead::Blank);
+      context_.controlPath.WriteLine(walk.Line, Lead::Blank);
       return;
     }
-    if (store_.Line(number).empty()) {
-      services_.MessageBox("Misplaced Else");
-      controlPath_.SetCtrlStr(".");
+    if (context_.store.Line(number).empty()) {
+      context_.services.MessageBox("Misplaced Else");
+      context_.controlPath.SetCtrlStr(".");
       break;
     }
   }
@@ -208,8 +203,8 @@ void Runner::ActOnElse(Walk& walk) {
 
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
   // Here alone the tidying comes before the act.
-  controlPath_.Tidy();
-  SkipOnFailure([&] { dispatch_.Execute(std::string(word) + store_.Line(walk.Line)); });
+  context_.controlPath.Tidy();
+  SkipOnFailure([&] { dispatch_.Execute(std::string(word) + context_.store.Line(walk.Line)); });
   Advance(walk);
 }
 

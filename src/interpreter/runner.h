@@ -5,11 +5,9 @@
 
 #include "interpreter/conditionals.h"
 #include "interpreter/context.h"
-#include "interpreter/control_path.h"
 #include "interpreter/dispatch.h"
 #include "interpreter/inputs.h"
-#include "interpreter/store.h"
-#include "interpreter/variables.h"
+#include "interpreter/statement_class.h"
 
 namespace zerimo {
 
@@ -45,15 +43,10 @@ class Runner {
   void ActOnElse(Walk& walk);
   void ActOnExpression(Walk& walk, std::string_view word);
 
-  Store& store_;
-  ControlPath& controlPath_;
+  ProgramContext context_;
   Dispatch& dispatch_;
-  Variables& variables_;
   Inputs& inputs_;
   Conditionals& conditionals_;
-  Services& services_;
-  Watch& watch_;
-  Label& Label19;
 };
 
 }  // namespace zerimo

@@ -3,6 +3,8 @@
 #include "base/numbers.h"
 #include "base/stop_run.h"
 #include "base/text.h"
+#include "interpreter/store.h"
+#include "interpreter/variables.h"
 
 namespace zerimo {
 
@@ -23,32 +25,32 @@ void TypedLines::ComplexExecutor(std::string& complexData) {
     // Stopped before the walk: the steps after it are carried out all the same.
   }
   RemoveTemporaryProcedure(firstLine);
-  store_.RefreshFileDataArray();
-  variables_.CreateGlobalVariable();
+  context_.store.RefreshFileDataArray();
+  context_.variables.CreateGlobalVariable();
   // Listing also trims away the blanks that the run has left in the store.
-  ListStore(store_, List1);
-  store_.ProcedureList();
+  ListStore(context_.store, context_.controls.List1);
+  context_.store.ProcedureList();
 }
 
 int TypedLines::WriteTemporaryProcedure(std::string& complexData) {
-  const int firstLine = store_.FirstEmptyLine();
-  store_.SetLine(firstLine, "TO " + TemporaryName());
+  const int firstLine = context_.store.FirstEmptyLine();
+  context_.store.SetLine(firstLine, "TO " + TemporaryName());
   Trim(complexData);
   const BodyArray statements = lowering_.CreateBodyArray(complexData);
   int count = 1;
-  for (; !statements.At(count).empty(); ++count) store_.SetLine(firstLine + count, statements.At(count));
-  store_.SetLine(firstLine + count, "END");
+  for (; !statements.At(count).empty(); ++count) context_.store.SetLine(firstLine + count, statements.At(count));
+  context_.store.SetLine(firstLine + count, "END");
   return firstLine;
 }
 
 void TypedLines::RemoveTemporaryProcedure(int firstLine) {
   int end = firstLine;
-  while (store_.Line(end) != "END") ++end;
+  while (context_.store.Line(end) != "END") ++end;
   int target = firstLine;
   // The test is for equality and comes after the move: an END at line 500 or later moves on to the end of the store and
   // fails there, so that nothing is refreshed.
   do {
-    store_.SetLine(target, store_.Line(end + 1));
+    context_.store.SetLine(target, context_.store.Line(end + 1));
     ++target;
     ++end;
   } while (end != LastMovedLine);

@@ -6,8 +6,6 @@
 #include "interpreter/context.h"
 #include "interpreter/lowering.h"
 #include "interpreter/runner.h"
-#include "interpreter/store.h"
-#include "interpreter/variables.h"
 
 namespace zerimo {
 
@@ -16,11 +14,7 @@ namespace zerimo {
 class TypedLines {
  public:
   TypedLines(const ProgramContext& context, Lowering& lowering, Runner& runner)
-      : store_(context.store),
-        lowering_(lowering),
-        runner_(runner),
-        variables_(context.variables),
-        List1(context.around.controls.List1) {}
+      : context_(context), lowering_(lowering), runner_(runner) {}
 
   /// Runs a filtered line; the caller's text is trimmed. Any failure but one inside the run itself leaves at once.
   void ComplexExecutor(std::string& complexData);
@@ -35,11 +29,9 @@ class TypedLines {
   void RemoveTemporaryProcedure(int firstLine);
   std::string TemporaryName() const { return "#TEMP$" + std::to_string(TempProcNo); }
 
-  Store& store_;
+  ProgramContext context_;
   Lowering& lowering_;
   Runner& runner_;
-  Variables& variables_;
-  ListBox& List1;
 };
 
 }  // namespace zerimo

@@ -60,16 +60,11 @@ bool KeepsItsText(double number) {
 
 }  // namespace
 
-Variables::Variables(const InterpreterContext& context, Store& store, ControlPath& controlPath,
-                     const Arithmetic& arithmetic)
-    : store_(store),
-      controlPath_(controlPath),
-      List2(context.controls.List2),
-      arithmetic_(arithmetic),
-      watch_(context.watch),
+Variables::Variables(const ProgramContext& context)
+    : context_(context),
       operands_(slotTable_, context.turtle, context.controls.Form1),
-      formulas_(*this, operands_, controlPath) {
-  List2.Fill = [this] { return ListedSlots(); };
+      formulas_(*this, operands_, context.controlPath) {
+  context_.controls.List2.Fill = [this] { return ListedSlots(); };
 }
 
 void Variables::SetSlot(int number, std::string text) {
@@ -123,7 +118,7 @@ void Variables::RebuildList2() {
 void Variables::ListSlots() noexcept {
   for (const std::size_t index : formerSlots_) isFormer_[index] = false;
   formerSlots_.clear();
-  List2.FillLater();
+  context_.controls.List2.FillLater();
 }
 
 std::vector<std::string> Variables::ListedSlots() const {
@@ -147,16 +142,16 @@ void Variables::CreateGlobalVariable() {
   std::string name;
   StatementClass kind{};
   for (int number = 1; kind != StmtTo; ++number) {
-    kind = store_.ClassOf(number);
+    kind = context_.store.ClassOf(number);
     if (kind == StmtMake) {
-      store_.TrimLine(number);
-      const std::string& line = store_.Line(number);
+      context_.store.TrimLine(number);
+      const std::string& line = context_.store.Line(number);
       const int lastBlank = LastPositionOf(line, ' ');
       // A double quote stays in the name, unlike in a MAKE that is run.
       name = Mid(line, 6, lastBlank - 6);
       value = From(line, lastBlank + 1);
     }
-    const double result = ExpressionEvaluator(Str(arithmetic_.ArithmeticEvaluator(value)));
+    const double result = ExpressionEvaluator(Str(context_.arithmetic.ArithmeticEvaluator(value)));
     // The slot is the line's own number, whatever it held.
     if (kind == StmtMake) SetSlot(number, name + "=" + StrTrimmed(result));
   }
@@ -167,7 +162,7 @@ void Variables::VariableUpdate(int lineNumber) {
 }
 
 bool Variables::Make(int lineNumber) {
-  const LineForm& make = store_.FormOf(lineNumber);
+  const LineForm& make = context_.store.FormOf(lineNumber);
   const double value = ValueOf(make);
   const MakeSlots* const known = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make) : nullptr;
   if (known != nullptr) {
@@ -191,13 +186,13 @@ double Variables::ValueOf(const LineForm& make) {
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);
-  return arithmetic_.ArithmeticEvaluator(value);
+  return context_.arithmetic.ArithmeticEvaluator(value);
 }
 
 /// The slots that a `MAKE` writes to, if it leaves the names as they are.
 const Variables::MakeSlots* Variables::SlotsOf(int lineNumber, const LineForm& make) {
   MakeSlots& slots = makes_[static_cast<std::size_t>(lineNumber)];
-  if (slots.Lines == store_.Changes() && slots.Names == Names()) return &slots;
+  if (slots.Lines == context_.store.Changes() && slots.Names == Names()) return &slots;
   slots.Names = 0;
   const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
   const int local = FindLocal(key);
@@ -207,14 +202,14 @@ const Variables::MakeSlots* Variables::SlotsOf(int lineNumber, const LineForm& m
     return slot == 0 || (NamePart(Slot(slot)) == name && slotTable_.FormOf(slot).KeyLength == name.size());
   };
   if (!keeps(local, key) || !keeps(global, make.Name + "=")) return nullptr;
-  slots = {store_.Changes(), Names(), local, global};
+  slots = {context_.store.Changes(), Names(), local, global};
   return &slots;
 }
 
 std::string Variables::EnclosingProcedure(int lineNumber) const {
   int header = lineNumber;
-  while (store_.ClassOf(header) != StmtTo) --header;
-  const std::string_view name = From(store_.Line(header), 4);
+  while (context_.store.ClassOf(header) != StmtTo) --header;
+  const std::string_view name = From(context_.store.Line(header), 4);
   return std::string(name.substr(0, name.find(' ')));
 }
 
@@ -241,7 +236,7 @@ void Variables::SpaceRemoverFromVariableArray() {
 
 bool Variables::CloseDeletedSlots() {
   while (SpacePresent()) {
-    watch_.Tick();
+    context_.watch.Tick();
     for (int slot = 1; slot <= LastCompactedSlot; ++slot) {
       if (Slot(slot) != " ") continue;
       CloseSlot(slot);
@@ -267,7 +262,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
   std::string name;
   std::string value;
   for (const int slot : LocalsOfProcedure()) {
-    watch_.Tick();
+    context_.watch.Tick();
     const std::string& local = Slot(slot);  // Never fails: it was found.
     SkipOnFailure([&] {
       const int dot = PositionOf(local, ".");
@@ -281,7 +276,7 @@ std::string Variables::VarValReplacer(std::string& expression) const {
 }
 
 std::vector<int> Variables::LocalsOfProcedure() const {
-  const std::string key = controlPath_.ProcedureName() + ".";
+  const std::string key = context_.controlPath.ProcedureName() + ".";
   std::vector<int> locals;
   // What does not fit is ignored, and the scan goes on: without a free slot it never ends.
   for (int number = 1; SlotGoesOn(number); ++number) {
@@ -294,7 +289,7 @@ bool Variables::SlotGoesOn(int number) const {
   bool goesOn = true;
   SkipOnFailure([&] { goesOn = !Slot(number).empty(); });
   // With no free slot the scan runs past the last one and never ends.
-  while (number > SlotCount) watch_.Tick();
+  while (number > SlotCount) context_.watch.Tick();
   return goesOn;
 }
 
@@ -302,7 +297,7 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
   // Not reset between rounds: an undeclared name takes the value of the one before it.
   double value = 0;
   do {
-    watch_.Tick();
+    context_.watch.Tick();
     const std::string name = VariableFinder(expression);
     if (name.empty()) return expression;
     ReadGlobal(name, value);
@@ -332,7 +327,7 @@ int Variables::GlobalSlot(std::string_view name) const {
 
 std::optional<NamesInUse> Variables::InUse() const {
   // A "=" in a procedure's name may match that of a slot, and so depend on its value.
-  if (freeSlots_ == 0 || Contains(controlPath_.ProcedureName(), "=")) return std::nullopt;
+  if (freeSlots_ == 0 || Contains(context_.controlPath.ProcedureName(), "=")) return std::nullopt;
   NamesInUse names;
   for (const int slot : LocalsOfProcedure()) {
     const std::string& local = Slot(slot);
@@ -361,8 +356,8 @@ std::optional<std::string> Variables::TextOf(const Operand& operand) const {
 std::string Variables::ReplaceXcorAndYcor(std::string& text) const {
   const double x = operands_.X();
   const double y = operands_.Y();
-  text = ReplaceAll(text, "XCOR", x, watch_);
-  text = ReplaceAll(text, "YCOR", y, watch_);
+  text = ReplaceAll(text, "XCOR", x, context_.watch);
+  text = ReplaceAll(text, "YCOR", y, context_.watch);
   return text;
 }
 

@@ -25,7 +25,7 @@ class Variables {
  public:
   static constexpr int SlotCount = SlotTable::SlotCount;
 
-  Variables(const InterpreterContext& context, Store& store, ControlPath& controlPath, const Arithmetic& arithmetic);
+  explicit Variables(const ProgramContext& context);
 
   /// A slot by its number; fails (subscript) outside 1 to 500.
   const std::string& Slot(int number) const { return slotTable_.Text(number); }
@@ -130,11 +130,7 @@ class Variables {
   void ListSlots() noexcept;
   std::vector<std::string> ListedSlots() const;
 
-  Store& store_;
-  ControlPath& controlPath_;
-  ListBox& List2;
-  const Arithmetic& arithmetic_;
-  Watch& watch_;
+  ProgramContext context_;
   SlotTable slotTable_;
   NameStates names_;
   Operands operands_;

@@ -62,7 +62,7 @@ class DrawingTest : public testing::Test {
   Variables& variables = interpreter.variables;
   Arguments& arguments = interpreter.arguments;
   Dispatch& dispatch = interpreter.dispatch;
-  DrawingContext drawing{turtle, Picture1, controls, arguments, services, dispatch};
+  DrawingContext drawing{{services, watch, controls, turtle}, Picture1, arguments, dispatch};
   Graphics graphics{drawing};
   TurtleFigure& turtleFigure = graphics.turtleFigure;
   Colours& colours = graphics.colours;

@@ -109,7 +109,7 @@ class Side : SurfaceRecorder {
   typename Kinds::Turtle turtle;
   typename Kinds::Interpreter interpreter{{services, watch, controls, turtle}};
   typename Kinds::DrawingContext drawing{
-      turtle, Picture1, controls, interpreter.arguments, services, interpreter.dispatch};
+      {services, watch, controls, turtle}, Picture1, interpreter.arguments, interpreter.dispatch};
   typename Kinds::TurtleFigure figure{controls};
   typename Kinds::TurtlePlaces places{drawing};
   typename Kinds::Motion motion{drawing};

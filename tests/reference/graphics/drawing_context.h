@@ -1,21 +1,16 @@
 #pragma once
 
-#include "base/services.h"
-#include "controls/controls.h"
 #include "graphics/surface.h"
 #include "reference/interpreter/arguments.h"
+#include "reference/interpreter/context.h"
 #include "reference/interpreter/dispatch.h"
-#include "reference/interpreter/turtle.h"
 
 namespace zerimo::reference {
 
-/// What the drawing primitives work on.
-struct DrawingContext {
-  Turtle& turtle;
+/// What the drawing primitives work on besides.
+struct DrawingContext : InterpreterContext {
   Surface& Picture1;
-  Controls& controls;
   const Arguments& arguments;
-  Services& services;
   Dispatch& dispatch;
 };
 

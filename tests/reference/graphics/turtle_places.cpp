@@ -12,17 +12,17 @@ const char* const OutsideText = "The Fence command can not be used while the Tur
 }  // namespace
 
 void TurtlePlaces::Bind() {
-  Dispatch& primitives = context_.dispatch;
-  primitives.Bind(Action::Fence, [this](PrimitiveCall&) { Fence(); });
-  primitives.Bind(Action::XCor, [this](PrimitiveCall&) { XCor(); });
-  primitives.Bind(Action::YCor, [this](PrimitiveCall&) { YCor(); });
-  primitives.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
-  primitives.Bind(Action::Draw, [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
-  primitives.Bind(Action::GetXY, [this](PrimitiveCall&) { GetXY(); });
-  primitives.Bind(Action::Home, [this](PrimitiveCall&) { Home(); });
-  primitives.Bind(Action::HomeX, [this](PrimitiveCall&) { HomeX(); });
-  primitives.Bind(Action::HomeY, [this](PrimitiveCall&) { HomeY(); });
-  primitives.Bind(Action::HomeXY, [this](PrimitiveCall&) { HomeXY(); });
+  Dispatch& dispatch = context_.dispatch;
+  dispatch.Bind(Action::Fence, [this](PrimitiveCall&) { Fence(); });
+  dispatch.Bind(Action::XCor, [this](PrimitiveCall&) { XCor(); });
+  dispatch.Bind(Action::YCor, [this](PrimitiveCall&) { YCor(); });
+  dispatch.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
+  dispatch.Bind(Action::Draw, [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
+  dispatch.Bind(Action::GetXY, [this](PrimitiveCall&) { GetXY(); });
+  dispatch.Bind(Action::Home, [this](PrimitiveCall&) { Home(); });
+  dispatch.Bind(Action::HomeX, [this](PrimitiveCall&) { HomeX(); });
+  dispatch.Bind(Action::HomeY, [this](PrimitiveCall&) { HomeY(); });
+  dispatch.Bind(Action::HomeXY, [this](PrimitiveCall&) { HomeXY(); });
 }
 
 void TurtlePlaces::Fence() {

@@ -81,8 +81,7 @@ class Store {
 /// even by a failure.
 class LentLine {
  public:
-  LentLine(Store& programStore, int lineNumber)
-      : Text(programStore.Line(lineNumber)), store_(programStore), index_(programStore.Index(lineNumber)) {}
+  LentLine(Store& store, int number) : Text(store.Line(number)), store_(store), index_(store.Index(number)) {}
   ~LentLine() { store_.Put(index_, std::move(Text)); }
   LentLine(const LentLine&) = delete;
   LentLine& operator=(const LentLine&) = delete;
