@@ -32,38 +32,39 @@ constexpr double GreatestNumber = 32767;
 using enum Action;
 
 constexpr std::array Patterns = {
-    Pattern{Mistake::MinusInput, "^(?!@ )([A-Z]+) -\\s*[\\d:.(A-Z]",
+    Pattern{Mistake::MinusInput, R"(^(?!@ )([A-Z]+) -\s*[\d:.(A-Z])",
             IsOneOf<StmtIf, StmtMake, inputs::Print, inputs::Message, inputs::Write>},
-    Pattern{Mistake::MinusSecondInput, "^(@) [^\"]*[\\w)] -[\\d:.(]", TakesNumbers},
-    Pattern{Mistake::MinusMake, "^@ \"?:?([A-Z]+) -", IsMake},
-    Pattern{Mistake::DoubleMinus, "(\\S*--\\S*)"},
-    Pattern{Mistake::PercentAfterTimes, "([\\w):.]*\\w\\*[\\w:.]+%\\S*)"},
-    Pattern{Mistake::MissingTimes, "([\\d)]+\\(\\S*)"},
-    Pattern{Mistake::BarePoint, " (\\.\\d+)"},
-    Pattern{Mistake::BlankBeforeEquals, "^@ [^\"]* (=)", IsIf},
-    Pattern{Mistake::Exponent, "(?:^|[^\\w:\"])(\\d+E[+-]?\\d+)"},
-    Pattern{Mistake::HalfNumber, "^& (\\d+\\.\\d+)$",
+    Pattern{Mistake::MinusSecondInput, R"(^(@) [^"]*[\w)] -[\d:.(])", TakesNumbers},
+    Pattern{Mistake::MinusMake, R"(^@ "?:?([A-Z]+) -)", IsMake},
+    Pattern{Mistake::DoubleMinus, R"((\S*--\S*))"},
+    Pattern{Mistake::PercentAfterTimes, R"(([\w):.]*\w\*[\w:.]+%\S*))"},
+    Pattern{Mistake::MissingTimes, R"(([\d)]+\(\S*))"},
+    Pattern{Mistake::BarePoint, R"( (\.\d+))"},
+    Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf},
+    Pattern{Mistake::Exponent, R"((?:^|[^\w:"])(\d+E[+-]?\d+))"},
+    Pattern{Mistake::HalfNumber, R"(^& (\d+\.\d+)$)",
             IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize>},
-    Pattern{Mistake::WholeStep, "^& (\\(?-?\\d+\\.\\d+\\)?)$", IsOneOf<Circle, SetXY, Dot, Line>},
-    Pattern{Mistake::DivisionByZero, "(\\S*/0(?![\\d.])\\S*)"},
-    Pattern{Mistake::TooLarge, "^& \\(?-?(\\d+)\\)?$", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
-    Pattern{Mistake::TooLarge, "^& (\\d+)$",
+    Pattern{Mistake::WholeStep, R"(^& (\(?-?\d+\.\d+\)?)$)", IsOneOf<Circle, SetXY, Dot, Line>},
+    Pattern{Mistake::DivisionByZero, R"((\S*/0(?![\d.])\S*))"},
+    Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
+    Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
             IsOneOf<Sum, Product, Quotient, Remainder, LineWidth, Wait, SetPC, SetBG, Fill>, GreatestNumber},
-    Pattern{Mistake::DigitInName, "(:[A-Z]+\\d+)"},
-    Pattern{Mistake::DigitInName, "^@ \"([A-Z]+\\d+)", IsMake},
-    Pattern{Mistake::MakeWithoutQuote, "^@ ([A-Z]+)\\b", IsMake},
-    Pattern{Mistake::WrongSign, "^@ [^\"]*(==|<>|><|=<|=>|!==)", IsIf},
-    Pattern{Mistake::TwoComparisons, "^@ ([^\" ]*[<>=!]=?[^<>=!\" ]+[<>!][^\" ]*)", IsIf},
-    Pattern{Mistake::LogicWord, "^@ [^\"]*\\b(AND|OR|NOT)\\b", IsIf},
-    Pattern{Mistake::ColourCode, "^& (1[6-9]|[2-9]\\d|\\d{3,}|\\(-\\d+\\))$",
+    Pattern{Mistake::DigitInName, R"((:[A-Z]+\d+))"},
+    Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
+    Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},
+    Pattern{Mistake::WrongSign, R"(^@ [^"]*(==|<>|><|=<|=>|!==))", IsIf},
+    Pattern{Mistake::TwoComparisons, R"(^@ ([^" ]*[<>=!]=?[^<>=!" ]+[<>!][^" ]*))", IsIf},
+    Pattern{Mistake::LogicWord, R"(^@ [^"]*\b(AND|OR|NOT)\b)", IsIf},
+    Pattern{Mistake::ColourCode, R"(^& (1[6-9]|[2-9]\d|\d{3,}|\(-\d+\))$)",
             IsOneOf<SetPC, SetBG, Fill, FloodFill, TextColor>},
-    Pattern{Mistake::OpenQuote, "^@ (\"[^\"]+)$", IsOneOf<Print, Message, Write>},
-    Pattern{Mistake::OpenSum, "^(@\\b[^)]*)$", IsOneOf<BracketSum, BracketProduct>},
-    Pattern{Mistake::ElseWithMore, "^@ (\\S.*)", IsOneOf<StmtElse>},
+    Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<Print, Message, Write>},
+    Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<BracketSum, BracketProduct>},
+    Pattern{Mistake::ElseWithMore, R"(^@ (\S.*))", IsOneOf<StmtElse>},
 };
 
 std::vector<QRegularExpression> Compiled() {
   std::vector<QRegularExpression> all;
+  all.reserve(Patterns.size());
   for (const Pattern& each : Patterns) all.push_back(ExpressionOf(QString::fromLatin1(each.Text), each.Words));
   return all;
 }
@@ -90,7 +91,7 @@ void FindDeadWord(const Statement& statement, Findings& findings) {
 
 /// A name keeps its value, but only two decimals of it are used.
 void FindThirds(const Statement& statement, Findings& findings) {
-  static const QRegularExpression division = ExpressionOf("^@ \"[A-Z]+ \\(?(\\d+)/(\\d+)\\)?$", IsMake);
+  static const QRegularExpression division = ExpressionOf(R"(^@ "[A-Z]+ \(?(\d+)/(\d+)\)?$)", IsMake);
   const auto match = division.match(statement.Text);
   if (!match.hasMatch() || match.captured(2).toDouble() == 0) return;
   const double hundredths = 100 * match.captured(1).toDouble() / match.captured(2).toDouble();
@@ -99,7 +100,7 @@ void FindThirds(const Statement& statement, Findings& findings) {
 }
 
 void FindMissingBlank(const Statement& statement, Findings& findings) {
-  static const QRegularExpression call("^([A-Z]+)\\(");
+  static const QRegularExpression call(R"(^([A-Z]+)\()");
   const auto match = call.match(statement.Text);
   if (match.hasMatch() && IsKnownWord(match.captured(1)))
     findings.push_back({Mistake::NoBlankAfterWord, statement.Line, {match.captured(1)}});
