@@ -103,8 +103,8 @@ class SectionWriter {
   }
 
   void AddFigure(const std::filesystem::path& file, const char* words) {
-    constexpr int Width = 420;
-    const std::optional<QString> image = pictures_.Image(file, Utf8(words), Width);
+    constexpr int width = 420;
+    const std::optional<QString> image = pictures_.Image(file, Utf8(words), width);
     if (image) html_ += Element("figure", "", *image + Element("figcaption", "", Utf8(words))) + u'\n';
   }
 

@@ -12,7 +12,7 @@ class RowsPanelView : public ControlView {
  public:
   RowsPanelView(PanelBox& control, QWidget& parent, Events& events);
   /// The panel's place in a window with this client area.
-  static QRect PlaceIn(const Control& panel_, const QRect& client);
+  static QRect PlaceIn(const Control& panel, const QRect& client);
 
  protected:
   QRect Place(const Room& room) const override { return PlaceIn(Source(), room.Client); }
