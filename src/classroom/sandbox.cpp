@@ -110,10 +110,10 @@ bool ConfineCalls() {
   };
   for (const int call : RefusedCalls) refuse(call, EPERM);
   // A thread is not a process. The newer call hides its flags; if it is refused, the older one is used.
-  refuse(SCMP_SYS(clone), EPERM, SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0));
+  refuse(SCMP_SYS(clone), EPERM, scmp_arg_cmp{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0});
   refuse(SCMP_SYS(clone3), ENOSYS);
-  refuse(SCMP_SYS(tgkill), EPERM, SCMP_A0(SCMP_CMP_NE, static_cast<scmp_datum_t>(getpid())));
-  refuse(SCMP_SYS(prlimit64), EPERM, SCMP_A0(SCMP_CMP_NE, 0));
+  refuse(SCMP_SYS(tgkill), EPERM, scmp_arg_cmp{0, SCMP_CMP_NE, static_cast<scmp_datum_t>(getpid()), 0});
+  refuse(SCMP_SYS(prlimit64), EPERM, scmp_arg_cmp{0, SCMP_CMP_NE, 0, 0});
   return seccomp_load(filter.get()) == 0 && isDone;
 }
 
