@@ -15,7 +15,7 @@ class ListEntries : public QAbstractListModel {
 
   /// Takes over new entries. Returns whether anything has changed.
   bool Sync();
-  void SetFont(const QFont& font_);
+  void SetFont(const QFont& font);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

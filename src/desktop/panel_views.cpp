@@ -32,8 +32,8 @@ RowsPanelView::RowsPanelView(PanelBox& control, QWidget& parent, Events&)
   Widget().setAutoFillBackground(true);
 }
 
-QRect RowsPanelView::PlaceIn(const Control& panel_, const QRect& client) {
-  QRect place = InPixels(panel_);
+QRect RowsPanelView::PlaceIn(const Control& panel, const QRect& client) {
+  QRect place = InPixels(panel);
   if (place.bottom() > client.bottom()) place.moveBottom(client.bottom());
   return place;
 }
