@@ -67,9 +67,13 @@ void Pictures::Timer3Tick() {
     ShowPicture(SlideFileName);
   } catch (const Failure&) {
     // The first number without a file is the normal end of a show.
-    SlideCounter = 0;
-    context_.controls.Timer3.Enabled = false;
+    EndSlideShow();
   }
+}
+
+void Pictures::EndSlideShow() noexcept {
+  SlideCounter = 0;
+  context_.controls.Timer3.Enabled = false;
 }
 
 }  // namespace zerimo

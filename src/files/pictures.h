@@ -22,6 +22,9 @@ class Pictures {
   /// One tick of the slide show; any failure ends the show silently.
   void Timer3Tick();
 
+  /// The next show begins with its first slide.
+  void EndSlideShow() noexcept;
+
   /// `AppFolder`, a slash, and the first word of `SLIDESHOW`.
   std::string SlideBaseName;
   std::int16_t SlideCounter = 0;

@@ -27,7 +27,11 @@ bool MeansStop(const QKeyEvent& press) {
 
 bool Stop::PressKey(const QKeyEvent& press) {
   if (!MeansStop(press)) return false;
-  if (session_.Running().IsRunning()) session_.Running().RequestStop();
+  if (session_.Running().IsRunning()) {
+    session_.Running().RequestStop();
+  } else if (session_.form1.controls.Timer3.Enabled) {
+    session_.Deliver([](Form1& form1) { form1.files.pictures.EndSlideShow(); });
+  }
   return true;
 }
 

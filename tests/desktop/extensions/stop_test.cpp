@@ -55,6 +55,20 @@ TEST_F(StopTest, AnEvaluationThatNeverReturnsStops) {
   EXPECT_EQ(session->form1.interpreter.store.Line(1), "");
 }
 
+TEST_F(StopTest, ASlideShowEndsAndItsSlideStays) {
+  QImage slide(64, 64, QImage::Format_RGB32);
+  slide.fill(Qt::red);
+  for (const char* name : {"TRIP1.JPG", "TRIP2.JPG", "TRIP3.JPG"})
+    ASSERT_TRUE(slide.save(folder.filePath(QLatin1String(name)), "JPG", 100));
+  Enter("slideshow trip 30");
+  ASSERT_TRUE(Until([this] { return session->form1.files.pictures.SlideCounter > 0; }));
+  const Colour shown = session->form1.Picture1.Point(300, 300);
+  Press(Qt::Key_Pause, Qt::ControlModifier);
+  EXPECT_FALSE(FormControls().Timer3.Enabled);
+  EXPECT_EQ(session->form1.files.pictures.SlideCounter, 0);
+  EXPECT_EQ(session->form1.Picture1.Point(300, 300), shown);
+}
+
 TEST_F(StopTest, AWaitStops) {
   StopLine("wait 3600000");
   EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
