@@ -12,8 +12,6 @@ lines=('CS' 'HT' 'REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]')
 . "$(dirname "$0")/display.sh" $width $height
 
 start_program() {
-  # No session bus: what is on the screen must not depend on the desktop that the test is started from.
-  export DBUS_SESSION_BUS_ADDRESS=disabled:
   "$zerimo" &
   program=$!
   started+=("$program")

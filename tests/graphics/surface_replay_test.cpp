@@ -21,6 +21,21 @@ class SurfaceReplayTest : public testing::Test, private SurfaceRecorder {
     First.AddRecorder(*this);
   }
 
+  /// Gives the first all properties that drawing depends on.
+  void SetAll() {
+    First.SetBackColor(0x123456);
+    First.SetForeColor(1);
+    First.SetFillColor(2);
+    First.SetFillStyle(3);
+    First.SetDrawMode(7);
+    First.SetDrawWidth(5);
+    First.SetScaleMode(3);
+    First.SetCurrentX(12.5);
+    First.SetCurrentY(13.5);
+    First.SetFontSize(30);
+    First.SetHeight(4500);
+  }
+
   static std::map<std::string, PropertyValue> PropertiesOf(const Surface& surface) {
     std::map<std::string, PropertyValue> all;
     surface.ReadProperties([&](const char* name, const PropertyValue& value) { all[name] = value; });
@@ -55,32 +70,12 @@ TEST_F(SurfaceReplayTest, EachOperationIsRepeated) {
 
 TEST_F(SurfaceReplayTest, EachPropertyThatDrawingDependsOnIsRepeated) {
   Begin();
-  First.SetBackColor(0x123456);
-  First.SetForeColor(1);
-  First.SetFillColor(2);
-  First.SetFillStyle(3);
-  First.SetDrawMode(7);
-  First.SetDrawWidth(5);
-  First.SetScaleMode(3);
-  First.SetCurrentX(12.5);
-  First.SetCurrentY(13.5);
-  First.SetFontSize(30);
-  First.SetHeight(4500);
+  SetAll();
   EXPECT_EQ(PropertiesOf(Second), PropertiesOf(First));
 }
 
 TEST_F(SurfaceReplayTest, TheStateTakesOverWhatWasSetBefore) {
-  First.SetBackColor(0x123456);
-  First.SetForeColor(1);
-  First.SetFillColor(2);
-  First.SetFillStyle(3);
-  First.SetDrawMode(7);
-  First.SetDrawWidth(5);
-  First.SetScaleMode(3);
-  First.SetCurrentX(12.5);
-  First.SetCurrentY(13.5);
-  First.SetFontSize(30);
-  First.SetHeight(4500);
+  SetAll();
   Begin();
   EXPECT_EQ(PropertiesOf(Second), PropertiesOf(First));
 }

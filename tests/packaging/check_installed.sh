@@ -13,13 +13,11 @@ folder=$HOME/Documents/Zerimo
 
 start_window() {
   (cd "$work" && exec "$zerimo" "$@") &
-  started=$!
+  window=$!
+  started+=("$window")
 }
 
-end_window() {
-  end_process "$started"
-  started=
-}
+end_window() { end_process "$window"; }
 
 start_window
 within 20 test -f "$folder/.zerimo-files" || fail "no folder is made in the documents"
@@ -35,7 +33,7 @@ end_window
 [ ! -e "$folder/TREE.ZRM" ] || fail "a deleted sample came again"
 
 # A file without a folder is written into the user's own, wherever the program was started.
-start_display
+start_display 1024 768
 start_window
 within 30 windows_stand 1 || fail "no window"
 lists_its_words() {

@@ -20,8 +20,8 @@ printf '%s\n' CS 'LOAD FLOWER' FLOWER 'HELP FD' '@dump control RichTextBox1' |
 grep -q 'RichTextBox1' "$work/transcript" || fail "there is no help page"
 
 # The window works in this folder, and makes none in the documents.
-start_display
+start_display 1024 768
 HOME=$work/home ./zerimo &
-started=$!
+started+=($!)
 within 30 windows_stand 1 || fail "the window does not stand"
 [ ! -e "$work/home/Documents" ] || fail "a folder was made elsewhere: $(find "$work/home")"

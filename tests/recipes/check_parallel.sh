@@ -2,7 +2,6 @@
 # Runs the recipe for GNU parallel: all programs of a list in one report, also after an interruption.
 # Usage: check_parallel.sh ZERIMO-BATCH SAMPLES RECIPES
 . "$(dirname "$0")/support.sh"
-trap 'rm -rf "$work"' EXIT
 recipe=$3/class-parallel
 
 # What the first part has when it is interrupted is not run again.

@@ -6,25 +6,6 @@
 recipes=$3
 export PATH=$PATH:/usr/sbin:/sbin
 export SLURM_CONF=$work/slurm.conf
-started=()
-finish() {
-  for ((i = ${#started[@]} - 1; i >= 0; i--)); do
-    kill "${started[i]}" 2>/dev/null || true
-    wait "${started[i]}" 2>/dev/null || true
-  done
-  rm -rf "$work"
-}
-trap finish EXIT
-
-# within SECONDS COMMAND...: repeats the command until it succeeds.
-within() {
-  local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [ "$SECONDS" -lt "$end" ] || return 1
-    sleep 0.2
-  done
-}
 
 free_port() { python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])'; }
 
@@ -75,7 +56,6 @@ runs_the_endless_one() { [ "$(task_state 1)" = RUNNING ] && [ "$(grep -c . part-
 waits_again() { [ "$(task_state 1)" = PENDING ]; }
 nothing_is_left() { [ -z "$(squeue --noheader)" ]; }
 
-chmod 755 "$work"
 start_cluster
 # The first task has the first, the third and the fifth program, which takes twenty seconds unless it is interrupted.
 mv 'ben cole/ENDLESS.ZRM' 'ben cole/ZENDLESS.ZRM'

@@ -1,12 +1,6 @@
 # Shared by the checks of the recipes: a temporary folder with a list of programs, and a runner that is found by its name.
 # Usage: . support.sh ZERIMO-BATCH SAMPLES
-set -euo pipefail
-
-work=$(mktemp -d)
-fail() {
-  echo "$1" >&2
-  exit 1
-}
+. "$(dirname "${BASH_SOURCE[0]}")/../support/checks.sh"
 
 mkdir "$work/bin" "$work/anna" "$work/ben cole"
 ln -s "$1" "$work/bin/zerimo-batch"
