@@ -9,7 +9,7 @@ height=768
 # The part of the surface that the title bar and the rows are sure to leave free.
 part=1000x560+0+0
 lines=('CS' 'HT' 'REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]')
-. "$(dirname "$0")/display.sh" $width $height
+. "$(dirname "$0")/display.sh"
 
 start_program() {
   "$zerimo" &
@@ -46,6 +46,8 @@ screen_is_as_expected() {
   [ "$differing" = 0 ]
 }
 
+start_display $width $height
+start_window_manager
 start_program
 for line in "${lines[@]}"; do type_line "$line"; done
 type_line 'SHOW DETAILS'

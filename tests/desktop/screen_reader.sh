@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
 # Starts the program on a display and a bus of their own, and asks it over the accessibility bus what a screen reader asks.
 # Usage: screen_reader.sh ZERIMO PYTHON
-. "$(dirname "$0")/display.sh" 1024 768
+. "$(dirname "$0")/display.sh"
+
+start_display 1024 768
+start_window_manager
 
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 # shellcheck disable=SC2016

@@ -37,6 +37,7 @@ within() {
 # start_display WIDTH HEIGHT: for the windows that are started from now on. Without -noreset it would drop a client that
 # comes while the last other one leaves.
 start_display() {
+  rm -f "$work/display"
   Xvfb -displayfd 3 -noreset -screen 0 "$1x$2x24" 3>"$work/display" 2>/dev/null &
   started+=($!)
   within 30 test -s "$work/display" || fail "the display does not start"
