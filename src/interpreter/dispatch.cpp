@@ -12,14 +12,8 @@ namespace {
 
 constexpr std::int16_t MostCounted = 32767;
 
-/// The line is trimmed.
-PrimitiveCall Split(const std::string& line) {
-  const auto blank = line.find(' ');
-  PrimitiveCall call;
-  call.Word = line.substr(0, blank);
-  if (blank != std::string::npos) call.Rest = line.substr(blank + 1);
-  call.InputIsMissing = call.Rest.empty() || call.Rest == " ";
-  return call;
+PrimitiveCall MakeCall(std::string_view word, std::string_view rest, const EvaluatedText* input) {
+  return {std::string(word), std::string(rest), rest.empty() || rest == " ", input, {}};
 }
 
 }  // namespace
@@ -30,14 +24,14 @@ void Dispatch::Bind(Action action, Handler handler) noexcept {
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
-  PrimitiveCall call = Split(commandLine);
+  const PrimitiveWords words(commandLine);
+  PrimitiveCall call = MakeCall(words.Word, words.Input, nullptr);
   CarryOut(call, ActionOf(commandLine));
 }
 
-void Dispatch::Execute(const std::string& line, const LineForm& form) {
-  PrimitiveCall call = Split(line);
-  call.Input = &form.Input;
-  CarryOut(call, form.Primitive);
+void Dispatch::Execute(const LineForm& line) {
+  PrimitiveCall call = MakeCall(line.Word, line.Input.Text(), &line.Input);
+  CarryOut(call, line.Primitive);
 }
 
 void Dispatch::CarryOut(PrimitiveCall& call, Action action) {

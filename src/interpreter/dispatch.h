@@ -31,8 +31,8 @@ class Dispatch {
   /// The same for a fixed text.
   void Execute(std::string commandLine) { Executor(commandLine); }
 
-  /// The same for a trimmed line whose action is known (`ActionOf`).
-  void Execute(const std::string& line, const LineForm& form);
+  /// The same for a line of the store.
+  void Execute(const LineForm& line);
 
   /// If the input is missing, shows the box that says so. Returns whether it was missing.
   bool TellMissingInput(const PrimitiveCall& call, Action action);

@@ -62,32 +62,36 @@ class Evaluation {
     return Of(side.Sums.back());
   }
 
+  /// With its sign.
+  double Of(const Formula::Term& term, bool followsSign) {
+    if (!ReadFactors(term)) return NoNumber;
+    if (vanished_) return term.Factors.size() > 1 ? NoNumber : 0;
+    // A minus sign that is pasted after another sign is the one that counts.
+    const bool subtracts = term.Sign == '-' || (followsSign && factors_[0] < 0);
+    if (followsSign) factors_[0] = std::abs(factors_[0]);
+    for (const Formula::Step& step : term.Steps) {
+      factors_[step.Left] = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
+      if (!IsNumber(factors_[step.Left])) return NoNumber;
+    }
+    return subtracts ? -factors_[0] : factors_[0];
+  }
+
  private:
   double Of(const Formula::Sum& sum) {
     double total = 0;
     for (std::size_t at = 0; at < sum.size(); ++at) {
       const Formula::Term& term = sum[at];
-      if (!ReadFactors(term)) return NoNumber;
-      if (vanished_) {
-        // The sign after it would stick to the next number and not to the next term.
-        const bool heads = at == 0 && sum.size() > 1 && sum[1].Factors.size() > 1;
-        if (term.Factors.size() > 1 || heads) return NoNumber;
-        continue;
-      }
-      // A minus sign that is pasted after another sign is the one that counts.
-      const bool subtracts = term.Sign == '-' || (at > 0 && factors_[0] < 0);
-      if (at > 0) factors_[0] = std::abs(factors_[0]);
-      for (const Formula::Step& step : term.Steps) {
-        factors_[step.Left] = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
-        if (!IsNumber(factors_[step.Left])) return NoNumber;
-      }
-      total = subtracts ? total - factors_[0] : total + factors_[0];
+      vanished_ = false;
+      const double value = IsNumber(term.Known) ? term.Known : Of(term, at > 0);
+      // The sign after a first term that has vanished would stick to the next number and not to the next term.
+      const bool sticks = vanished_ && at == 0 && sum.size() > 1 && sum[1].Factors.size() > 1;
+      if (!IsNumber(value) || sticks) return NoNumber;
+      total += value;
     }
     return std::isfinite(total) ? total : NoNumber;
   }
 
   bool ReadFactors(const Formula::Term& term) {
-    vanished_ = false;
     for (std::size_t at = 0; at < term.Factors.size(); ++at) {
       const Operand& operand = term.Factors[at];
       factors_[at] = NumberOf(operand);
@@ -122,6 +126,12 @@ bool IsConstant(const Formula::Term& term) {
   return std::ranges::none_of(term.Factors, [](const Operand& operand) { return operand.IsPasted(); });
 }
 
+/// Brackets are worked out with their side.
+bool IsNumbersOnly(const Formula::Term& term) {
+  return std::ranges::all_of(term.Factors,
+                             [](const Operand& operand) { return operand.What == Operand::Kind::Constant; });
+}
+
 bool IsConstant(const Formula::Side& side) {
   return !side.Sums.empty() && std::ranges::all_of(side.Sums, [](const Formula::Sum& sum) {
     return std::ranges::all_of(sum, [](const Formula::Term& term) { return IsConstant(term); });
@@ -133,6 +143,11 @@ bool IsConstant(const Formula::Side& side) {
 void Formula::WorkOutConstants(const Operands& operands) {
   for (Side* const side : {&Left, &Right}) {
     if (IsConstant(*side)) side->Known = Evaluation(operands).Of(*side);
+    for (Sum& sum : side->Sums) {
+      for (std::size_t at = 0; at < sum.size(); ++at) {
+        if (IsNumbersOnly(sum[at])) sum[at].Known = Evaluation(operands).Of(sum[at], at > 0);
+      }
+    }
   }
 }
 

@@ -53,6 +53,8 @@ class Formula {
     char Sign = '+';
     std::vector<Operand> Factors;
     std::vector<Step> Steps;
+    /// Its value with its sign, if that can be worked out once and for all.
+    double Known = NoNumber;
   };
   using Sum = std::vector<Term>;
   /// One side of a condition, or all of an expression: the contents of its brackets, innermost first, then the whole.
@@ -67,7 +69,7 @@ class Formula {
   Comparison Compare = nullptr;
   Side Right;
 
-  /// Works out once and for all the sides that hold no names.
+  /// Works out once and for all the terms and sides that hold no names.
   void WorkOutConstants(const Operands& operands);
 
   /// The value of an expression, or no number.

@@ -21,10 +21,13 @@ std::string_view AfterFirstBlank(std::string_view line) noexcept {
 
 LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)) {
   switch (Class) {
-    case StmtPrimitive:
+    case StmtPrimitive: {
+      const PrimitiveWords words(Trimmed(line));
       Primitive = ActionOf(Trimmed(line));
-      Input = EvaluatedText(AfterFirstBlank(Trimmed(line)));
+      Word = words.Word;
+      Input = EvaluatedText(words.Input);
       break;
+    }
     case StmtMake: {
       MakeWords make(line);
       Name = std::move(make.Name);
@@ -44,6 +47,9 @@ LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)) {
       break;
   }
 }
+
+PrimitiveWords::PrimitiveWords(std::string_view line) noexcept
+    : Word(line.substr(0, line.find(' '))), Input(AfterFirstBlank(line)) {}
 
 MakeWords::MakeWords(std::string_view line) {
   int blanks = 0;

@@ -40,7 +40,8 @@ struct LineForm {
   StatementClass Class;
   /// Of a primitive: its action, or `Action::None`.
   Action Primitive = Action::None;
-  /// Of a primitive: everything after its word.
+  /// Of a primitive: its word, and everything after it.
+  std::string Word;
   EvaluatedText Input;
   /// Of a `MAKE`: the name as the slots hold it, and the text of the value.
   std::string Name;
@@ -50,6 +51,14 @@ struct LineForm {
   /// Of a call and of a header (after its `TO`): the words, unless there are too many.
   std::optional<Words> Call;
   std::optional<Words> Header;
+};
+
+/// A primitive's trimmed line: the first word, and everything after its blank.
+struct PrimitiveWords {
+  explicit PrimitiveWords(std::string_view line) noexcept;
+
+  std::string_view Word;
+  std::string_view Input;
 };
 
 /// The words of a `MAKE` line: the name as the slots hold it, and the text of the value.

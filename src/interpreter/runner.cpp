@@ -83,7 +83,7 @@ void Runner::Act(Walk& walk) {
     case StmtPrimitive:
       SkipOnFailure([&] {
         context_.store.TrimLine(walk.Line);
-        dispatch_.Execute(context_.store.Line(walk.Line), context_.store.FormOf(walk.Line));
+        dispatch_.Execute(context_.store.FormOf(walk.Line));
       });
       Advance(walk);
       break;
