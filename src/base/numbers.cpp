@@ -165,11 +165,8 @@ double RoundHalfEven(double number) {
   constexpr double wholeBelow = 1E15;
   if (std::abs(number) < wholeBelow && IsWhole(number)) return number;
   if (std::isnan(number)) throw Failure(FailureKind::Overflow);
-  const double below = std::floor(number);
-  const double rest = number - below;
-  if (rest < 0.5) return below;
-  if (rest > 0.5) return below + 1;
-  return std::fmod(below, 2) == 0 ? below : below + 1;
+  // Added to 0, so that no minus zero is left.
+  return std::nearbyint(number) + 0.0;
 }
 
 double RoundToDecimals(double number, int decimals) {

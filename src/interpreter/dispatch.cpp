@@ -13,7 +13,7 @@ namespace {
 constexpr std::int16_t MostCounted = 32767;
 
 PrimitiveCall MakeCall(std::string_view word, std::string_view rest, const EvaluatedText* input) {
-  return {std::string(word), std::string(rest), rest.empty() || rest == " ", input, {}};
+  return {word, std::string(rest), rest.empty() || rest == " ", input, {}};
 }
 
 }  // namespace
@@ -48,10 +48,10 @@ void Dispatch::CarryOut(PrimitiveCall& call, Action action) {
   Tail(call);
 }
 
-bool Dispatch::TellMissingInput(const PrimitiveCall& call, Action action) {
+bool Dispatch::TellMissing(const PrimitiveCall& call, Action action) {
   const MissingInput missing = FactsOf(action).Missing;
-  if (missing == MissingInput::NoTest || !call.InputIsMissing) return false;
-  const std::string text = "Required Paramiter Missing After " + call.Word;
+  if (missing == MissingInput::NoTest) return false;
+  const std::string text = "Required Paramiter Missing After " + std::string(call.Word);
   switch (missing) {
     case MissingInput::Information:
       services_.MessageBox(text, box::Information, "Zerimo Message");

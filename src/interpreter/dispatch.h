@@ -35,7 +35,9 @@ class Dispatch {
   void Execute(const LineForm& line);
 
   /// If the input is missing, shows the box that says so. Returns whether it was missing.
-  bool TellMissingInput(const PrimitiveCall& call, Action action);
+  bool TellMissingInput(const PrimitiveCall& call, Action action) {
+    return call.InputIsMissing && TellMissing(call, action);
+  }
 
   /// The steps of the tail that other rooms provide: move the figure, write the status line, refresh the surface.
   std::function<void()> TurtlePos = [] {};
@@ -48,6 +50,7 @@ class Dispatch {
   std::int16_t OverflowCount = 0;
 
  private:
+  bool TellMissing(const PrimitiveCall& call, Action action);
   void CarryOut(PrimitiveCall& call, Action action);
   void Tail(const PrimitiveCall& call);
   /// A full count fails each time; the failure is reported without being thrown.

@@ -62,12 +62,30 @@ class Evaluation {
     return Of(side.Sums.back());
   }
 
+ private:
   /// With its sign.
   double Of(const Formula::Term& term, bool followsSign) {
+    if (IsNumber(term.Known)) return term.Known;
+    if (term.Factors.size() > 1) return OfProduct(term, followsSign);
+    const double value = NumberOf(term.Factors.front());
+    if (HasVanished(term.Factors.front(), value)) return term.MayVanish ? 0 : NoNumber;
+    const double size = followsSign ? std::abs(value) : value;
+    return Subtracts(term, value, followsSign) ? -size : size;
+  }
+
+  double Of(const Formula::Sum& sum) {
+    double total = 0;
+    bool followsSign = false;
+    for (const Formula::Term& term : sum) {
+      total += Of(term, followsSign);
+      followsSign = true;
+    }
+    return std::isfinite(total) ? total : NoNumber;
+  }
+
+  double OfProduct(const Formula::Term& term, bool followsSign) {
     if (!ReadFactors(term)) return NoNumber;
-    if (vanished_) return term.Factors.size() > 1 ? NoNumber : 0;
-    // A minus sign that is pasted after another sign is the one that counts.
-    const bool subtracts = term.Sign == '-' || (followsSign && factors_[0] < 0);
+    const bool subtracts = Subtracts(term, factors_[0], followsSign);
     if (followsSign) factors_[0] = std::abs(factors_[0]);
     for (const Formula::Step& step : term.Steps) {
       factors_[step.Left] = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
@@ -76,30 +94,22 @@ class Evaluation {
     return subtracts ? -factors_[0] : factors_[0];
   }
 
- private:
-  double Of(const Formula::Sum& sum) {
-    double total = 0;
-    for (std::size_t at = 0; at < sum.size(); ++at) {
-      const Formula::Term& term = sum[at];
-      vanished_ = false;
-      const double value = IsNumber(term.Known) ? term.Known : Of(term, at > 0);
-      // The sign after a first term that has vanished would stick to the next number and not to the next term.
-      const bool sticks = vanished_ && at == 0 && sum.size() > 1 && sum[1].Factors.size() > 1;
-      if (!IsNumber(value) || sticks) return NoNumber;
-      total += value;
-    }
-    return std::isfinite(total) ? total : NoNumber;
-  }
-
+  /// Whether all factors are numbers that leave something in the text.
   bool ReadFactors(const Formula::Term& term) {
     for (std::size_t at = 0; at < term.Factors.size(); ++at) {
-      const Operand& operand = term.Factors[at];
-      factors_[at] = NumberOf(operand);
-      if (!IsNumber(factors_[at])) return false;
-      vanished_ = vanished_ || operand.What == Operand::Kind::Nothing ||
-                  (operand.What == Operand::Kind::Global && factors_[at] == 0);
+      factors_[at] = NumberOf(term.Factors[at]);
+      if (!IsNumber(factors_[at]) || HasVanished(term.Factors[at], factors_[at])) return false;
     }
     return true;
+  }
+
+  /// A minus sign that is pasted after another sign is the one that counts.
+  static bool Subtracts(const Formula::Term& term, double first, bool followsSign) {
+    return term.Sign == '-' || (followsSign && first < 0);
+  }
+
+  static bool HasVanished(const Operand& operand, double value) {
+    return operand.What == Operand::Kind::Nothing || (operand.What == Operand::Kind::Global && value == 0);
   }
 
   double NumberOf(const Operand& operand) const {
@@ -118,8 +128,6 @@ class Evaluation {
   const Operands& operands_;
   std::array<double, Formula::MostFactors> factors_;
   std::array<double, Formula::MostFactors> brackets_;
-  /// Whether a factor of the term has left nothing in the text.
-  bool vanished_ = false;
 };
 
 bool IsConstant(const Formula::Term& term) {
@@ -142,10 +150,14 @@ bool IsConstant(const Formula::Side& side) {
 
 void Formula::WorkOutConstants(const Operands& operands) {
   for (Side* const side : {&Left, &Right}) {
+    for (Sum& sum : side->Sums) {
+      // The sign after a first term that has vanished would stick to the next number and not to the next term.
+      if (sum.size() > 1 && sum[1].Factors.size() > 1) sum[0].MayVanish = false;
+    }
     if (IsConstant(*side)) side->Known = Evaluation(operands).Of(*side);
     for (Sum& sum : side->Sums) {
-      for (std::size_t at = 0; at < sum.size(); ++at) {
-        if (IsNumbersOnly(sum[at])) sum[at].Known = Evaluation(operands).Of(sum[at], at > 0);
+      for (Term& term : sum) {
+        if (IsNumbersOnly(term)) term.Known = Evaluation(operands).Of(Side{{{term}}, NoNumber});
       }
     }
   }

@@ -53,6 +53,8 @@ class Formula {
     char Sign = '+';
     std::vector<Operand> Factors;
     std::vector<Step> Steps;
+    /// Whether literal evaluation goes on as usual if its only factor leaves nothing in the text.
+    bool MayVanish = true;
     /// Its value with its sign, if that can be worked out once and for all.
     double Known = NoNumber;
   };

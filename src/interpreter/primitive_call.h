@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "interpreter/evaluated_text.h"
 
@@ -9,8 +10,8 @@ namespace zerimo {
 
 /// The locals of one call of `Executor` that the actions share.
 struct PrimitiveCall {
-  /// The first word.
-  std::string Word;
+  /// The first word. Valid as long as the line.
+  std::string_view Word;
   /// The text after the first word; an action may rewrite it.
   std::string Rest;
   /// Whether that was the empty text or one blank.

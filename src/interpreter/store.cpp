@@ -60,8 +60,7 @@ std::string Store::TakeFirstWord(int number) {
 
 void Store::TrimLine(int number) {
   const std::string& line = Line(number);
-  const std::string_view trimmed = Trimmed(line);
-  if (trimmed.size() != line.size()) SetLine(number, std::string(trimmed));
+  if (line.starts_with(' ') || line.ends_with(' ')) SetLine(number, std::string(Trimmed(line)));
 }
 
 int Store::FirstEmptyLine() const {

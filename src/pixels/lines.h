@@ -1,7 +1,6 @@
 #pragma once
 
 #include "pixels/line_clip.h"
-#include "pixels/round_pen.h"
 #include "pixels/span_painter.h"
 
 namespace zerimo {
@@ -9,9 +8,5 @@ namespace zerimo {
 /// A line one pixel wide, both ends included. It has the same pixels in either direction, so that a pen going back over
 /// its path erases all of it.
 void PaintThinLine(SpanPainter& painter, const WholeLine& line);
-
-/// A line with round ends, at least 2 pixels wide. A pixel belongs to it if its centre is no farther from the line than
-/// half the width; an even width is half a pixel too far left and up.
-void PaintWideLine(SpanPainter& painter, WholeLine line, const RoundPen& pen);
 
 }  // namespace zerimo

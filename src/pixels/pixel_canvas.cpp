@@ -87,7 +87,7 @@ void PixelCanvas::Line(const Stroke& stroke, PixelPoint from, PixelPoint to) {
   if (pen.Round.Width() == 1) {
     PaintThinLine(painter, *line);
   } else {
-    PaintWideLine(painter, *line, pen.Round);
+    wideLines_.Paint(painter, *line, pen.Round);
   }
   const int reach = pen.Round.Above();
   Changed({std::max(std::min(line->X1, line->X2) - reach, 0), std::max(std::min(line->Y1, line->Y2) - reach, 0),

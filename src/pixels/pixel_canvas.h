@@ -10,6 +10,7 @@
 #include "pixels/raster_operation.h"
 #include "pixels/round_pen.h"
 #include "pixels/text_drawer.h"
+#include "pixels/wide_lines.h"
 
 namespace zerimo {
 
@@ -61,6 +62,7 @@ class PixelCanvas : public Canvas {
   std::unique_ptr<TextDrawer> text_;
   std::unique_ptr<PictureFiles> files_;
   Pen pen_ = MakePen({});
+  WideLines wideLines_;
   EllipseSpans ellipse_;
   PixelRect dirty_;
   PixelRect lastChange_;

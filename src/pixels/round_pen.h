@@ -7,6 +7,8 @@ namespace zerimo {
 
 /// The columns of a row, both ends included; empty if the first is after the last.
 struct ColumnSpan {
+  bool operator==(const ColumnSpan&) const = default;
+
   int First;
   int Last;
 };

@@ -91,8 +91,9 @@ class SpanPainter {
   static void FillShort(Pixel* pixel, int count, Pixel color) {
     std::array<Pixel, Block> block;
     block.fill(color);
-    for (int done = 0; done + Block <= count; done += Block) std::memcpy(pixel + done, block.data(), sizeof block);
-    std::memcpy(pixel + count - Block, block.data(), sizeof block);
+    Pixel* const lastBlock = pixel + count - Block;
+    for (; pixel < lastBlock; pixel += Block) std::memcpy(pixel, block.data(), sizeof block);
+    std::memcpy(lastBlock, block.data(), sizeof block);
   }
 
   void PaintHatched(Pixel* row, int first, int last, unsigned mask) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <iomanip>
 #include <limits>
 #include <ostream>
@@ -90,6 +91,7 @@ TEST(Rounding, TakesTheEvenNeighbourOfAHalf) {
   EXPECT_EQ(RoundHalfEven(-2.5), -2);
   EXPECT_EQ(RoundHalfEven(2.4999999), 2);
   EXPECT_EQ(RoundHalfEven(-2.6), -3);
+  EXPECT_FALSE(std::signbit(RoundHalfEven(-.4)));
 }
 
 TEST(Rounding, ToDecimalsRoundsTheScaledNumber) {

@@ -131,13 +131,14 @@ TEST(SideBySideOfShortLines, OfAllUsualWidths) {
   reference::ImageCanvas plain;
   canvas.Create(160, 160, 0);
   plain.Create(160, 160, 0);
-  for (int width = 1; width <= 9; ++width) {
+  for (const int width : {1, 2, 3, 4, 5, 6, 7, 8, 9, 16, 32, 33}) {
     for (int dx = -21; dx <= 21; ++dx) {
       for (int dy = -21; dy <= 21; ++dy) {
         const Stroke stroke{0xFFFFFF, width, 7};
-        const PixelPoint to{80.0 + dx, 80.0 + dy};
-        canvas.Line(stroke, {80, 80}, to);
-        plain.Line(stroke, {80, 80}, to);
+        const PixelPoint from{80.0 + (dy & 7), 80.0 - (dx & 7)};
+        const PixelPoint to{from.X + dx, from.Y + dy};
+        canvas.Line(stroke, from, to);
+        plain.Line(stroke, from, to);
         ASSERT_EQ(canvas.Image(), plain.Image()) << dx << "," << dy << " width " << width;
       }
     }

@@ -67,7 +67,7 @@ class Side : SurfaceRecorder {
     shapes.Bind();
     interpreter.dispatch.TurtlePos = [this] { figure.TurtlePos(turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir); };
     interpreter.dispatch.Bind(Action::Print, [this](PrimitiveCall& call) {
-      trace.Note("PRINT" + call.Word + Str(interpreter.arguments.Number(call.Rest)));
+      trace.Note("PRINT" + std::string(call.Word) + Str(interpreter.arguments.Number(call.Rest)));
     });
     interpreter.dispatch.Bind(Action::Sum, [this](PrimitiveCall& call) {
       const double first = interpreter.arguments.WordNumber(call.Rest, 1);

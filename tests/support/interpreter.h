@@ -18,7 +18,7 @@ struct BareInterpreter {
   BareInterpreter() {
     for (const Action action : {Action::Forward, Action::Right}) {
       dispatch.Bind(action, [this](PrimitiveCall& call) {
-        Calls.push_back(call.Word + Str(arguments.Number(call.Rest)));
+        Calls.push_back(std::string(call.Word) + Str(arguments.Number(call.Rest)));
         Paths.push_back(controlPath.CtrlStr());
       });
     }
