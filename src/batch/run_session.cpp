@@ -6,9 +6,11 @@
 #include <iterator>
 #include <optional>
 
+#include "base/failure.h"
 #include "batch/batch_session.h"
 #include "batch/errors.h"
 #include "batch/latin1.h"
+#include "files/disk_files.h"
 
 namespace zerimo::batch {
 
@@ -39,6 +41,8 @@ class Program {
   Program(const Options& options, SessionPictures& pictures) : options_(options), pictures_(pictures) {}
 
   int Run() {
+    for (const std::string& output : {options_.PictureFile, options_.TranscriptFile})
+      RemoveLeftovers(std::filesystem::path(output).parent_path());
     const std::optional<std::string> bytes = ReadSessionFile(options_.SessionFile);
     if (!bytes) return Complain(options_.SessionFile + ": the session can not be read");
     if (!OpenTranscript()) return Complain(options_.TranscriptFile + ": the transcript can not be written");
@@ -53,9 +57,10 @@ class Program {
   bool OpenTranscript() {
     if (options_.TranscriptOnStandardOutput()) transcript_ = &std::cout;
     if (options_.TranscriptFile.empty() || options_.TranscriptOnStandardOutput()) return true;
-    transcriptFile_.open(options_.TranscriptFile, std::ios::binary);
-    transcript_ = &transcriptFile_;
-    return transcriptFile_.is_open();
+    return SkipOnFailure([this] {
+      transcriptFile_.emplace(options_.TranscriptFile);
+      transcript_ = &transcriptStream_.emplace(&*transcriptFile_);
+    });
   }
 
   int RunScript(BatchSession& session, const std::string& bytes) {
@@ -81,9 +86,13 @@ class Program {
     if (!outcome.Message.empty()) ComplainAt(outcome.Line, outcome.Message);
     if (!WritePicture(session))
       status = std::max(status, Complain(options_.PictureFile + ": the picture can not be written"));
-    const bool written = (transcript_ == nullptr || transcript_->flush().good()) && std::cout.flush().good();
-    if (!written) status = std::max(status, Complain("the transcript can not be written"));
+    if (!SaveTranscript() || !std::cout.flush().good())
+      status = std::max(status, Complain("the transcript can not be written"));
     return status;
+  }
+
+  bool SaveTranscript() {
+    return !transcriptFile_ || SkipOnFailure([this] { transcriptFile_->Save(); });
   }
 
   bool WritePicture(BatchSession& session) const {
@@ -103,7 +112,8 @@ class Program {
 
   const Options& options_;
   SessionPictures& pictures_;
-  std::ofstream transcriptFile_;
+  std::optional<FileToSave> transcriptFile_;
+  std::optional<std::ostream> transcriptStream_;
   std::ostream* transcript_ = nullptr;
 };
 

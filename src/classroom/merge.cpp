@@ -1,9 +1,8 @@
 #include <QDateTime>
-#include <fstream>
 #include <iostream>
+#include <optional>
 #include <utility>
 
-#include "base/failure.h"
 #include "batch/errors.h"
 #include "classroom/class_run.h"
 #include "classroom/marks.h"
@@ -32,8 +31,8 @@ class Merge {
     report_.Version = QString::fromStdString(version);
     report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
     report_.Words = options_.Words;
-    if (!options_.Marks.empty()) marks_.open(options_.Marks, std::ios::binary);
-    marks_ << MarksHead().toStdString();
+    if (!options_.Marks.empty()) marks_.emplace(options_.Marks);
+    AddMarks(MarksHead());
   }
 
   std::size_t Run() {
@@ -42,7 +41,7 @@ class Merge {
         throw batch::UsageError("--merge " + part + ": the file can not be read");
     }
     WritePage();
-    if (!options_.Marks.empty() && !marks_.flush()) throw Failure(FailureKind::FileAccess);
+    if (marks_) marks_->Save();
     WriteBeside(files_.Page(), IndexPage(report_, entries_).toStdString());
     return count_;
   }
@@ -50,9 +49,13 @@ class Merge {
  private:
   void Take(PupilRun run) {
     ++count_;
-    if (!options_.Marks.empty()) marks_ << MarksOf(run).toStdString();
+    AddMarks(MarksOf(run));
     report_.Runs.push_back(std::move(run));
     if (report_.Runs.size() == ProgramsOnPage) WritePage();
+  }
+
+  void AddMarks(const QByteArray& lines) {
+    if (marks_) marks_->sputn(lines.constData(), lines.size());
   }
 
   void WritePage() {
@@ -77,7 +80,7 @@ class Merge {
   const ClassOptions& options_;
   ReportFiles files_;
   Report report_;
-  std::ofstream marks_;
+  std::optional<FileToSave> marks_;
   std::vector<IndexEntry> entries_;
   std::size_t count_ = 0;
 };

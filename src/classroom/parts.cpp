@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "classroom/readable.h"
 #include "classroom/record.h"
+#include "files/disk_files.h"
 
 namespace zerimo::classroom {
 
@@ -19,8 +20,8 @@ void CopyPictures(const fs::path& from, const fs::path& to) {
   std::error_code error;
   fs::create_directories(to, error);
   for (const fs::directory_entry& entry : fs::directory_iterator(from, error)) {
-    if (entry.path().extension() == ".png")
-      fs::copy_file(entry.path(), to / entry.path().filename(), fs::copy_options::overwrite_existing, error);
+    if (entry.path().extension() != ".png") continue;
+    if (const auto bytes = BytesOf(entry.path())) WriteBeside(to / entry.path().filename(), *bytes);
   }
 }
 
@@ -42,6 +43,8 @@ void CutHalfLine(const fs::path& file) {
 }  // namespace
 
 PartFile::PartFile(const fs::path& file, bool resumes) : file_(file) {
+  // A pipe might wait for ever.
+  if (fs::exists(file) && !fs::is_regular_file(file)) throw Failure(FailureKind::FileAccess);
   if (resumes) {
     CutHalfLine(file);
     ForEachRun(file, [this](const PupilRun& run) {

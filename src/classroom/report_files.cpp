@@ -26,6 +26,7 @@ fs::path WritablePlace(const char* option, const std::string& name) {
   const bool isPlace = !error && fs::is_directory(folder, error) && !fs::is_directory(file, error) &&
                        !fs::is_directory(SummaryFileOf(file), error) && CanWriteInto(folder);
   if (!isPlace) throw batch::UsageError(std::string(option) + " " + name + ": no file can be written there");
+  RemoveLeftovers(folder);
   return file;
 }
 

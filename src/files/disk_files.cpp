@@ -30,6 +30,9 @@ constexpr std::string_view TemporaryBeginning = ".zerimo-";
 constexpr std::string_view TemporaryEnding = ".tmp";
 constexpr std::size_t TemporaryDigits = 16;
 
+/// Bytes that are written to the disk at once; more are only if they come at once.
+constexpr std::size_t LargestPiece = std::size_t{64} << 10;
+
 void Require(bool isSo) {
   if (!isSo) throw Failure(FailureKind::FileAccess);
 }
@@ -67,8 +70,8 @@ class Descriptor {
   ~Descriptor() {
     if (number_ >= 0) ::close(number_);
   }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&&) = delete;
 
   /// As far as this user and this kind of disk allow it.
   void TakeOwnerAndMode(const struct stat& former) {
@@ -97,27 +100,16 @@ class Descriptor {
   int number_;
 };
 
-/// A place that a regular file can take: one with a regular file or nothing. Fails (file access) if it holds anything
-/// else.
-class PlaceOfFile {
- public:
-  explicit PlaceOfFile(const fs::path& file) : isTaken_(::stat(file.c_str(), &former_) == 0) {
-    Require(isTaken_ ? S_ISREG(former_.st_mode) && ::access(file.c_str(), W_OK) == 0 : errno == ENOENT);
-  }
-
-  void WriteFor(const fs::path& newFile, std::string_view bytes) const {
-    const mode_t mode = isTaken_ ? former_.st_mode & 0777U : 0666U;
-    Descriptor descriptor(::open(newFile.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-    if (isTaken_) descriptor.TakeOwnerAndMode(former_);
-    descriptor.Write(bytes);
-    descriptor.Sync();
-    descriptor.Close();
-  }
-
- private:
-  struct stat former_ {};
-  bool isTaken_;
-};
+/// The new file for a place with a regular file or nothing. Fails (file access) if the place holds anything else.
+Descriptor OpenFor(const fs::path& place, const fs::path& newFile) {
+  struct stat former {};
+  const bool isTaken = ::stat(place.c_str(), &former) == 0;
+  Require(isTaken ? S_ISREG(former.st_mode) && ::access(place.c_str(), W_OK) == 0 : errno == ENOENT);
+  const mode_t mode = isTaken ? former.st_mode & 0777U : 0666U;
+  Descriptor file(::open(newFile.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+  if (isTaken) file.TakeOwnerAndMode(former);
+  return file;
+}
 
 void Rename(const fs::path& from, const fs::path& to) { Require(std::rename(from.c_str(), to.c_str()) == 0); }
 
@@ -134,23 +126,41 @@ void SyncFolder(const fs::path& folder) {
 
 #else
 
-class PlaceOfFile {
+/// An open file. Every member may fail (file access).
+class Descriptor {
  public:
-  explicit PlaceOfFile(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    Require(!fs::exists(status) || fs::is_regular_file(status));
+  explicit Descriptor(const fs::path& file) : stream_(file, std::ios::binary | std::ios::trunc) {
+    Require(stream_.is_open());
   }
 
-  static void WriteFor(const fs::path& newFile, std::string_view bytes) {
-    std::ofstream stream(newFile, std::ios::binary | std::ios::trunc);
-    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    stream.close();
-    Require(!stream.fail());
+  void Write(std::string_view bytes) {
+    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    Require(stream_.good());
   }
+
+  void Sync() { Require(stream_.flush().good()); }
+
+  void Close() {
+    stream_.close();
+    Require(!stream_.fail());
+  }
+
+ private:
+  std::ofstream stream_;
 };
 
-void Rename(const fs::path& from, const fs::path& to) { fs::rename(from, to); }
+Descriptor OpenFor(const fs::path& place, const fs::path& newFile) {
+  std::error_code error;
+  const fs::file_status status = fs::status(place, error);
+  Require(!fs::exists(status) || fs::is_regular_file(status));
+  return Descriptor(newFile);
+}
+
+void Rename(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  fs::rename(from, to, error);
+  Require(!error);
+}
 
 void SyncFolder(const fs::path&) {}
 
@@ -167,25 +177,83 @@ std::optional<std::string> BytesOf(const fs::path& file) {
   return bytes;
 }
 
-void WriteBeside(const fs::path& file, std::string_view bytes) {
-  const fs::path target = WithoutLinks(file);
-  const fs::path folder = target.parent_path();
-  const fs::path beside = NewNameIn(folder);
-  std::error_code error;
-  try {
-    PlaceOfFile(target).WriteFor(beside, bytes);
-    Rename(beside, target);
-    SyncFolder(folder);
-  } catch (const std::exception&) {
-    fs::remove(beside, error);
-    throw Failure(FailureKind::FileAccess);
+/// Where the bytes go until they are saved; what is left there goes with it.
+class FileToSave::Place {
+ public:
+  explicit Place(const fs::path& file)
+      : target_(WithoutLinks(file)),
+        beside_{NewNameIn(target_.parent_path())},
+        newFile_(OpenFor(target_, beside_.Name)) {}
+
+  void Write(std::string_view bytes) { newFile_.Write(bytes); }
+
+  void Take() {
+    newFile_.Sync();
+    newFile_.Close();
+    Rename(beside_.Name, target_);
+    beside_.Name.clear();
+    SyncFolder(target_.parent_path());
   }
+
+ private:
+  struct Beside {
+    ~Beside() {
+      std::error_code error;
+      if (!Name.empty()) fs::remove(Name, error);
+    }
+    fs::path Name;
+  };
+
+  fs::path target_;
+  Beside beside_;
+  Descriptor newFile_;
+};
+
+FileToSave::FileToSave(const fs::path& file) : place_(std::make_unique<Place>(file)) {
+  // Later there may be no memory for it.
+  waiting_.reserve(LargestPiece);
+}
+
+FileToSave::~FileToSave() = default;
+
+std::streamsize FileToSave::xsputn(const char* bytes, std::streamsize count) {
+  const std::string_view piece(bytes, static_cast<std::size_t>(count));
+  if (waiting_.size() + piece.size() > LargestPiece) sync();
+  if (piece.size() <= LargestPiece) {
+    waiting_ += piece;
+  } else {
+    hasFailed_ = !SkipOnFailure([&] { place_->Write(piece); }) || hasFailed_;
+  }
+  return hasFailed_ ? 0 : count;
+}
+
+FileToSave::int_type FileToSave::overflow(int_type byte) {
+  const char character = traits_type::to_char_type(byte);
+  return xsputn(&character, 1) == 1 ? traits_type::not_eof(byte) : traits_type::eof();
+}
+
+int FileToSave::sync() {
+  hasFailed_ = !SkipOnFailure([&] { place_->Write(waiting_); }) || hasFailed_;
+  waiting_.clear();
+  return hasFailed_ ? -1 : 0;
+}
+
+void FileToSave::Save() {
+  Require(sync() == 0);
+  place_->Take();
+}
+
+void WriteBeside(const fs::path& file, std::string_view bytes) {
+  FileToSave saved(file);
+  saved.sputn(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  saved.Save();
 }
 
 void RemoveLeftovers(const fs::path& folder) {
   constexpr std::chrono::minutes longestSave(10);
   std::error_code error;
-  for (fs::directory_iterator walk(folder, error), end; !error && walk != end; walk.increment(error)) {
+  for (fs::directory_iterator walk(folder.empty() ? "." : folder, error), end; !error && walk != end;
+       walk.increment(error)) {
     std::error_code unknown;
     if (!IsTemporaryName(walk->path().filename().string()) || !walk->is_regular_file(unknown)) continue;
     const fs::file_time_type written = walk->last_write_time(unknown);

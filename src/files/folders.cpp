@@ -97,18 +97,29 @@ void RequireName(std::string_view systemPath, FailureKind kind) {
   if (systemPath.empty() || systemPath.find('\0') != std::string_view::npos) Fail(kind);
 }
 
-/// Whether writing this file might keep a program in the same folder from starting again: its own files, and those that
-/// the toolkit looks for beside a program.
+bool HasProgram(const fs::path& folder) {
+  std::error_code error;
+  return fs::is_regular_file(folder / "zerimo", error) || fs::is_regular_file(folder / "zerimo.exe", error);
+}
+
+bool HasProgramAbove(fs::path folder) {
+  while (!HasProgram(folder)) {
+    if (folder == folder.parent_path()) return false;
+    folder = folder.parent_path();
+  }
+  return true;
+}
+
+/// Whether writing this file might keep a program from starting again: its own files, those that the toolkit looks for
+/// beside a program, and the libraries in folders below it.
 bool IsOfProgram(const fs::path& file) {
   static constexpr std::string_view names[] = {"ZERIMO",  "ZERIMO-BATCH", "ZERIMO.EXE", "ZERIMO-BATCH.EXE",
                                                "ZMHELP",  "QT.CONF",      "QT6.CONF",   "QTLOGGING.INI",
                                                "PLUGINS", "PLATFORMS",    "STYLES",     "IMAGEFORMATS"};
   const std::string name = UpperCase(SystemName(file.filename()));
-  const bool isLibrary = name.ends_with(".DLL") || Contains(name, ".SO.") || name.ends_with(".SO");
-  if (!isLibrary && std::ranges::find(names, name) == std::end(names)) return false;
-  std::error_code error;
-  const fs::path folder = file.parent_path();
-  return fs::is_regular_file(folder / "zerimo", error) || fs::is_regular_file(folder / "zerimo.exe", error);
+  if (name.ends_with(".DLL") || name.ends_with(".SO") || Contains(name, ".SO."))
+    return HasProgramAbove(file.parent_path());
+  return std::ranges::find(names, name) != std::end(names) && HasProgram(file.parent_path());
 }
 
 }  // namespace

@@ -1,4 +1,7 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <chrono>
 
 #include "support/batch_program.h"
 
@@ -125,18 +128,42 @@ TEST_F(BatchProgramTest, RefusesPlacesThatCanNotBeWritten) {
   EXPECT_EQ(run.Errors, "zerimo-batch: no/folder/p.png: the picture can not be written\n");
 }
 
-TEST_F(BatchProgramTest, FullDiskIsReported) {
-  const ProgramRun run = program.Run("--transcript /dev/full", "PD\n");
-  EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");
+TEST_F(BatchProgramTest, ATranscriptTakesThePlaceOfAFileAlone) {
+  for (const char* device : {"/dev/null", "/dev/full"}) {
+    ExpectRefused(program.Run(std::string("--transcript ") + device, "PD\n"),
+                  std::string(device) + ": the transcript can not be written");
+  }
+  ASSERT_EQ(mkfifo((program.Folder() / "pipe").c_str(), 0600), 0);
+  ExpectRefused(program.Run("--transcript pipe", "PD\n"), "pipe: the transcript can not be written");
 }
 
-TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReported) {
+TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReportedAndTheFormerOneStays) {
   program.Write("limited.sh", "#!/bin/sh\nulimit -f 1\nexec '" ZERIMO_BATCH "' \"$@\"\n");
   std::filesystem::permissions(program.Folder() / "limited.sh", std::filesystem::perms::owner_all);
-  const ProgramRun run = BatchProgram(program.Folder() / "limited.sh").Run("--picture a.png", "CS\n");
+  const BatchProgram limited(program.Folder() / "limited.sh");
+  limited.Write("a.png", "former picture");
+  limited.Write("t.jsonl", "former transcript");
+  const ProgramRun drawn = limited.Run("--picture a.png", "CS\n");
+  EXPECT_EQ(drawn.Status, 1);
+  EXPECT_EQ(drawn.Errors, "zerimo-batch: a.png: the picture can not be written\n");
+  EXPECT_EQ(limited.Read("a.png"), "former picture");
+  const ProgramRun run = limited.Run("--transcript t.jsonl", "REPEAT 90 [WAIT 1]\n");
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Errors, "zerimo-batch: a.png: the picture can not be written\n");
+  EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");
+  EXPECT_EQ(limited.Read("t.jsonl"), "former transcript");
+}
+
+TEST_F(BatchProgramTest, WhatAKilledRunHasLeftIsRemovedByTheNextOne) {
+  const std::string leftover = ".zerimo-0123456789abcdef.tmp";
+  std::filesystem::create_directory(program.Folder() / "there");
+  for (const std::string folder : {"", "there/"}) {
+    program.Write(folder + leftover, "half a picture");
+    std::filesystem::last_write_time(program.Folder() / (folder + leftover),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  }
+  program.Run("--picture a.png --transcript there/t.jsonl", "CS\n");
+  EXPECT_FALSE(std::filesystem::exists(program.Folder() / leftover));
+  EXPECT_FALSE(std::filesystem::exists(program.Folder() / "there" / leftover));
 }
 
 TEST_F(BatchProgramTest, WritesAPictureByItsEnding) {

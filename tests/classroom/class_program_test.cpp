@@ -291,6 +291,24 @@ TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
   EXPECT_EQ(std::ranges::count(Program.Read("all.csv"), '\n'), 4);
 }
 
+TEST_F(ClassProgramTest, ATableThatCanNotBeWrittenLeavesTheFormerOne) {
+  Write("A.ZRM", "TO A|CS|END|");
+  EXPECT_EQ(Program.Run("--class class --jsonl 1.jsonl").Status, 0);
+  Program.Write("limited.sh", "#!/bin/sh\nulimit -f 0\nexec '" ZERIMO_BATCH "' \"$@\"\n");
+  fs::permissions(Program.Folder() / "limited.sh", fs::perms::owner_all);
+  Program.Write("all.csv", "former");
+  const std::string command =
+      "cd '" + Program.Folder().string() + "' && ./limited.sh --merge 1.jsonl --out all.html --csv all.csv";
+  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_EQ(Program.Read("all.csv"), "former");
+}
+
+TEST_F(ClassProgramTest, RecordsGoToAFileAlone) {
+  Write("A.ZRM", "TO A|CS|END|");
+  ASSERT_EQ(mkfifo((Program.Folder() / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(Program.Run("--class class --jsonl pipe").Status, 1);
+}
+
 TEST_F(ClassProgramTest, ResumingRunsOnlyWhatIsMissing) {
   Write("A.ZRM", "TO A|CS|FD 9|END|");
   Write("B.ZRM", "TO B|CS|FD 9|END|");

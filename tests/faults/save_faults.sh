@@ -11,6 +11,8 @@ folder=$work/folder
 calls=openat,write,fchown,fchmod,fsync,close,rename
 tried=0
 echo former >"$work/former"
+mkdir "$work/temporary"
+export TMPDIR=$work/temporary
 
 fail() {
   echo "FAILED: $name, $call number $number, $fault: $1" >&2
@@ -76,6 +78,11 @@ done
 : >"$work/session"
 arguments=(--screen 800x800 --picture picture.bmp)
 try_save "a picture of 2 megabytes" picture.bmp
+for length in 1 5000 2000000; do
+  printf '@text Text2 %s\n@dump control Text2\n' "$(text "$length")" >"$work/session"
+  arguments=(--transcript transcript)
+  try_save "a transcript of $length characters" transcript
+done
 
 # A page tells the time when it was made, so that no two are alike.
 is_whole() { [ "$(head -c 9 "$folder/$target") $(tail -n 1 "$folder/$target")" = "<!DOCTYPE </html>" ]; }

@@ -4,10 +4,13 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <optional>
+#include <ostream>
 
 #include "base/failure.h"
 #include "files/temp_folder.h"
 #include "support/failure_of.h"
+#include "support/full_disk.h"
 
 namespace zerimo {
 namespace {
@@ -39,6 +42,41 @@ TEST_F(DiskFilesTest, AFailureLeavesTheFormerFileAndNothingBesideIt) {
   Temp.Write("place/inside", "text");
   EXPECT_EQ(FailureOf([&] { WriteBeside(Temp.Path / "place", "new"); }), FailureKind::FileAccess);
   EXPECT_EQ(Temp.Read("place/inside"), "text");
+  EXPECT_EQ(Temp.Count(), 1);
+}
+
+TEST_F(DiskFilesTest, WhatIsWrittenPieceByPieceTakesItsPlaceWhenItIsSaved) {
+  Temp.Write("file", "former");
+  const std::string longPiece(200'000, 'A');
+  FileToSave file(Temp.Path / "file");
+  std::ostream stream(&file);
+  stream << "one" << '\n' << longPiece << std::flush << "two";
+  EXPECT_EQ(Temp.Read("file"), "former");
+  EXPECT_EQ(Temp.Count(), 2);
+  file.Save();
+  EXPECT_EQ(Temp.Read("file"), "one\n" + longPiece + "two");
+  EXPECT_EQ(Temp.Count(), 1);
+}
+
+TEST_F(DiskFilesTest, WhatIsNotSavedLeavesNothing) {
+  Temp.Write("file", "former");
+  std::optional<FileToSave> file(Temp.Path / "file");
+  std::ostream(&*file) << "new" << std::flush;
+  file.reset();
+  EXPECT_EQ(Temp.Read("file"), "former");
+  EXPECT_EQ(Temp.Count(), 1);
+}
+
+TEST_F(DiskFilesTest, AfterAFailureNothingIsSaved) {
+  Temp.Write("file", "former");
+  const auto failure = FailureOnFullDisk(100'000, [this] {
+    FileToSave file(Temp.Path / "file");
+    std::ostream(&file) << std::string(200'000, 'A') << std::flush;
+    std::ostream(&file) << "and more";
+    file.Save();
+  });
+  EXPECT_EQ(failure, FailureKind::FileAccess);
+  EXPECT_EQ(Temp.Read("file"), "former");
   EXPECT_EQ(Temp.Count(), 1);
 }
 

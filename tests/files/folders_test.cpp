@@ -230,6 +230,17 @@ TEST_F(FoldersTest, NothingThatAProgramInTheFolderNeedsIsWritten) {
   EXPECT_TRUE(Temp.Has("QT.ZRM") && Temp.Has("elsewhere/qt.conf"));
 }
 
+TEST_F(FoldersTest, NoLibraryOfAProgramInAFolderAboveIsWritten) {
+  Temp.Write("program/zerimo.exe", "program");
+  Temp.Write("program/plugins/platforms/qwindows.dll", "library");
+  Temp.MakeFolder("elsewhere");
+  for (const char* name : {"program\\plugins\\platforms\\qwindows.dll", "program\\plugins\\libqxcb.SO"})
+    EXPECT_EQ(FailureOf([&] { folders.WriteFile(name, "new"); }), FailureKind::FileAccess) << name;
+  EXPECT_EQ(Temp.Read("program/plugins/platforms/qwindows.dll"), "library");
+  folders.WriteFile("elsewhere\\qwindows.dll", "text");
+  EXPECT_TRUE(Temp.Has("elsewhere/qwindows.dll"));
+}
+
 TEST_F(FoldersTest, ListsFilesSortedWithoutFoldersAndHiddenOnes) {
   for (const char* name : {"pages/RT", "pages/fd", "pages/BK", "pages/.hidden", "pages/sub/X"}) Temp.Write(name, "");
   EXPECT_EQ(folders.FilesIn("PAGES\\"), (Texts{"BK", "fd", "RT"}));
