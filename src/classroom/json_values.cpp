@@ -1,5 +1,6 @@
 #include <string>
 
+#include "classroom/readable.h"
 #include "classroom/record.h"
 
 namespace zerimo::classroom {
@@ -30,7 +31,7 @@ std::optional<Json> ParsedObject(const std::string& text) {
 
 QString TextAt(const Json& json, const char* key) {
   const Json* const value = Find(json, key);
-  return value != nullptr && value->is_string() ? QString::fromStdString(value->get<std::string>()) : QString();
+  return value != nullptr && value->is_string() ? WholeText(value->get<std::string>()) : QString();
 }
 
 double NumberAt(const Json& json, const char* key) {
@@ -52,7 +53,7 @@ const Json& ListAt(const Json& json, const char* key) {
 QStringList TextsAt(const Json& json, const char* key) {
   QStringList texts;
   for (const Json& each : ListAt(json, key)) {
-    if (each.is_string()) texts.append(QString::fromStdString(each.get<std::string>()));
+    if (each.is_string()) texts.append(WholeText(each.get<std::string>()));
   }
   return texts;
 }

@@ -37,6 +37,8 @@ std::string HexOf(char byte) {
 
 }  // namespace
 
+QString WholeText(const std::string& utf8) { return QString::fromStdString('.' + utf8).mid(1); }
+
 QString NameOf(const std::filesystem::path& path) {
   const std::u8string name = path.u8string();
   const std::string_view bytes(reinterpret_cast<const char*>(name.data()), name.size());
@@ -47,7 +49,7 @@ QString NameOf(const std::filesystem::path& path) {
     AppendUtf8(text, character);
     if (character == ReplacementCharacter && at == begin + 1) text += HexOf(bytes[begin]);
   }
-  return QString::fromStdString(text);
+  return WholeText(text);
 }
 
 QString Readable(const QString& text) {

@@ -2,8 +2,12 @@
 
 #include <QString>
 #include <filesystem>
+#include <string>
 
 namespace zerimo::classroom {
+
+/// All of a text in UTF-8: the toolkit alone would drop a byte order mark at its beginning.
+QString WholeText(const std::string& utf8);
 
 /// The name of a file as text. A byte that is not UTF-8 becomes U+FFFD and its hexadecimal number, so that no two names
 /// are alike.

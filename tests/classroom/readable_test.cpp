@@ -23,6 +23,12 @@ TEST(Readable, BytesOfANameThatAreNoTextStandAsReplacements) {
   EXPECT_NE(ReadableName("/folder/a\xFFz.ZRM"), ReadableName("/folder/a\xFEz.ZRM"));
 }
 
+TEST(Readable, AByteOrderMarkIsPartOfAName) {
+  EXPECT_EQ(ReadableName("/folder/\xEF\xBB\xBFz.ZRM"), QStringLiteral("[U+FEFF]z.ZRM"));
+  EXPECT_EQ(WholeText("\xEF\xBB\xBFz"), QStringLiteral("\ufeffz"));
+  EXPECT_EQ(WholeText(""), QString());
+}
+
 TEST(Readable, LinesHaveOneKindOfEnd) {
   EXPECT_EQ(ReadableLines("a\r\nb\rc\nd\te"), "a\nb\nc\nd\te");
   EXPECT_EQ(ReadableLines(QStringLiteral("a\x1b\u0085\u009bz")), QStringLiteral("a\ufffd\ufffd\ufffdz"));
