@@ -1,5 +1,6 @@
 #include "classroom/runs_folder.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
@@ -16,13 +17,21 @@ std::unique_ptr<QLockFile> LockIn(const QString& folder) {
   return lock;
 }
 
+/// Whether no runner is at work in a folder where one has been.
+bool IsAbandoned(const QString& folder) {
+  constexpr qint64 longestStart = 600;
+  const QFileInfo lock(folder + QStringLiteral("/runner.lock"));
+  // A runner that was killed while it made its lock.
+  if (lock.exists() && lock.size() == 0) return lock.lastModified().secsTo(QDateTime::currentDateTime()) > longestStart;
+  return lock.exists() && LockIn(folder)->tryLock(0);
+}
+
 /// Only what belongs to the same user, and only where a runner has been.
 void RemoveLeftovers(const QFileInfo& own) {
   for (const QFileInfo& other : own.dir().entryInfoList({QLatin1String(Beginning) + u'*'}, QDir::Dirs)) {
     const QString path = other.filePath();
-    const bool isOurs = !other.isSymLink() && other.ownerId() == own.ownerId() && path != own.filePath() &&
-                        QFileInfo::exists(path + QStringLiteral("/runner.lock"));
-    if (isOurs && LockIn(path)->tryLock(0)) QDir(path).removeRecursively();
+    const bool isOurs = !other.isSymLink() && other.ownerId() == own.ownerId() && path != own.filePath();
+    if (isOurs && IsAbandoned(path)) QDir(path).removeRecursively();
   }
 }
 

@@ -158,6 +158,11 @@ TEST_F(ClassSignalsTest, WhatAKilledRunnerLeavesIsRemovedByTheNext) {
   Wait();
   EXPECT_FALSE(fs::is_empty(TemporaryFolder()));
   fs::create_directory(TemporaryFolder() / "zerimo-class-other");
+  // As a runner leaves it that is killed while it makes its lock.
+  const fs::path early = TemporaryFolder() / "zerimo-class-early" / "runner.lock";
+  fs::create_directory(early.parent_path());
+  std::ofstream(early).close();
+  fs::last_write_time(early, fs::file_time_type::clock::now() - std::chrono::hours(1));
   Write("A.ZRM", "TO A|END|");
   EXPECT_EQ(Run().Status, 0);
   // Where no runner has been, nothing is removed.
