@@ -151,6 +151,8 @@ void Variables::CreateGlobalVariable() {
       name = Mid(line, 6, lastBlank - 6);
       value = From(line, lastBlank + 1);
     }
+    // With no MAKE so far there is nothing to evaluate; with no header at all, that is the whole store.
+    if (value.empty()) continue;
     const double result = ExpressionEvaluator(Str(context_.arithmetic.ArithmeticEvaluator(value)));
     // The slot is the line's own number, whatever it held.
     if (kind == StmtMake) SetSlot(number, name + "=" + StrTrimmed(result));
