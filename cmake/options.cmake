@@ -11,6 +11,9 @@ if(ZERIMO_CCACHE)
   endif()
 endif()
 
+set(ZERIMO_FONT /usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf CACHE FILEPATH
+    "The font of printed text where there is no toolkit, delivered beside the program")
+
 add_library(zerimo_warnings INTERFACE)
 if(MSVC)
   # Sources are UTF-8, and min and max are not macros.

@@ -17,8 +17,6 @@ file(CREATE_LINK /usr/include/CLI ${CMAKE_BINARY_DIR}/include/CLI SYMBOLIC)
 add_library(CLI11::CLI11 INTERFACE IMPORTED)
 target_include_directories(CLI11::CLI11 SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/include)
 
-set(ZERIMO_FONT /usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf CACHE FILEPATH
-    "The font of printed text, delivered beside the program")
 if(NOT EXISTS ${ZERIMO_FONT})
   message(FATAL_ERROR "The font of printed text is missing: ${ZERIMO_FONT} (package fonts-liberation)")
 endif()

@@ -39,6 +39,8 @@ std::string AskPage(const std::string& question) { return Taken(PortAsk(question
 
 void HoldFor(double milliseconds) { PortHold(milliseconds); }
 
+double PageClock() { return emscripten_get_now(); }
+
 bool TakeStop() { return PortTakeStop() != 0; }
 
 std::string PageTimeOfDay() { return Taken(PortTimeOfDay()); }

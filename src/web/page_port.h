@@ -21,6 +21,9 @@ std::string AskPage(const std::string& question);
 /// Holds the system for a time, or until the user stops the program.
 void HoldFor(double milliseconds);
 
+/// The browser's clock, in milliseconds.
+double PageClock();
+
 /// Whether the user wants the program to stop; asked again, it says no.
 bool TakeStop();
 

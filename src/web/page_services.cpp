@@ -1,7 +1,5 @@
 #include "web/page_services.h"
 
-#include <emscripten.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -80,15 +78,15 @@ void PageServices::Beep() { TellPage("[" + JsonLine("beep").Finished() + "]"); }
 
 std::string PageServices::TimeOfDay() { return batch::FromUtf8(PageTimeOfDay()); }
 
-void PageWatch::Begin() { nextFrame_ = emscripten_get_now() + FrameMilliseconds; }
+void PageWatch::Begin() { nextFrame_ = PageClock() + FrameMilliseconds; }
 
 void PageWatch::Look() {
   if (++looks_ % LooksAtOnce != 0) return;
-  const double start = emscripten_get_now();
+  const double start = PageClock();
   if (start < nextFrame_) return;
   LeaveIfStopped();
   show_();
-  const double end = emscripten_get_now();
+  const double end = PageClock();
   nextFrame_ = std::max(start + FrameMilliseconds, end + (ShareOfShowing - 1) * (end - start));
 }
 

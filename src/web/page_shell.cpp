@@ -2,22 +2,22 @@
 
 #include <exception>
 #include <memory>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/stop_run.h"
 #include "batch/json_line.h"
-#include "files/start_folder.h"
 #include "web/font_text.h"
 #include "web/page_port.h"
 #include "web/stb_picture_files.h"
 
 namespace zerimo::web {
 
-PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile)
+PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile, Folders folders)
     : canvas_(std::make_unique<FontText>(fontFile), std::make_unique<StbPictureFiles>()),
       services_([this] { screen_.Show(); }),
       watch_([this] { screen_.Show(); }),
-      form1(screen, Folders(AppFolderName(std::filesystem::current_path())), services_, watch_, canvas_),
+      form1(screen, std::move(folders), services_, watch_, canvas_),
       screen_(form1, canvas_) {
   screen_.Describe();
 }

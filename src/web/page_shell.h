@@ -13,8 +13,8 @@ namespace zerimo::web {
 /// The system as a page shows it. `programs/zerimo_page.cpp` is what the page calls.
 class PageShell {
  public:
-  /// Works in the current folder, where `font.ttf` is the font of printed text.
-  PageShell(ScreenSize screen, const std::filesystem::path& fontFile);
+  /// Fails (file access) if the font of printed text can't be read.
+  PageShell(ScreenSize screen, const std::filesystem::path& fontFile, Folders folders);
 
   /// Runs a handler of the system and shows what it has left. Does nothing once the system has ended.
   void Deliver(const std::function<void(Form1& form1)>& event);
