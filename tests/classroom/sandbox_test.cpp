@@ -1,10 +1,15 @@
 #include "classroom/sandbox.h"
 
 #include <fcntl.h>
+#include <grp.h>
 #include <gtest/gtest.h>
+#include <sys/ipc.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/shm.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -65,6 +70,8 @@ TEST_F(SandboxTest, NoOtherFileIsReachedWhateverTheCodeDoes) {
   EXPECT_TRUE(Inside([&] { return unlink(outside.c_str()) < 0; }));
   EXPECT_TRUE(Inside([&] { return chmod(outside.c_str(), 0777) < 0; }));
   EXPECT_TRUE(Inside([&] { return truncate(outside.c_str(), 0) < 0; }));
+  constexpr long fileModeAt = 452;
+  EXPECT_TRUE(Inside([&] { return syscall(fileModeAt, AT_FDCWD, outside.c_str(), 0777, 0) < 0; }));
   EXPECT_EQ(Temp.Read("OUTSIDE"), "outside");
   EXPECT_EQ(Temp.Count("read"), 1);
 }
@@ -80,6 +87,20 @@ TEST_F(SandboxTest, NoNetworkAndNoOtherProcess) {
   EXPECT_TRUE(Inside([] { return fork() < 0; }));
   EXPECT_TRUE(Inside([] { return execl("/bin/true", "true", nullptr) < 0; }));
   EXPECT_TRUE(Inside([] { return kill(getppid(), 0) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(Inside([] { return sigqueue(getppid(), 0, {}) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(Inside([] { return shmget(IPC_PRIVATE, 1, 0600) < 0 && errno == EPERM; }));
+}
+
+TEST_F(SandboxTest, NoDeviceIsMadeEvenByTheSuperuser) {
+  const std::string device = (Temp.Path / "own/DEVICE").string();
+  EXPECT_TRUE(Inside([&] { return mknod(device.c_str(), S_IFCHR | 0600, makedev(1, 3)) < 0; }));
+  EXPECT_TRUE(Inside([&] { return mkfifo(device.c_str(), 0600) < 0; }));
+  EXPECT_EQ(Temp.Count("own"), 0);
+}
+
+TEST_F(SandboxTest, TheSuperuserKeepsOnlyTheRightToFiles) {
+  EXPECT_TRUE(Inside([] { return prctl(PR_CAPBSET_DROP, 0) < 0; }));
+  EXPECT_TRUE(Inside([] { return setgroups(0, nullptr) < 0; }));
 }
 
 TEST_F(SandboxTest, AThreadAndALimitOfItsOwnArePossible) {
