@@ -2,10 +2,18 @@
 
 #include <QString>
 #include <array>
+#include <span>
 
 #include "classroom/findings/mistakes.h"
+#include "classroom/pupil.h"
 
 namespace zerimo::classroom {
+
+/// A sentence of a run, with at most one %1, and its translation.
+struct Sentence {
+  const char* English;
+  const char* Own;
+};
 
 /// The words of a report in one language. %1, %2 ... stand for what is filled in. A language is a source that defines
 /// one of these, and a row in `FindLanguage`.
@@ -84,15 +92,30 @@ struct Language {
   const char* TurnedLeft;
   const char* Mirrored;
   const char* Scaled;
-  const char* Shifted;
+  const char* ShiftedRight;
+  const char* ShiftedLeft;
+  const char* ShiftedUp;
+  const char* ShiftedDown;
+  const char* DrawnOtherwise;
 
   // Programs that are alike.
   const char* AlikeHead;
   const char* AlikePair;
 
+  // Short names, by which the overview can be filtered. Where there is none, it is that of the summary.
+  std::array<const char*, ResultCount> Results;
+  std::array<const char*, static_cast<std::size_t>(Mistake::Count)> MistakeNames;
+
   std::array<const char*, static_cast<std::size_t>(Mistake::Count)> Mistakes;
 
+  /// What the runs themselves say, and what that is in this language.
+  std::span<const Sentence> Sentences;
+
   QString Of(const Finding& finding) const;
+  /// A note or message of a run; as it is if the language has no words for it.
+  QString Of(const QString& sentence) const;
+  QString NameOf(Mistake mistake) const;
+  QString NameOf(Result result) const;
 };
 
 extern const Language English;

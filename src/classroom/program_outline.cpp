@@ -57,7 +57,7 @@ FirstCall ProgramOutline::FirstCallOf(std::string_view name) const {
   std::string note;
   for (const Procedure& each : procedures_) {
     if (each.Name == wanted && !each.NeedsInputs) return {each.Name.toStdString(), {}};
-    if (each.Name == wanted)
+    if (each.Name == wanted && !IsCalledByAnother(each))
       note = each.Name.toStdString() + " needs inputs and was not called: give them in a session.";
     if (each.NeedsInputs) continue;
     // If each is called by another, the last one starts.

@@ -43,6 +43,7 @@ enum class Result {
   /// The process ended without a word.
   Crashed,
 };
+inline constexpr std::size_t ResultCount = 6;
 
 /// The word of a result: "ended", "stopped", "failed", "refused", "not run", "crashed".
 QString WordOf(Result result);

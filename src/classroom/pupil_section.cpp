@@ -60,7 +60,7 @@ class SectionWriter {
     if (run_.Went.Findings.empty() && run_.Went.Notes.isEmpty()) return;
     html_ += Heading(language_.WentWrong) + QStringLiteral("<ul class=\"findings\">\n");
     for (const Finding& finding : run_.Went.Findings) WriteFinding(finding);
-    for (const QString& note : run_.Went.Notes) html_ += Element("li", "", EscapedReadable(note)) + u'\n';
+    for (const QString& note : run_.Went.Notes) html_ += Element("li", "", EscapedReadable(language_.Of(note))) + u'\n';
     html_ += QStringLiteral("</ul>\n");
   }
 

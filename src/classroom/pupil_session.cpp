@@ -175,7 +175,9 @@ void PupilSession::RunMain() {
   outcome_.Where = went.Where;
   outcome_.Notes += went.Notes;
   AddSource(run);
-  FindInRun(run, outcome_.Where.ProgramLine, outcome_.Findings);
+  // With a session, or with another line after that of LOAD.
+  const bool hasBegun = play.Typed.size() != 1;
+  FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
   WritePicture(run, run_file::Picture);
 }
 

@@ -94,7 +94,8 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
     Json one = {{"title", ValueOf(goal.Title)},
                 {"way", WayWords[static_cast<std::size_t>(goal.Way)]},
                 {"met", goal.Met},
-                {"percent", std::round(goal.Percent * 10) / 10},
+                // 100 per cent are only those that have everything.
+                {"percent", std::floor(goal.Percent * 10) / 10},
                 {"points", goal.Points}};
     if (goal.Placed)
       one["placed"] = {{"degrees", goal.Placed->Degrees},

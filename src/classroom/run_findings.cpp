@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "classroom/findings/known_words.h"
+
 namespace zerimo::classroom {
 
 namespace {
@@ -16,39 +18,64 @@ constexpr double TitleIsClearTo = 0.74;
 constexpr const char* FenceWords = "outside of the Fence";
 constexpr const char* MissingWords = "Required Paramiter Missing After ";
 
+/// Adds a finding about the run as a whole, once.
+void Add(std::vector<Finding>& findings, Mistake what, const QStringList& details = {}) {
+  const Finding finding{what, 0, details};
+  if (std::ranges::find(findings, finding) == findings.end()) findings.push_back(finding);
+}
+
+bool Has(const std::vector<Finding>& findings, Mistake what, const QString& word) {
+  return std::ranges::any_of(
+      findings, [&](const Finding& finding) { return finding.What == what && finding.Details.value(0) == word; });
+}
+
 void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findings) {
   for (const ShownBox& box : boxes) {
-    if (box.Text.contains(FenceWords)) findings.push_back({Mistake::FenceHit, 0, {}});
+    if (box.Text.contains(FenceWords)) Add(findings, Mistake::FenceHit);
     const qsizetype place = box.Text.indexOf(MissingWords);
-    if (place >= 0)
-      findings.push_back(
-          {Mistake::InputAsked, 0, {box.Text.mid(place + QLatin1String(MissingWords).size()).section(u' ', 0, 0)}});
+    if (place < 0) continue;
+    const QString word = box.Text.mid(place + QLatin1String(MissingWords).size()).section(u' ', 0, 0);
+    if (!Has(findings, Mistake::MissingInputs, word)) Add(findings, Mistake::InputAsked, {word});
+  }
+}
+
+void FindInPicture(SessionRun& run, bool hasBegun, std::vector<Finding>& findings) {
+  const Said told = run.Told();
+  const DrawingRecorder& recorder = run.Recorder();
+  const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
+  const bool showsSlides = !run.form1.files.pictures.SlideBaseName.empty();
+  if (hasBegun && !recorder.HasDrawn() && isSilent && !showsSlides) {
+    const bool isUp = run.form1.turtle.PenState == PenPosition::Up;
+    Add(findings, isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn);
+  }
+  const bool isUnderTheTitle = recorder.LeavesBand(run.form1.Picture1, TitleIsClearFrom, TitleIsClearTo);
+  if (isUnderTheTitle && run.form1.controls.Image1.Visible()) Add(findings, Mistake::UnderTheTitle);
+  if (recorder.PartOutside(run.form1.Picture1) > NearlyAll) Add(findings, Mistake::OutsideThePicture);
+  if (recorder.WasWiped()) Add(findings, Mistake::PictureWiped);
+}
+
+/// A program may have loaded procedures that are there already.
+void FindInStore(const Store& store, std::vector<Finding>& findings) {
+  QStringList names;
+  for (int number = 1; number <= Store::LineCount && !store.Line(number).empty(); ++number) {
+    const QString line = FromLatin1(store.Line(number));
+    if (!IsOneOf<StmtTo>(KnownWord(line.section(u' ', 0, 0)))) continue;
+    const QString name = line.section(u' ', 1, 1);
+    if (names.contains(name) && !Has(findings, Mistake::DuplicateProcedure, name))
+      Add(findings, Mistake::LoadedTwice, {name});
+    names.append(name);
   }
 }
 
 }  // namespace
 
-void FindInRun(SessionRun& run, int programLine, std::vector<Finding>& findings) {
-  const Said told = run.Told();
-  const DrawingRecorder& recorder = run.Recorder();
-  const bool isSilent = told.Printed.isEmpty() && told.Boxes.empty();
-  const bool showsSlides = !run.form1.files.pictures.SlideBaseName.empty();
-  if (!recorder.HasDrawn() && isSilent && !showsSlides) {
-    const bool isUp = run.form1.turtle.PenState == PenPosition::Up;
-    findings.push_back({isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn, 0, {}});
-  }
-  const bool isUnderTheTitle = recorder.LeavesBand(run.form1.Picture1, TitleIsClearFrom, TitleIsClearTo);
-  if (isUnderTheTitle && run.form1.controls.Image1.Visible()) findings.push_back({Mistake::UnderTheTitle, 0, {}});
-  if (recorder.PartOutside(run.form1.Picture1) > NearlyAll) findings.push_back({Mistake::OutsideThePicture, 0, {}});
-  if (recorder.WasWiped()) findings.push_back({Mistake::PictureWiped, 0, {}});
+void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings) {
+  FindInPicture(run, hasBegun, findings);
+  FindInStore(run.form1.interpreter.store, findings);
   const RunOutcome& went = run.Went();
   if (went.How == Result::Stopped && went.By != "memory")
     findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement}});
-  std::vector<Finding> inBoxes;
-  FindInBoxes(told.Boxes, inBoxes);
-  for (const Finding& finding : inBoxes) {
-    if (std::ranges::find(findings, finding) == findings.end()) findings.push_back(finding);
-  }
+  FindInBoxes(run.Told().Boxes, findings);
 }
 
 }  // namespace zerimo::classroom

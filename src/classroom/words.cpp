@@ -38,7 +38,7 @@ QString Filled(const char* words, const QStringList& values) {
 }
 
 QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Language& language) {
-  const QString message = Readable(outcome.Message);
+  const QString message = Readable(language.Of(outcome.Message));
   switch (outcome.How) {
     case Result::Ended:
       return outcome.By == "finished" ? QString::fromUtf8(language.Ended)
@@ -74,9 +74,12 @@ QString WordsOf(const Placement& placement, const Language& language) {
   if (degrees != 0)
     parts.append(Filled(degrees > 0 ? language.TurnedRight : language.TurnedLeft, {Rounded(std::abs(degrees))}));
   if (std::round(placement.Scale * 100) != 100) parts.append(Filled(language.Scaled, {Rounded(placement.Scale * 100)}));
-  const QString across = Rounded(placement.Shift.X / UnitsPerStep);
-  const QString up = Rounded(-placement.Shift.Y / UnitsPerStep);
-  if (parts.isEmpty() || across != "0" || up != "0") parts.append(Filled(language.Shifted, {across, up}));
+  const double right = std::round(placement.Shift.X / UnitsPerStep);
+  const double down = std::round(placement.Shift.Y / UnitsPerStep);
+  if (right != 0)
+    parts.append(Filled(right > 0 ? language.ShiftedRight : language.ShiftedLeft, {Rounded(std::abs(right))}));
+  if (down != 0) parts.append(Filled(down > 0 ? language.ShiftedDown : language.ShiftedUp, {Rounded(std::abs(down))}));
+  if (parts.isEmpty()) parts.append(QString::fromUtf8(language.DrawnOtherwise));
   return parts.join(QStringLiteral(", "));
 }
 

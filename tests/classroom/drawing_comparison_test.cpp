@@ -157,6 +157,22 @@ TEST(Placement, TellsAScaleAndAShift) {
   EXPECT_NEAR(placed->Shift.Y, -1000, 1);
 }
 
+TEST(Placement, OfSeveralTheFewestChangesAreTold) {
+  Drawing star;
+  Point at;
+  for (int side = 0; side < 5; ++side) {
+    const double angle = side * 144 * std::numbers::pi / 180;
+    const Point next = {at.X + 1000 * std::sin(angle), at.Y - 1000 * std::cos(angle)};
+    star.Lines.push_back({at, next, 0});
+    at = next;
+  }
+  // Turned by 18 degrees and shifted, it would be the same.
+  const auto placed = Compare(star, Changed(star, 90, false, 1, {}), {}).Placed;
+  ASSERT_TRUE(placed);
+  EXPECT_NEAR(placed->Degrees, 90, 0.1);
+  EXPECT_NEAR(std::hypot(placed->Shift.X, placed->Shift.Y), 0, 1);
+}
+
 TEST(Placement, OfAnotherDrawingThereIsNone) {
   EXPECT_FALSE(Compare(Square, Ell, {}).Placed);
   EXPECT_FALSE(Compare(Square, {}, {}).Placed);

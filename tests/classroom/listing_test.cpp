@@ -38,9 +38,12 @@ TEST(Listing, LinesEndInManyWays) {
 }
 
 TEST(Listing, ABodyMayLackItsEnd) {
-  EXPECT_EQ(BodyOf("REPEAT 2 [A [B] C] D"), "A [B] C");
-  EXPECT_EQ(BodyOf("REPEAT 2 [FD 10"), "FD 10");
-  EXPECT_EQ(BodyOf("REPEAT 2"), "");
+  EXPECT_EQ(PartsOf("REPEAT 2 [A [B] C] D").Count, "2");
+  EXPECT_EQ(PartsOf("REPEAT 2 [A [B] C] D").Body, "A [B] C");
+  EXPECT_EQ(PartsOf("REPEAT 2 [A [B] C] D").After, "D");
+  EXPECT_EQ(PartsOf("REPEAT 2 [FD 10").Body, "FD 10");
+  EXPECT_EQ(PartsOf("REPEAT [FD 10]").Count, "");
+  EXPECT_EQ(PartsOf("REPEAT 2").Body, "");
 }
 
 }  // namespace

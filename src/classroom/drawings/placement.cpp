@@ -140,6 +140,12 @@ std::vector<Placement> TriesFor(const Drawing& goal, const Drawing& drawing, dou
   return tries;
 }
 
+/// How many of turning, mirroring and shifting a placement does.
+int ChangesOf(const Placement& placement, double tolerance) {
+  const bool isShifted = std::hypot(placement.Shift.X, placement.Shift.Y) > tolerance;
+  return (placement.Degrees != 0 ? 1 : 0) + (placement.Mirrored ? 1 : 0) + (isShifted ? 1 : 0);
+}
+
 }  // namespace
 
 std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing, const ShapeRules& rules) {
@@ -149,15 +155,19 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   const Extent to = ExtentOf(drawing);
   double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
   if (std::abs(scale - 1) < SameSize / 3) scale = 1;
+  const double tolerance = 1.5 * rules.Tolerance;
+  std::optional<Placement> best;
   for (Placement placement : TriesFor(goal, drawing, scale)) {
     const Mover mover(placement, from.Middle, to.Middle);
-    if (!Fits(mover.Moved(goal), drawing, 1.5 * rules.Tolerance)) continue;
+    if (!Fits(mover.Moved(goal), drawing, tolerance)) continue;
     const Point start = goal.Lines.empty() ? from.Middle : goal.Lines.front().From;
     const Point moved = mover.Moved(start);
     placement.Shift = {moved.X - start.X, moved.Y - start.Y};
-    return placement;
+    // A star that is turned about the middle of the picture is also one that is turned less, but shifted.
+    if (!best || ChangesOf(placement, tolerance) < ChangesOf(*best, tolerance)) best = placement;
+    if (ChangesOf(*best, tolerance) <= 1) break;
   }
-  return std::nullopt;
+  return best;
 }
 
 }  // namespace zerimo::classroom

@@ -1,5 +1,5 @@
 #include <QHash>
-#include <QSet>
+#include <algorithm>
 
 #include "classroom/findings/findings.h"
 
@@ -7,8 +7,7 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// From this many levels of IF on, an ELSE belongs to the wrong one.
-constexpr std::size_t DeepLevels = 3;
+bool IsElse(const Statement& statement) { return statement.Is<StmtElse>() && statement.Rest().isEmpty(); }
 
 /// Follows the IFs of one procedure.
 class IfWalk {
@@ -16,8 +15,8 @@ class IfWalk {
   explicit IfWalk(Findings& findings) : findings_(findings) {}
 
   void Take(const Statement& statement) {
-    if (statement.Is<StmtIf>()) open_.push_back({statement.Line, false});
-    if (statement.Is<StmtElse>() && statement.Rest().isEmpty()) TakeElse(statement.Line);
+    if (statement.Is<StmtIf>() && !HasItsEndif(statement)) open_.push_back({statement.Line, false});
+    if (IsElse(statement)) TakeElse(statement.Line);
     if (statement.Is<StmtEndIf>() && !open_.empty()) open_.pop_back();
   }
 
@@ -33,9 +32,14 @@ class IfWalk {
     bool HasElse;
   };
 
+  /// All on one line: it is told that there are several statements on it.
+  static bool HasItsEndif(const Statement& statement) {
+    return std::ranges::any_of(statement.Inputs(),
+                               [](const QString& word) { return IsOneOf<StmtEndIf>(KnownWord(word)); });
+  }
+
   void TakeElse(int line) {
     if (open_.empty()) return findings_.push_back({Mistake::MisplacedElse, line, {}});
-    if (open_.size() >= DeepLevels) findings_.push_back({Mistake::DeepElse, line, {}});
     open_.back().HasElse = true;
   }
 
@@ -51,6 +55,30 @@ void FindIfs(const Listing& listing, Findings& findings) {
     if (!statement.Is<inputs::Repeat>()) walk.Take(statement);
   }
   walk.End();
+}
+
+/// Follows the search that begins at an IF that is not true. The search remembers whether it last met an IF or an
+/// ENDIF, but not how many are open, so that it may take an ELSE of another one: the line of this one, or 0.
+int WrongElseOf(const std::vector<Statement>& statements, std::size_t ifAt) {
+  int depth = 1;
+  bool lastWasIf = false;
+  for (std::size_t i = ifAt + 1; i < statements.size() && depth > 0; ++i) {
+    const Statement& each = statements[i];
+    if (each.Procedure != statements[ifAt].Procedure) return 0;
+    if (IsElse(each) && !lastWasIf) return depth > 1 ? each.Line : 0;
+    if (each.Is<StmtIf>()) ++depth;
+    if (each.Is<StmtEndIf>()) --depth;
+    // A REPEAT becomes a loop that ends with an IF and its ENDIF.
+    if (each.Is<StmtIf, StmtEndIf, inputs::Repeat>()) lastWasIf = each.Is<StmtIf>();
+  }
+  return 0;
+}
+
+void FindWrongElses(const Listing& listing, Findings& findings) {
+  for (std::size_t i = 0; i < listing.Statements.size(); ++i) {
+    const int line = listing.Statements[i].Is<StmtIf>() ? WrongElseOf(listing.Statements, i) : 0;
+    if (line > 0) findings.push_back({Mistake::DeepElse, line, {}});
+  }
 }
 
 void FindLabels(const Listing& listing, Findings& findings) {
@@ -81,6 +109,7 @@ void FindSwallowed(const Listing& listing, Findings& findings) {
 
 void FindInJumps(const Listing& listing, Findings& findings) {
   FindIfs(listing, findings);
+  FindWrongElses(listing, findings);
   FindLabels(listing, findings);
   FindSwallowed(listing, findings);
 }

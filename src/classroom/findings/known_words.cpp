@@ -35,6 +35,11 @@ const WordFacts* KnownWord(const QString& word) {
   return found == Words().end() ? nullptr : *found;
 }
 
+bool IsCommand(const QString& word) {
+  const WordFacts* const known = KnownWord(word);
+  return known != nullptr && !IsOneOf<Action::XCor, Action::YCor>(known);
+}
+
 bool IsDead(const WordFacts& word) {
   if (word.Does != Action::None) return word.Place == 0;
   return word.LineClass == StmtCall && !IsOneOf<inputs::Repeat>(&word);

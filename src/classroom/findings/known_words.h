@@ -25,6 +25,9 @@ bool IsOneOf(const WordFacts* word) {
   return word != nullptr && (... || Means(*word, Which));
 }
 
+/// Whether a word begins a statement wherever it stands: all do but those that a sum may contain.
+bool IsCommand(const QString& word);
+
 /// Whether a word is in the language, but does nothing.
 bool IsDead(const WordFacts& word);
 

@@ -38,15 +38,22 @@ QStringList LinesOf(const QString& text) {
   return lines;
 }
 
-QString BodyOf(const QString& repeat) {
+RepeatParts PartsOf(const QString& repeat) {
+  const QString count = repeat.section(u' ', 1).section(u'[', 0, 0).trimmed();
   const qsizetype begin = repeat.indexOf(u'[');
-  if (begin < 0) return {};
+  if (begin < 0) return {count, {}, {}};
   int depth = 0;
   for (qsizetype i = begin; i < repeat.size(); ++i) {
     if (repeat[i] == u'[') ++depth;
-    if (repeat[i] == u']' && --depth == 0) return repeat.mid(begin + 1, i - begin - 1);
+    if (repeat[i] == u']' && --depth == 0)
+      return {count, repeat.mid(begin + 1, i - begin - 1), repeat.mid(i + 1).trimmed()};
   }
-  return repeat.mid(begin + 1);
+  return {count, repeat.mid(begin + 1), {}};
+}
+
+QStringList Statement::Inputs() const {
+  static const QRegularExpression besideSign(" ?([+*/%<>=!]) ?| ?(-) ");
+  return Rest().replace(besideSign, "\\1\\2").split(u' ', Qt::SkipEmptyParts);
 }
 
 Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
@@ -74,14 +81,14 @@ void Listing::TakeHead(const QString& line, int number) {
 
 void Listing::TakeStatement(const QString& text, int number, bool inBody) {
   Statements.push_back({number, text, inBody, current_, KnownWord(text.section(u' ', 0, 0))});
-  if (Statements.back().Is<inputs::Repeat>()) TakeBody(BodyOf(text), number);
+  if (Statements.back().Is<inputs::Repeat>()) TakeBody(PartsOf(text).Body, number);
 }
 
 void Listing::TakeBody(const QString& body, int number) {
   const QStringList names = ProcedureNames();
   QStringList words;
   for (const QString& word : WordsOfBody(body)) {
-    const bool begins = IsKnownWord(word) || names.contains(word);
+    const bool begins = IsCommand(word) || names.contains(word);
     if (begins && !words.isEmpty()) {
       TakeStatement(words.join(u' '), number, true);
       words.clear();
@@ -100,6 +107,17 @@ QStringList Listing::ProcedureNames() const {
 const ListedProcedure* Listing::Find(const QString& name) const {
   const auto found = std::ranges::find(Procedures, name, &ListedProcedure::Name);
   return found == Procedures.end() ? nullptr : &*found;
+}
+
+bool Listing::Loads() const {
+  return std::ranges::any_of(Statements, [](const Statement& each) { return each.Is<Action::Load>(); });
+}
+
+std::optional<qsizetype> Listing::InputsTakenBy(const Statement& statement) const {
+  if (const ListedProcedure* const procedure = Find(statement.Word())) return procedure->Inputs.size();
+  const WordFacts* const word = statement.Known;
+  if (word == nullptr || word->Inputs < 0 || TakesAName(word) || IsOneOf<StmtIf>(word)) return std::nullopt;
+  return word->Inputs;
 }
 
 }  // namespace zerimo::classroom

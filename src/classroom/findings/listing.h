@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "classroom/findings/known_words.h"
@@ -22,6 +23,8 @@ struct Statement {
 
   QString Word() const { return Text.section(u' ', 0, 0); }
   QString Rest() const { return Text.section(u' ', 1); }
+  /// What follows its word, cut as a reader would: blanks beside a sign cut nothing, except before a minus number.
+  QStringList Inputs() const;
 
   /// Whether its word is one of these; see `IsOneOf`.
   template <auto... Which>
@@ -51,6 +54,10 @@ class Listing {
 
   QStringList ProcedureNames() const;
   const ListedProcedure* Find(const QString& name) const;
+  /// Whether the program loads others, whose procedures and names it may use.
+  bool Loads() const;
+  /// How many inputs the word of a statement takes, or nothing if it is unknown, or takes a name or all that follows.
+  std::optional<qsizetype> InputsTakenBy(const Statement& statement) const;
 
  private:
   void TakeHead(const QString& line, int number);
@@ -63,7 +70,13 @@ class Listing {
 /// The lines of a text, however they end.
 QStringList LinesOf(const QString& text);
 
-/// The text between the first opening bracket and its closing one, which may be missing.
-QString BodyOf(const QString& repeat);
+/// A REPEAT in three parts. What is missing is empty.
+struct RepeatParts {
+  QString Count;
+  QString Body;
+  /// What follows the closing bracket.
+  QString After;
+};
+RepeatParts PartsOf(const QString& repeat);
 
 }  // namespace zerimo::classroom

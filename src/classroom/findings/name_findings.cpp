@@ -15,11 +15,12 @@ QStringList NamesIn(const QString& text) {
   return names;
 }
 
-/// The name that a statement makes, with its colon, or empty.
+/// The name that a statement makes, as it is read later, or empty: with its colon, unless its quote is missing.
 QString MadeBy(const Statement& statement) {
-  static const QRegularExpression make = ExpressionOf("^@ [\":]([A-Z]+)", IsOneOf<StmtMake>);
+  static const QRegularExpression make = ExpressionOf("^@ ([\":]?)([A-Z]+)", IsOneOf<StmtMake>);
   const auto match = make.match(statement.Text);
-  return match.hasMatch() ? u':' + match.captured(1) : QString();
+  if (!match.hasMatch()) return {};
+  return match.captured(1).isEmpty() ? match.captured(2) : u':' + match.captured(2);
 }
 
 QStringList InputsOf(const Listing& listing, const Statement& statement) {
@@ -27,7 +28,7 @@ QStringList InputsOf(const Listing& listing, const Statement& statement) {
   return listing.Procedures[static_cast<std::size_t>(statement.Procedure)].Inputs;
 }
 
-/// The names that the program makes, with their colons.
+/// The names that the program makes, as they are read.
 QSet<QString> KnownNames(const Listing& listing) {
   QSet<QString> known;
   for (const ListedProcedure& each : listing.Procedures) {
@@ -45,17 +46,32 @@ void FindUnknown(const Listing& listing, const QSet<QString>& known, Findings& f
   }
 }
 
-/// A name that is known, but written without its colon, counts as 0.
-void FindWithoutColon(const Listing& listing, const QSet<QString>& known, Findings& findings) {
-  static const QRegularExpression plain("(?<![:\"#\\w.])[A-Z]+(?![\\w.])");
+/// The part of a statement in which names are read.
+QString ReadPartOf(const Listing& listing, const Statement& statement) {
+  if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).Count;
+  const bool isUnknown = statement.Known == nullptr && listing.Find(statement.Word()) == nullptr;
+  if (isUnknown || TakesAName(statement.Known) || statement.Is<StmtElse>()) return {};
+  const QStringList inputs = statement.Inputs();
+  const qsizetype taken = listing.InputsTakenBy(statement).value_or(inputs.size());
+  // What MAKE makes is written without a colon.
+  return inputs.mid(statement.Is<StmtMake>() ? 1 : 0, taken).join(u' ');
+}
+
+/// A word in a sum vanishes: a name without its colon, a text without quotes, or nothing that anybody knows.
+void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings& findings) {
+  static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Z]\\w*(?![\\w.])");
+  static const QRegularExpression exponent("^\\d+E\\d*$");
   for (const Statement& statement : listing.Statements) {
-    if (statement.Is<inputs::Repeat>() || TakesAName(statement.Known)) continue;
-    // What MAKE makes is written without one.
-    const QString read = statement.Is<StmtMake>() ? statement.Rest().section(u' ', 1) : statement.Rest();
-    for (auto walk = plain.globalMatch(read); walk.hasNext();) {
+    for (auto walk = plain.globalMatch(ReadPartOf(listing, statement)); walk.hasNext();) {
       const QString name = walk.next().captured();
-      if (known.contains(u':' + name) && !IsKnownWord(name) && listing.Find(name) == nullptr)
-        findings.push_back({Mistake::NameWithoutColon, statement.Line, {name}});
+      const bool isOther = IsKnownWord(name) || listing.Find(name) != nullptr || exponent.match(name).hasMatch();
+      const Finding asLogic{Mistake::LogicWord, statement.Line, {name}};
+      const bool isTold = std::ranges::find(findings, asLogic) != findings.end();
+      if (isOther || isTold || known.contains(name)) continue;
+      const Mistake what = known.contains(u':' + name)                                     ? Mistake::NameWithoutColon
+                           : statement.Is<inputs::Print, inputs::Message, inputs::Write>() ? Mistake::TextWithoutQuotes
+                                                                                           : Mistake::UnknownName;
+      findings.push_back({what, statement.Line, {name}});
     }
   }
 }
@@ -107,8 +123,8 @@ void FindSums(const Listing& listing, const Statement& call, Findings& findings)
 
 void FindInNames(const Listing& listing, Findings& findings) {
   const QSet<QString> known = KnownNames(listing);
-  FindUnknown(listing, known, findings);
-  FindWithoutColon(listing, known, findings);
+  if (!listing.Loads()) FindUnknown(listing, known, findings);
+  FindVanishing(listing, known, findings);
   FindZeros(listing, findings);
   for (const Statement& statement : listing.Statements) {
     FindInputTwice(listing, statement, findings);

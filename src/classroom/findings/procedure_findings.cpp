@@ -9,6 +9,7 @@ namespace {
 void FindEnds(const Listing& listing, Findings& findings) {
   for (const ListedProcedure& each : listing.Procedures) {
     if (!each.HasEnd) findings.push_back({Mistake::WithoutEnd, each.Line, {each.Name}});
+    if (IsKnownWord(each.Name)) findings.push_back({Mistake::NameIsAWord, each.Line, {each.Name}});
     const ListedProcedure* const first = listing.Find(each.Name);
     if (first != &each)
       findings.push_back({Mistake::DuplicateProcedure, each.Line, {each.Name, QString::number(first->Line)}});
@@ -17,13 +18,17 @@ void FindEnds(const Listing& listing, Findings& findings) {
 
 /// Outside the procedures only `MAKE` lines with a number, above the first procedure, are read.
 void FindOutside(const Listing& listing, Findings& findings) {
-  static const QRegularExpression name = ExpressionOf("^@ :[A-Z]+ \\(?-?[\\d.]+\\)?$", IsOneOf<StmtMake>);
+  static const QRegularExpression name = ExpressionOf("^@ (:[A-Z]+) (\\(?-?[\\d.]+\\)?)$", IsOneOf<StmtMake>);
   if (listing.Procedures.empty()) return;
   const int first = listing.Procedures.front().Line;
   for (const Statement& each : listing.Statements) {
-    const bool isRead = each.Line < first && name.match(each.Text).hasMatch();
-    if (each.Procedure < 0 && !each.InBody && !isRead)
+    if (each.Procedure >= 0 || each.InBody) continue;
+    const auto match = name.match(each.Text);
+    if (each.Line < first && match.hasMatch()) {
+      findings.push_back({Mistake::MakeAtTop, each.Line, {match.captured(1), match.captured(2)}});
+    } else {
       findings.push_back({Mistake::OutsideProcedures, each.Line, {each.Text.left(40)}});
+    }
   }
 }
 

@@ -10,7 +10,8 @@ constexpr double GreatestCount = 32767;
 constexpr qsizetype MostStatements = 199;
 
 void FindInCount(const Statement& repeat, Findings& findings) {
-  const QString count = repeat.Rest().section(u'[', 0, 0).simplified();
+  const QString count = PartsOf(repeat.Text).Count;
+  if (count.isEmpty()) findings.push_back({Mistake::CountMissing, repeat.Line, {}});
   bool isNumber = false;
   const double number = count.toDouble(&isNumber);
   if (isNumber && number == 0) findings.push_back({Mistake::CountZero, repeat.Line, {}});
@@ -24,7 +25,7 @@ void FindInCount(const Statement& repeat, Findings& findings) {
 
 void FindBrackets(const Statement& repeat, Findings& findings) {
   const bool balanced = repeat.Text.count(u'[') == repeat.Text.count(u']') && repeat.Text.contains(u'[');
-  if (!balanced || BodyOf(repeat.Text).trimmed().isEmpty())
+  if (!balanced || PartsOf(repeat.Text).Body.trimmed().isEmpty())
     findings.push_back({Mistake::MissingBracket, repeat.Line, {}});
 }
 
@@ -32,7 +33,7 @@ void FindBrackets(const Statement& repeat, Findings& findings) {
 void FindPrint(const Statement& repeat, Findings& findings) {
   static const QRegularExpression print =
       ExpressionOf("(?:^|[ \\[])(@) ([^\" \\]\\[]+) ([A-Z]+)", IsOneOf<Action::Print, Action::Write, Action::Message>);
-  for (auto walk = print.globalMatch(BodyOf(repeat.Text)); walk.hasNext();) {
+  for (auto walk = print.globalMatch(PartsOf(repeat.Text).Body); walk.hasNext();) {
     const auto match = walk.next();
     if (IsKnownWord(match.captured(3))) findings.push_back({Mistake::PrintInRepeat, repeat.Line, {match.captured(1)}});
   }

@@ -43,15 +43,19 @@ constexpr std::array Patterns = {
     Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf},
     Pattern{Mistake::Exponent, R"((?:^|[^\w:"])(\d+E[+-]?\d+))"},
     Pattern{Mistake::HalfNumber, R"(^& (\d+\.\d+)$)",
-            IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize>},
+            IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize, Sum, Product,
+                    Quotient, Remainder>},
     Pattern{Mistake::WholeStep, R"(^& (\(?-?\d+\.\d+\)?)$)", IsOneOf<Circle, SetXY, Dot, Line>},
     Pattern{Mistake::DivisionByZero, R"((\S*/0(?![\d.])\S*))"},
+    Pattern{Mistake::DivisionByZero, R"(^(& 0)$)", IsOneOf<Quotient, Remainder>},
     Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
             IsOneOf<Sum, Product, Quotient, Remainder, LineWidth, Wait, SetPC, SetBG, Fill>, GreatestNumber},
     Pattern{Mistake::DigitInName, R"((:[A-Z]+\d+))"},
     Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
     Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},
+    Pattern{Mistake::SecondQuote, R"-(^@ "([A-Z]+)")-", IsMake},
+    Pattern{Mistake::CounterUsed, R"((#+))"},
     Pattern{Mistake::WrongSign, R"(^@ [^"]*(==|<>|><|=<|=>|!==))", IsIf},
     Pattern{Mistake::TwoComparisons, R"(^@ ([^" ]*[<>=!]=?[^<>=!" ]+[<>!][^" ]*))", IsIf},
     Pattern{Mistake::LogicWord, R"(^@ [^"]*\b(AND|OR|NOT)\b)", IsIf},
@@ -99,6 +103,16 @@ void FindThirds(const Statement& statement, Findings& findings) {
     findings.push_back({Mistake::RoundedThird, statement.Line, {match.captured(1) + u'/' + match.captured(2)}});
 }
 
+/// The value of a bracket is written as a text, and that of a large number has an exponent.
+void FindLargeProduct(const Statement& statement, Findings& findings) {
+  constexpr double firstWithExponent = 1e15;
+  static const QRegularExpression product(R"(\((\d+(?:\*\d+)+)\))");
+  const auto match = product.match(statement.Text);
+  double value = 1;
+  for (const QString& factor : match.captured(1).split(u'*')) value *= factor.toDouble();
+  if (value >= firstWithExponent) findings.push_back({Mistake::Exponent, statement.Line, {match.captured(1)}});
+}
+
 void FindMissingBlank(const Statement& statement, Findings& findings) {
   static const QRegularExpression call(R"(^([A-Z]+)\()");
   const auto match = call.match(statement.Text);
@@ -115,6 +129,7 @@ void FindInStatements(const Listing& listing, Findings& findings) {
     FindPatterns(statement, findings);
     FindDeadWord(statement, findings);
     FindThirds(statement, findings);
+    FindLargeProduct(statement, findings);
     FindMissingBlank(statement, findings);
   }
 }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "classroom/findings/findings.h"
 
 namespace zerimo::classroom {
@@ -9,15 +11,18 @@ bool IsWord(const QString& text) {
   return word.match(text).hasMatch();
 }
 
-bool TakesTheRest(const WordFacts* word) {
-  const bool isCounted = word == nullptr || word->Inputs >= 0 || word->Inputs == inputs::NotCounted;
-  return !isCounted || TakesAName(word) || IsOneOf<StmtIf, StmtElse>(word);
-}
-
 /// Whether a line of one word is a sum: it begins like a name or a number, or has a sign in it.
 bool IsSum(const Statement& statement) {
   static const QRegularExpression sum("^[(:#\\d-]|[-+*/%<>=!]");
   return sum.match(statement.Word()).hasMatch();
+}
+
+/// What someone has meant who wrote a word that is unknown, or empty: "FD50" is "FD 50".
+QString WordMeantBy(const QString& word, const QStringList& procedures) {
+  static const QRegularExpression withNumber("^([A-Z]+)(\\d.*)$");
+  const auto match = withNumber.match(word);
+  if (match.hasMatch() && IsKnownWord(match.captured(1))) return match.captured(1) + u' ' + match.captured(2);
+  return SuggestionFor(word, procedures);
 }
 
 void FindUnknown(const Listing& listing, const Statement& statement, Findings& findings) {
@@ -26,41 +31,82 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
   if (statement.Known != nullptr || names.contains(word) || IsSum(statement)) return;
   const QString capitals = word.toUpper();
   if (word != capitals && (IsKnownWord(capitals) || names.contains(capitals))) {
-    findings.push_back({Mistake::SmallLetters, statement.Line, {word, capitals}});
+    // F2 cures all of them, so they are told once.
+    if (std::ranges::find(findings, Mistake::SmallLetters, &Finding::What) == findings.end())
+      findings.push_back({Mistake::SmallLetters, statement.Line, {word, capitals}});
     return;
   }
   const QString name = word.section(u'(', 0, 0);
   if (word.contains(u'(') && IsKnownWord(name)) return;
-  findings.push_back({Mistake::UnknownWord, statement.Line, {word, SuggestionFor(capitals, names)}});
+  const QString meant = WordMeantBy(capitals, names);
+  // What has been loaded may have a procedure of this name.
+  if (!listing.Loads() || !meant.isEmpty()) findings.push_back({Mistake::UnknownWord, statement.Line, {word, meant}});
 }
 
-/// In the editor a line is one statement; a second one becomes part of the first one's inputs.
-void FindSeveral(const Listing& listing, const Statement& statement, Findings& findings) {
-  if (statement.InBody || TakesTheRest(statement.Known)) return;
+/// The second statement of a line, where a line is one statement, or empty. It becomes part of the first one's inputs.
+QString SecondStatementOf(const Listing& listing, const Statement& statement) {
+  const bool isUnknown = statement.Known == nullptr && listing.Find(statement.Word()) == nullptr;
+  if (isUnknown || statement.InBody || statement.Is<StmtElse>()) return {};
+  if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).After.section(u' ', 0, 0);
   const QStringList words = statement.Text.split(u' ');
-  for (const QString& word : words.mid(1)) {
-    if (!IsKnownWord(word) && listing.Find(word) == nullptr) continue;
-    findings.push_back({Mistake::SeveralStatements, statement.Line, {word}});
-    return;
-  }
-}
-
-int GivenInputs(const Statement& statement) {
-  const QString rest = statement.Rest();
-  if (rest.isEmpty()) return 0;
-  // Blanks beside a sign do not separate inputs.
-  static const QRegularExpression besideSign(" ?([-+*/%<>=!]) ?");
-  return static_cast<int>(QString(rest).replace(besideSign, "\\1").split(u' ').size());
+  const auto begin = words.begin() + std::min<qsizetype>(words.size(), TakesAName(statement.Known) ? 2 : 1);
+  const auto found = std::find_if(
+      begin, words.end(), [&listing](const QString& word) { return IsCommand(word) || listing.Find(word) != nullptr; });
+  return found == words.end() ? QString() : *found;
 }
 
 void FindMissingInputs(const Listing& listing, const Statement& statement, Findings& findings) {
   const QString word = statement.Word();
   const ListedProcedure* const procedure = listing.Find(word);
   const qsizetype needed = procedure == nullptr ? NeededInputsOf(statement.Known) : procedure->Inputs.size();
-  const int given = GivenInputs(statement);
+  const qsizetype given = statement.Inputs().size();
   if (given < needed && (given == 0 || IsWord(word)))
     findings.push_back(
         {Mistake::MissingInputs, statement.Line, {word, QString::number(needed), QString::number(given)}});
+}
+
+/// More than the word of a statement takes: a number, or a second statement that is misspelt.
+void FindTooMany(const Listing& listing, const Statement& statement, Findings& findings) {
+  const std::optional<qsizetype> taken = listing.InputsTakenBy(statement);
+  const QStringList given = statement.Inputs();
+  if (!taken || given.size() <= *taken) return;
+  const QString& first = given[*taken];
+  if (IsWord(first)) {
+    findings.push_back({Mistake::UnknownWord, statement.Line, {first, WordMeantBy(first, listing.ProcedureNames())}});
+  } else {
+    findings.push_back({Mistake::TooManyInputs,
+                        statement.Line,
+                        {statement.Word(), QString::number(*taken), QString::number(given.size())}});
+  }
+}
+
+/// Where inputs are told apart by their blanks, a sum may have none.
+void FindBlankInSum(const Listing& listing, const Statement& statement, Findings& findings) {
+  const qsizetype taken = listing.InputsTakenBy(statement).value_or(0);
+  const bool isAlone = taken == 1 && listing.Find(statement.Word()) == nullptr;
+  const bool isCut = statement.InBody ? taken > 0 || statement.Is<StmtIf>() : taken > 0 && !isAlone;
+  const QStringList pieces = statement.Rest().split(u' ');
+  if (!isCut) return;
+  for (const QString& input : statement.Inputs()) {
+    // A blank before = is told by itself, and MAKE needs no =.
+    const bool isOther = input.contains(u'=') && statement.Is<StmtIf, StmtMake>();
+    if (!pieces.contains(input) && !isOther) findings.push_back({Mistake::BlankInSum, statement.Line, {input}});
+  }
+}
+
+void FindInInputs(const Listing& listing, const Statement& statement, Findings& findings) {
+  const QString second = SecondStatementOf(listing, statement);
+  if (!second.isEmpty()) return findings.push_back({Mistake::SeveralStatements, statement.Line, {second}});
+  FindMissingInputs(listing, statement, findings);
+  FindTooMany(listing, statement, findings);
+  FindBlankInSum(listing, statement, findings);
+}
+
+void FindInHeads(const Listing& listing, Findings& findings) {
+  for (const ListedProcedure& each : listing.Procedures) {
+    const auto second = std::ranges::find_if(each.Inputs, IsCommand);
+    if (second != each.Inputs.end()) findings.push_back({Mistake::SeveralStatements, each.Line, {*second}});
+  }
 }
 
 }  // namespace
@@ -68,9 +114,9 @@ void FindMissingInputs(const Listing& listing, const Statement& statement, Findi
 void FindInWords(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     FindUnknown(listing, statement, findings);
-    FindSeveral(listing, statement, findings);
-    if (!statement.Text.contains(" -")) FindMissingInputs(listing, statement, findings);
+    FindInInputs(listing, statement, findings);
   }
+  FindInHeads(listing, findings);
 }
 
 }  // namespace zerimo::classroom
