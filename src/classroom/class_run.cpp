@@ -19,6 +19,7 @@
 #include "classroom/readable.h"
 #include "classroom/report_files.h"
 #include "classroom/runs_folder.h"
+#include "classroom/similarity.h"
 #include "classroom/task.h"
 #include "classroom/words.h"
 #include "files/disk_files.h"
@@ -83,7 +84,7 @@ class ClassRun {
       : options_(command.Class),
         settings_(command.Runner.Session),
         pupils_(PupilsOf(options_)),
-        given_(TextOfProgram(ContentOf("--template", options_.Template))),
+        alike_(TemplateOf(options_)),
         files_(options_) {
     if (!options_.Task.empty()) task_ = ReadTask(options_.Task);
     report_.Folder =
@@ -117,7 +118,7 @@ class ClassRun {
     const bool ended = RunAll(place);
     if (!ended && report_.Runs.empty()) return Close(ClassStatus::Interrupted, "interrupted, no report is written");
     report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
-    report_.Alike = AlikePairs(report_.Runs, given_);
+    FindAlike();
     files_.Write(report_);
     if (ended) return Close(ClassStatus::ReportWritten, LastWords());
     return Close(ClassStatus::Interrupted,
@@ -167,12 +168,22 @@ class ClassRun {
     return !runner.WasInterrupted() && !Interruption::Came();
   }
 
+  void FindAlike() {
+    for (const PupilRun& run : report_.Runs) alike_.Add(run);
+    const auto link = [this](std::size_t index) {
+      return PupilLink{PupilName(report_.Runs[index].Who), QStringLiteral("#p%1").arg(index + 1)};
+    };
+    for (const AlikePair& pair : alike_.Pairs())
+      report_.Alike.push_back({link(pair.One), link(pair.Other), pair.Percent,
+                               alike_.SharedLines(report_.Runs[pair.One], report_.Runs[pair.Other])});
+  }
+
   static QString EscapedName(const PupilRun& run) { return Readable(PupilName(run.Who)); }
 
   /// A report of a run that was resumed is about all of it.
   void TakeRecords() {
     report_.Runs.clear();
-    ForEachRun(options_.Records, [this](PupilRun run) { report_.Runs.push_back(std::move(run)); });
+    ForEachRun(options_.Records, [this](PupilRun run, std::streamoff) { report_.Runs.push_back(std::move(run)); });
     std::ranges::stable_sort(report_.Runs, {}, [](const PupilRun& run) { return run.Who.Program; });
   }
 
@@ -193,7 +204,7 @@ class ClassRun {
   const ClassOptions& options_;
   const batch::Settings& settings_;
   std::vector<Pupil> pupils_;
-  QString given_;
+  AlikeSearch alike_;
   ReportFiles files_;
   Task task_;
   Report report_;
@@ -201,6 +212,8 @@ class ClassRun {
 };
 
 }  // namespace
+
+QString TemplateOf(const ClassOptions& options) { return TextOfProgram(ContentOf("--template", options.Template)); }
 
 ClassStatus RunClass(const Command& command, const std::string& version) {
   return command.IsMerge() ? MergeParts(command, version) : ClassRun(command, version).Run();

@@ -12,6 +12,7 @@
 #include "classroom/readable.h"
 #include "classroom/report_files.h"
 #include "classroom/report_page.h"
+#include "classroom/similarity.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -26,7 +27,8 @@ constexpr std::size_t ProgramsOnPage = 100;
 /// Writes a report of any number of runs: an index, and pages beside it.
 class Merge {
  public:
-  Merge(const Command& command, const std::string& version) : options_(command.Class), files_(options_) {
+  Merge(const Command& command, const std::string& version)
+      : options_(command.Class), files_(options_), alike_(TemplateOf(options_)) {
     report_.Folder = NameOf(files_.Page().stem());
     report_.Version = QString::fromStdString(version);
     report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
@@ -37,18 +39,28 @@ class Merge {
 
   std::size_t Run() {
     for (const std::string& part : options_.Merged) {
-      if (!ForEachRun(part, [this](PupilRun run) { Take(std::move(run)); }))
-        throw batch::UsageError("--merge " + part + ": the file can not be read");
+      const auto take = [this, &part](PupilRun run, std::streamoff place) {
+        places_.push_back({&part, place});
+        Take(std::move(run));
+      };
+      if (!ForEachRun(part, take)) throw batch::UsageError("--merge " + part + ": the file can not be read");
     }
     WritePage();
     if (marks_) marks_->Save();
+    FindAlike();
     WriteBeside(files_.Page(), IndexPage(report_, entries_).toStdString());
-    return count_;
+    return places_.size();
   }
 
  private:
+  /// Where a run is in its part.
+  struct Place {
+    const std::string* Part;
+    std::streamoff Offset;
+  };
+
   void Take(PupilRun run) {
-    ++count_;
+    alike_.Add(run);
     AddMarks(MarksOf(run));
     report_.Runs.push_back(std::move(run));
     if (report_.Runs.size() == ProgramsOnPage) WritePage();
@@ -58,9 +70,28 @@ class Merge {
     if (marks_) marks_->sputn(lines.constData(), lines.size());
   }
 
+  std::string NameOfPage(std::size_t page) const {
+    return files_.Page().stem().string() + "-" + std::to_string(page + 1) + ".html";
+  }
+
+  PupilLink LinkTo(std::size_t index, const PupilRun& run) const {
+    return {PupilName(run.Who), QString::fromStdString(NameOfPage(index / ProgramsOnPage)) +
+                                    QStringLiteral("#p%1").arg(index % ProgramsOnPage + 1)};
+  }
+
+  void FindAlike() {
+    for (const AlikePair& pair : alike_.Pairs()) {
+      const std::optional<PupilRun> one = RunAt(*places_[pair.One].Part, places_[pair.One].Offset);
+      const std::optional<PupilRun> other = RunAt(*places_[pair.Other].Part, places_[pair.Other].Offset);
+      if (!one || !other) continue;
+      report_.Alike.push_back(
+          {LinkTo(pair.One, *one), LinkTo(pair.Other, *other), pair.Percent, alike_.SharedLines(*one, *other)});
+    }
+  }
+
   void WritePage() {
     if (report_.Runs.empty()) return;
-    const std::string name = files_.Page().stem().string() + "-" + std::to_string(entries_.size() + 1) + ".html";
+    const std::string name = NameOfPage(entries_.size());
     IndexEntry entry{QString::fromStdString(name),
                      PupilName(report_.Runs.front().Who),
                      PupilName(report_.Runs.back().Who),
@@ -72,7 +103,7 @@ class Merge {
       entry.Suspicious += run.IsSuspicious() ? 1 : 0;
     }
     const fs::path page = files_.Page().parent_path() / name;
-    WriteBeside(page, PageOf(report_, ReportFiles::PicturesBeside(page)).toStdString());
+    WriteBeside(page, PageOf(report_, PictureSource(ReportFiles::PicturesBeside(page), 0)).toStdString());
     entries_.push_back(std::move(entry));
     report_.Runs.clear();
   }
@@ -82,7 +113,9 @@ class Merge {
   Report report_;
   std::optional<FileToSave> marks_;
   std::vector<IndexEntry> entries_;
-  std::size_t count_ = 0;
+  AlikeSearch alike_;
+  /// Of all runs, in their order.
+  std::vector<Place> places_;
 };
 
 }  // namespace

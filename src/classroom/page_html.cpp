@@ -55,20 +55,26 @@ std::optional<QString> PictureSource::Image(const std::filesystem::path& file, c
   if (bytes.isEmpty()) return std::nullopt;
   bytes_ += static_cast<std::size_t>(bytes.size());
   if (IsFull()) return std::nullopt;
-  const QString address = bytes_ > MostBytes
-                              ? Beside(bytes)
-                              : QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
   return QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"").arg(size.width()).arg(size.height()) + alternative +
-         QStringLiteral("\" src=\"") + address + QStringLiteral("\">");
+         QStringLiteral("\" src=\"") + AddressOf(file, bytes) + QStringLiteral("\">");
 }
 
-QString PictureSource::Beside(const QByteArray& bytes) {
-  const std::string name = std::to_string(++count_) + ".png";
+QString PictureSource::AddressOf(const std::filesystem::path& file, const QByteArray& bytes) {
+  // The page shows the one picture beside it in all sizes.
+  if (!beside_.empty() && bytes_ > mostInside_) return Beside(file);
+  return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
+}
+
+QString PictureSource::Beside(const std::filesystem::path& file) {
+  QString& address = addresses_[file];
+  if (!address.isEmpty()) return address;
+  const std::string name = std::to_string(addresses_.size()) + ".png";
   std::error_code error;
   std::filesystem::create_directory(beside_, error);
-  WriteBeside(beside_ / name, bytes.toStdString());
+  WriteBeside(beside_ / name, BytesOf(file).value_or(std::string()));
   const QByteArray folder = QByteArray::fromStdString(beside_.filename().string()).toPercentEncoding();
-  return QString::fromLatin1(folder) + u'/' + QString::fromStdString(name);
+  address = QString::fromLatin1(folder) + u'/' + QString::fromStdString(name);
+  return address;
 }
 
 QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -32,23 +33,27 @@ class PictureSource {
   /// Bytes of all pictures inside one page together.
   static constexpr std::size_t MostBytes = std::size_t{32} << 20;
 
-  /// `beside` is a folder in that of the page: it is made for the pictures that pass `MostBytes`. Without one, these
-  /// are left out.
-  explicit PictureSource(std::filesystem::path beside = {}) : beside_(std::move(beside)) {}
+  /// `beside` is a folder in that of the page: it is made for the pictures that pass `mostInside`, all together.
+  /// Without one, those that pass `MostBytes` are left out.
+  explicit PictureSource(std::filesystem::path beside = {}, std::size_t mostInside = MostBytes)
+      : beside_(std::move(beside)), mostInside_(mostInside) {}
 
   /// An element for the picture, drawn at most `width` pixels wide (0: as large as it is), or nothing if it is not
   /// there or the page is full. Fails (file access) if a picture can't be written beside.
   std::optional<QString> Image(const std::filesystem::path& file, const QString& alternative, int width = 0);
   bool IsFull() const { return bytes_ > MostBytes && beside_.empty(); }
-  bool HasPicturesBeside() const { return count_ > 0; }
+  bool HasPicturesBeside() const { return !addresses_.empty(); }
 
  private:
-  /// Writes a picture beside the page, and returns its address there.
-  QString Beside(const QByteArray& bytes);
+  QString AddressOf(const std::filesystem::path& file, const QByteArray& bytes);
+  /// Copies a picture beside the page, once, and returns its address there.
+  QString Beside(const std::filesystem::path& file);
 
   std::filesystem::path beside_;
+  std::size_t mostInside_;
   std::size_t bytes_ = 0;
-  int count_ = 0;
+  /// Of the pictures beside, by their files.
+  std::map<std::filesystem::path, QString> addresses_;
 };
 
 /// The section of the page about one run. `number` counts from 1.

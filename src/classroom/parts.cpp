@@ -25,6 +25,18 @@ void CopyPictures(const fs::path& from, const fs::path& to) {
   }
 }
 
+std::optional<PupilRun> RunOfLine(const fs::path& file, const std::string& line) {
+  const std::optional<Json> json = ParsedObject(line);
+  if (!json) return std::nullopt;
+  PupilRun run = RunIn(*json);
+  run.Who.Program = fs::path(TextAt(*json, "program").toStdU16String());
+  const QString folder = TextAt(*json, "pictures");
+  bool isNumber = false;
+  folder.toUInt(&isNumber);
+  if (isNumber) run.Picture = PicturesOf(file) / folder.toStdU16String() / "picture.png";
+  return run;
+}
+
 /// Cuts a file off after its last complete line.
 void CutHalfLine(const fs::path& file) {
   std::error_code error;
@@ -47,7 +59,7 @@ PartFile::PartFile(const fs::path& file, bool resumes) : file_(file) {
   if (fs::exists(file) && !fs::is_regular_file(file)) throw Failure(FailureKind::FileAccess);
   if (resumes) {
     CutHalfLine(file);
-    ForEachRun(file, [this](const PupilRun& run) {
+    ForEachRun(file, [this](const PupilRun& run, std::streamoff) {
       programs_.insert(KeyOf(run.Who.Program));
       ++count_;
     });
@@ -70,21 +82,23 @@ void PartFile::Add(const PupilRun& run) {
   if (!stream_) throw Failure(FailureKind::FileAccess);
 }
 
-bool ForEachRun(const fs::path& file, const std::function<void(PupilRun)>& take) {
+bool ForEachRun(const fs::path& file, const std::function<void(PupilRun, std::streamoff)>& take) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream.is_open()) return false;
-  for (std::string line; std::getline(stream, line);) {
-    const std::optional<Json> json = ParsedObject(line);
-    if (!json) continue;
-    PupilRun run = RunIn(*json);
-    run.Who.Program = fs::path(TextAt(*json, "program").toStdU16String());
-    const QString folder = TextAt(*json, "pictures");
-    bool isNumber = false;
-    folder.toUInt(&isNumber);
-    if (isNumber) run.Picture = PicturesOf(file) / folder.toStdU16String() / "picture.png";
-    take(std::move(run));
+  std::streamoff place = 0;
+  for (std::string line; std::getline(stream, line); place += static_cast<std::streamoff>(line.size()) + 1) {
+    std::optional<PupilRun> run = RunOfLine(file, line);
+    if (run) take(std::move(*run), place);
   }
   return true;
+}
+
+std::optional<PupilRun> RunAt(const fs::path& file, std::streamoff place) {
+  std::ifstream stream(file, std::ios::binary);
+  stream.seekg(place);
+  std::string line;
+  std::getline(stream, line);
+  return RunOfLine(file, line);
 }
 
 }  // namespace zerimo::classroom

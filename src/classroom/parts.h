@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -28,8 +29,11 @@ class PartFile {
   std::size_t count_ = 0;
 };
 
-/// Hands over the runs of a part one after the other. An incomplete line is skipped. Returns whether the file could be
-/// read.
-bool ForEachRun(const std::filesystem::path& file, const std::function<void(PupilRun)>& take);
+/// Hands over the runs of a part one after the other, each with its place in the file. An incomplete line is skipped.
+/// Returns whether the file could be read.
+bool ForEachRun(const std::filesystem::path& file, const std::function<void(PupilRun, std::streamoff)>& take);
+
+/// One run of a part, by its place there; nothing if the file has changed.
+std::optional<PupilRun> RunAt(const std::filesystem::path& file, std::streamoff place);
 
 }  // namespace zerimo::classroom

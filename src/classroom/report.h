@@ -5,9 +5,24 @@
 
 #include "classroom/language.h"
 #include "classroom/pupil.h"
-#include "classroom/similarity.h"
 
 namespace zerimo::classroom {
+
+/// Where a report shows a pupil.
+struct PupilLink {
+  QString Name;
+  /// "#p7", or "report-3.html#p7" from another page.
+  QString Address;
+};
+
+/// Two programs that are alike.
+struct AlikePrograms {
+  PupilLink One;
+  PupilLink Other;
+  double Percent = 0;
+  /// The lines of the first one that the other one has too.
+  QStringList Lines;
+};
 
 /// A class run as a whole.
 struct Report {
@@ -23,7 +38,7 @@ struct Report {
   /// The title and words of the task, or empty.
   QString TaskTitle;
   QString TaskWords;
-  std::vector<AlikePair> Alike;
+  std::vector<AlikePrograms> Alike;
   const Language* Words = &English;
 };
 

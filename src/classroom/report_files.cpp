@@ -89,7 +89,7 @@ void ReportFiles::Write(const Report& report) const {
   }
   if (!options_.Pupils.empty()) WritePupils(report);
   if (!HasPage()) return;
-  const QByteArray page = PageOf(report, PicturesBeside(page_));
+  const QByteArray page = PageOf(report, PictureSource(PicturesBeside(page_)));
   WriteBeside(SummaryFileOf(page_), SummaryOf(report).toStdString());
   WriteBeside(page_, page.toStdString());
 }

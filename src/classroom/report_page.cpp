@@ -44,8 +44,8 @@ QString ContentPolicy(bool hasPicturesBeside) {
 
 class PageWriter {
  public:
-  explicit PageWriter(const Report& report, const std::filesystem::path& beside = {})
-      : report_(report), language_(*report.Words), pictures_(beside) {}
+  explicit PageWriter(const Report& report, PictureSource pictures = PictureSource())
+      : report_(report), language_(*report.Words), pictures_(std::move(pictures)) {}
 
   QByteArray Write() {
     WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
@@ -76,6 +76,7 @@ class PageWriter {
       Add(QStringLiteral("</tr>\n"));
     }
     Add(QStringLiteral("</tbody>\n</table>\n</div>\n"));
+    WriteAlike();
     return Finished();
   }
 
@@ -148,9 +149,9 @@ class PageWriter {
   }
 
   /// The notes of a run, as the filter offers them.
-  static QString NotesOf(const PupilRun& run) {
-    QStringList notes = {WordOf(run.Went.How)};
-    for (const Finding& finding : run.Went.Findings) notes.append(Utf8(FactsOf(finding.What).Code));
+  QString NotesOf(const PupilRun& run) const {
+    QStringList notes = {language_.NameOf(run.Went.How)};
+    for (const Finding& finding : run.Went.Findings) notes.append(language_.NameOf(finding.What));
     notes.removeDuplicates();
     return notes.join(u'|');
   }
@@ -173,7 +174,7 @@ class PageWriter {
       const QString line = finding.Line == 0 ? QString() : QString::number(finding.Line) + QStringLiteral(": ");
       notes.append(line + EscapedReadable(language_.Of(finding)));
     }
-    for (const QString& note : run.Went.Notes) notes.append(EscapedReadable(note));
+    for (const QString& note : run.Went.Notes) notes.append(EscapedReadable(language_.Of(note)));
     AddGoalNotes(run, notes);
     const QString words = run.IsSuspicious()
                               ? notes.join(QStringLiteral("<br>"))
@@ -219,10 +220,10 @@ class PageWriter {
   void WriteAlike() {
     if (report_.Alike.empty()) return;
     Add(QStringLiteral("<div class=\"overview\">\n") + Element("h2", "", Utf8(language_.AlikeHead)) + u'\n');
-    for (const AlikePair& pair : report_.Alike) {
-      const auto link = [this](std::size_t index) {
-        return QStringLiteral("<a href=\"#p%1\">").arg(index + 1) +
-               EscapedReadable(PupilName(report_.Runs[index].Who)) + QStringLiteral("</a>");
+    for (const AlikePrograms& pair : report_.Alike) {
+      const auto link = [](const PupilLink& pupil) {
+        return QStringLiteral("<a href=\"") + Escaped(pupil.Address) + QStringLiteral("\">") +
+               EscapedReadable(pupil.Name) + QStringLiteral("</a>");
       };
       Add(QStringLiteral("<details><summary>") +
           Filled(language_.AlikePair, {link(pair.One), link(pair.Other), QString::number(std::floor(pair.Percent))}) +
@@ -242,8 +243,8 @@ class PageWriter {
 
 }  // namespace
 
-QByteArray PageOf(const Report& report, const std::filesystem::path& beside) {
-  return PageWriter(report, beside).Write();
+QByteArray PageOf(const Report& report, PictureSource pictures) {
+  return PageWriter(report, std::move(pictures)).Write();
 }
 
 QByteArray IndexPage(const Report& report, const std::vector<IndexEntry>& entries) {

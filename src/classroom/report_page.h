@@ -1,18 +1,16 @@
 #pragma once
 
 #include <QByteArray>
-#include <filesystem>
 #include <vector>
 
+#include "classroom/page_html.h"
 #include "classroom/report.h"
 
 namespace zerimo::classroom {
 
-/// A class run for people: one HTML page in UTF-8 that needs and loads nothing else. Its one script is its own, and
-/// nothing is lost without it.
-/// Pictures that would make it too large go into the folder `beside`, which lies where the page does; without one they
-/// are left out. Fails (file access) if they can't be written.
-QByteArray PageOf(const Report& report, const std::filesystem::path& beside = {});
+/// A class run for people: one HTML page in UTF-8 that needs and loads nothing else but the pictures that lie beside
+/// it. Its one script is its own, and nothing is lost without it. Fails (file access) if a picture can't be written.
+QByteArray PageOf(const Report& report, PictureSource pictures = PictureSource());
 
 /// The page of one pupil, to be handed back, with nothing about anyone else.
 QByteArray PageOfPupil(const Report& report, const PupilRun& run);

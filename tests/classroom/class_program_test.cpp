@@ -9,6 +9,14 @@ namespace fs = std::filesystem;
 
 class ClassProgramTest : public ClassTest {
  protected:
+  /// "unknown word, for ever": what was found in a program.
+  std::string MistakesOf(const char* file) const {
+    QStringList mistakes;
+    for (const QJsonValue& each : Pupil(file).value("findings").toArray())
+      mistakes.append(each.toObject().value("mistake").toString());
+    return mistakes.join(", ").toStdString();
+  }
+
   void ExpectBadUsage(const std::string& arguments, const std::string& message) {
     const ProgramRun run = Program.Run(arguments);
     EXPECT_EQ(run.Status, 2) << arguments;
@@ -213,6 +221,31 @@ TEST_F(ClassProgramTest, ShowsTheProgramAndWhatIsSuspiciousInIt) {
   EXPECT_NE(Page.find("MAKE # 1 / LABEL $ / FD 10 / MAKE # #+1"), std::string::npos);
 }
 
+TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
+  Write("NOTHING.ZRM", "TO A|RT 90|END|");
+  Write("PENUP.ZRM", "TO A|CS|PU|FD 90|END|");
+  Write("TITLE.ZRM", "TO A|BK 190|END|");
+  Write("CLEAR.ZRM", "TO A|FD 50|END|");
+  Write("OUTSIDE.ZRM", "TO A|CS|PU|SETXY 400 400|PD|FD 100|END|");
+  Write("WIPED.ZRM", "TO A|CS|SETXY 30 20|SETBG 1|END|");
+  Write("FENCED.ZRM", "TO A|CS|FENCE|FD 20|FD 900|END|");
+  Write("TWICE.ZRM", "TO A|LOAD CLEAR|LOAD CLEAR|CS|FD 9|END|");
+  Write("ROUND.ZRM", "TO ROUND|CS|FD 1|RT 90|ROUND|END|");
+  Write("ASKED.ZRM", "TO A|CS|FD 9|FD|END|");
+  Write("ALL.ZRM", "TO A :N|FD :N|END|");
+  Run("--steps 5000");
+  for (const auto& [file, mistakes] :
+       {std::pair("NOTHING.ZRM", "nothing drawn"), std::pair("PENUP.ZRM", "nothing with pen up"),
+        std::pair("TITLE.ZRM", "under the title"), std::pair("CLEAR.ZRM", ""),
+        std::pair("OUTSIDE.ZRM", "outside the picture"), std::pair("WIPED.ZRM", "picture wiped"),
+        std::pair("FENCED.ZRM", "fence hit"), std::pair("TWICE.ZRM", "loaded twice"),
+        std::pair("ROUND.ZRM", "for ever"),
+        // The same thing is told once.
+        std::pair("ASKED.ZRM", "missing inputs"), std::pair("ALL.ZRM", "")}) {
+    EXPECT_EQ(MistakesOf(file), mistakes) << file;
+  }
+}
+
 TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {
   Write("SPIN.ZRM", Endless);
   Run("--steps 1000");
@@ -287,8 +320,27 @@ TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
   EXPECT_EQ(run.Status, 0);
   EXPECT_NE(Program.Read("all.html").find("<a href=\"all-1.html\">class/A.ZRM \xE2\x80\x93 class/B.ZRM</a>"),
             std::string::npos);
-  EXPECT_NE(Program.Read("all-1.html").find("src=\"data:image/png;base64,"), std::string::npos);
   EXPECT_EQ(std::ranges::count(Program.Read("all.csv"), '\n'), 4);
+  // One picture for each, in all sizes.
+  EXPECT_EQ(std::distance(fs::directory_iterator(Program.Folder() / "all-1.pictures"), {}), 3);
+  EXPECT_NE(Program.Read("all-1.html").find("<img width=\"160\" "), std::string::npos);
+  EXPECT_NE(Program.Read("all-1.html").find("src=\"all-1.pictures/3.png\""), std::string::npos);
+  EXPECT_EQ(Program.Read("all-1.html").find("base64,"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, ProgramsOfDifferentPartsMayBeAlike) {
+  Write("A.ZRM", "TO A|CS|FD 1|RT 2|FD 3|SETPC 4|STAMPCIRCLE 5|LT 6|BK 7|END|");
+  Write("B.ZRM", "TO B|CS|SETPC 1|STAMPCIRCLE 9|FD :A|RT 1|FD 9|LT 7|BK 8|END|");
+  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\n");
+  Program.Run("--list list --shard 1/2 --jsonl 1.jsonl");
+  Program.Run("--list list --shard 2/2 --jsonl 2.jsonl");
+  Program.Run("--merge 1.jsonl 2.jsonl --out all.html");
+  EXPECT_NE(Program.Read("all.html")
+                .find("<a href=\"all-1.html#p1\">class/A.ZRM</a> and "
+                      "<a href=\"all-1.html#p2\">class/B.ZRM</a>: 100 per cent"),
+            std::string::npos);
+  Program.Run("--merge 1.jsonl 2.jsonl --out all.html --template class/A.ZRM");
+  EXPECT_EQ(Program.Read("all.html").find("of the lines are alike"), std::string::npos);
 }
 
 TEST_F(ClassProgramTest, ATableThatCanNotBeWrittenLeavesTheFormerOne) {

@@ -192,6 +192,15 @@ TEST(ReportPage, TellsHowAGoalWasMissed) {
   EXPECT_TRUE(page.contains("1 of 4 points"));
 }
 
+TEST(ReportPage, TellsWhereADrawingIsInstead) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Goals = {{"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {-500, 1000}}},
+                    {"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {}}}};
+  const QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("It is the goal, but shifted by 10 steps to the left, shifted down by 20 steps."));
+  EXPECT_TRUE(page.contains("It is the goal, but its lines have another order, direction, splitting or colour."));
+}
+
 TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
   PupilRun run = RunOf("ANNA.ZRM");
   run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 40, 3, Placement{90, false, 1, {}}},
@@ -214,12 +223,23 @@ TEST(ReportPage, SpeaksGerman) {
   report.Words = FindLanguage("de");
   EXPECT_TRUE(PageOf(report).contains("<html lang=\"de\">"));
   EXPECT_TRUE(PageOf(report).contains("nichts auff\xC3\xA4llig"));
+  report.Runs[0].Went.How = Result::NotRun;
+  report.Runs[0].Went.Message = "the program is a folder";
+  report.Runs[0].Went.Notes = {"BOX needs inputs and was not called: give them in a session.", "another note"};
+  report.Runs[0].Went.Findings = {{Mistake::UnknownWord, 0, {"X", ""}}};
+  EXPECT_TRUE(PageOf(report).contains("data-notes=\"nicht gelaufen|unbekanntes Wort\""));
+  EXPECT_TRUE(PageOf(report).contains("nicht gelaufen: das "));
+  EXPECT_TRUE(PageOf(report).contains("BOX braucht Eingaben und wurde nicht aufgerufen"));
+  EXPECT_TRUE(PageOf(report).contains("another note"));
   EXPECT_EQ(FindLanguage("xx"), nullptr);
 }
 
 TEST(Language, HasWordsForEveryMistake) {
   for (const char* code : {"en", "de"}) {
     for (const char* words : FindLanguage(code)->Mistakes) EXPECT_NE(words, nullptr) << code;
+    QSet<QString> names;
+    for (const MistakeFacts& facts : Mistakes()) names.insert(FindLanguage(code)->NameOf(facts.What));
+    EXPECT_EQ(names.size(), static_cast<qsizetype>(Mistake::Count)) << code;
   }
 }
 
@@ -234,7 +254,7 @@ TEST(ReportPage, PicturesThatWouldMakeItTooLargeLieBeside) {
   };
   Report report;
   report.Runs = {pictureOf("small.png", 100), pictureOf("large.png", PictureSource::MostBytes)};
-  const QString page = QString::fromUtf8(PageOf(report, temp.Path / "a b.pictures"));
+  const QString page = QString::fromUtf8(PageOf(report, PictureSource(temp.Path / "a b.pictures")));
   EXPECT_LT(page.size(), 100'000);
   EXPECT_TRUE(page.contains("src=\"a%20b.pictures/1.png\""));
   EXPECT_TRUE(page.contains("img-src data: file: 'self';"));
