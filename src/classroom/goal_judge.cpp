@@ -73,7 +73,8 @@ void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, co
   if (!model) return;
   const ShapeComparison comparison = Compare(*model, run.Recorder().Drawn(), order.Goals[index].Shapes);
   outcome.Met = comparison.Same;
-  outcome.Percent = comparison.Percent;
+  // Within the tolerance, nothing is missing.
+  outcome.Percent = comparison.Same ? 100 : comparison.Percent;
   outcome.Placed = comparison.Placed;
   const QSize size = QImage(NameOf(run_file::GoalPicture(index))).size();
   WriteDifference(run_file::Difference(index), size, run.Recorder().Drawn(), comparison);

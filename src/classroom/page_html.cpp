@@ -50,9 +50,12 @@ QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(PlaceOf
 
 std::optional<QString> PictureSource::Image(const std::filesystem::path& file, const QString& alternative, int width) {
   if (file.empty()) return std::nullopt;
+  // Beside the page, one picture serves all sizes.
+  const bool liesBeside = !beside_.empty() && bytes_ >= mostInside_;
   QSize size;
-  const QByteArray bytes = BytesOfPicture(file, width, size);
+  const QByteArray bytes = BytesOfPicture(file, liesBeside ? 0 : width, size);
   if (bytes.isEmpty()) return std::nullopt;
+  if (width > 0 && size.width() > width) size.scale(width, size.height(), Qt::KeepAspectRatio);
   bytes_ += static_cast<std::size_t>(bytes.size());
   if (IsFull()) return std::nullopt;
   return QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"").arg(size.width()).arg(size.height()) + alternative +
@@ -60,7 +63,6 @@ std::optional<QString> PictureSource::Image(const std::filesystem::path& file, c
 }
 
 QString PictureSource::AddressOf(const std::filesystem::path& file, const QByteArray& bytes) {
-  // The page shows the one picture beside it in all sizes.
   if (!beside_.empty() && bytes_ > mostInside_) return Beside(file);
   return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
 }

@@ -135,15 +135,15 @@ class PageWriter {
 
   void WriteOverview() {
     if (report_.Runs.empty()) return Add(Paragraph(Utf8(language_.NoPrograms)));
-    const auto head = [](const char* words) {
-      return QStringLiteral("<th scope=\"col\">") + Utf8(words) + QStringLiteral("</th>");
+    const auto head = [](const char* words, const char* kind = "text") {
+      return QStringLiteral("<th scope=\"col\" class=\"%1\">%2</th>").arg(QLatin1String(kind), Utf8(words));
     };
     Add(QStringLiteral("<div class=\"overview\">\n") + Element("h2", "", Utf8(language_.Overview)));
     Add(QStringLiteral("\n<div id=\"filter\" class=\"screen\" data-label=\"%1\" data-all=\"%2\"></div>\n")
             .arg(Utf8(language_.Filter), Utf8(language_.All)));
     Add(QStringLiteral("<div class=\"table\">\n<table id=\"overview\">\n<thead><tr>") + head(language_.Pupil) +
-        head(language_.HowItWent) + head(language_.WentWrong) + head(language_.GoalsHead) + head(language_.Boxes) +
-        head(language_.Time) + QStringLiteral("</tr></thead>\n<tbody>\n"));
+        head(language_.HowItWent) + head(language_.WentWrong) + head(language_.GoalsHead, "number") +
+        head(language_.Boxes, "number") + head(language_.Time, "number") + QStringLiteral("</tr></thead>\n<tbody>\n"));
     for (std::size_t i = 0; i < report_.Runs.size(); ++i) WriteRow(report_.Runs[i], i + 1);
     Add(QStringLiteral("</tbody>\n</table>\n</div>\n</div>\n"));
   }

@@ -275,6 +275,19 @@ TEST_F(ClassProgramTest, ComparesWithATask) {
   EXPECT_NE(Page.find("It is the goal, but"), std::string::npos);
 }
 
+TEST_F(ClassProgramTest, AGoalThatIsMetHasAllPerCent) {
+  Program.Write("goal.ZRM", "TO GOAL\r\nCS\r\nREPEAT 5 [FD 100 RT 144]\r\nEND\r\n");
+  Write("ANNA.ZRM", "TO ANNA|CS|RT 144|REPEAT 5 [BK 100 LT 144]|END|");
+  Write("BEN.ZRM", "TO BEN|CS|LT 36|REPEAT 5 [BK 50 BK 50 RT 144]|END|");
+  Write("CARLA.ZRM", "TO CARLA|CS|REPEAT 5 [FD 100 RT 144]|END|");
+  Run("--task goal.ZRM");
+  for (const char* file : {"ANNA.ZRM", "BEN.ZRM", "CARLA.ZRM"}) {
+    const QJsonObject goal = Pupil(file).value("goals").toArray().at(0).toObject();
+    EXPECT_EQ(goal.value("met").toBool(), goal.value("percent").toDouble() == 100) << file;
+  }
+  EXPECT_TRUE(Pupil("CARLA.ZRM").value("goals").toArray().at(0).toObject().value("met").toBool());
+}
+
 TEST_F(ClassProgramTest, OneSessionServesTheWholeClass) {
   Write("ANNA.ZRM", "TO BOX :S|PRINT :S|END|");
   Write("BEN.ZRM", "TO SIDE :N|FD :N|END|TO BEN :N|PRINT 2*:N|SIDE :N|END|");
