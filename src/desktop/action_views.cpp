@@ -16,34 +16,32 @@ constexpr int LargeStep = 16;
 /// The three bars of an array stand for red, green and blue.
 constexpr QRgb BarColours[] = {qRgb(240, 120, 120), qRgb(120, 210, 120), qRgb(130, 150, 250)};
 
-/// Only Tab moves the focus here: a click leaves it where the learner types.
-void SetUp(QWidget& widget) {
-  widget.setFocusPolicy(Qt::TabFocus);
-  widget.setFont(ControlFont(ButtonPoints));
-}
-
 }  // namespace
 
 ButtonView::ButtonView(Button& control, QWidget& parent, Events& events)
     : ControlView(control, *new QPushButton(&parent)), button_(control), shown_(static_cast<QPushButton&>(Widget())) {
-  SetUp(shown_);
+  // Only Tab moves the focus here: a click leaves it where the learner types.
+  shown_.setFocusPolicy(Qt::TabFocus);
   QObject::connect(&shown_, &QAbstractButton::clicked, &shown_,
                    [this, &events] { events.Deliver([this](Form1& form1) { form1.Click(button_); }); });
 }
 
 void ButtonView::SyncLook() {
+  ShowLetters(shown_, ButtonPoints);
   const QString caption = ToQString(button_.Caption);
   if (shown_.text() != caption) shown_.setText(caption);
 }
 
 CheckView::CheckView(CheckBox& control, QWidget& parent, Events& events)
     : ControlView(control, *new QCheckBox(&parent)), box_(control), shown_(static_cast<QCheckBox&>(Widget())) {
-  SetUp(shown_);
+  // Only Tab moves the focus here: a click leaves it where the learner types.
+  shown_.setFocusPolicy(Qt::TabFocus);
   QObject::connect(&shown_, &QAbstractButton::clicked, &shown_,
                    [this, &events] { events.Deliver([this](Form1& form1) { form1.Click(box_); }); });
 }
 
 void CheckView::SyncLook() {
+  ShowLetters(shown_, ButtonPoints);
   const QString caption = ToQString(box_.Caption);
   if (shown_.text() != caption) shown_.setText(caption);
   if (shown_.isChecked() != (box_.Value != 0)) shown_.setChecked(box_.Value != 0);

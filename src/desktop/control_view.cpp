@@ -14,15 +14,21 @@ namespace {
 constexpr double EasyContrast = 7;
 constexpr Colour Black = 0x000000;
 
-int Pixels(float units) { return static_cast<int>(std::lround(units / UnitsPerPixel)); }
-
 }  // namespace
 
-QRect InPixels(const Control& control) {
-  const QPoint topLeft(Pixels(control.Left), Pixels(control.Top));
-  const QPoint past(Pixels(control.Left + control.Width), Pixels(control.Top + control.Height()));
+double ZoomOf(const QWidget& widget) {
+  const QVariant percent = widget.window()->property(ZoomPercent);
+  return percent.isValid() ? percent.toInt() / 100.0 : 1;
+}
+
+QRect InPixels(const Control& control, double zoom) {
+  const auto pixels = [zoom](float units) { return static_cast<int>(std::lround(units * zoom / UnitsPerPixel)); };
+  const QPoint topLeft(pixels(control.Left), pixels(control.Top));
+  const QPoint past(pixels(control.Left + control.Width), pixels(control.Top + control.Height()));
   return {topLeft, past - QPoint(1, 1)};
 }
+
+float Units(const QWidget& widget, int pixels) { return static_cast<float>(pixels * UnitsPerPixel / ZoomOf(widget)); }
 
 void ControlView::Sync(const Room& room) {
   if (!IsHeld()) {
@@ -33,11 +39,12 @@ void ControlView::Sync(const Room& room) {
   if (widget_.isHidden() == source_.Visible()) widget_.setVisible(source_.Visible());
 }
 
-QRect ControlView::Place(const Room&) const { return InPixels(source_); }
+QRect ControlView::Place(const Room&) const { return PlaceInData(); }
 
-QFont ReadingFont(const QWidget& widget, double points, bool bold) {
-  const QVariant percent = widget.window()->property(LetterPercent);
-  return ControlFont(percent.isValid() ? points * percent.toInt() / 100 : points, bold);
+void ShowLetters(QWidget& widget, double points, bool bold) {
+  QFont font = ControlFont(points, bold);
+  font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * ZoomOf(widget))));
+  if (widget.font() != font) widget.setFont(font);
 }
 
 void ShowTextColours(QWidget& widget, Colour background, Colour text) {

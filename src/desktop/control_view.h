@@ -15,8 +15,15 @@ struct Room {
   QRect AboveRows;
 };
 
+/// How large a window shows everything: its property of this name, in percent. What the controls say stays.
+inline constexpr const char* ZoomPercent = "zoomPercent";
+/// 1 for a window without that property.
+double ZoomOf(const QWidget& widget);
+
 /// The place of a control in pixels, from its place in surface units.
-QRect InPixels(const Control& control);
+QRect InPixels(const Control& control, double zoom = 1);
+/// The way back, for a distance in a widget.
+float Units(const QWidget& widget, int pixels);
 
 /// Shows one control in one widget. The data is authoritative: `Sync` brings the widget up to date with it, and
 /// `Collect` copies what the user changed back to it. The widget belongs to its parent widget.
@@ -34,6 +41,8 @@ class ControlView {
   virtual void Collect() {}
 
  protected:
+  /// Where the data says that the widget is, in pixels.
+  QRect PlaceInData() const { return InPixels(source_, ZoomOf(widget_)); }
   /// Where the widget goes. By default, where the data says.
   virtual QRect Place(const Room& room) const;
   /// Whether the user is dragging the widget.
@@ -54,9 +63,7 @@ void ShowColours(QWidget& widget, Colour background, Colour text);
 inline constexpr const char* EasyToRead = "easyToRead";
 void ShowTextColours(QWidget& widget, Colour background, Colour text);
 
-/// The font for text that the class reads, by its size in points: as large as the window's property of this name says,
-/// in percent.
-inline constexpr const char* LetterPercent = "letterPercent";
-QFont ReadingFont(const QWidget& widget, double points, bool bold = false);
+/// Gives a widget the font of a control, in points, unless it has it already.
+void ShowLetters(QWidget& widget, double points, bool bold = false);
 
 }  // namespace zerimo

@@ -107,11 +107,10 @@ void EditorView::Collect() {
   shown_ = box_.Text;
 }
 
-QRect EditorView::Place(const Room& room) const { return InPixels(Source()).intersected(room.Client); }
+QRect EditorView::Place(const Room& room) const { return PlaceInData().intersected(room.Client); }
 
 void EditorView::SyncLook() {
-  const QFont font = ReadingFont(area_, box_.FontSize);
-  if (area_.font() != font) area_.setFont(font);
+  ShowLetters(area_, box_.FontSize);
   ShowTextColours(area_, box_.BackColor, box_.ForeColor);
   if (touched_ || box_.Text == shown_) return;
   area_.ReplaceText(WithLineEnds(box_.Text));

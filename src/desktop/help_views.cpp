@@ -1,8 +1,10 @@
 #include "desktop/help_views.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <cmath>
 
 #include "desktop/desktop_text.h"
 #include "desktop/page_document.h"
@@ -16,13 +18,14 @@ namespace {
 constexpr double ListPoints = 10.5;
 constexpr double PagePoints = 12;
 constexpr double PageMargin = 16;
+/// 96 an inch.
+constexpr double DotsPerMetre = 96 / 0.0254;
 
 }  // namespace
 
 PageList::PageList(QWidget& parent, FileListBox& control, Events& events)
     : QListWidget(&parent), list_(control), events_(events) {
   setUniformItemSizes(true);
-  setFont(ControlFont(ListPoints));
 }
 
 void PageList::mousePressEvent(QMouseEvent* event) {
@@ -46,6 +49,7 @@ void PageList::Press() {
 
 void FileListView::SyncLook() {
   auto& pages = static_cast<PageList&>(Widget());
+  ShowLetters(pages, ListPoints);
   if (shown_ != list_.Items) {
     shown_ = list_.Items;
     pages.clear();
@@ -67,9 +71,18 @@ PageView::PageView(RichTextView& control, QWidget& parent, Events&)
     : ControlView(control, *new PageArea(&parent)), page_(control), edit_(static_cast<PageArea&>(Widget())) {
   edit_.setAcceptRichText(false);
   edit_.document()->setDocumentMargin(PageMargin);
-  edit_.setFont(ControlFont(PagePoints));
   ShowColours(edit_, 0xFFFFFF, 0);
   QObject::connect(&edit_, &QTextEdit::textChanged, &edit_, [this] { touched_ = true; });
+}
+
+void PageView::ShowSize() {
+  const int dots = static_cast<int>(std::lround(DotsPerMetre * ZoomOf(edit_)));
+  if (paper_.dotsPerMeterX() == dots) return;
+  paper_ = QImage(1, 1, QImage::Format_RGB32);
+  paper_.setDotsPerMeterX(dots);
+  paper_.setDotsPerMeterY(dots);
+  edit_.document()->documentLayout()->setPaintDevice(&paper_);
+  edit_.document()->markContentsDirty(0, edit_.document()->characterCount());
 }
 
 void PageView::Collect() {
@@ -81,6 +94,7 @@ void PageView::Collect() {
 }
 
 void PageView::SyncLook() {
+  ShowSize();
   if (shownVersion_ == page_.Version) return;
   shownVersion_ = page_.Version;
   FillDocument(*edit_.document(), ReadRtf(page_.Document));

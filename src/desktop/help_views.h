@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QListWidget>
 #include <QTextEdit>
 
@@ -31,7 +32,7 @@ class FileListView : public ControlView {
       : ControlView(control, *new PageList(parent, control, events)), list_(control) {}
 
  protected:
-  QRect Place(const Room& room) const override { return InPixels(Source()).intersected(room.AboveRows); }
+  QRect Place(const Room& room) const override { return PlaceInData().intersected(room.AboveRows); }
   void SyncLook() override;
 
  private:
@@ -56,12 +57,16 @@ class PageView : public ControlView {
   void Collect() override;
 
  protected:
-  QRect Place(const Room& room) const override { return InPixels(Source()).intersected(room.AboveRows); }
+  QRect Place(const Room& room) const override { return PlaceInData().intersected(room.AboveRows); }
   void SyncLook() override;
 
  private:
+  void ShowSize();
+
   RichTextView& page_;
   PageArea& edit_;
+  /// Its resolution is that of the page: letters and distances of a page are in points.
+  QImage paper_;
   std::uint64_t shownVersion_ = 0;
   bool touched_ = false;
 };

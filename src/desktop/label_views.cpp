@@ -6,7 +6,6 @@
 
 #include "console/control_words.h"
 #include "desktop/desktop_text.h"
-#include "graphics/surface.h"
 
 namespace zerimo {
 
@@ -20,7 +19,6 @@ class CaptionText final : public QLabel {
  public:
   CaptionText(QWidget& parent, const Label& control) : QLabel(&parent), label_(control) {
     setTextFormat(Qt::PlainText);
-    setFont(ControlFont(CaptionPoints, true));
   }
 
  protected:
@@ -43,8 +41,6 @@ MouseButton ToMouseButton(Qt::MouseButton button) {
   return button == Qt::MiddleButton ? MouseButton::Middle : MouseButton::None;
 }
 
-float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
-
 }  // namespace
 
 LabelView::LabelView(Label& control, QWidget& parent, Events&)
@@ -53,12 +49,12 @@ LabelView::LabelView(Label& control, QWidget& parent, Events&)
       text_(static_cast<QLabel&>(Widget())),
       words_(FindControlWords(control.Name())) {
   text_.setTextFormat(Qt::PlainText);
-  text_.setFont(ControlFont(LabelPoints));
   text_.setAutoFillBackground(true);
   text_.setMouseTracking(true);
 }
 
 void LabelView::SyncLook() {
+  ShowLetters(text_, LabelPoints);
   const QString caption = ToQString(label_.Caption);
   if (text_.text() != caption) ShowText(caption);
   ShowColours(text_, label_.BackColor, label_.ForeColor);
@@ -77,6 +73,7 @@ CaptionView::CaptionView(Label& control, QWidget& parent, Events&)
     : ControlView(control, *new CaptionText(parent, control)), label_(control), text_(static_cast<QLabel&>(Widget())) {}
 
 void CaptionView::SyncLook() {
+  ShowLetters(text_, CaptionPoints, true);
   const QString caption = ToQString(label_.Caption);
   if (text_.text() != caption) text_.setText(caption);
 }
@@ -85,12 +82,12 @@ PressLabel::PressLabel(QWidget& parent, Label& control, Events& events)
     : QAbstractButton(&parent), label_(control), events_(events) {
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
-  setFont(ControlFont(LabelPoints, true));
   // For screen readers; mouse and keys have their own handlers below.
   QObject::connect(this, &QAbstractButton::clicked, this, [this] { PressWithKey(false, false); });
 }
 
 void PressLabel::Sync() {
+  ShowLetters(*this, LabelPoints, true);
   const auto sameLook = [](const Label& one, const Label& other) {
     return one.BackColor == other.BackColor && one.ForeColor == other.ForeColor &&
            one.BorderStyle == other.BorderStyle && one.Caption == other.Caption;
@@ -122,7 +119,7 @@ void PressLabel::paintEvent(QPaintEvent*) {
 
 void PressLabel::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
-  events_.Deliver([&](Form1& form1) { form1.MouseMove(label_, Units(at.x()), Units(at.y())); });
+  events_.Deliver([&](Form1& form1) { form1.MouseMove(label_, Units(*this, at.x()), Units(*this, at.y())); });
 }
 
 void PressLabel::mousePressEvent(QMouseEvent* event) {
@@ -139,7 +136,8 @@ void PressLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PressLabel::Press(MouseButton button, bool shift, QPoint at) {
-  events_.Deliver([&](Form1& form1) { form1.MouseDown(label_, button, shift, Units(at.x()), Units(at.y())); });
+  events_.Deliver(
+      [&](Form1& form1) { form1.MouseDown(label_, button, shift, Units(*this, at.x()), Units(*this, at.y())); });
 }
 
 void PressLabel::keyPressEvent(QKeyEvent* event) {

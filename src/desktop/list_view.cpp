@@ -39,6 +39,7 @@ bool ListEntries::Sync() {
 }
 
 void ListEntries::SetFont(const QFont& font) {
+  if (font_ == font) return;
   font_ = font;
   widest_ = 0;
   if (rows_ > 0) Measure(0);
@@ -78,16 +79,13 @@ ListBoxView::ListBoxView(ListBox& list, QWidget& parent, Events& events)
 }
 
 QRect ListBoxView::Place(const Room& room) const {
-  const QRect place = InPixels(Source());
+  const QRect place = PlaceInData();
   return Source().Panel() == nullptr ? place.intersected(room.AboveRows) : place;
 }
 
 void ListBoxView::SyncLook() {
-  const QFont font = ReadingFont(view_, list_.FontSize, list_.FontSize >= BoldFrom);
-  if (view_.font() != font) {
-    view_.setFont(font);
-    entries_.SetFont(font);
-  }
+  ShowLetters(view_, list_.FontSize, list_.FontSize >= BoldFrom);
+  entries_.SetFont(view_.font());
   ShowTextColours(view_, list_.BackColor, list_.ForeColor);
   if (list_.IsOnScreen()) ShowEntries();
 }

@@ -81,7 +81,7 @@ ControlView* MainWindow::FindView(const Control& control) const {
 Room MainWindow::RoomNow() const {
   Room room{rect(), rect()};
   const Control& rows = form1_.controls.Picture3;
-  if (rows.Visible()) room.AboveRows.setBottom(RowsPanelView::PlaceIn(rows, rect()).top() - 1);
+  if (rows.Visible()) room.AboveRows.setBottom(RowsPanelView::PlaceIn(rows, rect(), ZoomOf(*this)).top() - 1);
   return room;
 }
 

@@ -22,6 +22,8 @@ class MainWindow : public QWidget {
   /// Copies what the user changed from the widgets to the controls.
   void Collect();
 
+  Room RoomNow() const;
+
   /// Tells a screen reader where the turtle is.
   void DescribeTurtle();
 
@@ -53,7 +55,6 @@ class MainWindow : public QWidget {
   void SetTabOrder();
   void Describe(const ControlView& view);
 
-  Room RoomNow() const;
   void SyncPlace();
   void SyncFocus();
   void FillAvailableArea();

@@ -92,7 +92,7 @@ void Overlay::DrawTitle(QPainter& painter, const QRect& part) {
     return;
   }
   const QRect place = InPixels(controls_.Image1);
-  const double ratio = painter.device()->devicePixelRatioF();
+  const double ratio = painter.device()->devicePixelRatioF() * painter.worldTransform().m11();
   if (title_.size() != place.size() * ratio) {
     title_ = QPixmap(place.size() * ratio);
     title_.setDevicePixelRatio(ratio);

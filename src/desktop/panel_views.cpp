@@ -4,19 +4,18 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/desktop_text.h"
-#include "graphics/surface.h"
 
 namespace zerimo {
 
 namespace {
 
 constexpr double PanelPoints = 9.75;
+constexpr int UsualBarHeight = 20;
 constexpr Colour CaptionGround = 0xFF0000;
 constexpr Colour CaptionLetters = 0x00FFFF;
-
-float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
 
 /// Moves a place into the window; if it does not fit, its upper left corner takes precedence.
 QRect WithinReach(QRect place, const QRect& client) {
@@ -32,8 +31,8 @@ RowsPanelView::RowsPanelView(PanelBox& control, QWidget& parent, Events&)
   Widget().setAutoFillBackground(true);
 }
 
-QRect RowsPanelView::PlaceIn(const Control& panel, const QRect& client) {
-  QRect place = InPixels(panel);
+QRect RowsPanelView::PlaceIn(const Control& panel, const QRect& client, double zoom) {
+  QRect place = InPixels(panel, zoom);
   if (place.bottom() > client.bottom()) place.moveBottom(client.bottom());
   return place;
 }
@@ -44,26 +43,29 @@ CaptionFrame::CaptionFrame(QWidget& parent, const PanelBox& control) : QFrame(&p
   setFrameShape(StyledPanel);
   setFrameShadow(Raised);
   setAutoFillBackground(true);
-  setFont(ControlFont(PanelPoints, true));
   ShowColours(*this, panel_.BackColor, 0);
 }
+
+int CaptionFrame::BarHeight() const { return static_cast<int>(std::lround(UsualBarHeight * ZoomOf(*this))); }
 
 void CaptionFrame::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);
-  const QRect bar(0, 0, width(), BarHeight);
+  const QRect bar(0, 0, width(), BarHeight());
   painter.fillRect(bar, ToQColor(CaptionGround));
   painter.setPen(ToQColor(CaptionLetters));
   painter.drawText(bar.adjusted(10, 0, 0, 0), Qt::AlignVCenter, ToQString(panel_.Caption));
 }
 
 QRect FramePanelView::Place(const Room& room) const {
-  QRect place = InPixels(Source()).translated(static_cast<CaptionFrame&>(Widget()).Shift());
+  QRect place = PlaceInData().translated(static_cast<CaptionFrame&>(Widget()).Shift());
   const QRect& area = place.height() <= room.AboveRows.height() ? room.AboveRows : room.Client;
   place = WithinReach(place, area);
   if (place.right() > area.right()) place.moveRight(area.right());
   return place;
 }
+
+void FramePanelView::SyncLook() { ShowLetters(Widget(), PanelPoints, true); }
 
 PaletteFrame::PaletteFrame(QWidget& parent, PanelBox& control, Events& events)
     : QFrame(&parent), panel_(control), events_(events) {
@@ -77,13 +79,13 @@ PaletteFrame::PaletteFrame(QWidget& parent, PanelBox& control, Events& events)
 void PaletteFrame::mousePressEvent(QMouseEvent* event) {
   grab_ = event->position().toPoint();
   // A touch is not preceded by mouse moves.
-  events_.Deliver([this](Form1& form1) { form1.MouseMove(panel_, Units(grab_.x()), Units(grab_.y())); });
+  events_.Deliver([this](Form1& form1) { form1.MouseMove(panel_, Units(*this, grab_.x()), Units(*this, grab_.y())); });
 }
 
 void PaletteFrame::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (!event->buttons().testFlag(Qt::LeftButton)) {
-    return events_.Deliver([&](Form1& form1) { form1.MouseMove(panel_, Units(at.x()), Units(at.y())); });
+    return events_.Deliver([&](Form1& form1) { form1.MouseMove(panel_, Units(*this, at.x()), Units(*this, at.y())); });
   }
   dragged_ = dragged_ || (at - grab_).manhattanLength() >= QApplication::startDragDistance();
   if (dragged_) DragTo(mapToParent(at));
@@ -92,9 +94,8 @@ void PaletteFrame::mouseMoveEvent(QMouseEvent* event) {
 void PaletteFrame::DragTo(QPoint inWindow) {
   move(inWindow - grab_);
   events_.Deliver([&](Form1& form1) {
-    const bool overForm =
-        !InPixels(form1.Picture1).contains(inWindow) && !InPixels(form1.controls.Picture3).contains(inWindow);
-    if (overForm) form1.DragOver();
+    const auto isOver = [&](const Control& control) { return InPixels(control, ZoomOf(*this)).contains(inWindow); };
+    if (!isOver(form1.Picture1) && !isOver(form1.controls.Picture3)) form1.DragOver();
   });
 }
 
@@ -107,19 +108,19 @@ void PaletteFrame::mouseReleaseEvent(QMouseEvent* event) {
 void PaletteFrame::DropAt(QPoint inWindow) {
   events_.Deliver([&](Form1& form1) {
     // Dropped anywhere else, the panel returns to its place.
-    if (!InPixels(form1.Picture1).contains(inWindow)) return;
-    form1.DragDrop(panel_, Units(inWindow.x()), Units(inWindow.y()));
+    if (!InPixels(form1.Picture1, ZoomOf(*this)).contains(inWindow)) return;
+    form1.DragDrop(panel_, Units(*this, inWindow.x()), Units(*this, inWindow.y()));
   });
 }
 
-QRect PaletteView::Place(const Room& room) const { return WithinReach(InPixels(Source()), room.Client); }
+QRect PaletteView::Place(const Room& room) const { return WithinReach(PlaceInData(), room.Client); }
 
 PaletteShapes::PaletteShapes(QWidget& parent, const Controls& controls) : QWidget(&parent), controls_(controls) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void PaletteShapes::Sync() {
-  const QRect wanted = InPixels(controls_.Shape5);
+  const QRect wanted = InPixels(controls_.Shape5, ZoomOf(*this));
   if (geometry() != parentWidget()->rect()) setGeometry(parentWidget()->rect());
   if (shown_ == wanted) return;
   shown_ = wanted;
@@ -131,7 +132,7 @@ void PaletteShapes::paintEvent(QPaintEvent*) {
   for (const Shape* shape : {&controls_.Shape5, &controls_.Shape7}) {
     if (!shape->Visible()) continue;
     painter.setPen(QPen(ToQColor(shape->BorderColor), shape->BorderWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    painter.drawRect(InPixels(*shape).adjusted(0, 0, -1, -1));
+    painter.drawRect(InPixels(*shape, ZoomOf(*this)).adjusted(0, 0, -1, -1));
   }
 }
 

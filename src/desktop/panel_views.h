@@ -12,10 +12,10 @@ class RowsPanelView : public ControlView {
  public:
   RowsPanelView(PanelBox& control, QWidget& parent, Events& events);
   /// The panel's place in a window with this client area.
-  static QRect PlaceIn(const Control& panel, const QRect& client);
+  static QRect PlaceIn(const Control& panel, const QRect& client, double zoom);
 
  protected:
-  QRect Place(const Room& room) const override { return PlaceIn(Source(), room.Client); }
+  QRect Place(const Room& room) const override { return PlaceIn(Source(), room.Client, ZoomOf(Widget())); }
   void SyncLook() override;
 
  private:
@@ -25,10 +25,10 @@ class RowsPanelView : public ControlView {
 /// A panel with its caption in a bar along the upper edge.
 class CaptionFrame : public QFrame {
  public:
-  /// The height of the bar in pixels, that of the palette's title.
-  static constexpr int BarHeight = 20;
-
   CaptionFrame(QWidget& parent, const PanelBox& control);
+
+  /// The height of the bar in pixels, that of the palette's title.
+  int BarHeight() const;
 
   /// Where the panel is shown, beside the place that its data says, in pixels.
   QPoint Shift() const { return shift_; }
@@ -51,6 +51,7 @@ class FramePanelView : public ControlView {
 
  protected:
   QRect Place(const Room& room) const override;
+  void SyncLook() override;
 };
 
 /// The palette, which is dragged by its title or its background.

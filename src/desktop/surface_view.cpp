@@ -13,10 +13,40 @@ namespace {
 
 constexpr QPoint HintDistance(14, 20);
 constexpr Colour HintGround = 0xE1FFFF;
+constexpr double HintPoints = 9.75;
 
-float Units(int pixels) { return static_cast<float>(pixels * UnitsPerPixel); }
+/// At least the pixels that a part covers at another scale.
+QRect Scaled(const QRect& part, double factor) {
+  if (factor == 1) return part;
+  const QRectF scaled(part.x() * factor, part.y() * factor, part.width() * factor, part.height() * factor);
+  return scaled.toAlignedRect().adjusted(-1, -1, 1, 1);
+}
 
 }  // namespace
+
+void DrawPicture(QPainter& painter, const QImage& picture, const QRegion& parts) {
+  const double scale = painter.worldTransform().m11();
+  const double ratio = painter.device()->devicePixelRatioF() * scale;
+  // At fractional scales, unsmoothed pixels would differ in size.
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, std::abs(ratio - std::round(ratio)) > 0.01);
+  for (const QRect& part : parts) {
+    const QRect source = Scaled(part, 1 / scale).intersected(picture.rect());
+    painter.drawImage(source, picture, source);
+  }
+}
+
+QRect SurfaceView::Place(const Room& room) const {
+  QRect place = PlaceInData();
+  const double zoom = ZoomOf(Widget());
+  if (zoom <= 1) return place;
+  const QPointF middle = static_cast<SurfaceWidget&>(Widget()).Middle() * zoom / UnitsPerPixel;
+  const QSize beyond = room.AboveRows.size() - place.size();
+  const QPoint corner = room.AboveRows.center() - middle.toPoint();
+  // The edges of the picture stay at those of the space or outside.
+  place.moveLeft(std::clamp(corner.x(), std::min(beyond.width(), 0), 0));
+  place.moveTop(std::clamp(corner.y(), std::min(beyond.height(), 0), 0));
+  return place;
+}
 
 SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form1, ImageCanvas& canvas, Events& events)
     : QWidget(&parent),
@@ -34,41 +64,41 @@ SurfaceWidget::SurfaceWidget(QWidget& parent, Form1& form1, ImageCanvas& canvas,
   hint_->setAutoFillBackground(true);
   hint_->setFrameShape(QFrame::Box);
   hint_->setMargin(2);
-  hint_->setFont(ControlFont(9.75));
   hint_->hide();
 }
 
 void SurfaceWidget::Sync() {
+  const double zoom = ZoomOf(*this);
   const QRect drawn = ToQRect(canvas_.TakeDirty());
-  if (!drawn.isEmpty()) update(drawn);
-  const QRegion changed = overlay_.TakeChanged();
-  if (!changed.isEmpty()) update(changed);
+  if (!drawn.isEmpty()) update(Scaled(drawn, zoom));
+  for (const QRect& changed : overlay_.TakeChanged()) update(Scaled(changed, zoom));
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  // At fractional scales, unsmoothed pixels would differ in size.
-  const double ratio = devicePixelRatioF();
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, std::abs(ratio - std::round(ratio)) > 0.01);
-  for (const QRect& part : event->region()) painter.drawImage(part, canvas_.Image(), part);
-  overlay_.Draw(painter, event->rect());
+  const double zoom = ZoomOf(*this);
+  painter.scale(zoom, zoom);
+  DrawPicture(painter, canvas_.Image(), event->region());
+  overlay_.Draw(painter, Scaled(event->rect(), 1 / zoom));
 }
 
 Control& SurfaceWidget::ControlAt(QPoint at) const {
   Control& title = form1_.controls.Image1;
-  return title.Visible() && InPixels(title).contains(at) ? title : static_cast<Control&>(form1_.Picture1);
+  return title.Visible() && InPixels(title, ZoomOf(*this)).contains(at) ? title
+                                                                        : static_cast<Control&>(form1_.Picture1);
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   Control& control = ControlAt(at);
-  events_.Deliver([&](Form1& form1) { form1.MouseMove(control, Units(at.x()), Units(at.y())); });
+  events_.Deliver([&](Form1& form1) { form1.MouseMove(control, Units(*this, at.x()), Units(*this, at.y())); });
   if (&control == &form1_.Picture1) return ShowHintAt(at);
   hint_->hide();
 }
 
 void SurfaceWidget::ShowHintAt(QPoint at) {
   hint_->setText(ToQString(form1_.Picture1.ToolTipText));
+  ShowLetters(*hint_, HintPoints);
   hint_->adjustSize();
   // Near the right and lower edges, the hint moves to the other side of the pointer.
   const QRect seen = visibleRegion().boundingRect();

@@ -13,6 +13,11 @@ class SurfaceWidget : public QWidget {
  public:
   SurfaceWidget(QWidget& parent, Form1& form1, ImageCanvas& canvas, Events& events);
 
+  /// The point of the picture that is shown in the middle of the space for it, where the picture is larger than that:
+  /// in surface units.
+  QPointF Middle() const { return middle_; }
+  void SetMiddle(QPointF middle) { middle_ = middle; }
+
   /// Requests a repaint of what has changed.
   void Sync();
 
@@ -36,7 +41,12 @@ class SurfaceWidget : public QWidget {
   Overlay overlay_;
   QLabel* hint_;
   Control* pressed_ = nullptr;
+  QPointF middle_;
 };
+
+/// Draws a part of a picture, in pixels of the painter's device, as large as the painter is scaled: pixel by pixel
+/// where each gets a whole number of those, or else smoothed.
+void DrawPicture(QPainter& painter, const QImage& picture, const QRegion& parts);
 
 /// `Picture1`.
 class SurfaceView : public ControlView {
@@ -45,6 +55,7 @@ class SurfaceView : public ControlView {
       : ControlView(form1.Picture1, *new SurfaceWidget(parent, form1, canvas, events)) {}
 
  protected:
+  QRect Place(const Room& room) const override;
   void SyncLook() override { static_cast<SurfaceWidget&>(Widget()).Sync(); }
 };
 

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QValidator>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/desktop_text.h"
 
@@ -12,7 +13,7 @@ namespace zerimo {
 namespace {
 
 /// The distance between rows in pixels.
-constexpr int RowDistance = 24;
+int RowDistance(const QWidget& widget) { return static_cast<int>(std::lround(24 * ZoomOf(widget))); }
 
 /// Admits only characters that the system has. Pasted line ends and tabs become blanks.
 class KnownCharacters final : public QValidator {
@@ -37,10 +38,11 @@ class PromptColumn final : public QWidget {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Text));
     painter.setFont(font());
-    QRect line(0, 0, width(), RowDistance + 1);
+    const int distance = RowDistance(*this);
+    QRect line(0, 0, width(), distance + 1);
     for (const QString& text : WithLineEnds(box_.Text).split(QLatin1Char('\n'))) {
       painter.drawText(line, Qt::AlignCenter, text);
-      line.translate(0, RowDistance);
+      line.translate(0, distance);
     }
   }
 
@@ -62,7 +64,7 @@ void RowEdit::paintEvent(QPaintEvent* event) {
   QColor frame = ReadableOn(palette().color(QPalette::Base));
   frame.setAlpha(200);
   painter.setPen(frame);
-  painter.drawRect(0, 0, width() - 1, RowDistance - 1);
+  painter.drawRect(0, 0, width() - 1, RowDistance(*this) - 1);
 }
 
 LineView::LineView(TextBox& box, QLineEdit& shownIn, Events& events)
@@ -82,8 +84,7 @@ void LineView::Collect() {
 
 void LineView::SyncLook() {
   const bool isRow = box_.FontSize > 12;
-  const QFont font = ControlFont(box_.FontSize, isRow);
-  if (edit_.font() != font) edit_.setFont(font);
+  ShowLetters(edit_, box_.FontSize, isRow);
   ShowTextColours(edit_, box_.BackColor, box_.ForeColor);
   const QString text = ToQString(box_.Text);
   if (touched_ || edit_.text() == text) return;
@@ -92,7 +93,7 @@ void LineView::SyncLook() {
 }
 
 QRect RowView::Place(const Room& room) const {
-  QRect place = InPixels(Source());
+  QRect place = PlaceInData();
   place.setRight(std::min(place.right(), room.Client.right()));
   return place;
 }
@@ -101,8 +102,7 @@ PromptView::PromptView(TextBox& box, QWidget& parent, Events&)
     : ControlView(box, *new PromptColumn(parent, box)), box_(box) {}
 
 void PromptView::SyncLook() {
-  const QFont font = ControlFont(box_.FontSize, true);
-  if (Widget().font() != font) Widget().setFont(font);
+  ShowLetters(Widget(), box_.FontSize, true);
   ShowTextColours(Widget(), box_.BackColor, box_.ForeColor);
 }
 

@@ -3,7 +3,6 @@
 #include "desktop/extensions/announcer.h"
 #include "desktop/extensions/editor_aids.h"
 #include "desktop/extensions/gallery.h"
-#include "desktop/extensions/letter_size.h"
 #include "desktop/extensions/line_journal.h"
 #include "desktop/extensions/look_back.h"
 #include "desktop/extensions/panel_drag.h"
@@ -14,6 +13,7 @@
 #include "desktop/extensions/run_chip.h"
 #include "desktop/extensions/speed.h"
 #include "desktop/extensions/stop.h"
+#include "desktop/extensions/zoom.h"
 
 namespace zerimo {
 
@@ -32,7 +32,7 @@ void AddExtensions(Session& session, const std::filesystem::path& folder, std::c
   session.Add(std::make_unique<Gallery>(session));
   session.Add(std::make_unique<Projector>(session));
   session.Add(std::make_unique<PanelDrag>(session));
-  session.Add(std::make_unique<LetterSize>(session));
+  session.Add(std::make_unique<Zoom>(session));
   session.Add(std::make_unique<Announcer>(session));
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/desktop_text.h"
+#include "desktop/surface_view.h"
 #include "graphics/surface_replay.h"
 
 namespace zerimo {
@@ -31,12 +32,11 @@ class LookBack::Sheet : public QWidget {
     setObjectName(QStringLiteral("LookBack"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    words_.setFont(ControlFont(WordPoints, true));
     words_.setAutoFillBackground(true);
     words_.setMargin(6);
-    words_.move(EdgeDistance, EdgeDistance);
     ShowColours(words_, WordGround, WordLetters);
-    resize(surface.size());
+    surface.installEventFilter(this);
+    Fit();
     show();
   }
 
@@ -47,14 +47,31 @@ class LookBack::Sheet : public QWidget {
     canvas_.PutPixels(from.Pixels);
     for (std::size_t i = 0; i < count; ++i) Repeat(operations[i], drawn_);
     words_.setText(words);
-    words_.adjustSize();
+    Fit();
     update();
   }
 
  protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).drawImage(QPoint(), canvas_.Image()); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) Fit();
+    return QWidget::eventFilter(watched, event);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    painter.scale(ZoomOf(*this), ZoomOf(*this));
+    DrawPicture(painter, canvas_.Image(), event->region());
+  }
 
  private:
+  void Fit() {
+    resize(parentWidget()->size());
+    ShowLetters(words_, WordPoints, true);
+    words_.adjustSize();
+    // The corner of an enlarged picture may be out of sight.
+    words_.move(mapFrom(window(), QPoint(EdgeDistance, EdgeDistance)));
+  }
+
   ImageCanvas canvas_;
   Surface drawn_{"Picture1", canvas_};
   QLabel& words_;

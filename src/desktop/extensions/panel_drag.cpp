@@ -25,7 +25,7 @@ bool PanelDrag::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PanelDrag::Press(QPoint at) {
-  if (at.y() < CaptionFrame::BarHeight) grab_ = at;
+  if (at.y() < panel_.BarHeight()) grab_ = at;
 }
 
 void PanelDrag::MoveTo(QPoint at) {

@@ -22,7 +22,6 @@ RunChip::RunChip(Session& session) : session_(session), label_(*new QLabel(&sess
   label_.setObjectName(QStringLiteral("RunChip"));
   label_.setAttribute(Qt::WA_TransparentForMouseEvents);
   label_.setTextFormat(Qt::PlainText);
-  label_.setFont(ControlFont(ChipPoints, true));
   label_.setAutoFillBackground(true);
   label_.setMargin(6);
   ShowColours(label_, ChipGround, ChipLetters);
@@ -56,10 +55,9 @@ void RunChip::Show() {
   if (words.isEmpty() && isLong) {
     words = QStringLiteral("Running for %1 s. Ctrl+Break stops.").arg(running_.elapsed() / 1000);
   }
-  if (label_.text() != words) {
-    label_.setText(words);
-    label_.adjustSize();
-  }
+  ShowLetters(label_, ChipPoints, true);
+  label_.setText(words);
+  label_.adjustSize();
   label_.move(session_.Shown().width() - label_.width() - EdgeDistance, EdgeDistance);
   label_.raise();
   if (label_.isHidden() != words.isEmpty()) label_.setHidden(words.isEmpty());
