@@ -28,11 +28,14 @@ constexpr std::array<ControlWords, 33> WordsOfControls = {{
     {"Label18", "Loop label names", "The length of the names made for loop labels.",
      "The length of the names made for loop labels"},
     {"Label19", "Control String", "Where the program runs just now.", ""},
-    {"Text3", "Resolution", "Surface units to a turtle step.", "Surface units to a turtle step"},
-    {"Text4", "Line Width", "The width of lines in pixels.", "The width of lines in pixels"},
+    {"Text3", "Resolution", "Surface units to a turtle step.",
+     "Sets RESOLUTION at once: surface units to a turtle step"},
+    {"Text4", "Line Width", "The width of lines in pixels.", "Sets the width of lines at once, in pixels"},
     {"Command1", "Close the diagnosis panel", "", "Close (Esc on a command row)"},
     {"Command2", "Refresh", "Forgets all variables. Do not press it: the next number makes Zerimo search for ever.",
-     "Forgets all variables. Do not press it: the next number makes Zerimo search for ever (Ctrl+Break stops)"},
+     "Forgets all variables; Resolution and Line Width stay as they are set. Do not press it: the next number makes "
+     "Zerimo "
+     "search for ever (Ctrl+Break stops)"},
     {"Check1", "Co-ordinates", "Shows or hides the axes.", "Shows or hides the axes"},
     {"HScroll1", "Back Color, part %1 of red, green, blue", "Clears the drawing.",
      "Red, green and blue of the background; clears the drawing"},
