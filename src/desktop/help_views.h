@@ -14,13 +14,14 @@ class PageList : public QListWidget {
  public:
   PageList(QWidget& parent, FileListBox& control, Events& events);
 
+  /// Shows the page of the chosen entry.
+  void Press();
+
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void Press();
-
   FileListBox& list_;
   Events& events_;
 };

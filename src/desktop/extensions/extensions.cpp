@@ -5,6 +5,7 @@
 #include "desktop/extensions/gallery.h"
 #include "desktop/extensions/line_journal.h"
 #include "desktop/extensions/look_back.h"
+#include "desktop/extensions/page_links.h"
 #include "desktop/extensions/panel_drag.h"
 #include "desktop/extensions/picture_keys.h"
 #include "desktop/extensions/print_picture.h"
@@ -32,6 +33,7 @@ void AddExtensions(Session& session, const std::filesystem::path& folder, std::c
   session.Add(std::make_unique<Gallery>(session));
   session.Add(std::make_unique<Projector>(session));
   session.Add(std::make_unique<PanelDrag>(session));
+  session.Add(std::make_unique<PageLinks>(session));
   session.Add(std::make_unique<Zoom>(session));
   session.Add(std::make_unique<Announcer>(session));
 }
