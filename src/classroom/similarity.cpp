@@ -73,7 +73,8 @@ class RareLines {
     const auto number = static_cast<quint32>(program);
     std::vector<std::size_t> partners;
     for (const quint32 print : SampleOf(prints)) {
-      const auto [begin, end] = std::ranges::equal_range(lines_, print, {}, &Row::first);
+      const auto begin = std::ranges::lower_bound(lines_, print, {}, &Row::first);
+      const auto end = std::ranges::upper_bound(lines_, print, {}, &Row::first);
       if (static_cast<std::size_t>(end - begin) > AlikeSearch::FewPrograms) continue;
       for (auto row = begin; row != end; ++row) {
         if (row->second > number) partners.push_back(row->second);
