@@ -6,6 +6,8 @@
 #include <QThread>
 #include <algorithm>
 
+#include "desktop/desktop_text.h"
+
 namespace zerimo {
 
 const Speed::Pace Speed::Paces[4] = {
@@ -18,7 +20,8 @@ const Speed::Pace Speed::Paces[4] = {
 Speed::Speed(Session& session, RunChip& chip)
     : session_(session),
       chip_(chip),
-      line_(session.form1, static_cast<QListView&>(session.Shown().WidgetOf(session.form1.controls.List1))) {}
+      list_(static_cast<QListView&>(session.Shown().WidgetOf(session.form1.controls.List1))),
+      line_(session.form1.interpreter) {}
 
 bool Speed::PressKey(const QKeyEvent& press) {
   if (waiting_ && pace_->Pause < 0 && press.key() == Qt::Key_Space && press.modifiers() == Qt::NoModifier) {
@@ -40,19 +43,20 @@ void Speed::Choose(const Pace& pace) {
   chip_.Say(QLatin1String(pace.Words));
   // At full speed, a step costs nothing extra.
   session_.Watch().OnStep = pace.Pause == 0 ? std::function<void()>() : [this] { Step(); };
-  if (pace.Pause == 0) line_.Clear();
+  if (pace.Pause == 0) ForgetLine();
 }
 
 void Speed::RunEnds() {
   waiting_ = false;
   if (pace_->Pause == 0) return;
-  line_.Clear();
+  ForgetLine();
   chip_.Say(QLatin1String(pace_->Words));
 }
 
 void Speed::Step() {
   line_.Step();
-  chip_.Say(line_.Words());
+  MarkLine();
+  chip_.Say(ToQString(line_.Words()));
   waiting_ = true;
   session_.Running().ShowState();
   QElapsedTimer shown;
@@ -62,6 +66,21 @@ void Speed::Step() {
     session_.Running().AnswerDesktop();
     if (pace_->Pause >= 0 && shown.elapsed() >= pace_->Pause) waiting_ = false;
   }
+}
+
+void Speed::MarkLine() {
+  const QAbstractItemModel& entries = *list_.model();
+  // A typed line runs after the program, where the list ends.
+  const bool isListed = line_.Number() > 0 && line_.Number() <= entries.rowCount();
+  const QModelIndex index = isListed ? entries.index(line_.Number() - 1, 0) : QModelIndex();
+  list_.setCurrentIndex(index);
+  if (isListed) list_.scrollTo(index);
+}
+
+void Speed::ForgetLine() {
+  if (line_.Number() == 0) return;
+  line_.Clear();
+  MarkLine();
 }
 
 }  // namespace zerimo

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "console/running_line.h"
 #include "desktop/extensions/run_chip.h"
-#include "desktop/extensions/running_line.h"
 #include "desktop/session.h"
+
+class QListView;
 
 namespace zerimo {
 
@@ -26,9 +28,13 @@ class Speed : public Extension {
 
   void Choose(const Pace& pace);
   void Step();
+  /// In the list of the diagnosis panel.
+  void MarkLine();
+  void ForgetLine();
 
   Session& session_;
   RunChip& chip_;
+  QListView& list_;
   RunningLine line_;
   const Pace* pace_ = &Paces[0];
   bool waiting_ = false;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "interpreter/interpreter.h"
+
+namespace zerimo {
+
+/// Finds which line of the store runs next.
+class RunningLine {
+ public:
+  explicit RunningLine(const Interpreter& interpreter) : interpreter_(interpreter) {}
+
+  /// Must be called before each step of a walk.
+  void Step();
+  /// Must be called when the walk is over.
+  void Clear() { number_ = 0; }
+
+  /// As `List1` counts, from 1; 0 if unknown.
+  int Number() const { return number_; }
+  /// "BOX, line 12: FD :S"; nothing if unknown.
+  std::string Words() const;
+
+ private:
+  std::string Procedure() const;
+
+  const Interpreter& interpreter_;
+  int number_ = 0;
+};
+
+}  // namespace zerimo
