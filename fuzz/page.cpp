@@ -23,6 +23,7 @@ constexpr double PatienceInMilliseconds = 500;
 struct Page {
   std::string Answer;
   double Now = 0;
+  double Pause = 0;
 } page;
 
 }  // namespace
@@ -45,6 +46,10 @@ void HoldFor(double) {}
 double PageClock() { return page.Now += MillisecondsBetweenLooks; }
 
 bool TakeStop() { return page.Now > PatienceInMilliseconds; }
+
+double ChosenPause() { return page.Pause; }
+
+void HoldLine(double) { page.Now += MillisecondsBetweenLooks; }
 
 std::string PageTimeOfDay() { return "00:00"; }
 
@@ -85,6 +90,11 @@ void Call(web::PageShell& shell, const std::string& text) {
     page.Answer = Rest(line);
     return;
   }
+  if (call == "pause") {
+    page.Pause = NextWhole(line);
+    return;
+  }
+  if (call == "endslides") return web::EndSlideShow(&shell);
   if (call == "open") return web::Open(&shell, Rest(line).c_str());
   line >> control;
   const char* const name = control.c_str();

@@ -1,4 +1,5 @@
 import { Boxes, confirmed, dialogOf, element, open, tell } from "./boxes";
+import { Chip } from "./chip";
 import { Events } from "./events";
 import { delivered, download, Folder } from "./folder";
 import { filesDialog, takeFiles } from "./files";
@@ -6,25 +7,25 @@ import { Keys, meansStop } from "./keys";
 import { programIn } from "./link";
 import { letPaletteBeDragged } from "./palette";
 import { type File, type FromWorker, Shared, type Told, type ToWorker } from "./protocol";
+import { Speed } from "./speed";
 import { screenFor, Stage } from "./stage";
 import { collect, settle, showPage, unitsPerPixel } from "./views";
-
-/** A program that runs longer than this can be seen to run, in milliseconds. */
-const longRun = 2000;
 
 class Page {
   private readonly shared = new Shared();
   private readonly worker = new Worker("worker.js", { type: "module" });
   private readonly bar = new Bar();
+  private readonly chip = new Chip((isLong) => this.bar.showStop(isLong));
+  private readonly speed = new Speed(this.shared, (line) => this.chip.say(line));
   private readonly boxes = new Boxes(() => this.shared.stop());
   private readonly events = new Events((message) => this.post(message), collect, (running) => this.run(running));
   private readonly stage: Stage;
   private readonly keys: Keys;
-  private runClock = 0;
 
   constructor(private readonly folder: Folder) {
     const { width, height } = screenFor(innerWidth, innerHeight - this.bar.height());
     this.stage = new Stage(this.events, width, height);
+    this.stage.box.append(this.chip.box);
     document.body.append(this.stage.box);
     this.keys = new Keys(this.stage, this.events);
     letPaletteBeDragged(this.stage, this.events);
@@ -65,6 +66,7 @@ class Page {
   private show(told: Told): void {
     const name = told.name ?? "";
     if (told.event === "focus") return this.keys.follow(name);
+    if (told.event === "line") return this.speed.show(told, this.stage);
     if (told.event === "page") return showPage(this.stage.page, told);
     if (told.event === "ended") return this.end(String(told["by"]));
     if (told.event === "words") return this.describe(told);
@@ -88,17 +90,12 @@ class Page {
   }
 
   private run(running: boolean): void {
-    clearTimeout(this.runClock);
-    if (running) {
-      this.runClock = window.setTimeout(() => this.bar.showStop(true), longRun);
-    } else {
-      this.bar.showStop(false);
-      this.boxes.begin();
-    }
+    this.chip.run(running);
+    if (!running) this.boxes.begin();
   }
 
   private stop(): void {
-    if (!this.events.isRunning()) return;
+    if (!this.events.isRunning()) return this.events.deliver("EndSlideShow");
     this.shared.stop();
     this.boxes.close();
   }
@@ -172,9 +169,9 @@ class Bar {
   private readonly stopButton = document.getElementById("stop") as HTMLButtonElement;
 
   connect(press: (key: string) => void, stop: () => void, files: () => void): void {
+    // The focus stays where the learner types.
+    this.box.addEventListener("pointerdown", (event) => event.preventDefault());
     for (const button of this.box.querySelectorAll<HTMLButtonElement>("button[data-key]")) {
-      // The focus stays where the learner types.
-      button.addEventListener("pointerdown", (event) => event.preventDefault());
       button.addEventListener("click", () => press(button.dataset["key"]!));
     }
     this.stopButton.addEventListener("click", stop);
@@ -207,7 +204,8 @@ function beep(): void {
 /** The service worker brings the headers for shared memory where the server does not, and keeps the page for later. */
 async function isolated(): Promise<boolean> {
   const ready = navigator.serviceWorker?.register("service-worker.js").then(() => navigator.serviceWorker.ready);
-  if (crossOriginIsolated) return true;
+  // Some engines isolate the page and have no shared memory all the same.
+  if (crossOriginIsolated) return "SharedArrayBuffer" in globalThis;
   await ready;
   if (sessionStorage.getItem("isolated") !== null) return false;
   sessionStorage.setItem("isolated", "tried");

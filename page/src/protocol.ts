@@ -48,49 +48,76 @@ export interface Put {
 
 export type ToWorker = Start | Call | Put;
 
-const headBytes = 8;
+/** The places of numbers at the beginning of the shared memory. */
+const place = { answer: 0, stop: 1, changes: 2, pause: 3 };
+const headNumbers = 4;
+const headBytes = headNumbers * Int32Array.BYTES_PER_ELEMENT;
 const answerBytes = 1 << 16;
 const noAnswer = -1;
 
-/** The memory that both sides see: the answer to a question, and the wish to stop. */
+/** The memory that both sides see: the answer to a question, and the wishes to stop and to be slow. */
 export class Shared {
   private readonly head: Int32Array;
   private readonly answerText: Uint8Array;
+  private seenChanges = 0;
 
   constructor(readonly memory: SharedArrayBuffer = new SharedArrayBuffer(headBytes + answerBytes)) {
-    this.head = new Int32Array(memory, 0, 2);
+    this.head = new Int32Array(memory, 0, headNumbers);
     this.answerText = new Uint8Array(memory, headBytes);
   }
 
   /** To be called before the question is asked. */
   expectAnswer(): void {
-    Atomics.store(this.head, 0, noAnswer);
+    Atomics.store(this.head, place.answer, noAnswer);
   }
 
   /** Holds the caller's thread, which can't be the page's. */
   awaitAnswer(): string {
-    Atomics.wait(this.head, 0, noAnswer);
-    return new TextDecoder().decode(this.answerText.slice(0, Atomics.load(this.head, 0)));
+    Atomics.wait(this.head, place.answer, noAnswer);
+    return new TextDecoder().decode(this.answerText.slice(0, Atomics.load(this.head, place.answer)));
   }
 
   answer(text: string): void {
     const bytes = new TextEncoder().encode(text).subarray(0, answerBytes);
     this.answerText.set(bytes);
-    Atomics.store(this.head, 0, bytes.length);
-    Atomics.notify(this.head, 0);
+    Atomics.store(this.head, place.answer, bytes.length);
+    Atomics.notify(this.head, place.answer);
   }
 
   /** Holds the caller's thread until the time is over or the user wants to stop. */
   hold(milliseconds: number): void {
-    Atomics.wait(this.head, 1, 0, milliseconds);
+    Atomics.wait(this.head, place.stop, 0, milliseconds);
   }
 
   stop(): void {
-    Atomics.store(this.head, 1, 1);
-    Atomics.notify(this.head, 1);
+    Atomics.store(this.head, place.stop, 1);
+    Atomics.notify(this.head, place.stop);
+    this.goOn();
+  }
+
+  /** Ends the pause before a line. */
+  goOn(): void {
+    Atomics.add(this.head, place.changes, 1);
+    Atomics.notify(this.head, place.changes);
+  }
+
+  /** Before each line, in milliseconds; negative until `goOn`. */
+  choosePause(pause: number): void {
+    Atomics.store(this.head, place.pause, pause);
+    this.goOn();
+  }
+
+  chosenPause(): number {
+    this.seenChanges = Atomics.load(this.head, place.changes);
+    return Atomics.load(this.head, place.pause);
+  }
+
+  /** Holds the caller's thread until the pause is over or something has been wished since `chosenPause` was called. */
+  holdLine(pause: number): void {
+    Atomics.wait(this.head, place.changes, this.seenChanges, pause < 0 ? Infinity : pause);
   }
 
   takeStop(): boolean {
-    return Atomics.exchange(this.head, 1, 0) !== 0;
+    return Atomics.exchange(this.head, place.stop, 0) !== 0;
   }
 }

@@ -63,6 +63,11 @@ export class Stage {
     return this.all.get(name);
   }
 
+  /** Marks a line of the program in the diagnosis panel, counted from 1; others than the listed ones take the mark away. */
+  markLine(number: number): void {
+    views.mark(this.view("List1")!.box, number);
+  }
+
   /** The control that an element belongs to, or an empty name. */
   controlOf(part: Element | null): string {
     const id = part?.closest("[id]")?.id ?? "";

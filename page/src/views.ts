@@ -191,6 +191,15 @@ export function lines(name: string, followsEnd: boolean): View {
   });
 }
 
+/** Marks one of these lines, counted from 1, or none. */
+export function mark(list: HTMLElement, number: number): void {
+  list.querySelector("[aria-current]")?.removeAttribute("aria-current");
+  const line = list.children[number - 1];
+  if (!(line instanceof HTMLElement)) return;
+  line.setAttribute("aria-current", "true");
+  list.scrollTop = line.offsetTop - list.clientHeight / 2;
+}
+
 export function pageList(name: string, events: Events): View {
   const box = element("select", { size: 20 });
   const press = () => {

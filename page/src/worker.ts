@@ -71,6 +71,8 @@ class Worker {
         memory.hold(milliseconds);
       },
       takeStop: () => memory.takeStop(),
+      chosenPause: () => memory.chosenPause(),
+      holdLine: (pause: number) => memory.holdLine(pause),
       timeOfDay: () => new Date().toLocaleTimeString([], { timeStyle: "short" }).replace(/\s/gu, " "),
     };
     const system = await start({ port, locateFile: (name) => new URL(name, self.location.href).href });

@@ -6,6 +6,8 @@ declare module "zerimo" {
     ask(question: string): string;
     hold(milliseconds: number): void;
     takeStop(): boolean;
+    chosenPause(): number;
+    holdLine(pause: number): void;
     timeOfDay(): string;
   }
   export interface System {

@@ -82,6 +82,12 @@ void Tick(PageShell* shell, const char* name) {
   if (timer != nullptr) shell->Deliver([&](Form1& form1) { form1.Tick(*timer); });
 }
 
+void EndSlideShow(PageShell* shell) {
+  shell->Deliver([](Form1& form1) {
+    if (form1.controls.Timer3.Enabled) form1.files.pictures.EndSlideShow();
+  });
+}
+
 void Open(PageShell* shell, const char* file) { shell->Open(batch::FromUtf8(file)); }
 
 }  // extern "C"

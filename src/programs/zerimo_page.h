@@ -28,6 +28,7 @@ extern "C" {
 [[gnu::used]] void MouseDown(PageShell* shell, const char* name, int right, int shift);
 [[gnu::used]] void Drop(PageShell* shell, const char* name, float x, float y);
 [[gnu::used]] void Tick(PageShell* shell, const char* name);
+[[gnu::used]] void EndSlideShow(PageShell* shell);
 [[gnu::used]] void Open(PageShell* shell, const char* file);
 
 }  // extern "C"

@@ -13,6 +13,8 @@ EM_JS(void, PortShow, (const void* pixels, int columns, int first, int rows), {
 EM_JS(char*, PortAsk, (const char* question), { return allocateUTF8(Module.port.ask(UTF8ToString(question))); });
 EM_JS(void, PortHold, (double milliseconds), { Module.port.hold(milliseconds); });
 EM_JS(int, PortTakeStop, (), { return Module.port.takeStop(); });
+EM_JS(double, PortChosenPause, (), { return Module.port.chosenPause(); });
+EM_JS(void, PortHoldLine, (double pause), { Module.port.holdLine(pause); });
 EM_JS(char*, PortTimeOfDay, (), { return allocateUTF8(Module.port.timeOfDay()); });
 // clang-format on
 
@@ -42,6 +44,10 @@ void HoldFor(double milliseconds) { PortHold(milliseconds); }
 double PageClock() { return emscripten_get_now(); }
 
 bool TakeStop() { return PortTakeStop() != 0; }
+
+double ChosenPause() { return PortChosenPause(); }
+
+void HoldLine(double pause) { PortHoldLine(pause); }
 
 std::string PageTimeOfDay() { return Taken(PortTimeOfDay()); }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/stop_run.h"
 #include "pixels/pixel_buffer.h"
 
 /// What the page supplies: functions of the worker in which the system runs (`page/src/worker.ts`). Texts are UTF-8,
@@ -26,6 +27,18 @@ double PageClock();
 
 /// Whether the user wants the program to stop; asked again, it says no.
 bool TakeStop();
+
+/// Leaves the run with `StopRun` if the user wants the program to stop.
+inline void LeaveIfStopped() {
+  if (TakeStop()) throw StopRun();
+}
+
+/// How long a line is shown before it runs, in milliseconds; 0 at full speed, negative until the user goes on.
+double ChosenPause();
+
+/// Holds the system for this pause, until the user goes on, chooses another one or stops the program. Must be called
+/// after `ChosenPause`: what the user has done since then counts.
+void HoldLine(double pause);
 
 /// The time of day in the browser's short form.
 std::string PageTimeOfDay();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/stop_run.h"
 #include "batch/box_buttons.h"
 #include "batch/json_line.h"
 #include "batch/latin1.h"
@@ -20,10 +19,6 @@ constexpr double FrameMilliseconds = 16;
 constexpr unsigned LooksAtOnce = 16;
 /// Showing takes at most a quarter of the time.
 constexpr double ShareOfShowing = 4;
-
-void LeaveIfStopped() {
-  if (TakeStop()) throw StopRun();
-}
 
 /// What follows the plus sign.
 std::string TextOf(const std::string& answer) {
@@ -78,13 +73,22 @@ void PageServices::Beep() { TellPage("[" + JsonLine("beep").Finished() + "]"); }
 
 std::string PageServices::TimeOfDay() { return batch::FromUtf8(PageTimeOfDay()); }
 
-void PageWatch::Begin() { nextFrame_ = PageClock() + FrameMilliseconds; }
+void PageWatch::Begin() {
+  nextFrame_ = PageClock() + FrameMilliseconds;
+  isStepped_ = ChosenPause() != 0;
+}
+
+void PageWatch::Step() {
+  if (isStepped_) isStepped_ = step_();
+  Look();
+}
 
 void PageWatch::Look() {
   if (++looks_ % LooksAtOnce != 0) return;
   const double start = PageClock();
   if (start < nextFrame_) return;
   LeaveIfStopped();
+  isStepped_ = ChosenPause() != 0;
   show_();
   const double end = PageClock();
   nextFrame_ = std::max(start + FrameMilliseconds, end + (ShareOfShowing - 1) * (end - start));

@@ -35,17 +35,20 @@ class PageServices : public Services {
 /// Shows the picture as it grows while a line runs, at most once in a frame, and lets the user stop the program.
 class PageWatch : public Watch {
  public:
-  explicit PageWatch(std::function<void()> show) : show_(std::move(show)) {}
+  /// `step` is called before each line that is not to run at full speed; it says whether the next is such a one, too.
+  PageWatch(std::function<void()> show, std::function<bool()> step) : show_(std::move(show)), step_(std::move(step)) {}
 
   /// To be called when a handler begins.
   void Begin();
-  void Step() override { Look(); }
+  void Step() override;
   void Tick() override { Look(); }
 
  private:
   void Look();
 
   std::function<void()> show_;
+  std::function<bool()> step_;
+  bool isStepped_ = false;
   /// In milliseconds of the browser's clock.
   double nextFrame_ = 0;
   unsigned looks_ = 0;

@@ -16,9 +16,10 @@ namespace zerimo::web {
 PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile, Folders folders)
     : canvas_(std::make_unique<FontText>(fontFile), std::make_unique<StbPictureFiles>()),
       services_([this] { screen_.Show(); }),
-      watch_([this] { screen_.Show(); }),
+      watch_([this] { screen_.Show(); }, [this] { return pace_.Step(); }),
       form1(screen, std::move(folders), services_, watch_, canvas_),
-      screen_(form1, canvas_) {
+      screen_(form1, canvas_),
+      pace_(form1.interpreter, [this] { screen_.Show(); }) {
   screen_.Describe();
 }
 
@@ -28,6 +29,7 @@ void PageShell::Deliver(const std::function<void(Form1& form1)>& event) {
   TakeStop();
   watch_.Begin();
   Run(event);
+  pace_.End();
   screen_.Show();
 }
 

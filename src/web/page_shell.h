@@ -5,6 +5,7 @@
 
 #include "console/form1.h"
 #include "pixels/pixel_canvas.h"
+#include "web/page_pace.h"
 #include "web/page_screen.h"
 #include "web/page_services.h"
 
@@ -35,6 +36,7 @@ class PageShell {
 
  private:
   PageScreen screen_;
+  PagePace pace_;
   bool hasEnded_ = false;
 };
 
