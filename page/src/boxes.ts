@@ -85,6 +85,8 @@ export class Boxes {
       spellcheck: false,
       label: isFile ? "Name of the file" : textOf(question),
       value: String(question["value"] ?? ""),
+      // Before the list of files.
+      autofocus: true,
     });
     const content = isFile ? [fileList(files, input), input] : [words, input];
     const word = await this.show(dialogOf(titleOf(question), content, ["OK", "Cancel"]));
@@ -104,7 +106,9 @@ function fileList(files: string[], input: HTMLInputElement): HTMLSelectElement {
   const options = files.map((name) => element("option", { value: name, textContent: name }));
   const list = element("select", { size: 12, label: "Files of the folder" }, ...options);
   list.addEventListener("change", () => (input.value = list.value));
-  list.addEventListener("dblclick", () => list.closest("dialog")?.close("OK"));
+  const take = () => list.value !== "" && list.closest("dialog")?.close("OK");
+  list.addEventListener("dblclick", take);
+  list.addEventListener("keydown", ({ key }) => key === "Enter" && take());
   return list;
 }
 
