@@ -1,179 +1,15 @@
-// What learners and teachers do with the page, in a browser without a window. Usage: node --test flows.test.mjs, with the
-// site in ZERIMO_SITE and the browser in ZERIMO_BROWSER (chromium); pictures go to ZERIMO_SHOTS if it is set.
+// What learners and teachers do with the page. Usage: node --test flows.test.mjs
 import assert from "node:assert/strict";
-import { spawn, spawnSync } from "node:child_process";
-import { mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
-import { createRequire } from "node:module";
-import { tmpdir } from "node:os";
-import { dirname, join, resolve } from "node:path";
+import { readFileSync } from "node:fs";
 import { after, before, test } from "node:test";
-import { fileURLToPath } from "node:url";
-import { readPicture } from "./pictures.mjs";
+import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
+import { flows } from "./common_flows.mjs";
+import { fromPage } from "./learner.mjs";
 
-const source = resolve(dirname(fileURLToPath(import.meta.url)), "../..");
-const fromPage = createRequire(join(source, "page/package.json"));
-const puppeteer = fromPage("puppeteer-core");
-const site = process.env.ZERIMO_SITE ?? join(source, "build/web/site");
-const work = mkdtempSync(join(tmpdir(), "zerimo-flows-"));
-const [server, address] = await startServer();
-let browser;
+before(openBrowser);
+after(closeBrowser);
 
-function startServer() {
-  const child = spawn(process.execPath, [join(source, "page/serve.mjs"), site, "0"]);
-  return new Promise((done) => {
-    child.stdout.once("data", (words) => done([child, String(words).match(/http\S+/)[0]]));
-  });
-}
-
-before(async () => {
-  const executablePath = process.env.ZERIMO_BROWSER ?? "/usr/bin/chromium";
-  browser = await puppeteer.launch({ executablePath, args: ["--no-sandbox", "--disable-gpu"] });
-});
-
-after(async () => {
-  await browser?.close();
-  server.kill();
-  rmSync(work, { recursive: true, force: true });
-});
-
-/** A learner in a browser of their own. */
-class Learner {
-  static async come({ width = 1280, height = 900, hash = "", touch = false } = {}) {
-    const context = await browser.createBrowserContext();
-    const page = await context.newPage();
-    await page.setViewport({ width, height, hasTouch: touch });
-    const learner = new Learner(context, page);
-    page.on("console", (message) => message.type() === "error" && learner.complaints.push(message.text()));
-    page.on("pageerror", (error) => learner.complaints.push(String(error)));
-    await page.goto(address + hash);
-    if (hash === "") await learner.ready();
-    return learner;
-  }
-
-  constructor(context, page) {
-    [this.context, this.page, this.complaints] = [context, page, []];
-  }
-
-  async leave() {
-    await this.context.close();
-    assert.deepEqual(this.complaints, []);
-  }
-
-  /** Asks again and again: the policy of the page forbids what the driver's own waiting does. */
-  async until(isSo, ...words) {
-    for (const end = Date.now() + 15_000; Date.now() < end; await new Promise((later) => setTimeout(later, 20))) {
-      if (await this.page.evaluate(isSo, ...words).catch(() => false)) return;
-    }
-    throw new Error(`never: ${isSo} ${words}`);
-  }
-
-  /** Until a row has the focus. */
-  ready() {
-    return this.until(() => document.activeElement?.id.startsWith("Text1("));
-  }
-
-  async type(line) {
-    await this.page.keyboard.type(line);
-    await this.page.keyboard.press("Enter");
-  }
-
-  /** Once the row of the last line is left, the system has carried it out. */
-  async enter(line) {
-    await this.type(line);
-    await this.until((text) => [...document.querySelectorAll('[id^="Text1"]')].every((row) => row !== document.activeElement || row.value !== text), line);
-  }
-
-  key(name) {
-    return this.page.keyboard.press(name);
-  }
-
-  dialog(words) {
-    return this.until((text) => document.querySelector("dialog[open]")?.textContent.includes(text), words);
-  }
-
-  noDialog() {
-    return this.until(() => document.querySelector("dialog[open]") === null);
-  }
-
-  sees(id) {
-    return this.until((name) => document.getElementById(name)?.checkVisibility(), id);
-  }
-
-  value(id) {
-    return this.page.evaluate((name) => document.getElementById(name).value, id);
-  }
-
-  text(id) {
-    return this.page.evaluate((name) => document.getElementById(name).textContent, id);
-  }
-
-  async shot(name) {
-    if (process.env.ZERIMO_SHOTS) await this.page.screenshot({ path: join(process.env.ZERIMO_SHOTS, `${name}.png`) });
-  }
-
-  /** The picture as the canvas has it, red, green and blue. */
-  picture() {
-    return this.page.evaluate(async () => {
-      await new Promise((frame) => requestAnimationFrame(() => requestAnimationFrame(frame)));
-      const canvas = document.querySelector("#Picture1 canvas");
-      const { data } = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height);
-      let text = "";
-      for (let n = 0; n < data.length; n += 4) text += String.fromCharCode(data[n], data[n + 1], data[n + 2]);
-      return { columns: canvas.width, text };
-    });
-  }
-
-  /** How many pixels differ from what the runner draws of the same lines on the same screen. */
-  async pixelsBeside(lines) {
-    const { width, height } = await this.page.evaluate(() => {
-      const { width, height } = document.getElementById("stage").style;
-      return { width: parseInt(width), height: parseInt(height) };
-    });
-    const file = join(work, "runner.png");
-    const words = ["--screen", `${width}x${height}`, "--picture", file];
-    const run = spawnSync(process.execPath, [join(source, "build/web/zerimo-batch.mjs"), ...words], { input: lines.join("\n") });
-    assert.equal(run.status, 0, String(run.stderr));
-    const wanted = readPicture(file);
-    const { columns, text } = await this.picture();
-    let other = 0;
-    for (let row = 0; row < wanted.rows; ++row) {
-      for (let column = 0; column < wanted.columns; ++column) {
-        for (let part = 0; part < 3; ++part) {
-          const here = text.charCodeAt(3 * (row * columns + column) + part);
-          if (here !== wanted.pixels[wanted.channels * (row * wanted.columns + column) + part]) ++other;
-        }
-      }
-    }
-    return other;
-  }
-}
-
-async function withLearner(options, work) {
-  const learner = await Learner.come(options);
-  try {
-    await work(learner);
-  } finally {
-    await learner.leave();
-  }
-}
-
-test("the first lesson of the README draws what the runner draws", () =>
-  withLearner({}, async (learner) => {
-    await learner.shot("start");
-    const lines = ["CS", "FD 60", "RT 90", "FD 60", "CS", "SETPC 14", "REPEAT 36 [REPEAT 4 [FD 40 RT 90] RT 10]"];
-    for (const line of lines) await learner.enter(line);
-    assert.equal(await learner.pixelsBeside(lines), 0);
-    await learner.shot("flower");
-    await learner.key("F1");
-    await learner.sees("Text2");
-    await learner.page.keyboard.type("TO BOX :SIZE\nREPEAT 4 [FD :SIZE RT 90]\nEND");
-    await learner.shot("editor");
-    await learner.key("F2");
-    await learner.ready();
-    await learner.enter("CS");
-    await learner.enter("BOX 50");
-    assert.equal(await learner.pixelsBeside([...lines, "CS", "REPEAT 4 [FD 50 RT 90]"]), 0);
-  }));
+for (const [name, work] of Object.entries(flows)) test(name, () => withLearner({}, work));
 
 test("F3 shows the text screen, F4 the whole picture, and the arrows walk the rows", () =>
   withLearner({}, async (learner) => {
@@ -186,55 +22,6 @@ test("F3 shows the text screen, F4 the whole picture, and the arrows walk the ro
     await learner.until(() => document.activeElement?.value === "PRINT 7");
     await learner.key("F4");
     await learner.until(() => !document.getElementById("Picture3").checkVisibility());
-  }));
-
-test("a box is answered with the keyboard, and what was typed ahead follows", () =>
-  withLearner({}, async (learner) => {
-    await learner.type('MESSAGE "HELLO"');
-    await learner.dialog("HELLO");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.type("WAIT 300");
-    await learner.type("MAKE :A 5");
-    await learner.type("PRINT :A");
-    await learner.key("F3");
-    await learner.until(() => document.getElementById("List4").textContent.includes("PRINT :A"));
-  }));
-
-test("an endless program does not freeze the page, and stops", () =>
-  withLearner({}, async (learner) => {
-    await learner.type("REPEAT 30000 [REPEAT 30000 [FD 10 RT 7]]");
-    await learner.until(() => !document.getElementById("stop").hidden);
-    const started = Date.now();
-    await learner.page.keyboard.down("Control");
-    await learner.key(".");
-    await learner.page.keyboard.up("Control");
-    await learner.until(() => document.getElementById("stop").hidden);
-    assert.ok(Date.now() - started < 2000);
-    await learner.enter("CS");
-    assert.equal(await learner.pixelsBeside(["CS"]), 0);
-  }));
-
-test("what is saved is there after a reload", () =>
-  withLearner({}, async (learner) => {
-    await learner.key("F1");
-    await learner.sees("Text2");
-    await learner.page.keyboard.type("TO MINE\nFD 50\nEND");
-    await learner.key("F10");
-    await learner.dialog("");
-    await learner.page.keyboard.type("MINE");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.until(async () => {
-      const folder = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
-      return (await Array.fromAsync(folder.keys())).some((name) => /MINE/i.test(name));
-    });
-    await learner.page.reload();
-    await learner.ready();
-    await learner.enter("LOAD MINE");
-    await learner.enter("CS");
-    await learner.enter("MINE");
-    assert.equal(await learner.pixelsBeside(["CS", "FD 50"]), 0);
   }));
 
 test("samples, slides and help pages are in the folder", () =>
@@ -288,34 +75,6 @@ test("after the first visit it works offline", () =>
     await learner.page.setOfflineMode(false);
   }));
 
-test("an address brings a program, asks, and runs nothing by itself", async () => {
-  const { deflateSync } = fromPage("fflate");
-  const packed = Buffer.from(deflateSync(Buffer.from("TO TASK\r\nFD 30\r\nEND\r\n"))).toString("base64url");
-  await withLearner({ hash: `#program=TASK.ZRM=${packed}` }, async (learner) => {
-    await learner.dialog("TASK.ZRM");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.enter("CS");
-    await learner.enter("TASK");
-    assert.equal(await learner.pixelsBeside(["CS", "FD 30"]), 0);
-  });
-});
-
-test("a dropped program comes into the folder", () =>
-  withLearner({}, async (learner) => {
-    const file = join(work, "DROPPED.ZRM");
-    writeFileSync(file, "TO DROPPED\r\nFD 20\r\nEND\r\n");
-    const data = { items: [], files: [file], dragOperationsMask: 1 };
-    const client = await learner.page.createCDPSession();
-    for (const type of ["dragEnter", "dragOver", "drop"]) await client.send("Input.dispatchDragEvent", { type, x: 300, y: 300, data });
-    await learner.dialog("DROPPED.ZRM");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.enter("CS");
-    await learner.enter("DROPPED");
-    assert.equal(await learner.pixelsBeside(["CS", "FD 20"]), 0);
-  }));
-
 for (const [name, width, height] of [["a phone", 390, 844], ["a large screen", 3840, 2160]]) {
   test(`everything fits on ${name}`, () =>
     withLearner({ width, height }, async (learner) => {
@@ -346,4 +105,24 @@ test("axe finds nothing, on the rows, in the editor, the diagnosis and the palet
     await learner.key("F1");
     await learner.sees("Text2");
     assert.deepEqual(await findings(), []);
+  }));
+
+test("with the colours of the system, the palette and the picture keep theirs", () =>
+  withLearner({}, async (learner) => {
+    const client = await learner.page.createCDPSession();
+    await client.send("Emulation.setEmulatedMedia", { features: [{ name: "forced-colors", value: "active" }] });
+    await learner.enter("CS");
+    await learner.enter("REPEAT 36 [FD 100 RT 170]");
+    await learner.enter("SHOW PALLETE");
+    await learner.sees("Picture2");
+    const ground = (id) => learner.page.evaluate((name) => getComputedStyle(document.getElementById(name)).backgroundColor, id);
+    assert.equal(await ground("Label13(4)"), "rgb(128, 0, 0)");
+    assert.equal(await ground("Picture3"), await learner.page.evaluate(() => {
+      const probe = Object.assign(document.createElement("p"), { id: "probe" });
+      document.body.append(probe);
+      probe.style.backgroundColor = "Canvas";
+      return getComputedStyle(probe).backgroundColor;
+    }));
+    assert.equal(await learner.pixelsBeside(["CS", "REPEAT 36 [FD 100 RT 170]"]), 0);
+    await learner.shot("high-contrast");
   }));

@@ -1,0 +1,32 @@
+// Learners in Chromium without a window, each in a browser of their own. The browser is in ZERIMO_BROWSER (chromium).
+import { clearUp, fromPage, Learner } from "./learner.mjs";
+
+const puppeteer = fromPage("puppeteer-core");
+let browser;
+
+export async function openBrowser() {
+  const executablePath = process.env.ZERIMO_BROWSER ?? "/usr/bin/chromium";
+  browser = await puppeteer.launch({ executablePath, args: ["--no-sandbox", "--disable-gpu"] });
+}
+
+export async function closeBrowser() {
+  await browser?.close();
+  clearUp();
+}
+
+/** `prepare` sees the driver's page before the learner comes. */
+export async function withLearner({ width = 1280, height = 900, hash = "", touch = false, prepare = async () => {} }, work) {
+  const context = await browser.createBrowserContext();
+  const page = await context.newPage();
+  const learner = new Learner(page, () => context.close());
+  page.on("console", (message) => message.type() === "error" && learner.complaints.push(message.text()));
+  page.on("pageerror", (error) => learner.complaints.push(String(error)));
+  try {
+    await page.setViewport({ width, height, hasTouch: touch });
+    await prepare(page);
+    await learner.come(hash);
+    await work(learner);
+  } finally {
+    await learner.leave();
+  }
+}

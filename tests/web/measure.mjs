@@ -1,0 +1,91 @@
+#!/usr/bin/env node
+// Measures the page in Chromium, on a quiet machine: what is delivered, compressed; how soon it can be used from a warm
+// server; how soon a typed line is a picture; how fast the interpreter is beside the native one.
+// Usage: tests/web/measure.mjs NATIVE_PROGRAM
+import { readdirSync, readFileSync } from "node:fs";
+import { join } from "node:path";
+import { gzipSync } from "node:zlib";
+import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
+import { site } from "./learner.mjs";
+import { net, sessions } from "./sessions_to_time.mjs";
+
+const [native] = process.argv.slice(2);
+if (!native) {
+  console.error("usage: tests/web/measure.mjs NATIVE_PROGRAM");
+  process.exit(2);
+}
+const runs = 20;
+const median = (values) => values.toSorted((one, other) => one - other)[Math.floor(values.length / 2)];
+const kilobytes = (names) => Math.round(names.reduce((sum, name) => sum + gzipSync(readFileSync(join(site, name))).length, 0) / 1000);
+
+function tellSize() {
+  const names = readdirSync(site).filter((name) => !["font.ttf", "folder.zip"].includes(name));
+  console.log(`size: ${kilobytes(names)} KB compressed, of which scripts ${kilobytes(names.filter((name) => name.endsWith(".js")))} KB`);
+}
+
+/** When a row has the focus, in milliseconds since the address was entered. */
+const noteReady = (page) =>
+  page.evaluateOnNewDocument(() => {
+    addEventListener("focusin", ({ target }) => target.id === "Text1(0)" && (globalThis.readyAt ??= performance.now()), { capture: true });
+  });
+
+/** When the last line was entered, and when its picture was there and its row was left. */
+const noteLines = (page) =>
+  page.evaluateOnNewDocument(() => {
+    const times = (globalThis.times = {});
+    addEventListener("keydown", ({ key }) => key === "Enter" && Object.assign(times, { entered: performance.now(), drawn: 0, left: 0 }), { capture: true });
+    addEventListener("focusin", () => (times.left = performance.now()), { capture: true });
+    const put = CanvasRenderingContext2D.prototype.putImageData;
+    CanvasRenderingContext2D.prototype.putImageData = function (...words) {
+      put.apply(this, words);
+      times.drawn = performance.now();
+    };
+  });
+
+async function tellStart() {
+  const times = [];
+  for (let run = 0; run < runs; ++run) {
+    await withLearner({ prepare: noteReady }, async ({ page }) => times.push(await page.evaluate(() => globalThis.readyAt)));
+  }
+  console.log(`usable after ${Math.round(median(times))} ms`);
+}
+
+/** From the Enter key, in milliseconds. */
+async function timeOf(learner, line, what) {
+  await learner.type(line);
+  await learner.until((part) => globalThis.times[part] > 0, what);
+  return learner.page.evaluate((part) => globalThis.times[part] - globalThis.times.entered, what);
+}
+
+const tellLines = () =>
+  withLearner({ prepare: noteLines }, async (learner) => {
+    await learner.enter("CS");
+    const times = [];
+    for (let run = 0; run < runs; ++run) {
+      times.push(await timeOf(learner, `FD ${50 + run}`, "drawn"));
+      await learner.ready();
+    }
+    console.log(`a typed line is a picture after ${median(times).toFixed(1)} ms`);
+  });
+
+const tellSpeed = () =>
+  withLearner({ prepare: noteLines }, async (learner) => {
+    for (const [name, session] of Object.entries(sessions)) {
+      const times = [];
+      for (let run = 0; run < 5; ++run) {
+        const lines = session.split("\n");
+        for (const line of lines.slice(0, -1)) await learner.enter(line);
+        times.push((await timeOf(learner, lines.at(-1), "left")) / 1000);
+        await learner.ready();
+      }
+      const [there, here] = [net(native, [], session), Math.min(...times)];
+      console.log(`${name}: native ${there.toFixed(2)} s, in the browser ${here.toFixed(2)} s, ${(there / here).toFixed(2)} of native speed`);
+    }
+  });
+
+await openBrowser();
+tellSize();
+await tellStart();
+await tellLines();
+await tellSpeed();
+await closeBrowser();
