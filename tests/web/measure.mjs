@@ -29,12 +29,11 @@ const noteReady = (page) =>
     addEventListener("focusin", ({ target }) => target.id === "Text1(0)" && (globalThis.readyAt ??= performance.now()), { capture: true });
   });
 
-/** When the last line was entered, and when its picture was there and its row was left. */
+/** When the last line was entered, and when its picture was there. */
 const noteLines = (page) =>
   page.evaluateOnNewDocument(() => {
     const times = (globalThis.times = {});
-    addEventListener("keydown", ({ key }) => key === "Enter" && Object.assign(times, { entered: performance.now(), drawn: 0, left: 0 }), { capture: true });
-    addEventListener("focusin", () => (times.left = performance.now()), { capture: true });
+    addEventListener("keydown", ({ key }) => key === "Enter" && Object.assign(times, { entered: performance.now(), drawn: 0 }), { capture: true });
     const put = CanvasRenderingContext2D.prototype.putImageData;
     CanvasRenderingContext2D.prototype.putImageData = function (...words) {
       put.apply(this, words);
@@ -50,38 +49,42 @@ async function tellStart() {
   console.log(`usable after ${Math.round(median(times))} ms`);
 }
 
-/** From the Enter key, in milliseconds. */
-async function timeOf(learner, line, what) {
-  await learner.type(line);
-  await learner.until((part) => globalThis.times[part] > 0, what);
-  return learner.page.evaluate((part) => globalThis.times[part] - globalThis.times.entered, what);
-}
-
 const tellLines = () =>
   withLearner({ prepare: noteLines }, async (learner) => {
     await learner.enter("CS");
     const times = [];
     for (let run = 0; run < runs; ++run) {
-      times.push(await timeOf(learner, `FD ${50 + run}`, "drawn"));
+      await learner.type("REPEAT 36 [FD 100 RT 170]");
+      await learner.until(() => globalThis.times.drawn > 0);
+      times.push(await learner.page.evaluate(() => globalThis.times.drawn - globalThis.times.entered));
       await learner.ready();
     }
     console.log(`a typed line is a picture after ${median(times).toFixed(1)} ms`);
   });
 
-const tellSpeed = () =>
-  withLearner({ prepare: noteLines }, async (learner) => {
-    for (const [name, session] of Object.entries(sessions)) {
-      const times = [];
-      for (let run = 0; run < 5; ++run) {
-        const lines = session.split("\n");
-        for (const line of lines.slice(0, -1)) await learner.enter(line);
-        times.push((await timeOf(learner, lines.at(-1), "left")) / 1000);
-        await learner.ready();
-      }
-      const [there, here] = [net(native, [], session), Math.min(...times)];
-      console.log(`${name}: native ${there.toFixed(2)} s, in the browser ${here.toFixed(2)} s, ${(there / here).toFixed(2)} of native speed`);
-    }
+/** From the Enter key of the last line until its row is left. */
+async function secondsOf(session) {
+  let took = 0;
+  await withLearner({}, async (learner) => {
+    const lines = session.split("\n");
+    for (const line of lines.slice(0, -1)) await learner.enter(line);
+    await learner.page.keyboard.type(lines.at(-1));
+    const start = performance.now();
+    await learner.key("Enter");
+    await learner.until((line) => document.activeElement.value !== line, lines.at(-1));
+    took = performance.now() - start;
   });
+  return took / 1000;
+}
+
+async function tellSpeed() {
+  for (const [name, session] of Object.entries(sessions)) {
+    const times = [];
+    for (let run = 0; run < 3; ++run) times.push(await secondsOf(session));
+    const [there, here] = [net(native, [], session), Math.min(...times)];
+    console.log(`${name}: native ${there.toFixed(2)} s, in the browser ${here.toFixed(2)} s, ${(there / here).toFixed(2)} of native speed`);
+  }
+}
 
 await openBrowser();
 tellSize();

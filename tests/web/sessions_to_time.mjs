@@ -4,14 +4,14 @@ import { spawnSync } from "node:child_process";
 const runs = 5;
 
 export const sessions = {
-  "sums": "MAKE :A 0\nREPEAT 300 [REPEAT 300 [MAKE :A :A+1]]",
-  "drawing": "RESOLUTION 5\nREPEAT 300 [REPEAT 300 [FD 3 RT 7]]",
+  "sums": "MAKE :A 0\nREPEAT 3000 [REPEAT 300 [MAKE :A :A+1]]",
+  "drawing": "RESOLUTION 5\nREPEAT 3000 [REPEAT 300 [FD 3 RT 7]]",
 };
 
 function seconds(command, words, session) {
   const times = Array.from({ length: runs }, () => {
     const start = performance.now();
-    const { status } = spawnSync(command, [...words, "--seconds", "0"], { input: session });
+    const { status } = spawnSync(command, [...words, "--seconds", "0", "--steps", "0"], { input: session });
     if (status !== 0) throw new Error(`${command} ended with ${status}`);
     return performance.now() - start;
   });
