@@ -34,8 +34,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ReadNumber{"1d-2", .01}, ReadNumber{"1E", 1}, ReadNumber{"1E+", 1}, ReadNumber{"1E+2", 100},
                     ReadNumber{"E5", 0}, ReadNumber{".E5", 0}, ReadNumber{"&H1F", 31}, ReadNumber{"&hff", 255},
                     ReadNumber{"&O17", 15}, ReadNumber{"&o17", 15}, ReadNumber{"&O18", 1}, ReadNumber{"&H1FG", 31},
-                    ReadNumber{"&X1", 0}, ReadNumber{"5%3", 5}, ReadNumber{"1E-400", 0}, ReadNumber{"-.25", -.25},
-                    ReadNumber{"0E999", 0}));
+                    ReadNumber{"&H1f@", 31}, ReadNumber{"&h1Fg", 31}, ReadNumber{"&h1f`", 31}, ReadNumber{"&X1", 0},
+                    ReadNumber{"5%3", 5}, ReadNumber{"1E-400", 0}, ReadNumber{"-.25", -.25}, ReadNumber{"0E999", 0}));
 
 TEST(Val, BeyondTheRangeOfNumbersFails) {
   EXPECT_THROW(Val("1E309"), Failure);
@@ -98,6 +98,7 @@ TEST(Rounding, ToDecimalsRoundsTheScaledNumber) {
   EXPECT_EQ(RoundToDecimals(.125, 2), .12);
   EXPECT_EQ(RoundToDecimals(.375, 2), .38);
   EXPECT_EQ(RoundToDecimals(.25, 1), .2);
+  EXPECT_EQ(RoundToDecimals(2.5, 0), 2);
   EXPECT_EQ(RoundToDecimals(-.75, 1), -.8);
   EXPECT_EQ(RoundToDecimals(3.14159, 2), 3.14);
 }

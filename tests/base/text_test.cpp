@@ -49,5 +49,20 @@ TEST(Text, PositionsAreZeroWhenNothingIsFound) {
   EXPECT_TRUE(Contains("PRINT \"TO #\"", "TO #"));
 }
 
+TEST(Text, QuotedIsWhatBeginsAndEndsWithAQuote) {
+  EXPECT_TRUE(IsQuoted("\"A B\""));
+  EXPECT_TRUE(IsQuoted(" \"A\""));
+  EXPECT_FALSE(IsQuoted("\"A\" "));
+  EXPECT_FALSE(IsQuoted("\"A"));
+  EXPECT_FALSE(IsQuoted("A\""));
+  EXPECT_FALSE(IsQuoted(""));
+}
+
+TEST(Text, WithoutItsEndsATextHasTwoCharactersLess) {
+  EXPECT_EQ(WithoutEnds("\"A B\""), "A B");
+  EXPECT_EQ(WithoutEnds("\"\""), "");
+  EXPECT_THROW(WithoutEnds("\""), Failure);
+}
+
 }  // namespace
 }  // namespace zerimo

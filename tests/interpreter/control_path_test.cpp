@@ -70,5 +70,52 @@ TEST(ControlPath, KeptHelpers) {
   EXPECT_EQ(ForwardCtrlString(".A- 1.B- 2"), ".A- 1.B-3");
 }
 
+/// Paths whose last part is no number as the walk writes it.
+class OddPath : public testing::TestWithParam<const char*> {};
+
+TEST_P(OddPath, GetsALineNumberAfterItsFirstPart) {
+  const std::string first = FirstPartExtractor(GetParam());
+  ControlPath path;
+  path.SetCtrlStr(GetParam());
+  path.WriteLine(5, ControlPath::Lead::Blank);
+  EXPECT_EQ(path.CtrlStr(), first + " 5");
+  path.SetCtrlStr(GetParam());
+  path.WriteLine(5, ControlPath::Lead::None);
+  EXPECT_EQ(path.CtrlStr(), first + "5");
+}
+
+INSTANTIATE_TEST_SUITE_P(Paths, OddPath,
+                         testing::Values(".A-", ".A- ", ".A-007", ".A-1234567890", ".A-5B", ".A", ".A- 5"));
+
+TEST(ControlPath, ANegativeLineIsText) {
+  ControlPath path;
+  path.SetCtrlStr(".A- 5");
+  path.WriteLine(-1, ControlPath::Lead::Blank);
+  EXPECT_EQ(path.CtrlStr(), ".A--1");
+}
+
+TEST(ControlPath, ALineBeyondSixteenBitsCannotBeRead) {
+  ControlPath path;
+  path.SetCtrlStr(".A- 40000");
+  EXPECT_THROW(path.LineReached(), Failure);
+  path.SetCtrlStr(".A-4E4");
+  EXPECT_THROW(path.LineReached(), Failure);
+}
+
+TEST(ControlPath, NothingRunsWithAPointABlankOrNoText) {
+  for (const char* const text : {".", " ", ""}) {
+    ControlPath path;
+    path.SetCtrlStr(text);
+    EXPECT_TRUE(path.NothingRuns()) << '"' << text << '"';
+  }
+  ControlPath path;
+  path.SetCtrlStr(".A");
+  EXPECT_FALSE(path.NothingRuns());
+  path.SetCtrlStr(".A- 1");
+  EXPECT_FALSE(path.NothingRuns());
+}
+
+TEST(ControlPath, TheNextLineOfATextWithoutADashIsItsNumberAndOne) { EXPECT_EQ(ForwardCtrlString("7"), "-8"); }
+
 }  // namespace
 }  // namespace zerimo

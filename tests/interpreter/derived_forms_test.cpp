@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 #include "support/failure_of.h"
 #include "support/interpreter.h"
 
@@ -218,6 +221,20 @@ TEST_F(DerivedFormsTest, NamesThatComeBackAreTheSameState) {
   EXPECT_EQ(variables.Names(), before);
   variables.SetSlot(1, "P.A=B");
   EXPECT_NE(variables.Names(), within);
+}
+
+TEST(NameStates, NewNamesNeverGetAStateThatOthersHad) {
+  NameStates states;
+  std::set<std::uint64_t> seen = {states.Now()};
+  // More than are kept at a time.
+  for (int name = 0; name < 21'000; ++name) {
+    states.Change(1, "N" + std::to_string(name) + "=");
+    ASSERT_TRUE(seen.insert(states.Now()).second) << name;
+  }
+  const std::uint64_t last = states.Now();
+  states.Change(1, "A=");
+  states.Change(1, "N20999=");
+  EXPECT_EQ(states.Now(), last);
 }
 
 TEST_F(DerivedFormsTest, TheTextOfThePathFollowsItsLine) {

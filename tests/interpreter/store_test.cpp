@@ -239,5 +239,22 @@ TEST_F(StoreTest, ClassFollowsTheText) {
   EXPECT_THROW(store.ClassOf(0), Failure);
 }
 
+TEST_F(StoreTest, TheFirstWordIsTakenFromWhateverALineHolds) {
+  Fill({"BOX 30", "BOX 30 ", "BOX 30  ", " BOX", "B", " "});
+  int number = 0;
+  for (const char* const word : {"BOX", "BOX", "BOX", "BOX", "B", ""}) {
+    EXPECT_EQ(store.TakeFirstWord(++number), word) << number;
+  }
+  EXPECT_EQ(store.Line(3), "BOX 30 ");
+}
+
+TEST_F(StoreTest, OfAnEmptyLineNothingIsDerivedButItsClass) {
+  EXPECT_EQ(store.ClassOf(1), store.ClassOf(2000));
+  Fill({"FD 10"});
+  EXPECT_EQ(store.FormOf(1).Input.Text(), "10");
+  store.SetLine(1, "");
+  EXPECT_EQ(store.FormOf(1).Input.Text(), "");
+}
+
 }  // namespace
 }  // namespace zerimo

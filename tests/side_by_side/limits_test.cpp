@@ -111,6 +111,54 @@ TEST_F(LimitsTest, ALimitOfStepsStopsAtTheSameLine) {
   for (int steps = 1; steps <= 60; ++steps) EXPECT_EQ(Type("REPEAT 9 [P 2 IF :K>5 FD :K ENDIF]", steps), steps);
 }
 
+/// Texts that are too long, too deep or too odd for a formula, and stay literal.
+class LiteralTextTest : public LimitsTest, public testing::WithParamInterface<std::string> {};
+
+std::string Many(int count, const std::string& text) {
+  std::string texts;
+  for (int n = 0; n < count; ++n) texts += text;
+  return texts;
+}
+
+TEST_P(LiteralTextTest, IsEvaluatedInALoop) {
+  Load({"TO P :X :", "MAKE \"N " + GetParam(), "IF " + GetParam() + "<7", "FD :X", "ENDIF", "IF 7<" + GetParam(),
+        "FD 2", "ENDIF", "FD " + GetParam(), "END"});
+  for (const char* const start : {"3", "0", "-2", "1E20"}) {
+    Type(std::string("MAKE \"N ") + start + " REPEAT 3 [P " + start + " 4]");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, LiteralTextTest,
+                         testing::Values(":N" + Many(30, "*1"), ":N" + Many(30, "+1"), ":N" + Many(9, "+:N"),
+                                         Many(9, "XCOR+") + "1", ":N+" + Many(100, "1"),
+                                         Many(26, "(") + ":N" + Many(26, ")"), "(:N+1", ":N+1)", ":N*", "2.5.1+:N", ".",
+                                         "1234567890123456+:N", "XCOR1+:N", "XXCOR+:N", ":M+1", ":N+:M*2", ":N==3",
+                                         ":N%5000000000", "5000000000%:N", ":N/.0000001", ":X:N", ":X+ :N", "\"N",
+                                         "XCOR", "YCOR*2", ":N%0", "(1/3)*:N", "(:N-3)*2"));
+
+TEST_F(LimitsTest, PlacesAndStepsThatCannotBeToldInALoop) {
+  Load({"TO P", "MAKE \"N XCOR+1", "IF YCOR<3", "FD XCOR", "ENDIF", "END"});
+  for (const double odd : {0.0, 1E-200, 1E200}) {
+    Both([&](auto& side) { side.turtle.Resolution = odd; });
+    Type("REPEAT 5 [P]");
+    Both([&](auto& side) {
+      side.turtle.Resolution = 50;
+      side.turtle.TurtleX = odd;
+    });
+    Type("REPEAT 5 [P]");
+    Both([&](auto& side) { side.turtle.TurtleY = odd; });
+    Type("REPEAT 5 [P]");
+  }
+}
+
+TEST_F(LimitsTest, AZeroWithASignInASlot) {
+  Load({"TO P", "MAKE \"N :A+1", "FD :N", "END"});
+  for (const char* const slot : {":A=-0", ":A=0", ":A=-0.0", ":A=1=2", ":A"}) {
+    Both([&](auto& side) { side.interpreter.variables.SetSlot(1, slot); });
+    Type("REPEAT 4 [P]");
+  }
+}
+
 class ValuesTest : public LimitsTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(ValuesTest, CrossTheKindsOfNumbersInALoop) {
