@@ -160,9 +160,6 @@ TEST(StatusNames, FollowTheTable) {
   EXPECT_EQ(ColourName(16), "");
   EXPECT_EQ(ColourName(-1), "");
   EXPECT_EQ(ColourName(8388736), "");
-  EXPECT_EQ(PenStateName(PenPosition::Down), "Pen Down");
-  EXPECT_EQ(PenStateName(PenPosition::Up), "Pen Up");
-  EXPECT_EQ(PenStateName(PenPosition::Erase), "Pen Erase");
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ TEST(TokenArray, HasIndexes0To100) {
   EXPECT_EQ(FailureOf([&] { tokens.Set(101, "X"); }), FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(FailureOf([&] { tokens.Append(101, 'X'); }), FailureKind::SubscriptOutOfRange);
   EXPECT_EQ(FailureOf([&] { tokens.At(-1); }), FailureKind::SubscriptOutOfRange);
+  EXPECT_EQ(FailureOf([&] { tokens.Set(-1, "X"); }), FailureKind::SubscriptOutOfRange);
 }
 
 TEST(TokenArray, EndsAtTheEmptyTextOrACarriageReturn) {

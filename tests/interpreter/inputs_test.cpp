@@ -150,5 +150,13 @@ TEST_F(InputsTest, ASecondCallTakesTheDeletedSlotAgain) {
   EXPECT_EQ(Calls.back(), "FD 6");
 }
 
+TEST(WordsOfACall, AreNumberedFrom1To50) {
+  const Words words("BOX 10");
+  EXPECT_EQ(words.At(1), "BOX");
+  EXPECT_EQ(words.At(50), "");
+  EXPECT_THROW(words.At(0), Failure);
+  EXPECT_THROW(words.At(51), Failure);
+}
+
 }  // namespace
 }  // namespace zerimo

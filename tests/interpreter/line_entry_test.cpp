@@ -213,5 +213,10 @@ TEST(GiveWord, FortyNineWordsAreTheMost) {
   EXPECT_TRUE(tooMany.ends_with("W50 "));
 }
 
+TEST(GiveWord, HasNoWordBeforeTheFirst) {
+  std::string text = "FD 10";
+  EXPECT_THROW(GiveWord(text, 0), Failure);
+}
+
 }  // namespace
 }  // namespace zerimo

@@ -134,7 +134,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, LiteralTextTest,
                                          Many(26, "(") + ":N" + Many(26, ")"), "(:N+1", ":N+1)", ":N*", "2.5.1+:N", ".",
                                          "1234567890123456+:N", "XCOR1+:N", "XXCOR+:N", ":M+1", ":N+:M*2", ":N==3",
                                          ":N%5000000000", "5000000000%:N", ":N/.0000001", ":X:N", ":X+ :N", "\"N",
-                                         "XCOR", "YCOR*2", ":N%0", "(1/3)*:N", "(:N-3)*2"));
+                                         "XCOR", "YCOR*2", ":N%0", "(1/3)*:N", "(:N-3)*2", "(:N/100000)*2",
+                                         "(:N*99999999999999)/2"));
 
 TEST_F(LimitsTest, PlacesAndStepsThatCannotBeToldInALoop) {
   Load({"TO P", "MAKE \"N XCOR+1", "IF YCOR<3", "FD XCOR", "ENDIF", "END"});
