@@ -61,6 +61,8 @@ fs::path WithoutLinks(fs::path file) {
   return file;
 }
 
+}  // namespace
+
 #if defined(__unix__) || defined(__APPLE__)
 
 /// An open file or folder. Every member may fail (file access).
@@ -99,6 +101,8 @@ class Descriptor {
  private:
   int number_;
 };
+
+namespace {
 
 /// The new file for a place with a regular file or nothing. Fails (file access) if the place holds anything else.
 Descriptor OpenFor(const fs::path& place, const fs::path& newFile) {
@@ -148,6 +152,8 @@ class Descriptor {
  private:
   std::ofstream stream_;
 };
+
+namespace {
 
 Descriptor OpenFor(const fs::path& place, const fs::path& newFile) {
   std::error_code error;
