@@ -7,7 +7,7 @@ namespace zerimo {
 void RunningLine::Step() {
   int told = 0;
   SkipOnFailure([&] { told = EndValExtractor(interpreter_.controlPath.CtrlStr()); });
-  // After an ENDIF the control string is one ahead of the walk.
+  // After an ENDIF the control string is one ahead of the walk. Never fails: no walk goes on past the store.
   const bool isAhead = number_ > 0 && told == number_ + 2 && interpreter_.store.ClassOf(number_) == StmtEndIf;
   number_ = isAhead ? told - 1 : told;
 }

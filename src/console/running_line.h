@@ -14,10 +14,10 @@ class RunningLine {
   /// Must be called before each step of a walk.
   void Step();
   /// Must be called when the walk is over.
-  void Clear() { number_ = 0; }
+  void Clear() noexcept { number_ = 0; }
 
   /// As `List1` counts, from 1; 0 if unknown.
-  int Number() const { return number_; }
+  int Number() const noexcept { return number_; }
   /// "BOX, line 12: FD :S"; nothing if unknown.
   std::string Words() const;
 

@@ -104,11 +104,11 @@ class Evaluation {
   }
 
   /// A minus sign that is pasted after another sign is the one that counts.
-  static bool Subtracts(const Formula::Term& term, double first, bool followsSign) {
+  static bool Subtracts(const Formula::Term& term, double first, bool followsSign) noexcept {
     return term.Sign == '-' || (followsSign && first < 0);
   }
 
-  static bool HasVanished(const Operand& operand, double value) {
+  static bool HasVanished(const Operand& operand, double value) noexcept {
     return operand.What == Operand::Kind::Nothing || (operand.What == Operand::Kind::Global && value == 0);
   }
 
