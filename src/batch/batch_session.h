@@ -49,9 +49,6 @@ class BatchSession {
   /// Reads and runs; a mistake in the session gives an outcome too.
   Outcome Run(std::string_view utf8);
 
-  /// The line of the session being carried out; 0 before the first.
-  int CurrentLine() const { return currentLine_; }
-
  private:
   Outcome RunToTheEnd(const Script& script);
   void RunSteps(const Script& script);

@@ -59,7 +59,7 @@ class ClassRunner {
   };
 
   void StartMore();
-  /// Puts a program whose process could not be started back.
+  /// Puts back a program whose process could not be started.
   void Postpone(std::size_t index);
   /// Takes the runs that have ended, kills the late ones, starts the next ones.
   void Look();

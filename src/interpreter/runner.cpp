@@ -21,9 +21,9 @@ using Lead = ControlPath::Lead;
 /// Shows the control string in a label during a run, and leaves its last state there, however the run ends.
 class ShownPath {
  public:
-  ShownPath(Label& label, const ControlPath& path) : label_(label), path_(path) {}
+  ShownPath(Label& label, const ControlPath& controlPath) : label_(label), controlPath_(controlPath) {}
   ~ShownPath() {
-    label_.Caption.Follow([this]() -> const std::string& { return path_.CtrlStr(); });
+    label_.Caption.Follow([this]() -> const std::string& { return controlPath_.CtrlStr(); });
     label_.Caption.Keep();
   }
   ShownPath(const ShownPath&) = delete;
@@ -31,12 +31,12 @@ class ShownPath {
 
   /// For the user to see while a box is open.
   void Follow() {
-    label_.Caption.Follow([this]() -> const std::string& { return path_.CtrlStr(); });
+    label_.Caption.Follow([this]() -> const std::string& { return controlPath_.CtrlStr(); });
   }
 
  private:
   Label& label_;
-  const ControlPath& path_;
+  const ControlPath& controlPath_;
 };
 
 /// The procedures on the path of a stopped walk, the innermost first, each once: a recursion names one many times.

@@ -45,9 +45,6 @@ void Store::Put(std::size_t index, std::string text) noexcept {
 }
 
 const LineForm& Store::MakeForm(std::size_t index) const {
-  // Most lines are empty, and some walks pass all of them.
-  static const LineForm formOfNothing("");
-  if (FileDataArray[index].empty()) return formOfNothing;
   forms_[index] = std::make_unique<LineForm>(FileDataArray[index]);
   return *forms_[index];
 }

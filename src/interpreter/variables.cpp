@@ -142,6 +142,8 @@ void Variables::CreateGlobalVariable() {
   std::string name;
   StatementClass kind{};
   for (int number = 1; kind != StmtTo; ++number) {
+    // With no MAKE so far, an empty line leaves nothing to evaluate; with no header at all, all lines are passed.
+    if (value.empty() && context_.store.Line(number).empty()) continue;
     kind = context_.store.ClassOf(number);
     if (kind == StmtMake) {
       context_.store.TrimLine(number);
@@ -151,8 +153,6 @@ void Variables::CreateGlobalVariable() {
       name = Mid(line, 6, lastBlank - 6);
       value = From(line, lastBlank + 1);
     }
-    // With no MAKE so far there is nothing to evaluate; with no header at all, that is the whole store.
-    if (value.empty()) continue;
     const double result = ExpressionEvaluator(Str(context_.arithmetic.ArithmeticEvaluator(value)));
     // The slot is the line's own number, whatever it held.
     if (kind == StmtMake) SetSlot(number, name + "=" + StrTrimmed(result));

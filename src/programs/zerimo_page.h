@@ -2,8 +2,8 @@
 
 #include "web/page_shell.h"
 
-/// What the page calls. Controls and timers go by their names, and a name that there is not does nothing; places are in
-/// surface units, and texts are UTF-8 with characters of the system alone.
+/// What the page calls. Controls and timers go by their names, and an unknown name does nothing; places are in surface
+/// units, and texts are UTF-8 with characters of the system alone.
 namespace zerimo::web {
 
 extern "C" {

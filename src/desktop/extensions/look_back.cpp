@@ -4,7 +4,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <algorithm>
+#include <string_view>
 #include <utility>
+#include <variant>
 
 #include "desktop/desktop_text.h"
 #include "desktop/surface_view.h"
@@ -22,6 +24,12 @@ constexpr Colour WordLetters = 0xFFFFFF;
 bool IsModifier(int key) {
   return key == Qt::Key_Alt || key == Qt::Key_AltGr || key == Qt::Key_Shift || key == Qt::Key_Control ||
          key == Qt::Key_Meta;
+}
+
+/// A new background colour clears it.
+bool ChangesThePicture(const SurfaceOperation& operation) {
+  const auto* const set = std::get_if<surface_operation::Set>(&operation);
+  return set == nullptr || std::string_view(set->Property) == "BackColor";
 }
 
 }  // namespace
@@ -77,7 +85,7 @@ class LookBack::Sheet : public QWidget {
   QLabel& words_;
 };
 
-LookBack::LookBack(Session& session) : session_(session), after_(SceneNow()) {
+LookBack::LookBack(Session& session) : session_(session), after_(session.Canvas().Pixels()) {
   // The session ends before its extensions do.
   session.form1.Picture1.AddRecorder(*this);
 }
@@ -88,8 +96,11 @@ LookBack::Scene LookBack::SceneNow() const {
   return {session_.Canvas().Pixels(), DrawingState(session_.form1.Picture1)};
 }
 
-void LookBack::Record(const Surface&, const SurfaceOperation& operation) {
-  if (!isDrawing_) Begin(std::exchange(after_, {}));
+void LookBack::Record(const Surface& surface, const SurfaceOperation& operation) {
+  if (!isDrawing_) {
+    if (!ChangesThePicture(operation)) return;
+    Begin({std::exchange(after_, {}), DrawingState(surface)});
+  }
   // What a loaded picture replaces is not looked at.
   if (std::holds_alternative<surface_operation::Picture>(operation)) return Begin(SceneNow());
   if (!IsCut()) Keep(operation);
@@ -113,7 +124,7 @@ void LookBack::Keep(const SurfaceOperation& operation) {
 void LookBack::RunEnds() {
   if (!isDrawing_) return;
   isDrawing_ = false;
-  after_ = SceneNow();
+  after_ = session_.Canvas().Pixels();
 }
 
 bool LookBack::PressKey(const QKeyEvent& press) {

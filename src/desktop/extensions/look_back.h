@@ -45,9 +45,10 @@ class LookBack : public Extension, private SurfaceRecorder {
   bool IsCut() const { return work_ >= MostWork; }
 
   Session& session_;
-  /// Before the run that can be looked at, and after it.
+  /// Before the run that can be looked at.
   Scene before_;
-  Scene after_;
+  /// The picture after the last run.
+  PixelBuffer after_;
   std::vector<SurfaceOperation> operations_;
   /// How many operations each step has carried out, those that only set something included.
   std::vector<std::size_t> steps_;

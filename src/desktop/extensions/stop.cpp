@@ -37,14 +37,16 @@ bool Stop::PressKey(const QKeyEvent& press) {
 
 void Stop::BoxOpens(QDialog& dialog) {
   auto* box = qobject_cast<QMessageBox*>(&dialog);
-  if (box == nullptr || !sinceAnswer_.isValid() || sinceAnswer_.elapsed() > AtOnce) return;
+  if (box == nullptr || !IsProgramRunning() || !sinceAnswer_.isValid() || sinceAnswer_.elapsed() > AtOnce) return;
   const QPushButton* button = box->addButton(QStringLiteral("&Stop the program"), QMessageBox::ActionRole);
   QObject::connect(button, &QPushButton::clicked, box, [this] { session_.Running().RequestStop(); });
 }
 
+bool Stop::IsProgramRunning() const { return session_.form1.interpreter.controlPath.CtrlStr() != "."; }
+
 bool Stop::ClosesDuringRun() {
-  // Only a program can be stopped; the system's own questions close with the window.
-  if (session_.form1.interpreter.controlPath.CtrlStr() == ".") return false;
+  // The system's own questions close with the window.
+  if (!IsProgramRunning()) return false;
   // Closing the window a second time is clear enough.
   if (asking_) return false;
   asking_ = true;

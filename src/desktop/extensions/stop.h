@@ -19,6 +19,7 @@ class Stop : public Extension {
   bool ClosesDuringRun() override;
 
  private:
+  bool IsProgramRunning() const;
   void AskToLeave();
 
   Session& session_;

@@ -85,6 +85,33 @@ TEST_F(LookBackTest, ALineThatDrawsNothingKeepsTheLastDrawing) {
   EXPECT_EQ(Told(), "Looking back: step 2 of 3");
 }
 
+TEST_F(LookBackTest, WhatOnlySetsSomethingKeepsTheLastDrawing) {
+  Enter("repeat 3 [fd 60 rt 120]");
+  Enter("setpc 4");
+  Enter("lw 9");
+  Press(Qt::Key_F3);
+  Press(Qt::Key_F2);
+  Enter("show dia");
+  Back();
+  EXPECT_EQ(Told(), "Looking back: step 2 of 3");
+}
+
+TEST_F(LookBackTest, TheFirstStepIsDrawnAsWasSetBeforeIt) {
+  Enter("fd 60");
+  Enter("setpc 4");
+  Enter("lw 9");
+  Enter("rt 90 fd 60 fd 60");
+  const QImage end = Seen();
+  Back();
+  EXPECT_NE(Seen(), end);
+  On();
+  Back();
+  Back();
+  On();
+  On();
+  EXPECT_EQ(Seen(), end);
+}
+
 TEST_F(LookBackTest, OfALongRunTheBeginningIsKept) {
   Enter("repeat 30000 [fd 1]");
   const QImage end = Seen();

@@ -191,6 +191,8 @@ TEST_F(RecoveryTest, EveryTextIsOffered) {
   StartAnew();
   ASSERT_TRUE(Until([this] { return Boxes.size() == 2 && !session->Running().IsRunning(); }));
   EXPECT_EQ(FormControls().Text2.Text, "one\r\ntwo");
+  // No program runs that could be stopped.
+  EXPECT_EQ(Boxes[1].Buttons, Boxes[0].Buttons);
   EXPECT_EQ(Kept(), Texts{"one\r\ntwo"});
 }
 
