@@ -40,7 +40,8 @@ TEST_F(DispatchTest, TrimsItsCallersText) {
 TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
   PrimitiveCall seen;
   dispatch.Bind(Action::Forward, [&](PrimitiveCall& call) { seen = call; });
-  dispatch.Execute("FD 10 + 5");
+  std::string line = "FD 10 + 5";
+  dispatch.Executor(line);
   EXPECT_EQ(seen.Word, "FD");
   EXPECT_EQ(seen.Rest, "10 + 5");
   EXPECT_FALSE(seen.InputIsMissing);
