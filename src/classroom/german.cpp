@@ -15,6 +15,8 @@ constexpr std::array Sentences = {
     Sentence{"The picture is too large for the report.", "Das Bild ist zu groß für den Bericht."},
     Sentence{"Not all that was said could be kept: is the disk full?",
              "Nicht alle Ausgaben konnten aufgehoben werden: Ist die Platte voll?"},
+    Sentence{"The process ended before all goals were tried.",
+             "Der Prozess endete, bevor alle Ziele versucht waren."},
     Sentence{"The operating system did not contain this run.",
              "Das Betriebssystem hat diesen Lauf nicht eingeschlossen."},
     Sentence{"the program", "das Programm"},

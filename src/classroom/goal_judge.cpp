@@ -105,7 +105,7 @@ GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) 
   const Goal& goal = order.Goals[index];
   std::error_code ignored;
   fs::copy_file(ModelPictureOf(order, index), run_file::ModelPicture(index), ignored);
-  GoalOutcome outcome{ShortText(goal.Title()), goal.Way, false, 0, goal.Points, {}};
+  GoalOutcome outcome = goal.NotMet();
   if (goal.Way == GoalWay::Shapes) JudgeShapes(outcome, order, index, run);
   if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index);
   if (goal.Way == GoalWay::Texts) {

@@ -33,12 +33,11 @@ QString TextOfProgram(const std::string& bytes) {
   return decoder.hasError() ? QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())) : text;
 }
 
-ProgramSource::ProgramSource(const QString& program, const Store& store) {
+ProgramSource::ProgramSource(const QString& program) {
   for (const QString& line : LinesOf(program)) {
     IsCut = IsCut || Lines.size() == MostLines;
     if (!IsCut) Lines.push_back({line.left(LongestLine), {}});
   }
-  Match(store);
 }
 
 void ProgramSource::Match(const Store& store) {

@@ -14,17 +14,19 @@ class ProgramSource {
   static constexpr int MostLines = 1000;
   static constexpr qsizetype LongestLine = 500;
 
-  /// `program` is the text of the file; `store` is as it is after the run.
-  ProgramSource(const QString& program, const Store& store);
+  /// `program` is the text of the file.
+  explicit ProgramSource(const QString& program);
+
+  /// Adds what the store has, which is as it is after the run.
+  void Match(const Store& store);
 
   std::vector<SourceLine> Lines;
   bool IsCut = false;
 
-  /// The line of the file that a line of the store came from, or 0.
+  /// The line of the file that a line of the matched store came from, or 0.
   int LineOf(int storeLine) const;
 
  private:
-  void Match(const Store& store);
   /// How many lines of the store, from `first` on, a REPEAT became; 0 if they are not from one.
   static int LengthOfRepeat(const Store& store, int first);
 

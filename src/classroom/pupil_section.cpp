@@ -93,7 +93,7 @@ class SectionWriter {
         QStringLiteral(", ") + percent + QStringLiteral(", ") +
         Filled(language_.Points, {QString::number(goal.Met ? goal.Points : 0), QString::number(goal.Points)}));
     if (goal.Placed) html_ += Paragraph(Filled(language_.ItIsTheGoal, {WordsOf(*goal.Placed, language_)}));
-    if (goal.Way == GoalWay::Texts) return;
+    if (goal.Way == GoalWay::Texts || run_.Picture.empty()) return;
     const std::filesystem::path folder = run_.Picture.parent_path();
     html_ += QStringLiteral("<div class=\"goal\">\n");
     AddFigure(folder / run_file::ModelPicture(index), language_.GoalPicture);

@@ -75,29 +75,33 @@ std::string LoadNameOf(const fs::path& file) {
 
 }  // namespace
 
-PupilSession::PupilSession(const Order& order) : order_(order), loadName_(LoadNameOf(order.Who.Program)) {}
+PupilSession::PupilSession(const Order& order, Teller tell)
+    : order_(order), tell_(std::move(tell)), loadName_(LoadNameOf(order.Who.Program)) {}
 
-void PupilSession::Run(const std::function<void(const RunOutcome&)>& tell) {
+void PupilSession::Run() {
   try {
     ReadFiles();
     PlaceProgram();
   } catch (const Reason& reason) {
     outcome_.How = Result::NotRun;
     outcome_.Message = QString::fromUtf8(reason.what());
-    return tell(outcome_);
+    return tell_(outcome_);
   }
   RunMain();
-  tell(outcome_);
   for (std::size_t i = 0; i < order_.Goals.size(); ++i) {
     RunGoal(i);
-    tell(outcome_);
+    tell_(outcome_);
   }
 }
 
 void PupilSession::ReadFiles() {
   program_ = TakeFile(order_.Who.Program, "the program", order_.Within);
   if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session", order_.Within);
-  outcome_.Findings = FindingsIn(TextOfProgram(program_));
+  const QString text = TextOfProgram(program_);
+  outcome_.Findings = FindingsIn(text);
+  ProgramSource source(text);
+  outcome_.Source = std::move(source.Lines);
+  outcome_.SourceIsCut = source.IsCut;
   // If a program is read as one line, only that is reported: the rest follows from it.
   const auto isNone = [](const Finding& finding) {
     return finding.What == Mistake::Empty || finding.What == Mistake::OneLine;
@@ -167,6 +171,7 @@ SessionRun& PupilSession::Played(const Play& play, const char* transcript) {
 void PupilSession::RunMain() {
   const Play play = MainPlay();
   for (const std::string& line : play.Typed) outcome_.Typed.append(FromLatin1(line));
+  tell_(outcome_);
   SessionRun& run = Played(play, run_file::Transcript);
   const RunOutcome& went = run.Went();
   outcome_.How = went.How;
@@ -174,18 +179,19 @@ void PupilSession::RunMain() {
   outcome_.Message = went.Message;
   outcome_.Where = went.Where;
   outcome_.Notes += went.Notes;
-  AddSource(run);
+  MatchSource(run);
   // With a session, or with another line after that of LOAD.
   const bool hasBegun = play.Typed.size() != 1;
   FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
+  tell_(outcome_);
   WritePicture(run, run_file::Picture);
 }
 
-void PupilSession::AddSource(SessionRun& run) {
-  ProgramSource source(TextOfProgram(program_), run.form1.interpreter.store);
+void PupilSession::MatchSource(SessionRun& run) {
+  ProgramSource source(TextOfProgram(program_));
+  source.Match(run.form1.interpreter.store);
   outcome_.Where.ProgramLine = source.LineOf(run.StoreLine());
   outcome_.Source = std::move(source.Lines);
-  outcome_.SourceIsCut = source.IsCut;
 }
 
 void PupilSession::RunGoal(std::size_t index) {
@@ -204,6 +210,7 @@ void PupilSession::WritePicture(SessionRun& run, const std::string& file) {
     run.WritePicture(file);
   } catch (const std::exception&) {
     outcome_.Notes.append("The picture can not be written.");
+    tell_(outcome_);
   }
 }
 
@@ -218,10 +225,11 @@ int RunPupil() {
     if (!model.empty()) readable.push_back(model);
   }
   const bool isContained = EnterSandbox({fs::current_path(), readable});
-  PupilSession(*order).Run([isContained](RunOutcome outcome) {
+  PupilSession session(*order, [isContained](RunOutcome outcome) {
     if (!isContained) outcome.Notes.append("The operating system did not contain this run.");
     WriteOutcome(run_file::Outcome, outcome);
   });
+  session.Run();
   return 0;
 }
 

@@ -14,11 +14,15 @@ namespace zerimo::classroom {
 /// Runs one pupil's program in this process, which does nothing else. The current folder is the run's folder.
 class PupilSession {
  public:
-  explicit PupilSession(const Order& order);
+  /// Gets the outcome as far as it is known. That of a program that has not come to its end is a crash: if the process
+  /// dies, it has reported what it could.
+  using Teller = std::function<void(const RunOutcome&)>;
 
-  /// Runs the program, then its goals, and writes transcript, picture and what the goals need. `tell` gets the outcome
-  /// after each of them, so that a process that dies has reported what it could.
-  void Run(const std::function<void(const RunOutcome&)>& tell);
+  PupilSession(const Order& order, Teller tell);
+
+  /// Runs the program, then its goals, and writes transcript, picture and what the goals need. Tells before the
+  /// program, after it, and after each goal.
+  void Run();
 
  private:
   /// Fails with `Reason`.
@@ -33,11 +37,13 @@ class PupilSession {
   /// Plays a session, or takes the last one if it was the same: what ends by a limit need not take its time twice.
   SessionRun& Played(const Play& play, const char* transcript);
   void RunMain();
-  void AddSource(SessionRun& run);
+  /// Adds what the store made of the program's lines.
+  void MatchSource(SessionRun& run);
   void RunGoal(std::size_t index);
   void WritePicture(SessionRun& run, const std::string& file);
 
   const Order& order_;
+  Teller tell_;
   std::string program_;
   std::string session_;
   /// Nothing if the program is empty or one line.

@@ -93,8 +93,18 @@ PupilRun RunProcess::TakeRun() {
 }
 
 RunOutcome RunProcess::OutcomeOfRun() const {
-  if (std::optional<RunOutcome> told = ReadOutcome(runFolder_ / run_file::Outcome)) return *told;
-  return OutcomeOfSilence();
+  RunOutcome outcome = ReadOutcome(runFolder_ / run_file::Outcome).value_or(RunOutcome());
+  if (outcome.How == Result::Crashed) {
+    const RunOutcome silence = OutcomeOfSilence();
+    outcome.How = silence.How;
+    outcome.By = silence.By;
+    outcome.Message = silence.Message;
+  } else if (outcome.How != Result::NotRun && outcome.Goals.size() < order_.Goals.size()) {
+    outcome.Notes.append("The process ended before all goals were tried.");
+  }
+  while (outcome.Goals.size() < order_.Goals.size())
+    outcome.Goals.push_back(order_.Goals[outcome.Goals.size()].NotMet());
+  return outcome;
 }
 
 RunOutcome RunProcess::OutcomeOfSilence() const {

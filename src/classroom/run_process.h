@@ -36,6 +36,7 @@ class RunProcess {
   using Clock = std::chrono::steady_clock;
 
   RunOutcome OutcomeOfRun() const;
+  /// How a process ended that did not tell it.
   RunOutcome OutcomeOfSilence() const;
 
   Order order_;

@@ -21,6 +21,8 @@ struct Goal {
   double Points = 1;
 
   QString Title() const;
+  /// Of a program that has not come so far.
+  GoalOutcome NotMet() const { return {Title(), Way, false, 0, Points}; }
 };
 
 /// What a class was asked for.

@@ -66,10 +66,10 @@ class ClassSignalsTest : public ClassTest {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
-  /// Whether a run has begun, that is, has made its scratch folder.
+  /// Whether a run has begun, that is, has told what is known before.
   bool HasBegun() const {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(TemporaryFolder())) {
-      if (entry.path().filename() == "scratch") return true;
+      if (entry.path().filename() == "outcome.json") return true;
     }
     return false;
   }
@@ -87,6 +87,8 @@ TEST_F(ClassSignalsTest, AProcessThatIsKilledIsACrash) {
   EXPECT_EQ(Wait(), 0);
   EXPECT_EQ(ResultOf("A.ZRM"), "crashed");
   EXPECT_EQ(Pupil("A.ZRM").value("message").toString(), "the process was ended by signal 9");
+  // What was known before it ran is there.
+  EXPECT_EQ(Pupil("A.ZRM").value("source").toArray().size(), 5);
   EXPECT_NE(Page.find("crashed: the process was ended by signal 9"), std::string::npos);
 }
 

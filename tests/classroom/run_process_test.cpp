@@ -28,6 +28,7 @@ class RunProcessTest : public testing::Test {
     Order order;
     order.Who.Program = "ANNA.ZRM";
     order.Limits.Seconds = seconds;
+    order.Goals = Goals;
     RunProcess process(order, Temp.Path / "run", 0);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&process] { process.EndIfLate(); });
@@ -48,6 +49,7 @@ class RunProcessTest : public testing::Test {
   char name[5] = "test";
   char* arguments[2] = {name, nullptr};
   QCoreApplication Application{count, arguments};
+  std::vector<Goal> Goals;
   TempFolder Temp;
 };
 
@@ -65,6 +67,35 @@ TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
   const PupilRun run = RunOf(Script("cp ../outcome outcome.json; exit 1"));
   EXPECT_EQ(run.Went.How, Result::Stopped);
   EXPECT_EQ(run.Went.By, "steps");
+}
+
+TEST_F(RunProcessTest, WhatACrashLeavesUntoldIsFilledIn) {
+  Goals = {Goal{.Typed = {"STAR 50"}, .Points = 3}, Goal{.Typed = {"STAR 20"}}};
+  RunOutcome begun;
+  begun.Findings = {{Mistake::Tab, 2, {}}};
+  begun.Source = {{"TO A"}};
+  WriteOutcome(Temp.Path / "outcome", begun);
+  const PupilRun run = RunOf(Script("cp ../outcome outcome.json; kill -9 $$"));
+  ExpectCrash(run, "the process was ended by signal 9");
+  EXPECT_EQ(run.Went.Findings, begun.Findings);
+  ASSERT_EQ(run.Went.Source.size(), 1U);
+  ASSERT_EQ(run.Went.Goals.size(), 2U);
+  EXPECT_EQ(run.Went.Goals[0].Title, "STAR 50");
+  EXPECT_EQ(run.Went.Goals[0].Points, 3);
+  EXPECT_FALSE(run.Went.Goals[0].Met || run.Went.Goals[1].Met);
+}
+
+TEST_F(RunProcessTest, ACrashInAGoalIsTold) {
+  Goals = {Goal{}, Goal{}};
+  RunOutcome ended;
+  ended.How = Result::Ended;
+  ended.Goals = {{"", GoalWay::Shapes, true, 100, 1}};
+  WriteOutcome(Temp.Path / "outcome", ended);
+  const PupilRun run = RunOf(Script("cp ../outcome outcome.json; kill -9 $$"));
+  EXPECT_EQ(run.Went.How, Result::Ended);
+  EXPECT_EQ(run.Went.Notes, QStringList{"The process ended before all goals were tried."});
+  EXPECT_EQ(run.GoalsMet(), 1U);
+  EXPECT_EQ(run.Went.Goals.size(), 2U);
 }
 
 TEST_F(RunProcessTest, AProcessThatIsLateIsKilled) {
