@@ -97,6 +97,37 @@ class Walk {
   bool followsLinks_;
 };
 
+/// By what a table of names may call a program: its place, its name, or a folder of the class that it is in.
+std::vector<fs::path> KeysOf(const Pupil& pupil) {
+  const fs::path place = PlaceOf(pupil);
+  std::vector<fs::path> keys = {place, place.filename(), place.stem(), pupil.Program.parent_path().filename()};
+  if (place.is_absolute()) return keys;
+  for (fs::path folder = place.parent_path(); !folder.empty(); folder = folder.parent_path()) {
+    keys.push_back(folder);
+    keys.push_back(folder.filename());
+  }
+  return keys;
+}
+
+/// The cells of a line of a table, which may stand between quotes.
+QStringList CellsOf(const QString& line, QChar divider) {
+  QStringList cells(1);
+  bool isQuoted = false;
+  for (qsizetype i = 0; i < line.size(); ++i) {
+    const bool isQuote = line[i] == u'"';
+    if (isQuote && isQuoted && i + 1 < line.size() && line[i + 1] == u'"') {
+      cells.last() += line[i++];
+    } else if (isQuote) {
+      isQuoted = !isQuoted;
+    } else if (line[i] == divider && !isQuoted) {
+      cells.append(QString());
+    } else {
+      cells.last() += line[i];
+    }
+  }
+  return cells;
+}
+
 }  // namespace
 
 std::vector<Pupil> PupilsOf(const fs::path& folder, bool followsLinks) {
@@ -125,19 +156,24 @@ void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
   QHash<QString, QString> names;
   for (const QString& line : QString::fromStdString(table).split(u'\n')) {
     const QChar divider = line.contains(u';') ? u';' : u',';
-    QString name = line.section(divider, 1).trimmed();
-    if (name.startsWith(u'"') && name.endsWith(u'"')) name = name.mid(1, name.size() - 2).replace("\"\"", "\"");
-    const QString file = line.section(divider, 0, 0).trimmed().remove(u'"');
+    const QStringList cells = CellsOf(line, divider);
+    const QString file = cells.value(0).trimmed();
+    const QString name = cells.value(1).trimmed();
     if (!file.isEmpty() && !name.isEmpty()) names.insert(file.toCaseFolded(), name);
   }
+  QHash<QString, int> programs;
   for (Pupil& pupil : pupils) {
-    for (const fs::path& key :
-         {PlaceOf(pupil), pupil.Program.filename(), pupil.Program.stem(), pupil.Program.parent_path().filename()}) {
+    for (const fs::path& key : KeysOf(pupil)) {
       const auto found = names.constFind(Folded(key));
       if (found == names.cend()) continue;
       pupil.Name = *found;
+      ++programs[*found];
       break;
     }
+  }
+  // A pupil with several programs.
+  for (Pupil& pupil : pupils) {
+    if (programs.value(pupil.Name) > 1) pupil.Name += u'/' + NameOf(pupil.Program.filename());
   }
 }
 

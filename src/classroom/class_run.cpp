@@ -83,6 +83,7 @@ class ClassRun {
   ClassRun(const Command& command, const std::string& version)
       : options_(command.Class),
         settings_(command.Runner.Session),
+        limits_{settings_.Seconds, settings_.Steps, settings_.Memory},
         pupils_(PupilsOf(options_)),
         alike_(TemplateOf(options_)),
         files_(options_) {
@@ -90,7 +91,7 @@ class ClassRun {
     report_.Folder =
         NameOf(options_.Folder.empty() ? fs::path(options_.List).filename() : FolderOf(options_.Folder).filename());
     report_.Version = QString::fromStdString(version);
-    report_.Limits = {settings_.Seconds, settings_.Steps, settings_.Memory};
+    report_.Limits = limits_;
     report_.TaskTitle = task_.Title;
     report_.TaskWords = task_.Words;
     report_.Words = options_.Words;
@@ -128,7 +129,7 @@ class ClassRun {
 
   ClassRunner::Plan PlanIn(const fs::path& folder) const {
     fs::create_directory(folder);
-    ClassRunner::Plan plan{.Limits = report_.Limits,
+    ClassRunner::Plan plan{.Limits = limits_,
                            .Screen = settings_.Screen,
                            .Jobs = JobsOf(options_),
                            .Program = QCoreApplication::applicationFilePath(),
@@ -145,14 +146,14 @@ class ClassRun {
     if (runs.empty()) return false;
     if (runs.front().Went.How != Result::Ended)
       throw batch::UsageError("--task " + options_.Task + ": the goal's program " +
-                              WordsOf(runs.front().Went, report_.Limits).toStdString());
+                              WordsOf(runs.front().Went, limits_).toStdString());
     return true;
   }
 
   /// False if it was interrupted.
   bool RunAll(const fs::path& place) {
     std::optional<PartFile> records;
-    if (!options_.Records.empty()) records.emplace(options_.Records, options_.Resume);
+    if (!options_.Records.empty()) records.emplace(options_.Records, options_.Resume, report_.Wanted);
     if (records) std::erase_if(pupils_, [&records](const Pupil& pupil) { return records->Has(pupil.Program); });
     ClassRunner::Plan plan = PlanIn(place / "runs");
     if (!task_.Goals.empty() && task_.HasModelProgram()) plan.ModelFolder = place / "model" / "0";
@@ -161,7 +162,7 @@ class ClassRun {
     const std::size_t all = pupils_.size();
     ClassRunner runner(std::move(plan), std::move(pupils_), [&](const PupilRun& run, std::size_t done) {
       if (records) records->Add(run);
-      progress_.Tell(done, all, EscapedName(run) + u' ' + WordsOf(run.Went, report_.Limits));
+      progress_.Tell(done, all, EscapedName(run) + u' ' + WordsOf(run.Went, limits_));
     });
     report_.Runs = runner.Run();
     if (records) TakeRecords();
@@ -203,6 +204,7 @@ class ClassRun {
 
   const ClassOptions& options_;
   const batch::Settings& settings_;
+  RunLimits limits_;
   std::vector<Pupil> pupils_;
   AlikeSearch alike_;
   ReportFiles files_;

@@ -1,5 +1,7 @@
 #include "classroom/language.h"
 
+#include <QRegularExpression>
+
 #include "classroom/words.h"
 
 namespace zerimo::classroom {
@@ -15,14 +17,17 @@ QString Language::Of(const Finding& finding) const {
 }
 
 QString Language::Of(const QString& sentence) const {
+  static const QRegularExpression gap("%[1-9]");
   for (const Sentence& each : Sentences) {
-    const QString english = QString::fromUtf8(each.English);
-    const QString begin = english.section("%1", 0, 0);
-    const QString end = english.section("%1", 1);
-    const bool hasGap = english.contains("%1");
-    if (!hasGap && sentence == english) return QString::fromUtf8(each.Own);
-    if (hasGap && sentence.startsWith(begin) && sentence.endsWith(end))
-      return Filled(each.Own, {Of(sentence.mid(begin.size(), sentence.size() - begin.size() - end.size()))});
+    // What is escaped keeps its per cent signs.
+    const QString pattern = QRegularExpression::escape(QString::fromUtf8(each.English)).replace("\\%", "%");
+    const auto match = QRegularExpression("\\A" + QString(pattern).replace(gap, "(.+)") + "\\z",
+                                          QRegularExpression::DotMatchesEverythingOption)
+                           .match(sentence);
+    if (!match.hasMatch()) continue;
+    QStringList values = match.capturedTexts().mid(1);
+    for (QString& value : values) value = Of(value);
+    return Filled(each.Own, values);
   }
   return sentence;
 }

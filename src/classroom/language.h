@@ -9,13 +9,13 @@
 
 namespace zerimo::classroom {
 
-/// A sentence of a run, with at most one %1, and its translation.
+/// A sentence of a run, with gaps from %1 on, and its translation. What is in a gap may be a sentence, too.
 struct Sentence {
   const char* English;
   const char* Own;
 };
 
-/// The words of a report in one language. %1, %2 ... stand for what is filled in. A language is a source that defines
+/// The words of a report in one language; see `Filled` for %1, %2 ... in them. A language is a source that defines
 /// one of these, and a row in `FindLanguage`.
 struct Language {
   /// As in `lang="en"`.
@@ -36,12 +36,14 @@ struct Language {
   // The page.
   const char* Title;
   const char* Limits;
-  const char* OneSecond;
   const char* Seconds;
   const char* Steps;
   const char* Memory;
   const char* NoLimits;
   const char* Partial;
+  const char* PartialParts;
+  const char* PartialPart;
+  const char* EmptyPart;
   const char* NoPrograms;
   const char* Overview;
   const char* Pupil;

@@ -1,6 +1,7 @@
 #include <QDateTime>
 #include <iostream>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "batch/errors.h"
@@ -37,19 +38,15 @@ class Merge {
     AddMarks(MarksHead());
   }
 
-  std::size_t Run() {
-    for (const std::string& part : options_.Merged) {
-      const auto take = [this, &part](PupilRun run, std::streamoff place) {
-        places_.push_back({&part, place});
-        Take(std::move(run));
-      };
-      if (!ForEachRun(part, take)) throw batch::UsageError("--merge " + part + ": the file can not be read");
-    }
+  QString Run() {
+    RefuseRepeated();
+    for (const std::string& part : options_.Merged) TakePart(part);
     WritePage();
     if (marks_) marks_->Save();
     FindAlike();
+    report_.Wanted = wanted_;
     WriteBeside(files_.Page(), IndexPage(report_, entries_).toStdString());
-    return places_.size();
+    return LastWords();
   }
 
  private:
@@ -59,11 +56,43 @@ class Merge {
     std::streamoff Offset;
   };
 
+  void RefuseRepeated() const {
+    std::set<fs::path> parts;
+    for (const std::string& part : options_.Merged) {
+      std::error_code error;
+      if (!parts.insert(fs::weakly_canonical(part, error)).second)
+        throw batch::UsageError("--merge " + part + ": the part is named twice");
+    }
+  }
+
+  void TakePart(const std::string& part) {
+    const std::size_t before = places_.size();
+    const std::optional<std::size_t> wanted = ForEachRun(part, [this, &part](PupilRun run, std::streamoff place) {
+      places_.push_back({&part, place});
+      Take(std::move(run));
+    });
+    if (!wanted) throw batch::UsageError("--merge " + part + ": the file can not be read");
+    const std::size_t programs = places_.size() - before;
+    wanted_ += *wanted;
+    if (programs < *wanted || programs == 0) report_.Partial.push_back({NameOf(part), programs, *wanted});
+  }
+
   void Take(PupilRun run) {
+    if (places_.size() == 1) report_.Limits = run.Limits;
+    if (report_.Limits != run.Limits) report_.Limits.reset();
     alike_.Add(run);
     AddMarks(MarksOf(run));
     report_.Runs.push_back(std::move(run));
     if (report_.Runs.size() == ProgramsOnPage) WritePage();
+  }
+
+  QString LastWords() const {
+    const QString name = QString::fromStdString(options_.Report);
+    if (report_.Partial.empty()) return QStringLiteral("%1 programs; the report is %2").arg(places_.size()).arg(name);
+    return QStringLiteral("%1 of %2 programs; the partial report is %3")
+        .arg(places_.size())
+        .arg(wanted_)
+        .arg(name);
   }
 
   void AddMarks(const QByteArray& lines) {
@@ -116,6 +145,8 @@ class Merge {
   AlikeSearch alike_;
   /// Of all runs, in their order.
   std::vector<Place> places_;
+  /// How many programs the parts are to have.
+  std::size_t wanted_ = 0;
 };
 
 }  // namespace
@@ -123,9 +154,7 @@ class Merge {
 ClassStatus MergeParts(const Command& command, const std::string& version) {
   Progress progress(std::cerr, Progress::StandardErrorIsTerminal());
   try {
-    const std::size_t count = Merge(command, version).Run();
-    progress.Close(
-        QStringLiteral("%1 programs; the report is %2").arg(count).arg(QString::fromStdString(command.Class.Report)));
+    progress.Close(Merge(command, version).Run());
     return ClassStatus::ReportWritten;
   } catch (const batch::UsageError&) {
     throw;

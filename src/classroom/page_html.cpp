@@ -44,7 +44,9 @@ QString Element(const char* name, const char* kind, const QString& html) {
 
 QString Paragraph(const QString& html) { return Element("p", "", html) + u'\n'; }
 
-QString Heading(const char* words) { return Element("h3", "", QString::fromUtf8(words)) + u'\n'; }
+QString Heading(const char* words) { return Element("h3", "", Utf8(words)) + u'\n'; }
+
+QString Utf8(const char* words) { return QString::fromUtf8(words); }
 
 QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(PlaceOf(who)) : who.Name; }
 
@@ -79,9 +81,9 @@ QString PictureSource::Beside(const std::filesystem::path& file) {
   return address;
 }
 
-QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language) {
+QString ResultHtml(const PupilRun& run, const Language& language) {
   const bool isGood = run.Went.How == Result::Ended;
-  const QString words = Escaped(WordsOf(run.Went, limits, language));
+  const QString words = Escaped(WordsOf(run.Went, run.Limits, language));
   if (isGood && run.IsSuspicious()) return Element("span", "look", words);
   return Element("span", isGood ? "good" : "bad", words);
 }

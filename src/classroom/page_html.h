@@ -24,6 +24,9 @@ QString Element(const char* name, const char* kind, const QString& html);
 QString Paragraph(const QString& html);
 QString Heading(const char* words);
 
+/// Words of a language.
+QString Utf8(const char* words);
+
 /// What the report calls a pupil.
 QString PupilName(const Pupil& who);
 
@@ -57,11 +60,11 @@ class PictureSource {
 };
 
 /// The section of the page about one run. `number` counts from 1.
-QString SectionOf(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
-                  PictureSource& pictures, bool hasOverview);
+QString SectionOf(const PupilRun& run, std::size_t number, const Language& language, PictureSource& pictures,
+                  bool hasOverview);
 
 /// "ended" in the colour that it deserves.
-QString ResultHtml(const PupilRun& run, const RunLimits& limits, const Language& language);
+QString ResultHtml(const PupilRun& run, const Language& language);
 
 double PointsOf(const PupilRun& run);
 double MostPointsOf(const PupilRun& run);

@@ -1,5 +1,7 @@
 #include "classroom/parts.h"
 
+#include <algorithm>
+
 #include "base/failure.h"
 #include "classroom/readable.h"
 #include "classroom/record.h"
@@ -25,12 +27,11 @@ void CopyPictures(const fs::path& from, const fs::path& to) {
   }
 }
 
-std::optional<PupilRun> RunOfLine(const fs::path& file, const std::string& line) {
-  const std::optional<Json> json = ParsedObject(line);
-  if (!json) return std::nullopt;
-  PupilRun run = RunIn(*json);
-  run.Who.Program = fs::path(TextAt(*json, "program").toStdU16String());
-  const QString folder = TextAt(*json, "pictures");
+PupilRun RunOf(const fs::path& file, const Json& json) {
+  PupilRun run = RunIn(json);
+  if (json.contains("limits")) run.Limits = LimitsIn(json["limits"]);
+  run.Who.Program = fs::path(TextAt(json, "program").toStdU16String());
+  const QString folder = TextAt(json, "pictures");
   bool isNumber = false;
   folder.toUInt(&isNumber);
   if (isNumber) run.Picture = PicturesOf(file) / folder.toStdU16String() / "picture.png";
@@ -54,7 +55,7 @@ void CutHalfLine(const fs::path& file) {
 
 }  // namespace
 
-PartFile::PartFile(const fs::path& file, bool resumes) : file_(file) {
+PartFile::PartFile(const fs::path& file, bool resumes, std::size_t wanted) : file_(file), wanted_(wanted) {
   // A pipe might wait for ever.
   if (fs::exists(file) && !fs::is_regular_file(file)) throw Failure(FailureKind::FileAccess);
   if (resumes) {
@@ -74,6 +75,8 @@ void PartFile::Add(const PupilRun& run) {
   const std::string folder = std::to_string(++count_);
   Json json = JsonOf(run);
   json["program"] = KeyOf(run.Who.Program);
+  json["limits"] = JsonOf(run.Limits);
+  json["wanted"] = wanted_;
   if (!run.Picture.empty()) {
     CopyPictures(run.Picture.parent_path(), PicturesOf(file_) / folder);
     json["pictures"] = folder;
@@ -82,15 +85,22 @@ void PartFile::Add(const PupilRun& run) {
   if (!stream_) throw Failure(FailureKind::FileAccess);
 }
 
-bool ForEachRun(const fs::path& file, const std::function<void(PupilRun, std::streamoff)>& take) {
+std::optional<std::size_t> ForEachRun(const fs::path& file,
+                                      const std::function<void(PupilRun, std::streamoff)>& take) {
   std::ifstream stream(file, std::ios::binary);
-  if (!stream.is_open()) return false;
+  if (!stream.is_open()) return std::nullopt;
+  std::size_t wanted = 0;
+  std::size_t lines = 0;
   std::streamoff place = 0;
   for (std::string line; std::getline(stream, line); place += static_cast<std::streamoff>(line.size()) + 1) {
-    std::optional<PupilRun> run = RunOfLine(file, line);
-    if (run) take(std::move(*run), place);
+    ++lines;
+    const std::optional<Json> json = ParsedObject(line);
+    if (!json) continue;
+    wanted = static_cast<std::size_t>(NumberAt(*json, "wanted"));
+    take(RunOf(file, *json), place);
   }
-  return true;
+  // Half a line is a program that is missing.
+  return std::max(wanted, lines);
 }
 
 std::optional<PupilRun> RunAt(const fs::path& file, std::streamoff place) {
@@ -98,7 +108,8 @@ std::optional<PupilRun> RunAt(const fs::path& file, std::streamoff place) {
   stream.seekg(place);
   std::string line;
   std::getline(stream, line);
-  return RunOfLine(file, line);
+  const std::optional<Json> json = ParsedObject(line);
+  return json ? std::optional(RunOf(file, *json)) : std::nullopt;
 }
 
 }  // namespace zerimo::classroom

@@ -119,9 +119,20 @@ struct Said {
   QStringList Printed = {};
 };
 
+/// The limits of a run; 0 is no limit.
+struct RunLimits {
+  double Seconds = 0;
+  quint64 Steps = 0;
+  /// Megabytes on top of what the system itself needs.
+  int Memory = 0;
+
+  bool operator==(const RunLimits&) const = default;
+};
+
 /// All about one pupil's run.
 struct PupilRun {
   Pupil Who;
+  RunLimits Limits;
   RunOutcome Went;
   Said Told;
   /// Wall-clock time of the process.
@@ -137,14 +148,6 @@ struct PupilRun {
     return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty() ||
            GoalsMet() < Went.Goals.size();
   }
-};
-
-/// The limits of each run; 0 is no limit.
-struct RunLimits {
-  double Seconds = 0;
-  quint64 Steps = 0;
-  /// Megabytes on top of what the system itself needs.
-  int Memory = 0;
 };
 
 }  // namespace zerimo::classroom

@@ -10,14 +10,11 @@ namespace zerimo::classroom {
 
 namespace {
 
-QString Utf8(const char* words) { return QString::fromUtf8(words); }
-
 /// Writes the section of one run.
 class SectionWriter {
  public:
-  SectionWriter(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
-                PictureSource& pictures)
-      : run_(run), number_(number), limits_(limits), language_(language), pictures_(pictures) {}
+  SectionWriter(const PupilRun& run, std::size_t number, const Language& language, PictureSource& pictures)
+      : run_(run), number_(number), language_(language), pictures_(pictures) {}
 
   QString Write(bool hasOverview) {
     html_ =
@@ -43,8 +40,8 @@ class SectionWriter {
   void WriteResult() {
     const QString place = WordsOf(run_.Went.Where, language_);
     const QString where = place.isEmpty() ? QString() : QStringLiteral(", ") + Escaped(place);
-    html_ += Paragraph(ResultHtml(run_, limits_, language_) + where + u' ' +
-                       Element("span", "quiet", u'(' + WordsOfSeconds(run_.Seconds) + u')'));
+    html_ += Paragraph(ResultHtml(run_, language_) + where + u' ' +
+                       Element("span", "quiet", u'(' + WordsOfSeconds(run_.Seconds, language_) + u')'));
   }
 
   void WriteStart() {
@@ -91,7 +88,7 @@ class SectionWriter {
         Element("strong", "", EscapedReadable(title)) + QStringLiteral(": ") +
         Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +
         QStringLiteral(", ") + percent + QStringLiteral(", ") +
-        Filled(language_.Points, {QString::number(goal.Met ? goal.Points : 0), QString::number(goal.Points)}));
+        Filled(language_.Points, {WordOfNumber(goal.Met ? goal.Points : 0, language_), WordOfNumber(goal.Points, language_)}));
     if (goal.Placed) html_ += Paragraph(Filled(language_.ItIsTheGoal, {WordsOf(*goal.Placed, language_)}));
     if (goal.Way == GoalWay::Texts || run_.Picture.empty()) return;
     const std::filesystem::path folder = run_.Picture.parent_path();
@@ -183,7 +180,6 @@ class SectionWriter {
 
   const PupilRun& run_;
   std::size_t number_;
-  const RunLimits& limits_;
   const Language& language_;
   PictureSource& pictures_;
   QString html_;
@@ -191,9 +187,9 @@ class SectionWriter {
 
 }  // namespace
 
-QString SectionOf(const PupilRun& run, std::size_t number, const RunLimits& limits, const Language& language,
-                  PictureSource& pictures, bool hasOverview) {
-  return SectionWriter(run, number, limits, language, pictures).Write(hasOverview);
+QString SectionOf(const PupilRun& run, std::size_t number, const Language& language, PictureSource& pictures,
+                  bool hasOverview) {
+  return SectionWriter(run, number, language, pictures).Write(hasOverview);
 }
 
 }  // namespace zerimo::classroom

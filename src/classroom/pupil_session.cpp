@@ -182,7 +182,7 @@ void PupilSession::RunMain() {
   MatchSource(run);
   // With a session, or with another line after that of LOAD.
   const bool hasBegun = play.Typed.size() != 1;
-  FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
+  if (went.How != Result::Refused) FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
   tell_(outcome_);
   WritePicture(run, run_file::Picture);
 }

@@ -144,6 +144,11 @@ std::vector<ShownBox> BoxesAt(const Json& json) {
   return boxes;
 }
 
+template <typename Number>
+Json LimitOrNull(Number limit) {
+  return limit == 0 ? Json() : Json(limit);
+}
+
 /// Kept among the notes for older readers of the file, though it is a finding too.
 QStringList NotesOfFindings(const std::vector<Finding>& findings) {
   QStringList notes;
@@ -200,6 +205,17 @@ RunOutcome OutcomeIn(const Json& json) {
   outcome.Source = SourceAt(json);
   outcome.SourceIsCut = FlagAt(json, "sourceCut");
   return outcome;
+}
+
+Json JsonOf(const RunLimits& limits) {
+  return {{"seconds", LimitOrNull(limits.Seconds)},
+          {"steps", LimitOrNull(limits.Steps)},
+          {"megabytes", LimitOrNull(limits.Memory)}};
+}
+
+RunLimits LimitsIn(const Json& json) {
+  return {NumberAt(json, "seconds"), static_cast<quint64>(NumberAt(json, "steps")),
+          static_cast<int>(NumberAt(json, "megabytes"))};
 }
 
 Json JsonOf(const PupilRun& run) {

@@ -17,8 +17,13 @@ Json JsonOf(const RunOutcome& outcome);
 /// What is missing or of the wrong kind stays as in an empty outcome.
 RunOutcome OutcomeIn(const Json& json);
 
+/// Without its limits.
 Json JsonOf(const PupilRun& run);
 PupilRun RunIn(const Json& json);
+
+/// No limit is null.
+Json JsonOf(const RunLimits& limits);
+RunLimits LimitsIn(const Json& json);
 
 /// On one line, or with its parts on lines of their own. Bytes that are not UTF-8 become U+FFFD.
 std::string Compact(const Json& json);

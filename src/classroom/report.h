@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "classroom/language.h"
@@ -24,17 +25,28 @@ struct AlikePrograms {
   QStringList Lines;
 };
 
+/// A part of a class that has fewer programs than it should, or none at all.
+struct PartialPart {
+  QString Name;
+  std::size_t Programs = 0;
+  /// 0 if nobody knows.
+  std::size_t Wanted = 0;
+};
+
 /// A class run as a whole.
 struct Report {
   QString Folder;
   /// When it was made, as text.
   QString Made;
   QString Version;
-  RunLimits Limits;
+  /// Nothing if they are not the same for all programs.
+  std::optional<RunLimits> Limits;
   /// In the order of the report.
   std::vector<PupilRun> Runs;
   /// How many programs there were to run; more than `Runs` if it was interrupted. 0 if nobody counted.
   std::size_t Wanted = 0;
+  /// The parts that lack programs, of a report that was made of parts.
+  std::vector<PartialPart> Partial;
   /// The title and words of the task, or empty.
   QString TaskTitle;
   QString TaskWords;

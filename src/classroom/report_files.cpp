@@ -1,5 +1,6 @@
 #include "classroom/report_files.h"
 
+#include <algorithm>
 #include <set>
 
 #include "batch/errors.h"
@@ -30,6 +31,16 @@ fs::path WritablePlace(const char* option, const std::string& name) {
   return file;
 }
 
+/// Hours of work may be in records that are there already.
+void KeepRecords(const ClassOptions& options) {
+  std::error_code error;
+  const fs::path file = WritablePlace("--jsonl", options.Records);
+  const bool hasSome = fs::is_regular_file(file, error) && fs::file_size(file, error) > 0;
+  if (hasSome && !options.Resume)
+    throw batch::UsageError("--jsonl " + options.Records +
+                            ": the file is there already; go on with --resume, or give another name");
+}
+
 /// A name for a file from that of a pupil, which may hold anything.
 std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   QString name = PupilName(run.Who);
@@ -44,15 +55,11 @@ std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   return file + ".html";
 }
 
-template <typename Number>
-Json LimitOrNull(Number limit) {
-  return limit == 0 ? Json() : Json(limit);
-}
-
-Json LimitsOf(const RunLimits& limits) {
-  return {{"seconds", LimitOrNull(limits.Seconds)},
-          {"steps", LimitOrNull(limits.Steps)},
-          {"megabytes", LimitOrNull(batch::MemoryLimit::IsThere() ? limits.Memory : 0)}};
+/// Those that this build can enforce.
+RunLimits LimitsOf(const Report& report) {
+  RunLimits limits = report.Limits.value_or(RunLimits());
+  if (!batch::MemoryLimit::IsThere()) limits.Memory = 0;
+  return limits;
 }
 
 }  // namespace
@@ -65,14 +72,16 @@ QByteArray SummaryOf(const Report& report) {
                                              {"program", "zerimo-batch " + report.Version.toStdString()},
                                              {"made", ValueOf(report.Made)},
                                              {"folder", ValueOf(report.Folder)},
-                                             {"limits", LimitsOf(report.Limits)},
+                                             {"limits", JsonOf(LimitsOf(report))},
+                                             {"partial", report.Runs.size() < report.Wanted},
+                                             {"wanted", std::max(report.Wanted, report.Runs.size())},
                                              {"pupils", pupils}}));
 }
 
 ReportFiles::ReportFiles(const ClassOptions& options) : options_(options) {
   if (!options.Report.empty()) page_ = WritablePlace("--out", options.Report);
   if (!options.Marks.empty()) WritablePlace("--csv", options.Marks);
-  if (!options.Records.empty()) WritablePlace("--jsonl", options.Records);
+  if (!options.Records.empty()) KeepRecords(options);
   std::error_code error;
   if (!options.Pupils.empty()) fs::create_directories(options.Pupils, error);
   if (!options.Pupils.empty() && !CanWriteInto(options.Pupils))

@@ -19,8 +19,6 @@ namespace {
 constexpr int ThumbnailWidth = 160;
 constexpr int SheetWidth = 320;
 
-QString Utf8(const char* words) { return QString::fromUtf8(words); }
-
 QString LimitText(const RunLimits& limits, const Language& language) {
   QStringList parts;
   if (limits.Seconds > 0) parts.append(WordsOfSecondLimit(limits.Seconds, language));
@@ -48,23 +46,22 @@ class PageWriter {
       : report_(report), language_(*report.Words), pictures_(std::move(pictures)) {}
 
   QByteArray Write() {
-    WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
+    WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}), true);
     WriteTask();
-    if (report_.Runs.size() < report_.Wanted)
-      Add(Element("p", "bad",
-                  Filled(language_.Partial, {QString::number(report_.Runs.size()), QString::number(report_.Wanted)})));
+    if (report_.Runs.size() < report_.Wanted) Add(Warning(language_.Partial, report_.Runs.size(), report_.Wanted));
     WriteOverview();
     WriteSheet();
     WriteAlike();
     for (std::size_t i = 0; i < report_.Runs.size(); ++i)
-      Add(SectionOf(report_.Runs[i], i + 1, report_.Limits, language_, pictures_, true));
+      Add(SectionOf(report_.Runs[i], i + 1, language_, pictures_, true));
     return Finished();
   }
 
   QByteArray WriteIndex(const std::vector<IndexEntry>& entries) {
     WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
     const auto head = [](const char* words) { return Element("th", "", Utf8(words)); };
-    Add(QStringLiteral("<div class=\"overview\">\n<div id=\"filter\"></div>\n<table id=\"index\">\n<thead><tr>") +
+    WritePartial(entries);
+    Add(QStringLiteral("<div class=\"overview\">\n<table id=\"index\">\n<thead><tr>") +
         head(language_.Pupil) + head(language_.Programs) + head(language_.Ended) + head(language_.WentWrong) +
         QStringLiteral("</tr></thead>\n<tbody>\n"));
     for (const IndexEntry& entry : entries) {
@@ -83,7 +80,7 @@ class PageWriter {
   QByteArray WriteAlone(const PupilRun& run) {
     WriteHead(EscapedReadable(PupilName(run.Who)));
     WriteTask();
-    Add(SectionOf(run, 1, report_.Limits, language_, pictures_, false));
+    Add(SectionOf(run, 1, language_, pictures_, false));
     return Finished();
   }
 
@@ -100,7 +97,8 @@ class PageWriter {
     return std::move(page_);
   }
 
-  void WriteHead(const QString& title) {
+  /// Only a page with a sheet of all pictures can be printed in two ways.
+  void WriteHead(const QString& title, bool hasSheet = false) {
     Add(QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">\n")
             .arg(Utf8(language_.Code)));
     policyAt_ = page_.size();
@@ -112,9 +110,9 @@ class PageWriter {
     Add(QStringLiteral("</style>\n</head>\n<body>\n<header>\n<h1 id=\"top\">") + title + QStringLiteral("</h1>\n"));
     Add(Paragraph(Escaped(QString(report_.Made).replace(u'T', u' ')) + QStringLiteral(", zerimo-batch ") +
                   Escaped(report_.Version)));
-    Add(Paragraph(Filled(language_.Limits, {LimitText(report_.Limits, language_)})));
+    if (report_.Limits) Add(Paragraph(Filled(language_.Limits, {LimitText(*report_.Limits, language_)})));
     Add(QStringLiteral("</header>\n"));
-    WritePrintChoice();
+    if (hasSheet) WritePrintChoice();
     Add(QStringLiteral("<main>\n"));
   }
 
@@ -126,6 +124,22 @@ class PageWriter {
     };
     choice("print-one", language_.PrintOne, " checked");
     choice("print-twelve", language_.PrintTwelve, "");
+  }
+
+  static QString Warning(const char* words, std::size_t programs, std::size_t wanted, const QString& part = {}) {
+    return Element("p", "bad",
+                   Filled(words, {QString::number(programs), QString::number(wanted), EscapedReadable(part)})) +
+           u'\n';
+  }
+
+  void WritePartial(const std::vector<IndexEntry>& entries) {
+    if (report_.Partial.empty()) return;
+    std::size_t programs = 0;
+    for (const IndexEntry& entry : entries) programs += entry.Programs;
+    Add(Warning(language_.PartialParts, programs, report_.Wanted));
+    for (const PartialPart& part : report_.Partial)
+      Add(Warning(part.Wanted == 0 ? language_.EmptyPart : language_.PartialPart, part.Programs, part.Wanted,
+                  part.Name));
   }
 
   void WriteTask() {
@@ -161,11 +175,11 @@ class PageWriter {
         QStringLiteral("\"><th scope=\"row\"><a href=\"#p%1\">").arg(number));
     Add(EscapedReadable(PupilName(run.Who)) + QStringLiteral("</a>"));
     if (const auto image = pictures_.Image(run.Picture, {}, ThumbnailWidth)) Add(QStringLiteral("<br>") + *image);
-    Add(QStringLiteral("</th>") + Element("td", "", ResultHtml(run, report_.Limits, language_)) + NotesCell(run));
+    Add(QStringLiteral("</th>") + Element("td", "", ResultHtml(run, language_)) + NotesCell(run));
     Add(GoalsCell(run));
     const QString more = run.Told.BoxesAreCut ? Utf8(language_.OrMore) : QString();
     Add(Element("td", "number", QString::number(run.Told.Boxes.size()) + more));
-    Add(Element("td", "number", WordsOfSeconds(run.Seconds)) + QStringLiteral("</tr>\n"));
+    Add(Element("td", "number", WordsOfSeconds(run.Seconds, language_)) + QStringLiteral("</tr>\n"));
   }
 
   QString NotesCell(const PupilRun& run) const {
@@ -199,7 +213,7 @@ class PageWriter {
     const char* const kind = points == MostPointsOf(run) ? "good" : "bad";
     return QStringLiteral("<td class=\"number\" data-value=\"%1\">").arg(points) +
            Element("span", kind,
-                   Filled(language_.Points, {QString::number(points), QString::number(MostPointsOf(run))})) +
+                   Filled(language_.Points, {WordOfNumber(points, language_), WordOfNumber(MostPointsOf(run), language_)})) +
            QStringLiteral("<br>%1 %</td>").arg(percent);
   }
 

@@ -74,7 +74,7 @@ void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Find
   FindInStore(run.form1.interpreter.store, findings);
   const RunOutcome& went = run.Went();
   if (went.How == Result::Stopped && went.By != "memory")
-    findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement}});
+    findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement.trimmed()}});
   FindInBoxes(run.Told().Boxes, findings);
 }
 

@@ -79,6 +79,7 @@ void RunProcess::EndIfLate() {
 PupilRun RunProcess::TakeRun() {
   PupilRun run;
   run.Who = order_.Who;
+  run.Limits = order_.Limits;
   run.Went = OutcomeOfRun();
   run.Told = SaidIn(QByteArray::fromStdString(BytesOf(runFolder_ / run_file::Transcript).value_or(std::string())));
   run.Seconds = std::chrono::duration<double>(finish_ - begin_).count();

@@ -14,9 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Surface units to a step of the turtle.
-constexpr double UnitsPerStep = 50;
-
 QString Section(const QString& text, const QString& heading) {
   const QRegularExpression pattern(
       "^##\\s+" + heading + "\\s*$(.*?)(?=^#|\\z)",

@@ -1,5 +1,7 @@
 #include "classroom/words.h"
 
+#include <QLocale>
+#include <QRegularExpression>
 #include <cmath>
 
 #include "classroom/readable.h"
@@ -8,9 +10,6 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// Surface units to a step of the turtle.
-constexpr double UnitsPerStep = 50;
-
 QString LimitWords(const QString& by, const RunLimits& limits, const Language& language) {
   const QString limit = by == "seconds" ? WordsOfSecondLimit(limits.Seconds, language)
                         : by == "steps" ? WordsOfStepLimit(limits.Steps, language)
@@ -18,23 +17,33 @@ QString LimitWords(const QString& by, const RunLimits& limits, const Language& l
   return Filled(language.MoreThan, {limit});
 }
 
+QLocale LocaleOf(const Language& language) {
+  QLocale locale(QString::fromLatin1(language.Code));
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  return locale;
+}
+
 QString Rounded(double number) { return QString::number(std::round(number) + 0.0); }
 
 }  // namespace
 
 QString Filled(const char* words, const QStringList& values) {
+  static const QRegularExpression gap("%([1-9])(?:\\{([^/}]*)/([^}]*)\\})?");
   const QString pattern = QString::fromUtf8(words);
   QString filled;
-  for (qsizetype i = 0; i < pattern.size(); ++i) {
-    const int place = pattern[i] == u'%' && i + 1 < pattern.size() ? pattern[i + 1].digitValue() : -1;
-    if (place < 1) {
-      filled += pattern[i];
-      continue;
-    }
-    filled += values.value(place - 1);
-    ++i;
+  qsizetype end = 0;
+  for (auto walk = gap.globalMatch(pattern); walk.hasNext();) {
+    const QRegularExpressionMatch match = walk.next();
+    const QString value = values.value(match.captured(1).toInt() - 1);
+    filled += pattern.mid(end, match.capturedStart() - end);
+    filled += !match.hasCaptured(2) ? value : match.captured(value == "1" ? 2 : 3);
+    end = match.capturedEnd();
   }
-  return filled;
+  return filled + pattern.mid(end);
+}
+
+QString WordOfNumber(double number, const Language& language) {
+  return LocaleOf(language).toString(std::round(number * 100) / 100, 'f', QLocale::FloatingPointShortest);
 }
 
 QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Language& language) {
@@ -84,7 +93,7 @@ QString WordsOf(const Placement& placement, const Language& language) {
 }
 
 QString WordsOfSecondLimit(double seconds, const Language& language) {
-  return seconds == 1 ? QString::fromUtf8(language.OneSecond) : Filled(language.Seconds, {QString::number(seconds)});
+  return Filled(language.Seconds, {WordOfNumber(seconds, language)});
 }
 
 QString WordsOfStepLimit(quint64 steps, const Language& language) {
@@ -95,6 +104,8 @@ QString WordsOfMemoryLimit(int megabytes, const Language& language) {
   return Filled(language.Memory, {QString::number(megabytes)});
 }
 
-QString WordsOfSeconds(double seconds) { return QString::number(seconds, 'f', 1) + QStringLiteral(" s"); }
+QString WordsOfSeconds(double seconds, const Language& language) {
+  return LocaleOf(language).toString(seconds, 'f', 1) + QStringLiteral(" s");
+}
 
 }  // namespace zerimo::classroom

@@ -16,8 +16,12 @@ QString WordsOf(const StopPlace& place, const Language& language = English);
 /// How a drawing that is the goal in another place is placed: "turned by 90 degrees to the right".
 QString WordsOf(const Placement& placement, const Language& language);
 
-/// Words of a language, with what is filled in. What a pupil has written can't add more.
+/// Words of a language, with what is filled in. %2{step/steps} is "step" if the second value is 1, otherwise "steps".
+/// What a pupil has written can't add more.
 QString Filled(const char* words, const QStringList& values);
+
+/// A number as the language writes it, with at most two decimals: "2.5" or "2,5".
+QString WordOfNumber(double number, const Language& language);
 
 /// "1 second", "1000 steps in one line", "64 MB of memory": the limits.
 QString WordsOfSecondLimit(double seconds, const Language& language = English);
@@ -25,6 +29,6 @@ QString WordsOfStepLimit(quint64 steps, const Language& language = English);
 QString WordsOfMemoryLimit(int megabytes, const Language& language = English);
 
 /// Seconds with one decimal: "0.4 s".
-QString WordsOfSeconds(double seconds);
+QString WordsOfSeconds(double seconds, const Language& language = English);
 
 }  // namespace zerimo::classroom

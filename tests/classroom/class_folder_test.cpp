@@ -92,6 +92,16 @@ TEST_F(ClassFolderTest, NamesComeFromATable) {
   EXPECT_EQ(pupils[4].Name, "Jan Eck");
 }
 
+TEST_F(ClassFolderTest, ATableMayNameAnyFolderOfTheClass) {
+  const auto in = [](const char* place) { return Pupil{fs::path("/anna/class") / place, {}, {}, place}; };
+  std::vector<Pupil> pupils = {in("5a/Berg, Anna/work/STAR.ZRM"), in("5a/22/A.ZRM"), in("5b/22/A.ZRM"),
+                               in("5b/33/A.ZRM"), in("5b/33/B.ZRM"), in("LONE.ZRM")};
+  TakeNames(pupils, "\"berg, anna\",Anna\n5a/22,Ben\n5b/22,Carla\n33,Dan\nanna,Nobody\n");
+  QStringList names;
+  for (const Pupil& pupil : pupils) names.append(pupil.Name);
+  EXPECT_EQ(names, (QStringList{"Anna", "Ben", "Carla", "Dan/A.ZRM", "Dan/B.ZRM", ""}));
+}
+
 TEST_F(ClassFolderTest, AListNamesPrograms) {
   Make({"ANNA.ZRM", "BEN.ZRM", "BEN.session"});
   const std::string ben = Temp.Path.string() + "/./BEN.ZRM";

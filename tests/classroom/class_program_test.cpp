@@ -53,10 +53,14 @@ TEST_F(ClassProgramTest, WhatIsWrongInASessionIsReportedWithItsLine) {
   Write("BOX.session", "PD\n@frobnicate\n");
   Write("A.ZRM", "");
   Write("A.session", "PD\n@text Text4 40000\n");
+  Write("C.ZRM", "TO C|CS|FD 9|END|");
+  Write("C.session", "LOAD C\n@enter 9\n");
   Run();
   EXPECT_EQ(ResultOf("BOX.ZRM"), "refused");
   EXPECT_EQ(Pupil("BOX.ZRM").value("message").toString(), "there is no directive @frobnicate");
   EXPECT_EQ(Pupil("BOX.ZRM").value("place").toObject().value("line").toInt(), 2);
+  // What has not run has drawn nothing, which is no mistake of its own.
+  EXPECT_EQ(MistakesOf("C.ZRM"), "");
   EXPECT_EQ(ResultOf("A.ZRM"), "failed");
   EXPECT_EQ(Pupil("A.ZRM").value("message").toString(), "ended by a failure: Overflow");
   EXPECT_EQ(Pupil("A.ZRM").value("place").toObject().value("text").toString(), "@text Text4 40000");
@@ -253,6 +257,9 @@ TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {
   EXPECT_GE(line, 2);
   EXPECT_LE(line, 4);
   EXPECT_NE(Page.find("stopped here"), std::string::npos);
+  // A line of the store ends in a blank.
+  EXPECT_NE(Page.find("for ever, at "), std::string::npos);
+  EXPECT_EQ(Page.find(" ."), std::string::npos);
 }
 
 TEST_F(ClassProgramTest, ComparesWithATask) {
@@ -339,6 +346,35 @@ TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
   EXPECT_NE(Program.Read("all-1.html").find("<img width=\"160\" "), std::string::npos);
   EXPECT_NE(Program.Read("all-1.html").find("src=\"all-1.pictures/3.png\""), std::string::npos);
   EXPECT_EQ(Program.Read("all-1.html").find("base64,"), std::string::npos);
+  EXPECT_NE(Program.Read("all-1.html").find("Limits of each program: 10 seconds, 10000000 steps"), std::string::npos);
+  EXPECT_EQ(Program.Read("all.html").find("partial"), std::string::npos);
+  ExpectBadUsage("--merge 1.jsonl ./1.jsonl --out all.html", "--merge ./1.jsonl: the part is named twice");
+}
+
+TEST_F(ClassProgramTest, AReportOfTornPartsSaysSo) {
+  for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM"}) Write(name, "TO X|CS|FD 9|END|");
+  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\nclass/C.ZRM\n");
+  Program.Run("--list list --shard 1/2 --jobs 1 --jsonl 1.jsonl");
+  Program.Run("--list list --shard 2/2 --jobs 1 --seconds 5 --jsonl 2.jsonl");
+  const std::string records = Program.Read("1.jsonl");
+  // As a kill leaves it, after a line or in the middle of one.
+  const std::size_t first = records.find('\n') + 1;
+  for (const std::size_t length : {first, first + 20}) {
+    Program.Write("1.jsonl", records.substr(0, length));
+    EXPECT_EQ(Program.Run("--merge 1.jsonl 2.jsonl --out all.html").Errors,
+              "zerimo-batch: 2 of 3 programs; the partial report is all.html\n");
+    EXPECT_NE(Program.Read("all.html").find("1.jsonl has 1 of 2 programs."), std::string::npos);
+  }
+  // The parts had different limits.
+  EXPECT_EQ(Program.Read("all.html").find("Limits"), std::string::npos);
+}
+
+TEST_F(ClassProgramTest, RecordsThatAreThereAreKept) {
+  Write("A.ZRM", "TO A|END|");
+  Program.Write("r.jsonl", "{}\n");
+  ExpectBadUsage("--class class --jsonl r.jsonl",
+                 "--jsonl r.jsonl: the file is there already; go on with --resume, or give another name");
+  EXPECT_EQ(Program.Read("r.jsonl"), "{}\n");
 }
 
 TEST_F(ClassProgramTest, ProgramsOfDifferentPartsMayBeAlike) {

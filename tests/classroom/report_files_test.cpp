@@ -39,6 +39,15 @@ TEST(Summary, TellsOfTheRunAsAWhole) {
   EXPECT_EQ(summary.value("limits").toObject().value("megabytes"), megabytes);
 }
 
+TEST(Summary, SaysWhetherItIsPartial) {
+  Report report = HostileReport();
+  report.Wanted = 2;
+  EXPECT_EQ(Read(report).value("partial"), QJsonValue(false));
+  report.Wanted = 3;
+  EXPECT_EQ(Read(report).value("partial"), QJsonValue(true));
+  EXPECT_EQ(Read(report).value("wanted").toInt(), 3);
+}
+
 TEST(Summary, WhatThereIsNotIsNull) {
   Report report;
   report.Runs.resize(1);

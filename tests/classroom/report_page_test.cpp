@@ -31,6 +31,7 @@ QString PageWith(std::vector<PupilRun> runs) {
   report.Folder = "class 5a";
   report.Limits = {10, 1000, 0};
   report.Runs = std::move(runs);
+  for (PupilRun& run : report.Runs) run.Limits = *report.Limits;
   return QString::fromUtf8(PageOf(report));
 }
 
@@ -188,7 +189,7 @@ TEST(ReportPage, TellsHowAGoalWasMissed) {
   const QString page = PageWith({run});
   EXPECT_TRUE(page.contains("<strong>STAR 50</strong>: <span class=\"bad\">not met</span>, 99 %, 0 of 3 points"));
   EXPECT_TRUE(page.contains("It is the goal, but mirrored, turned by 90 degrees to the left, 50 per cent as large."));
-  EXPECT_TRUE(page.contains("<span class=\"good\">met</span>, 100 %, 1 of 1 points"));
+  EXPECT_TRUE(page.contains("<span class=\"good\">met</span>, 100 %, 1 of 1 point"));
   EXPECT_TRUE(page.contains("1 of 4 points"));
 }
 
@@ -207,7 +208,7 @@ TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
                     {"", GoalWay::Texts, true, 100, 1, {}}};
   const QString page = PageWith({run});
   EXPECT_FALSE(page.contains("nothing suspicious"));
-  EXPECT_TRUE(page.contains("1 of 2 goals are met.<br>It is the goal, but turned by 90 degrees to the right.</td>"));
+  EXPECT_TRUE(page.contains("Goals met: 1 of 2.<br>It is the goal, but turned by 90 degrees to the right.</td>"));
 }
 
 TEST(ReportPage, SaysThatItIsPartial) {
@@ -215,6 +216,36 @@ TEST(ReportPage, SaysThatItIsPartial) {
   report.Runs = {RunOf("ANNA.ZRM")};
   report.Wanted = 3;
   EXPECT_TRUE(PageOf(report).contains("This report is partial: the run was interrupted after 1 of 3 programs."));
+}
+
+TEST(ReportPage, AnIndexTellsWhatItsPartsLack) {
+  Report report;
+  report.Wanted = 30;
+  report.Partial = {{"2.jsonl", 3, 10}, {"<3>", 0, 0}};
+  const QString page = QString::fromUtf8(IndexPage(report, {{"a-1.html", "A", "B", 23, 20, 1}}));
+  EXPECT_TRUE(page.contains("This report is partial: it has 23 of 30 programs."));
+  EXPECT_TRUE(page.contains("2.jsonl has 3 of 10 programs."));
+  EXPECT_TRUE(page.contains("&lt;3&gt; has no program: it was interrupted at once, or had none to run."));
+  report.Partial.clear();
+  EXPECT_FALSE(QString::fromUtf8(IndexPage(report, {})).contains("partial"));
+}
+
+TEST(ReportPage, ChoicesAreOnlyWhereTheyChoose) {
+  Report report;
+  report.Runs = {RunOf("ANNA.ZRM")};
+  const QByteArray radio = "type=\"radio\"";
+  EXPECT_TRUE(PageOf(report).contains(radio));
+  EXPECT_FALSE(PageOfPupil(report, report.Runs[0]).contains(radio));
+  EXPECT_FALSE(IndexPage(report, {}).contains(radio));
+  EXPECT_FALSE(IndexPage(report, {}).contains("id=\"filter\""));
+}
+
+TEST(ReportPage, LimitsThatDifferAreNotTold) {
+  Report report;
+  report.Limits = RunLimits{};
+  EXPECT_TRUE(PageOf(report).contains("Limits of each program: none."));
+  report.Limits.reset();
+  EXPECT_FALSE(PageOf(report).contains("Limits"));
 }
 
 TEST(ReportPage, SpeaksGerman) {
@@ -232,15 +263,6 @@ TEST(ReportPage, SpeaksGerman) {
   EXPECT_TRUE(PageOf(report).contains("BOX braucht Eingaben und wurde nicht aufgerufen"));
   EXPECT_TRUE(PageOf(report).contains("another note"));
   EXPECT_EQ(FindLanguage("xx"), nullptr);
-}
-
-TEST(Language, HasWordsForEveryMistake) {
-  for (const char* code : {"en", "de"}) {
-    for (const char* words : FindLanguage(code)->Mistakes) EXPECT_NE(words, nullptr) << code;
-    QSet<QString> names;
-    for (const MistakeFacts& facts : Mistakes()) names.insert(FindLanguage(code)->NameOf(facts.What));
-    EXPECT_EQ(names.size(), static_cast<qsizetype>(Mistake::Count)) << code;
-  }
 }
 
 TEST(ReportPage, PicturesThatWouldMakeItTooLargeLieBeside) {

@@ -9,8 +9,8 @@ namespace zerimo::classroom {
 /// What counts when two drawings are compared by their shapes. The same lines and figures within the tolerance always
 /// count.
 struct ShapeRules {
-  /// Surface units; 50 are one step of the turtle.
-  double Tolerance = 50;
+  /// Surface units.
+  double Tolerance = UnitsPerStep;
   bool Order = false;
   bool Direction = false;
   /// Whether a line drawn in two parts differs from one drawn at once.

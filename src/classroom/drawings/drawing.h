@@ -9,6 +9,9 @@
 
 namespace zerimo::classroom {
 
+/// Surface units to a step of the turtle.
+inline constexpr double UnitsPerStep = 50;
+
 struct Point {
   double X = 0;
   double Y = 0;
