@@ -76,16 +76,29 @@ void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, co
   // Within the tolerance, nothing is missing.
   outcome.Percent = comparison.Same ? 100 : comparison.Percent;
   outcome.Placed = comparison.Placed;
+  outcome.Broken = comparison.Broken;
   const QSize size = QImage(NameOf(run_file::GoalPicture(index))).size();
   WriteDifference(run_file::Difference(index), size, run.Recorder().Drawn(), comparison);
 }
 
-void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index) {
-  const PixelComparison comparison =
-      ComparePixels(QImage(NameOf(ModelPictureOf(order, index))), QImage(NameOf(run_file::GoalPicture(index))),
-                    NearPixels, order.Goals[index].Shapes.Colour);
+/// A picture is only turned by quarters; strokes, if there are any, tell more.
+std::optional<Placement> PlacementOf(const Order& order, std::size_t index, const SessionRun& run, const QImage& wanted,
+                                     const QImage& drawn) {
+  const Goal& goal = order.Goals[index];
+  const std::optional<Drawing> model =
+      order.ModelPicture.empty() ? ReadDrawing(order.ModelFolder / run_file::Drawn(index)) : std::nullopt;
+  std::optional<Placement> placed;
+  if (model) placed = Compare(*model, run.Recorder().Drawn(), {.Tolerance = goal.Shapes.Tolerance}).Placed;
+  return placed ? placed : PlacementOfPicture(wanted, drawn, NearPixels, goal.Enough);
+}
+
+void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index, const SessionRun& run) {
+  const QImage wanted(NameOf(ModelPictureOf(order, index)));
+  const QImage drawn(NameOf(run_file::GoalPicture(index)));
+  const PixelComparison comparison = ComparePixels(wanted, drawn, NearPixels, order.Goals[index].Shapes.Colour);
   outcome.Percent = comparison.Percent;
   outcome.Met = comparison.Percent >= order.Goals[index].Enough;
+  if (!outcome.Met) outcome.Placed = PlacementOf(order, index, run, wanted, drawn);
   comparison.Difference.save(NameOf(run_file::Difference(index)));
 }
 
@@ -107,7 +120,7 @@ GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) 
   fs::copy_file(ModelPictureOf(order, index), run_file::ModelPicture(index), ignored);
   GoalOutcome outcome = goal.NotMet();
   if (goal.Way == GoalWay::Shapes) JudgeShapes(outcome, order, index, run);
-  if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index);
+  if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index, run);
   if (goal.Way == GoalWay::Texts) {
     outcome.Percent = PercentOfTexts(Plain(TextsIn(order.ModelFolder / run_file::Printed(index))), Plain(TextsOf(run)));
     outcome.Met = outcome.Percent == 100;

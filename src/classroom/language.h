@@ -98,7 +98,9 @@ struct Language {
   const char* ShiftedLeft;
   const char* ShiftedUp;
   const char* ShiftedDown;
-  const char* DrawnOtherwise;
+  const char* Inexact;
+  const char* StrokesAreRight;
+  std::array<const char*, StrokeRuleCount> StrokeRules;
 
   // Programs that are alike.
   const char* AlikeHead;

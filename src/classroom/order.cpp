@@ -25,6 +25,7 @@ fs::path UnpackedAt(const Json& json, const char* key) {
 
 Json JsonOf(const Goal& goal) {
   return {{"typed", ValueOf(goal.Typed)},
+          {"words", ValueOf(goal.Words)},
           {"way", static_cast<int>(goal.Way)},
           {"tolerance", goal.Shapes.Tolerance},
           {"order", goal.Shapes.Order},
@@ -38,6 +39,7 @@ Json JsonOf(const Goal& goal) {
 Goal GoalIn(const Json& json) {
   Goal goal;
   goal.Typed = TextsAt(json, "typed");
+  goal.Words = TextAt(json, "words");
   goal.Way = static_cast<GoalWay>(static_cast<int>(NumberAt(json, "way")));
   goal.Shapes = {NumberAt(json, "tolerance"), FlagAt(json, "order"), FlagAt(json, "direction"),
                  FlagAt(json, "splitting"), FlagAt(json, "colour")};

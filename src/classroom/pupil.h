@@ -78,6 +78,8 @@ struct GoalOutcome {
   double Percent = 0;
   double Points = 1;
   std::optional<Placement> Placed = {};
+  /// What alone is wrong with strokes that are where they should be.
+  std::vector<StrokeRule> Broken = {};
 };
 
 /// What a run reports about itself.

@@ -81,15 +81,15 @@ class SectionWriter {
   }
 
   void WriteGoal(const GoalOutcome& goal, std::size_t index) {
-    const QString title = goal.Title.isEmpty() ? Utf8(language_.GoalOfCall) : goal.Title;
     // 100 per cent are only those that have everything.
     const QString percent = QString::number(std::floor(goal.Percent)) + QStringLiteral(" %");
     html_ += Paragraph(
-        Element("strong", "", EscapedReadable(title)) + QStringLiteral(": ") +
+        Element("strong", "", EscapedReadable(TitleOf(goal, language_))) + QStringLiteral(": ") +
         Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +
         QStringLiteral(", ") + percent + QStringLiteral(", ") +
         Filled(language_.Points, {WordOfNumber(goal.Met ? goal.Points : 0, language_), WordOfNumber(goal.Points, language_)}));
-    if (goal.Placed) html_ += Paragraph(Filled(language_.ItIsTheGoal, {WordsOf(*goal.Placed, language_)}));
+    const QString words = WordsOf(goal, language_);
+    if (!words.isEmpty()) html_ += Paragraph(words);
     if (goal.Way == GoalWay::Texts || run_.Picture.empty()) return;
     const std::filesystem::path folder = run_.Picture.parent_path();
     html_ += QStringLiteral("<div class=\"goal\">\n");

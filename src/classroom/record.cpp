@@ -25,6 +25,7 @@ constexpr std::array<ResultWord, 6> ResultWords = {{
 }};
 
 constexpr std::array<const char*, 3> WayWords = {"shapes", "pixels", "texts"};
+constexpr std::array<const char*, StrokeRuleCount> RuleWords = {"order", "direction", "splitting", "colour"};
 
 Result ResultOf(const QString& word) {
   for (const ResultWord& each : ResultWords) {
@@ -88,6 +89,21 @@ std::vector<SourceLine> SourceAt(const Json& json) {
   return lines;
 }
 
+Json WordsOf(const std::vector<StrokeRule>& rules) {
+  Json words = Json::array();
+  for (const StrokeRule rule : rules) words.push_back(RuleWords[static_cast<std::size_t>(rule)]);
+  return words;
+}
+
+std::vector<StrokeRule> RulesAt(const Json& json) {
+  std::vector<StrokeRule> rules;
+  for (const QString& word : TextsAt(json, "broken")) {
+    const auto* const found = std::ranges::find(RuleWords, word.toStdString());
+    if (found != RuleWords.end()) rules.push_back(static_cast<StrokeRule>(found - RuleWords.begin()));
+  }
+  return rules;
+}
+
 Json JsonOf(const std::vector<GoalOutcome>& goals) {
   Json all = Json::array();
   for (const GoalOutcome& goal : goals) {
@@ -103,6 +119,7 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
                        {"scale", goal.Placed->Scale},
                        {"x", goal.Placed->Shift.X},
                        {"y", goal.Placed->Shift.Y}};
+    if (!goal.Broken.empty()) one["broken"] = WordsOf(goal.Broken);
     all.push_back(std::move(one));
   }
   return all;
@@ -112,7 +129,8 @@ std::vector<GoalOutcome> GoalsAt(const Json& json) {
   std::vector<GoalOutcome> goals;
   for (const Json& each : ListAt(json, "goals")) {
     GoalOutcome goal{TextAt(each, "title"),     WayOf(TextAt(each, "way")), FlagAt(each, "met"),
-                     NumberAt(each, "percent"), NumberAt(each, "points"),   {}};
+                     NumberAt(each, "percent"), NumberAt(each, "points"),   {},
+                     RulesAt(each)};
     if (each.is_object() && each.contains("placed")) {
       const Json& placed = each["placed"];
       goal.Placed = Placement{NumberAt(placed, "degrees"),

@@ -200,8 +200,11 @@ class PageWriter {
     const std::vector<GoalOutcome>& goals = run.Went.Goals;
     if (run.GoalsMet() == goals.size()) return;
     notes.append(Filled(language_.GoalsMet, {QString::number(run.GoalsMet()), QString::number(goals.size())}));
-    const auto placed = std::ranges::find_if(goals, [](const GoalOutcome& goal) { return goal.Placed.has_value(); });
-    if (placed != goals.end()) notes.append(Filled(language_.ItIsTheGoal, {WordsOf(*placed->Placed, language_)}));
+    const auto near =
+        std::ranges::find_if(goals, [this](const GoalOutcome& goal) { return !WordsOf(goal, language_).isEmpty(); });
+    if (near == goals.end()) return;
+    const QString title = goals.size() == 1 ? QString() : TitleOf(*near, language_) + QStringLiteral(": ");
+    notes.append(EscapedReadable(title) + WordsOf(*near, language_));
   }
 
   QString GoalsCell(const PupilRun& run) const {

@@ -52,10 +52,13 @@ Goal GoalOf(const QString& item) {
   static const QRegularExpression typed("`([^`]*)`");
   Goal goal;
   for (auto walk = typed.globalMatch(item); walk.hasNext();) goal.Typed.append(walk.next().captured(1).simplified());
-  QString words = item;
-  words.remove(typed);
-  words = words.section(u':', 1);
-  for (const QString& word : words.split(u',', Qt::SkipEmptyParts)) {
+  QString text = item;
+  text.remove(typed);
+  // What stood between the lines.
+  static const QRegularExpression leftOver("^(?:and\\b|[\\s,])+|(?:\\band|[\\s,:])+$");
+  const qsizetype colon = text.lastIndexOf(u':');
+  goal.Words = text.left(colon).remove(leftOver).simplified();
+  for (const QString& word : text.mid(colon < 0 ? text.size() : colon + 1).split(u',', Qt::SkipEmptyParts)) {
     if (!Take(goal, word.simplified().toLower()))
       throw batch::UsageError("TASK.md: \"" + word.trimmed().toStdString() + "\" in \"" + item.toStdString() +
                               "\" is not understood");
@@ -75,7 +78,11 @@ QString TextOf(const fs::path& file) { return QString::fromStdString(BytesOf(fil
 
 }  // namespace
 
-QString Goal::Title() const { return Typed.join(QStringLiteral(", ")); }
+QString Goal::Title() const {
+  const QString lines = Typed.join(QStringLiteral(", "));
+  if (Words.isEmpty() || lines.isEmpty()) return Words + lines;
+  return Words + QStringLiteral(" (") + lines + u')';
+}
 
 bool Task::HasModelProgram() const { return NameOf(Model.extension()).compare(".zrm", Qt::CaseInsensitive) == 0; }
 
@@ -105,7 +112,7 @@ Task ReadTask(const fs::path& place) {
     task.Model = ModelIn(place);
     task.Goals = GoalsIn(text);
     if (task.Model.empty()) throw batch::UsageError("--task " + place.string() + ": GOAL.ZRM or GOAL.png is missing");
-    if (task.Goals.empty()) task.Goals = {Goal{}};
+    if (task.Goals.empty()) task.Goals = {Goal{.Words = task.Title}};
   }
   // Of a picture, only the pixels are known.
   if (!task.HasModelProgram()) {

@@ -13,13 +13,16 @@ namespace zerimo::classroom {
 /// One thing that a program should do.
 struct Goal {
   /// What is typed after the program is loaded; empty for the call that a program without a session gets.
-  QStringList Typed;
+  QStringList Typed = {};
+  /// What the teacher calls it, or empty.
+  QString Words = {};
   GoalWay Way = GoalWay::Shapes;
-  ShapeRules Shapes;
+  ShapeRules Shapes = {};
   /// The overlap of pixels that is enough, in per cent.
   double Enough = 95;
   double Points = 1;
 
+  /// "A large star (STAR 50)"; empty if it has neither words nor lines.
   QString Title() const;
   /// Of a program that has not come so far.
   GoalOutcome NotMet() const { return {Title(), Way, false, 0, Points}; }
@@ -41,7 +44,8 @@ struct Task {
 /// model alone. Fails with `UsageError`, which names the line that is not understood.
 Task ReadTask(const std::filesystem::path& place);
 
-/// The goals of the section "Goals" of TASK.md: "- `STAR 50`: pixels 90 %, 2 points". Fails with `UsageError`.
+/// The goals of the section "Goals" of TASK.md: "- A large star, `STAR 50`: pixels 90 %, 2 points". Fails with
+/// `UsageError`.
 std::vector<Goal> GoalsIn(const QString& taskText);
 
 }  // namespace zerimo::classroom

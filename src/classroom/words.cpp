@@ -76,6 +76,18 @@ QString WordsOf(const StopPlace& place, const Language& language) {
   return words;
 }
 
+QString TitleOf(const GoalOutcome& goal, const Language& language) {
+  return goal.Title.isEmpty() ? QString::fromUtf8(language.GoalOfCall) : goal.Title;
+}
+
+QString WordsOf(const GoalOutcome& goal, const Language& language) {
+  QStringList broken;
+  for (const StrokeRule rule : goal.Broken)
+    broken.append(QString::fromUtf8(language.StrokeRules[static_cast<std::size_t>(rule)]));
+  if (!broken.isEmpty()) return Filled(language.StrokesAreRight, {broken.join(QStringLiteral(", "))});
+  return goal.Placed ? Filled(language.ItIsTheGoal, {WordsOf(*goal.Placed, language)}) : QString();
+}
+
 QString WordsOf(const Placement& placement, const Language& language) {
   QStringList parts;
   const double degrees = std::round(placement.Degrees);
@@ -88,7 +100,7 @@ QString WordsOf(const Placement& placement, const Language& language) {
   if (right != 0)
     parts.append(Filled(right > 0 ? language.ShiftedRight : language.ShiftedLeft, {Rounded(std::abs(right))}));
   if (down != 0) parts.append(Filled(down > 0 ? language.ShiftedDown : language.ShiftedUp, {Rounded(std::abs(down))}));
-  if (parts.isEmpty()) parts.append(QString::fromUtf8(language.DrawnOtherwise));
+  if (parts.isEmpty()) parts.append(QString::fromUtf8(language.Inexact));
   return parts.join(QStringLiteral(", "));
 }
 

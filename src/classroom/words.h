@@ -13,6 +13,13 @@ QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Langua
 /// Where a run was, as the end of a sentence: "in line 2 (STAR), in the procedure SPIN at FD 10"; or empty.
 QString WordsOf(const StopPlace& place, const Language& language = English);
 
+/// "STAR 50", or "the program" for a goal without a title.
+QString TitleOf(const GoalOutcome& goal, const Language& language);
+
+/// What a drawing that misses its goal still has of it, as a sentence: "The strokes are right, but not their order."; or
+/// empty.
+QString WordsOf(const GoalOutcome& goal, const Language& language);
+
 /// How a drawing that is the goal in another place is placed: "turned by 90 degrees to the right".
 QString WordsOf(const Placement& placement, const Language& language);
 

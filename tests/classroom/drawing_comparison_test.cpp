@@ -61,6 +61,27 @@ TEST(Comparison, EachOfThemCanBeMadeToCount) {
   EXPECT_FALSE(AreSame(Square, Path({{0, 0}, {0, 60}, {60, 60}, {60, 0}, {0, 0}}, Red), {.Colour = true}));
 }
 
+TEST(Comparison, TellsWhichRuleAloneIsBroken) {
+  using enum StrokeRule;
+  using Rules = std::vector<StrokeRule>;
+  const ShapeRules all{.Order = true, .Direction = true, .Splitting = true, .Colour = true};
+  const Drawing back = Path({{0, 0}, {60, 0}, {60, 60}, {0, 60}, {0, 0}});
+  const Drawing split = Path({{0, 0}, {0, 25}, {0, 60}, {60, 60}, {60, 0}, {0, 0}});
+  const Drawing later = Path({{60, 60}, {60, 0}, {0, 0}, {0, 60}, {60, 60}});
+  EXPECT_EQ(Compare(Square, Square, all).Broken, Rules());
+  EXPECT_EQ(Compare(Square, later, all).Broken, Rules{Order});
+  EXPECT_EQ(Compare(Square, split, all).Broken, (Rules{Splitting}));
+  EXPECT_EQ(Compare(Square, back, all).Broken, (Rules{Order, Direction}));
+  EXPECT_EQ(Compare(Square, back, {.Splitting = true}).Broken, Rules());
+  EXPECT_EQ(Compare(Square, Path({{0, 0}, {0, 60}, {60, 60}, {60, 0}, {0, 0}}, Red), all).Broken, Rules{Colour});
+  EXPECT_EQ(Compare(Square, Ell, all).Broken, Rules());
+}
+
+TEST(Comparison, WhereALineBeganDoesNotTurnIt) {
+  const Drawing fromTheMiddle = Path({{0, 25}, {0, 60}, {60, 60}, {60, 0}, {0, 0}, {0, 25}});
+  EXPECT_TRUE(AreSame(Square, fromTheMiddle, {.Direction = true}));
+}
+
 TEST(Comparison, TheToleranceIsAStep) {
   EXPECT_TRUE(AreSame(Square, Path({{0, 0}, {0, 60.9}, {60.5, 60.9}, {60.5, 0}, {0, 0}})));
   EXPECT_FALSE(AreSame(Square, Path({{0, 0}, {0, 63}, {60, 63}, {60, 0}, {0, 0}})));
@@ -171,6 +192,15 @@ TEST(Placement, OfSeveralTheFewestChangesAreTold) {
   ASSERT_TRUE(placed);
   EXPECT_NEAR(placed->Degrees, 90, 0.1);
   EXPECT_NEAR(std::hypot(placed->Shift.X, placed->Shift.Y), 0, 1);
+}
+
+TEST(Placement, ADifferenceWithinTheToleranceIsNotTold) {
+  const auto placed = Compare(Ell, Changed(Ell, 90, false, 1.02, {30, 0}), {}).Placed;
+  ASSERT_TRUE(placed);
+  EXPECT_NEAR(placed->Degrees, 90, 0.1);
+  EXPECT_EQ(placed->Scale, 1);
+  EXPECT_EQ(placed->Shift.X, 0);
+  EXPECT_EQ(placed->Shift.Y, 0);
 }
 
 TEST(Placement, OfAnotherDrawingThereIsNone) {

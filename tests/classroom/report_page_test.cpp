@@ -199,7 +199,18 @@ TEST(ReportPage, TellsWhereADrawingIsInstead) {
                     {"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {}}}};
   const QString page = PageWith({run});
   EXPECT_TRUE(page.contains("It is the goal, but shifted by 10 steps to the left, shifted down by 20 steps."));
-  EXPECT_TRUE(page.contains("It is the goal, but its lines have another order, direction, splitting or colour."));
+  EXPECT_TRUE(page.contains("It is the goal, but a little inexact."));
+}
+
+TEST(ReportPage, TellsThatOnlyTheWayOfDrawingIsWrong) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Goals = {{"", GoalWay::Shapes, false, 100, 1, {}, {StrokeRule::Order, StrokeRule::Direction}}};
+  const QString words = "The strokes are right, but not their order, direction.";
+  EXPECT_EQ(PageWith({run}).count(words), 2);
+  Report report;
+  report.Runs = {run};
+  report.Words = FindLanguage("de");
+  EXPECT_TRUE(PageOf(report).contains("Die Striche stimmen, aber nicht ihre Reihenfolge, ihre Richtung."));
 }
 
 TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
@@ -208,7 +219,7 @@ TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
                     {"", GoalWay::Texts, true, 100, 1, {}}};
   const QString page = PageWith({run});
   EXPECT_FALSE(page.contains("nothing suspicious"));
-  EXPECT_TRUE(page.contains("Goals met: 1 of 2.<br>It is the goal, but turned by 90 degrees to the right.</td>"));
+  EXPECT_TRUE(page.contains("Goals met: 1 of 2.<br>STAR 50: It is the goal, but turned by 90 degrees to the right.</td>"));
 }
 
 TEST(ReportPage, SaysThatItIsPartial) {

@@ -24,6 +24,17 @@ TEST(Task, GoalsAreTheItemsOfTheirSection) {
   EXPECT_EQ(goals[3].Shapes.Tolerance, 100);
 }
 
+TEST(Task, AGoalIsCalledWhatTheTeacherCallsIt) {
+  const std::vector<Goal> goals = GoalsIn(
+      "## Goals\n- A large star, `STAR 50`: 2 points\n- Two of them: `STAR 5` and `STAR 6`: texts\n- `STAR 7`\n"
+      "- the call: texts\n- Round `A`\n- `B` and `C`: pixels\n");
+  QStringList titles;
+  for (const Goal& goal : goals) titles.append(goal.Title());
+  EXPECT_EQ(titles, (QStringList{"A large star (STAR 50)", "Two of them (STAR 5, STAR 6)", "STAR 7", "the call",
+                                 "Round (A)", "B, C"}));
+  EXPECT_EQ(goals[1].Way, GoalWay::Texts);
+}
+
 TEST(Task, WordsThatAreNotUnderstoodAreReported) {
   EXPECT_THROW(GoalsIn("## Goals\n- `A`: shapse\n"), batch::UsageError);
 }
@@ -37,7 +48,8 @@ TEST(Task, AFolderHasWordsAModelAndGoals) {
   EXPECT_EQ(task.Title, "Stars");
   EXPECT_EQ(task.Words, "Draw one.");
   EXPECT_TRUE(task.HasModelProgram());
-  EXPECT_EQ(task.Goals.size(), 1U);
+  ASSERT_EQ(task.Goals.size(), 1U);
+  EXPECT_EQ(task.Goals[0].Title(), "Stars");
 }
 
 TEST(Task, OfAPictureOnlyPixelsAreCompared) {

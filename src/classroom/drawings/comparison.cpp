@@ -1,8 +1,10 @@
 #include "classroom/drawings/comparison.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "classroom/drawings/cover.h"
 #include "classroom/drawings/placement.h"
@@ -10,10 +12,6 @@
 namespace zerimo::classroom {
 
 namespace {
-
-bool IsNear(Point one, Point other, double tolerance) {
-  return std::hypot(one.X - other.X, one.Y - other.Y) <= tolerance;
-}
 
 bool AreAlike(const Figure& one, const Figure& other, const ShapeRules& rules) {
   return IsNear(one.Centre, other.Centre, rules.Tolerance) && std::abs(one.Across - other.Across) <= rules.Tolerance &&
@@ -73,30 +71,74 @@ double PercentOf(double all, double wrong) {
   return wrong > 0 ? std::min(percent, 99.9) : percent;
 }
 
+/// Whether each line goes over one that was drawn the same way.
+bool HaveDirection(const std::vector<Line>& lines, const std::vector<Line>& others, double tolerance) {
+  return std::ranges::all_of(lines, [&](const Line& line) {
+    std::vector<Line> alike;
+    std::ranges::copy_if(others, std::back_inserter(alike), [&line](const Line& other) {
+      const Point along{line.To.X - line.From.X, line.To.Y - line.From.Y};
+      return along.X * (other.To.X - other.From.X) + along.Y * (other.To.Y - other.From.Y) > 0;
+    });
+    return Uncovered(line, alike, tolerance).empty();
+  });
+}
+
 /// Whether the order, direction and splitting are those of the goal, as far as they count.
 bool AreDrawnAlike(const Drawing& goal, const Drawing& drawing, const ShapeRules& rules) {
-  if (!rules.Order && !rules.Direction && !rules.Splitting) return true;
   const std::vector<Line> wanted = rules.Splitting ? goal.Lines : Joined(goal.Lines);
   const std::vector<Line> drawn = rules.Splitting ? drawing.Lines : Joined(drawing.Lines);
+  if (!rules.Order && !rules.Splitting)
+    return !rules.Direction ||
+           (HaveDirection(wanted, drawn, rules.Tolerance) && HaveDirection(drawn, wanted, rules.Tolerance));
   if (wanted.size() != drawn.size()) return false;
   if (!rules.Order) return WithoutPartner(wanted, drawn, rules).empty();
   return std::ranges::equal(wanted, drawn,
                             [&rules](const Line& one, const Line& other) { return AreAlike(one, other, rules); });
 }
 
+constexpr std::array<std::pair<StrokeRule, bool ShapeRules::*>, 3> WaysOfDrawing = {
+    {{StrokeRule::Order, &ShapeRules::Order},
+     {StrokeRule::Direction, &ShapeRules::Direction},
+     {StrokeRule::Splitting, &ShapeRules::Splitting}}};
+
+/// The rules about order, direction and splitting that a drawing with all shapes of the goal breaks.
+std::vector<StrokeRule> BrokenRules(const Drawing& goal, const Drawing& drawing, ShapeRules rules) {
+  rules.Colour = false;
+  std::vector<StrokeRule> all;
+  std::vector<StrokeRule> broken;
+  for (const auto& [rule, counts] : WaysOfDrawing) {
+    if (!(rules.*counts)) continue;
+    all.push_back(rule);
+    ShapeRules alone{.Tolerance = rules.Tolerance};
+    alone.*counts = true;
+    if (!AreDrawnAlike(goal, drawing, alone)) broken.push_back(rule);
+  }
+  return broken.empty() && !AreDrawnAlike(goal, drawing, rules) ? all : broken;
+}
+
+/// What one drawing has and the other one lacks.
+Drawing Left(const Drawing& drawing, const Drawing& other, const ShapeRules& rules) {
+  return {NotCovered(drawing.Lines, other.Lines, rules), WithoutPartner(drawing.Figures, other.Figures, rules), false};
+}
+
 }  // namespace
 
 ShapeComparison Compare(const Drawing& goal, const Drawing& drawing, const ShapeRules& rules) {
   ShapeComparison result;
-  const std::vector<Line> wanted = Joined(goal.Lines);
-  const std::vector<Line> drawn = Joined(drawing.Lines);
-  result.Missing = {NotCovered(wanted, drawn, rules), WithoutPartner(goal.Figures, drawing.Figures, rules), false};
-  result.Extra = {NotCovered(drawn, wanted, rules), WithoutPartner(drawing.Figures, goal.Figures, rules), false};
+  const Drawing wanted{Joined(goal.Lines), goal.Figures, false};
+  const Drawing drawn{Joined(drawing.Lines), drawing.Figures, false};
+  result.Missing = Left(wanted, drawn, rules);
+  result.Extra = Left(drawn, wanted, rules);
   result.Percent = PercentOf(LengthOf(goal) + LengthOf(drawing), LengthOf(result.Missing) + LengthOf(result.Extra));
   const bool hasSameShapes = result.Missing.IsEmpty() && result.Extra.IsEmpty();
-  result.Same = hasSameShapes && !goal.IsCut && !drawing.IsCut && AreDrawnAlike(goal, drawing, rules);
-  if (!hasSameShapes)
-    result.Placed = PlacementOf({wanted, goal.Figures, false}, {drawn, drawing.Figures, false}, rules);
+  const ShapeRules colourless{.Tolerance = rules.Tolerance};
+  const bool hasOtherColours = !hasSameShapes && rules.Colour && Left(wanted, drawn, colourless).IsEmpty() &&
+                               Left(drawn, wanted, colourless).IsEmpty();
+  const bool isWhole = !goal.IsCut && !drawing.IsCut;
+  if (isWhole && (hasSameShapes || hasOtherColours)) result.Broken = BrokenRules(goal, drawing, rules);
+  if (isWhole && hasOtherColours) result.Broken.push_back(StrokeRule::Colour);
+  result.Same = isWhole && hasSameShapes && result.Broken.empty();
+  if (!hasSameShapes && !hasOtherColours) result.Placed = PlacementOf(wanted, drawn, rules);
   return result;
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "classroom/drawings/drawing.h"
 
@@ -18,6 +21,10 @@ struct ShapeRules {
   bool Colour = false;
 };
 
+/// What may be wrong with strokes that are where they should be.
+enum class StrokeRule : std::uint8_t { Order, Direction, Splitting, Colour };
+inline constexpr std::size_t StrokeRuleCount = 4;
+
 /// How a drawing has all the goal's shapes, but in another place.
 struct Placement {
   /// Clockwise, from -180 to 180.
@@ -25,7 +32,7 @@ struct Placement {
   bool Mirrored = false;
   double Scale = 1;
   /// Of the point where the goal begins (its middle if it has no lines), in surface units, y downwards: a drawing that
-  /// only began in another direction or size is not shifted.
+  /// only began in another direction or size is not shifted. 0 within the tolerance.
   Point Shift;
 };
 
@@ -37,6 +44,8 @@ struct ShapeComparison {
   /// What the goal has and the drawing lacks, and vice versa.
   Drawing Missing;
   Drawing Extra;
+  /// All shapes are there, but these of the rules are broken.
+  std::vector<StrokeRule> Broken;
   /// Set if it is the goal turned, mirrored, scaled or shifted.
   std::optional<Placement> Placed;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -16,6 +17,10 @@ struct Point {
   double X = 0;
   double Y = 0;
 };
+
+inline bool IsNear(Point one, Point other, double tolerance) {
+  return std::hypot(one.X - other.X, one.Y - other.Y) <= tolerance;
+}
 
 /// A straight line as it was drawn, from its first point to its second. Surface units, y downwards.
 struct Line {

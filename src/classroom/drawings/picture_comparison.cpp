@@ -1,7 +1,10 @@
 #include "classroom/drawings/picture_comparison.h"
 
 #include <QHash>
+#include <QTransform>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace zerimo::classroom {
 
@@ -33,8 +36,8 @@ class Drawn {
  public:
   explicit Drawn(const QImage& image)
       : image_(image.convertToFormat(QImage::Format_RGB32)), background_(CommonestColour(image_)) {}
+  Drawn(QImage image, QRgb background) : image_(std::move(image)), background_(background) {}
 
-  QSize Size() const { return image_.size(); }
   bool Has(int x, int y) const { return image_.rect().contains(x, y) && image_.pixel(x, y) != background_; }
   bool HasNear(int x, int y, int near, QRgb colour, bool colourCounts) const {
     for (int row = y - near; row <= y + near; ++row) {
@@ -46,24 +49,42 @@ class Drawn {
   }
   QRgb At(int x, int y) const { return image_.pixel(x, y); }
 
+  /// The smallest rectangle that has all that is drawn; empty if nothing is.
+  QRect Box() const {
+    QRect box;
+    for (int y = 0; y < image_.height(); ++y) {
+      for (int x = 0; x < image_.width(); ++x) {
+        if (Has(x, y)) box |= QRect(x, y, 1, 1);
+      }
+    }
+    return box;
+  }
+
+  /// What is in a rectangle, in black on white.
+  QImage InBlack(QRect box) const {
+    QImage black(box.size(), QImage::Format_RGB32);
+    black.fill(Nothing);
+    for (int y = 0; y < box.height(); ++y) {
+      for (int x = 0; x < box.width(); ++x) {
+        if (Has(box.x() + x, box.y() + y)) black.setPixel(x, y, qRgb(0, 0, 0));
+      }
+    }
+    return black;
+  }
+
  private:
   QImage image_;
   QRgb background_;
 };
 
-}  // namespace
-
-PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int near, bool colour) {
+PixelComparison Compare(const Drawn& wanted, const Drawn& drawn, QSize size, int near, bool colour) {
   PixelComparison result;
-  if (goal.isNull() || picture.isNull()) return result;
-  const Drawn wanted(goal);
-  const Drawn drawn(picture.size() == goal.size() ? picture : picture.scaled(goal.size()));
-  result.Difference = QImage(goal.size(), QImage::Format_RGB32);
+  result.Difference = QImage(size, QImage::Format_RGB32);
   result.Difference.fill(Nothing);
   double both = 0;
   double all = 0;
-  for (int y = 0; y < goal.height(); ++y) {
-    for (int x = 0; x < goal.width(); ++x) {
+  for (int y = 0; y < size.height(); ++y) {
+    for (int x = 0; x < size.width(); ++x) {
       const bool inGoal = wanted.Has(x, y);
       const bool inPicture = drawn.Has(x, y);
       if (!inGoal && !inPicture) continue;
@@ -77,6 +98,63 @@ PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int nea
   }
   result.Percent = all == 0 ? 100 : 100 * both / all;
   return result;
+}
+
+/// The second picture has the size of the first.
+Drawn DrawnLike(const QImage& goal, const QImage& picture) {
+  return Drawn(picture.size() == goal.size() ? picture : picture.scaled(goal.size()));
+}
+
+/// Thin lines do not get lost.
+QImage Stretched(const QImage& black, QSize size) {
+  QImage stretched = black.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  constexpr int nearlyWhite = 250;
+  for (int y = 0; y < size.height(); ++y) {
+    for (int x = 0; x < size.width(); ++x)
+      stretched.setPixel(x, y, qRed(stretched.pixel(x, y)) < nearlyWhite ? qRgb(0, 0, 0) : Nothing);
+  }
+  return stretched;
+}
+
+/// How much larger the picture is than the goal; nothing if their sides differ in shape.
+std::optional<double> ScaleBetween(QSize goal, QSize picture, int near) {
+  const double scale = static_cast<double>(picture.width() + picture.height()) / (goal.width() + goal.height());
+  const double off = std::max(std::abs(goal.width() * scale - picture.width()),
+                              std::abs(goal.height() * scale - picture.height()));
+  if (off > 2 * near) return std::nullopt;
+  return std::abs(scale - 1) * std::max(goal.width(), goal.height()) <= 2 * near ? 1 : scale;
+}
+
+}  // namespace
+
+PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int near, bool colour) {
+  if (goal.isNull() || picture.isNull()) return {};
+  return Compare(Drawn(goal), DrawnLike(goal, picture), goal.size(), near, colour);
+}
+
+std::optional<Placement> PlacementOfPicture(const QImage& goal, const QImage& picture, int near, double enough) {
+  if (goal.isNull() || picture.isNull()) return std::nullopt;
+  const Drawn wanted(goal);
+  const Drawn drawn = DrawnLike(goal, picture);
+  const QRect from = wanted.Box();
+  const QRect to = drawn.Box();
+  if (from.isEmpty() || to.isEmpty()) return std::nullopt;
+  const Drawn target(drawn.InBlack(to), Nothing);
+  for (const bool mirrored : {false, true}) {
+    for (const int degrees : {0, 90, -90, 180}) {
+      const QImage turned = wanted.InBlack(from).mirrored(mirrored, false).transformed(QTransform().rotate(degrees));
+      const std::optional<double> scale = ScaleBetween(turned.size(), to.size(), near);
+      if (!scale) continue;
+      const Drawn moved(Stretched(turned, to.size()), Nothing);
+      if (Compare(moved, target, to.size(), near, false).Percent < enough) continue;
+      Placement placement{static_cast<double>(degrees), mirrored, *scale, {}};
+      const QPoint shift = to.center() - from.center();
+      if (degrees == 0 && !mirrored && *scale == 1)
+        placement.Shift = {shift.x() * double{UnitsPerPixel}, shift.y() * double{UnitsPerPixel}};
+      return placement;
+    }
+  }
+  return std::nullopt;
 }
 
 }  // namespace zerimo::classroom

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QImage>
+#include <optional>
+
+#include "classroom/drawings/comparison.h"
 
 namespace zerimo::classroom {
 
@@ -15,5 +18,10 @@ struct PixelComparison {
 /// partner within `near` pixels; with `colour`, the two must have the same colour. The second picture is scaled to the
 /// size of the first.
 PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int near, bool colour);
+
+/// How the goal has to be mirrored, turned by quarters, scaled or shifted so that `enough` per cent of it and the
+/// picture overlap; only what is drawn counts, not its colour. One that is not mirrored, turned or scaled is shifted.
+/// Nothing if there is no way.
+std::optional<Placement> PlacementOfPicture(const QImage& goal, const QImage& picture, int near, double enough);
 
 }  // namespace zerimo::classroom

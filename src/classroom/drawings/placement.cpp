@@ -98,7 +98,7 @@ class Mover {
 bool HasAll(const std::vector<Figure>& figures, const std::vector<Figure>& others, double tolerance) {
   return std::ranges::all_of(figures, [&](const Figure& one) {
     return std::ranges::any_of(others, [&](const Figure& other) {
-      return std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y) <= tolerance &&
+      return IsNear(one.Centre, other.Centre, tolerance) &&
              std::abs(one.Across - other.Across) <= tolerance && std::abs(one.Down - other.Down) <= tolerance &&
              one.Text == other.Text;
     });
@@ -140,10 +140,11 @@ std::vector<Placement> TriesFor(const Drawing& goal, const Drawing& drawing, dou
   return tries;
 }
 
-/// How many of turning, mirroring and shifting a placement does.
-int ChangesOf(const Placement& placement, double tolerance) {
-  const bool isShifted = std::hypot(placement.Shift.X, placement.Shift.Y) > tolerance;
-  return (placement.Degrees != 0 ? 1 : 0) + (placement.Mirrored ? 1 : 0) + (isShifted ? 1 : 0);
+/// How many of turning, mirroring, scaling and shifting a placement does.
+int ChangesOf(const Placement& placement) {
+  const bool isShifted = placement.Shift.X != 0 || placement.Shift.Y != 0;
+  return (placement.Degrees != 0 ? 1 : 0) + (placement.Mirrored ? 1 : 0) + (placement.Scale != 1 ? 1 : 0) +
+         (isShifted ? 1 : 0);
 }
 
 }  // namespace
@@ -153,19 +154,22 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   if (goal.Lines.size() > MostLines || drawing.Lines.size() > MostLines) return std::nullopt;
   const Extent from = ExtentOf(goal);
   const Extent to = ExtentOf(drawing);
-  double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
-  if (std::abs(scale - 1) < SameSize / 3) scale = 1;
+  const double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
   const double tolerance = 1.5 * rules.Tolerance;
+  std::vector<Placement> tries = TriesFor(goal, drawing, 1);
+  // Another size is told only if it matters.
+  const std::vector<Placement> scaled = TriesFor(goal, drawing, scale);
+  tries.insert(tries.end(), scaled.begin(), scaled.end());
   std::optional<Placement> best;
-  for (Placement placement : TriesFor(goal, drawing, scale)) {
+  for (Placement placement : tries) {
     const Mover mover(placement, from.Middle, to.Middle);
     if (!Fits(mover.Moved(goal), drawing, tolerance)) continue;
     const Point start = goal.Lines.empty() ? from.Middle : goal.Lines.front().From;
     const Point moved = mover.Moved(start);
-    placement.Shift = {moved.X - start.X, moved.Y - start.Y};
+    if (!IsNear(moved, start, tolerance)) placement.Shift = {moved.X - start.X, moved.Y - start.Y};
     // A star that is turned about the middle of the picture is also one that is turned less, but shifted.
-    if (!best || ChangesOf(placement, tolerance) < ChangesOf(*best, tolerance)) best = placement;
-    if (ChangesOf(*best, tolerance) <= 1) break;
+    if (!best || ChangesOf(placement) < ChangesOf(*best)) best = placement;
+    if (ChangesOf(*best) <= 1) break;
   }
   return best;
 }
