@@ -12,6 +12,18 @@ cmp part-1.jsonl before.jsonl || fail "the first part was run again"
 marks_are report.csv
 [ -s report.html ] || fail "there is no report"
 
+# A part whose time is over after the first of two endless programs keeps that, and goes on with the other one.
+mkdir slow
+cp 'ben cole/ENDLESS.ZRM' slow/A.ZRM
+cp 'ben cole/ENDLESS.ZRM' slow/B.ZRM
+cd slow
+printf '%s\n' A.ZRM B.ZRM >list.txt
+PART_TIME=5 sh "$recipe" list.txt 1 report.html --seconds 3 2>messages || fail "$(cat messages)"
+grep -q ': interrupted after 1 of 2 programs' messages || fail "no time was over: $(cat messages)"
+[ "$(cut -d, -f1,3 report.csv | tr -d '\r' | tail -n +2)" = "$(printf '"%s","stopped"\n' A.ZRM B.ZRM)" ] ||
+  fail "not both programs are there, once: $(cat report.csv)"
+cd ..
+
 if sh "$recipe" missing.txt 2 other.html >/dev/null 2>&1; then fail "a list that is not there is no failure"; fi
 [ ! -e other.html ] || fail "a failure has a report"
 status=0
