@@ -89,10 +89,7 @@ class Merge {
   QString LastWords() const {
     const QString name = QString::fromStdString(options_.Report);
     if (report_.Partial.empty()) return QStringLiteral("%1 programs; the report is %2").arg(places_.size()).arg(name);
-    return QStringLiteral("%1 of %2 programs; the partial report is %3")
-        .arg(places_.size())
-        .arg(wanted_)
-        .arg(name);
+    return QStringLiteral("%1 of %2 programs; the partial report is %3").arg(places_.size()).arg(wanted_).arg(name);
   }
 
   void AddMarks(const QByteArray& lines) {

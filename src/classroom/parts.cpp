@@ -85,8 +85,7 @@ void PartFile::Add(const PupilRun& run) {
   if (!stream_) throw Failure(FailureKind::FileAccess);
 }
 
-std::optional<std::size_t> ForEachRun(const fs::path& file,
-                                      const std::function<void(PupilRun, std::streamoff)>& take) {
+std::optional<std::size_t> ForEachRun(const fs::path& file, const std::function<void(PupilRun, std::streamoff)>& take) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream.is_open()) return std::nullopt;
   std::size_t wanted = 0;

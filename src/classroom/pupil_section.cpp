@@ -83,11 +83,11 @@ class SectionWriter {
   void WriteGoal(const GoalOutcome& goal, std::size_t index) {
     // 100 per cent are only those that have everything.
     const QString percent = QString::number(std::floor(goal.Percent)) + QStringLiteral(" %");
-    html_ += Paragraph(
-        Element("strong", "", EscapedReadable(TitleOf(goal, language_))) + QStringLiteral(": ") +
-        Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +
-        QStringLiteral(", ") + percent + QStringLiteral(", ") +
-        Filled(language_.Points, {WordOfNumber(goal.Met ? goal.Points : 0, language_), WordOfNumber(goal.Points, language_)}));
+    html_ += Paragraph(Element("strong", "", EscapedReadable(TitleOf(goal, language_))) + QStringLiteral(": ") +
+                       Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +
+                       QStringLiteral(", ") + percent + QStringLiteral(", ") +
+                       Filled(language_.Points, {WordOfNumber(goal.Met ? goal.Points : 0, language_),
+                                                 WordOfNumber(goal.Points, language_)}));
     const QString words = WordsOf(goal, language_);
     if (!words.isEmpty()) html_ += Paragraph(words);
     if (goal.Way == GoalWay::Texts || run_.Picture.empty()) return;

@@ -128,8 +128,12 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
 std::vector<GoalOutcome> GoalsAt(const Json& json) {
   std::vector<GoalOutcome> goals;
   for (const Json& each : ListAt(json, "goals")) {
-    GoalOutcome goal{TextAt(each, "title"),     WayOf(TextAt(each, "way")), FlagAt(each, "met"),
-                     NumberAt(each, "percent"), NumberAt(each, "points"),   {},
+    GoalOutcome goal{TextAt(each, "title"),
+                     WayOf(TextAt(each, "way")),
+                     FlagAt(each, "met"),
+                     NumberAt(each, "percent"),
+                     NumberAt(each, "points"),
+                     {},
                      RulesAt(each)};
     if (each.is_object() && each.contains("placed")) {
       const Json& placed = each["placed"];

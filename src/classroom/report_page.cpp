@@ -61,8 +61,8 @@ class PageWriter {
     WriteHead(Filled(language_.Title, {EscapedReadable(report_.Folder)}));
     const auto head = [](const char* words) { return Element("th", "", Utf8(words)); };
     WritePartial(entries);
-    Add(QStringLiteral("<div class=\"overview\">\n<table id=\"index\">\n<thead><tr>") +
-        head(language_.Pupil) + head(language_.Programs) + head(language_.Ended) + head(language_.WentWrong) +
+    Add(QStringLiteral("<div class=\"overview\">\n<table id=\"index\">\n<thead><tr>") + head(language_.Pupil) +
+        head(language_.Programs) + head(language_.Ended) + head(language_.WentWrong) +
         QStringLiteral("</tr></thead>\n<tbody>\n"));
     for (const IndexEntry& entry : entries) {
       Add(QStringLiteral("<tr><td><a href=\"") + Escaped(entry.File) + QStringLiteral("\">") +
@@ -216,7 +216,8 @@ class PageWriter {
     const char* const kind = points == MostPointsOf(run) ? "good" : "bad";
     return QStringLiteral("<td class=\"number\" data-value=\"%1\">").arg(points) +
            Element("span", kind,
-                   Filled(language_.Points, {WordOfNumber(points, language_), WordOfNumber(MostPointsOf(run), language_)})) +
+                   Filled(language_.Points,
+                          {WordOfNumber(points, language_), WordOfNumber(MostPointsOf(run), language_)})) +
            QStringLiteral("<br>%1 %</td>").arg(percent);
   }
 

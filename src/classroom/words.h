@@ -16,8 +16,8 @@ QString WordsOf(const StopPlace& place, const Language& language = English);
 /// "STAR 50", or "the program" for a goal without a title.
 QString TitleOf(const GoalOutcome& goal, const Language& language);
 
-/// What a drawing that misses its goal still has of it, as a sentence: "The strokes are right, but not their order."; or
-/// empty.
+/// What a drawing that misses its goal still has of it, as a sentence: "The strokes are right, but not their order.";
+/// or empty.
 QString WordsOf(const GoalOutcome& goal, const Language& language);
 
 /// How a drawing that is the goal in another place is placed: "turned by 90 degrees to the right".

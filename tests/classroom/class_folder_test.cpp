@@ -94,8 +94,12 @@ TEST_F(ClassFolderTest, NamesComeFromATable) {
 
 TEST_F(ClassFolderTest, ATableMayNameAnyFolderOfTheClass) {
   const auto in = [](const char* place) { return Pupil{fs::path("/anna/class") / place, {}, {}, place}; };
-  std::vector<Pupil> pupils = {in("5a/Berg, Anna/work/STAR.ZRM"), in("5a/22/A.ZRM"), in("5b/22/A.ZRM"),
-                               in("5b/33/A.ZRM"), in("5b/33/B.ZRM"), in("LONE.ZRM")};
+  std::vector<Pupil> pupils = {in("5a/Berg, Anna/work/STAR.ZRM"),
+                               in("5a/22/A.ZRM"),
+                               in("5b/22/A.ZRM"),
+                               in("5b/33/A.ZRM"),
+                               in("5b/33/B.ZRM"),
+                               in("LONE.ZRM")};
   TakeNames(pupils, "\"berg, anna\",Anna\n5a/22,Ben\n5b/22,Carla\n33,Dan\nanna,Nobody\n");
   QStringList names;
   for (const Pupil& pupil : pupils) names.append(pupil.Name);

@@ -51,14 +51,15 @@ TEST_P(SessionMessage, IsGermanToo) {
   EXPECT_FALSE(German.Of(message).contains(english)) << German.Of(message).toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lines, SessionMessage,
-    testing::Values("@frobnicate", "\xE2\x82\xAC", "\xC3(", "@enter 5", "@enter 0 1", "@type", "@text Text1(0) A",
-                    "@text Text9 A", "@key Text1(0) F13", "@key Text1(0)", "@click", "@mouse up Picture1 0 0", "@mouse",
-                    "@mouse move Picture1 0", "@mouse move Picture1 x 0", "@mouse down Picture1 0 0 both",
-                    "@scroll Text3 5", "@scroll HScroll1(0) 256", "@select List3 X", "@select List4 X", "@tick",
-                    "@tick Timer5", "@tick Timer3 0", "@answer", "@answer help A", "@answer box Cancel", "@answer box",
-                    "@answer box Yes\nMESSAGE \"A\"", "@trace", "@trace on", "@dump", "@dump everything", "@picture"));
+INSTANTIATE_TEST_SUITE_P(Lines, SessionMessage,
+                         testing::Values("@frobnicate", "\xE2\x82\xAC", "\xC3(", "@enter 5", "@enter 0 1", "@type",
+                                         "@text Text1(0) A", "@text Text9 A", "@key Text1(0) F13", "@key Text1(0)",
+                                         "@click", "@mouse up Picture1 0 0", "@mouse", "@mouse move Picture1 0",
+                                         "@mouse move Picture1 x 0", "@mouse down Picture1 0 0 both", "@scroll Text3 5",
+                                         "@scroll HScroll1(0) 256", "@select List3 X", "@select List4 X", "@tick",
+                                         "@tick Timer5", "@tick Timer3 0", "@answer", "@answer help A",
+                                         "@answer box Cancel", "@answer box", "@answer box Yes\nMESSAGE \"A\"",
+                                         "@trace", "@trace on", "@dump", "@dump everything", "@picture"));
 
 TEST(Language, WhatHasNoWordsStaysAsItIs) {
   EXPECT_EQ(German.Of(QString("another note")), "another note");

@@ -219,7 +219,8 @@ TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
                     {"", GoalWay::Texts, true, 100, 1, {}}};
   const QString page = PageWith({run});
   EXPECT_FALSE(page.contains("nothing suspicious"));
-  EXPECT_TRUE(page.contains("Goals met: 1 of 2.<br>STAR 50: It is the goal, but turned by 90 degrees to the right.</td>"));
+  EXPECT_TRUE(
+      page.contains("Goals met: 1 of 2.<br>STAR 50: It is the goal, but turned by 90 degrees to the right.</td>"));
 }
 
 TEST(ReportPage, SaysThatItIsPartial) {

@@ -10,6 +10,9 @@ namespace zerimo::classroom {
 
 namespace {
 
+/// Sides that differ by a smaller fraction count as equal.
+constexpr double SameShape = 0.05;
+
 constexpr QRgb Nothing = qRgb(255, 255, 255);
 constexpr QRgb InBoth = qRgb(170, 170, 170);
 constexpr QRgb OnlyInGoal = qRgb(0, 90, 200);
@@ -119,9 +122,9 @@ QImage Stretched(const QImage& black, QSize size) {
 /// How much larger the picture is than the goal; nothing if their sides differ in shape.
 std::optional<double> ScaleBetween(QSize goal, QSize picture, int near) {
   const double scale = static_cast<double>(picture.width() + picture.height()) / (goal.width() + goal.height());
-  const double off = std::max(std::abs(goal.width() * scale - picture.width()),
-                              std::abs(goal.height() * scale - picture.height()));
-  if (off > 2 * near) return std::nullopt;
+  const double off =
+      std::max(std::abs(goal.width() * scale - picture.width()), std::abs(goal.height() * scale - picture.height()));
+  if (off > std::max(1.0, std::min(2.0 * near, SameShape * (picture.width() + picture.height())))) return std::nullopt;
   return std::abs(scale - 1) * std::max(goal.width(), goal.height()) <= 2 * near ? 1 : scale;
 }
 
@@ -146,7 +149,9 @@ std::optional<Placement> PlacementOfPicture(const QImage& goal, const QImage& pi
       const std::optional<double> scale = ScaleBetween(turned.size(), to.size(), near);
       if (!scale) continue;
       const Drawn moved(Stretched(turned, to.size()), Nothing);
-      if (Compare(moved, target, to.size(), near, false).Percent < enough) continue;
+      // Lines may be as much thicker as the drawing is larger.
+      const int thickness = static_cast<int>(std::ceil(near * std::max(1.0, *scale)));
+      if (Compare(moved, target, to.size(), thickness, false).Percent < enough) continue;
       Placement placement{static_cast<double>(degrees), mirrored, *scale, {}};
       const QPoint shift = to.center() - from.center();
       if (degrees == 0 && !mirrored && *scale == 1)

@@ -98,9 +98,8 @@ class Mover {
 bool HasAll(const std::vector<Figure>& figures, const std::vector<Figure>& others, double tolerance) {
   return std::ranges::all_of(figures, [&](const Figure& one) {
     return std::ranges::any_of(others, [&](const Figure& other) {
-      return IsNear(one.Centre, other.Centre, tolerance) &&
-             std::abs(one.Across - other.Across) <= tolerance && std::abs(one.Down - other.Down) <= tolerance &&
-             one.Text == other.Text;
+      return IsNear(one.Centre, other.Centre, tolerance) && std::abs(one.Across - other.Across) <= tolerance &&
+             std::abs(one.Down - other.Down) <= tolerance && one.Text == other.Text;
     });
   });
 }
