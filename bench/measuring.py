@@ -3,6 +3,7 @@ import os
 import resource
 import shutil
 import subprocess
+import sys
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 BATCH = os.path.join(ROOT, "build/release/zerimo/zerimo-batch")
@@ -27,6 +28,51 @@ def cpu_seconds(command, folder, **options):
                    **{"stdout": subprocess.DEVNULL, **options})
     after = resource.getrusage(resource.RUSAGE_CHILDREN)
     return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+
+
+def most_megabytes(command, folder):
+    """The most memory that a program has occupied."""
+    code = ("import resource, subprocess, sys; subprocess.run(sys.argv[1:], stdout=subprocess.DEVNULL, check=True); "
+            "print(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss / 1024)")
+    told = subprocess.check_output([sys.executable, "-c", code, *command], cwd=folder, text=True)
+    return float(told)
+
+
+LOOP = "REPEAT {rounds} [REPEAT 1000 [MAKE \"N :N+1]]"
+
+
+def letters(number):
+    """A name for a number: digits would end it."""
+    return "".join(chr(ord("A") + int(digit)) for digit in str(number))
+
+
+def long_program(lines):
+    return "TO REST\n" + "FD 1\n" * (lines - 2) + "END\n", LOOP
+
+
+def many_variables(slots):
+    return "", "\n".join(f'MAKE "V{letters(slot)} {slot}' for slot in range(slots)) + "\n" + LOOP
+
+
+def line_times(folder, cases, rounds):
+    """The nanoseconds of a round, for each pair of a maker of program and session, and a size. Measured over thousands
+    of rounds, less a single thousand; quickest of three, all in turn."""
+    def seconds(make, size, count):
+        program, session = make(size)
+        with open(os.path.join(folder, "WORK.ZRM"), "w", newline="") as file:
+            file.write(program.replace("\n", "\r\n"))
+        with open(os.path.join(folder, "session"), "w") as file:
+            file.write(("LOAD WORK\n" if program else "") + session.replace("{rounds}", str(count)) + "\n")
+        return cpu_seconds(batch_command(folder) + ["session"], folder)
+
+    best = {}
+    for _ in range(3):
+        for make, size in cases:
+            for count in (1, rounds):
+                key = make, size, count
+                took = seconds(*key)
+                best[key] = min(best.get(key, took), took)
+    return [(best[make, size, rounds] - best[make, size, 1]) / ((rounds - 1) * 1000) * 1e9 for make, size in cases]
 
 
 class Display:

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <chrono>
+#include <functional>
 #include <iostream>
 #include <string>
 
@@ -31,35 +32,53 @@ class PaintCount : public QObject {
 
 double SecondsOf(const QElapsedTimer& clock) { return static_cast<double>(clock.nsecsElapsed()) * 1e-9; }
 
-/// Runs a line in a window that fills the screen, and prints the pictures of the surface and the seconds of the clock.
-void RunInWindow(const std::string& line) {
+/// Enters a line on the row that has the focus, as the learner does.
+void Enter(QWidget& window, const QString& line) {
+  auto& row = static_cast<QLineEdit&>(*window.focusWidget());
+  row.setText(line);
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QApplication::sendEvent(&row, &enter);
+}
+
+/// Calls `work` in a window that fills the screen, as soon as the first row has the focus, and ends the program.
+void InWindow(bool withExtensions, const std::function<void(Session& session, const PaintCount& pictures)>& work) {
   const QTemporaryDir folder;
   const std::string path = folder.path().toStdString();
   Session session(QApplication::primaryScreen()->availableGeometry(), Folders(path, Disk(path)));
+  if (withExtensions) AddExtensions(session, path);
   session.Start();
-  PaintCount pictures(session.Shown().WidgetOf(session.form1.Picture1));
-  QElapsedTimer clock;
-  session.WhenStarted([&](Form1& form1) {
-    std::string typed = line;
-    clock.start();
-    form1.interpreter.typedLines.ComplexExecutor(typed);
-    std::cout << pictures.Paintings << ' ' << SecondsOf(clock) << '\n';
+  const PaintCount pictures(session.window.WidgetOf(session.form1.Picture1));
+  const auto begin = [&] {
+    work(session, pictures);
     QApplication::quit();
-  });
+  };
+  session.WhenStarted([&](Form1&) { QTimer::singleShot(0, qApp, begin); });
   QApplication::exec();
 }
 
-/// Enters a line on the row that has the focus, and returns the seconds until the display shows what it has drawn.
+/// Runs a line, and prints the pictures of the surface and the seconds of the clock.
+void RunInWindow(const QString& line) {
+  InWindow(false, [&](Session& session, const PaintCount& pictures) {
+    const int before = pictures.Paintings;
+    QElapsedTimer clock;
+    clock.start();
+    Enter(session.window, line);
+    std::cout << pictures.Paintings - before << ' ' << SecondsOf(clock) << '\n';
+  });
+}
+
+/// Returns the seconds from Enter until the display shows what a line has drawn.
 double SecondsToPicture(QWidget& window, const PaintCount& pictures, const QString& line) {
-  auto& row = static_cast<QLineEdit&>(*window.focusWidget());
-  row.setText(line);
   QGuiApplication::sync();
   const int before = pictures.Paintings;
   QElapsedTimer clock;
   clock.start();
-  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-  QApplication::sendEvent(&row, &enter);
-  while (pictures.Paintings == before) QApplication::processEvents();
+  Enter(window, line);
+  while (pictures.Paintings == before) {
+    QApplication::processEvents();
+    // This runs in a posted event, where the desktop's turn leaves requests to paint waiting.
+    QApplication::sendPostedEvents();
+  }
   QGuiApplication::sync();
   return SecondsOf(clock);
 }
@@ -67,21 +86,12 @@ double SecondsToPicture(QWidget& window, const PaintCount& pictures, const QStri
 /// Starts the window with all that it has, and enters a line some times. Prints when the first row had the focus, in
 /// seconds of the clock that all processes share, and the seconds that each line took.
 void AnswerInWindow(const QString& line, int rounds) {
-  const QTemporaryDir folder;
-  const std::string path = folder.path().toStdString();
-  Session session(QApplication::primaryScreen()->availableGeometry(), Folders(path, Disk(path)));
-  AddExtensions(session, path);
-  session.Start();
-  const PaintCount pictures(session.Shown().WidgetOf(session.form1.Picture1));
-  const auto answer = [&] {
+  InWindow(true, [&](Session& session, const PaintCount& pictures) {
     QGuiApplication::sync();
     std::cout.precision(12);
     std::cout << std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count() << '\n';
-    for (int i = 0; i < rounds; ++i) std::cout << SecondsToPicture(session.Shown(), pictures, line) << '\n';
-    QApplication::quit();
-  };
-  session.WhenStarted([&](Form1&) { QTimer::singleShot(0, qApp, answer); });
-  QApplication::exec();
+    for (int i = 0; i < rounds; ++i) std::cout << SecondsToPicture(session.window, pictures, line) << '\n';
+  });
 }
 
 }  // namespace
@@ -91,7 +101,7 @@ void AnswerInWindow(const QString& line, int rounds) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   if (argc == 2) {
-    zerimo::RunInWindow(argv[1]);
+    zerimo::RunInWindow(QString::fromLocal8Bit(argv[1]));
   } else if (argc == 3) {
     zerimo::AnswerInWindow(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]).toInt());
   } else {
