@@ -104,14 +104,12 @@ StopPlace SessionRun::PlaceOfLine(int line, const Play& play) {
 
 StopPlace SessionRun::WhereItStands(int line, const Play& play) {
   StopPlace place = PlaceOfLine(line, play);
-  if (form1.interpreter.controlPath.CtrlStr() == ".") return place;
+  storeLine_ = form1.interpreter.runner.LineNow();
+  if (storeLine_ == 0) return place;
   SkipOnFailure([&] { place.Procedure = FromLatin1(form1.interpreter.controlPath.CurrentProcedureName()); });
   // A typed line runs as a procedure whose name begins with #.
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
-  SkipOnFailure([&] {
-    storeLine_ = EndValExtractor(form1.interpreter.controlPath.CtrlStr());
-    place.Statement = StatementOf(form1.interpreter.store.Line(storeLine_));
-  });
+  SkipOnFailure([&] { place.Statement = StatementOf(form1.interpreter.store.Line(storeLine_)); });
   return place;
 }
 

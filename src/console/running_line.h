@@ -6,13 +6,13 @@
 
 namespace zerimo {
 
-/// Finds which line of the store runs next.
+/// The line of the store that runs next, in words.
 class RunningLine {
  public:
   explicit RunningLine(const Interpreter& interpreter) : interpreter_(interpreter) {}
 
   /// Must be called before each step of a walk.
-  void Step();
+  void Step() noexcept { number_ = interpreter_.runner.LineNow(); }
   /// Must be called when the walk is over.
   void Clear() noexcept { number_ = 0; }
 

@@ -66,6 +66,7 @@ void Runner::Run1(std::string_view procedure) {
   try {
     // A walk past the end of the store has nothing left to run.
     while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
+      lineNow_ = walk.Line;
       context_.watch.Step();
       SkipOnFailure([&] { walk.Class = context_.store.ClassOf(walk.Line); });
       Act(walk);
@@ -76,6 +77,7 @@ void Runner::Run1(std::string_view procedure) {
     }
     context_.controlPath.SetCtrlStr(".");
   }
+  lineNow_ = 0;
 }
 
 void Runner::Act(Walk& walk) {

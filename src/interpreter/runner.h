@@ -21,6 +21,10 @@ class Runner {
   /// Runs a procedure, named without `TO`; an unknown name ends silently.
   void Run1(std::string_view procedure);
 
+  /// The line of the store that runs or runs next, from 1; 0 if nothing runs. The last number of the control string can
+  /// be another one: after an ENDIF it is one ahead. It stays where a failure ended the walk.
+  int LineNow() const noexcept { return lineNow_; }
+
  private:
   /// The locals of one walk. They keep their values from line to line, so that the old value remains after a failed
   /// statement.
@@ -47,6 +51,7 @@ class Runner {
   Dispatch& dispatch_;
   Inputs& inputs_;
   Conditionals& conditionals_;
+  int lineNow_ = 0;
 };
 
 }  // namespace zerimo

@@ -80,6 +80,13 @@ std::int16_t Store::WhereProcedure(std::string_view procedure) const {
   return FindOrMake(known, procedure, [&] { return FindProcedure(procedure); });
 }
 
+int Store::HeaderOf(int number) const {
+  while (ClassOf(number) != StmtTo) {
+    if (--number == 0) return 0;
+  }
+  return number;
+}
+
 std::int16_t Store::FindProcedure(std::string_view procedure) const {
   const std::string marked = "#TO " + std::string(procedure);
   const std::string_view pattern = std::string_view(marked).substr(1);

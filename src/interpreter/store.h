@@ -64,6 +64,9 @@ class Store {
   /// The number of the procedure's `TO` line, or 0.
   std::int16_t WhereProcedure(std::string_view procedure) const;
 
+  /// The number of the `TO` line at or above a line, or 0. Fails like `Line`.
+  int HeaderOf(int number) const;
+
   /// How many lines of the procedure up to line `FileDataCount` are exactly `command`. Nothing calls it. Fails
   /// (subscript) if `FileDataCount` is over 1000, and for an unknown procedure.
   std::int16_t HowMany(std::string_view procedure, std::string_view command) const;

@@ -142,7 +142,8 @@ void Variables::CreateGlobalVariable() {
   std::string name;
   StatementClass kind{};
   for (int number = 1; kind != StmtTo; ++number) {
-    // With no MAKE so far, an empty line leaves nothing to evaluate; with no header at all, all lines are passed.
+    // With no MAKE so far, an empty line leaves nothing to evaluate. With no header at all, the walk goes past the last
+    // line and fails.
     if (value.empty() && context_.store.Line(number).empty()) continue;
     kind = context_.store.ClassOf(number);
     if (kind == StmtMake) {
@@ -209,9 +210,7 @@ const Variables::MakeSlots* Variables::SlotsOf(int lineNumber, const LineForm& m
 }
 
 std::string Variables::EnclosingProcedure(int lineNumber) const {
-  int header = lineNumber;
-  while (context_.store.ClassOf(header) != StmtTo) --header;
-  const std::string_view name = From(context_.store.Line(header), 4);
+  const std::string_view name = From(context_.store.Line(context_.store.HeaderOf(lineNumber)), 4);
   return std::string(name.substr(0, name.find(' ')));
 }
 

@@ -12,7 +12,7 @@ bool PagePace::Step() {
     End();
     return false;
   }
-  line_.Step();
+  runningLine_.Step();
   show_();
   Tell();
   HoldLine(pause);
@@ -21,14 +21,16 @@ bool PagePace::Step() {
 }
 
 void PagePace::End() {
-  if (line_.Number() == 0) return;
-  line_.Clear();
+  if (runningLine_.Number() == 0) return;
+  runningLine_.Clear();
   Tell();
 }
 
 void PagePace::Tell() {
-  TellPage("[" + batch::JsonLine("line").Text("words", line_.Words()).Number("number", line_.Number()).Finished() +
-           "]");
+  TellPage(
+      "[" +
+      batch::JsonLine("line").Text("words", runningLine_.Words()).Number("number", runningLine_.Number()).Finished() +
+      "]");
 }
 
 }  // namespace zerimo::web

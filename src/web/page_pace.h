@@ -11,7 +11,8 @@ namespace zerimo::web {
 class PagePace {
  public:
   /// `show` brings the page up to date.
-  PagePace(const Interpreter& interpreter, std::function<void()> show) : line_(interpreter), show_(std::move(show)) {}
+  PagePace(const Interpreter& interpreter, std::function<void()> show)
+      : runningLine_(interpreter), show_(std::move(show)) {}
 
   /// Shows the line that runs next and holds it. At full speed it does nothing and says no. Leaves the run with
   /// `StopRun` if the user stops the program.
@@ -23,7 +24,7 @@ class PagePace {
  private:
   void Tell();
 
-  RunningLine line_;
+  RunningLine runningLine_;
   std::function<void()> show_;
 };
 

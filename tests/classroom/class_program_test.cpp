@@ -264,6 +264,14 @@ TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {
   EXPECT_EQ(at, at.trimmed());
 }
 
+TEST_F(ClassProgramTest, NamesTheLineThatRunsAfterAnEndIf) {
+  Write("LOOP.ZRM", "TO LOOP|LABEL X|IF 1=1|REFRESH|ENDIF|WAIT 900|REFRESH|GOTO X|END|");
+  Run("--steps 6");
+  const QJsonObject place = Pupil("LOOP.ZRM").value("place").toObject();
+  EXPECT_EQ(place.value("programLine").toInt(), 6);
+  EXPECT_EQ(place.value("statement").toString(), "WAIT 900");
+}
+
 TEST_F(ClassProgramTest, ComparesWithATask) {
   fs::create_directory(Program.Folder() / "task");
   Program.Write("task/GOAL.ZRM", "TO GOAL :S\r\nCS\r\nREPEAT 4 [FD :S RT 90]\r\nPRINT 5\r\nEND\r\n");

@@ -53,7 +53,7 @@ TEST_F(RunningLineTest, KnowsNoLineBeforeAndAfterAWalk) {
   std::string typed = "BOX";
   interpreter.typedLines.ComplexExecutor(typed);
   EXPECT_GT(line.Number(), 0);
-  line.Clear();
+  line.Step();
   EXPECT_EQ(line.Number(), 0);
   EXPECT_EQ(line.Words(), "");
 }

@@ -53,6 +53,19 @@ TEST_F(RunnerTest, AnUnknownNameLeavesThePath) {
   EXPECT_EQ(controls.Label19.Caption, ".OLD- 3");
 }
 
+TEST_F(RunnerTest, KnowsTheLineWhereThePathIsOneAhead) {
+  Fill({"TO A", "IF 1=1", "ENDIF", "LABEL X", "GOTO X", "END"});
+  RunFor(3, "A");
+  EXPECT_EQ(runner.LineNow(), 4);
+  EXPECT_EQ(controlPath.CtrlStr(), ".A- 5");
+}
+
+TEST_F(RunnerTest, KnowsNoLineAfterAWalk) {
+  Fill({"TO A", "RT 90", "END"});
+  runner.Run1("A");
+  EXPECT_EQ(runner.LineNow(), 0);
+}
+
 TEST_F(RunnerTest, ThePathFollowsTheWalk) {
   Fill({"TO BOX :S", "FD :S", "END", "TO #TEMP$7", "BOX 10", "RT 90", "END"});
   runner.Run1("#TEMP$7");

@@ -12,12 +12,12 @@ namespace zerimo {
 
 EditorAids::EditorAids(Session& session)
     : session_(session),
-      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.form1.controls.Text2))),
+      editor_(static_cast<EditorArea&>(session.window.WidgetOf(session.form1.controls.Text2))),
       marks_(*new EditorMarks(editor_)),
       bar_(*new FindBar(editor_)) {
   new LineNumbers(editor_);
   auto* colours = new ProgramColours(*editor_.document());
-  // Their first look at the text counts as a change of it, and must not come after a text has.
+  // Their first look at the text counts as a change of it: it must not come when a text is already there.
   QCoreApplication::sendPostedEvents(colours, QEvent::MetaCall);
   QPalette palette = editor_.palette();
   palette.setColor(QPalette::PlaceholderText, QColor(0xC8, 0xC8, 0xFF));
@@ -29,21 +29,18 @@ EditorAids::EditorAids(Session& session)
 
 bool EditorAids::PressKey(const QKeyEvent& press) {
   const bool isFind = press.key() == Qt::Key_F && press.modifiers() == Qt::ControlModifier;
-  if (!isFind || session_.Running().IsRunning() || !editor_.isVisible()) return false;
+  if (!isFind || session_.stage.IsRunning() || !editor_.isVisible()) return false;
   bar_.Open();
   return true;
 }
 
 void EditorAids::BoxOpens(QDialog&) {
   const Store& store = session_.form1.interpreter.store;
-  int line = 0;
-  SkipOnFailure([&] { line = EndValExtractor(session_.form1.interpreter.controlPath.CtrlStr()); });
-  if (line < 1 || line > Store::LineCount) return;
-  int head = line;
-  while (head > 1 && store.ClassOf(head) != StmtTo) --head;
+  const int line = session_.form1.interpreter.runner.LineNow();
+  if (line < 1) return;
   // While it runs, a line may have a blank at its end.
   const auto textOf = [&](int number) { return std::string(Trimmed(store.Line(number))); };
-  SkipOnFailure([&] { marks_.MarkStatement(textOf(head), textOf(line)); });
+  SkipOnFailure([&] { marks_.MarkStatement(textOf(store.HeaderOf(line)), textOf(line)); });
 }
 
 }  // namespace zerimo
