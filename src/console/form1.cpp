@@ -135,16 +135,17 @@ void Form1::InitialGraphicsScreen() {
   controls.Picture3.Width = controls.Form1.Width;
   controls.Picture3.Top = controls.Form1.Height() - controls.Picture3.Height() - BottomStrip;
   for (int row = 0; row < controls.Text1.Size; ++row) {
-    controls.Text1[row].Width = controls.Picture3.Width;
+    controls.Text1[row].Width = controls.Picture3.Width;  // Never fails: there is such a row.
     SkipOnFailure([&] { controls.Text1[row].BackColor = RGB(0, 0, ToInt16(200 + 15 * row)); });
     SkipOnFailure([&] { controls.Text1[row].ForeColor = RGB(255, 0, 0); });
   }
   SkipOnFailure([&] { controls.Prompt.BackColor = RGB(0, 0, 200); });
-  controls.Label20[0].Top = 0;
+  controls.Label20[0].Top = 0;  // Never fails, as below: there is such a caption.
   for (int index = 1; index < controls.Label20.Size; ++index) {
-    const Label& above = controls.Label20[index - 1];
-    controls.Label20[index].Left = 0;
-    controls.Label20[index].Top = above.Top + above.Height();
+    const Label& above = controls.Label20[index - 1];  // Never fails.
+    Label& caption = controls.Label20[index];          // Never fails.
+    caption.Left = 0;
+    caption.Top = above.Top + above.Height();
   }
 }
 

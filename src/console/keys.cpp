@@ -43,6 +43,7 @@ void Keys::Text1KeyDown(int index, int keyCode) {
 
 void Keys::EnterLine(int index) {
   const int lastRow = context_.controls.Text1.Size - 1;
+  // Never fails: the index is that of the row that has the key.
   std::string typed = UpperCase(Trimmed(context_.controls.Text1[index].Text));
   std::string line;
   SkipOnFailure([&] { line = SpaceFilter(typed); });
@@ -59,8 +60,9 @@ void Keys::EnterLine(int index) {
 
 void Keys::ScrollRows() {
   const int lastRow = context_.controls.Text1.Size - 1;
+  // Never fails: there are such rows.
   for (int row = 0; row < lastRow; ++row) context_.controls.Text1[row].Text = context_.controls.Text1[row + 1].Text;
-  context_.controls.Text1[lastRow].Text.clear();
+  context_.controls.Text1[lastRow].Text.clear();  // Never fails.
   // To the box for the line width, not to the row. Unless the diagnosis panel is open, that is refused and ignored.
   SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text4); });
 }

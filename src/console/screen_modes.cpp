@@ -35,7 +35,7 @@ void ScreenModes::SplitScreen() {
   context_.controls.Picture3.Show();
   // The loop runs to the end, so that the focus ends on the topmost empty row.
   for (int row = context_.controls.Text1.Size - 1; row >= 0; --row) {
-    if (!Trimmed(context_.controls.Text1[row].Text).empty()) continue;
+    if (!Trimmed(context_.controls.Text1[row].Text).empty()) continue;  // Never fails: there is such a row.
     SkipOnFailure([&] { context_.controls.Focus.SetFocus(context_.controls.Text1[row]); });
   }
   context_.controls.Text2.Hide();
@@ -62,6 +62,7 @@ void ScreenModes::DefinedStatement() {
 
 void ScreenModes::ClearText() {
   context_.controls.List4.Clear();
+  // Never fails: there are such rows.
   for (int row = 0; row < context_.controls.Text1.Size; ++row) context_.controls.Text1[row].Text.clear();
   context_.controls.Timer2.Enabled = true;
 }

@@ -48,6 +48,7 @@ std::optional<fs::path> Saving::RescueEditorText(const std::vector<fs::path>& ot
   if (text.empty()) return std::nullopt;
   const Folders& folders = context_.folders;
   const std::string name = folders.AppFolder + "\\" + RescuedName;
+  // Never fails: the name has just been used.
   if (SkipOnFailure([&] { folders.WriteFile(name, text); })) return folders.ToRead(name);
   for (const fs::path& folder : others) {
     std::error_code error;

@@ -82,6 +82,7 @@ void Colours::TextBackground(PrimitiveCall& call) {
 
 void Colours::SelectSquare(double number) {
   Controls& controls = context_.controls;
+  // Leaves the failure to those who call it.
   const auto square = [&]() -> const Label& { return controls.Label13[ToInt16(number)]; };
   for (Shape* frame : {&controls.Shape5, &controls.Shape7}) {
     SkipOnFailure([&] { frame->Left = square().Left; });

@@ -213,6 +213,7 @@ void Motion::ClearScreen() {
   Controls& controls = context_.controls;
   Turtle& turtle = context_.turtle;
   controls.Image1.Hide();
+  // Never fails: there are such captions.
   for (int index = 0; index < controls.Label20.Size; ++index) controls.Label20[index].Hide();
   turtle.TurtleDir = 0;
   turtle.TurtleX = controls.Form1.Width / 2.0;

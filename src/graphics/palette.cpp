@@ -43,6 +43,7 @@ void Palette::Picture1Click() {
   controls.Form1.Left = 0;
   controls.Form1.Top = 0;
   int row = 0;
+  // Never fails: there is such a row.
   while (row < controls.Text1.Size - 1 && !Trimmed(controls.Text1[row].Text).empty()) ++row;
   // In full screen the rows are hidden and the focus is refused: the system goes on.
   SkipOnFailure([&] { controls.Focus.SetFocus(controls.Text1[row]); });
