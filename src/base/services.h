@@ -17,7 +17,7 @@ inline constexpr int Critical = 16;
 inline constexpr int Information = 64;
 }  // namespace box
 
-/// What the system asks of the desktop. Two shells provide it: the window and the batch runner.
+/// What the system asks of the desktop. Three shells provide it: the window, the batch runner and the page.
 class Services {
  public:
   virtual ~Services() = default;

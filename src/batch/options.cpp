@@ -230,10 +230,4 @@ std::string CommandLine::HelpText() const {
          end_;
 }
 
-Options ParseOptions(const std::vector<std::string>& arguments) {
-  Options options;
-  CommandLine(options).Parse(arguments);
-  return options;
-}
-
 }  // namespace zerimo::batch

@@ -90,7 +90,4 @@ class CommandLine {
   std::string end_;
 };
 
-/// The options of a session alone. Fails with `UsageError`.
-Options ParseOptions(const std::vector<std::string>& arguments);
-
 }  // namespace zerimo::batch

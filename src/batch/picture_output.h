@@ -19,7 +19,7 @@ class PictureOutput : public SessionPictures {
 
   ImageCanvas& Pixels() override { return canvas_; }
 
-  /// Each costs memory.
+  /// From now on each operation costs memory.
   void KeepOperations(Surface& surface) override { surface.AddRecorder(operations_); }
 
   void Write(const Surface& surface, const std::filesystem::path& file) const override;

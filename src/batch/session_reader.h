@@ -8,7 +8,7 @@
 namespace zerimo::batch {
 
 /// Reads a whole session: UTF-8, one action a line, line ends LF or CRLF, a byte order mark at the start allowed.
-/// Controls and timers are looked up in the form1. Fails with `SessionError` at the first line that is wrong.
+/// Controls and timers are looked up in `form1`. Fails with `SessionError` at the first line that is wrong.
 Script ReadSession(std::string_view utf8, Form1& form1);
 
 }  // namespace zerimo::batch

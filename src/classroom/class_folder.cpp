@@ -81,7 +81,7 @@ class Walk {
       // A link to a folder of the class would show its programs twice.
       if (isLink && root_.MayRead(place)) continue;
       if (isLink && !followsLinks_) {
-        // What is not followed is one that could not be run.
+        // A link that is not followed is listed as a program that could not be run.
         pupils.push_back({place, {}});
         continue;
       }

@@ -112,7 +112,7 @@ struct Language {
 
   std::array<const char*, static_cast<std::size_t>(Mistake::Count)> Mistakes;
 
-  /// What the runs themselves say, and what that is in this language.
+  /// The notes and messages of runs, with their translations.
   std::span<const Sentence> Sentences;
 
   QString Of(const Finding& finding) const;

@@ -140,7 +140,7 @@ class Merge {
   std::optional<FileToSave> marks_;
   std::vector<IndexEntry> entries_;
   AlikeSearch alike_;
-  /// Of all runs, in their order.
+  /// Where each run is found, in the order of the runs.
   std::vector<Place> places_;
   /// How many programs the parts are to have.
   std::size_t wanted_ = 0;

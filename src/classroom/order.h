@@ -16,7 +16,7 @@ namespace run_file {
 inline constexpr const char* Order = "order.json";
 inline constexpr const char* Outcome = "outcome.json";
 inline constexpr const char* Transcript = "transcript.jsonl";
-/// Of the goal that is being tried.
+/// The transcript of the goal that is being tried.
 inline constexpr const char* GoalTranscript = "goal.jsonl";
 inline constexpr const char* Picture = "picture.png";
 /// Exists if memory was refused.

@@ -32,7 +32,7 @@ constexpr rlim_t LargestFileWritten = rlim_t{256} << 20;
 #endif
 
 #if defined(__unix__) || defined(__APPLE__)
-/// Leaves a note that memory was refused, should the process not live to tell. It asks for none itself.
+/// Leaves a note that memory was refused, should the process not live to tell. Takes no memory itself.
 void NoteMemory() {
   const int note = ::open(run_file::OutOfMemory, O_WRONLY | O_CREAT | O_TRUNC, 0600);
   if (note >= 0) {

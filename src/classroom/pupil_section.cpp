@@ -81,7 +81,7 @@ class SectionWriter {
   }
 
   void WriteGoal(const GoalOutcome& goal, std::size_t index) {
-    // 100 per cent are only those that have everything.
+    // Rounded down: only a complete drawing has 100 per cent.
     const QString percent = QString::number(std::floor(goal.Percent)) + QStringLiteral(" %");
     html_ += Paragraph(Element("strong", "", EscapedReadable(TitleOf(goal, language_))) + QStringLiteral(": ") +
                        Element("span", goal.Met ? "good" : "bad", Utf8(goal.Met ? language_.Met : language_.NotMet)) +

@@ -110,7 +110,7 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
     Json one = {{"title", ValueOf(goal.Title)},
                 {"way", WayWords[static_cast<std::size_t>(goal.Way)]},
                 {"met", goal.Met},
-                // 100 per cent are only those that have everything.
+                // Rounded down: only a complete drawing has 100 per cent.
                 {"percent", std::floor(goal.Percent * 10) / 10},
                 {"points", goal.Points}};
     if (goal.Placed)

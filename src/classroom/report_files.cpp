@@ -41,7 +41,7 @@ void KeepRecords(const ClassOptions& options) {
                             ": the file is there already; go on with --resume, or give another name");
 }
 
-/// A name for a file from that of a pupil, which may hold anything.
+/// Makes a file name from a pupil's name, which may hold any character.
 std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   QString name = PupilName(run.Who);
   if (name.endsWith(".zrm", Qt::CaseInsensitive)) name.chop(4);

@@ -9,7 +9,7 @@ namespace zerimo::classroom {
 
 /// What a run shows and the program's text does not: nothing drawn, a picture that nobody sees, an endless loop.
 /// `programLine` is where it was stopped, or 0; `hasBegun` tells whether anything of the program was called. What
-/// `findings` has already is not told again.
+/// `findings` already holds is not told again.
 void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings);
 
 }  // namespace zerimo::classroom

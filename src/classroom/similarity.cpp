@@ -54,7 +54,7 @@ std::size_t CountShared(std::span<const quint32> one, std::span<const quint32> o
   return shared;
 }
 
-/// Which of many programs have a rare line, or all lines, in common.
+/// Finds programs that have a rare line, or all their lines, in common.
 class RareLines {
  public:
   void Add(std::size_t program, std::span<const quint32> prints) {
@@ -68,7 +68,7 @@ class RareLines {
     std::ranges::sort(wholes_);
   }
 
-  /// The later programs with which one has to be compared. `Close` comes before.
+  /// The later programs that a program has to be compared with. Call `Close` first.
   std::vector<std::size_t> Partners(std::size_t program, std::span<const quint32> prints) const {
     const auto number = static_cast<quint32>(program);
     std::vector<std::size_t> partners;

@@ -34,8 +34,7 @@ constexpr std::array<ControlWords, 33> WordsOfControls = {{
     {"Command1", "Close the diagnosis panel", "", "Close (Esc on a command row)"},
     {"Command2", "Refresh", "Forgets all variables. Do not press it: the next number makes Zerimo search for ever.",
      "Forgets all variables; Resolution and Line Width stay as they are set. Do not press it: the next number makes "
-     "Zerimo "
-     "search for ever (Ctrl+Break stops)"},
+     "Zerimo search for ever (Ctrl+Break stops)"},
     {"Check1", "Co-ordinates", "Shows or hides the axes.", "Shows or hides the axes"},
     {"HScroll1", "Back Color, part %1 of red, green, blue", "Clears the drawing.",
      "Red, green and blue of the background; clears the drawing"},

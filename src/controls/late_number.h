@@ -15,9 +15,10 @@ class LateNumber {
  public:
   LateNumber() = default;
   // A number is meant wherever one of these stands.
-  LateNumber(float number) : number_(number) {}  // NOLINT(google-explicit-constructor)
+  LateNumber(float number) : number_(number) {}
   LateNumber(const LateNumber& other) : number_(other) {}
   ~LateNumber() = default;
+  // Who puts it off stays the same, also in an assignment to itself. NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
   LateNumber& operator=(const LateNumber& other) { return *this = static_cast<float>(other); }
   LateNumber& operator=(float number) noexcept {
     number_ = number;
@@ -27,7 +28,7 @@ class LateNumber {
   /// From now on it may be put off by the one who is given, which must outlive every reader.
   void LeaveTo(PutOff& by) noexcept { by_ = &by; }
 
-  operator float() const {  // NOLINT(google-explicit-constructor)
+  operator float() const {
     if (by_ != nullptr) by_->CatchUp();
     return number_;
   }

@@ -17,8 +17,8 @@ class LateText {
 
   LateText() = default;
   // Implicit, so that plain text can be assigned and passed.
-  LateText(std::string text) : text_(std::move(text)) {}  // NOLINT(google-explicit-constructor)
-  LateText(const char* text) : text_(text) {}             // NOLINT(google-explicit-constructor)
+  LateText(std::string text) : text_(std::move(text)) {}
+  LateText(const char* text) : text_(text) {}
 
   /// The text is what the source gives, until another text is assigned or `Keep` is called.
   void Follow(Source source) noexcept { source_ = std::move(source); }
@@ -29,8 +29,8 @@ class LateText {
   }
 
   const std::string& Text() const { return source_ ? source_() : text_; }
-  operator const std::string&() const { return Text(); }  // NOLINT(google-explicit-constructor)
-  operator std::string_view() const { return Text(); }    // NOLINT(google-explicit-constructor)
+  operator const std::string&() const { return Text(); }
+  operator std::string_view() const { return Text(); }
   friend bool operator==(const LateText& one, const LateText& other) { return one.Text() == other.Text(); }
   template <typename Other>
   requires std::convertible_to<const Other&, std::string_view>

@@ -56,7 +56,7 @@ bool Repeats(const QEvent& event) {
 
 }  // namespace
 
-InputHold::InputHold(QWidget& mainWindow) : window_(mainWindow) { qApp->installEventFilter(this); }
+InputHold::InputHold(QWidget& window) : window_(window) { qApp->installEventFilter(this); }
 
 InputHold::~InputHold() { qApp->removeEventFilter(this); }
 

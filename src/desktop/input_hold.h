@@ -15,7 +15,7 @@ namespace zerimo {
 /// order. While a box is open, the box gets its input, and input for the window is dropped.
 class InputHold : public QObject {
  public:
-  explicit InputHold(QWidget& mainWindow);
+  explicit InputHold(QWidget& window);
   ~InputHold() override;
 
   void Begin() { holding_ = true; }

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <numbers>
 
+#include "console/control_words.h"
 #include "console/keys.h"
 #include "desktop/desktop_text.h"
 #include "desktop/text_views.h"
@@ -27,6 +28,23 @@ constexpr int FittingTimes[] = {0, 50, 150, 400, 1000};
 constexpr QSize SmallestWindow(320, 240);
 /// The colour where there is no control.
 constexpr QColor Ground(0, 0, 80);
+
+QString WordsAboutTurtle(const Turtle& turtle, const Control& form) {
+  const auto steps = [&](double units) {
+    return QString::number(turtle.Resolution == 0 ? 0 : units / turtle.Resolution, 'f', 1);
+  };
+  return QStringLiteral("Turtle %1 across, %2 up, heading %3 degrees.")
+      .arg(steps(turtle.TurtleX - static_cast<double>(form.Width) / 2),
+           steps(static_cast<double>(form.Height()) / 2 - turtle.TurtleY),
+           QString::number(turtle.TurtleDir * 180 / std::numbers::pi, 'f', 0));
+}
+
+QString WordsAboutList(const ListBox& list) {
+  const QString what = QLatin1String(FindControlWords(list.Name())->Description);
+  const std::vector<std::string>& entries = list.Items();
+  if (entries.empty()) return what + QStringLiteral(" Empty.");
+  return what + QStringLiteral(" Entries: %1. Last: %2").arg(entries.size()).arg(ToQString(entries.back()).trimmed());
+}
 
 /// Modifier keys do not call for the focus, nor do keys that move it themselves.
 bool CallsForFocus(const QKeyEvent& press) {
@@ -47,8 +65,8 @@ bool Writes(const QKeyEvent& press) {
 
 }  // namespace
 
-MainWindow::MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& availableArea)
-    : form1_(form1), events_(events), available_(availableArea), lastRow_(&form1.controls.Text1[0]) {
+MainWindow::MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& available)
+    : form1_(form1), events_(events), available_(available), lastRow_(&form1.controls.Text1[0]) {
   setWindowIcon(ProgramIcon());
   setMinimumSize(SmallestWindow);
   installEventFilter(this);
@@ -105,18 +123,17 @@ void MainWindow::SyncFocus() {
   if (row != nullptr && !walking_) row->selectAll();
 }
 
-void MainWindow::DescribeTurtle() {
-  const Turtle& turtle = form1_.turtle;
-  const Control& form = form1_.controls.Form1;
-  const auto steps = [&](double units) {
-    return QString::number(turtle.Resolution == 0 ? 0 : units / turtle.Resolution, 'f', 1);
+void MainWindow::Describe() {
+  // A screen reader is told of each description that is set, so that one that stays the same is not set again.
+  const auto describe = [this](const Control& control, const QString& words) {
+    QWidget& widget = WidgetOf(control);
+    if (widget.accessibleDescription() != words) widget.setAccessibleDescription(words);
   };
-  const QString words = QStringLiteral("Turtle %1 across, %2 up, heading %3 degrees.")
-                            .arg(steps(turtle.TurtleX - static_cast<double>(form.Width) / 2),
-                                 steps(static_cast<double>(form.Height()) / 2 - turtle.TurtleY),
-                                 QString::number(turtle.TurtleDir * 180 / std::numbers::pi, 'f', 0));
-  QWidget& surface = WidgetOf(form1_.Picture1);
-  if (surface.accessibleDescription() != words) surface.setAccessibleDescription(words);
+  Controls& controls = form1_.controls;
+  describe(form1_.Picture1, WordsAboutTurtle(form1_.turtle, controls.Form1));
+  for (const ListBox* list : {&controls.List1, &controls.List2, &controls.List3, &controls.List4}) {
+    if (list->IsOnScreen()) describe(*list, WordsAboutList(*list));
+  }
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

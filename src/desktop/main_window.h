@@ -14,8 +14,8 @@ namespace zerimo {
 /// The window: one widget for each control, showing what the control says.
 class MainWindow : public QWidget {
  public:
-  /// `availableArea` is the part of the screen that the desktop leaves free; the window with its frame fills it.
-  MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& availableArea);
+  /// `available` is the part of the screen that the desktop leaves free; the window with its frame fills it.
+  MainWindow(Form1& form1, ImageCanvas& canvas, Events& events, const QRect& available);
 
   /// Copies what has changed from the controls, and the focus, to the widgets.
   void Sync();
@@ -24,8 +24,8 @@ class MainWindow : public QWidget {
 
   Room RoomNow() const;
 
-  /// Tells a screen reader where the turtle is.
-  void DescribeTurtle();
+  /// Tells a screen reader where the turtle is, and what the lists on the screen hold.
+  void Describe();
 
   /// The view of a control, or null.
   ControlView* FindView(const Control& control) const;

@@ -21,38 +21,38 @@ ScreenSize UnitsOf(const QRect& area) {
 }  // namespace
 
 Session::Session(const QRect& available, const Folders& folders, std::vector<std::filesystem::path> rescuePlaces)
-    : stage_(extensions_),
-      services_(stage_, QString::fromStdU16String(folders.ToRead(folders.AppFolder).u16string())),
-      watch_(stage_),
-      form1(UnitsOf(available), folders, services_, watch_, canvas_),
-      window_(form1, canvas_, *this, available),
+    : stage(extensions_),
+      services(stage, QString::fromStdU16String(folders.ToRead(folders.AppFolder).u16string())),
+      watch(stage),
+      form1(UnitsOf(available), folders, services, watch, canvas),
+      window(form1, canvas, *this, available),
       timers_(
           form1.controls, [this](Timer& timer) { Deliver([&](Form1&) { form1.Tick(timer); }); },
-          [this] { return stage_.IsRunning(); }),
-      rescue_(form1, extensions_, stage_, std::move(rescuePlaces)) {
-  stage_.Open(window_, [this] { ShowState(); });
+          [this] { return stage.IsRunning(); }),
+      rescue_(form1, extensions_, stage, std::move(rescuePlaces)) {
+  stage.Open(window, [this] { ShowState(); });
 }
 
 void Session::Start() {
   Deliver([this](Form1&) { form1.Load(); });
   if (hasEnded_) return;
-  window_.show();
+  window.show();
   // Without a window manager, nothing else gives a new window the keyboard.
-  window_.activateWindow();
+  window.activateWindow();
 }
 
 void Session::Greet(const std::string& words, const std::filesystem::path& file) {
   if (words.empty() && file.empty()) return;
   WhenStarted([this, words, file](Form1&) {
-    if (!words.empty()) services_.MessageBox(words, box::Critical, ProgramName);
+    if (!words.empty()) services.MessageBox(words, box::Critical, ProgramName);
     if (!file.empty()) OpenFile(file);
   });
 }
 
 void Session::WhenStarted(const std::function<void(Form1& form1)>& event) {
   // The start ends with the tick that gives row 0 the focus.
-  if (!stage_.IsRunning() && !form1.controls.Timer2.Enabled) return Deliver(event);
-  QTimer::singleShot(1, &window_, [this, event] { WhenStarted(event); });
+  if (!stage.IsRunning() && !form1.controls.Timer2.Enabled) return Deliver(event);
+  QTimer::singleShot(1, &window, [this, event] { WhenStarted(event); });
 }
 
 void Session::OpenFile(const std::filesystem::path& file) {
@@ -60,23 +60,23 @@ void Session::OpenFile(const std::filesystem::path& file) {
   std::error_code error;
   // `LOAD` reports a missing program, but the system has no message for a missing picture.
   if (!ProgramFiles::IsProgramName(name) && !std::filesystem::exists(form1.folders.ToRead(name), error)) {
-    services_.MessageBox("There is no file " + name, box::Critical, ProgramName);
+    services.MessageBox("There is no file " + name, box::Critical, ProgramName);
     return;
   }
-  services_.OfferFile(name);
+  services.OfferFile(name);
   form1.interpreter.dispatch.Execute("SHOW OPEN");
 }
 
 void Session::Deliver(const std::function<void(Form1& form1)>& event) {
-  if (hasEnded_ || stage_.IsRunning()) return;
-  stage_.BeginRun();
-  watch_.Begin();
-  window_.Collect();
+  if (hasEnded_ || stage.IsRunning()) return;
+  stage.BeginRun();
+  watch.Begin();
+  window.Collect();
   Run(event);
-  stage_.EndRun();
+  stage.EndRun();
   if (hasEnded_) return;
   ShowState();
-  window_.DescribeTurtle();
+  window.Describe();
   timers_.FireDue();
 }
 
@@ -84,7 +84,7 @@ void Session::Run(const std::function<void(Form1& form1)>& event) {
   try {
     event(form1);
   } catch (const StopRun&) {
-    // Nothing of the handler is left to do.
+    // The handler ends here.
   } catch (const Ended& end) {
     const bool byClosing = end.By == "close";
     if (byClosing) rescue_.Keep({});
@@ -105,7 +105,7 @@ void Session::TellFailure(const char* words) {
   if (!rescued) return;
   if (!rescued->empty()) text += "\r\r" + *rescued;
   try {
-    services_.MessageBox(text, box::Critical, ProgramName);
+    services.MessageBox(text, box::Critical, ProgramName);
   } catch (const Ended&) {
     // Closing the window counts as an answer.
   } catch (const StopRun&) {
@@ -114,13 +114,13 @@ void Session::TellFailure(const char* words) {
 }
 
 void Session::ShowState() {
-  window_.Sync();
+  window.Sync();
   timers_.Sync();
 }
 
 bool Session::Close() {
-  if (stage_.IsRunning()) {
-    if (!extensions_.CloseDuringRun()) stage_.RequestClose();
+  if (stage.IsRunning()) {
+    if (!extensions_.CloseDuringRun()) stage.RequestClose();
     return hasEnded_;
   }
   // A text that no extension can keep is rescued as at the end of a run.
@@ -134,7 +134,7 @@ void Session::End(int status, SessionEnd end) {
   extensions_.ForEach([&](Extension& extension) { extension.SessionEnds(end); });
   hasEnded_ = true;
   exitStatus_ = status;
-  window_.hide();
+  window.hide();
   QCoreApplication::exit(status);
 }
 

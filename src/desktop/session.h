@@ -34,11 +34,6 @@ class Session : public Events {
 
   bool HasEnded() const { return hasEnded_; }
   int ExitStatus() const { return exitStatus_; }
-  MainWindow& Shown() { return window_; }
-  Stage& Running() { return stage_; }
-  FrameWatch& Watch() { return watch_; }
-  DesktopServices& Desktop() { return services_; }
-  const ImageCanvas& Canvas() const { return canvas_; }
 
   void Add(std::unique_ptr<Extension> extension) { extensions_.Add(std::move(extension)); }
 
@@ -55,17 +50,18 @@ class Session : public Events {
   void TellFailure(const char* words);
   void End(int status, SessionEnd end);
 
-  ImageCanvas canvas_;
   Extensions extensions_;
-  Stage stage_;
-  DesktopServices services_;
-  FrameWatch watch_;
 
  public:
+  // Lent to the extensions.
+  ImageCanvas canvas;
+  Stage stage;
+  DesktopServices services;
+  FrameWatch watch;
   Form1 form1;
+  MainWindow window;
 
  private:
-  MainWindow window_;
   DesktopTimers timers_;
   LastRescue rescue_;
   bool hasEnded_ = false;

@@ -11,9 +11,9 @@
 
 namespace zerimo {
 
-void Stage::Open(QWidget& mainWindow, std::function<void()> showState) {
-  window_ = &mainWindow;
-  hold_ = std::make_unique<InputHold>(mainWindow);
+void Stage::Open(QWidget& window, std::function<void()> showState) {
+  window_ = &window;
+  hold_ = std::make_unique<InputHold>(window);
   show_ = std::move(showState);
 }
 

@@ -15,7 +15,7 @@ class Stage {
   explicit Stage(const Extensions& extensions) : extensions_(extensions) {}
 
   /// Must be called once, before anything runs. `showState` copies the state to the widgets.
-  void Open(QWidget& mainWindow, std::function<void()> showState);
+  void Open(QWidget& window, std::function<void()> showState);
   QWidget& Window() const { return *window_; }
 
   void BeginRun();

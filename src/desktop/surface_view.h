@@ -21,9 +21,6 @@ class SurfaceWidget : public QWidget {
   /// Requests a repaint of what has changed.
   void Sync();
 
-  /// The hint that follows the pointer.
-  const QLabel& Hint() const { return *hint_; }
-
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -39,6 +36,7 @@ class SurfaceWidget : public QWidget {
   ImageCanvas& canvas_;
   Events& events_;
   Overlay overlay_;
+  /// Follows the pointer.
   QLabel* hint_;
   Control* pressed_ = nullptr;
   QPointF middle_;

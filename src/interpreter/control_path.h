@@ -101,8 +101,8 @@ std::int16_t EndValExtractor(std::string_view text);
 /// The trimmed characters before the first blank, or all of them. Nothing calls it.
 std::string GetProcNameFromProcedureCall(std::string_view procedureCall);
 
-/// The path without its last component; "." if the text holds one "." or none. Nothing
-/// calls it: `RecursionChecker` needs no copy.
+/// The path without its last component; "." if the text holds one "." or none. Nothing calls it: `RecursionChecker`
+/// needs no copy.
 std::string CurrentProcedureRemover(std::string_view path);
 
 /// Drops the last component if it is the same text as the one before it, so that a recursion does not lengthen the

@@ -18,7 +18,7 @@ namespace zerimo {
 class SvgRecorder : public SurfaceRecorder {
  public:
   /// The canvas under the surface that will be recorded, with nothing drawn on it yet.
-  explicit SvgRecorder(const ImageCanvas& pixels) : canvas_(pixels) {}
+  explicit SvgRecorder(const ImageCanvas& canvas) : canvas_(canvas) {}
 
   void Record(const Surface& surface, const SurfaceOperation& operation) override;
 

@@ -29,7 +29,7 @@ class PageScreen {
 
   Form1& form1_;
   PixelCanvas& canvas_;
-  /// The words that the page got last, by what they are about.
+  /// What the page was last told about each control.
   std::map<const void*, std::string> shown_;
   std::map<const ListBox*, std::uint64_t> shownLists_;
   std::uint64_t shownPage_ = 0;

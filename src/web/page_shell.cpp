@@ -25,7 +25,7 @@ PageShell::PageShell(ScreenSize screen, const std::filesystem::path& fontFile, F
 
 void PageShell::Deliver(const std::function<void(Form1& form1)>& event) {
   if (hasEnded_) return;
-  // A wish that came too late to stop the last run.
+  // Drops a request to stop that came after the last run had ended.
   TakeStop();
   watch_.Begin();
   Run(event);
@@ -37,7 +37,7 @@ void PageShell::Run(const std::function<void(Form1& form1)>& event) {
   try {
     event(form1);
   } catch (const StopRun&) {
-    // Nothing of the handler is left to do.
+    // The handler ends here.
   } catch (const Ended& ended) {
     End(ended.By);
   } catch (const std::exception& failure) {

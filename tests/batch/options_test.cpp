@@ -9,6 +9,12 @@
 namespace zerimo::batch {
 namespace {
 
+Options ParseOptions(const std::vector<std::string>& arguments) {
+  Options options;
+  CommandLine(options).Parse(arguments);
+  return options;
+}
+
 TEST(Options, HaveTheirDefaultsWithoutArguments) {
   const Options options = ParseOptions({});
   EXPECT_EQ(options.What, Options::Wish::Run);

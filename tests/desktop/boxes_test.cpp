@@ -79,13 +79,13 @@ TEST_F(BoxesTest, TheCreditsStandOnLinesOfTheirOwnUnderTheirTitleWithAnIcon) {
 }
 
 TEST_F(BoxesTest, TextThatLooksLikeMarkupIsShownAsItStands) {
-  const MessageDialog dialog(Shown(), "<b>1</b>", box::Plain, "Zerimo");
+  const MessageDialog dialog(Window(), "<b>1</b>", box::Plain, "Zerimo");
   EXPECT_EQ(dialog.textFormat(), Qt::PlainText);
 }
 
 TEST_F(BoxesTest, ALongTextCanBeScrolled) {
   const QString text = QString("[SQUARE]\n").repeated(300);
-  MessageDialog dialog(Shown(), text, box::Plain, "Zerimo");
+  MessageDialog dialog(Window(), text, box::Plain, "Zerimo");
   auto* area = dialog.findChild<QPlainTextEdit*>();
   ASSERT_NE(area, nullptr);
   EXPECT_EQ(area->toPlainText(), text);
@@ -103,7 +103,7 @@ void PrintTo(const StyleCase& one, std::ostream* out) { *out << "style " << one.
 class BoxStyles : public DesktopTest, public testing::WithParamInterface<StyleCase> {};
 
 TEST_P(BoxStyles, HaveTheirAnswerWhenClosedAndTheirIcon) {
-  MessageDialog dialog(Shown(), "text", GetParam().Style, "Zerimo");
+  MessageDialog dialog(Window(), "text", GetParam().Style, "Zerimo");
   dialog.show();
   QTest::keyClick(&dialog, Qt::Key_Escape);
   EXPECT_EQ(dialog.Chosen(), GetParam().WhenClosed);
@@ -140,13 +140,13 @@ TEST_F(BoxesTest, KeysMeantForTheWindowAreDroppedWhileABoxStands) {
 TEST_F(BoxesTest, AClickOnTheWindowBringsTheBoxForward) {
   QWidget* active = nullptr;
   WhileABoxStands([&] {
-    Shown().activateWindow();
+    Window().activateWindow();
     QTest::mouseClick(&Row(0), Qt::LeftButton);
     QTest::qWait(20);
     active = QApplication::activeWindow();
   });
   Enter("xcor");
-  EXPECT_NE(active, &Shown());
+  EXPECT_NE(active, &Window());
 }
 
 TEST_F(BoxesTest, ASoundBoxFollowsTheBeep) {

@@ -41,7 +41,7 @@ DesktopTest::DesktopTest(const QRect& available) {
   session = std::make_unique<Session>(available, OwnFolders());
   session->Start();
   // Without a screen, the toolkit gives the window a frame that takes some of the area.
-  Shown().setFixedSize(available.size());
+  Window().setFixedSize(available.size());
   Settle();
   QObject::connect(&answering_, &QTimer::timeout, &answering_, [this] { AnswerBox(); });
   answering_.start(2);
@@ -80,7 +80,7 @@ void DesktopTest::Enter(const char* line) {
 
 void DesktopTest::LeaveEditor() {
   Press(Qt::Key_F3);
-  QTest::keyClick(&Shown(), Qt::Key_F2);
+  QTest::keyClick(&Window(), Qt::Key_F2);
   ASSERT_EQ(Focused(), &Row(0));
 }
 

@@ -23,8 +23,8 @@ class DesktopTest : public testing::Test {
   ~DesktopTest() override;
 
   Controls& FormControls() { return session->form1.controls; }
-  MainWindow& Shown() { return session->Shown(); }
-  QWidget& WidgetOf(const Control& control) { return Shown().WidgetOf(control); }
+  MainWindow& Window() { return session->window; }
+  QWidget& WidgetOf(const Control& control) { return Window().WidgetOf(control); }
   template <typename Widget>
   Widget& WidgetAs(const Control& control) {
     return dynamic_cast<Widget&>(WidgetOf(control));
@@ -33,7 +33,7 @@ class DesktopTest : public testing::Test {
   QPlainTextEdit& Editor() { return WidgetAs<QPlainTextEdit>(FormControls().Text2); }
 
   /// The widget that keys go to.
-  QWidget* Focused() const { return session->Shown().focusWidget(); }
+  QWidget* Focused() const { return session->window.focusWidget(); }
   /// A key on the widget that has the focus.
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   /// Real key events for each character.

@@ -49,17 +49,17 @@ TEST_F(DiagnosisPanelTest, OfALongControlStringTheEndIsSeen) {
   auto& text = WidgetAs<QLabel>(FormControls().Label19);
   EXPECT_TRUE(text.alignment().testFlag(Qt::AlignLeft));
   FormControls().Label19.Caption = "." + std::string(200, 'X') + "- 12";
-  Shown().Sync();
+  Window().Sync();
   EXPECT_TRUE(text.alignment().testFlag(Qt::AlignRight));
   EXPECT_EQ(text.toolTip(), text.text());
   EXPECT_EQ(text.accessibleName(), "Control String: " + text.text());
 }
 
 TEST_F(DiagnosisPanelTest, ItsCloseButtonIsInSightOnASmallScreen) {
-  Shown().setFixedSize(640, 480);
+  Window().setFixedSize(640, 480);
   const QWidget& panel = WidgetOf(FormControls().Frame1);
   const QWidget& close = WidgetOf(FormControls().Command1);
-  EXPECT_TRUE(Shown().rect().contains(close.geometry().translated(panel.pos())));
+  EXPECT_TRUE(Window().rect().contains(close.geometry().translated(panel.pos())));
 }
 
 TEST_F(DiagnosisPanelTest, TheListsAreShown) {
@@ -128,7 +128,7 @@ TEST_F(DiagnosisPanelTest, AMovedBarColoursThePen) {
 TEST_F(DiagnosisPanelTest, ItDoesNotOverlapTheRows) {
   const QRect panel = WidgetOf(FormControls().Frame1).geometry();
   EXPECT_FALSE(panel.intersects(WidgetOf(FormControls().Picture3).geometry()));
-  EXPECT_TRUE(Shown().rect().contains(panel));
+  EXPECT_TRUE(Window().rect().contains(panel));
 }
 
 TEST_F(DiagnosisPanelTest, ItsControlsDoNotOverlap) {

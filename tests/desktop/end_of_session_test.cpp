@@ -111,7 +111,7 @@ TEST_F(AfterAFailure, ATextThatTheFolderDoesNotTakeIsSavedElsewhere) {
 
 TEST_F(AfterAFailure, ARunThatTakesTheMemoryEndsWithABoxAndTheRescue) {
   FormControls().Text2.Text = "TO A";
-  session->Watch().MostMemory = 1;
+  session->watch.MostMemory = 1;
   AnswerNextBox({Qt::Key_Return});
   Enter("repeat 32000 [rt 1]");
   ASSERT_EQ(Boxes.size(), 1u);
@@ -145,14 +145,14 @@ TEST_F(EndOfSessionTest, AFailedSaveFromTheEditorEndsTheProgram) {
 }
 
 TEST_F(EndOfSessionTest, ClosingTheIdleWindowEndsWithoutAQuestion) {
-  Shown().close();
+  Window().close();
   EXPECT_TRUE(session->HasEnded());
   EXPECT_EQ(session->ExitStatus(), 0);
 }
 
 TEST_F(EndOfSessionTest, ClosingTheIdleWindowWritesNothing) {
   FormControls().Text2.Text = "TO A";
-  Shown().close();
+  Window().close();
   EXPECT_FALSE(HasFile("Rescued.ZRM"));
 }
 

@@ -76,6 +76,17 @@ TEST_F(ListsTest, AListIsFilledWhenItsPanelOpens) {
   EXPECT_EQ(WidgetAs<QListView>(FormControls().List1).model()->index(0, 0).data().toString(), " 1  TO A");
 }
 
+TEST_F(ListsTest, AScreenReaderHearsWhatAListHolds) {
+  const QWidget& variables = WidgetOf(FormControls().List2);
+  Enter("make \"n 5");
+  const auto told = [&] { return variables.accessibleDescription().toStdString(); };
+  EXPECT_EQ(told(), "The variables with their values.");
+  Enter("show dia");
+  EXPECT_EQ(told(), "The variables with their values. Entries: 1. Last: :N=5");
+  Enter("make \"side 10");
+  EXPECT_EQ(told(), "The variables with their values. Entries: 2. Last: :SIDE=10");
+}
+
 TEST_F(ListsTest, TheHistoryOpensAtItsEnd) {
   session->Deliver([](Form1& form1) {
     for (int entry = 0; entry < 5000; ++entry) form1.controls.List4.Add("?RT 1");

@@ -178,7 +178,7 @@ TEST_F(RowsTest, F4HidesTheRowsAndThenNothingHasTheFocus) {
 
 TEST_F(RowsTest, F2BringsTheRowsBackFromTheFullScreen) {
   Press(Qt::Key_F4);
-  QTest::keyClick(&Shown(), Qt::Key_F2);
+  QTest::keyClick(&Window(), Qt::Key_F2);
   EXPECT_TRUE(Row(0).isVisible());
   EXPECT_EQ(WidgetOf(session->form1.Picture1).height(), 768 - 129);
 }
@@ -261,7 +261,7 @@ TEST_F(RowsTest, TheLettersOfARowFitItsHeight) {
 }
 
 TEST_F(RowsTest, ARowEndsWhereTheWindowEnds) {
-  EXPECT_LE(Row(0).mapTo(&Shown(), Row(0).rect().bottomRight()).x(), Shown().rect().right());
+  EXPECT_LE(Row(0).mapTo(&Window(), Row(0).rect().bottomRight()).x(), Window().rect().right());
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class RunsTest : public DesktopTest {
     clock.start();
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, [&] {
-      if (hasSeenEnough() || clock.hasExpired(20000)) Shown().close();
+      if (hasSeenEnough() || clock.hasExpired(20000)) Window().close();
     });
     look.start(20);
     Enter(line);
@@ -133,34 +133,34 @@ TEST_F(RunsTest, ThePictureGrowsWhileALineRuns) {
 }
 
 TEST_F(RunsTest, ClosingTheWindowEndsARunThatDoesNotEnd) {
-  During(50, [this] { Shown().close(); });
+  During(50, [this] { Window().close(); });
   Enter("label a goto a");
   EXPECT_TRUE(session->HasEnded());
   EXPECT_EQ(session->ExitStatus(), 0);
 }
 
 TEST_F(RunsTest, ClosingTheWindowEndsAnEvaluationThatDoesNotEnd) {
-  During(50, [this] { Shown().close(); });
+  During(50, [this] { Window().close(); });
   Enter("fd -/3");
   EXPECT_TRUE(session->HasEnded());
 }
 
 TEST_F(RunsTest, ClosingTheWindowDuringARunRescuesTheEditorsText) {
   FormControls().Text2.Text = "TO A\r\nEND";
-  During(50, [this] { Shown().close(); });
+  During(50, [this] { Window().close(); });
   Enter("label a goto a");
   EXPECT_EQ(ReadFile("Rescued.ZRM"), "TO A\r\nEND");
 }
 
 TEST_F(RunsTest, ClosingTheWindowLeavesAProgramThatShowsBoxAfterBox) {
-  WhileABoxStands([this] { Shown().close(); });
+  WhileABoxStands([this] { Window().close(); });
   Enter("repeat 1000 [message 1]");
   EXPECT_TRUE(session->HasEnded());
   EXPECT_EQ(Boxes.size(), 1u);
 }
 
 TEST_F(RunsTest, ClosingTheWindowEndsAWait) {
-  During(50, [this] { Shown().close(); });
+  During(50, [this] { Window().close(); });
   Enter("wait 3600000");
   EXPECT_TRUE(session->HasEnded());
 }

@@ -46,10 +46,17 @@ def hear(event):
         heard.append(event.source.name)
 
 
+described = []
+
+
+def hear_description(event):
+    described.append((event.source.name, event.source.description))
+
+
 def use():
     """What a learner does, while the main thread listens."""
     within(20, has_focus)
-    for line in ("PRINT 7", "FD 50"):
+    for line in ("PRINT 7", "SHOW DIA", 'MAKE "N 5', "FD 50"):
         press("type", "--delay", "20", line)
         press("key", "Return")
         within(20, lambda: any(line in words for words in heard))
@@ -62,6 +69,7 @@ if app is None:
 within(30, lambda: any(part.name == "Command row 1" for part in parts(app)))
 
 pyatspi.Registry.registerEventListener(hear, "object:state-changed:showing")
+pyatspi.Registry.registerEventListener(hear_description, "object:property-change:accessible-description")
 # Without it, names that have changed are answered from memory.
 pyatspi.Registry.registerEventListener(lambda event: None, "object:property-change:accessible-name")
 user = threading.Thread(target=use)
@@ -81,8 +89,10 @@ surface = next(part for part in parts(app) if part.name == "Drawing surface")
 if "50.0 up" not in surface.description:
     sys.exit(f"the surface does not tell where the turtle is: {surface.description}")
 rows = [part.queryText().getText(0, -1) for part in parts(app) if part.name.startswith("Command row ")]
-if rows[:2] != ["PRINT 7", "FD 50"]:
+if rows[:2] != ["PRINT 7", "SHOW DIA"]:
     sys.exit(f"the rows are not read: {rows}")
-if heard != ["PRINT 7\n7", "FD 50"]:
+if heard != ["PRINT 7\n7", "SHOW DIA", 'MAKE "N 5', "FD 50"]:
     sys.exit(f"announced: {heard}")
+if ("Variables", "The variables with their values. Entries: 1. Last: :N=5") not in described:
+    sys.exit(f"the lists do not tell that they have changed: {described}")
 print("a screen reader finds the controls and hears what the lines say")

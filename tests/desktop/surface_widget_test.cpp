@@ -14,15 +14,16 @@ class SurfaceWidgetTest : public DesktopTest {
   void DragWindowAway() {
     int step = 0;
     ASSERT_TRUE(Until([&] {
-      Shown().move(120 + ++step, 80);
+      Window().move(120 + ++step, 80);
       return FormControls().Form1.Left != 0;
     }));
   }
+  const QLabel& Hint() { return *Surface().findChild<QLabel*>(); }
   std::string HintAt(int x, int y) {
     session->form1.Picture1.ToolTipText.clear();
     QTest::mouseMove(&Surface(), {x, y});
     Until([this] { return !session->form1.Picture1.ToolTipText.empty(); });
-    return Surface().Hint().text().toStdString();
+    return Hint().text().toStdString();
   }
 };
 
@@ -83,16 +84,16 @@ TEST_F(SurfaceWidgetTest, ATurtleFarAwayDoesNoHarm) {
 TEST_F(SurfaceWidgetTest, TheHintFollowsTheMouse) {
   Enter("cs");
   EXPECT_EQ(HintAt(522, 371), "MouseX= 3 MouseY= 4   New Dir 38");
-  EXPECT_TRUE(Surface().Hint().isVisible());
-  const QPoint first = Surface().Hint().pos();
+  EXPECT_TRUE(Hint().isVisible());
+  const QPoint first = Hint().pos();
   EXPECT_EQ(HintAt(512, 384), "MouseX= 0 MouseY= 0   New Dir 90");
-  EXPECT_NE(Surface().Hint().pos(), first);
+  EXPECT_NE(Hint().pos(), first);
 }
 
 TEST_F(SurfaceWidgetTest, TheHintStaysInSightAtTheEdges) {
   Enter("cs");
   HintAt(1020, 600);
-  EXPECT_TRUE(Surface().rect().contains(Surface().Hint().geometry()));
+  EXPECT_TRUE(Surface().rect().contains(Hint().geometry()));
 }
 
 TEST_F(SurfaceWidgetTest, TheTitlePictureGivesNoHint) {
@@ -132,14 +133,14 @@ TEST_F(SurfaceWidgetTest, AClickBringsAMovedWindowBackIntoItsCorner) {
   Enter("cs");
   DragWindowAway();
   QTest::mouseClick(&Surface(), Qt::LeftButton, {}, {300, 300});
-  EXPECT_EQ(Shown().pos(), QPoint(0, 0));
+  EXPECT_EQ(Window().pos(), QPoint(0, 0));
   EXPECT_EQ(FormControls().Form1.Left, 0);
 }
 
 TEST_F(SurfaceWidgetTest, AClickOnTheTitlePictureBringsTheWindowBackToo) {
   DragWindowAway();
   QTest::mouseClick(&Surface(), Qt::LeftButton, {}, {300, 300});
-  EXPECT_EQ(Shown().pos(), QPoint(0, 0));
+  EXPECT_EQ(Window().pos(), QPoint(0, 0));
   EXPECT_EQ(Focused(), &Row(0));
 }
 

@@ -22,14 +22,14 @@ void PrintTo(const ScreenCase& one, std::ostream* out) {
 class Screens : public DesktopTest, public testing::WithParamInterface<ScreenCase> {
  protected:
   Screens() : DesktopTest({0, 0, GetParam().Width, GetParam().Height}) {
-    Shown().setFixedSize(GetParam().Width, GetParam().Height - GetParam().TitleBar);
+    Window().setFixedSize(GetParam().Width, GetParam().Height - GetParam().TitleBar);
   }
-  QRect InWindow(const QWidget& widget) { return {widget.mapTo(&Shown(), QPoint(0, 0)), widget.size()}; }
+  QRect InWindow(const QWidget& widget) { return {widget.mapTo(&Window(), QPoint(0, 0)), widget.size()}; }
 };
 
 TEST_P(Screens, ShowAllRowsWholeAndUsable) {
   for (int row = 0; row < 5; ++row) {
-    EXPECT_TRUE(Shown().rect().contains(InWindow(Row(row)))) << row;
+    EXPECT_TRUE(Window().rect().contains(InWindow(Row(row)))) << row;
     EXPECT_EQ(Row(row).height(), 25);
     QTest::mouseClick(&Row(row), Qt::LeftButton);
     QTest::keyClicks(&Row(row), "rt 1");
@@ -45,7 +45,7 @@ TEST_P(Screens, TakeTheirSizeIntoTheData) {
 
 TEST_P(Screens, KeepTheEditorInsideTheWindow) {
   Press(Qt::Key_F1);
-  EXPECT_TRUE(Shown().rect().contains(Editor().geometry()));
+  EXPECT_TRUE(Window().rect().contains(Editor().geometry()));
 }
 
 TEST_P(Screens, KeepThePanelsWithinReach) {
@@ -56,10 +56,10 @@ TEST_P(Screens, KeepThePanelsWithinReach) {
     const QRect place = WidgetOf(*panel).geometry();
     EXPECT_GE(place.y(), 0);
     // A panel that is too wide is closed in its right upper corner.
-    if (place.width() <= Shown().width()) {
+    if (place.width() <= Window().width()) {
       EXPECT_GE(place.x(), 0);
     } else {
-      EXPECT_EQ(place.right(), Shown().rect().right());
+      EXPECT_EQ(place.right(), Window().rect().right());
     }
   }
 }
@@ -74,18 +74,18 @@ INSTANTIATE_TEST_SUITE_P(SizesAndTitleBars, Screens,
 using WindowTest = DesktopTest;
 
 TEST_F(WindowTest, TheCaptionIsTheStatusLine) {
-  EXPECT_EQ(Shown().windowTitle(), "Zerimo");
+  EXPECT_EQ(Window().windowTitle(), "Zerimo");
   Enter("show details");
-  EXPECT_TRUE(Shown().windowTitle().contains("[Pen State:Pen Down]"));
+  EXPECT_TRUE(Window().windowTitle().contains("[Pen State:Pen Down]"));
   Enter("hide");
-  EXPECT_EQ(Shown().windowTitle(), "Zerimo");
+  EXPECT_EQ(Window().windowTitle(), "Zerimo");
 }
 
 TEST_F(WindowTest, TheClockTellsTheTimeInTheDesktopsForm) {
   FormControls().Timer4.Interval = 5;
   Enter("show time");
-  EXPECT_TRUE(Until([this] { return Shown().windowTitle().startsWith("Zerimo [ Time:"); }));
-  EXPECT_TRUE(Shown().windowTitle().endsWith(" ]"));
+  EXPECT_TRUE(Until([this] { return Window().windowTitle().startsWith("Zerimo [ Time:"); }));
+  EXPECT_TRUE(Window().windowTitle().endsWith(" ]"));
 }
 
 TEST_F(WindowTest, TheRowsLieAtTheirPlaces) {
@@ -95,14 +95,14 @@ TEST_F(WindowTest, TheRowsLieAtTheirPlaces) {
 }
 
 TEST_F(WindowTest, ATitleBarMovesTheRowsUp) {
-  Shown().setFixedSize(1024, 728);
+  Window().setFixedSize(1024, 728);
   EXPECT_EQ(WidgetOf(FormControls().Picture3).geometry(), QRect(0, 599, 1024, 129));
 }
 
 TEST_F(WindowTest, EveryControlThatCanBeReachedHasAName) {
   int named = 0;
   FormControls().ForEach([&](Control& control) {
-    ControlView* view = Shown().FindView(control);
+    ControlView* view = Window().FindView(control);
     if (view == nullptr) return;
     const QWidget& widget = view->Widget();
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
@@ -141,14 +141,14 @@ TEST_F(WindowTest, TheTabKeyFindsTheFirstRowWhenNothingHasTheFocus) {
   WidgetOf(FormControls().Command1).setFocus();
   Press(Qt::Key_Return);
   ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
-  ASSERT_EQ(Focused(), &Shown());
+  ASSERT_EQ(Focused(), &Window());
   Press(Qt::Key_Tab);
   EXPECT_EQ(Focused(), &Row(0));
 }
 
 TEST_F(WindowTest, InFullScreenTheTabKeyReachesTheSurface) {
   Press(Qt::Key_F4);
-  QTest::keyClick(&Shown(), Qt::Key_Tab);
+  QTest::keyClick(&Window(), Qt::Key_Tab);
   EXPECT_EQ(Focused(), &WidgetOf(session->form1.Picture1));
   Press(Qt::Key_F1);
   EXPECT_EQ(Focused(), &Editor());
@@ -161,7 +161,7 @@ TEST_F(WindowTest, TypingGoesOnInTheLastRowWhenNothingHasTheFocus) {
   WidgetOf(FormControls().Command1).setFocus();
   Press(Qt::Key_Return);
   ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
-  QTest::keyClicks(&Shown(), "f");
+  QTest::keyClicks(&Window(), "f");
   Type("d 10");
   EXPECT_EQ(Focused(), &Row(2));
   EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[2]);
@@ -171,7 +171,7 @@ TEST_F(WindowTest, TypingGoesOnInTheLastRowWhenNothingHasTheFocus) {
 TEST_F(WindowTest, KeysThatOnlyChangeOthersGiveNoFocus) {
   Press(Qt::Key_F4);
   for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_CapsLock}) {
-    QTest::keyClick(&Shown(), key);
+    QTest::keyClick(&Window(), key);
     EXPECT_EQ(FormControls().Focus.Focus(), nullptr) << key;
   }
 }
@@ -180,7 +180,7 @@ TEST_F(WindowTest, F2FromTheFullScreenLetsTheLearnerTypeOn) {
   Enter("rt 1");
   Press(Qt::Key_F4);
   ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
-  QTest::keyClick(&Shown(), Qt::Key_F2);
+  QTest::keyClick(&Window(), Qt::Key_F2);
   EXPECT_TRUE(Row(0).isVisible());
   EXPECT_EQ(FormControls().Focus.Focus(), &FormControls().Text1[0]);
   EXPECT_EQ(Focused(), &Row(0));
@@ -188,10 +188,10 @@ TEST_F(WindowTest, F2FromTheFullScreenLetsTheLearnerTypeOn) {
 
 TEST_F(WindowTest, InFullScreenF1OpensTheEditorAndF3TheTextScreen) {
   Press(Qt::Key_F4);
-  QTest::keyClick(&Shown(), Qt::Key_F1);
+  QTest::keyClick(&Window(), Qt::Key_F1);
   EXPECT_EQ(Focused(), &Editor());
   Press(Qt::Key_F4);
-  QTest::keyClick(&Shown(), Qt::Key_F3);
+  QTest::keyClick(&Window(), Qt::Key_F3);
   EXPECT_TRUE(WidgetOf(FormControls().List4).isVisible());
 }
 
@@ -200,7 +200,7 @@ TEST_F(WindowTest, F2BringsEverythingBackFromTheTextScreenWithoutRows) {
   Press(Qt::Key_F3);
   ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
   ASSERT_FALSE(Row(0).isVisible());
-  QTest::keyClick(&Shown(), Qt::Key_F2);
+  QTest::keyClick(&Window(), Qt::Key_F2);
   EXPECT_FALSE(WidgetOf(FormControls().List4).isVisible());
   EXPECT_EQ(Focused(), &Row(0));
 }
@@ -211,7 +211,7 @@ TEST_F(WindowTest, AfterTheHelpViewTypingGoesOnInTheRow) {
   WidgetOf(FormControls().RichTextBox1).setFocus();
   Press(Qt::Key_Escape);
   ASSERT_EQ(FormControls().Focus.Focus(), nullptr);
-  QTest::keyClick(&Shown(), Qt::Key_R);
+  QTest::keyClick(&Window(), Qt::Key_R);
   EXPECT_EQ(Focused(), &Row(1));
   EXPECT_EQ(Row(1).text(), "r");
 }

@@ -31,8 +31,8 @@ struct Placement {
   double Degrees = 0;
   bool Mirrored = false;
   double Scale = 1;
-  /// Of the point where the goal begins (its middle if it has no lines), in surface units, y downwards: a drawing that
-  /// only began in another direction or size is not shifted. 0 within the tolerance.
+  /// How far the point where the goal begins has moved (its middle if it has no lines), in surface units, y downwards:
+  /// a drawing that only began in another direction or size is not shifted. 0 within the tolerance.
   Point Shift;
 };
 

@@ -11,7 +11,7 @@ QString TextOf(std::string_view latin1) {
   return QString::fromLatin1(latin1.data(), static_cast<qsizetype>(latin1.size()));
 }
 
-/// The words that only the system uses itself are not known.
+/// Without the words that only the system itself uses.
 std::vector<const WordFacts*> ListOfWords() {
   std::vector<const WordFacts*> words;
   for (const WordFacts& word : AllWords()) {
@@ -25,7 +25,7 @@ const std::vector<const WordFacts*>& Words() {
   return words;
 }
 
-/// Whether a word never gets an input: it is no longer itself if something follows it.
+/// Whether a word takes no input: a line with anything after it is another line to the system.
 bool StandsAlone(const WordFacts& word) { return word.Match == MatchedBy::WholeLine; }
 
 }  // namespace

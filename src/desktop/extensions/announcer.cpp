@@ -32,7 +32,7 @@ class Announcer::Voice : public QWidget {
   }
 };
 
-Announcer::Announcer(Session& session) : history_(session.form1.controls.List4), voice_(*new Voice(session.Shown())) {}
+Announcer::Announcer(Session& session) : history_(session.form1.controls.List4), voice_(*new Voice(session.window)) {}
 
 void Announcer::RunEnds() {
   const std::vector<std::string>& entries = history_.Items();

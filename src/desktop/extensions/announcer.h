@@ -14,7 +14,7 @@ class Announcer : public Extension {
 
   void RunEnds() override;
 
-  /// The last so many entries are told.
+  /// How many of the last entries are told, at most.
   static constexpr std::size_t MostEntries = 20;
 
  private:

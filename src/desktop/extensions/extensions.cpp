@@ -21,7 +21,8 @@ namespace zerimo {
 void AddExtensions(Session& session, const std::filesystem::path& folder, std::chrono::milliseconds keepAfter) {
   session.Add(std::make_unique<Stop>(session));
   auto chip = std::make_unique<RunChip>(session);
-  session.Add(std::make_unique<Speed>(session, *chip));
+  auto zoom = std::make_unique<Zoom>(session);
+  session.Add(std::make_unique<Speed>(session, *chip, *zoom));
   session.Add(std::move(chip));
   auto lineJournal = std::make_unique<LineJournal>(session.form1, folder / "journal");
   session.Add(std::make_unique<Recovery>(session, *lineJournal, folder / "rescued", keepAfter));
@@ -34,7 +35,7 @@ void AddExtensions(Session& session, const std::filesystem::path& folder, std::c
   session.Add(std::make_unique<Projector>(session));
   session.Add(std::make_unique<PanelDrag>(session));
   session.Add(std::make_unique<PageLinks>(session));
-  session.Add(std::make_unique<Zoom>(session));
+  session.Add(std::move(zoom));
   session.Add(std::make_unique<Announcer>(session));
 }
 

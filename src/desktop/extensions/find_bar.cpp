@@ -9,11 +9,16 @@
 
 namespace zerimo {
 
+namespace {
+
+constexpr double Points = 10.5;
+
+}  // namespace
+
 FindBar::FindBar(EditorArea& editor) : QWidget(&editor), editor_(editor) {
   setObjectName(QStringLiteral("FindBar"));
   setAutoFillBackground(true);
   setPalette(QPalette(QColor(0xEC, 0xEA, 0xE6)));
-  setFont(ControlFont(10.5));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(8, 4, 8, 4);
   const auto addField = [&](const QString& label, QLineEdit& field) {
@@ -34,7 +39,6 @@ FindBar::FindBar(EditorArea& editor) : QWidget(&editor), editor_(editor) {
   addButton(QStringLiteral("Replace &all"), &FindBar::ReplaceAll);
   row->addWidget(&outcome_);
   addButton(QStringLiteral("&Close"), &FindBar::Close);
-  outcome_.setMinimumWidth(outcome_.fontMetrics().horizontalAdvance(QStringLiteral("00000 replaced")));
   editor.installEventFilter(this);
   hide();
 }
@@ -56,7 +60,14 @@ void FindBar::Close() {
   editor_.setFocus(Qt::ShortcutFocusReason);
 }
 
+void FindBar::TakeLetters(double points) {
+  setFont(ControlFont(points));
+  outcome_.setMinimumWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("00000 replaced")));
+}
+
 void FindBar::Fit() {
+  TakeLetters(Points * ZoomOf(*this));
+  if (minimumSizeHint().width() > editor_.width()) TakeLetters(Points);
   const int height = isHidden() ? 0 : sizeHint().height();
   QMargins margins = editor_.viewportMargins();
   margins.setBottom(height);
@@ -65,7 +76,7 @@ void FindBar::Fit() {
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize) Fit();
+  if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) Fit();
   return QWidget::eventFilter(watched, event);
 }
 
@@ -79,7 +90,7 @@ void FindBar::keyPressEvent(QKeyEvent* press) {
       if (replacement_.hasFocus()) return ReplaceOne();
       return Find(isBackward ? QTextDocument::FindBackward : QTextDocument::FindFlags());
     default:
-      // The editor has work for the function keys only; the others would type in it.
+      // Function keys go on to the editor, which acts on them. Any other key would type in it.
       press->setAccepted(press->key() < Qt::Key_F1 || press->key() > Qt::Key_F12);
   }
 }
@@ -92,7 +103,7 @@ bool FindBar::IsFound() const {
 void FindBar::Find(QTextDocument::FindFlags direction) {
   outcome_.clear();
   if (wanted_.text().isEmpty() || editor_.find(wanted_.text(), direction)) return;
-  // From the other end on.
+  // There is none up to this end of the text: search on from the other end.
   const QTextCursor before = editor_.textCursor();
   editor_.moveCursor(direction == QTextDocument::FindBackward ? QTextCursor::End : QTextCursor::Start);
   if (editor_.find(wanted_.text(), direction)) return;

@@ -24,7 +24,8 @@ class FindBar : public QWidget {
 
  private:
   void Close();
-  /// Gives the bar its place, and the text the rest.
+  void TakeLetters(double points);
+  /// Gives the bar its place, and the text the rest. Its letters grow with the window's if there is room for that.
   void Fit();
   void Find(QTextDocument::FindFlags direction);
   void ReplaceOne();

@@ -42,7 +42,7 @@ QListWidget* MakeList(QDialog& dialog) {
 bool Gallery::PressKey(const QKeyEvent& press) {
   const bool isGallery = press.key() == Qt::Key_G && press.modifiers() == Qt::ControlModifier;
   // During a run, the window keeps the key for later.
-  if (!isGallery || session_.Running().IsRunning()) return false;
+  if (!isGallery || session_.stage.IsRunning()) return false;
   session_.Deliver([this](Form1& form1) {
     const QString name = Choose();
     if (!name.isEmpty()) form1.interpreter.dispatch.Execute("LOAD " + ToSystemText(name));
@@ -51,7 +51,7 @@ bool Gallery::PressKey(const QKeyEvent& press) {
 }
 
 QString Gallery::Choose() {
-  QDialog dialog(&session_.Shown());
+  QDialog dialog(&session_.window);
   dialog.setWindowTitle(QStringLiteral("Samples"));
   auto* column = new QVBoxLayout(&dialog);
   column->addWidget(new QLabel(QStringLiteral("Enter loads a sample. Then type its name on a row."), &dialog));
@@ -63,9 +63,9 @@ QString Gallery::Choose() {
   column->addWidget(buttons);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  dialog.resize(DialogSize.boundedTo(session_.Shown().size()));
+  dialog.resize(DialogSize.boundedTo(session_.window.size()));
   list->setFocus();
-  if (session_.Running().Stay(dialog) != QDialog::Accepted || list->currentItem() == nullptr) return {};
+  if (session_.stage.Stay(dialog) != QDialog::Accepted || list->currentItem() == nullptr) return {};
   return list->currentItem()->text();
 }
 

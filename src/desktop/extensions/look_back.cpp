@@ -85,16 +85,14 @@ class LookBack::Sheet : public QWidget {
   QLabel& words_;
 };
 
-LookBack::LookBack(Session& session) : session_(session), after_(session.Canvas().Pixels()) {
+LookBack::LookBack(Session& session) : session_(session), after_(session.canvas.Pixels()) {
   // The session ends before its extensions do.
   session.form1.Picture1.AddRecorder(*this);
 }
 
 LookBack::~LookBack() = default;
 
-LookBack::Scene LookBack::SceneNow() const {
-  return {session_.Canvas().Pixels(), DrawingState(session_.form1.Picture1)};
-}
+LookBack::Scene LookBack::SceneNow() const { return {session_.canvas.Pixels(), DrawingState(session_.form1.Picture1)}; }
 
 void LookBack::Record(const Surface& surface, const SurfaceOperation& operation) {
   if (!isDrawing_) {
@@ -124,7 +122,7 @@ void LookBack::Keep(const SurfaceOperation& operation) {
 void LookBack::RunEnds() {
   if (!isDrawing_) return;
   isDrawing_ = false;
-  after_ = session_.Canvas().Pixels();
+  after_ = session_.canvas.Pixels();
 }
 
 bool LookBack::PressKey(const QKeyEvent& press) {
@@ -133,7 +131,7 @@ bool LookBack::PressKey(const QKeyEvent& press) {
     if (!IsModifier(press.key())) Leave();
     return false;
   }
-  if (session_.Running().IsRunning() || steps_.empty()) return false;
+  if (session_.stage.IsRunning() || steps_.empty()) return false;
   // The picture itself is the last step, unless there were more than are kept.
   const std::size_t end = steps_.size() + (IsCut() ? 1 : 0);
   const std::size_t at = sheet_ ? step_ : end;
@@ -148,7 +146,7 @@ bool LookBack::PressKey(const QKeyEvent& press) {
 
 void LookBack::ShowStep(std::size_t step) {
   step_ = step;
-  if (!sheet_) sheet_ = new Sheet(session_.Shown().WidgetOf(session_.form1.Picture1));
+  if (!sheet_) sheet_ = new Sheet(session_.window.WidgetOf(session_.form1.Picture1));
   QString words = QStringLiteral("Looking back: step %1 of %2").arg(step).arg(steps_.size());
   if (IsCut()) words += QStringLiteral("; later steps are not kept");
   sheet_->Show(before_, operations_, step == 0 ? 0 : steps_[step - 1], words);

@@ -22,7 +22,7 @@ class LookBack : public Extension, private SurfaceRecorder {
   bool PressKey(const QKeyEvent& press) override;
   void RunEnds() override;
 
-  /// As many operations of a run are kept, so that memory and time stay bounded; a flood counts as many.
+  /// How many operations of a run are kept, so that memory and time stay bounded. A flood counts as `WorkOfFlood`.
   static constexpr std::size_t MostWork = 20'000;
   static constexpr std::size_t WorkOfFlood = 100;
 
@@ -41,7 +41,7 @@ class LookBack : public Extension, private SurfaceRecorder {
   Scene SceneNow() const;
   void ShowStep(std::size_t step);
   void Leave();
-  /// Whether the run went on after what is kept.
+  /// Whether the run drew more than is kept.
   bool IsCut() const { return work_ >= MostWork; }
 
   Session& session_;

@@ -26,8 +26,8 @@ bool NamesPages(QTextBlock paragraph) {
 
 PageLinks::PageLinks(Session& session)
     : session_(session),
-      page_(static_cast<QTextEdit&>(session.Shown().WidgetOf(session.form1.controls.RichTextBox1))),
-      list_(static_cast<PageList&>(session.Shown().WidgetOf(session.form1.controls.File1))) {
+      page_(static_cast<QTextEdit&>(session.window.WidgetOf(session.form1.controls.RichTextBox1))),
+      list_(static_cast<PageList&>(session.window.WidgetOf(session.form1.controls.File1))) {
   page_.viewport()->setMouseTracking(true);
   page_.viewport()->installEventFilter(this);
   // Not at once: while it is cleared, the document must lose no cursors.
@@ -89,7 +89,7 @@ bool PageLinks::eventFilter(QObject*, QEvent* event) {
 }
 
 void PageLinks::Follow(const QTextCursor& link) {
-  if (session_.Running().IsRunning()) return;
+  if (session_.stage.IsRunning()) return;
   const QList<QListWidgetItem*> found = list_.findItems(link.selectedText(), Qt::MatchFixedString);
   list_.setCurrentItem(found.first());
   list_.Press();

@@ -5,8 +5,8 @@
 namespace zerimo {
 
 PanelDrag::PanelDrag(Session& session)
-    : window_(session.Shown()),
-      panel_(static_cast<CaptionFrame&>(session.Shown().WidgetOf(session.form1.controls.Frame1))) {
+    : window_(session.window),
+      panel_(static_cast<CaptionFrame&>(session.window.WidgetOf(session.form1.controls.Frame1))) {
   panel_.installEventFilter(this);
 }
 

@@ -22,7 +22,7 @@ QString EndingIn(const QString& kind) { return kind.section(QLatin1String("*."),
 
 PictureKeys::PictureKeys(Session& session)
     : session_(session),
-      drawn_(session.Canvas()),
+      drawn_(session.canvas),
       folder_(QString::fromStdU16String(session.form1.folders.ToRead(session.form1.folders.AppFolder).u16string())) {
   // The session ends before its extensions do.
   session.form1.Picture1.AddRecorder(drawn_);
@@ -31,24 +31,24 @@ PictureKeys::PictureKeys(Session& session)
 bool PictureKeys::PressKey(const QKeyEvent& press) {
   if (press.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier)) return false;
   // During a run, the window keeps the key for later.
-  if (press.key() == Qt::Key_S && !session_.Running().IsRunning()) {
+  if (press.key() == Qt::Key_S && !session_.stage.IsRunning()) {
     session_.Deliver([this](Form1&) { Save(); });
     return true;
   }
   if (press.key() != Qt::Key_C) return false;
-  QGuiApplication::clipboard()->setImage(session_.Canvas().Image().copy(QRect(QPoint(), Size())));
+  QGuiApplication::clipboard()->setImage(session_.canvas.Image().copy(QRect(QPoint(), Size())));
   return true;
 }
 
 QSize PictureKeys::Size() const { return InPixels(session_.form1.Picture1).size(); }
 
 void PictureKeys::Save() {
-  FileDialog dialog(session_.Shown(), QFileDialog::AcceptSave, QStringLiteral("Save the Picture"), folder_,
+  FileDialog dialog(session_.window, QFileDialog::AcceptSave, QStringLiteral("Save the Picture"), folder_,
                     QLatin1String(Kinds));
   dialog.setDefaultSuffix(EndingIn(dialog.selectedNameFilter()));
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&dialog](const QString& kind) { dialog.setDefaultSuffix(EndingIn(kind)); });
-  if (session_.Running().Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  if (session_.stage.Stay(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   folder_ = dialog.directory().absolutePath();
   Write(dialog.selectedFiles().constFirst());
 }
@@ -56,10 +56,10 @@ void PictureKeys::Save() {
 void PictureKeys::Write(const QString& file) {
   const Colour background = session_.form1.Picture1.BackColor();
   const bool isWritten = SkipOnFailure([&] {
-    WriteSurface(session_.Canvas(), drawn_, file.toStdU16String(), Size().width(), Size().height(), background);
+    WriteSurface(session_.canvas, drawn_, file.toStdU16String(), Size().width(), Size().height(), background);
   });
   if (isWritten) return;
-  session_.Desktop().MessageBox(
+  session_.services.MessageBox(
       "The picture was not saved in " + ToSystemText(file) +
           ".\r\rThe name may end with .png, .jpg, .svg or .bmp, and the folder must be one that you may write to.",
       box::Critical, ProgramName);

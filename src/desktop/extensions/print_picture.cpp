@@ -27,28 +27,27 @@ PrintPicture::PrintPicture(Session& session) : session_(session), name_(ToSystem
 
 bool PrintPicture::PressKey(const QKeyEvent& press) {
   // During a run, the window keeps the key for later.
-  if (press.key() != Qt::Key_P || press.modifiers() != Qt::ControlModifier || session_.Running().IsRunning())
-    return false;
+  if (press.key() != Qt::Key_P || press.modifiers() != Qt::ControlModifier || session_.stage.IsRunning()) return false;
   session_.Deliver([this](Form1&) { Print(); });
   return true;
 }
 
 void PrintPicture::Print() {
-  std::string name = session_.Desktop().InputBox("Whose picture is it? The name is printed below it.", "Print", name_);
+  std::string name = session_.services.InputBox("Whose picture is it? The name is printed below it.", "Print", name_);
   if (name.empty()) return;
   name_ = std::move(name);
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(ToQString(ProgramName));
   printer.setPageOrientation(QPageLayout::Landscape);
-  QPrintDialog dialog(&printer, &session_.Shown());
+  QPrintDialog dialog(&printer, &session_.window);
   dialog.setOptions(QAbstractPrintDialog::PrintToFile);
-  if (session_.Running().Stay(dialog) != QDialog::Accepted) return;
+  if (session_.stage.Stay(dialog) != QDialog::Accepted) return;
   QPainter painter;
-  const QImage picture = session_.Canvas().Image().copy(QRect(QPoint(), InPixels(session_.form1.Picture1).size()));
+  const QImage picture = session_.canvas.Image().copy(QRect(QPoint(), InPixels(session_.form1.Picture1).size()));
   const bool hasBegun = painter.begin(&printer);
   if (hasBegun) PaintPage(painter, painter.viewport(), picture, WordsBelow(name_));
   if (hasBegun && painter.end()) return;
-  session_.Desktop().MessageBox("The picture could not be printed.", box::Critical, ProgramName);
+  session_.services.MessageBox("The picture could not be printed.", box::Critical, ProgramName);
 }
 
 void PaintPage(QPainter& painter, const QRect& page, const QImage& picture, const QString& words) {

@@ -38,7 +38,7 @@ bool Projector::PressKey(const QKeyEvent& press) {
 }
 
 void Projector::Switch(bool on) {
-  MainWindow& window = session_.Shown();
+  MainWindow& window = session_.window;
   window.setProperty(EasyToRead, on);
   auto& editor = static_cast<EditorArea&>(window.WidgetOf(session_.form1.controls.Text2));
   editor.setCursorWidth(on ? ThickCaret : EditorArea::CaretWidth);

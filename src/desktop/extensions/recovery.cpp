@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int LongestLineShown = 60;
+constexpr int MostCharactersShown = 60;
 
 /// The first name among Rescued.ZRM, Rescued2.ZRM, ... that is free in a folder.
 fs::path FreeName(const fs::path& folder) {
@@ -29,11 +29,23 @@ fs::path FreeName(const fs::path& folder) {
   return file;
 }
 
+/// "BOX, STAR": the procedures that a text defines; a dash if there are none.
+QString ProceduresIn(const QStringList& lines) {
+  QStringList names;
+  for (const QString& line : lines) {
+    const QStringList words = line.split(u' ', Qt::SkipEmptyParts);
+    if (words.size() > 1 && words.first().compare(u"TO", Qt::CaseInsensitive) == 0) names.append(words[1].toUpper());
+  }
+  return names.isEmpty() ? QStringLiteral("-") : names.join(u", ");
+}
+
 QString WordsAbout(const RescuedText& rescued) {
   const QStringList lines = WithLineEnds(rescued.Text).split(QLatin1Char('\n'));
-  return QStringLiteral("A text in the editor was not saved.\n\nLast change: %1\nLines: %2\nFirst line: %3")
-      .arg(QLocale::system().toString(rescued.When, QLocale::ShortFormat), QString::number(lines.size()),
-           lines.first().left(LongestLineShown));
+  return QStringLiteral(
+             "A text in the editor was not saved.\n\nProcedures: %1\nLast change: %2\nLines: %3\nFirst line: %4")
+      .arg(ProceduresIn(lines).left(MostCharactersShown),
+           QLocale::system().toString(rescued.When, QLocale::ShortFormat), QString::number(lines.size()),
+           lines.first().left(MostCharactersShown));
 }
 
 }  // namespace
@@ -42,7 +54,7 @@ Recovery::Recovery(Session& session, LineJournal& lineJournal, const fs::path& f
     : session_(session),
       lineJournal_(lineJournal),
       folder_(folder),
-      editor_(static_cast<EditorArea&>(session.Shown().WidgetOf(session.form1.controls.Text2))) {
+      editor_(static_cast<EditorArea&>(session.window.WidgetOf(session.form1.controls.Text2))) {
   delay_.setSingleShot(true);
   delay_.setInterval(delay);
   QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] {
@@ -76,7 +88,7 @@ void Recovery::Forget() {
 }
 
 bool Recovery::PressKey(const QKeyEvent& press) {
-  if (press.key() == Qt::Key_F2 && editor_.HasKeys() && !session_.Running().IsRunning()) folding_ = true;
+  if (press.key() == Qt::Key_F2 && editor_.HasKeys() && !session_.stage.IsRunning()) folding_ = true;
   return false;
 }
 
@@ -130,7 +142,7 @@ void Recovery::OfferAll(Form1& form1) {
 void Recovery::Offer(Form1& form1, RescuedText& rescued) {
   const fs::path file = FreeName(form1.folders.ToRead(form1.folders.AppFolder));
   QMessageBox box(QMessageBox::Information, QLatin1String(ProgramName), WordsAbout(rescued), QMessageBox::NoButton,
-                  &session_.Shown());
+                  &session_.window);
   QPushButton* open = box.addButton(QStringLiteral("&Open it in the editor"), QMessageBox::ActionRole);
   const QString name = QString::fromStdString(file.filename().string());
   const QPushButton* keep = box.addButton(QStringLiteral("&Keep it as ") + name, QMessageBox::ActionRole);
@@ -138,7 +150,7 @@ void Recovery::Offer(Form1& form1, RescuedText& rescued) {
   QPushButton* later = box.addButton(QStringLiteral("Ask &later"), QMessageBox::ActionRole);
   box.setDefaultButton(open);
   box.setEscapeButton(later);
-  session_.Running().Stay(box);
+  session_.stage.Stay(box);
   if (box.clickedButton() == open) Open(form1, rescued);
   const bool kept = box.clickedButton() == keep && SkipOnFailure([&] { WriteBeside(file, rescued.Text); });
   if (kept || box.clickedButton() == drop) RescueFolder::Drop(rescued);

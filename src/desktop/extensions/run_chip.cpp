@@ -18,7 +18,7 @@ constexpr Colour ChipLetters = 0xFFFFFF;
 
 }  // namespace
 
-RunChip::RunChip(Session& session) : session_(session), label_(*new QLabel(&session.Shown())) {
+RunChip::RunChip(Session& session) : session_(session), label_(*new QLabel(&session.window)) {
   label_.setObjectName(QStringLiteral("RunChip"));
   label_.setAttribute(Qt::WA_TransparentForMouseEvents);
   label_.setTextFormat(Qt::PlainText);
@@ -51,14 +51,14 @@ void RunChip::RunEnds() {
 void RunChip::Show() {
   QString words = said_;
   // While a box is open, the program waits for its answer.
-  const bool isLong = running_.isValid() && running_.elapsed() >= LongRun && !session_.Running().HasBox();
+  const bool isLong = running_.isValid() && running_.elapsed() >= LongRun && !session_.stage.HasBox();
   if (words.isEmpty() && isLong) {
     words = QStringLiteral("Running for %1 s. Ctrl+Break stops.").arg(running_.elapsed() / 1000);
   }
   ShowLetters(label_, ChipPoints, true);
   label_.setText(words);
   label_.adjustSize();
-  label_.move(session_.Shown().width() - label_.width() - EdgeDistance, EdgeDistance);
+  label_.move(session_.window.width() - label_.width() - EdgeDistance, EdgeDistance);
   label_.raise();
   if (label_.isHidden() != words.isEmpty()) label_.setHidden(words.isEmpty());
 }

@@ -17,11 +17,12 @@ const Speed::Pace Speed::Paces[4] = {
     {Qt::Key_4, "The space bar runs one line. Ctrl+1: full speed", -1},
 };
 
-Speed::Speed(Session& session, RunChip& chip)
+Speed::Speed(Session& session, RunChip& chip, Zoom& zoom)
     : session_(session),
       chip_(chip),
-      list_(static_cast<QListView&>(session.Shown().WidgetOf(session.form1.controls.List1))),
-      line_(session.form1.interpreter) {}
+      zoom_(zoom),
+      list_(static_cast<QListView&>(session.window.WidgetOf(session.form1.controls.List1))),
+      runningLine_(session.form1.interpreter) {}
 
 bool Speed::PressKey(const QKeyEvent& press) {
   if (waiting_ && pace_->Pause < 0 && press.key() == Qt::Key_Space && press.modifiers() == Qt::NoModifier) {
@@ -42,7 +43,7 @@ void Speed::Choose(const Pace& pace) {
   waiting_ = false;
   chip_.Say(QLatin1String(pace.Words));
   // At full speed, a step costs nothing extra.
-  session_.Watch().OnStep = pace.Pause == 0 ? std::function<void()>() : [this] { Step(); };
+  session_.watch.OnStep = pace.Pause == 0 ? std::function<void()>() : [this] { Step(); };
   if (pace.Pause == 0) ForgetLine();
 }
 
@@ -54,16 +55,17 @@ void Speed::RunEnds() {
 }
 
 void Speed::Step() {
-  line_.Step();
+  runningLine_.Step();
   MarkLine();
-  chip_.Say(ToQString(line_.Words()));
+  chip_.Say(ToQString(runningLine_.Words()));
   waiting_ = true;
-  session_.Running().ShowState();
+  zoom_.FollowTurtle();
+  session_.stage.ShowState();
   QElapsedTimer shown;
   shown.start();
   while (waiting_) {
     QThread::msleep(5);
-    session_.Running().AnswerDesktop();
+    session_.stage.AnswerDesktop();
     if (pace_->Pause >= 0 && shown.elapsed() >= pace_->Pause) waiting_ = false;
   }
 }
@@ -71,15 +73,15 @@ void Speed::Step() {
 void Speed::MarkLine() {
   const QAbstractItemModel& entries = *list_.model();
   // A typed line runs after the program, where the list ends.
-  const bool isListed = line_.Number() > 0 && line_.Number() <= entries.rowCount();
-  const QModelIndex index = isListed ? entries.index(line_.Number() - 1, 0) : QModelIndex();
+  const bool isListed = runningLine_.Number() > 0 && runningLine_.Number() <= entries.rowCount();
+  const QModelIndex index = isListed ? entries.index(runningLine_.Number() - 1, 0) : QModelIndex();
   list_.setCurrentIndex(index);
   if (isListed) list_.scrollTo(index);
 }
 
 void Speed::ForgetLine() {
-  if (line_.Number() == 0) return;
-  line_.Clear();
+  if (runningLine_.Number() == 0) return;
+  runningLine_.Clear();
   MarkLine();
 }
 

@@ -2,7 +2,7 @@
 
 #include "console/running_line.h"
 #include "desktop/extensions/run_chip.h"
-#include "desktop/session.h"
+#include "desktop/extensions/zoom.h"
 
 class QListView;
 
@@ -11,7 +11,7 @@ namespace zerimo {
 /// Lets a program be watched: Ctrl+1 to Ctrl+4 choose how fast its lines run.
 class Speed : public Extension {
  public:
-  Speed(Session& session, RunChip& chip);
+  Speed(Session& session, RunChip& chip, Zoom& zoom);
 
   bool PressKey(const QKeyEvent& press) override;
   void RunEnds() override;
@@ -34,8 +34,9 @@ class Speed : public Extension {
 
   Session& session_;
   RunChip& chip_;
+  Zoom& zoom_;
   QListView& list_;
-  RunningLine line_;
+  RunningLine runningLine_;
   const Pace* pace_ = &Paces[0];
   bool waiting_ = false;
 };

@@ -27,8 +27,8 @@ bool MeansStop(const QKeyEvent& press) {
 
 bool Stop::PressKey(const QKeyEvent& press) {
   if (!MeansStop(press)) return false;
-  if (session_.Running().IsRunning()) {
-    session_.Running().RequestStop();
+  if (session_.stage.IsRunning()) {
+    session_.stage.RequestStop();
   } else if (session_.form1.controls.Timer3.Enabled) {
     session_.Deliver([](Form1& form1) { form1.files.pictures.EndSlideShow(); });
   }
@@ -39,7 +39,7 @@ void Stop::BoxOpens(QDialog& dialog) {
   auto* box = qobject_cast<QMessageBox*>(&dialog);
   if (box == nullptr || !IsProgramRunning() || !sinceAnswer_.isValid() || sinceAnswer_.elapsed() > AtOnce) return;
   const QPushButton* button = box->addButton(QStringLiteral("&Stop the program"), QMessageBox::ActionRole);
-  QObject::connect(button, &QPushButton::clicked, box, [this] { session_.Running().RequestStop(); });
+  QObject::connect(button, &QPushButton::clicked, box, [this] { session_.stage.RequestStop(); });
 }
 
 bool Stop::IsProgramRunning() const { return session_.form1.interpreter.controlPath.CtrlStr() != "."; }
@@ -51,28 +51,28 @@ bool Stop::ClosesDuringRun() {
   if (asking_) return false;
   asking_ = true;
   // Not from here: the toolkit would ignore a second closing.
-  QTimer::singleShot(0, &session_.Shown(), [this] { AskToLeave(); });
+  QTimer::singleShot(0, &session_.window, [this] { AskToLeave(); });
   return true;
 }
 
 void Stop::AskToLeave() {
-  if (!session_.Running().IsRunning()) {
+  if (!session_.stage.IsRunning()) {
     asking_ = false;
-    session_.Shown().close();
+    session_.window.close();
     return;
   }
   QMessageBox box(QMessageBox::Question, QLatin1String(ProgramName), QStringLiteral("A program is running."),
-                  QMessageBox::NoButton, &session_.Shown());
+                  QMessageBox::NoButton, &session_.window);
   box.setInformativeText(QStringLiteral("Stop it and keep the drawing, close Zerimo, or let it go on?"));
   QPushButton* stop = box.addButton(QStringLiteral("&Stop the program"), QMessageBox::ActionRole);
   const QPushButton* close = box.addButton(QStringLiteral("&Close Zerimo"), QMessageBox::ActionRole);
   QPushButton* goOn = box.addButton(QStringLiteral("&Go on"), QMessageBox::ActionRole);
   box.setDefaultButton(stop);
   box.setEscapeButton(goOn);
-  session_.Running().Ask(box);
+  session_.stage.Ask(box);
   asking_ = false;
-  if (box.clickedButton() == stop) session_.Running().RequestStop();
-  if (box.clickedButton() == close) session_.Running().RequestClose();
+  if (box.clickedButton() == stop) session_.stage.RequestStop();
+  if (box.clickedButton() == close) session_.stage.RequestClose();
 }
 
 }  // namespace zerimo

@@ -31,7 +31,7 @@ int Smaller(int percent) {
 
 Zoom::Zoom(Session& session)
     : session_(session),
-      window_(session.Shown()),
+      window_(session.window),
       surface_(static_cast<SurfaceWidget&>(window_.WidgetOf(session.form1.Picture1))) {
   qApp->installEventFilter(this);
 }
@@ -78,7 +78,7 @@ void Zoom::Choose(int percent) {
   window_.Sync();
 }
 
-void Zoom::RunEnds() {
+void Zoom::FollowTurtle() {
   const QPointF place = PlaceToShow();
   if (place == shown_) return;
   shown_ = place;

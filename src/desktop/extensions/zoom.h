@@ -10,13 +10,16 @@ class SurfaceWidget;
 
 /// Ctrl++, Ctrl+- and Ctrl+0, or Ctrl and the wheel, choose how large the window shows everything, from 50 to 400
 /// percent. Of an enlarged picture, the wheel moves the part that is seen, and so does the turtle when it leaves it.
-/// What the controls say stays.
+/// The controls keep their properties.
 class Zoom : public QObject, public Extension {
  public:
   explicit Zoom(Session& session);
 
   bool PressKey(const QKeyEvent& press) override;
-  void RunEnds() override;
+  void RunEnds() override { FollowTurtle(); }
+
+  /// Moves an enlarged picture if the turtle has left the part that is seen.
+  void FollowTurtle();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,7 +36,7 @@ class Zoom : public QObject, public Extension {
   MainWindow& window_;
   SurfaceWidget& surface_;
   int percent_ = 100;
-  /// The place that was to be shown after the last run.
+  /// The place that was brought into sight last.
   QPointF shown_;
 };
 

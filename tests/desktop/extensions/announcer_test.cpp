@@ -10,7 +10,7 @@ namespace {
 class AnnouncerTest : public ExtensionsTest {
  protected:
   QAccessibleInterface& Voice() {
-    return *QAccessible::queryAccessibleInterface(Shown().findChild<QWidget*>("Announcer"));
+    return *QAccessible::queryAccessibleInterface(Window().findChild<QWidget*>("Announcer"));
   }
   std::string Said() { return Voice().text(QAccessible::Name).toStdString(); }
 };

@@ -82,6 +82,16 @@ TEST_F(EditorAidsTest, ReplaceAllIsOneStepToUndo) {
   EXPECT_EQ(Editor().toPlainText(), "fd 10\nfd 20");
 }
 
+TEST_F(EditorAidsTest, TheBarGrowsWithTheWindowWhereThereIsRoom) {
+  TypeInEditor("fd 10");
+  Press(Qt::Key_F, Qt::ControlModifier);
+  const int usual = Wanted().font().pixelSize();
+  Press(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_NEAR(Wanted().font().pixelSize(), usual * 1.25, 1);
+  for (int i = 0; i < 10; ++i) Press(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_LE(Bar().minimumSizeHint().width(), Editor().width());
+}
+
 TEST_F(EditorAidsTest, EnterInTheReplacementReplacesOneAndFindsTheNext) {
   TypeInEditor("fd 10\nfd 20");
   Find("fd");

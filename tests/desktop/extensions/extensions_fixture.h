@@ -34,7 +34,7 @@ class ExtensionsTest : public DesktopTest {
 
   const std::chrono::milliseconds KeepAfter;
 
-  QLabel& Chip() { return *Shown().findChild<QLabel*>("RunChip"); }
+  QLabel& Chip() { return *Window().findChild<QLabel*>("RunChip"); }
 };
 
 }  // namespace zerimo

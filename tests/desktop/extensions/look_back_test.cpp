@@ -17,7 +17,7 @@ class LookBackTest : public ExtensionsTest {
   void Back() { Press(Qt::Key_Left, Qt::AltModifier); }
   void On() { Press(Qt::Key_Right, Qt::AltModifier); }
   QLabel* Words() {
-    auto* sheet = Shown().findChild<QWidget*>("LookBack");
+    auto* sheet = Window().findChild<QWidget*>("LookBack");
     return sheet == nullptr ? nullptr : sheet->findChild<QLabel*>();
   }
   std::string Told() { return Words() == nullptr ? "" : Words()->text().toStdString(); }

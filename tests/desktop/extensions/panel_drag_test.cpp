@@ -33,7 +33,7 @@ TEST_F(PanelDragTest, TheBarDragsThePanelAndItStaysThere) {
 TEST_F(PanelDragTest, ItStaysInTheWindowAndComesBackAtOnce) {
   Drag(OnTheBar, {5000, 5000});
   const QPoint corner = Panel().pos();
-  EXPECT_TRUE(Shown().rect().contains(Panel().geometry()));
+  EXPECT_TRUE(Window().rect().contains(Panel().geometry()));
   Drag(OnTheBar, {-10, -10});
   EXPECT_EQ(Panel().pos(), corner - QPoint(10, 10));
 }

@@ -15,7 +15,7 @@ class ProjectorTest : public ExtensionsTest {
   static double ContrastOf(const QWidget& widget) {
     return Contrast(widget.palette().color(QPalette::Base), widget.palette().color(QPalette::Text));
   }
-  QFocusFrame* Frame() { return Shown().findChild<QFocusFrame*>(); }
+  QFocusFrame* Frame() { return Window().findChild<QFocusFrame*>(); }
 };
 
 TEST_F(ProjectorTest, WhatTheClassReadsHasAContrastOfSeven) {
@@ -40,7 +40,7 @@ TEST_F(ProjectorTest, EveryPairOfColoursBecomesEasyToRead) {
     for (int letters = 0; letters < 16; ++letters) {
       FormControls().Text1[0].BackColor = QBColor(ground);
       FormControls().Text1[0].ForeColor = QBColor(letters);
-      Shown().Sync();
+      Window().Sync();
       EXPECT_GE(ContrastOf(Row(0)), 7) << letters << " on " << ground;
     }
   }

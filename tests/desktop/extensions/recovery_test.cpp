@@ -53,7 +53,7 @@ class RecoveryTest : public ExtensionsTest {
     session.reset();
     session = std::make_unique<Session>(QRect(0, 0, 1024, 768), OwnFolders());
     session->Start();
-    Shown().setFixedSize(1024, 768);
+    Window().setFixedSize(1024, 768);
     AddExtensions(*session, State(), KeepAfter);
     Settle();
   }
@@ -123,7 +123,7 @@ TEST_F(RecoveryTest, ByeGivesTheTextUp) {
 
 TEST_F(RecoveryAtOnceTest, ClosingTheWindowKeepsTheText) {
   TypeInEditor("to a");
-  Shown().close();
+  Window().close();
   EXPECT_EQ(Kept(), Texts{"to a"});
 }
 
@@ -146,8 +146,9 @@ TEST_F(RecoveryTest, TheNextStartOpensTheTextInTheEditor) {
   TypeUntilKept("to a\nend");
   AnswerNextBox({Qt::Key_O});
   StartAnew();
-  ASSERT_TRUE(Until([this] { return Boxes.size() == 1 && !session->Running().IsRunning(); }));
+  ASSERT_TRUE(Until([this] { return Boxes.size() == 1 && !session->stage.IsRunning(); }));
   EXPECT_TRUE(Boxes[0].Text.starts_with("A text in the editor was not saved.")) << Boxes[0].Text;
+  EXPECT_TRUE(Boxes[0].Text.find("\nProcedures: A\n") != std::string::npos) << Boxes[0].Text;
   EXPECT_TRUE(Boxes[0].Text.ends_with("Lines: 2\nFirst line: to a")) << Boxes[0].Text;
   EXPECT_EQ(Boxes[0].Buttons, (Texts{"Open it in the editor", "Keep it as Rescued.ZRM", "Drop it", "Ask later"}));
   EXPECT_EQ(FormControls().Text2.Text, "to a\r\nend");
@@ -178,7 +179,7 @@ TEST_F(RecoveryTest, ATextThatNobodyDecidedAboutIsOfferedAgain) {
   for (std::size_t start = 1; start <= 2; ++start) {
     AnswerNextBox({Qt::Key_Escape});
     StartAnew();
-    ASSERT_TRUE(Until([&] { return Boxes.size() == start && !session->Running().IsRunning(); }));
+    ASSERT_TRUE(Until([&] { return Boxes.size() == start && !session->stage.IsRunning(); }));
   }
   EXPECT_EQ(Kept(), Texts{"one"});
 }
@@ -189,7 +190,7 @@ TEST_F(RecoveryTest, EveryTextIsOffered) {
   AnswerNextBox({Qt::Key_Return});
   AnswerNextBox({Qt::Key_Return});
   StartAnew();
-  ASSERT_TRUE(Until([this] { return Boxes.size() == 2 && !session->Running().IsRunning(); }));
+  ASSERT_TRUE(Until([this] { return Boxes.size() == 2 && !session->stage.IsRunning(); }));
   EXPECT_EQ(FormControls().Text2.Text, "one\r\ntwo");
   // No program runs that could be stopped.
   EXPECT_EQ(Boxes[1].Buttons, Boxes[0].Buttons);
@@ -204,7 +205,7 @@ TEST_F(RecoveryTest, AWindowThatLivesKeepsItsText) {
 TEST_F(RecoveryTest, ATextThatCannotBeKeptIsSavedBesideTheProgramsWhenTheWindowCloses) {
   std::ofstream(State()) << "in the way";
   TypeInEditor("to a");
-  Shown().close();
+  Window().close();
   EXPECT_TRUE(session->HasEnded());
   EXPECT_EQ(ReadFile("Rescued.ZRM"), "to a");
 }
@@ -214,7 +215,7 @@ TEST_F(RecoveryTest, ATextThatNothingKeepsIsNotGivenUpWithoutAQuestion) {
   WriteFile("Rescued.ZRM/in the way", "");
   TypeInEditor("to a");
   AnswerNextBox({Qt::Key_Escape});
-  Shown().close();
+  Window().close();
   ASSERT_EQ(Boxes.size(), 1u);
   EXPECT_TRUE(Boxes[0].Text.starts_with("The text of the editor could not be kept")) << Boxes[0].Text;
   EXPECT_TRUE(session->HasEnded());

@@ -27,12 +27,12 @@ TEST_F(RunChipTest, ItStandsInTheCornerAndTakesNoClicks) {
   EXPECT_TRUE(Chip().testAttribute(Qt::WA_TransparentForMouseEvents));
   Press(Qt::Key_3, Qt::ControlModifier);
   EXPECT_TRUE(Chip().isVisible());
-  EXPECT_EQ(Chip().geometry().right(), Shown().width() - 9);
+  EXPECT_EQ(Chip().geometry().right(), Window().width() - 9);
 }
 
 TEST_F(RunChipTest, NothingOfItIsAControlOrInThePicture) {
   Press(Qt::Key_3, Qt::ControlModifier);
-  EXPECT_EQ(Chip().parentWidget(), &Shown());
+  EXPECT_EQ(Chip().parentWidget(), &Window());
   EXPECT_EQ(session->form1.FindControl("RunChip"), nullptr);
 }
 

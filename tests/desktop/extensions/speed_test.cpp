@@ -34,7 +34,7 @@ class SpeedTest : public ExtensionsTest {
     Choose(Qt::Key_4);
     QTimer stepper;
     QObject::connect(&stepper, &QTimer::timeout, [&] {
-      if (!session->Running().IsRunning()) return;
+      if (!session->stage.IsRunning()) return;
       const std::string told = Chip().text().toStdString();
       // The step that the last Space asked for is still on its way.
       if (!steps.empty() && steps.back() == told) return;
@@ -82,7 +82,7 @@ TEST_F(SpeedTest, FullSpeedEndsTheSteppingOfARun) {
   Enter("repeat 100 [rt 1]");
   EXPECT_NEAR(session->form1.turtle.TurtleDir, 100 * 3.14159265 / 180, 1e-5);
   EXPECT_FALSE(Chip().isVisible());
-  EXPECT_FALSE(session->Watch().OnStep);
+  EXPECT_FALSE(session->watch.OnStep);
 }
 
 TEST_F(SpeedTest, ASteppedRunCanBeStopped) {

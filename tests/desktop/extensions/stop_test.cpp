@@ -82,7 +82,7 @@ TEST_F(StopTest, WhileNothingRunsTheKeyDoesNothing) {
 }
 
 TEST_F(StopTest, AKeyStopsBehindABox) {
-  WhileABoxStands([this] { QTest::keyClick(&Shown(), Qt::Key_Pause, Qt::ControlModifier); });
+  WhileABoxStands([this] { QTest::keyClick(&Window(), Qt::Key_Pause, Qt::ControlModifier); });
   Enter("repeat 1000 [message 1]");
   EXPECT_EQ(Boxes.size(), 1u);
   EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
@@ -110,7 +110,7 @@ class ClosingDuringARun : public StopTest {
  protected:
   void CloseAndAnswer(Qt::Key answer, const char* line) {
     AnswerNextBox({answer});
-    During(50, [this] { Shown().close(); });
+    During(50, [this] { Window().close(); });
     Enter(line);
   }
 };
@@ -136,20 +136,20 @@ TEST_F(ClosingDuringARun, GoOnGoesOn) {
 }
 
 TEST_F(ClosingDuringARun, ClosingTwiceCloses) {
-  WhileABoxStands([this] { Shown().close(); }, Qt::Key_F5);
-  During(50, [this] { Shown().close(); });
+  WhileABoxStands([this] { Window().close(); }, Qt::Key_F5);
+  During(50, [this] { Window().close(); });
   Enter("label a goto a");
   EXPECT_TRUE(session->HasEnded());
 }
 
 TEST_F(ClosingDuringARun, AQuestionOfTheSystemClosesWithTheWindow) {
-  WhileABoxStands([this] { Shown().close(); }, Qt::Key_F5);
+  WhileABoxStands([this] { Window().close(); }, Qt::Key_F5);
   Press(Qt::Key_F9);
   EXPECT_TRUE(session->HasEnded());
 }
 
 TEST_F(ClosingDuringARun, TheIdleWindowClosesWithoutAQuestion) {
-  Shown().close();
+  Window().close();
   EXPECT_TRUE(session->HasEnded());
 }
 

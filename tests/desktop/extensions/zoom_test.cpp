@@ -68,10 +68,10 @@ TEST_F(ZoomTest, TheWheelWithCtrlDoesTheSameAnywhere) {
 TEST_F(ZoomTest, TheRowsStayAtTheBottomAndWhole) {
   const int height = Rows().height();
   Double();
-  EXPECT_EQ(Rows().geometry().bottom(), Shown().rect().bottom());
+  EXPECT_EQ(Rows().geometry().bottom(), Window().rect().bottom());
   EXPECT_EQ(Rows().height(), 2 * height);
   EXPECT_EQ(Row(4).width(), Row(0).width());
-  EXPECT_LE(Row(0).geometry().right(), Shown().rect().right());
+  EXPECT_LE(Row(0).geometry().right(), Window().rect().right());
 }
 
 TEST_F(ZoomTest, PixelsOfThePictureBecomeSquares) {
@@ -98,13 +98,34 @@ TEST_F(ZoomTest, WhatIsDrawnWhileEnlargedIsSeen) {
 
 TEST_F(ZoomTest, TheTurtleIsInSight) {
   const auto seen = [this](QPoint point) {
-    return Shown().RoomNow().AboveRows.contains(SurfaceShown().mapToParent(point));
+    return Window().RoomNow().AboveRows.contains(SurfaceShown().mapToParent(point));
   };
   Double();
   EXPECT_TRUE(seen({1024, 768}));
   Enter("cs");
   Enter("setxy 90 70");
   EXPECT_TRUE(seen({1624, 301}));
+}
+
+TEST_F(ZoomTest, TheTurtleStaysInSightWhileItsLinesRunOneByOne) {
+  Enter("cs");
+  Enlarge(30);
+  QTest::keyClick(&Row(0), Qt::Key_4, Qt::ControlModifier);
+  std::string told;
+  std::vector<bool> inSight;
+  QTimer stepper;
+  QObject::connect(&stepper, &QTimer::timeout, [&] {
+    // Until the next line is told, the one before it is still on its way.
+    if (!session->stage.IsRunning() || Chip().text().toStdString() == told) return;
+    told = Chip().text().toStdString();
+    const Turtle& turtle = session->form1.turtle;
+    const QPointF place = QPointF(turtle.TurtleX, turtle.TurtleY) / UnitsPerPixel * 4;
+    inSight.push_back(Window().RoomNow().AboveRows.contains(SurfaceShown().mapToParent(place.toPoint())));
+    QTest::keyClick(&Row(0), Qt::Key_Space);
+  });
+  stepper.start(20);
+  Enter("setxy 90 70 setxy (-90) (-70) setxy 90 (-70)");
+  EXPECT_EQ(inSight, std::vector<bool>(5, true));
 }
 
 TEST_F(ZoomTest, TheWheelMovesAnEnlargedPictureToItsEdges) {
