@@ -32,7 +32,8 @@ void Try(std::string_view input) {
   batch::Script script{{1, batch::action::TypeLine{"LOAD A"}}};
   session.Session().Run(script);
   CheckStore(session.Session().form1.interpreter.store);
-  const classroom::ProgramSource source(program, session.Session().form1.interpreter.store);
+  classroom::ProgramSource source(program);
+  source.Match(session.Session().form1.interpreter.store);
   Require(source.Lines.size() <= classroom::ProgramSource::MostLines);
   if (first.Procedure.empty()) return;
   MemorySession other(Disk::Confined("/there is no such folder", folder.Path()));
