@@ -18,7 +18,7 @@ cp 'ben cole/ENDLESS.ZRM' slow/A.ZRM
 cp 'ben cole/ENDLESS.ZRM' slow/B.ZRM
 cd slow
 printf '%s\n' A.ZRM B.ZRM >list.txt
-PART_TIME=5 sh "$recipe" list.txt 1 report.html --seconds 3 2>messages || fail "$(cat messages)"
+PART_TIME=8 sh "$recipe" list.txt 1 report.html --steps 0 --seconds 5 2>messages || fail "$(cat messages)"
 grep -q ': interrupted after 1 of 2 programs' messages || fail "no time was over: $(cat messages)"
 [ "$(cut -d, -f1,3 report.csv | tr -d '\r' | tail -n +2)" = "$(printf '"%s","stopped"\n' A.ZRM B.ZRM)" ] ||
   fail "not both programs are there, once: $(cat report.csv)"
