@@ -134,10 +134,12 @@ Play PupilSession::MainPlay() {
 std::string PupilSession::WithProcedure(const std::string& text) const {
   const std::string name = outline_ ? outline_->MainProcedure(loadName_) : std::string();
   if (name.empty() || outline_->Has(AnyName)) return text;
+  const std::string withoutInputs = outline_->FirstCallOf(loadName_).Procedure;
   QStringList lines = QString::fromStdString(text).split(u'\n');
   for (QString& line : lines) {
-    if (line.section(u' ', 0, 0).trimmed() == QLatin1String(AnyName))
-      line.replace(0, QLatin1String(AnyName).size(), QString::fromStdString(name));
+    if (line.section(u' ', 0, 0).trimmed() != QLatin1String(AnyName)) continue;
+    const bool isAlone = line.trimmed() == QLatin1String(AnyName) && !withoutInputs.empty();
+    line.replace(0, QLatin1String(AnyName).size(), QString::fromStdString(isAlone ? withoutInputs : name));
   }
   return lines.join(u'\n').toStdString();
 }
@@ -180,8 +182,8 @@ void PupilSession::RunMain() {
   outcome_.Where = went.Where;
   outcome_.Notes += went.Notes;
   MatchSource(run);
-  // With a session, or with another line after that of LOAD.
-  const bool hasBegun = play.Typed.size() != 1;
+  // With a session, or with another line after that of LOAD. A program without lines can't begin.
+  const bool hasBegun = outline_ && play.Typed.size() != 1;
   if (went.How != Result::Refused) FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
   tell_(outcome_);
   WritePicture(run, run_file::Picture);

@@ -32,7 +32,8 @@ class PupilSession {
   Play PlayOf(const Goal& goal) const;
   /// Loads the program and calls the procedure that starts it.
   Play PlayWithoutSession(QStringList& notes) const;
-  /// A session's text in which the lines that begin with PROGRAM call the program's main procedure.
+  /// A session's text in which the lines that begin with PROGRAM call the program's main procedure, or, without inputs,
+  /// one that needs none.
   std::string WithProcedure(const std::string& text) const;
   /// Plays a session, or takes the last one if it was the same: what ends by a limit need not take its time twice.
   SessionRun& Played(const Play& play, const char* transcript);

@@ -125,6 +125,7 @@ TEST_F(ClassProgramTest, WhatCanNotBeRunStopsNobody) {
   }
   EXPECT_EQ(ResultOf("EMPTY.ZRM"), "ended");
   EXPECT_EQ(Pupil("EMPTY.ZRM").value("notes").toArray().at(0).toString(), "The program is empty.");
+  EXPECT_EQ(MistakesOf("EMPTY.ZRM"), "empty");
   EXPECT_EQ(PrintedBy("LAST.ZRM"), (Lines{"?LOAD LAST", "?LAST", "? 1"}));
 }
 
@@ -312,6 +313,13 @@ TEST_F(ClassProgramTest, OneSessionServesTheWholeClass) {
   Run("--session all.session");
   EXPECT_EQ(PrintedBy("ANNA.ZRM"), (Lines{"?LOAD PROGRAM", "?BOX 60", "? 60"}));
   EXPECT_EQ(PrintedBy("BEN.ZRM"), (Lines{"?LOAD PROGRAM", "?BEN 60", "? 120"}));
+}
+
+TEST_F(ClassProgramTest, ProgramWithoutInputsIsAProcedureThatNeedsNone) {
+  Write("STAR.ZRM", "TO STAR :N|PRINT :N|END|TO MAIN|STAR 7|END|");
+  Program.Write("all.session", "LOAD PROGRAM\nPROGRAM\nPROGRAM 5\n");
+  Run("--session all.session");
+  EXPECT_EQ(PrintedBy("STAR.ZRM"), (Lines{"?LOAD PROGRAM", "?MAIN", "? 7", "?STAR 5", "? 5"}));
 }
 
 TEST_F(ClassProgramTest, WritesMarksAndAPageForEachPupil) {

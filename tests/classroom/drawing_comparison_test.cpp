@@ -203,6 +203,8 @@ TEST(Placement, ADifferenceWithinTheToleranceIsNotTold) {
   EXPECT_EQ(placed->Shift.Y, 0);
 }
 
+TEST(Placement, ADotIsNoSmallDrawing) { EXPECT_FALSE(Compare(Ell, Changed(Ell, 0, false, 0.04, {}), {}).Placed); }
+
 TEST(Placement, OfAnotherDrawingThereIsNone) {
   EXPECT_FALSE(Compare(Square, Ell, {}).Placed);
   EXPECT_FALSE(Compare(Square, {}, {}).Placed);

@@ -88,10 +88,37 @@ const Case Statements[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Statements, FindingsOf, testing::ValuesIn(Statements));
 
+const Case Numbers[] = {
+    {"TO A|FD 50,5|SETXY 10,20|SETPC 4,5|PRINT 3,5|END|",
+     {"2 comma 50,5", "3 comma 10,20", "3 missing inputs SETXY 2 1", "4 comma 4,5", "5 comma 3,5"}},
+    {"TO B :S :W|FD :S|RT :W|END|TO A|B 50, 90|REPEAT 4 [FD 50, RT 90]|END|", {"6 comma 50,", "7 comma 50,"}},
+    {"TO A|SETPC \"RED|FD \"50|FD \"50\"|REPEAT \"4 [FD 50]|END|",
+     {"2 strange sign \"RED \"", "3 strange sign \"50 \"", "4 strange sign \"\" \"", "5 strange sign \"4 \""}},
+    {"TO A|FD 50;|FD [50]|FD {50}|FD '50'|FD $50|FD 50?|FD 5^2|FD 100\\2|FD @50|FD 50!|END|",
+     {"2 strange sign 50; ;", "3 strange sign [50] [", "4 strange sign {50} {", "5 strange sign '50' '",
+      "6 strange sign $50 $", "7 strange sign 50? ?", "8 strange sign 5^2 ^", "9 strange sign 100\\2 \\",
+      "10 strange sign @50 @", "11 strange sign 50! !"}},
+    {"TO A :N|FD :50|FD 100:2|FD :N:|FD ::N|FD 2:N|IF :N=5:|FD 1|ENDIF|END|",
+     {"2 strange sign :50 :", "3 strange sign 100:2 :", "4 strange sign :N: :", "5 strange sign ::N :",
+      "6 missing times 2:N", "7 strange sign :N=5: :"}},
+    {"TO A|FD 10+|FD 2*|FD *2|FD 50 %|FD (50|FD 50)|PRINT (3+4|END|",
+     {"2 missing number 10+", "3 missing number 2*", "4 missing number *2", "5 missing number 50%", "6 open sum (50",
+      "7 strange sign 50) )", "8 open sum (3+4"}},
+    {"TO A|FD 50px|FD 2x50|FD l0|FD fifty|END|",
+     {"2 unknown name 50px", "3 unknown name 2x50", "4 unknown name l0", "5 unknown name fifty"}},
+    {"TO A :N|FD 2*(:N+1)-3|SETXY (-5) :N/2|IF :N>=3|RT (90-:N)%7|ENDIF|(SUM 1 2 3)|PRINT 3.5|END|", {}},
+};
+INSTANTIATE_TEST_SUITE_P(Numbers, FindingsOf, testing::ValuesIn(Numbers));
+
 const Case Repeats[] = {
+    {"TO A|REPEAT (-4) [FD 1]|END|", {"2 count zero (-4)"}},
+    {"TO A|MAKE \"N 40000|REPEAT :N [FD 1]|END|", {"3 count too large :N"}},
+    {"TO A|MAKE \"N 2.5|REPEAT :N [FD 1]|END|", {"3 count fraction :N"}},
+    {"TO A|MAKE \"N 0|MAKE \"N :N+4|REPEAT :N [FD 1]|END|", {}},
+    {"TO A|MAKE \"N 40|REPEAT :N [FD 1]|REPEAT (4)[RT 9]|REPEAT :N + 1 [FD 1]|END|", {}},
     {"TO A|REPEAT 4 [FD 10 REPEAT 3 [RT 30]]|END|", {}},
     {"TO A|REPEAT [FD 1]|END|", {"2 count missing"}},
-    {"TO A|REPEAT 0 [FD 1]|END|", {"2 count zero"}},
+    {"TO A|REPEAT 0 [FD 1]|END|", {"2 count zero 0"}},
     {"TO A|REPEAT 2.5 [FD 1]|END|", {"2 count fraction 2.5"}},
     {"TO A|REPEAT 40000 [FD 1]|END|", {"2 count too large 40000"}},
     {"TO A :N|REPEAT :N [FD 5 MAKE \"N 4]|END|", {"2 count changed :N", "2 input overwritten :N"}},
@@ -105,6 +132,16 @@ const Case Repeats[] = {
 INSTANTIATE_TEST_SUITE_P(Repeats, FindingsOf, testing::ValuesIn(Repeats));
 
 const Case Words[] = {
+    {"TO A :N|FD :n|END|TO B|MAKE \"SIDE 5|FD :SIED|END|", {"2 unknown name :n :N", "6 unknown name :SIED :SIDE"}},
+    {"TO A|MAKE \"n 5|FD :n|MAKE \"MY_SIDE 5|FD :MY_SIDE|END|", {}},
+    {"TO A :S1 :S2|FD :S1|RT :S2|END|", {}},
+    {"TO A|FD=50|FD-50|SETX=5|END|",
+     {"2 no blank after word FD", "3 no blank after word FD", "4 no blank after word SETX"}},
+    {"TO B|END|TO A|4 B|4*B|50|END|", {"4 dead word 4 B", "5 dead word 4*B", "6 dead word 50"}},
+    {"TO STAR-1|END|", {"1 name is a sum STAR-1"}},
+    {"TO A :N|IF :N 5|FD 1|ENDIF|END|", {"2 blank in sum :N 5"}},
+    {"TO A|PRINT|PRINT \"A\"+5|PRINT (\"A\")|MESSAGE \"A\" \"B\"|END|",
+     {"2 missing inputs PRINT 1 0", "3 text and more \"\"+5", "4 text and more (\"\")", "5 text and more \"\" \"\""}},
     {"TO A|FORWRD 10|END|", {"2 unknown word FORWRD FORWARD"}},
     {"TO A|FD10|END|", {"2 unknown word FD10 FD 10"}},
     {"TO A|LOAD B|FORWRD 10|SOMETHING|END|", {"3 unknown word FORWRD FORWARD"}},

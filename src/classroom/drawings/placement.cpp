@@ -15,6 +15,9 @@ namespace {
 constexpr std::size_t MostLines = 400;
 constexpr std::size_t MostTries = 200;
 
+/// Tolerances: a drawing with a smaller spread has no shape of its own.
+constexpr double LeastSpread = 2;
+
 /// Sizes that differ by a smaller fraction count as equal.
 constexpr double SameSize = 0.03;
 
@@ -155,6 +158,8 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   const Extent to = ExtentOf(drawing);
   const double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
   const double tolerance = 1.5 * rules.Tolerance;
+  // Within the tolerance, a dot is like any other.
+  if (to.Spread < LeastSpread * tolerance) return std::nullopt;
   std::vector<Placement> tries = TriesFor(goal, drawing, 1);
   // Another size is told only if it matters.
   const std::vector<Placement> scaled = TriesFor(goal, drawing, scale);

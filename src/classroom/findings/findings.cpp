@@ -48,8 +48,8 @@ Findings FindingsIn(const QString& program) {
   if (IsOneLine(program)) return {{Mistake::OneLine, 0, {}}};
   const Listing listing(program);
   Findings findings;
-  for (const auto find : {FindInStatements, FindInRepeats, FindInWords, FindInNames, FindInProcedures, FindInJumps,
-                          FindInPens, FindInFile}) {
+  for (const auto find : {FindInStatements, FindInNumbers, FindInRepeats, FindInWords, FindInNames, FindInProcedures,
+                          FindInJumps, FindInPens, FindInFile}) {
     find(listing, findings);
   }
   SortAndThin(findings);

@@ -16,6 +16,7 @@ using Findings = std::vector<Finding>;
 void FindInStatements(const Listing& listing, Findings& findings);
 void FindInRepeats(const Listing& listing, Findings& findings);
 void FindInWords(const Listing& listing, Findings& findings);
+void FindInNumbers(const Listing& listing, Findings& findings);
 void FindInNames(const Listing& listing, Findings& findings);
 void FindInProcedures(const Listing& listing, Findings& findings);
 void FindInJumps(const Listing& listing, Findings& findings);

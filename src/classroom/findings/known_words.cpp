@@ -1,6 +1,7 @@
 #include "classroom/findings/known_words.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace zerimo::classroom {
@@ -95,11 +96,15 @@ int LettersBetween(const QString& one, const QString& other) {
 QString SuggestionFor(const QString& word, const QStringList& others) {
   QStringList all = others;
   for (const WordFacts* each : Words()) all.append(TextOf(each->Word));
-  all.sort();
+  return MostLike(word, all);
+}
+
+QString MostLike(const QString& word, QStringList others) {
+  others.sort();
   QString best;
   // A third of the letters may be wrong, and at most two of a short word.
   int least = std::min<int>(2, static_cast<int>(word.size()) / 3) + 1;
-  for (const QString& each : all) {
+  for (const QString& each : std::as_const(others)) {
     const int letters = LettersBetween(word, each);
     if (letters >= least) continue;
     least = letters;

@@ -47,6 +47,9 @@ QRegularExpression ExpressionOf(QString text, bool (*isSuch)(const WordFacts*));
 /// The known word, or the one among `others`, whose spelling is most like this one, or empty.
 QString SuggestionFor(const QString& word, const QStringList& others);
 
+/// The one among some texts whose spelling is most like this one, or empty if none is.
+QString MostLike(const QString& word, QStringList others);
+
 /// How many letters have to be changed, inserted, removed or swapped to turn one text into the other.
 int LettersBetween(const QString& one, const QString& other);
 

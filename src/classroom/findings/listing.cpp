@@ -29,6 +29,12 @@ QStringList WordsOfBody(const QString& body) {
   return words;
 }
 
+/// Cut as a reader would: blanks beside a sign cut nothing, except before a minus number.
+QStringList InputsIn(QString text) {
+  static const QRegularExpression besideSign(" ?([+*/%<>=!]) ?| ?(-) ");
+  return text.replace(besideSign, "\\1\\2").split(u' ', Qt::SkipEmptyParts);
+}
+
 }  // namespace
 
 QStringList LinesOf(const QString& text) {
@@ -51,10 +57,7 @@ RepeatParts PartsOf(const QString& repeat) {
   return {count, repeat.mid(begin + 1), {}};
 }
 
-QStringList Statement::Inputs() const {
-  static const QRegularExpression besideSign(" ?([+*/%<>=!]) ?| ?(-) ");
-  return Rest().replace(besideSign, "\\1\\2").split(u' ', Qt::SkipEmptyParts);
-}
+QStringList Statement::Inputs() const { return InputsIn(Rest()); }
 
 Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
   // A body is taken apart at the names of procedures that may stand below it.
@@ -111,6 +114,16 @@ const ListedProcedure* Listing::Find(const QString& name) const {
 
 bool Listing::Loads() const {
   return std::ranges::any_of(Statements, [](const Statement& each) { return each.Is<Action::Load>(); });
+}
+
+QStringList Listing::SumsOf(const Statement& statement) const {
+  if (statement.Is<inputs::Repeat>()) return InputsIn(PartsOf(statement.Text).Count);
+  const bool isUnknown = statement.Known == nullptr && Find(statement.Word()) == nullptr;
+  if (isUnknown || TakesAName(statement.Known) || statement.Is<StmtElse>()) return {};
+  const QStringList inputs = statement.Inputs();
+  const qsizetype taken = InputsTakenBy(statement).value_or(inputs.size());
+  // What MAKE makes is written without a colon.
+  return inputs.mid(statement.Is<StmtMake>() ? 1 : 0, taken);
 }
 
 std::optional<qsizetype> Listing::InputsTakenBy(const Statement& statement) const {

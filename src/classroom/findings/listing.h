@@ -56,6 +56,8 @@ class Listing {
   const ListedProcedure* Find(const QString& name) const;
   /// Whether the program loads others, whose procedures and names it may use.
   bool Loads() const;
+  /// The inputs of a statement that are worked out, or the count of a REPEAT.
+  QStringList SumsOf(const Statement& statement) const;
   /// How many inputs the word of a statement takes, or nothing if it is unknown, or takes a name or all that follows.
   std::optional<qsizetype> InputsTakenBy(const Statement& statement) const;
 

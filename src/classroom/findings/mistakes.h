@@ -40,6 +40,10 @@ enum class Mistake : std::uint8_t {
   SecondQuote,
   BlankInSum,
   CounterUsed,
+  Comma,
+  StrangeSign,
+  MissingNumber,
+  TextAndMore,
   // About REPEAT.
   CountMissing,
   CountZero,
@@ -69,6 +73,7 @@ enum class Mistake : std::uint8_t {
   DuplicateProcedure,
   WithoutEnd,
   NameIsAWord,
+  NameIsASum,
   IfWithoutEndif,
   MisplacedElse,
   DeepElse,

@@ -9,7 +9,7 @@ namespace {
 
 /// The names that a text uses, with their colons.
 QStringList NamesIn(const QString& text) {
-  static const QRegularExpression name(":[A-Z]+");
+  static const QRegularExpression name(":[A-Za-z_]+");
   QStringList names;
   for (auto walk = name.globalMatch(text); walk.hasNext();) names.append(walk.next().captured());
   return names;
@@ -17,7 +17,7 @@ QStringList NamesIn(const QString& text) {
 
 /// The name that a statement makes, as it is read later, or empty: with its colon, unless its quote is missing.
 QString MadeBy(const Statement& statement) {
-  static const QRegularExpression make = ExpressionOf("^@ ([\":]?)([A-Z]+)", IsOneOf<StmtMake>);
+  static const QRegularExpression make = ExpressionOf("^@ ([\":]?)([A-Za-z_]+)", IsOneOf<StmtMake>);
   const auto match = make.match(statement.Text);
   if (!match.hasMatch()) return {};
   return match.captured(1).isEmpty() ? match.captured(2) : u':' + match.captured(2);
@@ -26,6 +26,15 @@ QString MadeBy(const Statement& statement) {
 QStringList InputsOf(const Listing& listing, const Statement& statement) {
   if (statement.Procedure < 0) return {};
   return listing.Procedures[static_cast<std::size_t>(statement.Procedure)].Inputs;
+}
+
+/// The text of a statement without the inputs of its procedure that have a digit in their names.
+QString WithoutInputs(const Listing& listing, const Statement& statement) {
+  QString text = statement.Text;
+  for (const QString& input : InputsOf(listing, statement)) {
+    if (input.back().isDigit()) text.remove(QRegularExpression(QRegularExpression::escape(input) + "(?![\\w])"));
+  }
+  return text;
 }
 
 /// The names that the program makes, as they are read.
@@ -38,31 +47,36 @@ QSet<QString> KnownNames(const Listing& listing) {
   return known;
 }
 
+Finding UnknownName(const Statement& statement, const QString& name, const QSet<QString>& known) {
+  // The same in capitals, or one that is spelled nearly so.
+  const QString capitals = name.toUpper();
+  const QString meant = known.contains(capitals) ? capitals : MostLike(capitals, {known.begin(), known.end()});
+  return {Mistake::UnknownName, statement.Line, {name, meant}};
+}
+
 void FindUnknown(const Listing& listing, const QSet<QString>& known, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
-    for (const QString& name : NamesIn(statement.Text)) {
-      if (!known.contains(name)) findings.push_back({Mistake::UnknownName, statement.Line, {name}});
+    for (const QString& name : NamesIn(WithoutInputs(listing, statement))) {
+      if (!known.contains(name)) findings.push_back(UnknownName(statement, name, known));
     }
   }
 }
 
-/// The part of a statement in which names are read.
-QString ReadPartOf(const Listing& listing, const Statement& statement) {
-  if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).Count;
-  const bool isUnknown = statement.Known == nullptr && listing.Find(statement.Word()) == nullptr;
-  if (isUnknown || TakesAName(statement.Known) || statement.Is<StmtElse>()) return {};
-  const QStringList inputs = statement.Inputs();
-  const qsizetype taken = listing.InputsTakenBy(statement).value_or(inputs.size());
-  // What MAKE makes is written without a colon.
-  return inputs.mid(statement.Is<StmtMake>() ? 1 : 0, taken).join(u' ');
+/// The digits are left over when the name is read. Those of an input are read with it.
+void FindDigits(const Listing& listing, Findings& findings) {
+  static const QRegularExpression name(":[A-Za-z_]+\\d+");
+  for (const Statement& statement : listing.Statements) {
+    const auto match = name.match(WithoutInputs(listing, statement));
+    if (match.hasMatch()) findings.push_back({Mistake::DigitInName, statement.Line, {match.captured()}});
+  }
 }
 
 /// A word in a sum vanishes: a name without its colon, a text without quotes, or nothing that anybody knows.
 void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings& findings) {
-  static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Z]\\w*(?![\\w.])");
+  static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Za-z]\\w*(?![\\w.])");
   static const QRegularExpression exponent("^\\d+E\\d*$");
   for (const Statement& statement : listing.Statements) {
-    for (auto walk = plain.globalMatch(ReadPartOf(listing, statement)); walk.hasNext();) {
+    for (auto walk = plain.globalMatch(listing.SumsOf(statement).join(u' ')); walk.hasNext();) {
       const QString name = walk.next().captured();
       const bool isOther = IsKnownWord(name) || listing.Find(name) != nullptr || exponent.match(name).hasMatch();
       const Finding asLogic{Mistake::LogicWord, statement.Line, {name}};
@@ -71,7 +85,8 @@ void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings&
       const Mistake what = known.contains(u':' + name)                                     ? Mistake::NameWithoutColon
                            : statement.Is<inputs::Print, inputs::Message, inputs::Write>() ? Mistake::TextWithoutQuotes
                                                                                            : Mistake::UnknownName;
-      findings.push_back({what, statement.Line, {name}});
+      findings.push_back(what == Mistake::UnknownName ? UnknownName(statement, name, known)
+                                                      : Finding{what, statement.Line, {name}});
     }
   }
 }
@@ -124,6 +139,7 @@ void FindSums(const Listing& listing, const Statement& call, Findings& findings)
 void FindInNames(const Listing& listing, Findings& findings) {
   const QSet<QString> known = KnownNames(listing);
   if (!listing.Loads()) FindUnknown(listing, known, findings);
+  FindDigits(listing, findings);
   FindVanishing(listing, known, findings);
   FindZeros(listing, findings);
   for (const Statement& statement : listing.Statements) {

@@ -10,6 +10,8 @@ void FindEnds(const Listing& listing, Findings& findings) {
   for (const ListedProcedure& each : listing.Procedures) {
     if (!each.HasEnd) findings.push_back({Mistake::WithoutEnd, each.Line, {each.Name}});
     if (IsKnownWord(each.Name)) findings.push_back({Mistake::NameIsAWord, each.Line, {each.Name}});
+    static const QRegularExpression sign("[-+*/%<>=!]");
+    if (each.Name.contains(sign)) findings.push_back({Mistake::NameIsASum, each.Line, {each.Name}});
     const ListedProcedure* const first = listing.Find(each.Name);
     if (first != &each)
       findings.push_back({Mistake::DuplicateProcedure, each.Line, {each.Name, QString::number(first->Line)}});

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "classroom/findings/findings.h"
 
@@ -9,13 +10,27 @@ namespace {
 constexpr double GreatestCount = 32767;
 constexpr qsizetype MostStatements = 199;
 
-void FindInCount(const Statement& repeat, Findings& findings) {
+/// The number in the name of a count, if the program makes it once and with a number; otherwise the count itself.
+QString ValueOf(const Listing& listing, const QString& count) {
+  static const QRegularExpression make = ExpressionOf("^@ \"([A-Za-z_]+) \\(?(-?[\\d.]+)\\)?$", IsOneOf<StmtMake>);
+  QString value;
+  for (const Statement& each : listing.Statements) {
+    if (!each.Is<StmtMake>() || each.Rest().section(u' ', 0, 0) != u'"' + count.mid(1)) continue;
+    if (!value.isEmpty()) return count;
+    value = make.match(each.Text).captured(2);
+  }
+  const bool isInput = std::ranges::any_of(
+      listing.Procedures, [&count](const ListedProcedure& each) { return each.Inputs.contains(count); });
+  return !count.startsWith(u':') || isInput || value.isEmpty() ? count : value;
+}
+
+void FindInCount(const Listing& listing, const Statement& repeat, Findings& findings) {
   const QString count = PartsOf(repeat.Text).Count;
   if (count.isEmpty()) findings.push_back({Mistake::CountMissing, repeat.Line, {}});
   bool isNumber = false;
-  const double number = count.toDouble(&isNumber);
-  if (isNumber && number == 0) findings.push_back({Mistake::CountZero, repeat.Line, {}});
-  if (isNumber && number != 0 && count.contains(u'.'))
+  const double number = ValueOf(listing, count).remove(u'(').remove(u')').toDouble(&isNumber);
+  if (isNumber && number <= 0) findings.push_back({Mistake::CountZero, repeat.Line, {count}});
+  if (isNumber && number > 0 && number != std::floor(number))
     findings.push_back({Mistake::CountFraction, repeat.Line, {count}});
   if (isNumber && number > GreatestCount) findings.push_back({Mistake::CountTooLarge, repeat.Line, {count}});
   const QString make = NameOf(IsOneOf<StmtMake>) + " \"" + count.mid(1) + ' ';
@@ -58,7 +73,7 @@ void FindInRepeats(const Listing& listing, Findings& findings) {
   FindIndented(listing, findings);
   for (const Statement& statement : listing.Statements) {
     if (!statement.Is<inputs::Repeat>()) continue;
-    FindInCount(statement, findings);
+    FindInCount(listing, statement, findings);
     FindPrint(statement, findings);
     // An inner one is checked with the brackets of the whole line.
     if (statement.InBody) continue;

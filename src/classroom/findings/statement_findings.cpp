@@ -38,7 +38,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::MinusMake, R"(^@ "?:?([A-Z]+) -)", IsMake},
     Pattern{Mistake::DoubleMinus, R"((\S*--\S*))"},
     Pattern{Mistake::PercentAfterTimes, R"(([\w):.]*\w\*[\w:.]+%\S*))"},
-    Pattern{Mistake::MissingTimes, R"(([\d)]+\(\S*))"},
+    Pattern{Mistake::MissingTimes, R"(([\d)]+(?:\(|:[A-Za-z_])\S*))"},
     Pattern{Mistake::BarePoint, R"( (\.\d+))"},
     Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf},
     Pattern{Mistake::Exponent, R"((?:^|[^\w:"])(\d+E[+-]?\d+))"},
@@ -51,7 +51,6 @@ constexpr std::array Patterns = {
     Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
             IsOneOf<Sum, Product, Quotient, Remainder, LineWidth, Wait, SetPC, SetBG, Fill>, GreatestNumber},
-    Pattern{Mistake::DigitInName, R"((:[A-Z]+\d+))"},
     Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
     Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},
     Pattern{Mistake::SecondQuote, R"-(^@ "([A-Z]+)")-", IsMake},
@@ -62,6 +61,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::ColourCode, R"(^& (1[6-9]|[2-9]\d|\d{3,}|\(-\d+\))$)",
             IsOneOf<SetPC, SetBG, Fill, FloodFill, TextColor>},
     Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<Print, Message, Write>},
+    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"".*|"" ?["\d:(+*\-].*)$)-", IsOneOf<Print, Message>},
     Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<BracketSum, BracketProduct>},
     Pattern{Mistake::ElseWithMore, R"(^@ (\S.*))", IsOneOf<StmtElse>},
 };
@@ -80,6 +80,15 @@ void FindPatterns(const Statement& statement, Findings& findings) {
     if (match.hasMatch() && (Patterns[i].Greatest < 0 || match.captured(1).toDouble() > Patterns[i].Greatest))
       findings.push_back({Patterns[i].What, statement.Line, {match.captured(1)}});
   }
+}
+
+/// A number at the beginning of a line, as in "4 SQUARE", makes it a sum.
+void FindLoneNumber(const Listing& listing, const Statement& statement, Findings& findings) {
+  static const QRegularExpression number(R"(^\(?-?[\d.]+\)?(?: |$|\*([A-Z]+)$))");
+  const auto match = number.match(statement.Text);
+  const QString factor = match.captured(1);
+  const bool isSum = !factor.isEmpty() && !IsKnownWord(factor) && listing.Find(factor) == nullptr;
+  if (match.hasMatch() && !isSum) findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});
 }
 
 /// A word that does nothing, alone or with what follows it.
@@ -114,9 +123,9 @@ void FindLargeProduct(const Statement& statement, Findings& findings) {
 }
 
 void FindMissingBlank(const Statement& statement, Findings& findings) {
-  static const QRegularExpression call(R"(^([A-Z]+)\()");
+  static const QRegularExpression call(R"(^([A-Z]+)[-+*/%=(])");
   const auto match = call.match(statement.Text);
-  if (match.hasMatch() && IsKnownWord(match.captured(1)))
+  if (match.hasMatch() && IsCommand(match.captured(1)))
     findings.push_back({Mistake::NoBlankAfterWord, statement.Line, {match.captured(1)}});
 }
 
@@ -127,6 +136,7 @@ void FindInStatements(const Listing& listing, Findings& findings) {
     // The statements of a body are checked one by one.
     if (statement.Is<inputs::Repeat>()) continue;
     FindPatterns(statement, findings);
+    FindLoneNumber(listing, statement, findings);
     FindDeadWord(statement, findings);
     FindThirds(statement, findings);
     FindLargeProduct(statement, findings);

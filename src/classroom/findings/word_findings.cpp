@@ -58,7 +58,10 @@ QString SecondStatementOf(const Listing& listing, const Statement& statement) {
 void FindMissingInputs(const Listing& listing, const Statement& statement, Findings& findings) {
   const QString word = statement.Word();
   const ListedProcedure* const procedure = listing.Find(word);
-  const qsizetype needed = procedure == nullptr ? NeededInputsOf(statement.Known) : procedure->Inputs.size();
+  const bool isSilent = statement.Is<inputs::Print, inputs::Message, inputs::Write>();
+  const qsizetype needed = procedure != nullptr ? procedure->Inputs.size()
+                           : isSilent           ? 1
+                                                : NeededInputsOf(statement.Known);
   const qsizetype given = statement.Inputs().size();
   if (given < needed && (given == 0 || IsWord(word)))
     findings.push_back(
@@ -94,12 +97,21 @@ void FindBlankInSum(const Listing& listing, const Statement& statement, Findings
   }
 }
 
+/// What follows the condition of an IF on its line is lost, unless it is a statement, which is told as such.
+void FindAfterCondition(const Statement& statement, Findings& findings) {
+  const QStringList given = statement.Inputs();
+  const bool isOther = statement.Text.contains(u'=') || statement.Text.contains(u'"');
+  if (statement.Is<StmtIf>() && !statement.InBody && given.size() > 1 && !isOther && !IsWord(given[1]))
+    findings.push_back({Mistake::BlankInSum, statement.Line, {statement.Rest()}});
+}
+
 void FindInInputs(const Listing& listing, const Statement& statement, Findings& findings) {
   const QString second = SecondStatementOf(listing, statement);
   if (!second.isEmpty()) return findings.push_back({Mistake::SeveralStatements, statement.Line, {second}});
   FindMissingInputs(listing, statement, findings);
   FindTooMany(listing, statement, findings);
   FindBlankInSum(listing, statement, findings);
+  FindAfterCondition(statement, findings);
 }
 
 void FindInHeads(const Listing& listing, Findings& findings) {
