@@ -74,7 +74,45 @@ export async function refusedFile(learner) {
   await learner.key("F2");
   await learner.ready();
   await learner.enter("LOAD MINE");
+  await draws(learner, "MINE", 50);
+}
+
+/** The lines of a program that goes so many steps. */
+export const program = (name, steps) => [`TO ${name}`, `FD ${steps}`, "END"];
+
+/** Until the browser keeps a file of this name. */
+export const keeps = (learner, name) =>
+  learner.until(async (file) => {
+    const kept = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
+    return (await Array.fromAsync(kept.keys())).some((key) => key.toUpperCase() === file);
+  }, name);
+
+export async function save(learner, name, steps) {
+  await learner.saveAs(name, program(name, steps));
+  await learner.noDialog();
+  await keeps(learner, `${name}.ZRM`);
+}
+
+export async function comesAgain(learner) {
+  await learner.page.reload();
+  await learner.ready();
+}
+
+export async function draws(learner, word, steps) {
   await learner.enter("CS");
-  await learner.enter("MINE");
-  assert.equal(await learner.pixelsBeside(["CS", "FD 50"]), 0);
+  await learner.enter(word);
+  assert.equal(await learner.pixelsBeside(["CS", `FD ${steps}`]), 0);
+}
+
+/** What F10 saves is there after a reload, and F9 loads it. */
+export async function keptFile(learner) {
+  await save(learner, "MINE", 50);
+  await comesAgain(learner);
+  await learner.key("F9");
+  await learner.dialog("");
+  await learner.page.keyboard.type("MINE");
+  await learner.key("Enter");
+  await learner.noDialog();
+  await learner.ready();
+  await draws(learner, "MINE", 50);
 }

@@ -3,52 +3,16 @@ import assert from "node:assert/strict";
 import { existsSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
-import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
-import { refusedFile } from "./common_flows.mjs";
+import { closeBrowser, openBrowser, withLearner } from "./browsers.mjs";
+import { comesAgain, draws, keeps, keptFile, program, refusedFile, save } from "./common_flows.mjs";
 import { folder, fromPage } from "./learner.mjs";
 
-before(openBrowser);
+before(() => openBrowser("chromium"));
 after(closeBrowser);
 
 const { deflateSync, strToU8, unzipSync, zipSync } = fromPage("fflate");
-const program = (name, steps) => [`TO ${name}`, `FD ${steps}`, "END"];
 
-/** Until the browser keeps a file of this name. */
-const keeps = (learner, name) =>
-  learner.until(async (file) => {
-    const kept = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
-    return (await Array.fromAsync(kept.keys())).some((key) => key.toUpperCase() === file);
-  }, name);
-
-async function save(learner, name, steps) {
-  await learner.saveAs(name, program(name, steps));
-  await learner.noDialog();
-  await keeps(learner, `${name}.ZRM`);
-}
-
-async function comesAgain(learner) {
-  await learner.page.reload();
-  await learner.ready();
-}
-
-async function draws(learner, word, steps) {
-  await learner.enter("CS");
-  await learner.enter(word);
-  assert.equal(await learner.pixelsBeside(["CS", `FD ${steps}`]), 0);
-}
-
-test("what F10 saves is there after a reload, and F9 loads it", () =>
-  withLearner({}, async (learner) => {
-    await save(learner, "MINE", 50);
-    await comesAgain(learner);
-    await learner.key("F9");
-    await learner.dialog("");
-    await learner.page.keyboard.type("MINE");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.ready();
-    await draws(learner, "MINE", 50);
-  }));
+test("what F10 saves is there after a reload, and F9 loads it", () => withLearner({}, keptFile));
 
 test("SHOW SAVEAS and SHOW OPEN work by keyboard", () =>
   withLearner({}, async (learner) => {

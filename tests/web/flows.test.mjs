@@ -2,11 +2,11 @@
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { after, before, test } from "node:test";
-import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
+import { closeBrowser, openBrowser, withLearner } from "./browsers.mjs";
 import { flows } from "./common_flows.mjs";
 import { fromPage } from "./learner.mjs";
 
-before(openBrowser);
+before(() => openBrowser("chromium"));
 after(closeBrowser);
 
 for (const [name, work] of Object.entries(flows)) test(name, () => withLearner({}, work));

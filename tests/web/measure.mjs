@@ -5,7 +5,7 @@
 import { readdirSync, readFileSync } from "node:fs";
 import { join } from "node:path";
 import { gzipSync } from "node:zlib";
-import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
+import { closeBrowser, openBrowser, withLearner } from "./browsers.mjs";
 import { site } from "./learner.mjs";
 import { net, sessions } from "./sessions_to_time.mjs";
 
@@ -86,7 +86,7 @@ async function tellSpeed() {
   }
 }
 
-await openBrowser();
+await openBrowser("chromium");
 tellSize();
 await tellStart();
 await tellLines();

@@ -2,9 +2,9 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 import { setTimeout as later } from "node:timers/promises";
-import { closeBrowser, openBrowser, withLearner } from "./chromium.mjs";
+import { closeBrowser, openBrowser, withLearner } from "./browsers.mjs";
 
-before(openBrowser);
+before(() => openBrowser("chromium"));
 after(closeBrowser);
 
 /** What a typed line takes, in milliseconds. It is three lines of the program: its TO, itself and its END. */

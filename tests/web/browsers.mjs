@@ -1,12 +1,16 @@
-// Learners in Chromium without a window, each in a browser of their own. The browser is in ZERIMO_BROWSER (chromium).
+// Learners in Chromium or Firefox without a window, each in a browser of their own. The programs are in ZERIMO_BROWSER
+// (chromium) and ZERIMO_FIREFOX (firefox-esr).
 import { clearUp, fromPage, Learner } from "./learner.mjs";
 
 const puppeteer = fromPage("puppeteer-core");
+const browsers = {
+  chromium: { executablePath: process.env.ZERIMO_BROWSER ?? "/usr/bin/chromium", args: ["--no-sandbox", "--disable-gpu"] },
+  firefox: { browser: "firefox", executablePath: process.env.ZERIMO_FIREFOX ?? "/usr/bin/firefox-esr" },
+};
 let browser;
 
-export async function openBrowser() {
-  const executablePath = process.env.ZERIMO_BROWSER ?? "/usr/bin/chromium";
-  browser = await puppeteer.launch({ executablePath, args: ["--no-sandbox", "--disable-gpu"] });
+export async function openBrowser(name) {
+  browser = await puppeteer.launch(browsers[name]);
 }
 
 export async function closeBrowser() {
