@@ -4,6 +4,9 @@
 add_compile_options(-fwasm-exceptions)
 add_link_options(-fwasm-exceptions)
 
+# The compiler alone decides what is put into its caller: the optimizer of the linker does not know `noinline`.
+add_link_options(-sBINARYEN_EXTRA_PASSES=--one-caller-inline-max-function-size=0)
+
 # The linker calls node, and a node that is not Debian's does not look where Debian's packages for it are.
 set_property(GLOBAL PROPERTY RULE_LAUNCH_LINK "${CMAKE_COMMAND} -E env NODE_PATH=/usr/share/nodejs")
 

@@ -65,12 +65,7 @@ void Runner::Run1(std::string_view procedure) {
   shown.Follow();
   try {
     // A walk past the end of the store has nothing left to run.
-    while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) {
-      lineNow_ = walk.Line;
-      context_.watch.Step();
-      SkipOnFailure([&] { walk.Class = context_.store.ClassOf(walk.Line); });
-      Act(walk);
-    }
+    while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) Act(walk);
   } catch (const StopRun&) {
     for (std::string& name : ProceduresOn(context_.controlPath.CtrlStr())) {
       SkipOnFailure([&] { inputs_.DeleteLocalVariable(name); });
@@ -80,7 +75,12 @@ void Runner::Run1(std::string_view procedure) {
   lineNow_ = 0;
 }
 
-void Runner::Act(Walk& walk) {
+// A function of its own in every build: an engine of WebAssembly can't replace one that is running, so a loop that held
+// the whole act would stay for a whole program as it was first and hastily compiled.
+[[gnu::noinline]] void Runner::Act(Walk& walk) {
+  lineNow_ = walk.Line;
+  context_.watch.Step();
+  SkipOnFailure([&] { walk.Class = context_.store.ClassOf(walk.Line); });
   switch (walk.Class) {
     case StmtPrimitive:
       SkipOnFailure([&] {
