@@ -34,7 +34,8 @@ function replay(event: Event): void {
 }
 
 export class Events {
-  private running = false;
+  /** The name of the call that is being carried out, or nothing. */
+  private running = "";
   private readonly waiting: Call[] = [];
   private readonly kept: Event[] = [];
   private readonly timers = new Map<string, { clock: number; every: number; isDue: boolean }>();
@@ -51,22 +52,27 @@ export class Events {
   }
 
   isRunning(): boolean {
-    return this.running;
+    return this.running !== "";
+  }
+
+  /** A timer's tick runs, which shows the next slide. */
+  isTicking(): boolean {
+    return this.running === "Tick";
   }
 
   deliver(name: string, ...words: Word[]): void {
     this.waiting.push({ kind: "call", name, words, texts: [] });
-    if (!this.running) this.next();
+    if (!this.isRunning()) this.next();
   }
 
   /** The system has carried out the last event and shown what it left. */
   done(): void {
-    this.running = false;
+    this.running = "";
     this.whenRunning(false);
     if (this.waiting.length > 0) return this.next();
-    while (this.kept.length > 0 && !this.running) replay(this.kept.shift()!);
+    while (this.kept.length > 0 && !this.isRunning()) replay(this.kept.shift()!);
     for (const [name, timer] of this.timers) {
-      if (!timer.isDue || this.running) continue;
+      if (!timer.isDue || this.isRunning()) continue;
       timer.isDue = false;
       this.deliver("Tick", name);
     }
@@ -86,21 +92,21 @@ export class Events {
   private tick(name: string): void {
     const timer = this.timers.get(name);
     if (timer === undefined) return;
-    timer.isDue = this.running;
+    timer.isDue = this.isRunning();
     if (!timer.isDue) this.deliver("Tick", name);
   }
 
   private next(): void {
     const call = this.waiting.shift();
     if (call === undefined) return;
-    this.running = true;
+    this.running = call.name;
     this.whenRunning(true);
     this.send({ ...call, texts: this.collect() });
   }
 
   /** Boxes and the page's own bar are not the system's: they live while it runs. */
   private hold(event: Event): void {
-    if (!this.running || !event.isTrusted || (event instanceof KeyboardEvent && meansStop(event))) return;
+    if (!this.isRunning() || !event.isTrusted || (event instanceof KeyboardEvent && meansStop(event))) return;
     const target = event.target instanceof Element ? event.target : document.body;
     if (target.closest("dialog, #bar") || document.querySelector("dialog[open]")) return;
     event.preventDefault();

@@ -1,11 +1,12 @@
-// Sessions whose time is that of the interpreter, and how long a program takes for them.
+// Sessions whose time is that of the interpreter, and how long a program takes for them. They run for seconds: an engine
+// of WebAssembly compiles a module hastily, and what runs often once more.
 import { spawnSync } from "node:child_process";
 
 const runs = 5;
 
 export const sessions = {
-  "sums": "MAKE :A 0\nREPEAT 3000 [REPEAT 300 [MAKE :A :A+1]]",
-  "drawing": "RESOLUTION 5\nREPEAT 3000 [REPEAT 300 [FD 3 RT 7]]",
+  "sums": "MAKE :A 0\nREPEAT 20000 [REPEAT 300 [MAKE :A :A+1]]",
+  "drawing": "RESOLUTION 5\nREPEAT 10000 [REPEAT 300 [FD 3 RT 7]]",
 };
 
 function seconds(command, words, session) {
