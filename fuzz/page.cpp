@@ -32,8 +32,8 @@ namespace web {
 
 void TellPage(const std::string& message) { fuzz::Require(nlohmann::json::parse(message).is_array()); }
 
-void ShowRows(const PixelBuffer& pixels, int first, int last) {
-  fuzz::Require(first >= 0 && first <= last && last < pixels.Rows());
+void ShowPart(const PixelBuffer& pixels, const PixelRect& part) {
+  fuzz::Require(!part.IsEmpty() && United(part, pixels.Bounds()) == pixels.Bounds());
 }
 
 std::string AskPage(const std::string& question) {
@@ -43,7 +43,12 @@ std::string AskPage(const std::string& question) {
 
 void HoldFor(double) {}
 
-double PageClock() { return page.Now += MillisecondsBetweenLooks; }
+bool TakeFrame() {
+  page.Now += MillisecondsBetweenLooks;
+  return true;
+}
+
+double PageClock() { return page.Now; }
 
 bool TakeStop() { return page.Now > PatienceInMilliseconds; }
 

@@ -11,9 +11,11 @@ import { Speed } from "./speed";
 import { screenFor, Stage } from "./stage";
 import { collect, settle, showPage, unitsPerPixel } from "./views";
 
+/** How often the picture is shown as it grows while a line runs. */
+const frameMilliseconds = 16;
+
 class Page {
   private readonly shared = new Shared();
-  private readonly worker = new Worker("worker.js", { type: "module" });
   private readonly bar = new Bar();
   private readonly chip = new Chip((isLong) => this.bar.showStop(isLong));
   private readonly speed = new Speed(this.shared, (line) => this.chip.say(line));
@@ -21,8 +23,13 @@ class Page {
   private readonly events = new Events((message) => this.post(message), collect, (running) => this.run(running));
   private readonly stage: Stage;
   private readonly keys: Keys;
+  private started = () => {};
+  private frames = 0;
 
-  constructor(private readonly folder: Folder) {
+  constructor(
+    private readonly folder: Folder,
+    private readonly worker: Worker,
+  ) {
     const { width, height } = screenFor(innerWidth, innerHeight - this.bar.height());
     this.stage = new Stage(this.events, width, height);
     this.stage.box.append(this.chip.box);
@@ -37,12 +44,14 @@ class Page {
     this.letFilesBeDropped();
   }
 
-  start(files: File[]): void {
+  /** Until the system has started. */
+  start(files: File[]): Promise<void> {
     const { memory: shared } = this.shared;
     const [width, height] = [this.stage.width * unitsPerPixel, this.stage.height * unitsPerPixel];
     this.post({ kind: "start", shared, width, height, files: [...files, ...this.folder.all()] });
     this.events.deliver("Load");
     void this.offerLinked();
+    return new Promise((resolve) => (this.started = resolve));
   }
 
   private post(message: ToWorker): void {
@@ -54,13 +63,14 @@ class Page {
   }
 
   private take(message: FromWorker): void {
-    if (message.kind === "told") for (const told of message.told) this.show(told);
-    if (message.kind === "rows") this.stage.surface.showRows(message.rows);
+    if (message.kind === "told") for (const told of JSON.parse(message.told) as Told[]) this.show(told);
+    if (message.kind === "part") this.stage.surface.showPart(message.part);
     if (message.kind === "ask") void this.answer(message.question, message.files);
     if (message.kind === "written") void this.keep(message.files);
     if (message.kind !== "done") return;
     settle();
     this.events.done();
+    this.started();
   }
 
   private show(told: Told): void {
@@ -90,12 +100,16 @@ class Page {
   }
 
   private run(running: boolean): void {
+    clearInterval(this.frames);
+    if (running) this.frames = window.setInterval(() => this.shared.offerFrame(), frameMilliseconds);
     this.chip.run(running);
     if (!running) this.boxes.begin();
   }
 
   private stop(): void {
-    if (!this.events.isRunning()) return this.events.deliver("EndSlideShow");
+    const isRunning = this.events.isRunning();
+    if (!isRunning || this.events.isTicking()) this.events.deliver("EndSlideShow");
+    if (!isRunning) return;
     this.shared.stop();
     this.boxes.close();
   }
@@ -201,12 +215,16 @@ function beep(): void {
   tone.onended = () => void sound.close();
 }
 
-/** The service worker brings the headers for shared memory where the server does not, and keeps the page for later. */
+/** The service worker keeps the page for later, and brings the headers for shared memory where the server does not. */
+async function serviceWorker(): Promise<void> {
+  await navigator.serviceWorker?.register("service-worker.js");
+  await navigator.serviceWorker?.ready;
+}
+
 async function isolated(): Promise<boolean> {
-  const ready = navigator.serviceWorker?.register("service-worker.js").then(() => navigator.serviceWorker.ready);
   // Some engines isolate the page and have no shared memory all the same.
   if (crossOriginIsolated) return "SharedArrayBuffer" in globalThis;
-  await ready;
+  await serviceWorker();
   if (sessionStorage.getItem("isolated") !== null) return false;
   sessionStorage.setItem("isolated", "tried");
   location.reload();
@@ -214,8 +232,12 @@ async function isolated(): Promise<boolean> {
 }
 
 if (await isolated()) {
+  // What it loads comes while the files are gathered.
+  const worker = new Worker("worker.js", { type: "module" });
   const [folder, files] = await Promise.all([Folder.open(), delivered()]);
-  new Page(folder).start(files);
+  await new Page(folder, worker).start(files);
+  // Not before: all that it fetches would delay the start.
+  await serviceWorker();
 } else {
   await tell("This browser, or the way this page is served, does not allow what Zerimo needs: shared memory.");
 }

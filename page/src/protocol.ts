@@ -1,25 +1,27 @@
 // What the page and the worker with the system say to each other.
 
-/** A control or timer with its properties, or an event, as src/web tells it. */
+/** A control or timer with its properties, or an event, as src/web tells it in JSON; one that nobody sees tells only that. */
 export interface Told {
   event: string;
   name?: string;
   [property: string]: unknown;
 }
 
-/** Rows of the picture, each pixel blue, green, red and a byte that says nothing. */
-export interface Rows {
-  pixels: Uint8Array;
+/** A part of the picture, as a canvas takes it, its place in the picture, and the size of that. */
+export interface Part {
+  pixels: Uint8ClampedArray<ArrayBuffer>;
+  left: number;
+  top: number;
   columns: number;
-  first: number;
-  rows: number;
+  width: number;
+  height: number;
 }
 
 export type File = [name: string, bytes: Uint8Array];
 
 export type FromWorker =
-  | { kind: "told"; told: Told[] }
-  | { kind: "rows"; rows: Rows }
+  | { kind: "told"; told: string }
+  | { kind: "part"; part: Part }
   | { kind: "ask"; question: Told; files: string[] }
   | { kind: "written"; files: File[] }
   | { kind: "done" };
@@ -49,13 +51,13 @@ export interface Put {
 export type ToWorker = Start | Call | Put;
 
 /** The places of numbers at the beginning of the shared memory. */
-const place = { answer: 0, stop: 1, changes: 2, pause: 3 };
-const headNumbers = 4;
+const place = { answer: 0, stop: 1, changes: 2, pause: 3, frame: 4 };
+const headNumbers = 5;
 const headBytes = headNumbers * Int32Array.BYTES_PER_ELEMENT;
 const answerBytes = 1 << 16;
 const noAnswer = -1;
 
-/** The memory that both sides see: the answer to a question, and the wishes to stop and to be slow. */
+/** The memory that both sides see: the answer to a question, the wishes to stop and to be slow, and whether a frame is due. */
 export class Shared {
   private readonly head: Int32Array;
   private readonly answerText: Uint8Array;
@@ -93,6 +95,17 @@ export class Shared {
     Atomics.store(this.head, place.stop, 1);
     Atomics.notify(this.head, place.stop);
     this.goOn();
+    this.offerFrame();
+  }
+
+  /** The page can show another frame. */
+  offerFrame(): void {
+    Atomics.store(this.head, place.frame, 1);
+  }
+
+  takeFrame(): boolean {
+    // Asked again and again, mostly in vain: reading is cheaper than exchanging.
+    return Atomics.load(this.head, place.frame) !== 0 && Atomics.exchange(this.head, place.frame, 0) !== 0;
   }
 
   /** Ends the pause before a line. */

@@ -1,7 +1,7 @@
 // The picture, with what is drawn above it and never enters it: the turtle, the axes and the title.
 import { element } from "./boxes";
 import type { Events } from "./events";
-import type { Rows, Told } from "./protocol";
+import type { Part, Told } from "./protocol";
 import { colour, unitsPerPixel, View } from "./views";
 
 const svgSpace = "http://www.w3.org/2000/svg";
@@ -13,7 +13,8 @@ export class Surface {
   private readonly overlay = document.createElementNS(svgSpace, "svg");
   private readonly hint = element("div", { id: "hint", hidden: true });
   private readonly title = element("div", { id: "title", hidden: true }, element("span", { textContent: "Zerimo" }));
-  private waiting: Rows[] = [];
+  private readonly waiting: Part[] = [];
+  private isFrameDrawn = false;
 
   constructor(
     private readonly events: Events,
@@ -33,6 +34,7 @@ export class Surface {
     const name = String(told.name);
     if (name === "Image1") this.title.hidden = told["Visible"] !== true;
     if (name !== "Shape2" && !lineNames.includes(name)) return name === "Image1";
+    const isVisible = told["Visible"] === true;
     const kind = name === "Shape2" ? "circle" : "line";
     let part = this.overlay.querySelector<SVGElement>(`[data-name="${name}"]`);
     if (part === null) {
@@ -41,7 +43,8 @@ export class Surface {
       this.overlay.append(part);
     }
     const set = (attribute: string, value: unknown) => part.setAttribute(attribute, String(value));
-    set("visibility", told["Visible"] === true ? "visible" : "hidden");
+    set("visibility", isVisible ? "visible" : "hidden");
+    if (!isVisible) return true;
     set("stroke", colour(told["BorderColor"]));
     const at = (key: string) => Number(told[key]) / unitsPerPixel;
     if (kind === "line") for (const end of ["X1", "Y1", "X2", "Y2"]) set(end.toLowerCase(), at(end));
@@ -54,27 +57,24 @@ export class Surface {
     return true;
   }
 
-  /** Rows that changed. They are drawn with the next frame. */
-  showRows(rows: Rows): void {
-    if (this.waiting.length === 0) requestAnimationFrame(() => this.draw());
-    this.waiting.push(rows);
+  /** What changed of the picture. It is drawn at once, but never twice in a frame. */
+  showPart(part: Part): void {
+    this.waiting.push(part);
+    if (this.isFrameDrawn) return;
+    this.draw();
+    this.isFrameDrawn = true;
+    requestAnimationFrame(() => {
+      this.isFrameDrawn = false;
+      this.draw();
+    });
   }
 
   private draw(): void {
-    const all = this.waiting;
-    this.waiting = [];
     const context = this.canvas.getContext("2d", { alpha: false });
-    for (const { pixels, columns, first, rows } of all) {
-      if (this.canvas.width !== columns) this.canvas.width = columns;
-      if (this.canvas.height < first + rows) this.canvas.height = first + rows;
-      const image = new ImageData(columns, rows);
-      const from = new Uint32Array(pixels.buffer);
-      const to = new Uint32Array(image.data.buffer);
-      for (let n = 0; n < from.length; ++n) {
-        const pixel = from[n]!;
-        to[n] = 0xff000000 | ((pixel & 0xff) << 16) | (pixel & 0xff00) | ((pixel >> 16) & 0xff);
-      }
-      context?.putImageData(image, 0, first);
+    for (const { pixels, left, top, columns, width, height } of this.waiting.splice(0)) {
+      if (this.canvas.width !== width) this.canvas.width = width;
+      if (this.canvas.height !== height) this.canvas.height = height;
+      context?.putImageData(new ImageData(pixels, columns), left, top);
     }
   }
 

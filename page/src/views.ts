@@ -27,6 +27,7 @@ export class View {
   show(told: Told): void {
     const { style } = this.box;
     this.box.hidden = told["Visible"] !== true;
+    if (this.box.hidden) return;
     if (told["Left"] !== undefined) {
       [style.left, style.top] = [pixels(told["Left"]), pixels(told["Top"])];
       [style.width, style.height] = [pixels(told["Width"]), pixels(told["Height"])];
@@ -58,9 +59,11 @@ export function collect(): [string, string][] {
   return texts;
 }
 
-/** The system tells a text only if it is another than last time: what it was handed and did not keep is gone. */
+/**
+ * The system tells a text only if it is another than last time, and is seen: what it was handed and did not keep is gone.
+ */
 export function settle(): void {
-  for (const [name, place] of handedOver) showText(name, place);
+  for (const [name, place] of handedOver) if (!place.box.hidden) showText(name, place);
   handedOver.clear();
 }
 

@@ -4,6 +4,14 @@ import { type Call, type File, type FromWorker, Shared, type Start, type ToWorke
 
 const folder = "/Zerimo";
 
+const besideThis = (name: string) => new URL(name, self.location.href).href;
+
+/** The module and the font come while the page still gathers its files. */
+const loading = Promise.all([
+  start({ locateFile: besideThis }),
+  fetch(besideThis("font.ttf")).then((font) => font.arrayBuffer()),
+]);
+
 const post = (message: FromWorker, move: Transferable[] = []) => self.postMessage(message, { transfer: move });
 
 /** The learner's folder as the system sees it, and what has changed there since the page was told. */
@@ -55,30 +63,28 @@ class Worker {
 
   static async begin({ shared, width, height, files }: Start): Promise<Worker> {
     const memory = new Shared(shared);
-    let own: Folder | undefined;
-    const port = {
-      tell: (message: string) => post({ kind: "told", told: JSON.parse(message) }),
-      show: (pixels: Uint8Array, columns: number, first: number, rows: number) =>
-        post({ kind: "rows", rows: { pixels, columns, first, rows } }, [pixels.buffer as ArrayBuffer]),
-      ask: (question: string) => {
-        own?.tellChanged();
+    const [system, font] = await loading;
+    system.FS.writeFile("/font.ttf", new Uint8Array(font));
+    const own = new Folder(system.FS);
+    system.port = {
+      tell: (told) => post({ kind: "told", told }),
+      show: (part) => post({ kind: "part", part }, [part.pixels.buffer]),
+      ask: (question) => {
+        own.tellChanged();
         memory.expectAnswer();
-        post({ kind: "ask", question: JSON.parse(question), files: own?.names() ?? [] });
+        post({ kind: "ask", question: JSON.parse(question), files: own.names() });
         return memory.awaitAnswer();
       },
-      hold: (milliseconds: number) => {
-        own?.tellChanged();
+      hold: (milliseconds) => {
+        own.tellChanged();
         memory.hold(milliseconds);
       },
+      takeFrame: () => memory.takeFrame(),
       takeStop: () => memory.takeStop(),
       chosenPause: () => memory.chosenPause(),
-      holdLine: (pause: number) => memory.holdLine(pause),
+      holdLine: (pause) => memory.holdLine(pause),
       timeOfDay: () => new Date().toLocaleTimeString([], { timeStyle: "short" }).replace(/\s/gu, " "),
     };
-    const system = await start({ port, locateFile: (name) => new URL(name, self.location.href).href });
-    const font = await fetch(new URL("font.ttf", self.location.href));
-    system.FS.writeFile("/font.ttf", new Uint8Array(await font.arrayBuffer()));
-    own = new Folder(system.FS);
     own.put(files);
     const shell = system.ccall("StartSystem", "number", ["number", "number"], [width, height]);
     return new Worker(system, shell, own);

@@ -2,15 +2,18 @@
 declare module "zerimo" {
   export interface Port {
     tell(message: string): void;
-    show(pixels: Uint8Array, columns: number, first: number, rows: number): void;
+    show(part: import("./protocol").Part): void;
     ask(question: string): string;
     hold(milliseconds: number): void;
+    takeFrame(): boolean;
     takeStop(): boolean;
     chosenPause(): number;
     holdLine(pause: number): void;
     timeOfDay(): string;
   }
   export interface System {
+    /** To be set before anything is called. */
+    port: Port;
     ccall(name: string, result: "number" | null, kinds: ("number" | "string")[], words: (string | number)[]): number;
     FS: {
       mkdir(folder: string): void;
@@ -22,5 +25,5 @@ declare module "zerimo" {
       writeFile(path: string, bytes: Uint8Array): void;
     };
   }
-  export default function start(options: { port: Port; locateFile(name: string): string }): Promise<System>;
+  export default function start(options: { locateFile(name: string): string }): Promise<System>;
 }

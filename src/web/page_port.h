@@ -12,8 +12,8 @@ namespace zerimo::web {
 /// Hands a message to the page and does not wait.
 void TellPage(const std::string& message);
 
-/// Shows these rows of the picture, from the first to the last.
-void ShowRows(const PixelBuffer& pixels, int first, int last);
+/// Shows a part of the picture, which is inside it.
+void ShowPart(const PixelBuffer& pixels, const PixelRect& part);
 
 /// Holds the system until the page has answered a message. An answer that begins with a plus sign has its text after
 /// it; the empty one means that the box was cancelled.
@@ -21,6 +21,10 @@ std::string AskPage(const std::string& question);
 
 /// Holds the system for a time, or until the user stops the program.
 void HoldFor(double milliseconds);
+
+/// Whether the page can show another frame since this was last asked, or the user wants the program to stop. Reading
+/// the clock would take longer than most lines.
+bool TakeFrame();
 
 /// The browser's clock, in milliseconds.
 double PageClock();

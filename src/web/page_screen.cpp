@@ -9,9 +9,9 @@ namespace zerimo::web {
 
 namespace {
 
-/// A list that nobody sees is not made.
-std::string HiddenList(const ListBox& list) {
-  return batch::JsonLine("dump").Text("name", list.Name()).Flag("Visible", false).Finished();
+/// What nobody sees is not told: writing all texts and numbers would take longer than most lines.
+std::string Hidden(const Control& control) {
+  return batch::JsonLine("dump").Text("name", control.Name()).Flag("Visible", false).Finished();
 }
 
 /// The name for people, with the number of a control of an array.
@@ -54,16 +54,16 @@ void PageScreen::Show() {
 
 void PageScreen::ShowPicture() {
   const PixelRect drawn = canvas_.TakeDirty();
-  if (!drawn.IsEmpty()) ShowRows(canvas_.Pixels(), drawn.Top, drawn.Bottom);
+  if (!drawn.IsEmpty()) ShowPart(canvas_.Pixels(), drawn);
 }
 
 void PageScreen::ShowControl(Control& control, std::string& changes) {
   const auto* const list = dynamic_cast<const ListBox*>(&control);
-  if (list == nullptr) return Add(&control, batch::DumpOf({&control, nullptr}).Finished(), changes);
-  if (!list->IsOnScreen()) {
+  if (!control.IsOnScreen()) {
     shownLists_.erase(list);
-    return Add(&control, HiddenList(*list), changes);
+    return Add(&control, Hidden(control), changes);
   }
+  if (list == nullptr) return Add(&control, batch::DumpOf({&control, nullptr}).Finished(), changes);
   const auto known = shownLists_.find(list);
   if (known != shownLists_.end() && known->second == list->Version()) return;
   shownLists_[list] = list->Version();

@@ -9,7 +9,8 @@
 
 namespace zerimo::web {
 
-/// Tells the page what has changed since it was last told: rows of the picture, and controls with all their properties.
+/// Tells the page what has changed since it was last told: a part of the picture, and controls with all their
+/// properties if they are seen.
 class PageScreen {
  public:
   PageScreen(Form1& form1, PixelCanvas& canvas) : form1_(form1), canvas_(canvas) {}

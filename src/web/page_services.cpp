@@ -14,8 +14,7 @@ namespace {
 
 using batch::JsonLine;
 
-constexpr double FrameMilliseconds = 16;
-/// The clock is read once in this many steps and rounds.
+/// The page is asked once in this many steps and rounds.
 constexpr unsigned LooksAtOnce = 16;
 /// Showing takes at most a quarter of the time.
 constexpr double ShareOfShowing = 4;
@@ -74,7 +73,9 @@ void PageServices::Beep() { TellPage("[" + JsonLine("beep").Finished() + "]"); }
 std::string PageServices::TimeOfDay() { return batch::FromUtf8(PageTimeOfDay()); }
 
 void PageWatch::Begin() {
-  nextFrame_ = PageClock() + FrameMilliseconds;
+  // One that was left over from the last handler would delay this one.
+  TakeFrame();
+  nextFrame_ = 0;
   isStepped_ = ChosenPause() != 0;
 }
 
@@ -84,14 +85,14 @@ void PageWatch::Step() {
 }
 
 void PageWatch::Look() {
-  if (++looks_ % LooksAtOnce != 0) return;
-  const double start = PageClock();
-  if (start < nextFrame_) return;
+  if (++looks_ % LooksAtOnce != 0 || !TakeFrame()) return;
   LeaveIfStopped();
   isStepped_ = ChosenPause() != 0;
+  const double start = PageClock();
+  if (start < nextFrame_) return;
   show_();
   const double end = PageClock();
-  nextFrame_ = std::max(start + FrameMilliseconds, end + (ShareOfShowing - 1) * (end - start));
+  nextFrame_ = end + (ShareOfShowing - 1) * (end - start);
 }
 
 }  // namespace zerimo::web
