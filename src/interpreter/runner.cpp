@@ -67,9 +67,8 @@ void Runner::Run1(std::string_view procedure) {
     // A walk past the end of the store has nothing left to run.
     while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) Act(walk);
   } catch (const StopRun&) {
-    for (std::string& name : ProceduresOn(context_.controlPath.CtrlStr())) {
-      SkipOnFailure([&] { inputs_.DeleteLocalVariable(name); });
-    }
+    // An endless recursion has filled all slots, and with none free the next line would hang.
+    context_.variables.RemoveLocals(ProceduresOn(context_.controlPath.CtrlStr()));
     context_.controlPath.SetCtrlStr(".");
   }
   lineNow_ = 0;

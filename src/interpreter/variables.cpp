@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <utility>
 
 #include "base/failure.h"
@@ -107,6 +108,21 @@ const std::vector<int>& Variables::SlotsOfProcedure(const std::string& name) con
     if (!Contains(name, "=")) known.Names = Names();
   }
   return known.Slots;
+}
+
+void Variables::RemoveLocals(const std::vector<std::string>& procedures) {
+  std::set<int> removed;
+  for (const std::string& procedure : procedures) {
+    const std::vector<int>& slots = SlotsOfProcedure(procedure);
+    removed.insert(slots.begin(), slots.end());
+  }
+  int kept = 0;
+  int slot = 1;
+  for (; slot <= SlotCount && !Slot(slot).empty(); ++slot) {
+    if (Slot(slot) != " " && !removed.contains(slot)) SetSlot(++kept, std::string(Slot(slot)));
+  }
+  while (++kept < slot) SetSlot(kept, "");
+  ListSlots();
 }
 
 void Variables::RebuildList2() {

@@ -56,7 +56,7 @@ TEST_F(TypedLinesTest, AStoppedLineEndsLikeAFinishedOneAndKeepsTheNames) {
   EXPECT_EQ(controlPath.CtrlStr(), ".");
   EXPECT_EQ(controls.Label19.Caption, ".");
   EXPECT_EQ(Program(), (Texts{"TO BOX :S", "PRINT :S", "FD 1", "END"}));
-  EXPECT_EQ(controls.List2.Items(), (Texts{":N=5", " "}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{":N=5"}));
   EXPECT_EQ(controls.List3.Items(), (Texts{"TO BOX :S"}));
 }
 
@@ -70,6 +70,19 @@ TEST_F(TypedLinesTest, AfterAStoppedRecursionTheNextLineRuns) {
   EXPECT_EQ(controlPath.CtrlStr(), ".");
   EXPECT_TRUE(Type("FD 10"));
   EXPECT_EQ(Calls, (Texts{"FD 10"}));
+}
+
+TEST_F(TypedLinesTest, AfterARecursionThatHasFilledAllSlotsTheNextLineRuns) {
+  Fill({"TO A :S", "PRINT :S", "A :S+1", "END"});
+  EXPECT_TRUE(Type("MAKE \"N 5"));
+  int activations = 0;
+  dispatch.Bind(Action::Print, [&](PrimitiveCall&) {
+    if (++activations == 600) throw StopRun();
+  });
+  EXPECT_TRUE(Type("A 1"));
+  EXPECT_EQ(controls.List2.Items(), (Texts{":N=5"}));
+  EXPECT_TRUE(Type("FD :N+10"));
+  EXPECT_EQ(Calls, (Texts{"FD 15"}));
 }
 
 TEST_F(TypedLinesTest, ALineGoesRightAfterTheProgram) {
