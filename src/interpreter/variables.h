@@ -68,8 +68,8 @@ class Variables {
   /// The slots up to the first free one that hold entries of a procedure.
   const std::vector<int>& SlotsOfProcedure(const std::string& name) const;
 
-  /// Removes the entries of procedures and closes all gaps up to the first free slot. Never fails: unlike the deletion at
-  /// an `END`, it needs no free slot.
+  /// Removes the entries of procedures and closes all gaps up to the first free slot. Never fails: unlike the deletion
+  /// at an `END`, it needs no free slot.
   void RemoveLocals(const std::vector<std::string>& procedures);
 
   /// The number of the current state of all names: what a search has found is valid in the same state. Values that are

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTextCursor>
+#include <algorithm>
 
 #include "desktop/desktop_text.h"
 
@@ -12,6 +13,7 @@ namespace zerimo {
 namespace {
 
 constexpr double Points = 10.5;
+constexpr double MostOfWidth = 0.95;
 
 }  // namespace
 
@@ -66,8 +68,11 @@ void FindBar::TakeLetters(double points) {
 }
 
 void FindBar::Fit() {
-  TakeLetters(Points * ZoomOf(*this));
-  if (minimumSizeHint().width() > editor_.width()) TakeLetters(Points);
+  const double zoom = ZoomOf(*this);
+  TakeLetters(Points * zoom);
+  // The margins do not grow with the letters.
+  const double fitting = MostOfWidth * editor_.width() / minimumSizeHint().width();
+  if (fitting < 1) TakeLetters(Points * std::max(std::min(zoom, 1.0), zoom * fitting));
   const int height = isHidden() ? 0 : sizeHint().height();
   QMargins margins = editor_.viewportMargins();
   margins.setBottom(height);
@@ -93,6 +98,16 @@ void FindBar::keyPressEvent(QKeyEvent* press) {
       // Function keys go on to the editor, which acts on them. Any other key would type in it.
       press->setAccepted(press->key() < Qt::Key_F1 || press->key() > Qt::Key_F12);
   }
+}
+
+bool FindBar::focusNextPrevChild(bool next) {
+  QWidget* const from = focusWidget();
+  QWidget* to = from;
+  do {
+    to = next ? to->nextInFocusChain() : to->previousInFocusChain();
+  } while (to != from && (!isAncestorOf(to) || (to->focusPolicy() & Qt::TabFocus) == 0));
+  to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
 }
 
 bool FindBar::IsFound() const {

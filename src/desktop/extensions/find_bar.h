@@ -21,6 +21,7 @@ class FindBar : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* press) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void Close();

@@ -49,18 +49,17 @@ void RunChip::RunEnds() {
 }
 
 void RunChip::Show() {
-  QString words = said_;
+  QStringList lines;
+  if (!said_.isEmpty()) lines.append(said_);
   // While a box is open, the program waits for its answer.
   const bool isLong = running_.isValid() && running_.elapsed() >= LongRun && !session_.stage.HasBox();
-  if (words.isEmpty() && isLong) {
-    words = QStringLiteral("Running for %1 s. Ctrl+Break stops.").arg(running_.elapsed() / 1000);
-  }
+  if (isLong) lines.append(QStringLiteral("Running for %1 s. Ctrl+Break stops.").arg(running_.elapsed() / 1000));
   ShowLetters(label_, ChipPoints, true);
-  label_.setText(words);
+  label_.setText(lines.join(u'\n'));
   label_.adjustSize();
   label_.move(session_.window.width() - label_.width() - EdgeDistance, EdgeDistance);
   label_.raise();
-  if (label_.isHidden() != words.isEmpty()) label_.setHidden(words.isEmpty());
+  if (label_.isHidden() != lines.isEmpty()) label_.setHidden(lines.isEmpty());
 }
 
 }  // namespace zerimo

@@ -9,13 +9,13 @@ class QLabel;
 
 namespace zerimo {
 
-/// A small label in the corner of the picture: it says that a program is running once it has run for two seconds, and
-/// shows whatever else it is given to say. It takes no focus and no clicks.
+/// A small label in the corner of the picture: it shows what it is given to say and, once a program has run for two
+/// seconds, how long it has and how to stop it. It takes no focus and no clicks.
 class RunChip : public Extension {
  public:
   explicit RunChip(Session& session);
 
-  /// Shows words instead of the time, until it is given others or none.
+  /// Shows words above the time, until it is given others or none.
   void Say(const QString& words);
 
   void RunBegins() override;

@@ -57,7 +57,8 @@ void Speed::RunEnds() {
 void Speed::Step() {
   runningLine_.Step();
   MarkLine();
-  chip_.Say(ToQString(runningLine_.Words()));
+  const QString next = pace_->Pause < 0 ? QStringLiteral("\nThe space bar runs it.") : QString();
+  chip_.Say(ToQString(runningLine_.Words()) + next);
   waiting_ = true;
   zoom_.FollowTurtle();
   session_.stage.ShowState();

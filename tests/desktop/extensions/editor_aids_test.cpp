@@ -82,6 +82,19 @@ TEST_F(EditorAidsTest, ReplaceAllIsOneStepToUndo) {
   EXPECT_EQ(Editor().toPlainText(), "fd 10\nfd 20");
 }
 
+TEST_F(EditorAidsTest, TabGoesRoundTheBar) {
+  TypeInEditor("fd 10");
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("fd");
+  Press(Qt::Key_Tab);
+  Type("bk");
+  EXPECT_EQ(Replacement().text(), "bk");
+  for (int stop = 0; stop < 4; ++stop) Press(Qt::Key_Tab);
+  EXPECT_EQ(Focused(), &Wanted());
+  Press(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(static_cast<QAbstractButton*>(Focused())->text(), "&Close");
+}
+
 TEST_F(EditorAidsTest, TheBarGrowsWithTheWindowWhereThereIsRoom) {
   TypeInEditor("fd 10");
   Press(Qt::Key_F, Qt::ControlModifier);
