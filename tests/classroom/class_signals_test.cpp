@@ -130,7 +130,7 @@ TEST_F(ClassSignalsTest, AProgressThatNobodyReadsStopsNothing) {
 
 TEST_F(ClassSignalsTest, ARunUnderNohupGoesOnWhenTheTerminalIsClosed) {
   Write("A.ZRM", Endless);
-  Start("0.5", SIG_IGN);
+  Start("3", SIG_IGN);
   ASSERT_TRUE(WaitUntil([this] { return HasBegun(); }));
   kill(runner, SIGHUP);
   EXPECT_EQ(Wait(), 0);
