@@ -55,6 +55,18 @@ TEST_F(StoreTest, ProcedureIsFoundByItsWholeNameInEitherOrder) {
   EXPECT_EQ(store.WhereProcedure("BOXES"), 1);
 }
 
+TEST_F(StoreTest, HeaderOfALineIsTheNearestToAtOrAboveIt) {
+  Fill({"MAKE A 1", "TO BOX", "FD 1", "END", "TO STAR", "RT 1"});
+  EXPECT_EQ(store.HeaderOf(1), 0);
+  EXPECT_EQ(store.HeaderOf(2), 2);
+  EXPECT_EQ(store.HeaderOf(4), 2);
+  EXPECT_EQ(store.HeaderOf(6), 5);
+  // Also a line that stands after the program.
+  EXPECT_EQ(store.HeaderOf(2000), 5);
+  EXPECT_THROW(store.HeaderOf(2001), Failure);
+  EXPECT_THROW(store.HeaderOf(0), Failure);
+}
+
 TEST_F(StoreTest, ProcedureNamesKeepCaseAndTheLinesStart) {
   Fill({"PRINT \"TO BOX\"", "to BOX", "TO box"});
   EXPECT_EQ(store.WhereProcedure("BOX"), 0);

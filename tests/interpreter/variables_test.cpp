@@ -326,6 +326,34 @@ TEST_F(VariablesTest, ClosingWithoutADeletedSlotDoesNothing) {
   EXPECT_NO_THROW(variables.SpaceRemoverFromVariableArray());
 }
 
+TEST_F(VariablesTest, RemovingTheLocalsOfProceduresClosesAllGaps) {
+  FillSlots({":N=5", "A.:S=1", " ", "AB.:S=2", "B.:S=3", "A.:T=4", ":M=6"});
+  variables.RemoveLocals({"A", "B"});
+  EXPECT_EQ(Slots(), (Texts{":N=5", "AB.:S=2", ":M=6"}));
+  EXPECT_EQ(controls.List2.Items(), (Texts{":N=5", "AB.:S=2", ":M=6"}));
+}
+
+TEST_F(VariablesTest, RemovingLocalsEndsAtTheFirstFreeSlot) {
+  FillSlots({"A.:S=1", "", "A.:S=2"});
+  variables.RemoveLocals({"A"});
+  EXPECT_EQ(variables.Slot(1), "");
+  EXPECT_EQ(variables.Slot(3), "A.:S=2");
+}
+
+TEST_F(VariablesTest, RemovingLocalsNeedsNoFreeSlot) {
+  for (int number = 1; number <= Variables::SlotCount; ++number) variables.SetSlot(number, "A.:S=1");
+  variables.SetSlot(500, ":N=5");
+  variables.RemoveLocals({"A"});
+  EXPECT_EQ(Slots(), (Texts{":N=5"}));
+  EXPECT_TRUE(variables.HasFreeSlot());
+}
+
+TEST_F(VariablesTest, RemovingTheLocalsOfNoProcedureStillDropsDeletedSlots) {
+  FillSlots({" ", "A.:S=1", " "});
+  variables.RemoveLocals({});
+  EXPECT_EQ(Slots(), (Texts{"A.:S=1"}));
+}
+
 TEST_F(VariablesTest, GlobalsOfTheProgramStandInTheSlotsOfTheirLines) {
   Fill({"MAKE \"A 2+3", "FD 1", "MAKE B (1+1)*2", "TO P", "MAKE C 1", "END"});
   variables.CreateGlobalVariable();
