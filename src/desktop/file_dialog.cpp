@@ -9,13 +9,16 @@ namespace zerimo {
 
 namespace {
 
-/// The file of a name in any case, or the name if there is none.
-QString InItsOwnCase(const QFileInfo& typed) {
+/// The file of a name in any case, with or without the ending of a program; the empty text if there is none.
+QString FileOf(const QFileInfo& typed) {
   const QStringList names = typed.dir().entryList(QDir::Files);
-  const auto found = std::find_if(names.begin(), names.end(), [&](const QString& name) {
-    return name.compare(typed.fileName(), Qt::CaseInsensitive) == 0;
-  });
-  return found == names.end() ? typed.filePath() : typed.dir().filePath(*found);
+  for (const QString& wanted : {typed.fileName(), typed.fileName() + QStringLiteral(".ZRM")}) {
+    const auto found = std::find_if(names.begin(), names.end(), [&wanted](const QString& name) {
+      return name.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
+    if (found != names.end()) return typed.dir().filePath(*found);
+  }
+  return {};
 }
 
 }  // namespace
@@ -35,7 +38,8 @@ void FileDialog::accept() {
   auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   if (name != nullptr && acceptMode() == AcceptOpen) {
     const QFileInfo typed(directory(), name->text());
-    if (!typed.exists()) name->setText(InItsOwnCase(typed));
+    const QString file = typed.exists() ? QString() : FileOf(typed);
+    if (!file.isEmpty()) name->setText(file);
   }
   QFileDialog::accept();
 }

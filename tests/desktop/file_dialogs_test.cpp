@@ -29,6 +29,14 @@ TEST_F(FileDialogsTest, AProgramIsFoundInAnyCase) {
   EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO BOX"});
 }
 
+TEST_F(FileDialogsTest, AProgramIsFoundWithoutItsEnding) {
+  WriteFile("Box.Zrm", "TO BOX\r\nEND\r\n");
+  const std::string name = FullName("box");
+  AnswerNextBox({Qt::Key_Return}, name.c_str());
+  Enter("show open");
+  EXPECT_EQ(FormControls().List3.Items(), std::vector<std::string>{"TO BOX"});
+}
+
 TEST_F(FileDialogsTest, ACancelledDialogDoesNothing) {
   AnswerNextBox({Qt::Key_Escape});
   Enter("show open");
