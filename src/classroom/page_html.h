@@ -33,18 +33,15 @@ QString PupilName(const Pupil& who);
 /// Where the pictures of a page come from.
 class PictureSource {
  public:
-  /// Bytes of all pictures inside one page together.
-  static constexpr std::size_t MostBytes = std::size_t{32} << 20;
-
-  /// `beside` is a folder in that of the page: it is made for the pictures that pass `mostInside`, all together.
-  /// Without one, those that pass `MostBytes` are left out.
-  explicit PictureSource(std::filesystem::path beside = {}, std::size_t mostInside = MostBytes)
+  /// `beside` is a folder in that of the page: it is made for the pictures that pass `mostInside` bytes, all together.
+  /// Without one, those are left out.
+  explicit PictureSource(std::filesystem::path beside = {}, std::size_t mostInside = std::size_t{32} << 20)
       : beside_(std::move(beside)), mostInside_(mostInside) {}
 
   /// An element for the picture, drawn at most `width` pixels wide (0: as large as it is), or nothing if it is not
   /// there or the page is full. Fails (file access) if a picture can't be written beside.
   std::optional<QString> Image(const std::filesystem::path& file, const QString& alternative, int width = 0);
-  bool IsFull() const { return bytes_ > MostBytes && beside_.empty(); }
+  bool IsFull() const { return bytes_ > mostInside_ && beside_.empty(); }
   bool HasPicturesBeside() const { return !addresses_.empty(); }
 
  private:

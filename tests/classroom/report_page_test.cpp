@@ -287,13 +287,15 @@ TEST(ReportPage, PicturesThatWouldMakeItTooLargeLieBeside) {
     return run;
   };
   Report report;
-  report.Runs = {pictureOf("small.png", 100), pictureOf("large.png", PictureSource::MostBytes)};
-  const QString page = QString::fromUtf8(PageOf(report, PictureSource(temp.Path / "a b.pictures")));
-  EXPECT_LT(page.size(), 100'000);
+  report.Runs = {pictureOf("small.png", 100), pictureOf("large.png", 5000)};
+  const QString page = QString::fromUtf8(PageOf(report, PictureSource(temp.Path / "a b.pictures", 4000)));
+  EXPECT_LT(page.size(), QString::fromUtf8(PageOf(report)).size());
   EXPECT_TRUE(page.contains("src=\"a%20b.pictures/1.png\""));
   EXPECT_TRUE(page.contains("img-src data: file: 'self';"));
-  EXPECT_EQ(std::filesystem::file_size(temp.Path / "a b.pictures/1.png"), PictureSource::MostBytes);
-  EXPECT_FALSE(QString::fromUtf8(PageOf(report)).contains("a%20b"));
+  EXPECT_EQ(std::filesystem::file_size(temp.Path / "a b.pictures/1.png"), 5000U);
+  const QString alone = QString::fromUtf8(PageOf(report, PictureSource({}, 4000)));
+  EXPECT_LT(alone.count("<img "), page.count("<img "));
+  EXPECT_FALSE(alone.contains("a%20b"));
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace zerimo {
 
 namespace {
 
-constexpr int LongestWait = 5000;
+constexpr int LongestWait = 30000;
 /// How often an unanswered box is looked at before the test gives up.
 constexpr int MostRounds = 500;
 
@@ -88,6 +88,23 @@ bool DesktopTest::Until(const std::function<bool()>& condition) {
   QElapsedTimer clock;
   for (clock.start(); !condition() && clock.elapsed() < LongestWait;) QTest::qWait(1);
   return condition();
+}
+
+void DesktopTest::When(std::function<bool()> condition, std::function<void()> action) {
+  auto* look = new QTimer(&looks_);
+  QObject::connect(look, &QTimer::timeout, look, [look, condition = std::move(condition), action = std::move(action)] {
+    if (!condition()) return;
+    look->stop();
+    action();
+  });
+  look->start(1);
+}
+
+void DesktopTest::During(int after, std::function<void()> action) {
+  const auto runs = [this] {
+    return session->stage.IsRunning() && !session->form1.interpreter.controlPath.NothingRuns();
+  };
+  When(runs, [after, action = std::move(action)] { QTimer::singleShot(after, qApp, action); });
 }
 
 void DesktopTest::Settle() {

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <string>
@@ -46,6 +47,11 @@ class DesktopTest : public testing::Test {
 
   /// Runs the event loop until a condition is true, for a few seconds at most. Returns whether it is true.
   static bool Until(const std::function<bool()>& condition);
+  /// Does something once a condition holds, while the next line runs.
+  void When(std::function<bool()> condition, std::function<void()> action);
+  /// Does something `after` milliseconds of the next line's run.
+  void During(int after, std::function<void()> action);
+
   /// Lets the one-shot timer that gives the focus to row 0 fire.
   void Settle();
 
@@ -83,6 +89,8 @@ class DesktopTest : public testing::Test {
 
   std::vector<Waiting> answers_;
   QTimer answering_;
+  /// The owner of what looks while a line runs.
+  QObject looks_;
   int rounds_ = 0;
 };
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QApplication>
 #include <QLabel>
-#include <QTimer>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/extensions/extensions.h"
@@ -28,9 +26,6 @@ class ExtensionsTest : public DesktopTest {
       Type(line.toLatin1());
     }
   }
-
-  /// Runs an action `after` milliseconds from now, while the next line runs.
-  static void During(int after, std::function<void()> action) { QTimer::singleShot(after, qApp, std::move(action)); }
 
   const std::chrono::milliseconds KeepAfter;
 

@@ -42,7 +42,7 @@ TEST_F(LineJournalTest, EnteredLinesAreKeptAndPrintedTextIsNot) {
 
 TEST_F(LineJournalTest, ALineIsKeptBeforeItRuns) {
   Texts during;
-  During(50, [&] { during = Files(); });
+  During(0, [&] { during = Files(); });
   Enter("wait 100");
   EXPECT_EQ(during, Texts{"WAIT 100\n"});
 }

@@ -19,14 +19,16 @@ class StopTest : public ExtensionsTest {
 
 TEST_F(StopTest, ALineStopsAndDrawingVariablesAndHistoryStay) {
   Enter("cs");
-  During(50, [this] { QTest::keyClick(&Row(0), Qt::Key_Pause, Qt::ControlModifier); });
+  const double middle = session->form1.turtle.TurtleY;
+  When([&] { return session->form1.turtle.TurtleY < middle; },
+       [this] { QTest::keyClick(&Row(0), Qt::Key_Pause, Qt::ControlModifier); });
   Enter("make \"n 5 fd 10 label a goto a");
   EXPECT_FALSE(session->HasEnded());
   EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
   EXPECT_EQ(FormControls().List4.Items(), (Texts{"?CS", "?MAKE \"N 5 FD 10 LABEL A GOTO A"}));
   EXPECT_EQ(FormControls().List2.Items(), Texts{":N=5"});
   EXPECT_EQ(session->form1.interpreter.store.Line(1), "");
-  EXPECT_LT(session->form1.turtle.TurtleY, static_cast<double>(FormControls().Screen.Height / 2));
+  EXPECT_LT(session->form1.turtle.TurtleY, middle);
   EXPECT_EQ(Focused(), &Row(2));
 }
 
