@@ -21,6 +21,7 @@ struct InterpreterContext {
 };
 
 /// What the parts that walk or rewrite the program share besides.
+/// Behaviour: docs/interpreter.md, a section for each part.
 struct ProgramContext : InterpreterContext {
   Store& store;
   ControlPath& controlPath;

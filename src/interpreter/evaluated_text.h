@@ -12,6 +12,7 @@ namespace zerimo {
 
 /// A text that is evaluated, with its formulas: one for each of the latest few procedures and states of the names in
 /// which it was read.
+/// Behaviour: docs/interpreter.md, "Beside an expression".
 class EvaluatedText {
  public:
   EvaluatedText() = default;

@@ -38,6 +38,7 @@ class Operands;
 
 /// An expression whose passes are done once and for all: the operations on numbers that remain if every pasted text is
 /// a plain number. Anything else, and whatever fails, has no value here and is evaluated literally.
+/// Behaviour: docs/interpreter.md, "Beside an expression".
 class Formula {
  public:
   static constexpr int MostFactors = 24;

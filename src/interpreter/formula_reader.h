@@ -27,6 +27,7 @@ bool IsOrdinaryName(std::string_view name);
 
 /// The formula of an expression or a condition, read with these names; nothing if it does not consist of numbers,
 /// names, operators and brackets in the usual order.
+/// Behaviour: docs/interpreter.md, "Beside an expression".
 std::optional<Formula> ReadFormula(std::string_view text, const NamesInUse& names);
 
 }  // namespace zerimo

@@ -14,6 +14,7 @@ class Variables;
 
 /// Evaluates texts by their formulas. A text that was not read in the running procedure and the current state of the
 /// names is read now.
+/// Behaviour: docs/interpreter.md, "Beside an expression".
 class Formulas {
  public:
   Formulas(const Variables& variables, const Operands& operands, const ControlPath& controlPath)

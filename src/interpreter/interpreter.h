@@ -17,6 +17,7 @@ namespace zerimo {
 
 /// The interpreter: owns the program, the variables and the control string, and lends its parts to the rooms that bind
 /// primitives and handle keys. What it is built from must outlive it.
+/// Behaviour: docs/interpreter.md, a section for each part.
 class Interpreter {
   ProgramContext program_;
 

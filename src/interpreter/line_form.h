@@ -33,6 +33,7 @@ Words WordsOfHeader(std::string_view line);
 
 /// What is derived from the text of one line of the store. It is made when it is first asked for, and dropped when the
 /// line changes.
+/// Behaviour: docs/interpreter.md, "Beside a line of the store".
 struct LineForm {
   /// Never fails.
   explicit LineForm(std::string_view line);

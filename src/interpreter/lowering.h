@@ -82,6 +82,7 @@ std::string Firstpart(std::string_view body);
 
 /// The number of inputs of a word, or a negative marker (`inputs::`). A word that is not a primitive is looked up in
 /// the store. Fails (overflow) at a header with no blank or more than 255.
+/// Behaviour: docs/interpreter.md, "HowManyInput".
 std::int16_t HowManyInput(std::string_view command, const Store& store);
 
 }  // namespace zerimo

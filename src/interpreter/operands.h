@@ -10,6 +10,7 @@
 namespace zerimo {
 
 /// What is pasted for the names of an expression.
+/// Behaviour: docs/interpreter.md, "Beside an expression".
 class Operands {
  public:
   Operands(const SlotTable& slotTable, const Turtle& turtle, const Window& window)

@@ -9,6 +9,7 @@
 namespace zerimo {
 
 /// The locals of one call of `Executor` that the actions share.
+/// Behaviour: docs/interpreter.md, "Executor".
 struct PrimitiveCall {
   /// The first word. Valid as long as the line.
   std::string_view Word;

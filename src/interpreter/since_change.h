@@ -10,6 +10,7 @@
 namespace zerimo {
 
 /// A value that is valid as long as a count of changes stays the same.
+/// Behaviour: docs/interpreter.md, "Beside a line of the store".
 template <typename Value>
 class SinceChange {
  public:

@@ -25,6 +25,7 @@ inline double PlainOrNone(double number) {
 }
 
 /// What is derived from the text of a variable slot.
+/// Behaviour: docs/interpreter.md, "Beside a variable slot".
 struct SlotForm {
   SlotForm() = default;
   explicit SlotForm(std::string_view slot);

@@ -5,6 +5,7 @@
 namespace zerimo {
 
 /// What a line is; the numbers are those that the system uses.
+/// Behaviour: docs/interpreter.md, "WhatIsThis".
 enum StatementClass : std::uint8_t {
   StmtPrimitive = 1,
   StmtCall = 2,

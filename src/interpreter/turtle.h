@@ -24,6 +24,7 @@ constexpr std::string_view PenStateName(PenPosition pen) noexcept {
 
 /// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edges of the
 /// surface, `TurtleDir` is in radians, 0 up and growing clockwise, never normalised.
+/// Behaviour: docs/interpreter.md, "ReplaceXcorAndYcor".
 struct Turtle {
   double TurtleX = 0;
   double TurtleY = 0;
