@@ -5,6 +5,7 @@
 namespace zerimo {
 
 /// The editor `Text2`: `EDIT`, and the fold of its text into the store.
+/// Behaviour: docs/interpreter.md, "The fold (F2 in the editor)".
 class Editor {
  public:
   explicit Editor(const FilesContext& context) : interpreter_(context.interpreter), controls_(context.controls) {}

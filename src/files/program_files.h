@@ -8,6 +8,7 @@
 namespace zerimo {
 
 /// Program files (.ZRM): `LOAD` and `SHOW OPEN`.
+/// Behaviour: docs/interpreter.md, "Where programs come in".
 class ProgramFiles {
  public:
   ProgramFiles(const FilesContext& context, Pictures& pictures);

@@ -37,7 +37,8 @@ class Variables {
   void CreateGlobalVariable();
 
   /// Carries out the `MAKE` on a line of the store. Fails as its value does, and (subscript) after it has closed a
-  /// deleted slot or with no free one. Nothing calls it: the runner has `Make`.
+  /// deleted slot or taken the last free one. With no free slot it never returns. Nothing calls it: the runner has
+  /// `Make`.
   void VariableUpdate(int lineNumber);
 
   /// The same, but returns false where `VariableUpdate` fails after its work is done.
