@@ -18,8 +18,10 @@ class RunningLine {
 
   /// As `List1` counts, from 1; 0 if unknown.
   int Number() const noexcept { return number_; }
-  /// "BOX, line 12: FD :S"; nothing if unknown.
+  /// "BOX, line 12: FD :S", or "Your line: BOX 5" for a typed one; nothing if unknown.
   std::string Words() const;
+  /// Whether somebody has written the line: not so the TO and the END around a typed one.
+  bool IsWritten() const;
 
  private:
   std::string Procedure() const;

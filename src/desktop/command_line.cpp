@@ -26,6 +26,10 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     const std::string& argument = arguments[at];
     if (argument == "--classic") {
       line.Classic = true;
+    } else if (argument == "--help") {
+      line.Help = true;
+    } else if (argument == "--version") {
+      line.Version = true;
     } else if (argument == "--scale") {
       if (++at < arguments.size()) line.Scale = ScaleFrom(arguments[at]);
       if (line.Scale != 0) continue;
@@ -35,7 +39,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
       line.Refusal = "the name of the file is empty";
       return line;
     } else if (argument.front() == '-') {
-      line.Refusal = argument + ": there are only the options --classic and --scale; the name of one file can be given";
+      line.Refusal = argument + ": there is no such option; --help shows them";
       return line;
     } else if (line.File) {
       line.Refusal = "only one file can be opened";

@@ -11,6 +11,9 @@ namespace zerimo {
 struct CommandLine {
   /// Why the arguments are refused, or the empty text.
   std::string Refusal;
+  /// "--help" or "--version": only that is told.
+  bool Help = false;
+  bool Version = false;
   /// "--classic": without any extension.
   bool Classic = false;
   /// "--scale PERCENT", from 50 to 400; 0 if not given.

@@ -31,6 +31,15 @@ namespace fs = std::filesystem;
 /// The exit status for arguments that the program does not accept.
 constexpr int Refused = 1;
 
+constexpr const char* Version = "zerimo " ZERIMO_VERSION "\n";
+constexpr const char* Help =
+    "Usage: zerimo [options] [FILE]\n"
+    "FILE is a program (.ZRM) or a picture to open.\n\n"
+    "  --classic          leaves out all that goes beyond the classic system\n"
+    "  --scale PERCENT    shows everything in this size, from 50 to 400\n"
+    "  --help             shows this and ends\n"
+    "  --version          shows the version and ends\n";
+
 fs::path DiskPath(const QString& path) { return path.toStdU16String(); }
 
 Surroundings LookAround() {
@@ -99,9 +108,13 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
 
 int Main(int argc, char** argv) {
   const CommandLine line = ReadCommandLine({argv + 1, argv + argc});
-  if (line.Refusal.empty()) return RunInWindow(line, argc, argv);
-  std::cerr << "zerimo: " << line.Refusal << '\n';
-  return Refused;
+  if (!line.Refusal.empty()) {
+    std::cerr << "zerimo: " << line.Refusal << '\n';
+    return Refused;
+  }
+  if (!line.Help && !line.Version) return RunInWindow(line, argc, argv);
+  std::cout << (line.Help ? Help : Version) << std::flush;
+  return std::cout ? 0 : Refused;
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ bool PagePace::Step() {
     return false;
   }
   runningLine_.Step();
+  if (!runningLine_.IsWritten()) return true;
   show_();
   Tell();
   HoldLine(pause);

@@ -136,10 +136,16 @@ TEST(CommandLine, OptionsMayStandAroundTheFile) {
 }
 
 TEST(CommandLine, OtherOptionsAreRefused) {
-  const std::string words = ": there are only the options --classic and --scale; the name of one file can be given";
-  EXPECT_EQ(RefusalOf({"--help"}), "--help" + words);
+  const std::string words = ": there is no such option; --help shows them";
+  EXPECT_EQ(RefusalOf({"--frobnicate"}), "--frobnicate" + words);
   EXPECT_EQ(RefusalOf({"-"}), "-" + words);
   EXPECT_EQ(RefusalOf({"box.zrm", "-style"}), "-style" + words);
+}
+
+TEST(CommandLine, HelpAndVersionCanBeAskedFor) {
+  EXPECT_TRUE(ReadCommandLine({"--help"}).Help);
+  EXPECT_TRUE(ReadCommandLine({"--version"}).Version);
+  EXPECT_FALSE(ReadCommandLine({}).Help);
 }
 
 TEST(CommandLine, AScaleIsAWholeNumberFrom50To400) {

@@ -45,12 +45,10 @@ export const flows = {
     assert.equal(await learner.text("speed"), "Speed: step");
     await learner.type("BOX 30");
     const steps = [
-      ["Your line, line 5: TO #TEMP$2", ""],
-      ["Your line, line 6: BOX 30", ""],
+      ["Your line: BOX 30", ""],
       ["BOX, line 2: FD :S", " 2  FD :S"],
       ["BOX, line 3: RT 90", " 3  RT 90"],
       ["BOX, line 4: END", " 4  END"],
-      ["Your line, line 7: END", ""],
     ];
     for (const [words, line] of steps) {
       await learner.until((text) => document.getElementById("chip").textContent === text, words);

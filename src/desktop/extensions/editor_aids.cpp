@@ -20,7 +20,7 @@ EditorAids::EditorAids(Session& session)
   // Their first look at the text counts as a change of it: it must not come when a text is already there.
   QCoreApplication::sendPostedEvents(colours, QEvent::MetaCall);
   QPalette palette = editor_.palette();
-  palette.setColor(QPalette::PlaceholderText, QColor(0xC8, 0xC8, 0xFF));
+  palette.setColor(QPalette::PlaceholderText, QColor(0xEE, 0xEE, 0xFF));
   editor_.setPalette(palette);
   editor_.setPlaceholderText(
       QStringLiteral("Write a program here.\n\nF2: done, Zerimo learns it\nF10: save\nF9: load\nF3: leave; Zerimo "

@@ -92,6 +92,7 @@ void FindBar::keyPressEvent(QKeyEvent* press) {
       return Close();
     case Qt::Key_Return:
     case Qt::Key_Enter:
+      if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
       if (replacement_.hasFocus()) return ReplaceOne();
       return Find(isBackward ? QTextDocument::FindBackward : QTextDocument::FindFlags());
     default:

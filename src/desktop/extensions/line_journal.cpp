@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <algorithm>
+#include <fstream>
 #include <system_error>
 #include <vector>
 
@@ -21,20 +22,21 @@ LineJournal::LineJournal(Form1& form1, fs::path folder) : folder_(std::move(fold
 }
 
 void LineJournal::Note(const std::string& text) {
-  if (!file_.is_open()) Open();
+  if (file_.empty()) Begin();
+  // Opened for each line, so that a disk that was full for one can take the next.
+  std::ofstream file(file_, std::ios::binary | std::ios::ate | std::ios::app);
   const QByteArray line = (WithLineEnds(text) + QLatin1Char('\n')).toUtf8();
-  if (file_.tellp() + static_cast<std::streamoff>(line.size()) > MostBytes) return;
-  file_ << line.toStdString() << std::flush;
+  if (file.tellp() + static_cast<std::streamoff>(line.size()) <= MostBytes) file << line.toStdString();
 }
 
-void LineJournal::Open() {
+void LineJournal::Begin() {
   std::error_code ignored;
   fs::create_directories(folder_, ignored);
   MakeRoom();
   const QString name = QStringLiteral("%1 %2.txt")
                            .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh.mm.ss")))
                            .arg(QCoreApplication::applicationPid());
-  file_.open(folder_ / name.toStdU16String(), std::ios::binary | std::ios::app);
+  file_ = folder_ / name.toStdU16String();
 }
 
 void LineJournal::MakeRoom() const {

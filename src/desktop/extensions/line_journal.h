@@ -1,7 +1,7 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
+#include <ios>
 
 #include "console/form1.h"
 #include "desktop/extension.h"
@@ -23,11 +23,12 @@ class LineJournal : public Extension {
   void Note(const std::string& text);
 
  private:
-  void Open();
+  void Begin();
   void MakeRoom() const;
 
   std::filesystem::path folder_;
-  std::ofstream file_;
+  /// This session's file; empty before its first line.
+  std::filesystem::path file_;
 };
 
 }  // namespace zerimo

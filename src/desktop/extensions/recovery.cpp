@@ -128,6 +128,8 @@ std::string Recovery::Rescue() {
   if (text.empty()) return {};
   if (!typed_) return "The text of the editor has not been changed since it was loaded or saved.";
   if (!folder_.Write(text)) return {};
+  // It was not taken over if that is what has failed.
+  folding_ = false;
   return "The text of the editor is safe. Zerimo offers it at the next start.";
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QSysInfo>
 #include <algorithm>
 
 #include "base/failure.h"
@@ -14,14 +15,32 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* Ending = ".ZRM";
+constexpr const char* LockEnding = ".lock";
 
 QString ToQString(const fs::path& path) { return QString::fromStdU16String(path.u16string()); }
 
 std::unique_ptr<QLockFile> LockOf(const fs::path& file) {
-  auto lock = std::make_unique<QLockFile>(ToQString(file) + QLatin1String(".lock"));
+  auto lock = std::make_unique<QLockFile>(ToQString(file) + QLatin1String(LockEnding));
   // However old a lock is, it is valid as long as its process lives.
   lock->setStaleLockTime(0);
   return lock;
+}
+
+/// Whether a lock says that it is held on this machine by a process that lives.
+bool IsHeldHere(const QLockFile& lock) {
+  qint64 process = 0;
+  QString machine;
+  QString program;
+  if (!lock.getLockInfo(&process, &machine, &program)) return false;
+  return machine == QSysInfo::machineHostName() && fs::exists("/proc/" + std::to_string(process));
+}
+
+bool TakeLock(QLockFile& lock) {
+  if (lock.tryLock(0)) return true;
+  if (IsHeldHere(lock)) return false;
+  // A window on another machine has left it, unless it renews it.
+  lock.setStaleLockTime(static_cast<int>(RescueFolder::LongestSilence.count()));
+  return lock.tryLock(0);
 }
 
 }  // namespace
@@ -34,6 +53,11 @@ void RescueFolder::Claim() {
   own_ = folder_ / (name + Ending);
   lock_ = LockOf(own_);
   lock_->tryLock(0);
+  QObject::connect(&renewal_, &QTimer::timeout, &renewal_, [this] {
+    std::error_code none;
+    fs::last_write_time(own_.string() + LockEnding, fs::file_time_type::clock::now(), none);
+  });
+  renewal_.start(LongestSilence / 5);
 }
 
 bool RescueFolder::Write(const std::string& text) {
@@ -48,17 +72,31 @@ void RescueFolder::Remove() {
 }
 
 std::vector<RescuedText> RescueFolder::Left() const {
+  RemoveLocksWithoutTexts();
   std::vector<RescuedText> left;
   std::error_code error;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder_, error)) {
     if (entry.path().extension() != Ending || entry.path() == own_) continue;
     std::shared_ptr<QLockFile> lock = LockOf(entry.path());
-    if (!lock->tryLock(0)) continue;
+    if (!TakeLock(*lock)) continue;
     std::string text = BytesOf(entry.path()).value_or("");
     left.push_back({entry.path(), std::move(text), QFileInfo(ToQString(entry.path())).lastModified(), lock});
   }
   std::sort(left.begin(), left.end(), [](const auto& one, const auto& other) { return one.File < other.File; });
   return left;
+}
+
+void RescueFolder::RemoveLocksWithoutTexts() const {
+  std::error_code error;
+  std::vector<fs::path> texts;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder_, error)) {
+    if (entry.path().extension() == LockEnding) texts.push_back(entry.path().parent_path() / entry.path().stem());
+  }
+  for (const fs::path& text : texts) {
+    const std::unique_ptr<QLockFile> lock = LockOf(text);
+    // Letting a lock go removes its file.
+    if (text != own_ && !fs::exists(text, error)) TakeLock(*lock);
+  }
 }
 
 void RescueFolder::Drop(RescuedText& rescued) {

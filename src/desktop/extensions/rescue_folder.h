@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 #include <QLockFile>
+#include <QTimer>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -19,9 +21,13 @@ struct RescuedText {
 };
 
 /// A folder with one file for each window whose text is not saved. A file stays locked while its window lives, and no
-/// window ever overwrites another one's file.
+/// window ever overwrites another one's file. Where several machines share the folder, a lock of another machine holds
+/// as long as it is renewed.
 class RescueFolder {
  public:
+  /// After this time without a renewal, a window on another machine is gone.
+  static constexpr std::chrono::milliseconds LongestSilence = std::chrono::minutes(5);
+
   explicit RescueFolder(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   /// Writes this window's text beside its former one and renames it. Returns whether that succeeded; if not, the former
@@ -36,11 +42,13 @@ class RescueFolder {
 
  private:
   void Claim();
+  void RemoveLocksWithoutTexts() const;
 
   std::filesystem::path folder_;
   /// This window's file; empty before the first write.
   std::filesystem::path own_;
   std::unique_ptr<QLockFile> lock_;
+  QTimer renewal_;
 };
 
 }  // namespace zerimo

@@ -57,7 +57,11 @@ void RunChip::Show() {
   ShowLetters(label_, ChipPoints, true);
   label_.setText(lines.join(u'\n'));
   label_.adjustSize();
-  label_.move(session_.window.width() - label_.width() - EdgeDistance, EdgeDistance);
+  QRect place(QPoint(session_.window.width() - label_.width() - EdgeDistance, EdgeDistance), label_.size());
+  const QWidget& panel = session_.window.WidgetOf(session_.form1.controls.Frame1);
+  // The panel is closed in its upper right corner.
+  if (panel.isVisible() && panel.geometry().intersects(place)) place.moveLeft(EdgeDistance);
+  label_.move(place.topLeft());
   label_.raise();
   if (label_.isHidden() != lines.isEmpty()) label_.setHidden(lines.isEmpty());
 }

@@ -29,8 +29,8 @@ bool Speed::PressKey(const QKeyEvent& press) {
     waiting_ = false;
     return true;
   }
-  // Digits of the number pad count too.
-  if ((press.modifiers() & ~Qt::KeypadModifier) != Qt::ControlModifier) return false;
+  // Digits of the number pad count too, and those that a keyboard has on Shift.
+  if ((press.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::ControlModifier) return false;
   const auto* chosen =
       std::find_if(std::begin(Paces), std::end(Paces), [&](const Pace& pace) { return pace.Key == press.key(); });
   if (chosen == std::end(Paces)) return false;
@@ -56,6 +56,7 @@ void Speed::RunEnds() {
 
 void Speed::Step() {
   runningLine_.Step();
+  if (!runningLine_.IsWritten()) return;
   MarkLine();
   const QString next = pace_->Pause < 0 ? QStringLiteral("\nThe space bar runs it.") : QString();
   chip_.Say(ToQString(runningLine_.Words()) + next);

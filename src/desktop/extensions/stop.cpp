@@ -29,9 +29,13 @@ bool Stop::PressKey(const QKeyEvent& press) {
   if (!MeansStop(press)) return false;
   if (session_.stage.IsRunning()) {
     session_.stage.RequestStop();
-  } else if (session_.form1.controls.Timer3.Enabled) {
-    session_.Deliver([](Form1& form1) { form1.files.pictures.EndSlideShow(); });
+  } else if (!session_.form1.controls.Timer3.Enabled) {
+    return true;
   }
+  // Also one that the stopped line has begun.
+  session_.WhenStarted([](Form1& form1) {
+    if (form1.controls.Timer3.Enabled) form1.files.pictures.EndSlideShow();
+  });
   return true;
 }
 

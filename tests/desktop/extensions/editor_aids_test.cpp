@@ -48,6 +48,21 @@ class EditorAidsTest : public ExtensionsTest {
   }
 };
 
+TEST_F(EditorAidsTest, EnterPressesTheButtonOfTheBarThatHasTheFocus) {
+  TypeInEditor("fd 10\nfd 20");
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("fd");
+  Press(Qt::Key_Tab);
+  Type("bk");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Editor().toPlainText(), "bk 10\nbk 20");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Return);
+  EXPECT_FALSE(Bar().isVisible());
+}
+
 TEST_F(EditorAidsTest, FindSelectsTheNextPlaceWithoutRegardToCase) {
   TypeInEditor("to a\nfd 10\nFD 20\nend");
   Find("fd");

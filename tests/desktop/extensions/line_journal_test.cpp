@@ -73,6 +73,18 @@ TEST_F(LineJournalTest, AFileEndsAtAMegabyte) {
   EXPECT_GT(Files().at(0).size(), (std::size_t{1} << 20) - 1002);
 }
 
+TEST_F(LineJournalTest, AfterALineThatCannotBeWrittenTheNextOnesAreKept) {
+  Enter("fd 1");
+  const fs::path file = fs::directory_iterator(JournalFolder())->path();
+  fs::rename(file, State() / "away");
+  fs::create_directory(file);
+  Enter("fd 2");
+  fs::remove(file);
+  fs::rename(State() / "away", file);
+  Enter("fd 3");
+  EXPECT_EQ(Files(), Texts{"FD 1\nFD 3\n"});
+}
+
 TEST_F(LineJournalTest, AFolderThatCannotBeMadeStopsNothing) {
   std::ofstream(State()) << "in the way";
   Enter("rt 90");

@@ -30,6 +30,8 @@ TEST_F(ProjectorTest, WhatTheClassReadsHasAContrastOfSeven) {
   EXPECT_LT(ContrastOf(Row(0)), 7);
   Switch();
   for (const QWidget* widget : read) EXPECT_GE(ContrastOf(*widget), 7) << widget->objectName().toStdString();
+  const QPalette& editor = Editor().palette();
+  EXPECT_GE(Contrast(editor.color(QPalette::Base), editor.color(QPalette::PlaceholderText)), 7);
   Switch();
   EXPECT_LT(ContrastOf(Row(0)), 7);
 }

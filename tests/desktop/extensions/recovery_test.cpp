@@ -142,6 +142,33 @@ TEST_F(RecoveryAtOnceTest, AFailureKeepsTheTextAndTheBoxSaysSo) {
   EXPECT_FALSE(HasFile("Rescued.ZRM"));
 }
 
+TEST_F(RecoveryTest, ATextWhoseTakingOverFailsIsKept) {
+  const char* text = "to mm\nrepeat 100000 [fd 3 rt 5]\nend";
+  TypeUntilKept(text);
+  AnswerNextBox({Qt::Key_Return});
+  Press(Qt::Key_F2);
+  ASSERT_EQ(Boxes.size(), 1u);
+  EXPECT_TRUE(Boxes[0].Text.ends_with("Zerimo offers it at the next start.")) << Boxes[0].Text;
+  EXPECT_TRUE(session->HasEnded());
+  EXPECT_EQ(Kept().size(), 1u);
+}
+
+TEST_F(RecoveryTest, ATextOfAnotherMachineIsOfferedOnceItsWindowIsSilent) {
+  Leave("1.ZRM", "one");
+  const fs::path lock = Rescued() / "1.ZRM.lock";
+  std::ofstream(lock) << "1\nzerimo\nanother machine\nwith another number\nand another start\n";
+  EXPECT_TRUE(RescueFolder(Rescued()).Left().empty());
+  fs::last_write_time(lock, fs::file_time_type::clock::now() - 2 * RescueFolder::LongestSilence);
+  ASSERT_EQ(RescueFolder(Rescued()).Left().size(), 1u);
+}
+
+TEST_F(RecoveryTest, ALockWithoutATextIsRemoved) {
+  Leave("1.ZRM.lock", "999999999\nzerimo\n\n");
+  Leave("2.ZRM", "two");
+  EXPECT_EQ(RescueFolder(Rescued()).Left().size(), 1u);
+  EXPECT_FALSE(fs::exists(Rescued() / "1.ZRM.lock"));
+}
+
 TEST_F(RecoveryTest, TheNextStartOpensTheTextInTheEditor) {
   TypeUntilKept("to a\nend");
   AnswerNextBox({Qt::Key_O});

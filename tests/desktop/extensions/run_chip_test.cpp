@@ -38,6 +38,15 @@ TEST_F(RunChipTest, ItStandsInTheCornerAndTakesNoClicks) {
   EXPECT_EQ(Chip().geometry().right(), Window().width() - 9);
 }
 
+TEST_F(RunChipTest, ItLeavesTheCornerWhereThePanelIsClosed) {
+  Enter("show dia");
+  QWidget& panel = WidgetOf(FormControls().Frame1);
+  panel.move(Window().width() - panel.width(), 0);
+  Press(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_FALSE(Chip().geometry().intersects(panel.geometry()));
+  EXPECT_EQ(Chip().x(), 8);
+}
+
 TEST_F(RunChipTest, NothingOfItIsAControlOrInThePicture) {
   Press(Qt::Key_3, Qt::ControlModifier);
   EXPECT_EQ(Chip().parentWidget(), &Window());

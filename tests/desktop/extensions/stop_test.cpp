@@ -71,6 +71,14 @@ TEST_F(StopTest, ASlideShowEndsAndItsSlideStays) {
   EXPECT_EQ(session->form1.Picture1.Point(300, 300), shown);
 }
 
+TEST_F(StopTest, ASlideShowEndsWithTheLineThatBeganIt) {
+  QImage slide(64, 64, QImage::Format_RGB32);
+  slide.fill(Qt::red);
+  ASSERT_TRUE(slide.save(folder.filePath("TRIP1.JPG"), "JPG", 100));
+  StopLine("slideshow trip 30000 wait 3600000");
+  EXPECT_TRUE(Until([this] { return !FormControls().Timer3.Enabled; }));
+}
+
 TEST_F(StopTest, AWaitStops) {
   StopLine("wait 3600000");
   EXPECT_EQ(session->form1.interpreter.controlPath.CtrlStr(), ".");
