@@ -50,7 +50,9 @@ start_window "no file.zrm"
 within 30 windows_stand 2 || fail "no box tells that the file is missing"
 end_window
 
-for arguments in --help '-x' 'a.zrm b.zrm'; do
+[[ $("$zerimo" --help) == "Usage: zerimo "* ]] || fail "zerimo --help does not tell its usage"
+[[ $("$zerimo" --version) == "zerimo "* ]] || fail "zerimo --version does not tell the version"
+for arguments in --frobnicate '-x' 'a.zrm b.zrm'; do
   status=0
   words=$("$zerimo" $arguments 2>&1) || status=$?
   [ "$status" = 1 ] || fail "zerimo $arguments ends with $status"
