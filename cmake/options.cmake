@@ -93,7 +93,8 @@ function(zerimo_guard_room name)
 
   get_target_property(sources ${name} SOURCES)
   list(TRANSFORM sources PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/*.hpp
+    ${CMAKE_CURRENT_SOURCE_DIR}/*.inc)
   # A room of two libraries: a header goes with its source.
   foreach(header IN LISTS headers)
     string(REGEX REPLACE "h$" "cpp" source ${header})

@@ -13,11 +13,4 @@ class Watch {
   virtual void Tick() = 0;
 };
 
-/// Watches nothing.
-class NoWatch final : public Watch {
- public:
-  void Step() override {}
-  void Tick() override {}
-};
-
 }  // namespace zerimo

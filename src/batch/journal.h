@@ -32,8 +32,8 @@ class Journal {
   void Stopped(const std::string& by);
   void Finished();
 
-  /// From now on what is written may have so many bytes; the event that passes them is the last, and throws `Stopped`.
-  /// What is written after that is not counted.
+  /// Limits what is written from now on to that many bytes. The event that passes the limit is still written, and
+  /// throws `Stopped`; what comes after it is not counted.
   void Limit(std::uintmax_t bytes) { left_ = bytes; }
 
   bool HasTranscript() const { return transcript_ != nullptr; }

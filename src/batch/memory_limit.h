@@ -2,8 +2,8 @@
 
 namespace zerimo::batch {
 
-/// While it lives, the process gets at most so many megabytes more. What it does not get ends in `std::bad_alloc`.
-/// There is one at a time.
+/// While it lives, the process can take at most that many megabytes more; a request beyond them fails with
+/// `std::bad_alloc`. There is one at a time.
 class MemoryLimit {
  public:
   /// Whether this build can limit the memory of a process.
@@ -11,7 +11,7 @@ class MemoryLimit {
 
   /// 0 is no limit.
   explicit MemoryLimit(int megabytes);
-  /// For what is to be written at the end, there is no limit any more.
+  /// Lifts the limit, so that what is written at the end can be.
   ~MemoryLimit();
   MemoryLimit(const MemoryLimit&) = delete;
   MemoryLimit& operator=(const MemoryLimit&) = delete;

@@ -17,16 +17,18 @@ std::unique_ptr<QLockFile> LockIn(const QString& folder) {
   return lock;
 }
 
-/// Whether no runner is at work in a folder where one has been.
+/// Whether no runner is at work in a folder, nor about to be.
 bool IsAbandoned(const QString& folder) {
   constexpr qint64 longestStart = 600;
   const QFileInfo lock(folder + QStringLiteral("/runner.lock"));
-  // A runner that was killed while it made its lock.
-  if (lock.exists() && lock.size() == 0) return lock.lastModified().secsTo(QDateTime::currentDateTime()) > longestStart;
-  return lock.exists() && LockIn(folder)->tryLock(0);
+  // A runner that was killed before or while it made its lock.
+  const QFileInfo youngest = lock.exists() ? lock : QFileInfo(folder);
+  if (youngest.isDir() || youngest.size() == 0)
+    return youngest.lastModified().secsTo(QDateTime::currentDateTime()) > longestStart;
+  return LockIn(folder)->tryLock(0);
 }
 
-/// Only what belongs to the same user, and only where a runner has been.
+/// Only what belongs to the same user, and what no runner is at work in.
 void RemoveLeftovers(const QFileInfo& own) {
   for (const QFileInfo& other : own.dir().entryInfoList({QLatin1String(Beginning) + u'*'}, QDir::Dirs)) {
     const QString path = other.filePath();

@@ -19,14 +19,14 @@ Form1::Form1(ScreenSize screen, Folders givenFolders, Services& services, Watch&
       Picture1("Picture1", canvas),
       folders(std::move(givenFolders)),
       interpreter({services, watch, controls, turtle}),
-      drawing_{{services, watch, controls, turtle}, Picture1, interpreter.arguments, interpreter.dispatch},
-      graphics(drawing_),
+      context_{{services, watch, controls, turtle}, Picture1, interpreter.arguments, interpreter.dispatch},
+      graphics(context_),
       files({interpreter, controls, services, folders}, Picture1),
-      generalPrimitives(drawing_, interpreter.arithmetic, folders),
+      generalPrimitives(context_, interpreter.arithmetic, folders),
       statusLine(controls, turtle, services),
-      screenModes(drawing_, interpreter.store, files),
-      diagnosis(drawing_, interpreter),
-      keys(drawing_, interpreter.typedLines, screenModes, files) {
+      screenModes(context_, interpreter.store, files),
+      diagnosis(context_, interpreter),
+      keys(context_, interpreter.typedLines, screenModes, files) {
   Picture1.CreateCanvas(screen.Width, screen.Height);
   BindPrimitives();
 }

@@ -54,7 +54,7 @@ class Form1 {
   Interpreter interpreter;
 
  private:
-  DrawingContext drawing_;
+  DrawingContext context_;
 
  public:
   Graphics graphics;

@@ -2,15 +2,15 @@
 
 namespace zerimo {
 
-/// Has put off setting some numbers, and sets them when somebody reads one of them.
+/// Has put off setting some numbers, and sets them as soon as one of them is read.
 class PutOff {
  public:
   virtual ~PutOff() = default;
-  /// Sets them; does nothing if that is done. Never fails.
+  /// Sets them, unless that has been done. Never fails.
   virtual void CatchUp() = 0;
 };
 
-/// A single that can be put off: before it is read, the one who puts it off sets it.
+/// A single whose setting can be put off: whoever put it off sets it before it is read.
 class LateNumber {
  public:
   LateNumber() = default;
@@ -18,14 +18,14 @@ class LateNumber {
   LateNumber(float number) : number_(number) {}
   LateNumber(const LateNumber& other) : number_(other) {}
   ~LateNumber() = default;
-  // Who puts it off stays the same, also in an assignment to itself. NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
+  // Only the number is copied, not who may put it off. NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
   LateNumber& operator=(const LateNumber& other) { return *this = static_cast<float>(other); }
   LateNumber& operator=(float number) noexcept {
     number_ = number;
     return *this;
   }
 
-  /// From now on it may be put off by the one who is given, which must outlive every reader.
+  /// From now on `by` may put it off; `by` must outlive every reader.
   void LeaveTo(PutOff& by) noexcept { by_ = &by; }
 
   operator float() const {

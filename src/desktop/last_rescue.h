@@ -17,8 +17,8 @@ class LastRescue {
   /// `places` are folders for a text that neither an extension nor `AppFolder` takes.
   LastRescue(const Form1& form1, const Extensions& extensions, Stage& stage, std::vector<std::filesystem::path> places);
 
-  /// Words that tell where the text is; none where there is no text. As long as nothing takes the text, a box, which
-  /// begins with `reason`, offers to copy it and to try again; nothing if the user gives the text up there.
+  /// Returns words that say where the text is, empty if there is no text. While nothing takes the text, a box that
+  /// begins with `reason` offers to copy it and to try again; returns nothing if the user gives it up there.
   std::optional<std::string> Keep(const std::string& reason);
 
  private:

@@ -115,7 +115,7 @@ void MainWindow::SyncFocus() {
   const ControlView* view = holder == nullptr ? nullptr : FindView(*holder);
   if (holder != nullptr && holder->Panel() == &form1_.controls.Picture3) lastRow_ = holder;
   QWidget& wanted = view == nullptr ? static_cast<QWidget&>(*this) : view->Widget();
-  // A part of the editor, such as a bar for finding, has the focus for the editor.
+  // If a part of the editor, such as the find bar, has the focus, the editor counts as having it.
   if (focusWidget() == &wanted || (view != nullptr && wanted.isAncestorOf(focusWidget()))) return;
   wanted.setFocus(Qt::OtherFocusReason);
   // Unless an arrow key led here, typing replaces the old line.
@@ -124,7 +124,7 @@ void MainWindow::SyncFocus() {
 }
 
 void MainWindow::Describe() {
-  // A screen reader is told of each description that is set, so that one that stays the same is not set again.
+  // A screen reader announces each description that is set, even one that has not changed.
   const auto describe = [this](const Control& control, const QString& words) {
     QWidget& widget = WidgetOf(control);
     if (widget.accessibleDescription() != words) widget.setAccessibleDescription(words);

@@ -42,8 +42,8 @@ class SurfaceWidget : public QWidget {
   QPointF middle_;
 };
 
-/// Draws a part of a picture, in pixels of the painter's device, as large as the painter is scaled: pixel by pixel
-/// where each gets a whole number of those, or else smoothed.
+/// Draws parts of a picture at the painter's scale: pixel by pixel if each becomes a whole number of the device's
+/// pixels, otherwise smoothed.
 void DrawPicture(QPainter& painter, const QImage& picture, const QRegion& parts);
 
 /// `Picture1`.

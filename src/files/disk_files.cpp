@@ -30,7 +30,7 @@ constexpr std::string_view TemporaryBeginning = ".zerimo-";
 constexpr std::string_view TemporaryEnding = ".tmp";
 constexpr std::size_t TemporaryDigits = 16;
 
-/// Bytes that are written to the disk at once; more are only if they come at once.
+/// How many bytes are collected before they are written; a larger piece is written as it comes.
 constexpr std::size_t LargestPiece = std::size_t{64} << 10;
 
 void Require(bool isSo) {
@@ -183,7 +183,7 @@ std::optional<std::string> BytesOf(const fs::path& file) {
   return bytes;
 }
 
-/// Where the bytes go until they are saved; what is left there goes with it.
+/// The file beside the target until it is saved; removed with this object if it was not.
 class FileToSave::Place {
  public:
   explicit Place(const fs::path& file)

@@ -14,7 +14,7 @@ constexpr char CarriageReturn = '\r';
 
 bool IsKept(char character) noexcept { return character >= 32 && character <= 126; }
 
-/// Appends the kept characters of a piece to a line, whatever that holds: stale text stays before them. Returns whether
+/// Adds the kept characters of a piece to the end of a line; stale text in it stays before them. Returns whether
 /// there were any.
 bool AppendToLine(Store& store, int number, std::string_view piece) {
   std::string kept;

@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* RescuedName = "Rescued.ZRM";
 constexpr const char* LineBreak = "\r\n";
 
 }  // namespace

@@ -10,7 +10,10 @@
 
 namespace zerimo {
 
-/// Writes the editor's text to .ZRM files.
+/// The name of a file with a text that nobody has saved; a second one is called Rescued2.ZRM.
+constexpr const char* RescuedName = "Rescued.ZRM";
+
+/// What leaves the editor and the store: the editor's text in .ZRM files, and the procedures in a box.
 class Saving {
  public:
   Saving(const FilesContext& context, const ProgramFiles& programFiles)

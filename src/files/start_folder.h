@@ -34,8 +34,8 @@ struct StartFolder {
 /// save has left there is removed.
 StartFolder PrepareStartFolder(const Surroundings& surroundings);
 
-/// A folder as `AppFolder`: the system's name of it. If that name leads elsewhere, because the path has characters that
-/// the system can't hold, and the disk's relative paths start at the folder, it is a full stop.
+/// The system's name of a folder, to be `AppFolder`. If that name leads elsewhere, because the path has characters that
+/// the system can't hold, and the disk's relative paths start at the folder, the name is ".".
 std::string AppFolderName(const std::filesystem::path& folder, const Disk& disk = Disk());
 
 }  // namespace zerimo

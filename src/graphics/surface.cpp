@@ -15,9 +15,9 @@ void RequireAccepted(bool isAccepted) {
   if (!isAccepted) throw Failure(FailureKind::InvalidArgument);
 }
 
-int WholePixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<double>(units) / UnitsPerPixel)); }
-
 }  // namespace
+
+int WholePixels(float units) { return static_cast<int>(RoundHalfEven(static_cast<double>(units) / UnitsPerPixel)); }
 
 void Surface::CreateCanvas(float screenWidth, float screenHeight) {
   canvas_.Create(WholePixels(screenWidth), WholePixels(screenHeight), backColor_);

@@ -68,6 +68,9 @@ class SurfaceRecorder {
 /// Surface units to a pixel: the whole system assumes this number.
 inline constexpr int UnitsPerPixel = 15;
 
+/// Surface units in pixels, rounded half to even.
+int WholePixels(float units);
+
 /// `Picture1`, the drawing surface. It keeps the properties that drawing depends on, turns surface units into pixels,
 /// and leaves the drawing to a canvas. A property write that is refused fails (invalid argument) and changes nothing.
 class Surface : public Control {

@@ -3,16 +3,16 @@
 namespace zerimo {
 
 Interpreter::Interpreter(const InterpreterContext& context)
-    : program_{context, store, controlPath, variables, arithmetic},
+    : context_{context, store, controlPath, variables, arithmetic},
       store(context.controls.List3),
       arithmetic(context.watch),
-      variables(program_),
+      variables(context_),
       arguments(variables, arithmetic),
       dispatch(context.services),
-      inputs(program_),
-      lowering(program_),
-      conditionals(program_),
-      runner(program_, dispatch, inputs, conditionals),
-      typedLines(program_, lowering, runner) {}
+      inputs(context_),
+      lowering(context_),
+      conditionals(context_),
+      runner(context_, dispatch, inputs, conditionals),
+      typedLines(context_, lowering, runner) {}
 
 }  // namespace zerimo

@@ -19,7 +19,7 @@ namespace zerimo {
 /// primitives and handle keys. What it is built from must outlive it.
 /// Behaviour: docs/interpreter.md, a section for each part.
 class Interpreter {
-  ProgramContext program_;
+  ProgramContext context_;
 
  public:
   explicit Interpreter(const InterpreterContext& context);

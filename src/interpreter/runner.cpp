@@ -74,8 +74,8 @@ void Runner::Run1(std::string_view procedure) {
   lineNow_ = 0;
 }
 
-// A function of its own in every build: an engine of WebAssembly can't replace one that is running, so a loop that held
-// the whole act would stay for a whole program as it was first and hastily compiled.
+// Must stay a function of its own: an engine of WebAssembly can't replace a function while it runs, so a loop that
+// contained the whole act would run a whole program in its first, hasty compilation.
 [[gnu::noinline]] void Runner::Act(Walk& walk) {
   lineNow_ = walk.Line;
   context_.watch.Step();
@@ -203,7 +203,7 @@ void Runner::ActOnElse(Walk& walk) {
 }
 
 void Runner::ActOnExpression(Walk& walk, std::string_view word) {
-  // Here alone the tidying comes before the act.
+  // Only here does the tidying come before the act.
   context_.controlPath.Tidy();
   SkipOnFailure([&] { dispatch_.Execute(std::string(word) + context_.store.Line(walk.Line)); });
   Advance(walk);

@@ -51,7 +51,7 @@ const LineForm& Store::MakeForm(std::size_t index) const {
 
 std::string Store::TakeFirstWord(int number) {
   const std::string& line = Line(number);
-  // The line is as an earlier call left it: nothing would change.
+  // An earlier call has already left the line as it would become.
   const bool isTaken = line.size() > 1 && line.front() != ' ' && line.back() == ' ' && line[line.size() - 2] != ' ';
   if (isTaken && std::ranges::count(line, ' ') < MostBlanks) return line.substr(0, line.find(' '));
   LentLine lent(*this, number);

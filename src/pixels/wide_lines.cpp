@@ -96,12 +96,12 @@ void UniteEnd(ColumnSpan& span, const RoundPen& pen, int x, int y, int row) {
   Unite(span, {x + end.First, x + end.Last});
 }
 
-/// In a line that is inside the canvas.
+/// The columns between the edges, for a line that is inside the canvas.
 ColumnSpan Columns(const Edges& edges) {
   return edges.From <= edges.To ? ColumnSpan{FirstFrom(edges.From), LastTo(edges.To)} : NoColumns;
 }
 
-/// In any line.
+/// The same for any line.
 ColumnSpan Columns(const Edges& edges, int columnsOfCanvas) {
   if (!(edges.From <= edges.To)) return NoColumns;
   return {FirstFrom(edges.From, 0, columnsOfCanvas), LastTo(edges.To, -1, columnsOfCanvas - 1)};

@@ -16,8 +16,8 @@ class WideLines {
   void Paint(SpanPainter& painter, WholeLine line, const RoundPen& pen);
 
  private:
-  /// The columns of each row that a short line touches, from the top, relative to its upper end; none if it depends on
-  /// the place of the line how its edges are rounded.
+  /// The columns of each row that a short line touches, from the top, relative to its upper end; none if the rounding
+  /// of its edges depends on where the line is.
   using Mask = std::vector<ColumnSpan>;
 
   static constexpr int LongestMask = 16;

@@ -12,12 +12,12 @@
 #include <system_error>
 #include <vector>
 
-#include "desktop/command_line.h"
 #include "desktop/desktop_style.h"
 #include "desktop/desktop_text.h"
 #include "desktop/extensions/extensions.h"
 #include "desktop/extensions/screen_scale.h"
 #include "desktop/session.h"
+#include "desktop/window_options.h"
 #include "files/disk_files.h"
 #include "files/folders.h"
 #include "files/start_folder.h"
@@ -60,19 +60,19 @@ std::string WordsAbout(const StartFolder& start) {
 }
 
 /// The absolute path of the file to open, or the empty path.
-fs::path FileToOpen(const CommandLine& line) {
-  if (!line.File) return {};
-  const auto place = static_cast<qsizetype>(*line.File) + 1;
+fs::path FileToOpen(const WindowOptions& options) {
+  if (!options.File) return {};
+  const auto place = static_cast<qsizetype>(*options.File) + 1;
   return fs::absolute(DiskPath(QCoreApplication::arguments().at(place)));
 }
 
 void SetScale(int percent) { qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0)); }
 
 /// The toolkit connected with the desktop, at the scale asked for or at one that fits the screen.
-std::unique_ptr<QApplication> Connect(const CommandLine& line, int& argc, char** argv) {
-  if (line.Scale != 0) SetScale(line.Scale);
+std::unique_ptr<QApplication> Connect(const WindowOptions& options, int& argc, char** argv) {
+  if (options.Scale != 0) SetScale(options.Scale);
   auto application = std::make_unique<QApplication>(argc, argv);
-  if (line.Scale != 0 || line.Classic) return application;
+  if (options.Scale != 0 || options.Classic) return application;
   const QScreen& screen = *QApplication::primaryScreen();
   const int scale = ScaleForScreen(screen.size().width(), screen.devicePixelRatio());
   if (scale == 100) return application;
@@ -82,8 +82,8 @@ std::unique_ptr<QApplication> Connect(const CommandLine& line, int& argc, char**
   return std::make_unique<QApplication>(argc, argv);
 }
 
-int RunInWindow(const CommandLine& line, int argc, char** argv) {
-  const std::unique_ptr<QApplication> application = Connect(line, argc, argv);
+int RunInWindow(const WindowOptions& options, int argc, char** argv) {
+  const std::unique_ptr<QApplication> application = Connect(options, argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(ProgramName));
   QApplication::setApplicationVersion(QStringLiteral(ZERIMO_VERSION));
   QApplication::setDesktopFileName(QStringLiteral(ZERIMO_ID));
@@ -92,14 +92,14 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
   const QTemporaryDir settings;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   SetDesktopStyle();
-  const fs::path file = FileToOpen(line);
+  const fs::path file = FileToOpen(options);
   const StartFolder start = PrepareStartFolder(LookAround());
   const Disk disk(start.IsCurrentFolder ? start.Folder : fs::path());
   const fs::path state = DiskPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
   const fs::path temporary = DiskPath(QStandardPaths::writableLocation(QStandardPaths::TempLocation));
   Session session(QApplication::primaryScreen()->availableGeometry(), Folders(AppFolderName(start.Folder, disk), disk),
                   FoldersForRescue(state, temporary));
-  if (!line.Classic) AddExtensions(session, state);
+  if (!options.Classic) AddExtensions(session, state);
   session.Start();
   session.Greet(WordsAbout(start), file);
   if (!session.HasEnded()) QApplication::exec();
@@ -107,13 +107,13 @@ int RunInWindow(const CommandLine& line, int argc, char** argv) {
 }
 
 int Main(int argc, char** argv) {
-  const CommandLine line = ReadCommandLine({argv + 1, argv + argc});
-  if (!line.Refusal.empty()) {
-    std::cerr << "zerimo: " << line.Refusal << '\n';
+  const WindowOptions options = ReadWindowOptions({argv + 1, argv + argc});
+  if (!options.Refusal.empty()) {
+    std::cerr << "zerimo: " << options.Refusal << '\n';
     return Refused;
   }
-  if (!line.Help && !line.Version) return RunInWindow(line, argc, argv);
-  std::cout << (line.Help ? Help : Version) << std::flush;
+  if (!options.Help && !options.Version) return RunInWindow(options, argc, argv);
+  std::cout << (options.Help ? Help : Version) << std::flush;
   return std::cout ? 0 : Refused;
 }
 

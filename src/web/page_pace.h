@@ -14,8 +14,8 @@ class PagePace {
   PagePace(const Interpreter& interpreter, std::function<void()> show)
       : runningLine_(interpreter), show_(std::move(show)) {}
 
-  /// Shows the line that runs next and holds it. At full speed it does nothing and says no. Leaves the run with
-  /// `StopRun` if the user stops the program.
+  /// Shows the line that runs next, holds it, and returns true; at full speed does nothing and returns false. Leaves
+  /// the run with `StopRun` if the user stops the program.
   bool Step();
 
   /// Must be called when a handler is over.

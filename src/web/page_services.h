@@ -35,7 +35,7 @@ class PageServices : public Services {
 /// Shows the picture as it grows while a line runs, at most once in a frame, and lets the user stop the program.
 class PageWatch : public Watch {
  public:
-  /// `step` is called before each line that is not to run at full speed; it says whether the next is such a one, too.
+  /// `step` is called before each line not run at full speed; it returns whether the next line is one of these too.
   PageWatch(std::function<void()> show, std::function<bool()> step) : show_(std::move(show)), step_(std::move(step)) {}
 
   /// To be called when a handler begins.

@@ -165,9 +165,12 @@ TEST_F(ClassSignalsTest, WhatAKilledRunnerLeavesIsRemovedByTheNext) {
   fs::create_directory(early.parent_path());
   std::ofstream(early).close();
   fs::last_write_time(early, fs::file_time_type::clock::now() - std::chrono::hours(1));
+  fs::create_directory(TemporaryFolder() / "zerimo-class-old");
+  fs::last_write_time(TemporaryFolder() / "zerimo-class-old", fs::file_time_type::clock::now() - std::chrono::hours(1));
   Write("A.ZRM", "TO A|END|");
   EXPECT_EQ(Run().Status, 0);
-  // Where no runner has been, nothing is removed.
+  EXPECT_FALSE(fs::exists(TemporaryFolder() / "zerimo-class-old"));
+  // A young one may be that of a runner that starts.
   EXPECT_TRUE(fs::remove(TemporaryFolder() / "zerimo-class-other"));
   EXPECT_TRUE(fs::is_empty(TemporaryFolder()));
 }

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
 #include <sys/ipc.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -11,8 +12,10 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <thread>
@@ -74,6 +77,40 @@ TEST_F(SandboxTest, NoOtherFileIsReachedWhateverTheCodeDoes) {
   EXPECT_TRUE(Inside([&] { return syscall(fileModeAt, AT_FDCWD, outside.c_str(), 0777, 0) < 0; }));
   EXPECT_EQ(Temp.Read("OUTSIDE"), "outside");
   EXPECT_EQ(Temp.Count("read"), 1);
+}
+
+TEST_F(SandboxTest, AFileThatIsReadStaysAsItIs) {
+  const std::string file = (Temp.Path / "read/FILE").string();
+  EXPECT_TRUE(IsRefused("read/FILE", O_RDONLY | O_TRUNC));
+  EXPECT_TRUE(IsRefused("read/FILE", O_ACCMODE | O_TRUNC));
+  EXPECT_TRUE(Inside([&] { return fchmod(open(file.c_str(), O_RDONLY), 04777) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(Inside([&] { return fchown(open(file.c_str(), O_RDONLY), 0, 0) < 0 && errno == EPERM; }));
+  EXPECT_TRUE(
+      Inside([&] { return fsetxattr(open(file.c_str(), O_RDONLY), "user.a", "b", 1, 0) < 0 && errno == EPERM; }));
+  EXPECT_EQ(Temp.Read("read/FILE"), "theirs");
+}
+
+TEST_F(SandboxTest, AFileOfItsOwnCanBeCutShort) {
+  Temp.Write("own/FILE", "long");
+  EXPECT_TRUE(Inside([&] {
+    WriteBeside(Temp.Path / "own/FILE", "new");
+    return ftruncate(open((Temp.Path / "own/FILE").c_str(), O_WRONLY), 1) == 0;
+  }));
+  EXPECT_EQ(Temp.Read("own/FILE"), "n");
+}
+
+TEST_F(SandboxTest, NoOpenFileSendsSignalsToOthers) {
+  const auto refuses = [](int command, int value) {
+    std::array<int, 2> ends{};
+    return pipe(ends.data()) == 0 && fcntl(ends[0], command, value) < 0 && errno == EPERM;
+  };
+  EXPECT_TRUE(Inside([&] { return refuses(F_SETOWN, getppid()); }));
+  EXPECT_TRUE(Inside([&] { return refuses(F_SETSIG, SIGKILL); }));
+  EXPECT_TRUE(Inside([] {
+    std::array<int, 2> ends{};
+    int other = getppid();
+    return pipe(ends.data()) == 0 && ioctl(ends[0], FIOSETOWN, &other) < 0 && errno == EPERM;
+  }));
 }
 
 TEST_F(SandboxTest, ALinkLeadsNowhereOutside) {

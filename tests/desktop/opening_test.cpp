@@ -1,8 +1,8 @@
 #include <QImage>
 #include <filesystem>
 
-#include "desktop/command_line.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/window_options.h"
 
 namespace zerimo {
 namespace {
@@ -116,39 +116,39 @@ TEST_F(OpeningTest, TheFileWaitsForTheEndOfTheStart) {
   EXPECT_EQ(Focused(), &Row(0));
 }
 
-std::string RefusalOf(const std::vector<std::string>& arguments) { return ReadCommandLine(arguments).Refusal; }
+std::string RefusalOf(const std::vector<std::string>& arguments) { return ReadWindowOptions(arguments).Refusal; }
 
-TEST(CommandLine, NoneOrOneFileIsTaken) {
+TEST(WindowOptions, NoneOrOneFileIsTaken) {
   EXPECT_EQ(RefusalOf({}), "");
-  EXPECT_EQ(ReadCommandLine({}).File, std::nullopt);
+  EXPECT_EQ(ReadWindowOptions({}).File, std::nullopt);
   EXPECT_EQ(RefusalOf({"box.zrm"}), "");
-  EXPECT_EQ(ReadCommandLine({"box.zrm"}).File, 0U);
+  EXPECT_EQ(ReadWindowOptions({"box.zrm"}).File, 0U);
 }
 
-TEST(CommandLine, OptionsMayStandAroundTheFile) {
-  const CommandLine line = ReadCommandLine({"--classic", "box.zrm", "--scale", "150"});
-  EXPECT_EQ(line.Refusal, "");
-  EXPECT_TRUE(line.Classic);
-  EXPECT_EQ(line.Scale, 150);
-  EXPECT_EQ(line.File, 1U);
-  EXPECT_EQ(ReadCommandLine({"--scale", "150", "box.zrm"}).File, 2U);
-  EXPECT_FALSE(ReadCommandLine({"box.zrm"}).Classic);
+TEST(WindowOptions, OptionsMayStandAroundTheFile) {
+  const WindowOptions options = ReadWindowOptions({"--classic", "box.zrm", "--scale", "150"});
+  EXPECT_EQ(options.Refusal, "");
+  EXPECT_TRUE(options.Classic);
+  EXPECT_EQ(options.Scale, 150);
+  EXPECT_EQ(options.File, 1U);
+  EXPECT_EQ(ReadWindowOptions({"--scale", "150", "box.zrm"}).File, 2U);
+  EXPECT_FALSE(ReadWindowOptions({"box.zrm"}).Classic);
 }
 
-TEST(CommandLine, OtherOptionsAreRefused) {
+TEST(WindowOptions, OtherOptionsAreRefused) {
   const std::string words = ": there is no such option; --help shows them";
   EXPECT_EQ(RefusalOf({"--frobnicate"}), "--frobnicate" + words);
   EXPECT_EQ(RefusalOf({"-"}), "-" + words);
   EXPECT_EQ(RefusalOf({"box.zrm", "-style"}), "-style" + words);
 }
 
-TEST(CommandLine, HelpAndVersionCanBeAskedFor) {
-  EXPECT_TRUE(ReadCommandLine({"--help"}).Help);
-  EXPECT_TRUE(ReadCommandLine({"--version"}).Version);
-  EXPECT_FALSE(ReadCommandLine({}).Help);
+TEST(WindowOptions, HelpAndVersionCanBeAskedFor) {
+  EXPECT_TRUE(ReadWindowOptions({"--help"}).Help);
+  EXPECT_TRUE(ReadWindowOptions({"--version"}).Version);
+  EXPECT_FALSE(ReadWindowOptions({}).Help);
 }
 
-TEST(CommandLine, AScaleIsAWholeNumberFrom50To400) {
+TEST(WindowOptions, AScaleIsAWholeNumberFrom50To400) {
   EXPECT_EQ(RefusalOf({"--scale", "50"}), "");
   EXPECT_EQ(RefusalOf({"--scale", "400"}), "");
   for (const char* scale : {"49", "401", "x", "1.5", "150%", ""}) {
@@ -157,7 +157,7 @@ TEST(CommandLine, AScaleIsAWholeNumberFrom50To400) {
   EXPECT_EQ(RefusalOf({"--scale"}), "--scale needs a number from 50 to 400, in percent");
 }
 
-TEST(CommandLine, MoreThanOneFileAndAnEmptyNameAreRefused) {
+TEST(WindowOptions, MoreThanOneFileAndAnEmptyNameAreRefused) {
   EXPECT_EQ(RefusalOf({"a.zrm", "b.zrm"}), "only one file can be opened");
   EXPECT_EQ(RefusalOf({""}), "the name of the file is empty");
 }

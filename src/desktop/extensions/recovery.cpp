@@ -12,6 +12,7 @@
 #include "desktop/desktop_text.h"
 #include "desktop/editor_view.h"
 #include "files/disk_files.h"
+#include "files/saving.h"
 #include "interpreter/line_entry.h"
 
 namespace zerimo {
@@ -24,8 +25,11 @@ constexpr int MostCharactersShown = 60;
 
 /// The first name among Rescued.ZRM, Rescued2.ZRM, ... that is free in a folder.
 fs::path FreeName(const fs::path& folder) {
-  fs::path file = folder / "Rescued.ZRM";
-  for (int number = 2; fs::exists(file); ++number) file = folder / ("Rescued" + std::to_string(number) + ".ZRM");
+  const fs::path first = folder / RescuedName;
+  fs::path file = first;
+  for (int number = 2; fs::exists(file); ++number) {
+    file = folder / (first.stem().string() + std::to_string(number) + first.extension().string());
+  }
   return file;
 }
 
@@ -128,7 +132,7 @@ std::string Recovery::Rescue() {
   if (text.empty()) return {};
   if (!typed_) return "The text of the editor has not been changed since it was loaded or saved.";
   if (!folder_.Write(text)) return {};
-  // It was not taken over if that is what has failed.
+  // If F2 is what failed, the text has not been taken over.
   folding_ = false;
   return "The text of the editor is safe. Zerimo offers it at the next start.";
 }

@@ -38,7 +38,7 @@ bool IsHeldHere(const QLockFile& lock) {
 bool TakeLock(QLockFile& lock) {
   if (lock.tryLock(0)) return true;
   if (IsHeldHere(lock)) return false;
-  // A window on another machine has left it, unless it renews it.
+  // The lock of another machine: its window is gone if the lock has not been renewed.
   lock.setStaleLockTime(static_cast<int>(RescueFolder::LongestSilence.count()));
   return lock.tryLock(0);
 }

@@ -37,7 +37,7 @@ Zoom::Zoom(Session& session)
 }
 
 bool Zoom::PressKey(const QKeyEvent& press) {
-  // Where plus needs Shift, or is on the number pad.
+  // Plus may need Shift, or be on the number pad.
   if ((press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::ControlModifier) return false;
   switch (press.key()) {
     case Qt::Key_Plus:

@@ -9,7 +9,7 @@ namespace zerimo {
 class SurfaceWidget;
 
 /// Ctrl++, Ctrl+- and Ctrl+0, or Ctrl and the wheel, choose how large the window shows everything, from 50 to 400
-/// percent. Of an enlarged picture, the wheel moves the part that is seen, and so does the turtle when it leaves it.
+/// percent. If the picture is larger than its space, the wheel moves the part shown; so does a turtle that leaves it.
 /// The controls keep their properties.
 class Zoom : public QObject, public Extension {
  public:
@@ -26,7 +26,7 @@ class Zoom : public QObject, public Extension {
 
  private:
   void Choose(int percent);
-  /// Where the turtle is, or the middle of the picture while it is not in it: in surface units.
+  /// The place of the turtle, or the middle of the picture while the turtle is outside. Surface units.
   QPointF PlaceToShow() const;
   /// In pixels of the surface's widget.
   QRect SeenPart() const;

@@ -8,7 +8,7 @@
 namespace zerimo {
 
 /// What the window is started with: options, and the name of one file at most.
-struct CommandLine {
+struct WindowOptions {
   /// Why the arguments are refused, or the empty text.
   std::string Refusal;
   /// "--help" or "--version": only that is told.
@@ -23,6 +23,6 @@ struct CommandLine {
 };
 
 /// Reads the arguments after the program's name.
-CommandLine ReadCommandLine(const std::vector<std::string>& arguments);
+WindowOptions ReadWindowOptions(const std::vector<std::string>& arguments);
 
 }  // namespace zerimo

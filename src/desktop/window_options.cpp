@@ -1,4 +1,4 @@
-#include "desktop/command_line.h"
+#include "desktop/window_options.h"
 
 #include <charconv>
 
@@ -20,35 +20,35 @@ int ScaleFrom(const std::string& text) {
 
 }  // namespace
 
-CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
-  CommandLine line;
+WindowOptions ReadWindowOptions(const std::vector<std::string>& arguments) {
+  WindowOptions options;
   for (std::size_t at = 0; at < arguments.size(); ++at) {
     const std::string& argument = arguments[at];
     if (argument == "--classic") {
-      line.Classic = true;
+      options.Classic = true;
     } else if (argument == "--help") {
-      line.Help = true;
+      options.Help = true;
     } else if (argument == "--version") {
-      line.Version = true;
+      options.Version = true;
     } else if (argument == "--scale") {
-      if (++at < arguments.size()) line.Scale = ScaleFrom(arguments[at]);
-      if (line.Scale != 0) continue;
-      line.Refusal = "--scale needs a number from 50 to 400, in percent";
-      return line;
+      if (++at < arguments.size()) options.Scale = ScaleFrom(arguments[at]);
+      if (options.Scale != 0) continue;
+      options.Refusal = "--scale needs a number from 50 to 400, in percent";
+      return options;
     } else if (argument.empty()) {
-      line.Refusal = "the name of the file is empty";
-      return line;
+      options.Refusal = "the name of the file is empty";
+      return options;
     } else if (argument.front() == '-') {
-      line.Refusal = argument + ": there is no such option; --help shows them";
-      return line;
-    } else if (line.File) {
-      line.Refusal = "only one file can be opened";
-      return line;
+      options.Refusal = argument + ": there is no such option; --help shows them";
+      return options;
+    } else if (options.File) {
+      options.Refusal = "only one file can be opened";
+      return options;
     } else {
-      line.File = at;
+      options.File = at;
     }
   }
-  return line;
+  return options;
 }
 
 }  // namespace zerimo
