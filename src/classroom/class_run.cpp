@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QImage>
 #include <QThread>
 #include <algorithm>
 #include <iostream>
@@ -11,6 +12,7 @@
 #include "batch/errors.h"
 #include "classroom/class_folder.h"
 #include "classroom/class_runner.h"
+#include "classroom/drawings/picture_comparison.h"
 #include "classroom/interruption.h"
 #include "classroom/page_html.h"
 #include "classroom/parts.h"
@@ -140,14 +142,34 @@ class ClassRun {
 
   /// Runs the teacher's own program, which the others are compared with. False if it was interrupted.
   bool RunModel(const fs::path& place) {
-    if (task_.Goals.empty() || !task_.HasModelProgram()) return true;
+    if (task_.Goals.empty()) return true;
+    if (!task_.HasModelProgram()) {
+      if (IsBlank(QImage(NameOf(task_.Model)))) RefuseTask("the picture shows nothing, or is none");
+      return true;
+    }
     ClassRunner runner(PlanIn(place / "model"), {{task_.Model, {}}}, [](const PupilRun&, std::size_t) {});
     const std::vector<PupilRun> runs = runner.Run();
     if (runs.empty()) return false;
-    if (runs.front().Went.How != Result::Ended)
-      throw batch::UsageError("--task " + options_.Task + ": the goal's program " +
-                              WordsOf(runs.front().Went, limits_).toStdString());
+    CheckGoals(runs.front().Went);
     return true;
+  }
+
+  [[noreturn]] void RefuseTask(const QString& words) const {
+    throw batch::UsageError("--task " + options_.Task + ": " + words.toStdString());
+  }
+
+  /// Fails if the model does not meet its own goals.
+  void CheckGoals(const RunOutcome& model) const {
+    const auto missed = std::ranges::find(model.Goals, false, &GoalOutcome::Met);
+    if (missed == model.Goals.end()) return;
+    const auto index = static_cast<std::size_t>(missed - model.Goals.begin());
+    QString words = QStringLiteral("goal %1").arg(index + 1);
+    if (!missed->Title.isEmpty()) words += QStringLiteral(", ") + Readable(missed->Title);
+    words += QStringLiteral(": its program ");
+    if (model.How != Result::Ended) RefuseTask(words + WordsOf(model, limits_));
+    words += missed->Way == GoalWay::Texts ? QStringLiteral("prints nothing") : QStringLiteral("draws nothing");
+    if (task_.Goals[index].Typed.isEmpty()) words += QStringLiteral("; say under \"## Goals\" what is typed");
+    RefuseTask(words);
   }
 
   /// False if it was interrupted.

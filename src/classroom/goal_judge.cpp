@@ -102,6 +102,13 @@ void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index, co
   comparison.Difference.save(NameOf(run_file::Difference(index)));
 }
 
+/// Whether there is anything to compare. The picture at the start shows something too, but nobody has drawn it.
+bool HasSomething(GoalWay way, std::size_t index, const SessionRun& run) {
+  if (way == GoalWay::Shapes) return !run.Recorder().Drawn().IsEmpty();
+  if (way == GoalWay::Texts) return !TextsOf(run).isEmpty();
+  return run.Recorder().HasDrawn() && !IsBlank(QImage(NameOf(run_file::GoalPicture(index))));
+}
+
 }  // namespace
 
 double PercentOfTexts(const QStringList& wanted, const QStringList& printed) {
@@ -128,9 +135,12 @@ GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) 
   return outcome;
 }
 
-void WriteModel(std::size_t index, const SessionRun& run) {
+GoalOutcome TakeModel(const Goal& goal, std::size_t index, const SessionRun& run) {
   WriteDrawing(run_file::Drawn(index), run.Recorder().Drawn());
   WriteBeside(run_file::Printed(index), Compact({{"printed", ValueOf(TextsOf(run))}}));
+  GoalOutcome outcome = goal.NotMet();
+  outcome.Met = run.Went().How == Result::Ended && HasSomething(goal.Way, index, run);
+  return outcome;
 }
 
 }  // namespace zerimo::classroom

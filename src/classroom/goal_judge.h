@@ -9,8 +9,9 @@ namespace zerimo::classroom {
 /// the picture of the difference goes beside the others.
 GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run);
 
-/// Keeps what the model did for a goal.
-void WriteModel(std::size_t index, const SessionRun& run);
+/// Keeps what the model did for a goal. It has met the goal if it came to its end and did something to compare with:
+/// anyone could meet a goal of nothing.
+GoalOutcome TakeModel(const Goal& goal, std::size_t index, const SessionRun& run);
 
 /// The lines that are alike, in per cent of the longer of the two lists. Blanks and capitals are ignored.
 double PercentOfTexts(const QStringList& wanted, const QStringList& printed);

@@ -175,18 +175,21 @@ void PupilSession::RunMain() {
   for (const std::string& line : play.Typed) outcome_.Typed.append(FromLatin1(line));
   tell_(outcome_);
   SessionRun& run = Played(play, run_file::Transcript);
-  const RunOutcome& went = run.Went();
+  TakeEnd(run.Went());
+  outcome_.Notes += run.Went().Notes;
+  MatchSource(run);
+  // With a session, or with another line after that of LOAD. A program without lines can't begin.
+  const bool hasBegun = outline_ && play.Typed.size() != 1;
+  if (outcome_.How != Result::Refused) FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
+  tell_(outcome_);
+  WritePicture(run, run_file::Picture);
+}
+
+void PupilSession::TakeEnd(const RunOutcome& went) {
   outcome_.How = went.How;
   outcome_.By = went.By;
   outcome_.Message = went.Message;
   outcome_.Where = went.Where;
-  outcome_.Notes += went.Notes;
-  MatchSource(run);
-  // With a session, or with another line after that of LOAD. A program without lines can't begin.
-  const bool hasBegun = outline_ && play.Typed.size() != 1;
-  if (went.How != Result::Refused) FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
-  tell_(outcome_);
-  WritePicture(run, run_file::Picture);
 }
 
 void PupilSession::MatchSource(SessionRun& run) {
@@ -203,7 +206,8 @@ void PupilSession::RunGoal(std::size_t index) {
   if (!order_.ModelFolder.empty() || !order_.ModelPicture.empty()) {
     outcome_.Goals.push_back(Judge(order_, index, run));
   } else {
-    WriteModel(index, run);
+    outcome_.Goals.push_back(TakeModel(goal, index, run));
+    if (outcome_.How == Result::Ended) TakeEnd(run.Went());
   }
 }
 

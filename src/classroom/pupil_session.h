@@ -38,6 +38,8 @@ class PupilSession {
   /// Plays a session, or takes the last one if it was the same: what ends by a limit need not take its time twice.
   SessionRun& Played(const Play& play, const char* transcript);
   void RunMain();
+  /// Takes how a session ended.
+  void TakeEnd(const RunOutcome& went);
   /// Adds what the store made of the program's lines.
   void MatchSource(SessionRun& run);
   void RunGoal(std::size_t index);

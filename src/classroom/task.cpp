@@ -14,10 +14,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-QString Section(const QString& text, const QString& heading) {
-  const QRegularExpression pattern(
-      "^##\\s+" + heading + "\\s*$(.*?)(?=^#|\\z)",
-      QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
+/// What the section about the goals says; its heading is English or German.
+QString GoalSection(const QString& text) {
+  static const QRegularExpression pattern("^##\\s+(?:Goals|Ziele)\\s*$(.*?)(?=^#|\\z)",
+                                          QRegularExpression::MultilineOption |
+                                              QRegularExpression::DotMatchesEverythingOption |
+                                              QRegularExpression::CaseInsensitiveOption);
   return pattern.match(text).captured(1);
 }
 
@@ -31,6 +33,7 @@ bool Take(Goal& goal, const QString& word) {
   } else if (const auto pixelMatch = pixels.match(word); pixelMatch.hasMatch()) {
     goal.Way = GoalWay::Pixels;
     if (!pixelMatch.captured(1).isEmpty()) goal.Enough = pixelMatch.captured(1).toDouble();
+    return goal.Enough > 0 && goal.Enough <= 100;
   } else if (const auto stepMatch = tolerance.match(word); stepMatch.hasMatch()) {
     goal.Shapes.Tolerance = stepMatch.captured(1).toDouble() * UnitsPerStep;
   } else if (word == "shapes" || word == "texts") {
@@ -89,7 +92,7 @@ bool Task::HasModelProgram() const { return NameOf(Model.extension()).compare(".
 std::vector<Goal> GoalsIn(const QString& taskText) {
   static const QRegularExpression item("^\\s*[-*]\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
   std::vector<Goal> goals;
-  for (auto walk = item.globalMatch(Section(taskText, "Goals")); walk.hasNext();)
+  for (auto walk = item.globalMatch(GoalSection(taskText)); walk.hasNext();)
     goals.push_back(GoalOf(walk.next().captured(1)));
   return goals;
 }
@@ -106,7 +109,7 @@ Task ReadTask(const fs::path& place) {
     static const QRegularExpression title("^#\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
     task.Title = title.match(text).captured(1);
     task.Words = QString(text)
-                     .remove(Section(text, "Goals"))
+                     .remove(GoalSection(text))
                      .remove(QRegularExpression("^#.*$", QRegularExpression::MultilineOption))
                      .trimmed();
     task.Model = ModelIn(place);

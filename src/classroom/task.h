@@ -44,8 +44,8 @@ struct Task {
 /// model alone. Fails with `UsageError`, which names the line that is not understood.
 Task ReadTask(const std::filesystem::path& place);
 
-/// The goals of the section "Goals" of TASK.md: "- A large star, `STAR 50`: pixels 90 %, 2 points". Fails with
-/// `UsageError`.
+/// The goals of the section "Goals" (or "Ziele") of TASK.md: "- A large star, `STAR 50`: pixels 90 %, 2 points". Fails
+/// with `UsageError`.
 std::vector<Goal> GoalsIn(const QString& taskText);
 
 }  // namespace zerimo::classroom

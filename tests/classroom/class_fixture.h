@@ -49,6 +49,13 @@ class ClassTest : public testing::Test {
     return run;
   }
 
+  void ExpectBadUsage(const std::string& arguments, const std::string& message) {
+    const ProgramRun run = Program.Run(arguments);
+    EXPECT_EQ(run.Status, 2) << arguments;
+    EXPECT_EQ(run.Errors, "zerimo-batch: " + message + "\n");
+    EXPECT_EQ(run.Output, "");
+  }
+
   void ReadReport() {
     Page = Program.Read("report.html");
     Summary = QJsonDocument::fromJson(QByteArray::fromStdString(Program.Read("report.json"))).object();

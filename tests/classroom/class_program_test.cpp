@@ -16,13 +16,6 @@ class ClassProgramTest : public ClassTest {
       mistakes.append(each.toObject().value("mistake").toString());
     return mistakes.join(", ").toStdString();
   }
-
-  void ExpectBadUsage(const std::string& arguments, const std::string& message) {
-    const ProgramRun run = Program.Run(arguments);
-    EXPECT_EQ(run.Status, 2) << arguments;
-    EXPECT_EQ(run.Errors, "zerimo-batch: " + message + "\n");
-    EXPECT_EQ(run.Output, "");
-  }
 };
 
 TEST_F(ClassProgramTest, TellsWhatAProgramDrewPrintedAndSaid) {
@@ -273,39 +266,6 @@ TEST_F(ClassProgramTest, NamesTheLineThatRunsAfterAnEndIf) {
   EXPECT_EQ(place.value("statement").toString(), "WAIT 900");
 }
 
-TEST_F(ClassProgramTest, ComparesWithATask) {
-  fs::create_directory(Program.Folder() / "task");
-  Program.Write("task/GOAL.ZRM", "TO GOAL :S\r\nCS\r\nREPEAT 4 [FD :S RT 90]\r\nPRINT 5\r\nEND\r\n");
-  Program.Write("task/TASK.md",
-                "# Squares\n\nDraw a square.\n\n## Goals\n- `PROGRAM 50`: 3 points\n"
-                "- `PROGRAM 20`: texts\n- `PROGRAM 30`: pixels 90 %\n");
-  Write("ANNA.ZRM", "TO BOX :N|CS|REPEAT 4 [RT 90 FD :N]|PRINT 5|END|");
-  Write("BEN.ZRM", "TO BEN :N|CS|RT 90|REPEAT 3 [FD :N LT 120]|END|");
-  EXPECT_EQ(Run("--task task").Status, 0);
-  const QJsonArray anna = Pupil("ANNA.ZRM").value("goals").toArray();
-  ASSERT_EQ(anna.size(), 3);
-  EXPECT_EQ(anna.at(0).toObject().value("points").toDouble(), 3);
-  EXPECT_FALSE(anna.at(0).toObject().value("met").toBool());
-  EXPECT_TRUE(anna.at(0).toObject().contains("placed"));
-  EXPECT_TRUE(anna.at(1).toObject().value("met").toBool());
-  for (const QJsonValue& goal : Pupil("BEN.ZRM").value("goals").toArray())
-    EXPECT_FALSE(goal.toObject().value("met").toBool());
-  EXPECT_NE(Page.find("It is the goal, but"), std::string::npos);
-}
-
-TEST_F(ClassProgramTest, AGoalThatIsMetHasAllPerCent) {
-  Program.Write("goal.ZRM", "TO GOAL\r\nCS\r\nREPEAT 5 [FD 100 RT 144]\r\nEND\r\n");
-  Write("ANNA.ZRM", "TO ANNA|CS|RT 144|REPEAT 5 [BK 100 LT 144]|END|");
-  Write("BEN.ZRM", "TO BEN|CS|LT 36|REPEAT 5 [BK 50 BK 50 RT 144]|END|");
-  Write("CARLA.ZRM", "TO CARLA|CS|REPEAT 5 [FD 100 RT 144]|END|");
-  Run("--task goal.ZRM");
-  for (const char* file : {"ANNA.ZRM", "BEN.ZRM", "CARLA.ZRM"}) {
-    const QJsonObject goal = Pupil(file).value("goals").toArray().at(0).toObject();
-    EXPECT_EQ(goal.value("met").toBool(), goal.value("percent").toDouble() == 100) << file;
-  }
-  EXPECT_TRUE(Pupil("CARLA.ZRM").value("goals").toArray().at(0).toObject().value("met").toBool());
-}
-
 TEST_F(ClassProgramTest, OneSessionServesTheWholeClass) {
   Write("ANNA.ZRM", "TO BOX :S|PRINT :S|END|");
   Write("BEN.ZRM", "TO SIDE :N|FD :N|END|TO BEN :N|PRINT 2*:N|SIDE :N|END|");
@@ -344,101 +304,6 @@ TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
   Program.Write("given.ZRM", "FD 1\r\nRT 2\r\nFD 3\r\nSETPC 4\r\nSTAMPCIRCLE 5\r\nLT 6\r\nBK 7\r\n");
   Run("--template given.ZRM");
   EXPECT_EQ(Page.find("of the lines are alike"), std::string::npos);
-}
-
-TEST_F(ClassProgramTest, PartsAreRunApartAndMerged) {
-  for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM"}) Write(name, "TO X|CS|FD 9|PRINT 7|END|");
-  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\nclass/C.ZRM\n");
-  EXPECT_EQ(Program.Run("--list list --shard 1/2 --jobs 1 --jsonl 1.jsonl").Status, 0);
-  EXPECT_EQ(Program.Run("--list list --shard 2/2 --jobs 1 --jsonl 2.jsonl").Status, 0);
-  EXPECT_EQ(std::ranges::count(Program.Read("1.jsonl"), '\n'), 2);
-  EXPECT_EQ(std::ranges::count(Program.Read("2.jsonl"), '\n'), 1);
-  const ProgramRun run = Program.Run("--merge 1.jsonl 2.jsonl --out all.html --csv all.csv");
-  EXPECT_EQ(run.Errors, "zerimo-batch: 3 programs; the report is all.html\n");
-  EXPECT_EQ(run.Status, 0);
-  EXPECT_NE(Program.Read("all.html").find("<a href=\"all-1.html\">class/A.ZRM \xE2\x80\x93 class/B.ZRM</a>"),
-            std::string::npos);
-  EXPECT_EQ(std::ranges::count(Program.Read("all.csv"), '\n'), 4);
-  // One picture for each, in all sizes.
-  EXPECT_EQ(std::distance(fs::directory_iterator(Program.Folder() / "all-1.pictures"), {}), 3);
-  EXPECT_NE(Program.Read("all-1.html").find("<img width=\"160\" "), std::string::npos);
-  EXPECT_NE(Program.Read("all-1.html").find("src=\"all-1.pictures/3.png\""), std::string::npos);
-  EXPECT_EQ(Program.Read("all-1.html").find("base64,"), std::string::npos);
-  EXPECT_NE(Program.Read("all-1.html").find("Limits of each program: 10 seconds, 10000000 steps"), std::string::npos);
-  EXPECT_EQ(Program.Read("all.html").find("partial"), std::string::npos);
-  ExpectBadUsage("--merge 1.jsonl ./1.jsonl --out all.html", "--merge ./1.jsonl: the part is named twice");
-}
-
-TEST_F(ClassProgramTest, AReportOfTornPartsSaysSo) {
-  for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM"}) Write(name, "TO X|CS|FD 9|END|");
-  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\nclass/C.ZRM\n");
-  Program.Run("--list list --shard 1/2 --jobs 1 --jsonl 1.jsonl");
-  Program.Run("--list list --shard 2/2 --jobs 1 --seconds 5 --jsonl 2.jsonl");
-  const std::string records = Program.Read("1.jsonl");
-  // As a kill leaves it, after a line or in the middle of one.
-  const std::size_t first = records.find('\n') + 1;
-  for (const std::size_t length : {first, first + 20}) {
-    Program.Write("1.jsonl", records.substr(0, length));
-    EXPECT_EQ(Program.Run("--merge 1.jsonl 2.jsonl --out all.html").Errors,
-              "zerimo-batch: 2 of 3 programs; the partial report is all.html\n");
-    EXPECT_NE(Program.Read("all.html").find("1.jsonl has 1 of 2 programs."), std::string::npos);
-  }
-  // The parts had different limits.
-  EXPECT_EQ(Program.Read("all.html").find("Limits"), std::string::npos);
-}
-
-TEST_F(ClassProgramTest, RecordsThatAreThereAreKept) {
-  Write("A.ZRM", "TO A|END|");
-  Program.Write("r.jsonl", "{}\n");
-  ExpectBadUsage("--class class --jsonl r.jsonl",
-                 "--jsonl r.jsonl: the file is there already; go on with --resume, or give another name");
-  EXPECT_EQ(Program.Read("r.jsonl"), "{}\n");
-}
-
-TEST_F(ClassProgramTest, ProgramsOfDifferentPartsMayBeAlike) {
-  Write("A.ZRM", "TO A|CS|FD 1|RT 2|FD 3|SETPC 4|STAMPCIRCLE 5|LT 6|BK 7|END|");
-  Write("B.ZRM", "TO B|CS|SETPC 1|STAMPCIRCLE 9|FD :A|RT 1|FD 9|LT 7|BK 8|END|");
-  Program.Write("list", "class/A.ZRM\nclass/B.ZRM\n");
-  Program.Run("--list list --shard 1/2 --jsonl 1.jsonl");
-  Program.Run("--list list --shard 2/2 --jsonl 2.jsonl");
-  Program.Run("--merge 1.jsonl 2.jsonl --out all.html");
-  EXPECT_NE(Program.Read("all.html")
-                .find("<a href=\"all-1.html#p1\">class/A.ZRM</a> and "
-                      "<a href=\"all-1.html#p2\">class/B.ZRM</a>: 100 per cent"),
-            std::string::npos);
-  Program.Run("--merge 1.jsonl 2.jsonl --out all.html --template class/A.ZRM");
-  EXPECT_EQ(Program.Read("all.html").find("of the lines are alike"), std::string::npos);
-}
-
-TEST_F(ClassProgramTest, ATableThatCanNotBeWrittenLeavesTheFormerOne) {
-  Write("A.ZRM", "TO A|CS|END|");
-  EXPECT_EQ(Program.Run("--class class --jsonl 1.jsonl").Status, 0);
-  Program.Write("limited.sh", "#!/bin/sh\nulimit -f 0\nexec '" ZERIMO_BATCH "' \"$@\"\n");
-  fs::permissions(Program.Folder() / "limited.sh", fs::perms::owner_all);
-  Program.Write("all.csv", "former");
-  const std::string command =
-      "cd '" + Program.Folder().string() + "' && ./limited.sh --merge 1.jsonl --out all.html --csv all.csv";
-  EXPECT_NE(std::system(command.c_str()), 0);
-  EXPECT_EQ(Program.Read("all.csv"), "former");
-}
-
-TEST_F(ClassProgramTest, RecordsGoToAFileAlone) {
-  Write("A.ZRM", "TO A|CS|END|");
-  ASSERT_EQ(mkfifo((Program.Folder() / "pipe").c_str(), 0600), 0);
-  EXPECT_EQ(Program.Run("--class class --jsonl pipe").Status, 1);
-}
-
-TEST_F(ClassProgramTest, ResumingRunsOnlyWhatIsMissing) {
-  Write("A.ZRM", "TO A|CS|FD 9|END|");
-  Write("B.ZRM", "TO B|CS|FD 9|END|");
-  Run("--jsonl r.jsonl");
-  std::string records = Program.Read("r.jsonl");
-  // As a kill leaves it: a whole line, and half of one.
-  Program.Write("r.jsonl", records.substr(0, records.find('\n') + 9));
-  const ProgramRun run = Run("--jsonl r.jsonl --resume");
-  EXPECT_TRUE(run.Errors.starts_with("1/1 ")) << run.Errors;
-  EXPECT_EQ(Summary.value("pupils").toArray().size(), 2);
-  EXPECT_EQ(std::ranges::count(Program.Read("r.jsonl"), '\n'), 2);
 }
 
 TEST_F(ClassProgramTest, TheSamplesAreNotSuspicious) {

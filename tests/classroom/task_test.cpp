@@ -36,7 +36,14 @@ TEST(Task, AGoalIsCalledWhatTheTeacherCallsIt) {
 }
 
 TEST(Task, WordsThatAreNotUnderstoodAreReported) {
-  EXPECT_THROW(GoalsIn("## Goals\n- `A`: shapse\n"), batch::UsageError);
+  for (const char* words : {"shapse", "pixels 120 %", "pixels 0 %"})
+    EXPECT_THROW(GoalsIn(QString("## Goals\n- `A`: ") + words + u'\n'), batch::UsageError) << words;
+}
+
+TEST(Task, TheHeadingOfTheGoalsMayBeGerman) {
+  const std::vector<Goal> goals = GoalsIn("# Treppen\n\n## Ziele\n\n- `TREPPE 50`\n\n## Mehr\n- keins\n");
+  ASSERT_EQ(goals.size(), 1U);
+  EXPECT_EQ(goals[0].Typed, QStringList{"TREPPE 50"});
 }
 
 TEST(Task, AFolderHasWordsAModelAndGoals) {

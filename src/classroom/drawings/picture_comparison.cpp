@@ -130,6 +130,8 @@ std::optional<double> ScaleBetween(QSize goal, QSize picture, int near) {
 
 }  // namespace
 
+bool IsBlank(const QImage& image) { return image.isNull() || Drawn(image).Box().isEmpty(); }
+
 PixelComparison ComparePixels(const QImage& goal, const QImage& picture, int near, bool colour) {
   if (goal.isNull() || picture.isNull()) return {};
   return Compare(Drawn(goal), DrawnLike(goal, picture), goal.size(), near, colour);

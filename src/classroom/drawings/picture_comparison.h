@@ -14,6 +14,9 @@ struct PixelComparison {
   QImage Difference;
 };
 
+/// Whether all pixels of a picture have the same colour, or there is none.
+bool IsBlank(const QImage& image);
+
 /// A pixel counts as drawn if it does not have the commonest colour of its picture, and as drawn in both if it has a
 /// partner within `near` pixels; with `colour`, the two must have the same colour. The second picture is scaled to the
 /// size of the first.
