@@ -47,13 +47,6 @@ void WriteDifference(const fs::path& file, QSize size, const Drawing& drawing, c
   image.save(NameOf(file));
 }
 
-/// So that blanks and capitals make no difference.
-QStringList Plain(const QStringList& texts) {
-  QStringList plain;
-  for (const QString& text : texts) plain.append(text.simplified().toUpper());
-  return plain;
-}
-
 QStringList TextsIn(const fs::path& file) {
   const std::optional<std::string> bytes = BytesOf(file);
   const std::optional<Json> json = bytes ? ParsedObject(*bytes) : std::nullopt;
@@ -63,7 +56,9 @@ QStringList TextsIn(const fs::path& file) {
 /// What was printed, and what the boxes said.
 QStringList TextsOf(const SessionRun& run) {
   const Said told = run.Told();
-  QStringList texts = told.Printed;
+  QStringList texts;
+  // The prompt in front is not the program's.
+  for (const QString& line : told.Printed) texts.append(line.startsWith(u'?') ? line.sliced(1) : line);
   for (const ShownBox& box : told.Boxes) texts.append(box.Text);
   return texts;
 }
@@ -102,6 +97,17 @@ void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index, co
   comparison.Difference.save(NameOf(run_file::Difference(index)));
 }
 
+void JudgeTexts(GoalOutcome& outcome, const Order& order, std::size_t index, const SessionRun& run) {
+  outcome.Wanted = TextsIn(order.ModelFolder / run_file::Printed(index));
+  outcome.Printed = TextsOf(run);
+  outcome.Percent = PercentOfTexts(outcome.Wanted, outcome.Printed);
+  outcome.Met = outcome.Percent == 100;
+  for (QStringList* const texts : {&outcome.Wanted, &outcome.Printed}) {
+    outcome.TextsAreCut = outcome.TextsAreCut || texts->size() > MostTexts;
+    *texts = texts->mid(0, MostTexts);
+  }
+}
+
 /// Whether there is anything to compare. The picture at the start shows something too, but nobody has drawn it.
 bool HasSomething(GoalWay way, std::size_t index, const SessionRun& run) {
   if (way == GoalWay::Shapes) return !run.Recorder().Drawn().IsEmpty();
@@ -111,12 +117,14 @@ bool HasSomething(GoalWay way, std::size_t index, const SessionRun& run) {
 
 }  // namespace
 
+QString PlainText(const QString& text) { return text.simplified().toUpper(); }
+
 double PercentOfTexts(const QStringList& wanted, const QStringList& printed) {
   const qsizetype all = std::max(wanted.size(), printed.size());
   if (all == 0) return 100;
   qsizetype alike = 0;
   for (qsizetype i = 0; i < std::min(wanted.size(), printed.size()); ++i) {
-    if (wanted[i] == printed[i]) ++alike;
+    if (PlainText(wanted[i]) == PlainText(printed[i])) ++alike;
   }
   return 100.0 * static_cast<double>(alike) / static_cast<double>(all);
 }
@@ -128,10 +136,7 @@ GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run) 
   GoalOutcome outcome = goal.NotMet();
   if (goal.Way == GoalWay::Shapes) JudgeShapes(outcome, order, index, run);
   if (goal.Way == GoalWay::Pixels) JudgePixels(outcome, order, index, run);
-  if (goal.Way == GoalWay::Texts) {
-    outcome.Percent = PercentOfTexts(Plain(TextsIn(order.ModelFolder / run_file::Printed(index))), Plain(TextsOf(run)));
-    outcome.Met = outcome.Percent == 100;
-  }
+  if (goal.Way == GoalWay::Texts) JudgeTexts(outcome, order, index, run);
   return outcome;
 }
 

@@ -13,6 +13,12 @@ GoalOutcome Judge(const Order& order, std::size_t index, const SessionRun& run);
 /// anyone could meet a goal of nothing.
 GoalOutcome TakeModel(const Goal& goal, std::size_t index, const SessionRun& run);
 
+/// How many lines of texts an outcome keeps.
+inline constexpr qsizetype MostTexts = 40;
+
+/// A text as it is compared: blanks and capitals make no difference.
+QString PlainText(const QString& text);
+
 /// The lines that are alike, in per cent of the longer of the two lists. Blanks and capitals are ignored.
 double PercentOfTexts(const QStringList& wanted, const QStringList& printed);
 

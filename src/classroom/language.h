@@ -89,6 +89,13 @@ struct Language {
   const char* GoalPicture;
   const char* PupilsPicture;
   const char* Difference;
+  const char* GoalTexts;
+  const char* PupilsTexts;
+  const char* TextDiffers;
+  const char* TextIsMissing;
+  const char* TextIsTooMuch;
+  const char* TextsLeftOut;
+  const char* NothingPrinted;
   const char* ItIsTheGoal;
   const char* TurnedRight;
   const char* TurnedLeft;

@@ -80,6 +80,10 @@ struct GoalOutcome {
   std::optional<Placement> Placed = {};
   /// What alone is wrong with strokes that are where they should be.
   std::vector<StrokeRule> Broken = {};
+  /// Of texts: the first lines that were wanted, and the first ones that were printed.
+  QStringList Wanted = {};
+  QStringList Printed = {};
+  bool TextsAreCut = false;
 };
 
 /// What a run reports about itself.

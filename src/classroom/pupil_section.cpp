@@ -1,6 +1,8 @@
 #include <QSet>
+#include <algorithm>
 #include <cmath>
 
+#include "classroom/goal_judge.h"
 #include "classroom/order.h"
 #include "classroom/page_html.h"
 #include "classroom/readable.h"
@@ -90,13 +92,41 @@ class SectionWriter {
                                                  WordOfNumber(goal.Points, language_)}));
     const QString words = WordsOf(goal, language_);
     if (!words.isEmpty()) html_ += Paragraph(words);
-    if (goal.Way == GoalWay::Texts || run_.Picture.empty()) return;
+    if (goal.Way == GoalWay::Texts) return WriteTexts(goal);
+    if (run_.Picture.empty()) return;
     const std::filesystem::path folder = run_.Picture.parent_path();
     html_ += QStringLiteral("<div class=\"goal\">\n");
     AddFigure(folder / run_file::ModelPicture(index), language_.GoalPicture);
     AddFigure(folder / run_file::GoalPicture(index), language_.PupilsPicture);
     AddFigure(folder / run_file::Difference(index), language_.Difference);
     html_ += QStringLiteral("</div>\n");
+  }
+
+  /// The lines side by side. Of a program that was killed, none are known.
+  void WriteTexts(const GoalOutcome& goal) {
+    if (goal.Wanted.isEmpty()) return;
+    if (goal.Printed.isEmpty()) html_ += Paragraph(Utf8(language_.NothingPrinted));
+    const auto head = [](const char* words) {
+      return QStringLiteral("<th scope=\"col\">") + Utf8(words) + QStringLiteral("</th>");
+    };
+    html_ += QStringLiteral("<table class=\"texts\">\n<thead><tr>") + head(language_.GoalTexts) +
+             head(language_.PupilsTexts) + QStringLiteral("</tr></thead>\n<tbody>\n");
+    for (qsizetype i = 0; i < std::max(goal.Wanted.size(), goal.Printed.size()); ++i) {
+      const char* const note = NoteOfTexts(goal, i);
+      const QString mark =
+          *note == '\0' ? QString() : u' ' + Element("strong", "bad", QStringLiteral("\u2190 ") + Utf8(note));
+      html_ += QStringLiteral("<tr>") + Element("td", "", Element("code", "", EscapedLines(goal.Wanted.value(i)))) +
+               Element("td", "", Element("code", "", EscapedLines(goal.Printed.value(i))) + mark) +
+               QStringLiteral("</tr>\n");
+    }
+    html_ += QStringLiteral("</tbody>\n</table>\n");
+    if (goal.TextsAreCut) html_ += Paragraph(Filled(language_.TextsLeftOut, {QString::number(MostTexts)}));
+  }
+
+  const char* NoteOfTexts(const GoalOutcome& goal, qsizetype line) const {
+    if (line >= goal.Printed.size()) return language_.TextIsMissing;
+    if (line >= goal.Wanted.size()) return language_.TextIsTooMuch;
+    return PlainText(goal.Wanted[line]) == PlainText(goal.Printed[line]) ? "" : language_.TextDiffers;
   }
 
   void AddFigure(const std::filesystem::path& file, const char* words) {

@@ -120,6 +120,11 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
                        {"x", goal.Placed->Shift.X},
                        {"y", goal.Placed->Shift.Y}};
     if (!goal.Broken.empty()) one["broken"] = WordsOf(goal.Broken);
+    if (!goal.Wanted.isEmpty()) {
+      one["wanted"] = ValueOf(goal.Wanted);
+      one["printed"] = ValueOf(goal.Printed);
+      one["textsCut"] = goal.TextsAreCut;
+    }
     all.push_back(std::move(one));
   }
   return all;
@@ -134,7 +139,10 @@ std::vector<GoalOutcome> GoalsAt(const Json& json) {
                      NumberAt(each, "percent"),
                      NumberAt(each, "points"),
                      {},
-                     RulesAt(each)};
+                     RulesAt(each),
+                     TextsAt(each, "wanted"),
+                     TextsAt(each, "printed"),
+                     FlagAt(each, "textsCut")};
     if (each.is_object() && each.contains("placed")) {
       const Json& placed = each["placed"];
       goal.Placed = Placement{NumberAt(placed, "degrees"),

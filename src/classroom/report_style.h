@@ -49,6 +49,8 @@ th[aria-sort=descending] button::after { content: " \2193"; }
 .program code { font: inherit; white-space: pre-wrap; }
 .program .mark { border-left: 4px solid var(--look); padding-left: .4rem; }
 .program .stop { border-left: 4px solid var(--bad); padding-left: .4rem; font-weight: 600; }
+.texts { margin: .5rem 0; table-layout: fixed; }
+.texts code { font: .9rem/1.4 ui-monospace, monospace; white-space: pre-wrap; }
 .goal, .sheet { display: grid; grid-template-columns: repeat(auto-fill, minmax(14rem, 1fr)); gap: .8rem; }
 figure { margin: 0; break-inside: avoid; }
 figcaption { font-size: .85rem; color: var(--quiet); }

@@ -54,6 +54,29 @@ TEST_F(ClassTaskTest, AGoalThatIsMetHasAllPerCent) {
   EXPECT_TRUE(Pupil("CARLA.ZRM").value("goals").toArray().at(0).toObject().value("met").toBool());
 }
 
+TEST_F(ClassTaskTest, KeepsTheTextsThatWereCompared) {
+  Program.Write("task/GOAL.ZRM", "TO COUNT\r\nREPEAT 50 [PRINT 1]\r\nEND\r\n");
+  Program.Write("task/TASK.md", "# Count\n\n## Ziele\n- `PROGRAM`: texts\n");
+  Write("ANNA.ZRM", "TO ANNA|REPEAT 49 [PRINT 1]|PRINT 2|END|");
+  Write("BEN.ZRM", "TO BEN|PRINT \"no\"|END|");
+  Run("--task task --pupils pages --lang de --jsonl r.jsonl");
+  EXPECT_EQ(GoalOf("ANNA.ZRM").value("percent").toDouble(), 98);
+  EXPECT_EQ(GoalOf("ANNA.ZRM").value("wanted").toArray().size(), 40);
+  EXPECT_EQ(GoalOf("ANNA.ZRM").value("textsCut").toBool(), true);
+  EXPECT_EQ(GoalOf("BEN.ZRM").value("printed").toArray(), QJsonArray::fromStringList({"no"}));
+  const std::string page = Program.Read("pages/BEN.html");
+  EXPECT_NE(page.find("\xE2\x86\x90 weicht ab"), std::string::npos);
+  EXPECT_NE(page.find("\xE2\x86\x90 fehlt"), std::string::npos);
+  EXPECT_NE(page.find("Hier sind nur die ersten 40 Zeilen gezeigt."), std::string::npos);
+}
+
+TEST_F(ClassTaskTest, BlanksAndCapitalsOfTextsMakeNoDifference) {
+  WriteTask("## Goals\n- `PROGRAM`: texts\n", "TO MAIN\r\nPRINT 5\r\nPRINT \"GO\"\r\nEND\r\n");
+  Write("ANNA.ZRM", "TO ANNA|PRINT \"5\"|PRINT \"Go\"|END|");
+  Run("--task task");
+  EXPECT_TRUE(GoalOf("ANNA.ZRM").value("met").toBool());
+}
+
 TEST_F(ClassTaskTest, AGoalThatEveryoneWouldMeetIsBadUsage) {
   Write("ANNA.ZRM", "TO ANNA|END|");
   const auto expect = [this](const std::string& goals, const std::string& message) {
@@ -71,7 +94,8 @@ TEST_F(ClassTaskTest, AGoalThatEveryoneWouldMeetIsBadUsage) {
 
 TEST_F(ClassTaskTest, AModelMayEndInNoOtherWayThanByItself) {
   Write("ANNA.ZRM", "TO ANNA|END|");
-  WriteTask("## Goals\n- `PAIR`\n- `SPIN`\n", "TO PAIR\r\nCS\r\nFD 9\r\nEND\r\nTO SPIN\r\nCS\r\nFD 9\r\n"
+  WriteTask("## Goals\n- `PAIR`\n- `SPIN`\n",
+            "TO PAIR\r\nCS\r\nFD 9\r\nEND\r\nTO SPIN\r\nCS\r\nFD 9\r\n"
             "LABEL L\r\nRT 1\r\nGOTO L\r\nEND\r\n");
   ExpectBadUsage("--class class --task task --steps 500 --out r.html",
                  "--task task: goal 2, SPIN: its program stopped: more than 500 steps in one line");

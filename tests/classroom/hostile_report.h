@@ -20,6 +20,10 @@ inline Report HostileReport() {
   run.Went.Notes = {Hostile};
   run.Told.Lines = {Hostile, Hostile};
   run.Told.Boxes = {{"box", Hostile, Hostile, Hostile, Hostile}, {"input", Hostile, Hostile, {}, Hostile}};
+  GoalOutcome goal{Hostile, GoalWay::Texts};
+  goal.Wanted = goal.Printed = {Hostile, Hostile};
+  goal.Printed[1] += "!";
+  run.Went.Goals = {goal};
   Report report;
   report.Folder = Hostile;
   report.Made = "2026-01-02T03:04:05";

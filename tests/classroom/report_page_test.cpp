@@ -213,6 +213,34 @@ TEST(ReportPage, TellsThatOnlyTheWayOfDrawingIsWrong) {
   EXPECT_TRUE(PageOf(report).contains("Die Striche stimmen, aber nicht ihre Reihenfolge, ihre Richtung."));
 }
 
+TEST(ReportPage, ShowsTextsSideBySide) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  GoalOutcome goal{"COUNT", GoalWay::Texts};
+  goal.Wanted = {"10", "9", "Go"};
+  goal.Printed = {"10", "8 <b>", " GO", "4"};
+  run.Went.Goals = {goal};
+  const auto row = [](const char* wanted, const char* printed) {
+    return QStringLiteral("<tr><td><code>%1</code></td><td><code>%2</td></tr>").arg(wanted, printed);
+  };
+  const auto note = [](const char* words) {
+    return QStringLiteral("</code> <strong class=\"bad\">\u2190 %1</strong>").arg(words);
+  };
+  QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("<th scope=\"col\">Goal</th><th scope=\"col\">Printed</th>"));
+  EXPECT_TRUE(page.contains(row("10", "10</code>")));
+  EXPECT_TRUE(page.contains(row("9", "8 &lt;b&gt;%1").arg(note("differs"))));
+  EXPECT_TRUE(page.contains(row("Go", " GO</code>")));
+  EXPECT_TRUE(page.contains(row("", "4%1").arg(note("too much"))));
+  EXPECT_FALSE(page.contains("The program printed nothing."));
+  EXPECT_FALSE(page.contains("Only the first"));
+  run.Went.Goals[0].Printed.clear();
+  run.Went.Goals[0].TextsAreCut = true;
+  page = PageWith({run});
+  EXPECT_TRUE(page.contains("The program printed nothing."));
+  EXPECT_TRUE(page.contains(row("Go", "%1").arg(note("missing"))));
+  EXPECT_TRUE(page.contains("Only the first 40 lines are shown here."));
+}
+
 TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
   PupilRun run = RunOf("ANNA.ZRM");
   run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 40, 3, Placement{90, false, 1, {}}},
