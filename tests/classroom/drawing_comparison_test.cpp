@@ -205,6 +205,11 @@ TEST(Placement, ADifferenceWithinTheToleranceIsNotTold) {
 
 TEST(Placement, ADotIsNoSmallDrawing) { EXPECT_FALSE(Compare(Ell, Changed(Ell, 0, false, 0.04, {}), {}).Placed); }
 
+TEST(Placement, ATinyDrawingIsNoSmallOne) {
+  EXPECT_TRUE(Compare(Ell, Changed(Ell, 0, false, 0.12, {}), {.Tolerance = 5}).Placed);
+  EXPECT_FALSE(Compare(Ell, Changed(Ell, 0, false, 0.08, {}), {.Tolerance = 5}).Placed);
+}
+
 TEST(Placement, OfAnotherDrawingThereIsNone) {
   EXPECT_FALSE(Compare(Square, Ell, {}).Placed);
   EXPECT_FALSE(Compare(Square, {}, {}).Placed);

@@ -95,6 +95,21 @@ TEST(PicturePlacement, TellsAScale) {
   EXPECT_NEAR(placed->Scale, 3, 0.05);
 }
 
+TEST(PicturePlacement, ADotIsNoSmallPicture) {
+  const auto square = [](int side) {
+    QImage image(side, side, QImage::Format_RGB32);
+    image.fill(Ink);
+    return image;
+  };
+  const auto placed = [&square](int from, int to) {
+    return PlacementOfPicture(With(square(from), {9, 9}), With(square(to), {9, 9}), 2, 95);
+  };
+  EXPECT_TRUE(placed(24, 12));
+  EXPECT_FALSE(placed(24, 8));
+  EXPECT_FALSE(placed(120, 11));
+  EXPECT_FALSE(placed(11, 120));
+}
+
 TEST(PicturePlacement, OfAnotherPictureThereIsNone) {
   EXPECT_FALSE(PlacementOfPicture(With(Ell(), {100, 100}), With(Bar(0, 9), {100, 100}), 2, 95));
   EXPECT_FALSE(PlacementOfPicture(With(Ell(), {100, 100}), Bar(5, 4), 2, 95));

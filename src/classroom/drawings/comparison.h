@@ -36,6 +36,9 @@ struct Placement {
   Point Shift;
 };
 
+/// Whether a drawing may be called the goal in another size: a dot is not a small house.
+inline bool IsScale(double scale) { return scale >= 0.1 && scale <= 10; }
+
 struct ShapeComparison {
   /// How much of each drawing is in the other one too. 100 only if all of it is.
   double Percent = 0;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace zerimo::classroom {
 
@@ -12,6 +13,12 @@ namespace {
 
 /// Sides that differ by a smaller fraction count as equal.
 constexpr double SameShape = 0.05;
+
+/// Pixels: something smaller has no shape of its own.
+constexpr int LeastSide = 10;
+
+/// Of two placements that fit nearly as well, in per cent, the simpler one is meant.
+constexpr double NearlyAsWell = 5;
 
 constexpr QRgb Nothing = qRgb(255, 255, 255);
 constexpr QRgb InBoth = qRgb(170, 170, 170);
@@ -125,7 +132,32 @@ std::optional<double> ScaleBetween(QSize goal, QSize picture, int near) {
   const double off =
       std::max(std::abs(goal.width() * scale - picture.width()), std::abs(goal.height() * scale - picture.height()));
   if (off > std::max(1.0, std::min(2.0 * near, SameShape * (picture.width() + picture.height())))) return std::nullopt;
+  if (!IsScale(scale)) return std::nullopt;
   return std::abs(scale - 1) * std::max(goal.width(), goal.height()) <= 2 * near ? 1 : scale;
+}
+
+/// A placement, and how much of both pictures then overlaps, in per cent.
+struct Fit {
+  Placement Placed;
+  double Percent;
+};
+
+/// Turns and mirrors what is drawn in black, and stretches it to the size of the target. The simpler ways come first.
+std::vector<Fit> FitsOf(const QImage& black, const Drawn& target, QSize size, int near) {
+  std::vector<Fit> fits;
+  for (const bool mirrored : {false, true}) {
+    for (const int degrees : {0, 90, -90, 180}) {
+      const QImage turned = black.mirrored(mirrored, false).transformed(QTransform().rotate(degrees));
+      const std::optional<double> scale = ScaleBetween(turned.size(), size, near);
+      if (!scale) continue;
+      const Drawn moved(Stretched(turned, size), Nothing);
+      // Lines may be as much thicker as the drawing is larger.
+      const int thickness = static_cast<int>(std::ceil(near * std::max(1.0, *scale)));
+      fits.push_back({{static_cast<double>(degrees), mirrored, *scale, {}},
+                      Compare(moved, target, size, thickness, false).Percent});
+    }
+  }
+  return fits;
 }
 
 }  // namespace
@@ -143,25 +175,16 @@ std::optional<Placement> PlacementOfPicture(const QImage& goal, const QImage& pi
   const Drawn drawn = DrawnLike(goal, picture);
   const QRect from = wanted.Box();
   const QRect to = drawn.Box();
-  if (from.isEmpty() || to.isEmpty()) return std::nullopt;
-  const Drawn target(drawn.InBlack(to), Nothing);
-  for (const bool mirrored : {false, true}) {
-    for (const int degrees : {0, 90, -90, 180}) {
-      const QImage turned = wanted.InBlack(from).mirrored(mirrored, false).transformed(QTransform().rotate(degrees));
-      const std::optional<double> scale = ScaleBetween(turned.size(), to.size(), near);
-      if (!scale) continue;
-      const Drawn moved(Stretched(turned, to.size()), Nothing);
-      // Lines may be as much thicker as the drawing is larger.
-      const int thickness = static_cast<int>(std::ceil(near * std::max(1.0, *scale)));
-      if (Compare(moved, target, to.size(), thickness, false).Percent < enough) continue;
-      Placement placement{static_cast<double>(degrees), mirrored, *scale, {}};
-      const QPoint shift = to.center() - from.center();
-      if (degrees == 0 && !mirrored && *scale == 1)
-        placement.Shift = {shift.x() * double{UnitsPerPixel}, shift.y() * double{UnitsPerPixel}};
-      return placement;
-    }
-  }
-  return std::nullopt;
+  if (from.isEmpty() || std::max(to.width(), to.height()) < LeastSide) return std::nullopt;
+  const std::vector<Fit> fits = FitsOf(wanted.InBlack(from), Drawn(drawn.InBlack(to), Nothing), to.size(), near);
+  const auto best = std::ranges::max_element(fits, {}, &Fit::Percent);
+  if (best == fits.end() || best->Percent < enough) return std::nullopt;
+  const auto isAsGood = [&best](const Fit& fit) { return fit.Percent > best->Percent - NearlyAsWell; };
+  Placement placed = std::ranges::find_if(fits, isAsGood)->Placed;
+  const QPoint shift = to.center() - from.center();
+  if (placed.Degrees == 0 && !placed.Mirrored && placed.Scale == 1)
+    placed.Shift = {shift.x() * double{UnitsPerPixel}, shift.y() * double{UnitsPerPixel}};
+  return placed;
 }
 
 }  // namespace zerimo::classroom

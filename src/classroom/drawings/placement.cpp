@@ -159,7 +159,7 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   const double scale = from.Spread == 0 || to.Spread == 0 ? 1 : to.Spread / from.Spread;
   const double tolerance = 1.5 * rules.Tolerance;
   // Within the tolerance, a dot is like any other.
-  if (to.Spread < LeastSpread * tolerance) return std::nullopt;
+  if (to.Spread < LeastSpread * tolerance || !IsScale(scale)) return std::nullopt;
   std::vector<Placement> tries = TriesFor(goal, drawing, 1);
   // Another size is told only if it matters.
   const std::vector<Placement> scaled = TriesFor(goal, drawing, scale);
