@@ -1,12 +1,16 @@
 #include "classroom/class_folder.h"
 
 #include <QHash>
+#include <QStringDecoder>
 #include <algorithm>
 #include <fstream>
 #include <optional>
+#include <set>
 #include <utility>
 
+#include "base/text.h"
 #include "classroom/readable.h"
+#include "files/code_pages.h"
 #include "files/disk.h"
 
 namespace zerimo::classroom {
@@ -45,19 +49,6 @@ std::optional<fs::path> SessionOf(const fs::path& program, const std::vector<fs:
   return *found;
 }
 
-std::vector<Pupil> PupilsDirectlyIn(const fs::path& folder, const std::vector<fs::path>& names) {
-  std::vector<fs::path> sessions;
-  std::ranges::copy_if(names, std::back_inserter(sessions),
-                       [](const fs::path& name) { return EndsIn(name, ".session"); });
-  std::vector<Pupil> pupils;
-  for (const fs::path& name : names) {
-    if (!EndsIn(name, ".zrm")) continue;
-    const std::optional<fs::path> session = SessionOf(name, sessions);
-    pupils.push_back({folder / name, session ? folder / *session : fs::path()});
-  }
-  return pupils;
-}
-
 /// A folder below belongs to the pupil whose name it has.
 void NameAfter(std::vector<Pupil>& pupils, const QString& folder) {
   for (Pupil& pupil : pupils)
@@ -67,7 +58,8 @@ void NameAfter(std::vector<Pupil>& pupils, const QString& folder) {
 /// The programs of a class folder.
 class Walk {
  public:
-  Walk(const fs::path& root, bool followsLinks) : root_(Disk::Confined(root, root)), followsLinks_(followsLinks) {}
+  Walk(const fs::path& root, bool followsLinks, std::vector<fs::path> apart)
+      : root_(Disk::Confined(root, root)), followsLinks_(followsLinks), apart_(std::move(apart)) {}
 
   std::vector<Pupil> PupilsBelow(const fs::path& folder, const QString& name, int depth) const {
     const std::vector<fs::path> names = VisibleNamesIn(folder);
@@ -76,7 +68,7 @@ class Walk {
     for (const fs::path& each : names) {
       std::error_code error;
       const fs::path place = folder / each;
-      if (!fs::is_directory(place, error) || EndsIn(each, ".zrm") || depth == DeepestFolder) continue;
+      if (!fs::is_directory(place, error) || EndsIn(each, ".zrm") || depth == DeepestFolder || IsApart(place)) continue;
       const bool isLink = fs::is_symlink(place, error);
       // A link to a folder of the class would show its programs twice.
       if (isLink && root_.MayRead(place)) continue;
@@ -92,9 +84,42 @@ class Walk {
     return pupils;
   }
 
+  /// The folders of the pupils who have handed in none of the programs.
+  std::vector<Pupil> PupilsWithout(const std::vector<Pupil>& programs, const fs::path& folder) const {
+    std::set<fs::path> with;
+    for (const Pupil& pupil : programs) with.insert(*pupil.Program.lexically_relative(folder).begin());
+    std::vector<Pupil> pupils;
+    for (const fs::path& name : VisibleNamesIn(folder)) {
+      const fs::path place = folder / name;
+      std::error_code error;
+      if (with.contains(name) || IsApart(place) || !fs::is_directory(fs::symlink_status(place, error))) continue;
+      pupils.push_back({place / "", {}, NameOf(name)});
+    }
+    return pupils;
+  }
+
  private:
+  bool IsApart(const fs::path& place) const {
+    std::error_code error;
+    return std::ranges::find(apart_, fs::weakly_canonical(place, error)) != apart_.end();
+  }
+
+  std::vector<Pupil> PupilsDirectlyIn(const fs::path& folder, const std::vector<fs::path>& names) const {
+    std::vector<fs::path> sessions;
+    std::ranges::copy_if(names, std::back_inserter(sessions),
+                         [](const fs::path& name) { return EndsIn(name, ".session"); });
+    std::vector<Pupil> pupils;
+    for (const fs::path& name : names) {
+      if (!EndsIn(name, ".zrm") || IsApart(folder / name)) continue;
+      const std::optional<fs::path> session = SessionOf(name, sessions);
+      pupils.push_back({folder / name, session ? folder / *session : fs::path()});
+    }
+    return pupils;
+  }
+
   Disk root_;
   bool followsLinks_;
+  std::vector<fs::path> apart_;
 };
 
 /// By what a table of names may call a program: its place, its name, or a folder of the class that it is in.
@@ -128,10 +153,31 @@ QStringList CellsOf(const QString& line, QChar divider) {
   return cells;
 }
 
+/// Most programs for tables save in UTF-8, the others as Windows does in the west.
+QString TextOfTable(const std::string& bytes) {
+  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  if (!decoder.hasError()) return text;
+  std::u32string western;
+  for (const char byte : bytes) western += CharacterOf(WesternCodePage, static_cast<unsigned char>(byte));
+  return QString::fromStdU32String(western);
+}
+
 }  // namespace
 
-std::vector<Pupil> PupilsOf(const fs::path& folder, bool followsLinks) {
-  std::vector<Pupil> pupils = Walk(folder, followsLinks).PupilsBelow(folder, {}, 0);
+bool HasNoProgram(const Pupil& pupil) { return !pupil.Program.has_filename(); }
+
+std::vector<Pupil> PupilsOf(const fs::path& folder, bool followsLinks, std::vector<fs::path> apart) {
+  const Walk walk(folder, followsLinks, std::move(apart));
+  std::vector<Pupil> pupils = walk.PupilsBelow(folder, {}, 0);
+  const bool hasFolders =
+      std::ranges::none_of(pupils, [&](const Pupil& pupil) { return pupil.Program.parent_path() == folder; });
+  if (hasFolders && !pupils.empty()) {
+    const std::vector<Pupil> without = walk.PupilsWithout(pupils, folder);
+    pupils.insert(pupils.end(), without.begin(), without.end());
+    const auto first = [&](const Pupil& pupil) { return *pupil.Program.lexically_relative(folder).begin(); };
+    std::ranges::stable_sort(pupils, ComesBefore, first);
+  }
   for (Pupil& pupil : pupils) pupil.Place = pupil.Program.lexically_relative(folder);
   return pupils;
 }
@@ -142,19 +188,20 @@ std::vector<Pupil> PupilsListedIn(const fs::path& list) {
   if (!stream.is_open()) throw fs::filesystem_error("list", list, std::make_error_code(std::errc::io_error));
   for (std::string line; std::getline(stream, line);) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line.empty()) continue;
-    const fs::path program = fs::absolute(line);
+    const std::string name(Trimmed(line));
+    if (name.empty()) continue;
+    const fs::path program = fs::absolute(name);
     std::error_code error;
     fs::path session = fs::path(program).replace_extension(".session");
     if (!fs::is_regular_file(session, error)) session.clear();
-    pupils.push_back({program, session, {}, line});
+    pupils.push_back({program, session, {}, name});
   }
   return pupils;
 }
 
 void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
   QHash<QString, QString> names;
-  for (const QString& line : QString::fromStdString(table).split(u'\n')) {
+  for (const QString& line : TextOfTable(table).split(u'\n')) {
     const QChar divider = line.contains(u';') ? u';' : u',';
     const QStringList cells = CellsOf(line, divider);
     const QString file = cells.value(0).trimmed();

@@ -29,6 +29,7 @@ struct Language {
   const char* SessionIsWrong;
   const char* NotRun;
   const char* Crashed;
+  const char* NoProgram;
   const char* InLine;
   const char* InProcedure;
   const char* At;
@@ -44,6 +45,7 @@ struct Language {
   const char* PartialParts;
   const char* PartialPart;
   const char* EmptyPart;
+  const char* MissingParts;
   const char* NoPrograms;
   const char* Overview;
   const char* Pupil;
@@ -74,6 +76,7 @@ struct Language {
   const char* PictureLeftOut;
   const char* PrintedAndSaid;
   const char* LinesLeftOut;
+  const char* MoreOnScreen;
   const char* BoxesShown;
   const char* BoxesLeftOut;
   const char* Question;

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "classroom/pupil.h"
 #include "interpreter/store.h"
 
 namespace zerimo::classroom {
+
+/// Bytes of a file that is run.
+inline constexpr std::uintmax_t LargestProgram = std::uintmax_t{4} << 20;
 
 /// The lines of a program's file beside what the store made of them.
 class ProgramSource {

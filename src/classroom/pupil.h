@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "classroom/drawings/comparison.h"
@@ -21,6 +22,8 @@ struct Pupil {
   QString Name = {};
   /// Where the program is in its class folder, or as the list says it; the name of the file if it is empty.
   std::filesystem::path Place = {};
+  /// A hash of all that its run depends on; empty if nobody asks.
+  std::string Fingerprint = {};
 };
 
 /// A program's place as the reader of a report knows it.
@@ -42,10 +45,12 @@ enum class Result {
   NotRun,
   /// The process ended without a word.
   Crashed,
+  /// The pupil has a folder, but no program is in it.
+  NoProgram,
 };
-inline constexpr std::size_t ResultCount = 6;
+inline constexpr std::size_t ResultCount = 7;
 
-/// The word of a result: "ended", "stopped", "failed", "refused", "not run", "crashed".
+/// The word of a result: "ended", "stopped", "failed", "refused", "not run", "crashed", "no program".
 QString WordOf(Result result);
 
 /// Where a run was when it was stopped. What is not known is empty or 0.

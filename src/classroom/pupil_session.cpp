@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "base/text.h"
+#include "classroom/class_folder.h"
 #include "classroom/findings/findings.h"
 #include "classroom/goal_judge.h"
 #include "classroom/process_limits.h"
@@ -21,7 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t LargestProgram = std::uintmax_t{4} << 20;
 constexpr std::size_t LongestLoadName = 60;
 /// What a session calls the program that it is given, whatever its file is called.
 constexpr const char* AnyName = "PROGRAM";
@@ -44,7 +44,8 @@ std::string TakeFile(const fs::path& file, const std::string& what, const fs::pa
   if (fs::exists(status) && LeadsOutOf(within, file))
     throw Reason(what + " is a link that leads out of the class folder; --follow-links follows it");
   if (fs::is_directory(status)) throw Reason(what + " is a folder");
-  if (status.type() == fs::file_type::not_found) throw Reason(what + " is a link that leads nowhere");
+  if (status.type() == fs::file_type::not_found)
+    throw Reason(fs::is_symlink(file, error) ? what + " is a link that leads nowhere" : "there is no such file");
   if (!fs::exists(status)) throw Reason(what + " can not be read");
   // Reading a pipe might wait for ever.
   if (!fs::is_regular_file(status)) throw Reason(what + " is no file but a pipe or a device");
@@ -79,6 +80,10 @@ PupilSession::PupilSession(const Order& order, Teller tell)
     : order_(order), tell_(std::move(tell)), loadName_(LoadNameOf(order.Who.Program)) {}
 
 void PupilSession::Run() {
+  if (HasNoProgram(order_.Who)) {
+    outcome_.How = Result::NoProgram;
+    return tell_(outcome_);
+  }
   try {
     ReadFiles();
     PlaceProgram();

@@ -15,13 +15,14 @@ struct ResultWord {
   const char* Word;
 };
 
-constexpr std::array<ResultWord, 6> ResultWords = {{
+constexpr std::array<ResultWord, ResultCount> ResultWords = {{
     {Result::Ended, "ended"},
     {Result::Stopped, "stopped"},
     {Result::Failed, "failed"},
     {Result::Refused, "refused"},
     {Result::NotRun, "not run"},
     {Result::Crashed, "crashed"},
+    {Result::NoProgram, "no program"},
 }};
 
 constexpr std::array<const char*, 3> WayWords = {"shapes", "pixels", "texts"};

@@ -33,6 +33,13 @@ struct PartialPart {
   std::size_t Wanted = 0;
 };
 
+/// The parts of a class that are not there.
+struct MissingParts {
+  std::vector<int> Indexes;
+  /// How many parts the class has.
+  int Count = 0;
+};
+
 /// A class run as a whole.
 struct Report {
   QString Folder;
@@ -47,6 +54,8 @@ struct Report {
   std::size_t Wanted = 0;
   /// The parts that lack programs, of a report that was made of parts.
   std::vector<PartialPart> Partial;
+  std::vector<MissingParts> Missing;
+  bool IsOfTornParts() const { return !Partial.empty() || !Missing.empty(); }
   /// The title and words of the task, or empty.
   QString TaskTitle;
   QString TaskWords;

@@ -95,12 +95,13 @@ PupilRun RunProcess::TakeRun() {
 
 RunOutcome RunProcess::OutcomeOfRun() const {
   RunOutcome outcome = ReadOutcome(runFolder_ / run_file::Outcome).value_or(RunOutcome());
+  const bool hasRun = outcome.How != Result::NotRun && outcome.How != Result::NoProgram;
   if (outcome.How == Result::Crashed) {
     const RunOutcome silence = OutcomeOfSilence();
     outcome.How = silence.How;
     outcome.By = silence.By;
     outcome.Message = silence.Message;
-  } else if (outcome.How != Result::NotRun && outcome.Goals.size() < order_.Goals.size()) {
+  } else if (hasRun && outcome.Goals.size() < order_.Goals.size()) {
     outcome.Notes.append("The process ended before all goals were tried.");
   }
   while (outcome.Goals.size() < order_.Goals.size())

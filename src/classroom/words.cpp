@@ -42,6 +42,12 @@ QString Filled(const char* words, const QStringList& values) {
   return filled + pattern.mid(end);
 }
 
+QStringList ValuesOf(const MissingParts& missing) {
+  QStringList indexes;
+  for (const int index : missing.Indexes) indexes.append(QString::number(index));
+  return {QString::number(indexes.size()), indexes.join(QStringLiteral(", ")), QString::number(missing.Count)};
+}
+
 QString WordOfNumber(double number, const Language& language) {
   return LocaleOf(language).toString(std::round(number * 100) / 100, 'f', QLocale::FloatingPointShortest);
 }
@@ -60,6 +66,8 @@ QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Langua
       return Filled(language.SessionIsWrong, {message});
     case Result::NotRun:
       return Filled(language.NotRun, {message});
+    case Result::NoProgram:
+      return QString::fromUtf8(language.NoProgram);
     case Result::Crashed:
       break;
   }

@@ -4,6 +4,7 @@
 
 #include "classroom/language.h"
 #include "classroom/pupil.h"
+#include "classroom/report.h"
 
 namespace zerimo::classroom {
 
@@ -22,6 +23,9 @@ QString WordsOf(const GoalOutcome& goal, const Language& language);
 
 /// How a drawing that is the goal in another place is placed: "turned by 90 degrees to the right".
 QString WordsOf(const Placement& placement, const Language& language);
+
+/// What fills `Language::MissingParts`: how many parts, which ones, and of how many.
+QStringList ValuesOf(const MissingParts& missing);
 
 /// Words of a language, with what is filled in. %2{step/steps} is "step" if the second value is 1, otherwise "steps".
 /// What a pupil has written can't add more.

@@ -77,6 +77,49 @@ TEST_F(ClassFolderTest, AFolderBelowBelongsToThePupilOfItsName) {
   EXPECT_EQ(places, (std::vector<fs::path>{"ZOE.ZRM", "Anna Berg/STAR.ZRM", "Ben Cole/A.ZRM", "Ben Cole/B.ZRM"}));
 }
 
+TEST_F(ClassFolderTest, AFolderWithoutAProgramIsAPupilToo) {
+  Temp.Write("class/anna/A.ZRM", "");
+  Temp.Write("class/Ben/haus.txt", "");
+  Temp.Write("class/carla/work/deep/C.ZRM", "");
+  Temp.Write("class/.hidden/x.txt", "");
+  fs::create_directories(Temp.Path / "class/dora");
+  Temp.Write("class/task/GOAL.ZRM", "");
+  Temp.Write("class/report.pictures/1.png", "");
+  const auto pupils = [this] {
+    QStringList all;
+    for (const Pupil& pupil :
+         PupilsOf(Temp.Path / "class", false,
+                  {fs::canonical(Temp.Path / "class/task"), fs::canonical(Temp.Path / "class/report.pictures")}))
+      all.append(pupil.Name + (HasNoProgram(pupil) ? " -" : ""));
+    return all;
+  };
+  EXPECT_EQ(pupils(), (QStringList{"anna", "Ben -", "carla/work/deep", "dora -"}));
+  // Where the programs of all are in one folder, others are for something else.
+  Temp.Write("class/ELLA.ZRM", "");
+  EXPECT_EQ(pupils(), (QStringList{"", "anna", "carla/work/deep"}));
+}
+
+TEST_F(ClassFolderTest, FoldersAloneAreNoClass) {
+  fs::create_directories(Temp.Path / "anna");
+  EXPECT_EQ(Found(), Words{});
+}
+
+TEST_F(ClassFolderTest, TheModelIsNoPupil) {
+  Make({"ANNA.ZRM", "GOAL.ZRM"});
+  EXPECT_EQ(PupilsOf(Temp.Path, false, {fs::canonical(Temp.Path / "GOAL.ZRM")}).size(), 1U);
+}
+
+TEST_F(ClassFolderTest, ATableMayBeInTheCodePageOfTheWest) {
+  std::vector<Pupil> pupils = {{"ANNA.ZRM", {}}, {"BEN.ZRM", {}}};
+  TakeNames(pupils, "anna;J\xFCrgen \x80\r\nben;Ren\xE9\r\n");
+  EXPECT_EQ(pupils[0].Name, QString::fromUtf8("J\xC3\xBCrgen \xE2\x82\xAC"));
+  EXPECT_EQ(pupils[1].Name, QString::fromUtf8("Ren\xC3\xA9"));
+  TakeNames(pupils,
+            "\xEF\xBB\xBF"
+            "anna;J\xC3\xBCrgen\r\n");
+  EXPECT_EQ(pupils[0].Name, QString::fromUtf8("J\xC3\xBCrgen"));
+}
+
 TEST_F(ClassFolderTest, NamesComeFromATable) {
   std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}},
                                {"5a/1234/STAR.ZRM", {}},
@@ -109,7 +152,7 @@ TEST_F(ClassFolderTest, ATableMayNameAnyFolderOfTheClass) {
 TEST_F(ClassFolderTest, AListNamesPrograms) {
   Make({"ANNA.ZRM", "BEN.ZRM", "BEN.session"});
   const std::string ben = Temp.Path.string() + "/./BEN.ZRM";
-  Temp.Write("list", Temp.Path.string() + "/ANNA.ZRM\r\n\n" + ben + "\n");
+  Temp.Write("list", Temp.Path.string() + "/ANNA.ZRM\r\n\n  " + ben + "  \r\n   \n");
   const std::vector<Pupil> pupils = PupilsListedIn(Temp.Path / "list");
   ASSERT_EQ(pupils.size(), 2U);
   EXPECT_EQ(pupils[0].Program, Temp.Path / "ANNA.ZRM");

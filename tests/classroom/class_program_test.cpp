@@ -294,6 +294,31 @@ TEST_F(ClassProgramTest, WritesMarksAndAPageForEachPupil) {
   EXPECT_EQ(page.find("BEN"), std::string::npos);
 }
 
+TEST_F(ClassProgramTest, WhoeverHasHandedInNothingIsListed) {
+  fs::create_directories(ClassFolder() / "anna");
+  fs::create_directories(ClassFolder() / "ben");
+  Write("anna/haus.txt", "TO ANNA");
+  Write("ben/BEN.ZRM", "TO BEN|CS|FD 7|END|");
+  Program.Write("goal.ZRM", "TO GOAL\r\nCS\r\nFD 7\r\nEND\r\n");
+  EXPECT_EQ(Run("--csv marks.csv --task goal.ZRM --lang de --jsonl r.jsonl").Status, 0);
+  EXPECT_EQ(ResultOf("anna/"), "no program");
+  EXPECT_NE(Page.find("<span class=\"bad\">kein Prog"), std::string::npos);
+  EXPECT_NE(Program.Read("marks.csv").find("\"anna/\",\"anna\",\"no program\",\"0\",\"1\""), std::string::npos);
+  Write("anna/ANNA.ZRM", "TO ANNA|CS|FD 7|END|");
+  Run("--task goal.ZRM --jsonl r.jsonl --resume");
+  EXPECT_EQ(ResultOf("anna/ANNA.ZRM"), "ended");
+  EXPECT_EQ(Summary.value("pupils").toArray().size(), 2);
+}
+
+TEST_F(ClassProgramTest, AListMayNameWhatIsNotThere) {
+  fs::create_symlink("nowhere", ClassFolder() / "LINK.ZRM");
+  Program.Write("list", "class/NONE.ZRM\nclass/LINK.ZRM\n");
+  Program.Run("--list list --out report.html");
+  ReadReport();
+  EXPECT_EQ(Pupil("class/NONE.ZRM").value("message").toString(), "there is no such file");
+  EXPECT_EQ(Pupil("class/LINK.ZRM").value("message").toString(), "the program is a link that leads nowhere");
+}
+
 TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
   const char* const Own = "TO %|CS|FD 1|RT 2|FD 3|SETPC 4|STAMPCIRCLE 5|LT 6|BK 7|END|";
   Write("ANNA.ZRM", Own);

@@ -77,6 +77,19 @@ TEST_F(ClassTaskTest, BlanksAndCapitalsOfTextsMakeNoDifference) {
   EXPECT_TRUE(GoalOf("ANNA.ZRM").value("met").toBool());
 }
 
+TEST_F(ClassTaskTest, OfTheWaysToPlaceAPictureTheSimplestIsTold) {
+  // These stairs are their own mirror image, but for the ends of the lines.
+  Write("STAIRS.ZRM", "TO STAIRS|CS|HT|REPEAT 5 [FD 10 RT 90 FD 10 LT 90]|END|");
+  Run("--jsonl r.jsonl");
+  Program.Write("goal.png", Program.Read("r.jsonl.pictures/1/picture.png"));
+  Write("STAIRS.ZRM", "TO STAIRS|CS|REPEAT 5 [FD 20 RT 90 FD 20 LT 90]|END|");
+  Run("--task goal.png");
+  const QJsonObject placed = GoalOf("STAIRS.ZRM").value("placed").toObject();
+  EXPECT_NEAR(placed.value("scale").toDouble(), 2, 0.05);
+  EXPECT_EQ(placed.value("degrees").toDouble(), 0);
+  EXPECT_FALSE(placed.value("mirrored").toBool());
+}
+
 TEST_F(ClassTaskTest, AGoalThatEveryoneWouldMeetIsBadUsage) {
   Write("ANNA.ZRM", "TO ANNA|END|");
   const auto expect = [this](const std::string& goals, const std::string& message) {
