@@ -13,6 +13,7 @@
 #include "classroom/class_folder.h"
 #include "classroom/class_runner.h"
 #include "classroom/drawings/picture_comparison.h"
+#include "classroom/fingerprint.h"
 #include "classroom/interruption.h"
 #include "classroom/page_html.h"
 #include "classroom/parts.h"
@@ -48,24 +49,37 @@ std::string ContentOf(const char* option, const std::string& name) {
   return *bytes;
 }
 
+/// What may lie in the class folder, but is no pupil's.
+std::vector<fs::path> Apart(const ClassOptions& options) {
+  std::vector<fs::path> apart;
+  std::error_code error;
+  for (const std::string& name : {options.Task, options.Pupils})
+    if (!name.empty()) apart.push_back(fs::weakly_canonical(name, error));
+  if (!options.Report.empty())
+    apart.push_back(fs::weakly_canonical(ReportFiles::PicturesBeside(options.Report), error));
+  if (!options.Records.empty()) apart.push_back(fs::weakly_canonical(PicturesOf(options.Records), error));
+  return apart;
+}
+
 /// All programs, before any of them is left to others.
 std::vector<Pupil> AllPupils(const ClassOptions& options) {
   const bool isList = options.Folder.empty();
   const std::string words = isList ? "--list " + options.List : "--class " + options.Folder;
   std::vector<Pupil> pupils;
   try {
-    pupils = isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder), options.FollowLinks);
+    pupils =
+        isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder), options.FollowLinks, Apart(options));
   } catch (const fs::filesystem_error&) {
     throw batch::UsageError(words + (isList ? ": the file can not be read" : ": the folder can not be read"));
   }
   if (pupils.empty()) throw batch::UsageError(words + ": there is no program (.ZRM) in it");
+  TakeNames(pupils, ContentOf("--names", options.Names));
+  ContentOf("--session", options.Session);
   return pupils;
 }
 
-std::vector<Pupil> PupilsOf(const ClassOptions& options) {
-  std::vector<Pupil> pupils = AllPupils(options);
-  TakeNames(pupils, ContentOf("--names", options.Names));
-  ContentOf("--session", options.Session);
+/// Those of a part, with their sessions.
+std::vector<Pupil> PupilsOfPart(std::vector<Pupil> pupils, const ClassOptions& options) {
   std::vector<Pupil> own;
   for (std::size_t i = 0; i < pupils.size(); ++i) {
     if (i % static_cast<std::size_t>(options.Part.Count) != static_cast<std::size_t>(options.Part.Index - 1)) continue;
@@ -86,9 +100,11 @@ class ClassRun {
       : options_(command.Class),
         settings_(command.Runner.Session),
         limits_{settings_.Seconds, settings_.Steps, settings_.Memory},
-        pupils_(PupilsOf(options_)),
+        pupils_(AllPupils(options_)),
+        all_(pupils_.size()),
         alike_(TemplateOf(options_)),
         files_(options_) {
+    pupils_ = PupilsOfPart(std::move(pupils_), options_);
     if (!options_.Task.empty()) task_ = ReadTask(options_.Task);
     report_.Folder =
         NameOf(options_.Folder.empty() ? fs::path(options_.List).filename() : FolderOf(options_.Folder).filename());
@@ -175,8 +191,7 @@ class ClassRun {
   /// False if it was interrupted.
   bool RunAll(const fs::path& place) {
     std::optional<PartFile> records;
-    if (!options_.Records.empty()) records.emplace(options_.Records, options_.Resume, report_.Wanted);
-    if (records) std::erase_if(pupils_, [&records](const Pupil& pupil) { return records->Has(pupil.Program); });
+    if (!options_.Records.empty()) OpenRecords(records);
     ClassRunner::Plan plan = PlanIn(place / "runs");
     if (!task_.Goals.empty() && task_.HasModelProgram()) plan.ModelFolder = place / "model" / "0";
     if (!task_.Goals.empty() && !task_.HasModelProgram()) plan.ModelPicture = task_.Model;
@@ -189,6 +204,19 @@ class ClassRun {
     report_.Runs = runner.Run();
     if (records) TakeRecords();
     return !runner.WasInterrupted() && !Interruption::Came();
+  }
+
+  /// Those that are recorded already are not run again, if nothing has changed for them.
+  void OpenRecords(std::optional<PartFile>& records) {
+    const Fingerprint fingerprint(limits_, settings_.Screen, options_.FollowLinks, options_.Task);
+    for (Pupil& pupil : pupils_) pupil.Fingerprint = fingerprint.Of(pupil);
+    records.emplace(options_.Records, options_.Resume, Share{options_.Part, report_.Wanted, all_}, pupils_);
+    if (records->Dropped() > 0)
+      progress_.Close(
+          Filled("%1 %1{program has/programs have} changed, or the task, session or limits; %1{it runs/they "
+                 "run} again",
+                 {QString::number(records->Dropped())}));
+    std::erase_if(pupils_, [&records](const Pupil& pupil) { return records->Has(pupil.Program); });
   }
 
   void FindAlike() {
@@ -228,6 +256,8 @@ class ClassRun {
   const batch::Settings& settings_;
   RunLimits limits_;
   std::vector<Pupil> pupils_;
+  /// How many programs there are, of which some may be left to others.
+  std::size_t all_;
   AlikeSearch alike_;
   ReportFiles files_;
   Task task_;

@@ -1,5 +1,6 @@
 #include <QDateTime>
 #include <iostream>
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
@@ -14,6 +15,7 @@
 #include "classroom/report_files.h"
 #include "classroom/report_page.h"
 #include "classroom/similarity.h"
+#include "classroom/words.h"
 #include "files/disk_files.h"
 
 namespace zerimo::classroom {
@@ -41,6 +43,7 @@ class Merge {
   QString Run() {
     RefuseRepeated();
     for (const std::string& part : options_.Merged) TakePart(part);
+    FindMissing();
     WritePage();
     if (marks_) marks_->Save();
     FindAlike();
@@ -67,14 +70,30 @@ class Merge {
 
   void TakePart(const std::string& part) {
     const std::size_t before = places_.size();
-    const std::optional<std::size_t> wanted = ForEachRun(part, [this, &part](PupilRun run, std::streamoff place) {
+    const std::optional<Share> share = ForEachRun(part, [this, &part](PupilRun run, std::streamoff place) {
       places_.push_back({&part, place});
       Take(std::move(run));
     });
-    if (!wanted) throw batch::UsageError("--merge " + part + ": the file can not be read");
+    if (!share) throw batch::UsageError("--merge " + part + ": the file can not be read");
     const std::size_t programs = places_.size() - before;
-    wanted_ += *wanted;
-    if (programs < *wanted || programs == 0) report_.Partial.push_back({NameOf(part), programs, *wanted});
+    wanted_ += share->Wanted;
+    if (programs < share->Wanted || programs == 0) report_.Partial.push_back({NameOf(part), programs, share->Wanted});
+    if (share->Part.Count > 1) given_[{share->Part.Count, share->All}].insert(share->Part.Index);
+  }
+
+  /// The parts with programs that nobody has given.
+  void FindMissing() {
+    for (const auto& [whole, indexes] : given_) {
+      const auto& [count, all] = whole;
+      MissingParts missing{{}, count};
+      // Parts beyond the last program have none.
+      for (int index = 1; index <= count && static_cast<std::size_t>(index) <= all; ++index) {
+        if (indexes.contains(index)) continue;
+        missing.Indexes.push_back(index);
+        wanted_ += ProgramsOf({index, count}, all);
+      }
+      if (!missing.Indexes.empty()) report_.Missing.push_back(std::move(missing));
+    }
   }
 
   void Take(PupilRun run) {
@@ -88,8 +107,11 @@ class Merge {
 
   QString LastWords() const {
     const QString name = QString::fromStdString(options_.Report);
-    if (report_.Partial.empty()) return QStringLiteral("%1 programs; the report is %2").arg(places_.size()).arg(name);
-    return QStringLiteral("%1 of %2 programs; the partial report is %3").arg(places_.size()).arg(wanted_).arg(name);
+    if (!report_.IsOfTornParts()) return QStringLiteral("%1 programs; the report is %2").arg(places_.size()).arg(name);
+    QString words = QStringLiteral("%1 of %2 programs; ").arg(places_.size()).arg(wanted_);
+    for (const MissingParts& missing : report_.Missing)
+      words += Filled("%1{part/parts} %2 of %3 %1{is/are} missing; ", ValuesOf(missing));
+    return words + QStringLiteral("the partial report is ") + name;
   }
 
   void AddMarks(const QByteArray& lines) {
@@ -144,6 +166,8 @@ class Merge {
   std::vector<Place> places_;
   /// How many programs the parts are to have.
   std::size_t wanted_ = 0;
+  /// The parts that were given of each class, by the number of its parts and programs.
+  std::map<std::pair<int, std::size_t>, std::set<int>> given_;
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "classroom/parts.h"
 
 #include <algorithm>
+#include <map>
 
 #include "base/failure.h"
 #include "classroom/readable.h"
@@ -15,11 +16,11 @@ namespace fs = std::filesystem;
 
 std::string KeyOf(const fs::path& program) { return NameOf(fs::absolute(program)).toStdString(); }
 
-fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
-
 /// The files of a run's folder that a report shows.
 void CopyPictures(const fs::path& from, const fs::path& to) {
   std::error_code error;
+  // Of a run that is no longer there.
+  fs::remove_all(to, error);
   fs::create_directories(to, error);
   for (const fs::directory_entry& entry : fs::directory_iterator(from, error)) {
     if (entry.path().extension() != ".png") continue;
@@ -38,46 +39,68 @@ PupilRun RunOf(const fs::path& file, const Json& json) {
   return run;
 }
 
-/// Cuts a file off after its last complete line.
-void CutHalfLine(const fs::path& file) {
-  std::error_code error;
-  const auto size = fs::file_size(file, error);
-  if (error || size == 0) return;
-  std::ifstream stream(file, std::ios::binary);
-  std::uintmax_t whole = 0;
-  std::uintmax_t at = 0;
-  for (std::string line; std::getline(stream, line);) {
-    at += line.size() + 1;
-    if (at <= size) whole = at;
-  }
-  fs::resize_file(file, whole, error);
+Share ShareIn(const Json& json) {
+  Share share;
+  share.Wanted = static_cast<std::size_t>(NumberAt(json, "wanted"));
+  if (!json.contains("shard")) return share;
+  const Json& shard = json["shard"];
+  share.Part = {std::max(1, static_cast<int>(NumberAt(shard, "index"))),
+                std::max(1, static_cast<int>(NumberAt(shard, "count")))};
+  share.All = static_cast<std::size_t>(NumberAt(shard, "programs"));
+  return share;
 }
 
 }  // namespace
 
-PartFile::PartFile(const fs::path& file, bool resumes, std::size_t wanted) : file_(file), wanted_(wanted) {
+fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
+
+PartFile::PartFile(const fs::path& file, bool resumes, const Share& share, const std::vector<Pupil>& pupils)
+    : file_(file), share_(share) {
   // A pipe might wait for ever.
   if (fs::exists(file) && !fs::is_regular_file(file)) throw Failure(FailureKind::FileAccess);
-  if (resumes) {
-    CutHalfLine(file);
-    ForEachRun(file, [this](const PupilRun& run, std::streamoff) {
-      programs_.insert(KeyOf(run.Who.Program));
-      ++count_;
-    });
-  }
+  if (resumes) KeepFitting(pupils);
   stream_.open(file, std::ios::binary | (resumes ? std::ios::app : std::ios::trunc));
   if (!stream_.is_open()) throw Failure(FailureKind::FileAccess);
+}
+
+void PartFile::KeepFitting(const std::vector<Pupil>& pupils) {
+  std::ifstream stream(file_, std::ios::binary);
+  if (!stream.is_open()) return;
+  std::map<std::string, std::string> fingerprints;
+  for (const Pupil& pupil : pupils) fingerprints[KeyOf(pupil.Program)] = pupil.Fingerprint;
+  FileToSave kept(file_);
+  // A last line without an end is half of one.
+  for (std::string line; std::getline(stream, line) && !stream.eof();) {
+    const std::optional<Json> json = ParsedObject(line);
+    // Whoever had no program may have handed one in.
+    if (!json || TextAt(*json, "result") == WordOf(Result::NoProgram)) continue;
+    const std::string program = TextAt(*json, "program").toStdString();
+    const auto found = fingerprints.find(program);
+    if (found != fingerprints.end() && found->second != TextAt(*json, "fingerprint").toStdString()) {
+      ++dropped_;
+      continue;
+    }
+    programs_.insert(program);
+    lastFolder_ = std::max(lastFolder_, TextAt(*json, "pictures").toUInt());
+    line += '\n';
+    kept.sputn(line.data(), static_cast<std::streamsize>(line.size()));
+  }
+  stream.close();
+  kept.Save();
 }
 
 bool PartFile::Has(const fs::path& program) const { return programs_.contains(KeyOf(program)); }
 
 void PartFile::Add(const PupilRun& run) {
-  const std::string folder = std::to_string(++count_);
   Json json = JsonOf(run);
   json["program"] = KeyOf(run.Who.Program);
+  json["fingerprint"] = run.Who.Fingerprint;
   json["limits"] = JsonOf(run.Limits);
-  json["wanted"] = wanted_;
+  json["wanted"] = share_.Wanted;
+  if (share_.Part.Count > 1)
+    json["shard"] = {{"index", share_.Part.Index}, {"count", share_.Part.Count}, {"programs", share_.All}};
   if (!run.Picture.empty()) {
+    const std::string folder = std::to_string(++lastFolder_);
     CopyPictures(run.Picture.parent_path(), PicturesOf(file_) / folder);
     json["pictures"] = folder;
   }
@@ -85,21 +108,22 @@ void PartFile::Add(const PupilRun& run) {
   if (!stream_) throw Failure(FailureKind::FileAccess);
 }
 
-std::optional<std::size_t> ForEachRun(const fs::path& file, const std::function<void(PupilRun, std::streamoff)>& take) {
+std::optional<Share> ForEachRun(const fs::path& file, const std::function<void(PupilRun, std::streamoff)>& take) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream.is_open()) return std::nullopt;
-  std::size_t wanted = 0;
+  Share share;
   std::size_t lines = 0;
   std::streamoff place = 0;
   for (std::string line; std::getline(stream, line); place += static_cast<std::streamoff>(line.size()) + 1) {
     ++lines;
     const std::optional<Json> json = ParsedObject(line);
     if (!json) continue;
-    wanted = static_cast<std::size_t>(NumberAt(*json, "wanted"));
+    share = ShareIn(*json);
     take(RunOf(file, *json), place);
   }
   // Half a line is a program that is missing.
-  return std::max(wanted, lines);
+  share.Wanted = std::max(share.Wanted, lines);
+  return share;
 }
 
 std::optional<PupilRun> RunAt(const fs::path& file, std::streamoff place) {

@@ -133,10 +133,12 @@ class PageWriter {
   }
 
   void WritePartial(const std::vector<IndexEntry>& entries) {
-    if (report_.Partial.empty()) return;
+    if (!report_.IsOfTornParts()) return;
     std::size_t programs = 0;
     for (const IndexEntry& entry : entries) programs += entry.Programs;
     Add(Warning(language_.PartialParts, programs, report_.Wanted));
+    for (const MissingParts& missing : report_.Missing)
+      Add(Element("p", "bad", Filled(language_.MissingParts, ValuesOf(missing))) + u'\n');
     for (const PartialPart& part : report_.Partial)
       Add(Warning(part.Wanted == 0 ? language_.EmptyPart : language_.PartialPart, part.Programs, part.Wanted,
                   part.Name));

@@ -104,5 +104,61 @@ TEST_F(ClassPartsTest, ResumingRunsOnlyWhatIsMissing) {
   EXPECT_EQ(std::ranges::count(Program.Read("r.jsonl"), '\n'), 2);
 }
 
+TEST_F(ClassPartsTest, ResumingRunsAgainWhatHasChanged) {
+  Write("A.ZRM", "TO A|PRINT 1|END|");
+  Write("B.ZRM", "TO B|PRINT 1|END|");
+  Program.Write("goal.ZRM", "TO GOAL\r\nCS\r\nFD 5\r\nEND\r\n");
+  Run("--jsonl r.jsonl");
+  Write("B.ZRM", "TO B|PRINT 2|END|");
+  const auto expect = [this](const std::string& options, const std::string& words, int programs) {
+    const ProgramRun run = Run("--jsonl r.jsonl --resume " + options);
+    EXPECT_EQ(run.Errors.find("zerimo-batch: " + words + ", or the task, session or limits; "), 0U) << run.Errors;
+    EXPECT_EQ(std::ranges::count(run.Errors, '\n'), programs + 2) << run.Errors;
+    EXPECT_EQ(Summary.value("pupils").toArray().size(), 2);
+    EXPECT_EQ(std::ranges::count(Program.Read("r.jsonl"), '\n'), 2);
+  };
+  expect("", "1 program has changed", 1);
+  EXPECT_EQ(PrintedBy("B.ZRM").back(), "? 2");
+  expect("--seconds 9", "2 programs have changed", 2);
+  expect("--seconds 9 --task goal.ZRM", "2 programs have changed", 2);
+  EXPECT_EQ(Pupil("A.ZRM").value("goals").toArray().size(), 1);
+  Program.Write("all.session", "LOAD PROGRAM\n");
+  expect("--seconds 9 --task goal.ZRM --session all.session", "2 programs have changed", 2);
+  // As an older version wrote them.
+  std::string records = Program.Read("r.jsonl");
+  for (std::size_t at = 0; (at = records.find("\"fingerprint\"")) != std::string::npos;)
+    records.replace(at, 13, "\"former\"");
+  Program.Write("r.jsonl", records);
+  expect("--seconds 9 --task goal.ZRM --session all.session", "2 programs have changed", 2);
+  EXPECT_EQ(Run("--seconds 9 --task goal.ZRM --session all.session --jsonl r.jsonl --resume").Errors.find("changed"),
+            std::string::npos);
+}
+
+TEST_F(ClassPartsTest, AMissingPartIsReported) {
+  std::string list;
+  for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM", "D.ZRM", "E.ZRM"}) {
+    Write(name, "TO X|CS|FD 9|END|");
+    list += std::string("class/") + name + "\n";
+  }
+  Program.Write("list", list);
+  Program.Run("--list list --shard 1/3 --jsonl 1.jsonl");
+  Program.Run("--list list --shard 3/3 --jsonl 3.jsonl");
+  const ProgramRun two = Program.Run("--merge 1.jsonl 3.jsonl --out all.html");
+  EXPECT_EQ(two.Errors, "zerimo-batch: 3 of 5 programs; part 2 of 3 is missing; the partial report is all.html\n");
+  EXPECT_EQ(two.Status, 0);
+  EXPECT_NE(Program.Read("all.html").find("This report is partial: it has 3 of 5 programs."), std::string::npos);
+  EXPECT_NE(Program.Read("all.html").find("Part 2 of 3 is missing."), std::string::npos);
+  const ProgramRun one = Program.Run("--merge 3.jsonl --out all.html --lang de");
+  EXPECT_EQ(one.Errors, "zerimo-batch: 1 of 5 programs; parts 1, 2 of 3 are missing; the partial report is all.html\n");
+  EXPECT_NE(Program.Read("all.html").find("Die Teile 1, 2 von 3 fehlen."), std::string::npos);
+}
+
+TEST_F(ClassPartsTest, APartWithoutProgramsIsNotMissing) {
+  Write("A.ZRM", "TO X|CS|FD 9|END|");
+  Program.Write("list", "class/A.ZRM\n");
+  Program.Run("--list list --shard 1/2 --jsonl 1.jsonl");
+  EXPECT_EQ(Program.Run("--merge 1.jsonl --out all.html").Errors, "zerimo-batch: 1 programs; the report is all.html\n");
+}
+
 }  // namespace
 }  // namespace zerimo
