@@ -12,6 +12,15 @@ namespace zerimo::classroom {
 
 namespace {
 
+/// How much of what a program said is printed on paper, where an endless one would fill sheets.
+constexpr int LinesOnPaper = 10;
+constexpr int CharactersOnPaper = 2000;
+
+/// The beginning of an element that is only on the screen if enough others are on paper.
+QString Tag(const char* name, qsizetype index) {
+  return u'<' + QLatin1String(name) + QLatin1String(index < LinesOnPaper ? ">" : " class=\"screen\">");
+}
+
 /// Writes the section of one run.
 class SectionWriter {
  public:
@@ -111,15 +120,17 @@ class SectionWriter {
     };
     html_ += QStringLiteral("<table class=\"texts\">\n<thead><tr>") + head(language_.GoalTexts) +
              head(language_.PupilsTexts) + QStringLiteral("</tr></thead>\n<tbody>\n");
-    for (qsizetype i = 0; i < std::max(goal.Wanted.size(), goal.Printed.size()); ++i) {
+    const qsizetype lines = std::max(goal.Wanted.size(), goal.Printed.size());
+    for (qsizetype i = 0; i < lines; ++i) {
       const char* const note = NoteOfTexts(goal, i);
       const QString mark =
           *note == '\0' ? QString() : u' ' + Element("strong", "bad", QStringLiteral("\u2190 ") + Utf8(note));
-      html_ += QStringLiteral("<tr>") + Element("td", "", Element("code", "", EscapedLines(goal.Wanted.value(i)))) +
+      html_ += Tag("tr", i) + Element("td", "", Element("code", "", EscapedLines(goal.Wanted.value(i)))) +
                Element("td", "", Element("code", "", EscapedLines(goal.Printed.value(i))) + mark) +
                QStringLiteral("</tr>\n");
     }
     html_ += QStringLiteral("</tbody>\n</table>\n");
+    if (lines > LinesOnPaper) WritePaperNote();
     if (goal.TextsAreCut) html_ += Paragraph(Filled(language_.TextsLeftOut, {QString::number(MostTexts)}));
   }
 
@@ -149,7 +160,13 @@ class SectionWriter {
     const Said& told = run_.Told;
     if (told.Lines.isEmpty()) return;
     html_ += Heading(language_.PrintedAndSaid);
-    html_ += QStringLiteral("<pre>\n") + EscapedLines(told.Lines.join(u'\n')) + QStringLiteral("</pre>\n");
+    const QString text = told.Lines.join(u'\n');
+    const QString onPaper = text.section(u'\n', 0, LinesOnPaper - 1).left(CharactersOnPaper);
+    const QString rest = text.sliced(onPaper.size());
+    html_ += QStringLiteral("<pre>\n") + EscapedLines(onPaper);
+    if (!rest.isEmpty()) html_ += Element("span", "screen", EscapedLines(rest));
+    html_ += QStringLiteral("</pre>\n");
+    if (!rest.isEmpty()) WritePaperNote();
     if (told.LinesAreCut) html_ += Paragraph(Utf8(language_.LinesLeftOut));
   }
 
@@ -157,13 +174,18 @@ class SectionWriter {
     const Said& told = run_.Told;
     if (told.Boxes.empty()) return;
     html_ += Heading(language_.BoxesShown) + QStringLiteral("<ul class=\"boxes\">\n");
-    for (const ShownBox& shown : told.Boxes) WriteBox(shown);
+    for (std::size_t i = 0; i < told.Boxes.size(); ++i) {
+      html_ += Tag("li", static_cast<qsizetype>(i));
+      WriteBox(told.Boxes[i]);
+    }
     html_ += QStringLiteral("</ul>\n");
+    if (told.Boxes.size() > LinesOnPaper) WritePaperNote();
     if (told.BoxesAreCut) html_ += Paragraph(Utf8(language_.BoxesLeftOut));
   }
 
+  void WritePaperNote() { html_ += Element("p", "paper", Utf8(language_.MoreOnScreen)) + u'\n'; }
+
   void WriteBox(const ShownBox& shown) {
-    html_ += QStringLiteral("<li>");
     if (!shown.Title.isEmpty()) html_ += Element("span", "title", EscapedLines(shown.Title));
     if (!shown.Text.isEmpty()) html_ += Element("span", "text", EscapedLines(shown.Text));
     html_ += Element("span", "quiet", Escaped(AnswerWords(shown))) + QStringLiteral("</li>\n");

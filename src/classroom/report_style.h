@@ -55,13 +55,16 @@ th[aria-sort=descending] button::after { content: " \2193"; }
 figure { margin: 0; break-inside: avoid; }
 figcaption { font-size: .85rem; color: var(--quiet); }
 .sheet a { display: block; white-space: pre-wrap; }
+.paper { display: none; }
 @media print { body { max-width: none; padding: 0; font-size: 9pt; } .screen, .print-choice { display: none; }
   h1, h2, h3 { margin: .6rem 0 .2rem; break-after: avoid; } p, ul, pre, .program { margin: .2rem 0; }
+  .paper { display: block; } pre, .texts code { font-size: 8pt; } .texts th, .texts td { padding: 0; }
+  .boxes li { margin: .1rem 0; padding: .1rem .6rem; } .boxes span { display: inline; margin-right: 1rem; }
   .table { overflow-x: visible; } th, td { min-width: 0; } th { overflow-wrap: normal; } td.number { white-space: normal; }
   .boxes li, tr, figure { break-inside: avoid; } img { max-height: 7cm; width: auto; }
   .goal { grid-template-columns: repeat(3, 4.6cm); } .goal img { max-height: 2.9cm; } .goal figcaption { font-size: 7pt; }
-  .pupil .goal ~ img { display: none; } td img { width: 2.5cm; }
-  .pupil { break-before: page; border-top: 0; margin-top: 0; }
+  .pupil .goal ~ img { display: none; } .pupil .texts ~ img { max-height: 4cm; } td img { width: 2.5cm; }
+  .pupil { border-top: 0; margin-top: 0; } .overview ~ .pupil { break-before: page; }
   .pupil .program { columns: 2; font-size: 8pt; } .pupil details:not([open]) { display: none; }
   .sheet { grid-template-columns: repeat(3, 1fr); gap: 4mm; } .sheet img { max-height: 4.2cm; }
   .sheet figure { height: 5.3cm; }

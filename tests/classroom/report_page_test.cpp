@@ -151,6 +151,24 @@ TEST(ReportPage, SaysWhatIsLeftOut) {
   EXPECT_TRUE(page.contains("<td class=\"number\">1 or more</td>"));
 }
 
+TEST(ReportPage, LeavesLongOutputOnTheScreen) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  for (int i = 1; i <= 10; ++i) run.Told.Lines.append("a");
+  EXPECT_FALSE(PageWith({run}).contains("<p class=\"paper\">"));
+  run.Told.Lines.append("<b>");
+  const QString note = "<p class=\"paper\">There is more of it in the report on the screen.</p>";
+  QString page = PageWith({run});
+  EXPECT_TRUE(page.contains("a<span class=\"screen\">\n&lt;b&gt;</span></pre>\n" + note));
+  run.Told.Lines = {QString(3000, 'a')};
+  EXPECT_TRUE(
+      PageWith({run}).contains('a' + QString("<span class=\"screen\">") + QString(1000, 'a') + "</span></pre>"));
+  run.Told.Lines.clear();
+  run.Told.Boxes.resize(11);
+  page = PageWith({run});
+  EXPECT_EQ(page.count("<li class=\"screen\">"), 1);
+  EXPECT_TRUE(page.contains(note));
+}
+
 TEST(ReportPage, TellsWhereARunWasStopped) {
   PupilRun run = RunOf("ANNA.ZRM");
   run.Went.How = Result::Stopped;
@@ -268,6 +286,16 @@ TEST(ReportPage, AnIndexTellsWhatItsPartsLack) {
   EXPECT_TRUE(page.contains("&lt;3&gt; has no program: it was interrupted at once, or had none to run."));
   report.Partial.clear();
   EXPECT_FALSE(QString::fromUtf8(IndexPage(report, {})).contains("partial"));
+}
+
+TEST(ReportPage, AnIndexTellsWhichPartsAreMissing) {
+  Report report;
+  report.Missing = {{{2}, 3}, {{1, 4}, 5}};
+  report.Wanted = 9;
+  const QString page = QString::fromUtf8(IndexPage(report, {}));
+  EXPECT_TRUE(page.contains("This report is partial: it has 0 of 9 programs."));
+  EXPECT_TRUE(page.contains("<p class=\"bad\">Part 2 of 3 is missing.</p>"));
+  EXPECT_TRUE(page.contains("<p class=\"bad\">Parts 1, 4 of 5 are missing.</p>"));
 }
 
 TEST(ReportPage, ChoicesAreOnlyWhereTheyChoose) {
