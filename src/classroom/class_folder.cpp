@@ -37,6 +37,9 @@ std::vector<fs::path> VisibleNamesIn(const fs::path& folder) {
   return names;
 }
 
+/// Whether a folder is one that archives from a Mac have beside the pupils', or has the pictures of a report.
+bool IsMadeByPrograms(const fs::path& folder) { return folder == "__MACOSX" || EndsIn(folder, ".pictures"); }
+
 /// Levels of folders below folders, as in an export of a learning platform.
 constexpr int DeepestFolder = 4;
 
@@ -92,7 +95,8 @@ class Walk {
     for (const fs::path& name : VisibleNamesIn(folder)) {
       const fs::path place = folder / name;
       std::error_code error;
-      if (with.contains(name) || IsApart(place) || !fs::is_directory(fs::symlink_status(place, error))) continue;
+      if (with.contains(name) || IsApart(place) || IsMadeByPrograms(name)) continue;
+      if (!fs::is_directory(fs::symlink_status(place, error))) continue;
       pupils.push_back({place / "", {}, NameOf(name)});
     }
     return pupils;

@@ -55,9 +55,6 @@ std::vector<fs::path> Apart(const ClassOptions& options) {
   std::error_code error;
   for (const std::string& name : {options.Task, options.Pupils})
     if (!name.empty()) apart.push_back(fs::weakly_canonical(name, error));
-  if (!options.Report.empty())
-    apart.push_back(fs::weakly_canonical(ReportFiles::PicturesBeside(options.Report), error));
-  if (!options.Records.empty()) apart.push_back(fs::weakly_canonical(PicturesOf(options.Records), error));
   return apart;
 }
 

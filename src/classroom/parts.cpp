@@ -16,6 +16,8 @@ namespace fs = std::filesystem;
 
 std::string KeyOf(const fs::path& program) { return NameOf(fs::absolute(program)).toStdString(); }
 
+fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
+
 /// The files of a run's folder that a report shows.
 void CopyPictures(const fs::path& from, const fs::path& to) {
   std::error_code error;
@@ -51,8 +53,6 @@ Share ShareIn(const Json& json) {
 }
 
 }  // namespace
-
-fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
 
 PartFile::PartFile(const fs::path& file, bool resumes, const Share& share, const std::vector<Pupil>& pupils)
     : file_(file), share_(share) {

@@ -13,9 +13,6 @@
 
 namespace zerimo::classroom {
 
-/// The folder with the pictures of a part.
-std::filesystem::path PicturesOf(std::filesystem::path part);
-
 /// What a file holds of a class.
 struct Share {
   Shard Part;
