@@ -81,8 +81,13 @@ class Walk {
         continue;
       }
       const QString below = depth == 0 ? NameOf(each) : name + u'/' + NameOf(each);
-      const std::vector<Pupil> inside = PupilsBelow(place, below, depth + 1);
-      pupils.insert(pupils.end(), inside.begin(), inside.end());
+      try {
+        const std::vector<Pupil> inside = PupilsBelow(place, below, depth + 1);
+        pupils.insert(pupils.end(), inside.begin(), inside.end());
+      } catch (const fs::filesystem_error&) {
+        // So is a folder that can't be read.
+        pupils.push_back({place, {}});
+      }
     }
     return pupils;
   }

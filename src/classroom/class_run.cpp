@@ -123,6 +123,8 @@ class ClassRun {
       throw;
     } catch (const NoProcess& failure) {
       return Close(ClassStatus::NotWritten, QString::fromLatin1(failure.what()));
+    } catch (const NotSaved& failure) {
+      return Close(ClassStatus::NotWritten, NameOf(failure.File) + ": the report can not be written");
     } catch (const std::exception&) {
       return Close(ClassStatus::NotWritten, files_.Name() + ": the report can not be written");
     }
@@ -137,8 +139,10 @@ class ClassRun {
     FindAlike();
     files_.Write(report_);
     if (ended) return Close(ClassStatus::ReportWritten, LastWords());
-    return Close(ClassStatus::Interrupted,
-                 QStringLiteral("interrupted after %1 of %2 programs").arg(report_.Runs.size()).arg(report_.Wanted) +
+    const QString why =
+        ranShort_ ? QLatin1String(NoProcess().what()) + QStringLiteral(" Ended") : QStringLiteral("interrupted");
+    return Close(ranShort_ ? ClassStatus::NotWritten : ClassStatus::Interrupted,
+                 why + QStringLiteral(" after %1 of %2 programs").arg(report_.Runs.size()).arg(report_.Wanted) +
                      (files_.HasPage() ? QStringLiteral("; the partial report is ") + files_.Name() : QString()));
   }
 
@@ -200,7 +204,8 @@ class ClassRun {
     });
     report_.Runs = runner.Run();
     if (records) TakeRecords();
-    return !runner.WasInterrupted() && !Interruption::Came();
+    ranShort_ = runner.RanShort();
+    return !ranShort_ && !runner.WasInterrupted() && !Interruption::Came();
   }
 
   /// Those that are recorded already are not run again, if nothing has changed for them.
@@ -259,6 +264,7 @@ class ClassRun {
   ReportFiles files_;
   Task task_;
   Report report_;
+  bool ranShort_ = false;
   Progress progress_{std::cerr, Progress::StandardErrorIsTerminal()};
 };
 

@@ -31,6 +31,8 @@ ClassRunner::ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone)
   std::iota(waiting_.begin(), waiting_.end(), std::size_t{0});
 }
 
+bool ClassRunner::RanShort() const { return vainTries_ > MostVainTries; }
+
 std::vector<PupilRun> ClassRunner::Run() {
   if (!pupils_.empty()) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
@@ -40,8 +42,7 @@ std::vector<PupilRun> ClassRunner::Run() {
     // Those that are still running are killed by their destructors.
     running_.clear();
   }
-  if (vainTries_ > MostVainTries)
-    throw NoProcess("no process can be started: are there too many, or is the disk full?");
+  if (RanShort() && done_ == 0) throw NoProcess();
   std::vector<PupilRun> ended;
   for (std::optional<PupilRun>& run : runs_) {
     if (run) ended.push_back(std::move(*run));
@@ -75,7 +76,7 @@ void ClassRunner::Postpone(std::size_t index) {
 
 void ClassRunner::Look() {
   interrupted_ = interrupted_ || Interruption::Came();
-  if (interrupted_ || vainTries_ > MostVainTries) return loop_.quit();
+  if (interrupted_ || RanShort()) return loop_.quit();
   for (const Job& job : running_) {
     job.Process->EndIfLate();
     if (!job.Process->HasEnded()) continue;

@@ -15,9 +15,8 @@
 namespace zerimo::classroom {
 
 /// No process can be started.
-class NoProcess : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
+struct NoProcess : std::runtime_error {
+  NoProcess() : std::runtime_error("no process can be started: are there too many, or is the disk full?") {}
 };
 
 /// Runs all programs of a class, some at a time.
@@ -45,11 +44,13 @@ class ClassRunner {
   ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone);
 
   /// The runs in the order of the pupils. After an interruption these are only the ones that had ended, and no process
-  /// is left. A process that can't be started is tried again later, with fewer at a time; fails with `NoProcess` if
-  /// that is in vain. Needs a `QCoreApplication`.
+  /// is left. A process that can't be started is tried again later, with fewer at a time; if that is in vain, the run
+  /// ends like an interrupted one, or fails with `NoProcess` if no program has run. Needs a `QCoreApplication`.
   std::vector<PupilRun> Run();
 
   bool WasInterrupted() const { return interrupted_; }
+  /// Whether it has ended because no more processes could be started.
+  bool RanShort() const;
 
  private:
   using Clock = std::chrono::steady_clock;

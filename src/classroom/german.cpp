@@ -20,6 +20,7 @@ constexpr std::array Sentences = {
              "Das Betriebssystem hat diesen Lauf nicht eingeschlossen."},
     Sentence{"the program", "das Programm"},
     Sentence{"the session", "die Sitzung"},
+    Sentence{"the folder", "der Ordner"},
     Sentence{"%1 is a link that leads out of the class folder; --follow-links follows it",
              "%1 ist ein Verweis aus dem Klassenordner hinaus; --follow-links folgt ihm"},
     Sentence{"%1 is a folder", "%1 ist ein Ordner"},

@@ -41,9 +41,13 @@ bool LeadsOutOf(const fs::path& folder, const fs::path& file) {
 std::string TakeFile(const fs::path& file, const std::string& what, const fs::path& within) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
+  const bool isFolder = fs::is_directory(status);
   if (fs::exists(status) && LeadsOutOf(within, file))
-    throw Reason(what + " is a link that leads out of the class folder; --follow-links follows it");
-  if (fs::is_directory(status)) throw Reason(what + " is a folder");
+    throw Reason((isFolder ? "the folder" : what) +
+                 " is a link that leads out of the class folder; --follow-links follows it");
+  if (isFolder && fs::directory_iterator(file, error) == fs::directory_iterator() && error)
+    throw Reason("the folder can not be read");
+  if (isFolder) throw Reason(what + " is a folder");
   if (status.type() == fs::file_type::not_found)
     throw Reason(fs::is_symlink(file, error) ? what + " is a link that leads nowhere" : "there is no such file");
   if (!fs::exists(status)) throw Reason(what + " can not be read");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "base/failure.h"
 #include "batch/errors.h"
 #include "batch/memory_limit.h"
 #include "classroom/marks.h"
@@ -24,8 +25,12 @@ fs::path WritablePlace(const char* option, const std::string& name) {
   std::error_code error;
   fs::path file = fs::absolute(name, error);
   const fs::path folder = file.parent_path();
-  const bool isPlace = !error && fs::is_directory(folder, error) && !fs::is_directory(file, error) &&
-                       !fs::is_directory(SummaryFileOf(file), error) && CanWriteInto(folder);
+  const auto isFree = [&error](const fs::path& place) {
+    const fs::file_status status = fs::status(place, error);
+    return !fs::exists(status) || fs::is_regular_file(status);
+  };
+  const bool isPlace =
+      !error && fs::is_directory(folder, error) && isFree(file) && isFree(SummaryFileOf(file)) && CanWriteInto(folder);
   if (!isPlace) throw batch::UsageError(std::string(option) + " " + name + ": no file can be written there");
   RemoveLeftovers(folder);
   return file;
@@ -53,6 +58,10 @@ std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   std::string file = plain;
   for (int number = 2; !taken.insert(file).second; ++number) file = plain + "-" + std::to_string(number);
   return file + ".html";
+}
+
+void Save(const fs::path& file, const QByteArray& bytes) {
+  if (!SkipOnFailure([&] { WriteBeside(file, bytes.toStdString()); })) throw NotSaved(file);
 }
 
 /// Those that this build can enforce.
@@ -91,16 +100,16 @@ ReportFiles::ReportFiles(const ClassOptions& options) : options_(options) {
 QString ReportFiles::Name() const { return HasPage() ? NameOf(page_) : QString::fromStdString(options_.Records); }
 
 void ReportFiles::Write(const Report& report) const {
+  if (HasPage()) {
+    Save(page_, PageOf(report, PictureSource(PicturesBeside(page_))));
+    Save(SummaryFileOf(page_), SummaryOf(report));
+  }
   if (!options_.Marks.empty()) {
     QByteArray marks = MarksHead();
     for (const PupilRun& run : report.Runs) marks += MarksOf(run);
-    WriteBeside(fs::absolute(options_.Marks), marks.toStdString());
+    Save(fs::absolute(options_.Marks), marks);
   }
   if (!options_.Pupils.empty()) WritePupils(report);
-  if (!HasPage()) return;
-  const QByteArray page = PageOf(report, PictureSource(PicturesBeside(page_)));
-  WriteBeside(SummaryFileOf(page_), SummaryOf(report).toStdString());
-  WriteBeside(page_, page.toStdString());
 }
 
 fs::path ReportFiles::PicturesBeside(fs::path page) { return page.replace_extension(".pictures"); }
@@ -109,8 +118,7 @@ void ReportFiles::WritePupils(const Report& report) const {
   std::set<std::string> taken;
   for (const PupilRun& run : report.Runs) {
     const std::string name = FileNameOf(run, taken);
-    WriteBeside(fs::absolute(options_.Pupils) / std::u8string(name.begin(), name.end()),
-                PageOfPupil(report, run).toStdString());
+    Save(fs::absolute(options_.Pupils) / std::u8string(name.begin(), name.end()), PageOfPupil(report, run));
   }
 }
 

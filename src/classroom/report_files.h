@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 #include <filesystem>
+#include <stdexcept>
+#include <utility>
 
 #include "classroom/class_options.h"
 #include "classroom/report.h"
@@ -11,6 +13,12 @@ namespace zerimo::classroom {
 
 /// A class run for other programs, as JSON in UTF-8.
 QByteArray SummaryOf(const Report& report);
+
+/// A file of a report can't be written.
+struct NotSaved : std::runtime_error {
+  explicit NotSaved(std::filesystem::path file) : std::runtime_error("not saved"), File(std::move(file)) {}
+  std::filesystem::path File;
+};
 
 /// The files that a class run writes: the page, its summary, the marks and the pupils' pages.
 class ReportFiles {
@@ -24,7 +32,7 @@ class ReportFiles {
   /// The name of the page, or of the records if there is no page.
   QString Name() const;
 
-  /// Each file appears only when it is complete. Fails (file access).
+  /// Each file appears only when it is complete, the page first. Fails with `NotSaved`.
   void Write(const Report& report) const;
 
   /// The folder for the pictures that a page does not hold itself.

@@ -1,6 +1,8 @@
 #include "classroom/class_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "files/temp_folder.h"
 
@@ -38,6 +40,27 @@ TEST_F(ClassFolderTest, ProgramsComeInTheOrderOfTheirNamesInAnyCase) {
 TEST_F(ClassFolderTest, OtherFilesAndHiddenOnesAreNone) {
   Make({"BOAT.JPG", "notes.txt", "ANNA.session", ".hidden.ZRM", "._ANNA.ZRM", ".ZRM", "ZRM", "ANNA.ZRM.bak"});
   EXPECT_EQ(Found(), Words{});
+}
+
+TEST_F(ClassFolderTest, AFolderThatCannotBeReadIsListedAndTheOthersAreFound) {
+  Temp.Write("class/anna/A.ZRM", "");
+  Temp.MakeFolder("class/secret");
+  fs::permissions(Temp.Path, fs::perms::all);
+  fs::permissions(Temp.Path / "class/secret", fs::perms::none);
+  const pid_t child = fork();
+  if (child == 0) {
+    // The superuser can read anything.
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0 && setresuid(nobody, nobody, nobody) != 0) _exit(2);
+    const std::vector<Pupil> pupils = PupilsOf(Temp.Path / "class", false);
+    const bool isListed = pupils.size() == 2 && pupils[0].Program.filename() == "A.ZRM" &&
+                          pupils[1].Program == Temp.Path / "class/secret";
+    _exit(isListed ? 0 : 1);
+  }
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  fs::permissions(Temp.Path / "class/secret", fs::perms::owner_all);
 }
 
 TEST_F(ClassFolderTest, WhateverIsCalledAProgramIsOne) {

@@ -202,6 +202,17 @@ TEST_F(RunProcessTest, WhatCanNotBeStartedIsTriedAgainLater) {
   EXPECT_EQ(order, "A0B1C2");
 }
 
+TEST_F(RunProcessTest, WhatHasRunIsKeptWhereNoMoreCanBeStarted) {
+  Temp.MakeFolder("runs");
+  ClassRunner::Plan plan;
+  plan.Program = Script("exit 0");
+  plan.Folder = Temp.Path / "runs";
+  Temp.Write("runs/1", "in the way of the second one");
+  ClassRunner runner(plan, {{"A", {}}, {"B", {}}}, [](const PupilRun&, std::size_t) {});
+  EXPECT_EQ(runner.Run().size(), 1U);
+  EXPECT_TRUE(runner.RanShort());
+}
+
 TEST_F(RunProcessTest, WhereNothingCanBeStartedTheRunFails) {
   Temp.MakeFolder("runs");
   ClassRunner::Plan plan;
