@@ -22,7 +22,6 @@
 #include "classroom/readable.h"
 #include "classroom/report_files.h"
 #include "classroom/runs_folder.h"
-#include "classroom/similarity.h"
 #include "classroom/task.h"
 #include "classroom/words.h"
 #include "files/disk_files.h"
@@ -227,7 +226,7 @@ class ClassRun {
       return PupilLink{PupilName(report_.Runs[index].Who), QStringLiteral("#p%1").arg(index + 1)};
     };
     for (const AlikePair& pair : alike_.Pairs())
-      report_.Alike.push_back({link(pair.One), link(pair.Other), pair.Percent,
+      report_.Alike.push_back({link(pair.One), link(pair.Other), pair.Alike.Percent,
                                alike_.SharedLines(report_.Runs[pair.One], report_.Runs[pair.Other])});
   }
 

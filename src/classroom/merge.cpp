@@ -14,7 +14,6 @@
 #include "classroom/readable.h"
 #include "classroom/report_files.h"
 #include "classroom/report_page.h"
-#include "classroom/similarity.h"
 #include "classroom/words.h"
 #include "files/disk_files.h"
 
@@ -133,7 +132,7 @@ class Merge {
       const std::optional<PupilRun> other = RunAt(*places_[pair.Other].Part, places_[pair.Other].Offset);
       if (!one || !other) continue;
       report_.Alike.push_back(
-          {LinkTo(pair.One, *one), LinkTo(pair.Other, *other), pair.Percent, alike_.SharedLines(*one, *other)});
+          {LinkTo(pair.One, *one), LinkTo(pair.Other, *other), pair.Alike.Percent, alike_.SharedLines(*one, *other)});
     }
   }
 

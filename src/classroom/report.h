@@ -6,6 +6,7 @@
 
 #include "classroom/language.h"
 #include "classroom/pupil.h"
+#include "classroom/similarity.h"
 
 namespace zerimo::classroom {
 
@@ -21,8 +22,7 @@ struct AlikePrograms {
   PupilLink One;
   PupilLink Other;
   double Percent = 0;
-  /// The lines of the first one that the other one has too.
-  QStringList Lines;
+  std::vector<SharedLine> Lines;
 };
 
 /// A part of a class that has fewer programs than it should, or none at all.

@@ -247,10 +247,24 @@ class PageWriter {
       };
       Add(QStringLiteral("<details><summary>") +
           Filled(language_.AlikePair, {link(pair.One), link(pair.Other), QString::number(std::floor(pair.Percent))}) +
-          QStringLiteral("</summary>\n") + Element("pre", "", EscapedLines(pair.Lines.join(u'\n'))) +
-          QStringLiteral("</details>\n"));
+          QStringLiteral("</summary>\n") + SideBySide(pair) + QStringLiteral("</details>\n"));
     }
     Add(QStringLiteral("</div>\n"));
+  }
+
+  /// The lines that two programs have in common, with their numbers in both.
+  static QString SideBySide(const AlikePrograms& pair) {
+    const auto cells = [](int number, const QString& text) {
+      return Element("td", "number", QString::number(number)) +
+             Element("td", "", Element("code", "", EscapedReadable(text)));
+    };
+    const auto head = [](const PupilLink& pupil) {
+      return QStringLiteral("<th colspan=\"2\">") + EscapedReadable(pupil.Name) + QStringLiteral("</th>");
+    };
+    QString rows = Element("tr", "", head(pair.One) + head(pair.Other)) + u'\n';
+    for (const SharedLine& line : pair.Lines)
+      rows += Element("tr", "", cells(line.Number, line.Text) + cells(line.OtherNumber, line.OtherText)) + u'\n';
+    return Element("div", "table", Element("table", "", u'\n' + rows)) + u'\n';
   }
 
   const Report& report_;

@@ -1,7 +1,7 @@
 #include "classroom/similarity.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 #include <numeric>
 #include <tuple>
 #include <utility>
@@ -12,55 +12,19 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// What is compared of a long program.
-constexpr qsizetype MostLinesCompared = 400;
-
-/// Lines that every program has.
-bool IsCommon(const QString& bare) {
-  using enum Action;
-  static const QString head = NameOf(IsOneOf<StmtTo>) + " n";
-  return bare.isEmpty() || bare == head ||
-         IsOneOf<StmtEnd, StmtEndIf, ClearScreen, HideTurtle, PenUp, PenDown>(KnownWord(bare));
-}
-
-quint32 PrintOf(const QString& bare) { return static_cast<quint32>(qHash(bare, 0)); }
-
-/// The prints of lines in ascending order, as often as they occur.
-std::vector<quint32> PrintsOfLines(const QStringList& lines) {
-  std::vector<quint32> prints;
-  for (const QString& line : lines.first(std::min(lines.size(), MostLinesCompared))) {
-    const QString bare = Bare(line);
-    if (!IsCommon(bare)) prints.push_back(PrintOf(bare));
-  }
-  std::ranges::sort(prints);
-  return prints;
-}
-
 QStringList TextsOf(const PupilRun& run) {
   QStringList texts;
   for (const SourceLine& line : run.Went.Source) texts.append(line.Text);
   return texts;
 }
 
-std::size_t CountShared(std::span<const quint32> one, std::span<const quint32> other) {
-  std::size_t shared = 0;
-  for (auto left = one.begin(), right = other.begin(); left != one.end() && right != other.end();) {
-    if (*left == *right) ++shared;
-    const bool goLeft = *left <= *right;
-    const bool goRight = *right <= *left;
-    if (goLeft) ++left;
-    if (goRight) ++right;
-  }
-  return shared;
-}
-
 /// Finds programs that have a rare line, or all their lines, in common.
 class RareLines {
  public:
-  void Add(std::size_t program, std::span<const quint32> prints) {
+  void Add(std::size_t program, const ProgramPrints& prints) {
     const auto number = static_cast<quint32>(program);
-    for (const quint32 print : SampleOf(prints)) lines_.emplace_back(print, number);
-    wholes_.emplace_back(PrintOfAll(prints), number);
+    for (const quint32 print : SampleOf(prints.Sorted)) lines_.emplace_back(print, number);
+    for (const quint32 all : PrintsOfAll(prints)) wholes_.emplace_back(all, number);
   }
 
   void Close() {
@@ -69,10 +33,10 @@ class RareLines {
   }
 
   /// The later programs that a program has to be compared with. Call `Close` first.
-  std::vector<std::size_t> Partners(std::size_t program, std::span<const quint32> prints) const {
+  std::vector<std::size_t> Partners(std::size_t program, const ProgramPrints& prints) const {
     const auto number = static_cast<quint32>(program);
     std::vector<std::size_t> partners;
-    for (const quint32 print : SampleOf(prints)) {
+    for (const quint32 print : SampleOf(prints.Sorted)) {
       const auto begin = std::ranges::lower_bound(lines_, print, {}, &Row::first);
       const auto end = std::ranges::upper_bound(lines_, print, {}, &Row::first);
       if (static_cast<std::size_t>(end - begin) > AlikeSearch::FewPrograms) continue;
@@ -80,9 +44,10 @@ class RareLines {
         if (row->second > number) partners.push_back(row->second);
       }
     }
-    const quint32 all = PrintOfAll(prints);
-    const auto next = std::ranges::upper_bound(wholes_, Row(all, number));
-    if (next != wholes_.end() && next->first == all) partners.push_back(next->second);
+    for (const quint32 all : PrintsOfAll(prints)) {
+      const auto next = std::ranges::upper_bound(wholes_, Row(all, number));
+      if (next != wholes_.end() && next->first == all) partners.push_back(next->second);
+    }
     std::ranges::sort(partners);
     partners.erase(std::unique(partners.begin(), partners.end()), partners.end());
     return partners;
@@ -103,9 +68,12 @@ class RareLines {
     return sample;
   }
 
-  static quint32 PrintOfAll(std::span<const quint32> prints) {
-    return std::accumulate(prints.begin(), prints.end(), quint32{0},
-                           [](quint32 sum, quint32 print) { return sum * 31 + print; });
+  /// One of the bare lines in any order, and one of the lines with their numbers.
+  static std::array<quint32, 2> PrintsOfAll(const ProgramPrints& prints) {
+    const auto add = [](quint32 sum, quint32 print) { return sum * 31 + print; };
+    const auto addWritten = [add](quint32 sum, const LinePrint& line) { return add(sum, line.AsWritten); };
+    return {std::accumulate(prints.Sorted.begin(), prints.Sorted.end(), quint32{0}, add),
+            std::accumulate(prints.InOrder.begin(), prints.InOrder.end(), quint32{1}, addWritten)};
   }
 
   std::vector<Row> lines_;
@@ -114,55 +82,35 @@ class RareLines {
 
 void KeepBest(std::vector<AlikePair>& pairs) {
   std::ranges::sort(pairs, [](const AlikePair& one, const AlikePair& other) {
-    return std::tuple(other.Percent, other.Lines, one.One, one.Other) <
-           std::tuple(one.Percent, one.Lines, other.One, other.Other);
+    return std::tuple(other.Alike.Percent, other.Alike.Lines, one.One, one.Other) <
+           std::tuple(one.Alike.Percent, one.Alike.Lines, other.One, other.Other);
   });
   if (pairs.size() > AlikeSearch::MostPairs) pairs.resize(AlikeSearch::MostPairs);
 }
 
 }  // namespace
 
-QString Bare(const QString& line) {
-  static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"[^\"]*\"", IsOneOf<StmtMake>);
-  static const QRegularExpression word("[A-Z][A-Z0-9_]*|[:\"][A-Z0-9]+|\\d+(?:\\.\\d+)?");
-  const QString text = line.toUpper().simplified().replace(quoted, "t");
-  QString bare;
-  qsizetype end = 0;
-  for (auto walk = word.globalMatch(text); walk.hasNext();) {
-    const auto match = walk.next();
-    bare += text.mid(end, match.capturedStart() - end);
-    bare += IsKnownWord(match.captured()) ? match.captured() : QStringLiteral("n");
-    end = match.capturedEnd();
-  }
-  return bare + text.mid(end);
-}
-
-AlikeSearch::AlikeSearch(const QString& given) : given_(PrintsOfLines(LinesOf(given))) {}
-
-AlikeSearch::Prints AlikeSearch::OwnPrints(const PupilRun& run) const {
-  Prints own;
-  std::ranges::set_difference(PrintsOfLines(TextsOf(run)), given_, std::back_inserter(own));
-  return own;
-}
+AlikeSearch::AlikeSearch(const QString& given) : given_(BarePrintsOf(LinesOf(given))) {}
 
 void AlikeSearch::Add(const PupilRun& run) {
-  const Prints own = OwnPrints(run);
-  prints_.insert(prints_.end(), own.begin(), own.end());
+  const auto begin = static_cast<std::ptrdiff_t>(prints_.size());
+  for (const OwnLine& line : OwnLinesOf(TextsOf(run), given_)) {
+    lines_.push_back(line.Print);
+    prints_.push_back(line.Print.OfBare);
+  }
+  std::sort(prints_.begin() + begin, prints_.end());
   ends_.push_back(prints_.size());
 }
 
-std::span<const quint32> AlikeSearch::PrintsOf(std::size_t program) const {
+ProgramPrints AlikeSearch::PrintsOf(std::size_t program) const {
   const std::size_t begin = program == 0 ? 0 : ends_[program - 1];
-  return std::span(prints_).subspan(begin, ends_[program] - begin);
+  const std::size_t size = ends_[program] - begin;
+  return {std::span(prints_).subspan(begin, size), std::span(lines_).subspan(begin, size)};
 }
 
 void AlikeSearch::AddPair(std::size_t one, std::size_t other, std::vector<AlikePair>& pairs) const {
-  const auto [fewer, more] = std::minmax({PrintsOf(one).size(), PrintsOf(other).size()});
-  // A short program that a long one happens to contain is not a copy.
-  if (fewer < FewestLines || more > 2 * fewer) return;
-  const std::size_t shared = CountShared(PrintsOf(one), PrintsOf(other));
-  const double percent = 100.0 * static_cast<double>(shared) / static_cast<double>(fewer);
-  if (percent >= LeastAlike) pairs.push_back({one, other, percent, shared});
+  const std::optional<Likeness> likeness = LikenessOf(PrintsOf(one), PrintsOf(other));
+  if (likeness) pairs.push_back({one, other, *likeness});
   if (pairs.size() == 2 * MostPairs) KeepBest(pairs);
 }
 
@@ -171,7 +119,7 @@ std::vector<AlikePair> AlikeSearch::Pairs() const {
   RareLines rare;
   const bool isLarge = ends_.size() > MostComparedWithAll;
   for (std::size_t i = 0; isLarge && i < ends_.size(); ++i) {
-    if (PrintsOf(i).size() >= FewestLines) rare.Add(i, PrintsOf(i));
+    if (PrintsOf(i).Sorted.size() >= FewestLines) rare.Add(i, PrintsOf(i));
   }
   rare.Close();
   for (std::size_t i = 0; i < ends_.size(); ++i) {
@@ -182,14 +130,25 @@ std::vector<AlikePair> AlikeSearch::Pairs() const {
   return pairs;
 }
 
-QStringList AlikeSearch::SharedLines(const PupilRun& one, const PupilRun& other) const {
-  Prints shared;
-  std::ranges::set_intersection(OwnPrints(one), OwnPrints(other), std::back_inserter(shared));
-  QStringList lines;
-  for (const QString& text : TextsOf(one)) {
-    if (std::ranges::binary_search(shared, PrintOf(Bare(text)))) lines.append(text.simplified());
+std::vector<SharedLine> AlikeSearch::SharedLines(const PupilRun& one, const PupilRun& other) const {
+  const QStringList texts = TextsOf(one);
+  const QStringList others = TextsOf(other);
+  std::vector<OwnLine> left = OwnLinesOf(texts, given_);
+  std::vector<OwnLine> right = OwnLinesOf(others, given_);
+  std::vector<SharedLine> shared;
+  // A line that is the same with its numbers is the one that was copied.
+  for (const auto print : {&LinePrint::AsWritten, &LinePrint::OfBare}) {
+    std::erase_if(left, [&](const OwnLine& line) {
+      const auto same =
+          std::ranges::find(right, line.Print.*print, [print](const OwnLine& each) { return each.Print.*print; });
+      if (same == right.end()) return false;
+      shared.push_back({line.Number, texts[line.Number - 1], same->Number, others[same->Number - 1]});
+      right.erase(same);
+      return true;
+    });
   }
-  return lines;
+  std::ranges::sort(shared, {}, &SharedLine::Number);
+  return shared;
 }
 
 }  // namespace zerimo::classroom

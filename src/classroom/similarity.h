@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <cstddef>
-#include <span>
 #include <vector>
 
+#include "classroom/likeness.h"
 #include "classroom/pupil.h"
 
 namespace zerimo::classroom {
@@ -15,22 +14,22 @@ struct AlikePair {
   /// Their places in the order in which they were added.
   std::size_t One = 0;
   std::size_t Other = 0;
-  /// The share of the shorter program's lines that the other one has too, in per cent.
-  double Percent = 0;
-  /// How many lines that is.
-  std::size_t Lines = 0;
+  Likeness Alike;
 };
 
-/// A line without what someone who copies would change: "FD 10" and "FD :SIZE" are one.
-QString Bare(const QString& line);
+/// A line that two programs have in common: where it is in each, from 1, and how it is written there.
+struct SharedLine {
+  int Number = 0;
+  QString Text;
+  int OtherNumber = 0;
+  QString OtherText;
 
-/// Finds the programs that are alike among any number of them. It keeps four bytes of each line.
+  bool operator==(const SharedLine&) const = default;
+};
+
+/// Finds the programs that are alike among any number of them. It keeps sixteen bytes of each line.
 class AlikeSearch {
  public:
-  /// A smaller share, in per cent, means nothing.
-  static constexpr double LeastAlike = 80;
-  /// Programs with fewer lines of their own are alike by chance.
-  static constexpr std::size_t FewestLines = 6;
   /// So many programs are compared with each other. Of more, two are compared if they have all their lines in common,
   /// or one line that no more than `FewPrograms` have.
   static constexpr std::size_t MostComparedWithAll = 1000;
@@ -44,20 +43,18 @@ class AlikeSearch {
   void Add(const PupilRun& run);
   /// The most alike first, and of those the longest.
   std::vector<AlikePair> Pairs() const;
-  /// The lines of one program that the other one has too.
-  QStringList SharedLines(const PupilRun& one, const PupilRun& other) const;
+  /// The lines that two programs have in common, in the order of the first one.
+  std::vector<SharedLine> SharedLines(const PupilRun& one, const PupilRun& other) const;
 
  private:
-  using Prints = std::vector<quint32>;
-
-  /// The prints of the lines that are a program's own, in ascending order.
-  Prints OwnPrints(const PupilRun& run) const;
-  std::span<const quint32> PrintsOf(std::size_t program) const;
+  ProgramPrints PrintsOf(std::size_t program) const;
   void AddPair(std::size_t one, std::size_t other, std::vector<AlikePair>& pairs) const;
 
-  Prints given_;
+  /// Prints of lines in ascending order.
+  std::vector<quint32> given_;
   /// Of all programs, one after the other; `ends_` has where each ends.
-  Prints prints_;
+  std::vector<quint32> prints_;
+  std::vector<LinePrint> lines_;
   std::vector<std::size_t> ends_;
 };
 

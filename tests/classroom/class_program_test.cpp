@@ -326,6 +326,9 @@ TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
   Write("CARLA.ZRM", "TO CARLA|CS|HT|CIRCLE 0 0 50|DOT 1 2|SETXY 5 5|END|");
   Run();
   EXPECT_NE(Page.find("100 per cent of the lines are alike"), std::string::npos);
+  EXPECT_NE(Page.find("<tr><td class=\"number\">3</td><td><code>FD 1</code></td>"
+                      "<td class=\"number\">5</td><td><code>FD :A</code></td></tr>"),
+            std::string::npos);
   Program.Write("given.ZRM", "FD 1\r\nRT 2\r\nFD 3\r\nSETPC 4\r\nSTAMPCIRCLE 5\r\nLT 6\r\nBK 7\r\n");
   Run("--template given.ZRM");
   EXPECT_EQ(Page.find("of the lines are alike"), std::string::npos);

@@ -1,5 +1,6 @@
 #include "classroom/findings/known_words.h"
 
+#include <QHash>
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -32,8 +33,12 @@ bool StandsAlone(const WordFacts& word) { return word.Match == MatchedBy::WholeL
 }  // namespace
 
 const WordFacts* KnownWord(const QString& word) {
-  const auto found = std::ranges::find(Words(), word, [](const WordFacts* each) { return TextOf(each->Word); });
-  return found == Words().end() ? nullptr : *found;
+  static const QHash<QString, const WordFacts*> rows = [] {
+    QHash<QString, const WordFacts*> all;
+    for (const WordFacts* each : Words()) all.insert(TextOf(each->Word), each);
+    return all;
+  }();
+  return rows.value(word);
 }
 
 bool IsCommand(const QString& word) {
@@ -55,6 +60,13 @@ bool TakesAName(const WordFacts* word) {
 int NeededInputsOf(const WordFacts* word) {
   const bool mayStandAlone = IsOneOf<Action::Help, Action::Show, Action::Sound, Action::SlideShow>(word);
   return word == nullptr || mayStandAlone ? 0 : std::max<int>(0, word->Inputs);
+}
+
+QString FirstNameOf(const WordFacts& word) {
+  const auto found = std::ranges::find_if(Words(), [&word](const WordFacts* each) {
+    return each->Does == word.Does && each->LineClass == word.LineClass && each->Inputs == word.Inputs;
+  });
+  return TextOf((*found)->Word);
 }
 
 QString NameOf(bool (*isSuch)(const WordFacts*)) {

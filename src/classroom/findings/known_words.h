@@ -37,6 +37,9 @@ bool TakesAName(const WordFacts* word);
 /// How many inputs a word needs: 0 if it can do without, is not a word, or takes the rest of its line.
 int NeededInputsOf(const WordFacts* word);
 
+/// The first of the words that do the same: the short name of an action.
+QString FirstNameOf(const WordFacts& word);
+
 /// The name of the first such word.
 QString NameOf(bool (*isSuch)(const WordFacts*));
 
