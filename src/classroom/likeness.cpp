@@ -140,8 +140,7 @@ std::size_t KindsAsWritten(std::span<const LinePrint> one, std::span<const LineP
 }
 
 bool AreAlikeInAnyOrder(const ProgramPrints& one, const ProgramPrints& other, const Common& common) {
-  if (common.Lines == one.Sorted.size() && common.Lines == other.Sorted.size())
-    return common.Kinds >= FewestKindsOfAll;
+  if (common.Lines == one.Sorted.size() && common.Lines == other.Sorted.size()) return common.Kinds >= FewestKindsOfAll;
   if (common.Kinds < FewestKinds || common.Kinds * MostOfAKind < common.Lines) return false;
   const std::vector<quint32> left = NeighboursIn(one.InOrder);
   const std::vector<quint32> right = NeighboursIn(other.InOrder);

@@ -31,7 +31,8 @@ struct OwnLine {
 /// The prints of lines without what they have in common with every program, in ascending order.
 std::vector<quint32> BarePrintsOf(const QStringList& lines);
 
-/// The own lines of a program, in its order. `given` are prints in ascending order, each of which accounts for one line.
+/// The own lines of a program, in its order. `given` are prints in ascending order, each of which accounts for one
+/// line.
 std::vector<OwnLine> OwnLinesOf(const QStringList& lines, std::span<const quint32> given);
 
 /// A program's own lines as they are compared.

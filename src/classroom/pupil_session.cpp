@@ -108,6 +108,8 @@ void PupilSession::ReadFiles() {
   if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session", order_.Within);
   const QString text = TextOfProgram(program_);
   outcome_.Findings = FindingsIn(text);
+  // In a folder of the pupil's own, the files beside the program are the pupil's, too.
+  if (order_.Who.Program.parent_path() == order_.Within) FindLoaded(text, order_.Who.Program, outcome_.Findings);
   ProgramSource source(text);
   outcome_.Source = std::move(source.Lines);
   outcome_.SourceIsCut = source.IsCut;
@@ -182,6 +184,8 @@ SessionRun& PupilSession::Played(const Play& play, const char* transcript) {
 void PupilSession::RunMain() {
   const Play play = MainPlay();
   for (const std::string& line : play.Typed) outcome_.Typed.append(FromLatin1(line));
+  FindInTyped(play);
+  for (const Goal& goal : order_.Goals) FindInTyped(PlayOf(goal));
   tell_(outcome_);
   SessionRun& run = Played(play, run_file::Transcript);
   TakeEnd(run.Went());
@@ -199,6 +203,17 @@ void PupilSession::TakeEnd(const RunOutcome& went) {
   outcome_.By = went.By;
   outcome_.Message = went.Message;
   outcome_.Where = went.Where;
+}
+
+void PupilSession::FindInTyped(const Play& play) {
+  QStringList lines = QString::fromStdString(play.Session).split(u'\n');
+  for (const std::string& line : play.Typed) lines.append(QString::fromLatin1(line.c_str()));
+  for (const QString& line : lines) {
+    for (const Finding& finding : FindingsInCalls(TextOfProgram(program_), line.trimmed())) {
+      if (std::ranges::find(outcome_.Findings, finding) == outcome_.Findings.end())
+        outcome_.Findings.push_back(finding);
+    }
+  }
 }
 
 void PupilSession::MatchSource(SessionRun& run) {

@@ -40,6 +40,8 @@ class PupilSession {
   void RunMain();
   /// Takes how a session ended.
   void TakeEnd(const RunOutcome& went);
+  /// Calls with other inputs than a procedure takes.
+  void FindInTyped(const Play& play);
   /// Adds what the store made of the program's lines.
   void MatchSource(SessionRun& run);
   void RunGoal(std::size_t index);

@@ -1,15 +1,16 @@
 #include "classroom/run_findings.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include "classroom/findings/known_words.h"
+#include "classroom/findings/listing.h"
 
 namespace zerimo::classroom {
 
 namespace {
 
-/// A drawing that is nearly all outside the picture is a mistake; hills that rise from below it are not.
-constexpr double NearlyAll = 0.9;
+/// A drawing of which more is outside the picture is a mistake; hills that rise from below it are not.
+constexpr double MostOutside = 0.25;
 
 /// The part of the title picture that hides nothing, in fractions of its height.
 constexpr double TitleIsClearFrom = 0.2;
@@ -39,6 +40,12 @@ void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findi
   }
 }
 
+void FindOutside(SessionRun& run, std::vector<Finding>& findings) {
+  const double part = run.Recorder().PartOutside(run.form1.Picture1);
+  if (part > MostOutside || run.Recorder().HasWholeOutside(run.form1.Picture1))
+    findings.push_back({Mistake::OutsideThePicture, 0, {QString::number(std::ceil(100 * part))}});
+}
+
 void FindInPicture(SessionRun& run, bool hasBegun, std::vector<Finding>& findings) {
   const Said told = run.Told();
   const DrawingRecorder& recorder = run.Recorder();
@@ -48,9 +55,12 @@ void FindInPicture(SessionRun& run, bool hasBegun, std::vector<Finding>& finding
     const bool isUp = run.form1.turtle.PenState == PenPosition::Up;
     Add(findings, isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn);
   }
+  const bool isLeft = !recorder.IsBlank() || recorder.WasWiped();
+  if (recorder.HasDrawn() && !isLeft && isSilent && run.Went().How == Result::Ended)
+    Add(findings, Mistake::NothingLeft);
   const bool isUnderTheTitle = recorder.LeavesBand(run.form1.Picture1, TitleIsClearFrom, TitleIsClearTo);
   if (isUnderTheTitle && run.form1.controls.Image1.Visible()) Add(findings, Mistake::UnderTheTitle);
-  if (recorder.PartOutside(run.form1.Picture1) > NearlyAll) Add(findings, Mistake::OutsideThePicture);
+  FindOutside(run, findings);
   if (recorder.WasWiped()) Add(findings, Mistake::PictureWiped);
 }
 
@@ -67,7 +77,26 @@ void FindInStore(const Store& store, std::vector<Finding>& findings) {
   }
 }
 
+/// Whether a folder has another file of a name, whatever its ending.
+bool HasOther(const std::filesystem::path& own, const QString& name) {
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(own.parent_path(), error)) {
+    const QString stem = QString::fromStdU16String(entry.path().stem().u16string());
+    if (entry.path() != own && entry.is_regular_file(error) && stem.compare(name, Qt::CaseInsensitive) == 0)
+      return true;
+  }
+  return false;
+}
+
 }  // namespace
+
+void FindLoaded(const QString& program, const std::filesystem::path& file, std::vector<Finding>& findings) {
+  for (const Statement& statement : Listing(program).Statements) {
+    const bool loads = statement.Is<Action::Load, Action::LoadPicture>();
+    if (loads && HasOther(file, statement.Rest().section(u'.', 0, 0)))
+      findings.push_back({Mistake::LoadsAnother, statement.Line, {statement.Text}});
+  }
+}
 
 void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings) {
   FindInPicture(run, hasBegun, findings);

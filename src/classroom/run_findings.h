@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <vector>
 
 #include "classroom/findings/mistakes.h"
@@ -11,5 +12,9 @@ namespace zerimo::classroom {
 /// `programLine` is where it was stopped, or 0; `hasBegun` tells whether anything of the program was called. What
 /// `findings` already holds is not told again.
 void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings);
+
+/// What a program loads from beside it in the folder of a class, where each file is somebody's own. What it has saved
+/// itself is elsewhere.
+void FindLoaded(const QString& program, const std::filesystem::path& file, std::vector<Finding>& findings);
 
 }  // namespace zerimo::classroom

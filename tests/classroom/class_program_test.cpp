@@ -225,6 +225,9 @@ TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
   Write("TITLE.ZRM", "TO A|BK 190|END|");
   Write("CLEAR.ZRM", "TO A|FD 50|END|");
   Write("OUTSIDE.ZRM", "TO A|CS|PU|SETXY 400 400|PD|FD 100|END|");
+  Write("LARGE.ZRM", "TO A|CS|REPEAT 4 [FD 300 RT 90]|END|");
+  Write("CLEARED.ZRM", "TO A|REPEAT 4 [FD 50 RT 90]|CS|END|");
+  Write("ERASED.ZRM", "TO A|CS|REPEAT 4 [FD 50 RT 90]|PE|REPEAT 4 [FD 50 RT 90]|END|");
   Write("WIPED.ZRM", "TO A|CS|SETXY 30 20|SETBG 1|END|");
   Write("FENCED.ZRM", "TO A|CS|FENCE|FD 20|FD 900|END|");
   Write("TWICE.ZRM", "TO A|LOAD CLEAR|LOAD CLEAR|CS|FD 9|END|");
@@ -236,12 +239,24 @@ TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
        {std::pair("NOTHING.ZRM", "nothing drawn"), std::pair("PENUP.ZRM", "nothing with pen up"),
         std::pair("TITLE.ZRM", "under the title"), std::pair("CLEAR.ZRM", ""),
         std::pair("OUTSIDE.ZRM", "outside the picture"), std::pair("WIPED.ZRM", "picture wiped"),
-        std::pair("FENCED.ZRM", "fence hit"), std::pair("TWICE.ZRM", "loaded twice"),
-        std::pair("ROUND.ZRM", "for ever"),
+        std::pair("LARGE.ZRM", "outside the picture"), std::pair("CLEARED.ZRM", "nothing left"),
+        std::pair("ERASED.ZRM", "nothing left"), std::pair("FENCED.ZRM", "fence hit"),
+        std::pair("TWICE.ZRM", "loads another, loads another, loaded twice"), std::pair("ROUND.ZRM", "for ever"),
         // The same thing is told once.
         std::pair("ASKED.ZRM", "missing inputs"), std::pair("ALL.ZRM", "")}) {
     EXPECT_EQ(MistakesOf(file), mistakes) << file;
   }
+}
+
+TEST_F(ClassProgramTest, TellsWhenAProgramLoadsAnotherOfTheClass) {
+  fs::create_directory(ClassFolder() / "CARLA");
+  Write("ANNA.ZRM", "TO ANNA|CS|FD 50|END|");
+  Write("BEN.ZRM", "TO BEN|LOAD ANNA|ANNA|END|");
+  Write("CARLA/MAIN.ZRM", "TO MAIN|LOAD SQUARE|SQUARE|END|");
+  Write("CARLA/SQUARE.ZRM", "TO SQUARE|CS|FD 50|END|");
+  Run();
+  EXPECT_EQ(MistakesOf("BEN.ZRM"), "loads another");
+  EXPECT_EQ(MistakesOf("CARLA/MAIN.ZRM"), "");
 }
 
 TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {

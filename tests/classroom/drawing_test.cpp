@@ -76,6 +76,30 @@ TEST_F(DrawingTest, TellsHowMuchLiesOutside) {
   EXPECT_EQ(Recorder.PartOutside(Picture1), 0.625);
 }
 
+TEST_F(DrawingTest, TellsWhatIsWhollyOutside) {
+  Picture1.Line(500, 0, -1500, 0);
+  Picture1.Circle(-200, 500, 300);
+  EXPECT_FALSE(Recorder.HasWholeOutside(Picture1));
+  Picture1.Line(-500, 500, -500, 900);
+  EXPECT_TRUE(Recorder.HasWholeOutside(Picture1));
+  Picture1.Cls();
+  Picture1.Circle(-500, 500, 300);
+  EXPECT_TRUE(Recorder.HasWholeOutside(Picture1));
+}
+
+TEST_F(DrawingTest, IsBlankWhenAllIsClearedOrErased) {
+  EXPECT_TRUE(Recorder.IsBlank());
+  Picture1.Line(0, 0, 1000, 0);
+  EXPECT_FALSE(Recorder.IsBlank());
+  Picture1.SetForeColor(Paper);
+  Picture1.Line(0, 0, 1000, 0);
+  EXPECT_TRUE(Recorder.IsBlank());
+  Picture1.SetForeColor(0);
+  Picture1.Line(0, 0, 1000, 0);
+  Picture1.Cls();
+  EXPECT_TRUE(Recorder.IsBlank());
+}
+
 TEST_F(DrawingTest, TellsWhatLeavesABand) {
   Picture1.Line(0, 5760, 9000, 5760);
   EXPECT_FALSE(Recorder.LeavesBand(Picture1, 0.25, 0.75));

@@ -52,12 +52,13 @@ const Case Statements[] = {
     {"TO A|SUM 10 -20|END|", {"2 minus second input SUM"}},
     {"TO A|MAKE \"N -5|FD :N|END|", {"2 minus make N"}},
     {"TO A|PRINT 3--4|END|", {"2 double minus 3--4"}},
+    {"TO A|MAKE \"N (-5)|PRINT 10-:N|PRINT 10+(-1*:N)|PRINT :N-3|END|", {"3 double minus 10-:N"}},
     {"TO A|PRINT 2*7%4|END|", {"2 percent after times 2*7%4"}},
     {"TO A|PRINT (2*7)%4|END|", {}},
     {"TO A|PRINT 2(3+4)|END|", {"2 missing times 2(3+4)"}},
     {"TO A|FD .5|END|", {"2 bare point .5"}},
     {"TO A|FD 0.5|END|", {}},
-    {"TO A|IF 2 = 2|FD 1|ENDIF|END|", {"2 blank before equals ="}},
+    {"TO A|IF 2 = 2|FD 1|ENDIF|REPEAT 2 [IF 2 = 2 FD 1 ENDIF]|END|", {"5 blank before equals ="}},
     {"TO A|FD(10)|END|", {"2 no blank after word FD"}},
     {"TO A|MAKE \"T 1/3|FD :T|END|", {"2 rounded third 1/3"}},
     {"TO A|MAKE \"T 1/4|FD :T|END|", {}},
@@ -93,7 +94,7 @@ const Case Numbers[] = {
      {"2 comma 50,5", "3 comma 10,20", "3 missing inputs SETXY 2 1", "4 comma 4,5", "5 comma 3,5"}},
     {"TO B :S :W|FD :S|RT :W|END|TO A|B 50, 90|REPEAT 4 [FD 50, RT 90]|END|", {"6 comma 50,", "7 comma 50,"}},
     {"TO A|SETPC \"RED|FD \"50|FD \"50\"|REPEAT \"4 [FD 50]|END|",
-     {"2 strange sign \"RED \"", "3 strange sign \"50 \"", "4 strange sign \"\" \"", "5 strange sign \"4 \""}},
+     {"2 strange sign \"RED \"", "3 strange sign \"50 \"", "4 strange sign \"50\" \"", "5 strange sign \"4 \""}},
     {"TO A|FD 50;|FD [50]|FD {50}|FD '50'|FD $50|FD 50?|FD 5^2|FD 100\\2|FD @50|FD 50!|END|",
      {"2 strange sign 50; ;", "3 strange sign [50] [", "4 strange sign {50} {", "5 strange sign '50' '",
       "6 strange sign $50 $", "7 strange sign 50? ?", "8 strange sign 5^2 ^", "9 strange sign 100\\2 \\",
@@ -125,6 +126,7 @@ const Case Repeats[] = {
     {"TO A|REPEAT 2 [FD 10|END|", {"2 missing bracket"}},
     {"TO A|REPEAT 2 FD 10|END|", {"2 missing bracket"}},
     {"TO A|REPEAT 2 []|END|", {"2 missing bracket"}},
+    {"TO A|REPEAT 2 [FD 10]]|END|", {"2 extra bracket"}},
     {"TO A|REPEAT 2 [PRINT 5 FD 10]|END|", {"2 print in repeat PRINT"}},
     {"TO A|REPEAT 2 [FD 10 PRINT 5]|END|", {}},
     {"TO A|  REPEAT 2 [FD 10]|END|", {"2 indented repeat"}},
@@ -141,11 +143,19 @@ const Case Words[] = {
     {"TO STAR-1|END|", {"1 name is a sum STAR-1"}},
     {"TO A :N|IF :N 5|FD 1|ENDIF|END|", {"2 blank in sum :N 5"}},
     {"TO A|PRINT|PRINT \"A\"+5|PRINT (\"A\")|MESSAGE \"A\" \"B\"|END|",
-     {"2 missing inputs PRINT 1 0", "3 text and more \"\"+5", "4 text and more (\"\")", "5 text and more \"\" \"\""}},
+     {"2 missing inputs PRINT 1 0", "3 text and more \"A\"+5", "4 text and more (\"A\")",
+      "5 text and more \"A\" \"B\""}},
     {"TO A|FORWRD 10|END|", {"2 unknown word FORWRD FORWARD"}},
     {"TO A|FD10|END|", {"2 unknown word FD10 FD 10"}},
     {"TO A|LOAD B|FORWRD 10|SOMETHING|END|", {"3 unknown word FORWRD FORWARD"}},
     {"TO A|FD 10 RGHT 90|REPEAT 2 [FD 10 RGHT 90]|END|", {"2 unknown word RGHT RIGHT", "3 unknown word RGHT RIGHT"}},
+    {"TO A|SETCOLOR 4|BACKWARD 20|PEN UP|COLOUR 4|PENCOLOR 4|END|",
+     {"2 unknown word SETCOLOR SETPC", "3 unknown word BACKWARD BK", "4 unknown word PEN UP PU",
+      "5 unknown word COLOUR SETPC", "6 unknown word PENCOLOR SETPC"}},
+    {"TO A|// draws|FD 1|* star|-- more|# remark|//draws|END|",
+     {"2 unknown word //", "4 unknown word *", "5 unknown word --", "6 unknown word #", "7 unknown word //draws"}},
+    {"TO A|FD \"S RT 90 FD \"S|PRINT \"N IS\" :N|MAKE \"N 1|END|",
+     {"2 strange sign \"S RT 90 FD \"S \"", "3 text and more \"N IS\" :N"}},
     {"TO A|fd 10|rt 90|END|", {"2 small letters fd FD"}},
     {"TO A|FD 10 RT 90|END|", {"2 several statements RT"}},
     {"TO A|IF 1=1 FD 10 ENDIF|IF 1=1 FD 10|ENDIF|PRINT \"B\" FD 10|LABEL B FD 10|END|",
@@ -167,6 +177,9 @@ const Case Words[] = {
     {"TO A :S|FD S|REPEAT 3 [FD S*2 RT 9]|FD :S|END|", {"2 name without colon S", "3 name without colon S"}},
     {"TO A :S|PRINT \"S\"|LABEL S|MAKE \"T :S|FD :T|END|", {}},
     {"TO A|MAKE \"Z 0|PRINT :Z*5+3|END|", {"3 zero vanishes :Z"}},
+    {"TO A|MAKE \"Z 0|FD 5*:Z-2|FD 2+5*:Z*3|FD (:Z*2+5)*3|IF 1<:Z/5+3|FD 1|ENDIF|END|",
+     {"3 zero vanishes :Z", "4 zero vanishes :Z", "5 zero vanishes :Z", "6 zero vanishes :Z"}},
+    {"TO A :W|MAKE \"Z 0|FD :Z*:W|SETX :Z*10|PRINT :Z/5|FD 5*:Z+3|FD (:Z*5)+3|FD :Z*(3+1)|FD 3+:Z*5|END|", {}},
     {"TO TWICE :S|PRINT :S+:S|END|", {"2 input twice :S"}},
     {"TO THRICE :N|PRINT 3*:N|END|TO A|THRICE 2+3|END|", {"5 input without brackets 2+3 :N"}},
     {"TO A :X|MAKE \"X 9|END|", {"2 input overwritten :X"}},
@@ -192,6 +205,8 @@ const Case Programs[] = {
     {"TO A|GOTO NOWHERE|END|", {"2 unknown label NOWHERE"}},
     {"TO A|FD 1|IF XCOR<9|A|ENDIF|END|", {}},
     {"TO A|FD 1|IF XCOR<9|A|ENDIF|RT 90|END|", {"4 recursion goes on A"}},
+    {"TO A|IF XCOR<9|A|ELSE|IF 1=1|RT 9|ENDIF|HT|ENDIF|END|", {}},
+    {"TO A|IF XCOR<9|A|ELSE|HT|ENDIF|RT 9|END|", {"3 recursion goes on A"}},
     {"TO A :N|FD :N|A :N-1|END|", {"3 recursion with input A"}},
     {"TO A|PE|PX|END|", {"3 eraser reversed PX"}},
     {"TO A|PENERASE|PENREVERSE|END|", {"3 eraser reversed PENREVERSE"}},
@@ -205,6 +220,15 @@ const Case Programs[] = {
     {"TO A\nFD 10\nEND\n", {"0 one line"}},
 };
 INSTANTIATE_TEST_SUITE_P(Programs, FindingsOf, testing::ValuesIn(Programs));
+
+TEST(Findings, InputsThatATypedLineGivesAreCounted) {
+  const QString program = "TO STAIRS\r\nFD 1\r\nEND\r\nTO BOX :A :B\r\nFD :A\r\nRT :B\r\nEND\r\n";
+  const std::vector<Finding> expected = {{Mistake::TooManyInputs, 1, {"STAIRS", "0", "1"}},
+                                         {Mistake::MissingInputs, 4, {"BOX", "2", "1"}}};
+  EXPECT_EQ(FindingsInCalls(program, "CS STAIRS 20 BOX 5"), expected);
+  EXPECT_TRUE(FindingsInCalls(program, "LOAD STAIRS").empty());
+  EXPECT_TRUE(FindingsInCalls(program, "CS STAIRS BOX 5 (5+1)").empty());
+}
 
 TEST(Findings, AProgramMayBeTooLong) {
   QString program = "TO A\r\n";

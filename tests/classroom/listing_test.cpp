@@ -18,7 +18,9 @@ TEST(Listing, PartsProceduresAndStatements) {
   EXPECT_EQ(listing.Procedures[0].Line, 2);
   EXPECT_TRUE(listing.Procedures[0].HasEnd);
   EXPECT_FALSE(listing.Procedures[1].HasEnd);
-  EXPECT_EQ(TextsOf(listing), (QStringList{"MAKE :A 5", "FD :S", "PRINT \"\""}));
+  EXPECT_EQ(TextsOf(listing), (QStringList{"MAKE :A 5", "FD :S", listing.Statements[2].Text}));
+  EXPECT_EQ(listing.Statements[2].Text.size(), 9);
+  EXPECT_EQ(listing.AsWritten(listing.Statements[2].Text), "PRINT \"RT 90\"");
   EXPECT_EQ(listing.Statements[0].Procedure, -1);
   EXPECT_EQ(listing.Statements[1].Procedure, 0);
   EXPECT_EQ(listing.Statements[2].Line, 7);

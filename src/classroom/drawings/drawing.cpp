@@ -37,9 +37,11 @@ bool GoesOn(const Line& first, const Line& second) {
   return dot > 0 && std::abs(cross) <= Straight * first.Length() * second.Length();
 }
 
-bool LiesOutside(const Surface& surface, Point point) {
-  return point.X < 0 || point.Y < 0 || point.X > static_cast<double>(surface.Width) ||
-         point.Y > static_cast<double>(surface.Height());
+/// Whether all of a figure is outside.
+bool LiesOutside(const Surface& surface, const Figure& figure) {
+  return figure.Centre.X + figure.Across < 0 || figure.Centre.Y + figure.Down < 0 ||
+         figure.Centre.X - figure.Across > static_cast<double>(surface.Width) ||
+         figure.Centre.Y - figure.Down > static_cast<double>(surface.Height());
 }
 
 /// The part of a line, from 0 to 1, that lies on the surface.
@@ -126,13 +128,18 @@ void DrawingRecorder::Record(const Surface& surface, const SurfaceOperation& ope
   } else if (const auto* set = std::get_if<op::Set>(&operation)) {
     if (std::string_view(set->Property) != "BackColor") return;
     wiped_ = wiped_ || !drawing_.IsEmpty();
-    drawing_ = {};
+    Clear();
   } else if (std::holds_alternative<op::Cls>(operation)) {
-    drawing_ = {};
+    Clear();
   } else {
-    // A picture or a poured colour.
     hasDrawn_ = true;
+    isPainted_ = true;
   }
+}
+
+void DrawingRecorder::Clear() {
+  drawing_ = {};
+  isPainted_ = false;
 }
 
 void DrawingRecorder::Add(const Surface& surface, Line line) {
@@ -152,7 +159,7 @@ void DrawingRecorder::Add(const Surface& surface, Figure figure) {
 
 void DrawingRecorder::AddBox(const Surface& surface, Point from, Point to) {
   const Point corners[] = {from, {to.X, from.Y}, to, {from.X, to.Y}, from};
-  for (int side = 0; side < 4; ++side) Add(surface, Line{corners[side], corners[side + 1], surface.ForeColor()});
+  for (int side = 0; side < 4; ++side) Add(surface, Line{corners[side], corners[side + 1], surface.ForeColor(), true});
 }
 
 void DrawingRecorder::Erase(const Line& eraser) {
@@ -169,14 +176,27 @@ double DrawingRecorder::PartOutside(const Surface& surface) const {
   double outside = 0;
   for (const Line& each : drawing_.Lines) {
     all += each.Length();
-    outside += each.Length() * (1 - PartInside(surface, each));
+    outside += each.IsSide ? 0 : each.Length() * (1 - PartInside(surface, each));
   }
   for (const Figure& each : drawing_.Figures) {
     const double size = each.Across + each.Down + LeastLength;
     all += size;
-    outside += LiesOutside(surface, each.Centre) ? size : 0;
+    outside += LiesOutside(surface, each) ? size : 0;
   }
   return all == 0 ? 0 : outside / all;
+}
+
+bool DrawingRecorder::HasWholeOutside(const Surface& surface) const {
+  const auto isOutside = [&surface](const Figure& each) { return LiesOutside(surface, each); };
+  if (std::ranges::any_of(drawing_.Figures, isOutside)) return true;
+  bool isWhole = false;
+  for (std::size_t i = 0; i < drawing_.Lines.size(); ++i) {
+    const Line& line = drawing_.Lines[i];
+    const bool begins = i == 0 || Between(drawing_.Lines[i - 1].To, line.From) > LeastLength;
+    if (begins && isWhole) return true;
+    isWhole = (begins || isWhole) && PartInside(surface, line) == 0;
+  }
+  return isWhole;
 }
 
 bool DrawingRecorder::LeavesBand(const Surface& surface, double top, double bottom) const {

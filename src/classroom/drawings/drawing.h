@@ -27,6 +27,8 @@ struct Line {
   Point From;
   Point To;
   Colour Color = 0;
+  /// Whether it is a side of a box.
+  bool IsSide = false;
 
   double Length() const;
 };
@@ -72,8 +74,13 @@ class DrawingRecorder final : public SurfaceRecorder {
   bool WasWiped() const { return wiped_; }
   /// Whether anything was ever drawn, poured or loaded.
   bool HasDrawn() const { return hasDrawn_; }
-  /// The share of what is drawn, by length, that is outside the surface, from 0 to 1.
+  /// The share of what is drawn, by length, that is outside the surface, from 0 to 1. Grounds and hills rise from
+  /// below: a box does not count, and a figure only if all of it is outside.
   double PartOutside(const Surface& surface) const;
+  /// Whether a shape, or all of the lines that were drawn without a gap, is outside the surface.
+  bool HasWholeOutside(const Surface& surface) const;
+  /// Whether the surface is as empty as at the beginning: there was nothing, or it has been cleared or erased.
+  bool IsBlank() const { return drawing_.IsEmpty() && !isPainted_; }
   /// Whether something of it begins, ends or has its middle above or below a band, in fractions of the surface's
   /// height.
   bool LeavesBand(const Surface& surface, double top, double bottom) const;
@@ -83,10 +90,13 @@ class DrawingRecorder final : public SurfaceRecorder {
   void Add(const Surface& surface, Figure figure);
   void AddBox(const Surface& surface, Point from, Point to);
   void Erase(const Line& eraser);
+  void Clear();
 
   Drawing drawing_;
   bool wiped_ = false;
   bool hasDrawn_ = false;
+  /// Whether there is something else than shapes: a picture or a poured colour.
+  bool isPainted_ = false;
 };
 
 }  // namespace zerimo::classroom

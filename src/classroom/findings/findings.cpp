@@ -52,6 +52,9 @@ Findings FindingsIn(const QString& program) {
                           FindInJumps, FindInPens, FindInFile}) {
     find(listing, findings);
   }
+  for (Finding& each : findings) {
+    for (QString& detail : each.Details) detail = listing.AsWritten(detail);
+  }
   SortAndThin(findings);
   return findings;
 }

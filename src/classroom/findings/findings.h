@@ -11,6 +11,10 @@ namespace zerimo::classroom {
 /// empty or read as one line, only that is reported: the rest would follow from it.
 std::vector<Finding> FindingsIn(const QString& program);
 
+/// What is suspicious in the calls of a typed line: inputs that a procedure of the program does not take, or lacks.
+/// Each is reported at the head of the procedure.
+std::vector<Finding> FindingsInCalls(const QString& program, const QString& typed);
+
 /// The parts of the search, each with a kind of its own; they add to what is there.
 using Findings = std::vector<Finding>;
 void FindInStatements(const Listing& listing, Findings& findings);

@@ -105,7 +105,39 @@ int LettersBetween(const QString& one, const QString& other) {
   return above[columns];
 }
 
+QString WordForOther(const QString& name) {
+  using enum Action;
+  struct OtherNames {
+    const char* Names;
+    bool (*IsMeant)(const WordFacts*);
+  };
+  static constexpr OtherNames rows[] = {
+      {"BACKWARD BACKWARDS RW", IsOneOf<Back>},
+      {"FW FOREWARD GO MOVE WALK VW", IsOneOf<Forward>},
+      {"TURN TURNRIGHT RE RECHTS", IsOneOf<Right>},
+      {"TURNLEFT LI LINKS", IsOneOf<Left>},
+      {"COLOR COLOUR SETCOLOR SETCOLOUR PENCOLOR PENCOLOUR SETPENCOLOR SETPENCOLOUR", IsOneOf<SetPC>},
+      {"BACKGROUND SETBACKGROUND BGCOLOR", IsOneOf<SetBG>},
+      {"WIDTH PENSIZE PENWIDTH SETWIDTH SETPENSIZE", IsOneOf<LineWidth>},
+      {"PEN_UP STIFTHOCH", IsOneOf<PenUp>},
+      {"PEN_DOWN STIFTAB", IsOneOf<PenDown>},
+      {"SETPOS GOTOXY", IsOneOf<SetXY>},
+      {"CLEAR", IsOneOf<ClearScreen>},
+      {"SHOWTEXT SAY OUTPUT", IsOneOf<Action::Print>},
+      {"LOOP FOR WH WIEDERHOLE", IsOneOf<inputs::Repeat>},
+      {"ENDE", IsOneOf<StmtEnd>},
+  };
+  QString single = name;
+  single.replace(u' ', u'_');
+  for (const OtherNames& row : rows) {
+    if (QString::fromLatin1(row.Names).split(u' ').contains(single)) return NameOf(row.IsMeant);
+  }
+  return {};
+}
+
 QString SuggestionFor(const QString& word, const QStringList& others) {
+  const QString usual = WordForOther(word);
+  if (!usual.isEmpty() && !others.contains(word)) return usual;
   QStringList all = others;
   for (const WordFacts* each : Words()) all.append(TextOf(each->Word));
   return MostLike(word, all);

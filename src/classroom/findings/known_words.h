@@ -47,6 +47,9 @@ QString NameOf(bool (*isSuch)(const WordFacts*));
 /// but the last.
 QRegularExpression ExpressionOf(QString text, bool (*isSuch)(const WordFacts*));
 
+/// The word for what has another name elsewhere, or empty: SETPC for SETCOLOR, PENUP for PEN UP.
+QString WordForOther(const QString& name);
+
 /// The known word, or the one among `others`, whose spelling is most like this one, or empty.
 QString SuggestionFor(const QString& word, const QStringList& others);
 

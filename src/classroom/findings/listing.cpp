@@ -6,11 +6,9 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// The quote of `MAKE "N` is not one of a pair.
-QString WithoutQuoted(QString line) {
-  static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"[^\"]*\"", IsOneOf<StmtMake>);
-  return line.replace(quoted, "\"\"").simplified();
-}
+/// The characters that stand for what is between quotes; no program has them, since it is read byte by byte.
+constexpr char16_t FirstQuoted = 0xE000;
+constexpr char16_t LastQuoted = 0xF8FF;
 
 /// The words of a body; what is in square brackets is one word.
 QStringList WordsOfBody(const QString& body) {
@@ -57,6 +55,11 @@ RepeatParts PartsOf(const QString& repeat) {
   return {count, repeat.mid(begin + 1), {}};
 }
 
+bool Statement::IsRemark() const {
+  static const QRegularExpression remark("^(?:[*/%<>=!]|[-+#]+ )");
+  return remark.match(Text).hasMatch();
+}
+
 QStringList Statement::Inputs() const { return InputsIn(Rest()); }
 
 Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
@@ -74,6 +77,27 @@ Listing::Listing(const QString& program) : Lines(LinesOf(program)) {
       TakeStatement(line, i + 1, false);
     }
   }
+}
+
+/// The quote of `MAKE "N` is not one of a pair. Of more texts than there are characters, the last ones are one.
+QString Listing::WithoutQuoted(QString line) {
+  static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"([^\"]*)\"", IsOneOf<StmtMake>);
+  qsizetype from = 0;
+  for (auto match = quoted.match(line); match.hasMatch(); match = quoted.match(line, from)) {
+    if (quoted_.size() <= LastQuoted - FirstQuoted) quoted_.append(match.captured(1));
+    const QString stands = u'"' + QString(QChar(static_cast<char16_t>(FirstQuoted + quoted_.size() - 1))) + u'"';
+    line.replace(match.capturedStart(), match.capturedLength(), stands);
+    from = match.capturedStart() + stands.size();
+  }
+  return line.simplified();
+}
+
+QString Listing::AsWritten(QString text) const {
+  for (qsizetype i = text.size() - 1; i >= 0; --i) {
+    const char16_t character = text[i].unicode();
+    if (character >= FirstQuoted && character <= LastQuoted) text.replace(i, 1, quoted_.value(character - FirstQuoted));
+  }
+  return text;
 }
 
 void Listing::TakeHead(const QString& line, int number) {

@@ -13,7 +13,7 @@ namespace zerimo::classroom {
 struct Statement {
   /// The line of the file, from 1.
   int Line = 0;
-  /// On one line with single blanks; the text between quotes is cut out, so that "" is left.
+  /// On one line with single blanks; the text between quotes is one character, which `Listing::AsWritten` knows.
   QString Text;
   bool InBody = false;
   /// The index of its procedure, or -1 outside.
@@ -21,6 +21,8 @@ struct Statement {
   /// The row of its word, or null.
   const WordFacts* Known = nullptr;
 
+  /// Whether it only begins with a sign, as a remark does: "// draws a house".
+  bool IsRemark() const;
   QString Word() const { return Text.section(u' ', 0, 0); }
   QString Rest() const { return Text.section(u' ', 1); }
   /// What follows its word, cut as a reader would: blanks beside a sign cut nothing, except before a minus number.
@@ -46,6 +48,9 @@ class Listing {
  public:
   explicit Listing(const QString& program);
 
+  /// A text of a statement with what was between its quotes.
+  QString AsWritten(QString text) const;
+
   /// The lines of the file without their ends.
   QStringList Lines;
   std::vector<ListedProcedure> Procedures;
@@ -62,11 +67,14 @@ class Listing {
   std::optional<qsizetype> InputsTakenBy(const Statement& statement) const;
 
  private:
+  QString WithoutQuoted(QString line);
   void TakeHead(const QString& line, int number);
   void TakeStatement(const QString& text, int number, bool inBody);
   void TakeBody(const QString& body, int number);
 
   int current_ = -1;
+  /// What was between quotes, in order.
+  QStringList quoted_;
 };
 
 /// The lines of a text, however they end.

@@ -48,6 +48,7 @@ constexpr std::array<MistakeFacts, Count> Table = {{
     {Mistake::CountTooLarge, "count too large", "why-does-nothing-work-any-more-after-repeat-40000"},
     {Mistake::CountChanged, "count changed", "why-does-my-repeat-run-more-often-than-i-said"},
     {Mistake::MissingBracket, "missing bracket", "what-if-a-bracket-is-missing"},
+    {Mistake::ExtraBracket, "extra bracket", "what-if-a-bracket-is-missing"},
     {Mistake::PrintInRepeat, "print in repeat", "why-does-print-in-a-repeat-print-strange-numbers"},
     {Mistake::IndentedRepeat, "indented repeat", "why-is-my-program-gone-after-i-indented-a-repeat"},
     {Mistake::LongBody, "long body", "why-does-nothing-work-any-more-after-repeat-40000"},
@@ -92,12 +93,14 @@ constexpr std::array<MistakeFacts, Count> Table = {{
     {Mistake::OneLine, "one line", ""},
     {Mistake::NothingDrawn, "nothing drawn", "why-is-part-of-my-drawing-hidden-at-the-start"},
     {Mistake::NothingWithPenUp, "nothing with pen up", "why-is-part-of-my-drawing-hidden-at-the-start"},
+    {Mistake::NothingLeft, "nothing left", "why-is-part-of-my-drawing-hidden-at-the-start"},
     {Mistake::UnderTheTitle, "under the title", "why-is-part-of-my-drawing-hidden-at-the-start"},
     {Mistake::OutsideThePicture, "outside the picture", "why-does-a-large-number-become-0"},
     {Mistake::PictureWiped, "picture wiped", "why-did-setbg-wipe-the-picture"},
     {Mistake::FenceHit, "fence hit", "why-does-the-turtle-not-go-up-to-the-fence"},
     {Mistake::InputAsked, "input asked", "what-do-abort-retry-and-ignore-do"},
     {Mistake::LoadedTwice, "loaded twice", "why-is-the-old-version-of-my-procedure-used"},
+    {Mistake::LoadsAnother, "loads another", ""},
     {Mistake::ForEver, "for ever", "why-does-the-whole-window-hang"},
 }};
 

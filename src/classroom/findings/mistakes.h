@@ -51,6 +51,7 @@ enum class Mistake : std::uint8_t {
   CountTooLarge,
   CountChanged,
   MissingBracket,
+  ExtraBracket,
   PrintInRepeat,
   IndentedRepeat,
   LongBody,
@@ -95,12 +96,14 @@ enum class Mistake : std::uint8_t {
   // Seen in the run.
   NothingDrawn,
   NothingWithPenUp,
+  NothingLeft,
   UnderTheTitle,
   OutsideThePicture,
   PictureWiped,
   FenceHit,
   InputAsked,
   LoadedTwice,
+  LoadsAnother,
   ForEver,
   Count,
 };

@@ -91,7 +91,21 @@ void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings&
   }
 }
 
-/// A name that is 0 vanishes from its line: harmful before a `*` or `/`, and between a `*` and a minus.
+/// The parts of a sum that are worked out by themselves: what is in brackets, the sides of a comparison, and the rest,
+/// where a bracket is a letter.
+QStringList PartsOfSum(QString sum) {
+  static const QRegularExpression bracket("\\(([^()]*)\\)");
+  static const QRegularExpression comparison("[<>=!]+");
+  QStringList parts;
+  for (auto match = bracket.match(sum); match.hasMatch(); match = bracket.match(sum)) {
+    parts += match.captured(1).split(comparison);
+    sum.replace(match.capturedStart(), match.capturedLength(), "b");
+  }
+  return parts + sum.split(comparison);
+}
+
+/// A name that is 0 vanishes from its sum. What then begins with a `*` or `/` is 0 as a whole, and a sign after a `*`
+/// that has lost its number takes the next one.
 void FindZeros(const Listing& listing, Findings& findings) {
   QStringList zeros;
   for (const Statement& each : listing.Statements) {
@@ -100,8 +114,25 @@ void FindZeros(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     for (const QString& name : std::as_const(zeros)) {
       const QString word = QRegularExpression::escape(name);
-      const QRegularExpression harmful("(?:^| )" + word + "[*/]|[*]" + word + "-");
-      if (harmful.match(statement.Text).hasMatch()) findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
+      const QRegularExpression harmful("^" + word + "[*/].*[-+]|[*]" + word + "[-*/%]");
+      const QStringList parts = PartsOfSum(listing.SumsOf(statement).join(u'='));
+      if (!parts.filter(harmful).isEmpty()) findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
+    }
+  }
+}
+
+/// Of the two minus signs that a name with a minus number makes after a minus, only one counts.
+void FindNegatives(const Listing& listing, Findings& findings) {
+  static const QRegularExpression negative(" (?:\\(-\\d[\\d.]*\\)|0-\\d[\\d.]*)$");
+  QStringList names;
+  for (const Statement& each : listing.Statements) {
+    if (each.Is<StmtMake>() && negative.match(each.Text).hasMatch()) names.append(MadeBy(each));
+  }
+  for (const Statement& statement : listing.Statements) {
+    for (const QString& name : std::as_const(names)) {
+      const QRegularExpression harmful("\\S+-" + QRegularExpression::escape(name) + "(?!\\w)");
+      const auto match = harmful.match(listing.SumsOf(statement).join(u' '));
+      if (match.hasMatch()) findings.push_back({Mistake::DoubleMinus, statement.Line, {match.captured()}});
     }
   }
 }
@@ -142,6 +173,7 @@ void FindInNames(const Listing& listing, Findings& findings) {
   FindDigits(listing, findings);
   FindVanishing(listing, known, findings);
   FindZeros(listing, findings);
+  FindNegatives(listing, findings);
   for (const Statement& statement : listing.Statements) {
     FindInputTwice(listing, statement, findings);
     FindSums(listing, statement, findings);

@@ -34,7 +34,19 @@ void FindOutside(const Listing& listing, Findings& findings) {
   }
 }
 
-bool ClosesIf(const Statement& statement) { return statement.Is<StmtEndIf, StmtElse>() && statement.Rest().isEmpty(); }
+/// The first statement after a place at which nothing is left to do but to close the IFs around it. What is between
+/// an ELSE and its ENDIF is not carried out.
+std::size_t AfterClosedIfs(const std::vector<Statement>& all, std::size_t at) {
+  int skipped = 0;
+  for (; at < all.size(); ++at) {
+    const bool isElse = all[at].Is<StmtElse>() && all[at].Rest().isEmpty();
+    if (skipped > 0 && all[at].Is<StmtIf>()) ++skipped;
+    if (skipped > 0 && all[at].Is<StmtEndIf>()) --skipped;
+    if (skipped == 0 && isElse) skipped = 1;
+    if (skipped == 0 && !all[at].Is<StmtEndIf>()) break;
+  }
+  return at;
+}
 
 /// A procedure that calls itself loses what follows the call, and does not pass on its inputs.
 void FindRecursion(const Listing& listing, Findings& findings) {
@@ -47,8 +59,7 @@ void FindRecursion(const Listing& listing, Findings& findings) {
       return all[i].Rest() != own.Inputs.join(u' ') && all[i].Rest().contains(input);
     });
     if (hasInput) findings.push_back({Mistake::RecursionWithInput, all[i].Line, {own.Name}});
-    std::size_t next = i + 1;
-    while (next < all.size() && all[next].Procedure == all[i].Procedure && ClosesIf(all[next])) ++next;
+    const std::size_t next = AfterClosedIfs(all, i + 1);
     if (next < all.size() && all[next].Procedure == all[i].Procedure)
       findings.push_back({Mistake::RecursionGoesOn, all[i].Line, {own.Name}});
   }

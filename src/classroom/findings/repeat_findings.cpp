@@ -39,8 +39,10 @@ void FindInCount(const Listing& listing, const Statement& repeat, Findings& find
 }
 
 void FindBrackets(const Statement& repeat, Findings& findings) {
-  const bool balanced = repeat.Text.count(u'[') == repeat.Text.count(u']') && repeat.Text.contains(u'[');
-  if (!balanced || PartsOf(repeat.Text).Body.trimmed().isEmpty())
+  const qsizetype opened = repeat.Text.count(u'[');
+  const qsizetype closed = repeat.Text.count(u']');
+  if (opened > 0 && closed > opened) return findings.push_back({Mistake::ExtraBracket, repeat.Line, {}});
+  if (opened == 0 || closed < opened || PartsOf(repeat.Text).Body.trimmed().isEmpty())
     findings.push_back({Mistake::MissingBracket, repeat.Line, {}});
 }
 

@@ -23,6 +23,8 @@ struct Pattern {
   bool (*Words)(const WordFacts*) = IsOneOf<>;
   /// The number in the first group is a mistake if it is greater.
   double Greatest = -1;
+  /// Only where a line is cut at its blanks.
+  bool OnlyInBody = false;
 };
 
 /// The greatest number of units that 16 bits hold, in steps of 50.
@@ -40,7 +42,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::PercentAfterTimes, R"(([\w):.]*\w\*[\w:.]+%\S*))"},
     Pattern{Mistake::MissingTimes, R"(([\d)]+(?:\(|:[A-Za-z_])\S*))"},
     Pattern{Mistake::BarePoint, R"( (\.\d+))"},
-    Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf},
+    Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf, -1, true},
     Pattern{Mistake::Exponent, R"((?:^|[^\w:"])(\d+E[+-]?\d+))"},
     Pattern{Mistake::HalfNumber, R"(^& (\d+\.\d+)$)",
             IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize, Sum, Product,
@@ -61,7 +63,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::ColourCode, R"(^& (1[6-9]|[2-9]\d|\d{3,}|\(-\d+\))$)",
             IsOneOf<SetPC, SetBG, Fill, FloodFill, TextColor>},
     Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<Print, Message, Write>},
-    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"".*|"" ?["\d:(+*\-].*)$)-", IsOneOf<Print, Message>},
+    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"[^"]?".*|"[^"]?" ?["\d:(+*\-].*)$)-", IsOneOf<Print, Message>},
     Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<BracketSum, BracketProduct>},
     Pattern{Mistake::ElseWithMore, R"(^@ (\S.*))", IsOneOf<StmtElse>},
 };
@@ -76,6 +78,7 @@ std::vector<QRegularExpression> Compiled() {
 void FindPatterns(const Statement& statement, Findings& findings) {
   static const std::vector<QRegularExpression> compiled = Compiled();
   for (std::size_t i = 0; i < compiled.size(); ++i) {
+    if (Patterns[i].OnlyInBody && !statement.InBody) continue;
     const auto match = compiled[i].match(statement.Text);
     if (match.hasMatch() && (Patterns[i].Greatest < 0 || match.captured(1).toDouble() > Patterns[i].Greatest))
       findings.push_back({Patterns[i].What, statement.Line, {match.captured(1)}});
@@ -133,8 +136,8 @@ void FindMissingBlank(const Statement& statement, Findings& findings) {
 
 void FindInStatements(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
-    // The statements of a body are checked one by one.
-    if (statement.Is<inputs::Repeat>()) continue;
+    // The statements of a body are checked one by one; a remark is told as an unknown word.
+    if (statement.Is<inputs::Repeat>() || statement.IsRemark()) continue;
     FindPatterns(statement, findings);
     FindLoneNumber(listing, statement, findings);
     FindDeadWord(statement, findings);

@@ -14,7 +14,7 @@ bool IsWord(const QString& text) {
 /// Whether a line of one word is a sum: it begins like a name or a number, or has a sign in it.
 bool IsSum(const Statement& statement) {
   static const QRegularExpression sum("^[(:#\\d-]|[-+*/%<>=!]");
-  return sum.match(statement.Word()).hasMatch();
+  return sum.match(statement.Word()).hasMatch() && !statement.IsRemark();
 }
 
 /// What someone has meant who wrote a word that is unknown, or empty: "FD50" is "FD 50".
@@ -47,7 +47,8 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
 QString SecondStatementOf(const Listing& listing, const Statement& statement) {
   const bool isUnknown = statement.Known == nullptr && listing.Find(statement.Word()) == nullptr;
   if (isUnknown || statement.InBody || statement.Is<StmtElse>()) return {};
-  if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).After.section(u' ', 0, 0);
+  // A bracket too many is told as such.
+  if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).After.remove(u']').section(u' ', 0, 0);
   const QStringList words = statement.Text.split(u' ');
   const auto begin = words.begin() + std::min<qsizetype>(words.size(), TakesAName(statement.Known) ? 2 : 1);
   const auto found = std::find_if(
@@ -74,7 +75,10 @@ void FindTooMany(const Listing& listing, const Statement& statement, Findings& f
   const QStringList given = statement.Inputs();
   if (!taken || given.size() <= *taken) return;
   const QString& first = given[*taken];
-  if (IsWord(first)) {
+  const QString both = statement.Word() + u' ' + first;
+  if (const QString meant = WordForOther(both); !meant.isEmpty()) {
+    findings.push_back({Mistake::UnknownWord, statement.Line, {both, meant}});
+  } else if (IsWord(first)) {
     findings.push_back({Mistake::UnknownWord, statement.Line, {first, WordMeantBy(first, listing.ProcedureNames())}});
   } else {
     findings.push_back({Mistake::TooManyInputs,
@@ -122,6 +126,22 @@ void FindInHeads(const Listing& listing, Findings& findings) {
 }
 
 }  // namespace
+
+Findings FindingsInCalls(const QString& program, const QString& typed) {
+  // In a body, a line is cut as a row is.
+  const Listing listing(program + "\r\n" + NameOf(IsOneOf<inputs::Repeat>) + " 1 [" + typed + ']');
+  const auto last = static_cast<int>(listing.Lines.size());
+  Findings findings;
+  for (const Statement& statement : listing.Statements) {
+    const ListedProcedure* const called = listing.Find(statement.Word());
+    if (statement.Line != last || !statement.InBody || called == nullptr) continue;
+    const std::size_t before = findings.size();
+    FindMissingInputs(listing, statement, findings);
+    FindTooMany(listing, statement, findings);
+    for (std::size_t i = before; i < findings.size(); ++i) findings[i].Line = called->Line;
+  }
+  return findings;
+}
 
 void FindInWords(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
