@@ -11,6 +11,8 @@ namespace {
 
 /// A drawing of which more is outside the picture is a mistake; hills that rise from below it are not.
 constexpr double MostOutside = 0.25;
+/// Of figures that are outside as a whole; a bubble or two may leave the picture.
+constexpr double MostWhollyOutside = 0.05;
 
 /// The part of the title picture that hides nothing, in fractions of its height.
 constexpr double TitleIsClearFrom = 0.2;
@@ -42,7 +44,7 @@ void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findi
 
 void FindOutside(SessionRun& run, std::vector<Finding>& findings) {
   const double part = run.Recorder().PartOutside(run.form1.Picture1);
-  if (part > MostOutside || run.Recorder().HasWholeOutside(run.form1.Picture1))
+  if (part > MostOutside || run.Recorder().PartWhollyOutside(run.form1.Picture1) > MostWhollyOutside)
     findings.push_back({Mistake::OutsideThePicture, 0, {QString::number(std::ceil(100 * part))}});
 }
 

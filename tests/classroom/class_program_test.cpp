@@ -222,7 +222,7 @@ TEST_F(ClassProgramTest, ShowsTheProgramAndWhatIsSuspiciousInIt) {
 TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
   Write("NOTHING.ZRM", "TO A|RT 90|END|");
   Write("PENUP.ZRM", "TO A|CS|PU|FD 90|END|");
-  Write("TITLE.ZRM", "TO A|BK 190|END|");
+  Write("TITLE.ZRM", "TO A|BK 100|END|");
   Write("CLEAR.ZRM", "TO A|FD 50|END|");
   Write("OUTSIDE.ZRM", "TO A|CS|PU|SETXY 400 400|PD|FD 100|END|");
   Write("LARGE.ZRM", "TO A|CS|REPEAT 4 [FD 300 RT 90]|END|");

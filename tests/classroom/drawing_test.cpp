@@ -76,15 +76,24 @@ TEST_F(DrawingTest, TellsHowMuchLiesOutside) {
   EXPECT_EQ(Recorder.PartOutside(Picture1), 0.625);
 }
 
-TEST_F(DrawingTest, TellsWhatIsWhollyOutside) {
+TEST_F(DrawingTest, TellsHowMuchIsWhollyOutside) {
   Picture1.Line(500, 0, -1500, 0);
+  Picture1.Line(-1500, 0, -2500, 0);
+  EXPECT_EQ(Recorder.PartWhollyOutside(Picture1), 0);
+  Picture1.Line(-500, 500, -1500, 500);
+  EXPECT_EQ(Recorder.PartWhollyOutside(Picture1), 0.25);
+  Picture1.Cls();
   Picture1.Circle(-200, 500, 300);
-  EXPECT_FALSE(Recorder.HasWholeOutside(Picture1));
-  Picture1.Line(-500, 500, -500, 900);
-  EXPECT_TRUE(Recorder.HasWholeOutside(Picture1));
+  EXPECT_EQ(Recorder.PartWhollyOutside(Picture1), 0);
   Picture1.Cls();
   Picture1.Circle(-500, 500, 300);
-  EXPECT_TRUE(Recorder.HasWholeOutside(Picture1));
+  EXPECT_EQ(Recorder.PartWhollyOutside(Picture1), 1);
+}
+
+TEST_F(DrawingTest, AGroundThatRisesFromBelowIsNotOutside) {
+  Picture1.Box(-500, 11000, 16000, 13000);
+  EXPECT_EQ(Recorder.PartOutside(Picture1), 0);
+  EXPECT_EQ(Recorder.PartWhollyOutside(Picture1), 0);
 }
 
 TEST_F(DrawingTest, IsBlankWhenAllIsClearedOrErased) {

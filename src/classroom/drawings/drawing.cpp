@@ -44,6 +44,23 @@ bool LiesOutside(const Surface& surface, const Figure& figure) {
          figure.Centre.Y - figure.Down > static_cast<double>(surface.Height());
 }
 
+double SizeOf(const Figure& figure) { return figure.Across + figure.Down + LeastLength; }
+
+/// How much of some sizes counts.
+class Shares {
+ public:
+  /// `part` is from 0 to 1.
+  void Add(double size, double part) {
+    all_ += size;
+    counted_ += size * part;
+  }
+  double Part() const { return all_ == 0 ? 0 : counted_ / all_; }
+
+ private:
+  double all_ = 0;
+  double counted_ = 0;
+};
+
 /// The part of a line, from 0 to 1, that lies on the surface.
 double PartInside(const Surface& surface, const Line& line) {
   double first = 0;
@@ -110,7 +127,7 @@ void DrawingRecorder::Record(const Surface& surface, const SurfaceOperation& ope
   if (const auto* line = std::get_if<op::Line>(&operation)) {
     Add(surface, Line{Scaled(surface, line->X1, line->Y1), Scaled(surface, line->X2, line->Y2), surface.ForeColor()});
   } else if (const auto* to = std::get_if<op::LineTo>(&operation)) {
-    Add(surface, Line{Scaled(surface, to->X1, to->Y1), Scaled(surface, to->X2, to->Y2), surface.ForeColor()});
+    Add(surface, Line{Scaled(surface, to->X1, to->Y1), Scaled(surface, to->X2, to->Y2), surface.ForeColor(), true});
   } else if (const auto* box = std::get_if<op::Box>(&operation)) {
     AddBox(surface, Scaled(surface, box->X1, box->Y1), Scaled(surface, box->X2, box->Y2));
   } else if (const auto* circle = std::get_if<op::Circle>(&operation)) {
@@ -172,31 +189,30 @@ void DrawingRecorder::Erase(const Line& eraser) {
 }
 
 double DrawingRecorder::PartOutside(const Surface& surface) const {
-  double all = 0;
-  double outside = 0;
-  for (const Line& each : drawing_.Lines) {
-    all += each.Length();
-    outside += each.IsSide ? 0 : each.Length() * (1 - PartInside(surface, each));
-  }
-  for (const Figure& each : drawing_.Figures) {
-    const double size = each.Across + each.Down + LeastLength;
-    all += size;
-    outside += LiesOutside(surface, each) ? size : 0;
-  }
-  return all == 0 ? 0 : outside / all;
+  Shares shares;
+  for (const Line& each : drawing_.Lines)
+    shares.Add(each.Length(), each.IsOfOutline ? 0 : 1 - PartInside(surface, each));
+  for (const Figure& each : drawing_.Figures) shares.Add(SizeOf(each), LiesOutside(surface, each) ? 1 : 0);
+  return shares.Part();
 }
 
-bool DrawingRecorder::HasWholeOutside(const Surface& surface) const {
-  const auto isOutside = [&surface](const Figure& each) { return LiesOutside(surface, each); };
-  if (std::ranges::any_of(drawing_.Figures, isOutside)) return true;
-  bool isWhole = false;
+double DrawingRecorder::PartWhollyOutside(const Surface& surface) const {
+  Shares shares;
+  for (const Figure& each : drawing_.Figures) shares.Add(SizeOf(each), LiesOutside(surface, each) ? 1 : 0);
+  double length = 0;
+  bool isWhole = true;
   for (std::size_t i = 0; i < drawing_.Lines.size(); ++i) {
     const Line& line = drawing_.Lines[i];
-    const bool begins = i == 0 || Between(drawing_.Lines[i - 1].To, line.From) > LeastLength;
-    if (begins && isWhole) return true;
-    isWhole = (begins || isWhole) && PartInside(surface, line) == 0;
+    if (i > 0 && Between(drawing_.Lines[i - 1].To, line.From) > LeastLength) {
+      shares.Add(length, isWhole ? 1 : 0);
+      length = 0;
+      isWhole = true;
+    }
+    length += line.Length();
+    isWhole = isWhole && PartInside(surface, line) == 0;
   }
-  return isWhole;
+  shares.Add(length, isWhole ? 1 : 0);
+  return shares.Part();
 }
 
 bool DrawingRecorder::LeavesBand(const Surface& surface, double top, double bottom) const {

@@ -27,8 +27,8 @@ struct Line {
   Point From;
   Point To;
   Colour Color = 0;
-  /// Whether it is a side of a box.
-  bool IsSide = false;
+  /// Whether it is a part of a box or an ellipse.
+  bool IsOfOutline = false;
 
   double Length() const;
 };
@@ -75,10 +75,10 @@ class DrawingRecorder final : public SurfaceRecorder {
   /// Whether anything was ever drawn, poured or loaded.
   bool HasDrawn() const { return hasDrawn_; }
   /// The share of what is drawn, by length, that is outside the surface, from 0 to 1. Grounds and hills rise from
-  /// below: a box does not count, and a figure only if all of it is outside.
+  /// below: boxes and ellipses do not count, and a figure only if all of it is outside.
   double PartOutside(const Surface& surface) const;
-  /// Whether a shape, or all of the lines that were drawn without a gap, is outside the surface.
-  bool HasWholeOutside(const Surface& surface) const;
+  /// The share of the figures, and of the lines that were drawn without a gap, that are outside as a whole.
+  double PartWhollyOutside(const Surface& surface) const;
   /// Whether the surface is as empty as at the beginning: there was nothing, or it has been cleared or erased.
   bool IsBlank() const { return drawing_.IsEmpty() && !isPainted_; }
   /// Whether something of it begins, ends or has its middle above or below a band, in fractions of the surface's

@@ -113,7 +113,7 @@ QString WordForOther(const QString& name) {
   };
   static constexpr OtherNames rows[] = {
       {"BACKWARD BACKWARDS RW", IsOneOf<Back>},
-      {"FW FOREWARD GO MOVE WALK VW", IsOneOf<Forward>},
+      {"FW GO MOVE WALK VW", IsOneOf<Forward>},
       {"TURN TURNRIGHT RE RECHTS", IsOneOf<Right>},
       {"TURNLEFT LI LINKS", IsOneOf<Left>},
       {"COLOR COLOUR SETCOLOR SETCOLOUR PENCOLOR PENCOLOUR SETPENCOLOR SETPENCOLOUR", IsOneOf<SetPC>},
@@ -125,7 +125,6 @@ QString WordForOther(const QString& name) {
       {"CLEAR", IsOneOf<ClearScreen>},
       {"SHOWTEXT SAY OUTPUT", IsOneOf<Action::Print>},
       {"LOOP FOR WH WIEDERHOLE", IsOneOf<inputs::Repeat>},
-      {"ENDE", IsOneOf<StmtEnd>},
   };
   QString single = name;
   single.replace(u' ', u'_');
