@@ -131,7 +131,7 @@ class Walk {
   std::vector<fs::path> apart_;
 };
 
-/// By what a table of names may call a program: its place, its name, or a folder of the class that it is in.
+/// The names by which a table may call a program: its place, its file's name, or a folder of the class that it is in.
 std::vector<fs::path> KeysOf(const Pupil& pupil) {
   const fs::path place = PlaceOf(pupil);
   std::vector<fs::path> keys = {place, place.filename(), place.stem(), pupil.Program.parent_path().filename()};

@@ -9,10 +9,10 @@
 namespace zerimo::classroom {
 
 /// The programs of a folder and of the folders below it, deeper ones later; a program in a folder below has the
-/// folder's name. Within a folder they are in the order of their names, ignoring case. Whatever is called a program
-/// counts as one, unless it is hidden; so does a link to a folder outside, unless such links are followed. A session is
-/// the file of the same name ending in .session; if none has exactly that name, capitals and small letters do not
-/// matter. If each pupil has a folder, those without a program are among the pupils, by their folders; see
+/// folder's name. Within a folder they are in the order of their names, ignoring case. Anything with a program's
+/// name counts as one, unless it is hidden; so does a link to a folder outside, unless such links are followed. A
+/// session is the file of the same name ending in .session; if none has exactly that name, capitals and small letters
+/// do not matter. If each pupil has a folder, those without a program are among the pupils, by their folders; see
 /// `HasNoProgram`. Whatever is in `apart` (canonical paths) belongs to no pupil. Fails with
 /// `std::filesystem::filesystem_error`.
 std::vector<Pupil> PupilsOf(const std::filesystem::path& folder, bool followsLinks = false,

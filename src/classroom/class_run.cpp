@@ -57,7 +57,7 @@ std::vector<fs::path> Apart(const ClassOptions& options) {
   return apart;
 }
 
-/// All programs, before any of them is left to others.
+/// All programs, those that other shards run included.
 std::vector<Pupil> AllPupils(const ClassOptions& options) {
   const bool isList = options.Folder.empty();
   const std::string words = isList ? "--list " + options.List : "--class " + options.Folder;

@@ -15,9 +15,9 @@ namespace {
 /// Milliseconds between two checks of the clock.
 constexpr int WatchInterval = 50;
 
-/// After a process that could not be started.
+/// The pause after a process that could not be started.
 constexpr std::chrono::milliseconds Rest(200);
-/// Tries one after the other while nothing else runs.
+/// How often a process is tried again in vain while no other one runs.
 constexpr int MostVainTries = 25;
 
 }  // namespace
@@ -68,7 +68,7 @@ void ClassRunner::StartMore() {
 void ClassRunner::Postpone(std::size_t index) {
   waiting_.push_front(index);
   rest_ = Clock::now() + Rest;
-  // Those that run may be all that there is room for.
+  // There may be room for no more than those that are running.
   const auto others = static_cast<int>(running_.size()) - 1;
   plan_.Jobs = std::max(1, std::min(plan_.Jobs, others));
   vainTries_ = others > 0 ? 0 : vainTries_ + 1;

@@ -116,7 +116,7 @@ struct Language {
   const char* AlikeHead;
   const char* AlikePair;
 
-  // Short names, by which the overview can be filtered. Where there is none, it is that of the summary.
+  // Short names, by which the overview can be filtered. Where one is missing, the summary's name is used.
   std::array<const char*, ResultCount> Results;
   std::array<const char*, static_cast<std::size_t>(Mistake::Count)> MistakeNames;
 

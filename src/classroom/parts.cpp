@@ -121,7 +121,7 @@ std::optional<Share> ForEachRun(const fs::path& file, const std::function<void(P
     share = ShareIn(*json);
     take(RunOf(file, *json), place);
   }
-  // Half a line is a program that is missing.
+  // A program whose line is incomplete is missing.
   share.Wanted = std::max(share.Wanted, lines);
   return share;
 }

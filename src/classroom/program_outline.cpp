@@ -18,7 +18,7 @@ QString KeptText(std::string_view programText) {
   ListBox list3{"List3"};
   const auto store = std::make_unique<Store>(list3);
   std::int16_t number = 1;
-  // What was filled before the store was full counts.
+  // The lines stored before the store was full count.
   SkipOnFailure([&] { FillStore(*store, programText, number); });
   QString text;
   SkipOnFailure([&] {

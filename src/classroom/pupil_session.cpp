@@ -173,7 +173,7 @@ Play PupilSession::PlayWithoutSession(QStringList& notes) const {
 
 SessionRun& PupilSession::Played(const Play& play, const char* transcript) {
   if (lastRun_ && lastPlay_ == play) return *lastRun_;
-  // The old one's transcript may be written anew.
+  // Closes the transcript of the run before, which this one may write again.
   lastRun_.reset();
   lastPlay_ = play;
   lastRun_ = std::make_unique<SessionRun>(order_, transcript);
@@ -191,7 +191,7 @@ void PupilSession::RunMain() {
   TakeEnd(run.Went());
   outcome_.Notes += run.Went().Notes;
   MatchSource(run);
-  // With a session, or with another line after that of LOAD. A program without lines can't begin.
+  // A run has begun if there was a session, or a line typed after that of LOAD. A program without lines can't begin.
   const bool hasBegun = outline_ && play.Typed.size() != 1;
   if (outcome_.How != Result::Refused) FindInRun(run, outcome_.Where.ProgramLine, hasBegun, outcome_.Findings);
   tell_(outcome_);

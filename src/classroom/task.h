@@ -24,7 +24,7 @@ struct Goal {
 
   /// "A large star (STAR 50)"; empty if it has neither words nor lines.
   QString Title() const;
-  /// Of a program that has not come so far.
+  /// The outcome for a program that never got to this goal.
   GoalOutcome NotMet() const { return {Title(), Way, false, 0, Points}; }
 };
 
