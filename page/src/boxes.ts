@@ -1,6 +1,24 @@
 // Boxes of the system and of the page, each a dialog over it. Closing one counts as cancelling.
 import type { Told } from "./protocol";
 
+/** What is to follow when the last box has been closed. */
+let next: (() => void) | undefined;
+
+export const isBoxOpen = () => document.querySelector("dialog[open]") !== null;
+
+/** Now, or when the last box has been closed; only the latest work counts. */
+export function afterBoxes(work: () => void): void {
+  if (isBoxOpen()) next = work;
+  else work();
+}
+
+/** The focus goes where it was, unless the system has moved it meanwhile. */
+function returnFocus(before: Element | null): void {
+  const work = isBoxOpen() || next === undefined ? () => before instanceof HTMLElement && before.focus() : next;
+  if (work === next) next = undefined;
+  work();
+}
+
 /** What the dialog was left with: the word of a button, or nothing. */
 export function open(dialog: HTMLDialogElement): Promise<string> {
   document.body.append(dialog);
@@ -10,7 +28,7 @@ export function open(dialog: HTMLDialogElement): Promise<string> {
   return new Promise((resolve) => {
     dialog.addEventListener("close", () => {
       dialog.remove();
-      if (before instanceof HTMLElement) before.focus();
+      returnFocus(before);
       resolve(dialog.returnValue);
     });
   });

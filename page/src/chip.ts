@@ -1,5 +1,5 @@
 // A small label in the corner of the picture: the line that runs next, or that a program has been running for long.
-import { element } from "./boxes";
+import { element, isBoxOpen } from "./boxes";
 
 /** A program that runs longer than this can be seen to run, in milliseconds. */
 const longRun = 2000;
@@ -34,7 +34,7 @@ export class Chip {
     const isLong = running >= longRun;
     this.whenLong(isLong);
     // While a box is open, the program waits for its answer.
-    const time = isLong && !document.querySelector("dialog[open]") ? `Running for ${Math.floor(running / 1000)} s. Ctrl+. stops.` : "";
+    const time = isLong && !isBoxOpen() ? `Running for ${Math.floor(running / 1000)} s. Ctrl+. stops.` : "";
     const words = this.line || time;
     // Only lines are for screen readers; the seconds would be no end of news.
     this.box.setAttribute("aria-live", this.line === "" ? "off" : "polite");

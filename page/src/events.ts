@@ -1,4 +1,5 @@
 // Hands the user's events to the system, one at a time, and keeps those that come while a line runs.
+import { isBoxOpen } from "./boxes";
 import { meansStop } from "./keys";
 import type { Call, Told, ToWorker } from "./protocol";
 
@@ -108,7 +109,7 @@ export class Events {
   private hold(event: Event): void {
     if (!this.isRunning() || !event.isTrusted || (event instanceof KeyboardEvent && meansStop(event))) return;
     const target = event.target instanceof Element ? event.target : document.body;
-    if (target.closest("dialog, #bar") || document.querySelector("dialog[open]")) return;
+    if (target.closest("dialog, #bar") || isBoxOpen()) return;
     event.preventDefault();
     event.stopImmediatePropagation();
     const isMove = event.type === "pointermove" && this.kept.at(-1)?.type === "pointermove";

@@ -1,4 +1,5 @@
 // The keys of the system, by their codes in console/keys.h, and who has the focus.
+import { afterBoxes } from "./boxes";
 import type { Events } from "./events";
 import type { Stage } from "./stage";
 
@@ -10,8 +11,8 @@ const codes = new Map([
 export const meansStop = ({ ctrlKey, key }: KeyboardEvent) => ctrlKey && ["Pause", "Cancel", "."].includes(key);
 
 const rowPattern = /^Text1\(/u;
-/** Where a key goes if nothing has the focus: the first of these that is on the screen. */
-const receivers = ["Text2", "Text1(0)", "RichTextBox1", "List4", "Picture1"];
+/** Where a key goes if nothing has the focus: the first of these that is on the screen; the last row comes second. */
+const receivers = ["Text2", "RichTextBox1", "List4", "Picture1"];
 
 export class Keys {
   private focus = "";
@@ -30,13 +31,15 @@ export class Keys {
   /** The system has given the focus to a control, or to none. */
   follow(name: string): void {
     this.focus = name;
-    const box = this.stage.view(name)?.box;
     if (rowPattern.test(name)) this.lastRow = name;
-    if (box === undefined || box === document.activeElement || document.querySelector("dialog[open]")) return;
+    afterBoxes(() => this.give(name));
+  }
+
+  private give(name: string): void {
+    const box = this.stage.view(name)?.box;
+    if (box === undefined || box === document.activeElement) return;
     this.isFollowing = true;
-    box.focus({ preventScroll: true });
-    // Unless an arrow key led here, typing replaces the old line.
-    if (box instanceof HTMLInputElement && rowPattern.test(name) && !this.isWalking) box.select();
+    this.focusOn(name);
     this.isFollowing = false;
   }
 
@@ -45,7 +48,7 @@ export class Keys {
     const code = codes.get(key);
     if (code === undefined) return;
     this.isWalking = key.startsWith("Arrow");
-    this.events.deliver("Key", this.stage.controlOf(document.activeElement) || this.focus || "Form1", code);
+    this.events.deliver("Key", this.stage.controlOf(document.activeElement) || this.receiver(), code);
   }
 
   private focused(target: Element): void {
@@ -58,8 +61,11 @@ export class Keys {
   private press(event: KeyboardEvent): void {
     if (event.target instanceof Element && event.target.closest("dialog, #bar")) return;
     const { key } = event;
+    const writes = key.length === 1;
     const name = this.stage.controlOf(document.activeElement);
-    if (name === "" && (codes.has(key) || key.length === 1)) return this.handOn();
+    if (name === "" && (codes.has(key) || writes)) this.focusOn(this.receiver());
+    // The text screen has no use for letters.
+    if (name === "List4" && writes && !event.ctrlKey && !event.altKey && !event.metaKey) this.focusOn(this.lastRow);
     if (!codes.has(key) || event.ctrlKey || event.altKey || event.metaKey) return;
     // On a row, the browser must not handle Up, Down and Enter as well; lists and the editor may.
     const isOfSystem = /^(F|Escape)/u.test(key);
@@ -68,9 +74,16 @@ export class Keys {
     this.send(key);
   }
 
-  private handOn(): void {
-    const names = [receivers[0]!, this.lastRow, ...receivers.slice(1)];
-    const seen = names.find((name) => this.stage.view(name)?.box.checkVisibility());
-    this.stage.view(seen ?? "")?.box.focus({ preventScroll: true });
+  /** The control that gets a key if the browser has the focus nowhere. */
+  private receiver(): string {
+    const names = [this.focus, receivers[0]!, this.lastRow, ...receivers.slice(1)];
+    return names.find((name) => this.stage.view(name)?.box.checkVisibility()) ?? "Form1";
+  }
+
+  private focusOn(name: string): void {
+    const box = this.stage.view(name)?.box;
+    box?.focus({ preventScroll: true });
+    // Unless an arrow key led here, typing replaces the old line.
+    if (box instanceof HTMLInputElement && rowPattern.test(name) && !this.isWalking) box.select();
   }
 }

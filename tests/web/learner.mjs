@@ -7,6 +7,7 @@ import { tmpdir } from "node:os";
 import { dirname, join, resolve } from "node:path";
 import { setTimeout as later } from "node:timers/promises";
 import { fileURLToPath } from "node:url";
+import { deflateRawSync } from "node:zlib";
 import { readPicture } from "./pictures.mjs";
 
 const source = resolve(dirname(fileURLToPath(import.meta.url)), "../..");
@@ -29,6 +30,9 @@ export function clearUp() {
   server.kill();
   rmSync(folder, { recursive: true, force: true });
 }
+
+/** The fragment of an address that brings a program. */
+export const linkWith = (name, text) => `#program=${encodeURIComponent(name)}=${deflateRawSync(text).toString("base64url")}`;
 
 /** What a learner does with a page of any driver. */
 export class Learner {
@@ -119,6 +123,10 @@ export class Learner {
 
   sees(id) {
     return this.until((name) => document.getElementById(name)?.checkVisibility(), id);
+  }
+
+  hides(id) {
+    return this.until((name) => !document.getElementById(name)?.checkVisibility(), id);
   }
 
   value(id) {
