@@ -126,7 +126,12 @@ function fileList(files: string[], input: HTMLInputElement): HTMLSelectElement {
   list.addEventListener("change", () => (input.value = list.value));
   const take = () => list.value !== "" && list.closest("dialog")?.close("OK");
   list.addEventListener("dblclick", take);
-  list.addEventListener("keydown", ({ key }) => key === "Enter" && take());
+  list.addEventListener("keydown", (event) => {
+    if (event.key !== "Enter") return;
+    // Else it would go on to the system, whose box is gone then.
+    event.stopPropagation();
+    take();
+  });
   return list;
 }
 

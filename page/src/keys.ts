@@ -9,6 +9,7 @@ const codes = new Map([
 ]);
 /** Ctrl+. and Ctrl+Break, as in the window. */
 export const meansStop = ({ ctrlKey, key }: KeyboardEvent) => ctrlKey && ["Pause", "Cancel", "."].includes(key);
+export const meansPaste = ({ ctrlKey, metaKey, key }: KeyboardEvent) => (ctrlKey || metaKey) && key.toLowerCase() === "v";
 
 const rowPattern = /^Text1\(/u;
 /** Where a key goes if nothing has the focus: the first of these that is on the screen; the last row comes second. */
@@ -59,7 +60,7 @@ export class Keys {
   }
 
   private press(event: KeyboardEvent): void {
-    if (event.target instanceof Element && event.target.closest("dialog, #bar")) return;
+    if (event.target instanceof Element && event.target.closest("dialog[open], #bar")) return;
     const { key } = event;
     const writes = key.length === 1;
     const name = this.stage.controlOf(document.activeElement);

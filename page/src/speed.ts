@@ -66,4 +66,4 @@ export class Speed {
 }
 
 /** Whether the space bar presses a button there, or types into a box. */
-const isControl = (target: EventTarget | null) => target instanceof Element && target.closest("dialog, #bar") !== null;
+const isControl = (target: EventTarget | null) => target instanceof Element && target.closest("dialog[open], #bar") !== null;

@@ -37,7 +37,7 @@ test("after the box of an address, F1 opens the editor at once", () =>
   withLearner({ hash: linkWith("TASK.ZRM", "TO TASK\r\nFD 30\r\nEND\r\n") }, async (learner) => {
     await learner.dialog("TASK.ZRM");
     await learner.until(() => document.getElementById("Picture3").style.width !== "");
-    await learner.key("Enter");
+    await learner.key("Escape");
     await learner.noDialog();
     await learner.key("F1");
     await learner.sees("Text2");
@@ -71,10 +71,13 @@ test("with nothing focused, letters and Enter go to the row", () =>
   withLearner({}, async (learner) => {
     await learner.enter("CS");
     await learner.page.evaluate(() => document.activeElement.blur());
-    await learner.enter("FD 30");
+    const isEntered = (line) => learner.until((text) => document.getElementById("List4").textContent.includes(text), `?${line}`);
+    await learner.type("FD 30");
     await learner.key("F3");
-    await learner.until(() => document.activeElement?.id === "List4" || document.getElementById("List4").focus());
-    await learner.enter("FD 20");
+    await isEntered("FD 30");
+    await learner.page.focus("#List4");
+    await learner.type("FD 20");
+    await isEntered("FD 20");
     assert.equal(await learner.pixelsBeside(["CS", "FD 30", "FD 20"]), 0);
   }));
 
@@ -93,4 +96,39 @@ test("neither Tab nor a line longer than its row moves the screen", () =>
     assert.deepEqual(await moved(), []);
     for (let n = 0; n < 30; ++n) await learner.key("Tab");
     assert.deepEqual(await moved(), []);
+  }));
+
+/** The line that the learner has typed ahead while another line waits, key by key. */
+async function typedAhead(learner, keys) {
+  await learner.type("WAIT 700");
+  await learner.page.keyboard.type("FD 12");
+  for (const key of keys) await learner.key(key);
+  await learner.page.keyboard.type("9");
+  await learner.until(() => /9/.test(document.activeElement?.value));
+  return learner.page.evaluate(() => document.activeElement.value);
+}
+
+for (const [keys, line] of [
+  [["ArrowLeft"], "FD 192"], [["ArrowLeft", "ArrowLeft", "ArrowRight"], "FD 192"], [["Home"], "9FD 12"], [["Home", "End"], "FD 129"],
+  [["Home", "Delete"], "9D 12"], [["Backspace"], "FD 19"],
+]) {
+  test(`typed ahead, ${keys.join(" and ")} edits the line`, () =>
+    withLearner({}, async (learner) => assert.equal(await typedAhead(learner, keys), line)));
+}
+
+test("what is pasted while a line waits comes after it, in its place", () =>
+  withLearner({}, async (learner) => {
+    await learner.key("F1");
+    await learner.sees("Text2");
+    await learner.page.keyboard.type("FD 30");
+    await learner.withCtrl("a");
+    await learner.withCtrl("x");
+    await learner.key("F2");
+    await learner.ready();
+    await learner.enter("CS");
+    await learner.type("WAIT 700");
+    await learner.page.keyboard.type("RT 90 ");
+    await learner.withCtrl("v");
+    await learner.page.keyboard.type(" RT 45");
+    await learner.until(() => document.activeElement?.value === "RT 90 FD 30 RT 45");
   }));
