@@ -34,7 +34,7 @@ export class Chip {
     const isLong = running >= longRun;
     this.whenLong(isLong);
     // While a box is open, the program waits for its answer.
-    const time = isLong && !isBoxOpen() ? `Running for ${Math.floor(running / 1000)} s. Ctrl+. stops.` : "";
+    const time = isLong && !isBoxOpen() ? `Running for ${Math.floor(running / 1000)} s. Ctrl+. or "Stop" stops.` : "";
     const words = this.line || time;
     // Only lines are for screen readers; the seconds would be no end of news.
     this.box.setAttribute("aria-live", this.line === "" ? "off" : "polite");

@@ -7,66 +7,151 @@ const folderName = "Zerimo";
 /** What the folder takes: programs, pictures and pages. */
 const known = /\.(zrm|bmp|png|jpe?g|gif|rtf|txt)$/iu;
 
+/** What has come into the folder and what is no longer there. */
+export interface Changes {
+  come: FolderFile[];
+  gone: string[];
+}
+
 export class Folder {
-  /** All files as they are now, also those that could not be kept. */
+  /** The learner's files as they are now, also those that could not be kept. */
   private readonly files = new Map<string, Uint8Array>();
-  private writing: Promise<void> = Promise.resolve();
+  /** The state of each kept file when it was last read or written here. */
+  private readonly states = new Map<string, string>();
+  private last: Promise<unknown> = Promise.resolve();
+  private hasKept = false;
 
-  private constructor(private readonly place: FileSystemDirectoryHandle | undefined) {}
+  private constructor(
+    private readonly place: FileSystemDirectoryHandle | undefined,
+    private readonly samples: Map<string, Uint8Array>,
+  ) {}
 
-  /** What was kept. Without a private file system, as in some private windows, nothing is. */
-  static async open(): Promise<Folder> {
+  /** What was kept, over the delivered files. Without a private file system, as in some private windows, nothing is. */
+  static async open(samples: Promise<FolderFile[]>): Promise<Folder> {
     const place = await navigator.storage
       ?.getDirectory()
       .then((root) => root.getDirectoryHandle(folderName, { create: true }))
       .catch(() => undefined);
-    const folder = new Folder(place);
-    for await (const [name, handle] of place?.entries() ?? []) {
-      if (handle.kind !== "file") continue;
-      const bytes = await (await (handle as FileSystemFileHandle).getFile()).arrayBuffer();
-      folder.files.set(name, new Uint8Array(bytes));
-    }
+    const folder = new Folder(place, new Map(await samples));
+    await folder.look();
     return folder;
   }
 
   all(): FolderFile[] {
+    return [...this.samples, ...this.files];
+  }
+
+  own(): FolderFile[] {
     return [...this.files];
   }
 
+  /** Whether the learner has a file of this name, which is one that `nameFor` gave. */
   has(name: string): boolean {
-    return [...this.files.keys()].some((file) => file.toUpperCase() === name.toUpperCase());
+    return this.files.has(name);
+  }
+
+  /** The name of the file in the folder that differs in capitals only, since the system sees no difference, or the given one. */
+  nameFor(given: string): string {
+    const isSame = (name: string) => name.toUpperCase() === given.toUpperCase();
+    return [...this.files.keys(), ...this.samples.keys()].find(isSame) ?? given;
+  }
+
+  /** Reads what this page has kept in another tab since. */
+  look(): Promise<Changes> {
+    return this.inTurn(() => this.read());
   }
 
   /** Keeps files beyond the closing of the page. Fails if the browser refuses; they are still here then. */
   keep(files: FolderFile[]): Promise<void> {
     for (const [name, bytes] of files) this.files.set(name, bytes);
-    this.writing = this.writing.catch(() => undefined).then(() => this.write(files));
-    return this.writing;
+    return this.inTurn(() => this.write(files));
+  }
+
+  /** A sample that a file of the same name has hidden comes again. */
+  remove(name: string): Promise<Changes> {
+    return this.inTurn(async () => {
+      await this.place?.removeEntry(name).catch(() => undefined);
+      return this.forget([name]);
+    });
+  }
+
+  /** After all that was begun before. */
+  private inTurn<Result>(work: () => Promise<Result>): Promise<Result> {
+    const result = this.last.then(work);
+    this.last = result.catch(() => undefined);
+    return result;
+  }
+
+  private forget(names: string[]): Changes {
+    for (const name of names) {
+      this.files.delete(name);
+      this.states.delete(name);
+    }
+    return {
+      come: names.flatMap((name): FolderFile[] => (this.samples.has(name) ? [[name, this.samples.get(name)!]] : [])),
+      gone: names.filter((name) => !this.samples.has(name)),
+    };
+  }
+
+  private async read(): Promise<Changes> {
+    const come: FolderFile[] = [];
+    const left = new Set(this.states.keys());
+    for await (const [name, handle] of this.place?.entries() ?? []) {
+      if (handle.kind !== "file") continue;
+      left.delete(name);
+      const file = await (handle as FileSystemFileHandle).getFile();
+      if (this.states.get(name) === stateOf(file)) continue;
+      this.states.set(name, stateOf(file));
+      come.push([name, new Uint8Array(await file.arrayBuffer())]);
+    }
+    for (const [name, bytes] of come) this.files.set(name, bytes);
+    const gone = this.forget([...left]);
+    return { come: [...gone.come, ...come], gone: gone.gone };
   }
 
   private async write(files: FolderFile[]): Promise<void> {
-    if (this.place === undefined) throw new Error("this browser keeps no files here");
+    const { place } = this;
+    if (place === undefined) throw new Error("this browser keeps no files here.");
+    // Otherwise the browser may clear what it keeps when it runs short of room.
+    if (!this.hasKept) void navigator.storage.persist?.().catch(() => false);
+    this.hasKept = true;
     for (const [name, bytes] of files) {
-      const handle = await this.place.getFileHandle(name, { create: true });
-      const stream = await handle.createWritable();
-      await stream.write(bytes as Uint8Array<ArrayBuffer>);
-      await stream.close();
+      const isNew = await place.getFileHandle(name).then(() => false, () => true);
+      try {
+        this.states.set(name, stateOf(await written(await place.getFileHandle(name, { create: true }), bytes)));
+      } catch (error) {
+        if (isNew) await place.removeEntry(name).catch(() => undefined);
+        throw error;
+      }
     }
   }
 }
 
-/** Files that the user has chosen or dropped, those of archives one by one. Others than the folder takes are left out. */
-export async function imported(files: Iterable<File>): Promise<FolderFile[]> {
-  const found: FolderFile[] = [];
-  for (const file of files) {
-    const bytes = new Uint8Array(await file.arrayBuffer());
-    if (/\.zip$/iu.test(file.name)) found.push(...Object.entries(unzipSync(bytes)));
-    else found.push([file.name, bytes]);
+const stateOf = ({ lastModified, size }: File) => `${lastModified} ${size}`;
+
+async function written(handle: FileSystemFileHandle, bytes: Uint8Array): Promise<File> {
+  if (!("createWritable" in handle)) throw new Error("this browser is too old for that.");
+  const stream = await handle.createWritable();
+  try {
+    await stream.write(bytes as Uint8Array<ArrayBuffer>);
+    await stream.close();
+  } catch (error) {
+    await stream.abort().catch(() => undefined);
+    throw error;
   }
+  return handle.getFile();
+}
+
+/** A file that the user has chosen or dropped, those of an archive one by one. Others than the folder takes are left out. */
+export async function imported(file: File): Promise<FolderFile[]> {
+  const bytes = new Uint8Array(await file.arrayBuffer());
+  const found: FolderFile[] = isArchive(file) ? Object.entries(unzipSync(bytes)) : [[file.name, bytes]];
   return found
-    .map(([path, bytes]): FolderFile => [path.split(/[\\/]/u).at(-1) ?? "", bytes])
+    .map(([path, inside]): FolderFile => [path.split(/[\\/]/u).at(-1) ?? "", inside])
     .filter(([name]) => known.test(name));
 }
+
+export const isArchive = ({ name }: File) => /\.zip$/iu.test(name);
 
 /** The delivered samples and help pages. */
 export async function delivered(): Promise<FolderFile[]> {

@@ -2,7 +2,8 @@
 import { deflateSync, inflateSync, strFromU8, strToU8 } from "fflate";
 
 const mark = "#program=";
-const largest = 1 << 20;
+/** The largest program in an address, in bytes. */
+export const largestLinked = 1 << 20;
 
 const toAddress = (bytes: Uint8Array) =>
   btoa(strFromU8(bytes, true)).replaceAll("+", "-").replaceAll("/", "_").replaceAll("=", "");
@@ -17,15 +18,17 @@ export function linkTo(page: string, { name, bytes }: LinkedProgram): string {
   return `${page.split("#")[0]}${mark}${encodeURIComponent(name)}=${toAddress(deflateSync(bytes, { level: 9 }))}`;
 }
 
-/** The program of an address, or nothing. */
-export function programIn(address: string): LinkedProgram | undefined {
-  const [name, packed] = address.includes(mark) ? address.slice(address.indexOf(mark) + mark.length).split("=") : [];
-  if (!name || !packed) return undefined;
+/** The program of a fragment, "broken" if it can't be read, or nothing if there is none. */
+export function programIn(fragment: string): LinkedProgram | "broken" | undefined {
+  if (!fragment.startsWith(mark)) return undefined;
   try {
-    const plain = decodeURIComponent(name);
-    const bytes = inflateSync(fromAddress(packed));
-    return /^[^\\/]+\.zrm$/iu.test(plain) && bytes.length <= largest ? { name: plain, bytes } : undefined;
+    // All of it is decoded, not the name alone: on its way, an address may have got more characters written with %.
+    const [, name, packed] = /^(.+)=([\w-]+)$/su.exec(decodeURIComponent(fragment.slice(mark.length))) ?? [];
+    if (name === undefined || packed === undefined || !/^[^\\/]+\.zrm$/iu.test(name)) return "broken";
+    // So much room that a larger one shows.
+    const bytes = inflateSync(fromAddress(packed), { out: new Uint8Array(largestLinked + 1) });
+    return bytes.length <= largestLinked ? { name, bytes } : "broken";
   } catch {
-    return undefined;
+    return "broken";
   }
 }

@@ -1,18 +1,20 @@
-import { Boxes, confirmed, dialogOf, element, open, tell } from "./boxes";
+import { Arrivals } from "./arrivals";
+import { Boxes, dialogOf, element, open, tell } from "./boxes";
 import { Chip } from "./chip";
 import { Events } from "./events";
-import { delivered, download, Folder } from "./folder";
-import { filesDialog, takeFiles } from "./files";
+import { delivered, Folder } from "./folder";
 import { Keys, meansStop } from "./keys";
-import { programIn } from "./link";
 import { letPaletteBeDragged } from "./palette";
-import { type File, type FromWorker, Shared, type Told, type ToWorker } from "./protocol";
+import { type FromWorker, Shared, type Told, type ToWorker } from "./protocol";
 import { Speed } from "./speed";
 import { screenFor, Stage } from "./stage";
 import { collect, settle, showPage, unitsPerPixel } from "./views";
 
 /** How often the picture is shown as it grows while a line runs. */
 const frameMilliseconds = 16;
+
+/** As src/files/saving.cpp names it. */
+const rescuedName = "Rescued.ZRM";
 
 class Page {
   private readonly shared = new Shared();
@@ -23,6 +25,11 @@ class Page {
   private readonly events = new Events((message) => this.post(message), collect, (running) => this.run(running));
   private readonly stage: Stage;
   private readonly keys: Keys;
+  private readonly arrivals: Arrivals;
+  /** What has ended the system, if anything has. */
+  private endedBy: string | undefined;
+  /** The names of the files that the last run has written, once they are kept. */
+  private kept = Promise.resolve<string[]>([]);
   private started = () => {};
   private frames = 0;
 
@@ -36,21 +43,22 @@ class Page {
     document.body.append(this.stage.box);
     this.keys = new Keys(this.stage, this.events);
     letPaletteBeDragged(this.stage, this.events);
-    this.fit();
+    this.bar.whenResized(() => this.fit());
     addEventListener("resize", () => this.fit());
     addEventListener("keydown", (event) => this.stopByKey(event), { capture: true });
     this.worker.onmessage = ({ data }: MessageEvent<FromWorker>) => this.take(data);
-    this.bar.connect((key) => this.keys.send(key), () => this.stop(), () => void this.showFiles());
-    this.letFilesBeDropped();
+    this.worker.onerror = ({ message }) => void this.end(message || "its worker can not be loaded");
+    this.bar.connect((key) => this.keys.send(key), () => this.stop(), () => void this.arrivals.showFiles());
+    this.arrivals = new Arrivals(folder, (message) => this.post(message), (name) => this.events.deliver("Open", `\\Zerimo\\${name}`));
   }
 
   /** Until the system has started. */
-  start(files: File[]): Promise<void> {
+  start(): Promise<void> {
     const { memory: shared } = this.shared;
     const [width, height] = [this.stage.width * unitsPerPixel, this.stage.height * unitsPerPixel];
-    this.post({ kind: "start", shared, width, height, files: [...files, ...this.folder.all()] });
+    this.post({ kind: "start", shared, width, height, files: this.folder.all() });
     this.events.deliver("Load");
-    void this.offerLinked();
+    void this.arrivals.offerLinked();
     return new Promise((resolve) => (this.started = resolve));
   }
 
@@ -66,8 +74,10 @@ class Page {
     if (message.kind === "told") for (const told of JSON.parse(message.told) as Told[]) this.show(told);
     if (message.kind === "part") this.stage.surface.showPart(message.part);
     if (message.kind === "ask") void this.answer(message.question, message.files);
-    if (message.kind === "written") void this.keep(message.files);
+    if (message.kind === "written") this.kept = this.arrivals.keep(message.files);
+    if (message.kind === "failed") void this.end(message.by);
     if (message.kind !== "done") return;
+    if (this.endedBy !== undefined) return void this.end(this.endedBy);
     settle();
     this.events.done();
     this.started();
@@ -78,7 +88,7 @@ class Page {
     if (told.event === "focus") return this.keys.follow(name);
     if (told.event === "line") return this.speed.show(told, this.stage);
     if (told.event === "page") return showPage(this.stage.page, told);
-    if (told.event === "ended") return this.end(String(told["by"]));
+    if (told.event === "ended") return this.endAfterRun(String(told["by"]));
     if (told.event === "words") return this.describe(told);
     if (told.event === "beep") return beep();
     if (name.startsWith("Timer")) return this.events.setTimer(told);
@@ -121,58 +131,18 @@ class Page {
     this.stop();
   }
 
-  private end(by: string): void {
-    const words = element("p", { className: "words", textContent: `Zerimo has ended (${by}).` });
-    void open(dialogOf("Zerimo", [words], ["Start again"])).then(() => location.reload());
+  /** What the run has written is told after its end. */
+  private endAfterRun(by: string): void {
+    this.endedBy = by;
+    this.kept = Promise.resolve([]);
   }
 
-  private async keep(files: File[]): Promise<void> {
-    try {
-      await this.folder.keep(files);
-    } catch (error) {
-      const names = files.map(([name]) => name).join(", ");
-      await tell(`The browser does not keep ${names}: ${String(error)}\n\nUntil this page is closed, "Files" can save a copy.`);
-    }
-  }
-
-  private async showFiles(): Promise<void> {
-    await filesDialog(this.folder, (files) => this.takeIn(files), download);
-  }
-
-  /** Takes files into the folder, after a question where one would replace another. */
-  private async takeIn(files: File[]): Promise<void> {
-    for (const [name, bytes] of files) {
-      if (this.folder.has(name) && !(await confirmed(`Replace ${name} in your folder?`, "Replace"))) continue;
-      this.post({ kind: "put", files: [[name, bytes]] });
-      await this.keep([[name, bytes]]);
-    }
-  }
-
-  private letFilesBeDropped(): void {
-    addEventListener("dragover", (event) => event.preventDefault());
-    addEventListener("drop", (event) => {
-      event.preventDefault();
-      void takeFiles(event.dataTransfer?.files ?? []).then((files) => this.takeInAndOffer(files));
-    });
-  }
-
-  private async takeInAndOffer(files: File[]): Promise<void> {
-    await this.takeIn(files);
-    const [name] = files.length === 1 ? files[0]! : [undefined];
-    if (name !== undefined && (await confirmed(`Open ${name} now?`, "Open"))) this.open(name);
-  }
-
-  private open(name: string): void {
-    this.events.deliver("Open", `\\Zerimo\\${name}`);
-  }
-
-  private async offerLinked(): Promise<void> {
-    const program = programIn(location.href);
-    if (program === undefined) return;
-    history.replaceState(null, "", location.pathname);
-    if (!(await confirmed(`This address brings the program ${program.name}. Put it into your folder and load it?`, "Load"))) return;
-    await this.takeIn([[program.name, program.bytes]]);
-    this.open(program.name);
+  private async end(by: string): Promise<void> {
+    const rescued = (await this.kept).find((name) => name === rescuedName);
+    const advice = rescued === undefined ? "" : `\n\nThe text of the editor is in your folder, as ${rescued}.`;
+    const words = element("p", { className: "words", textContent: `Zerimo has ended (${by}).${advice}` });
+    await open(dialogOf("Zerimo", [words], ["Start again"]));
+    location.reload();
   }
 }
 
@@ -182,6 +152,11 @@ class Bar {
   private readonly title = document.getElementById("caption")!;
   private readonly stopButton = document.getElementById("stop") as HTMLButtonElement;
 
+  constructor() {
+    document.getElementById("waiting")?.remove();
+    this.box.querySelector("nav")!.hidden = false;
+  }
+
   connect(press: (key: string) => void, stop: () => void, files: () => void): void {
     // The focus stays where the learner types.
     this.box.addEventListener("pointerdown", (event) => event.preventDefault());
@@ -190,6 +165,12 @@ class Bar {
     }
     this.stopButton.addEventListener("click", stop);
     document.getElementById("files")!.addEventListener("click", files);
+  }
+
+  /** At once, and when it takes more or fewer lines: a run shows more buttons. */
+  whenResized(work: () => void): void {
+    work();
+    new ResizeObserver(work).observe(this.box);
   }
 
   height(): number {
@@ -217,27 +198,35 @@ function beep(): void {
 
 /** The service worker keeps the page for later, and brings the headers for shared memory where the server does not. */
 async function serviceWorker(): Promise<void> {
-  await navigator.serviceWorker?.register("service-worker.js");
-  await navigator.serviceWorker?.ready;
+  await navigator.serviceWorker.register("service-worker.js");
+  await navigator.serviceWorker.ready;
 }
 
+/** Marks that the page has been loaded again for the headers; it lasts until then. */
+const reloaded = "reloaded";
+
+/** Whether the page has what it needs. It may load once more for that. */
 async function isolated(): Promise<boolean> {
+  const wasTried = history.state === reloaded;
+  history.replaceState(null, "");
   // Some engines isolate the page and have no shared memory all the same.
   if (crossOriginIsolated) return "SharedArrayBuffer" in globalThis;
-  await serviceWorker();
-  if (sessionStorage.getItem("isolated") !== null) return false;
-  sessionStorage.setItem("isolated", "tried");
+  const isRefused = await serviceWorker().then(() => false, () => true);
+  if (isRefused || wasTried) return false;
+  history.replaceState(reloaded, "");
+  // The browser may show this page again as it was left, and while it does, it may ignore one wish to load.
+  addEventListener("pageshow", ({ persisted }) => persisted && setInterval(() => location.reload(), 1000));
   location.reload();
   return new Promise(() => {});
 }
 
-if (await isolated()) {
+async function begin(): Promise<void> {
+  if (!(await isolated())) throw new Error("This browser, or the way this page is served, does not allow what Zerimo needs: shared memory.");
   // What it loads comes while the files are gathered.
   const worker = new Worker("worker.js", { type: "module" });
-  const [folder, files] = await Promise.all([Folder.open(), delivered()]);
-  await new Page(folder, worker).start(files);
-  // Not before: all that it fetches would delay the start.
-  await serviceWorker();
-} else {
-  await tell("This browser, or the way this page is served, does not allow what Zerimo needs: shared memory.");
+  await new Page(await Folder.open(delivered()), worker).start();
+  // Not before: all that it fetches would delay the start. Without it, only working offline is lost.
+  await serviceWorker().catch(() => undefined);
 }
+
+await begin().catch((error: unknown) => tell(`Zerimo can not start. ${error instanceof Error ? error.message : String(error)}`));

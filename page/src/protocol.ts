@@ -24,7 +24,9 @@ export type FromWorker =
   | { kind: "part"; part: Part }
   | { kind: "ask"; question: Told; files: string[] }
   | { kind: "written"; files: File[] }
-  | { kind: "done" };
+  | { kind: "done" }
+  /** Something that is no failure of a program. */
+  | { kind: "failed"; by: string };
 
 export interface Start {
   kind: "start";
@@ -48,7 +50,12 @@ export interface Put {
   files: File[];
 }
 
-export type ToWorker = Start | Call | Put;
+export interface Remove {
+  kind: "remove";
+  names: string[];
+}
+
+export type ToWorker = Start | Call | Put | Remove;
 
 /** The places of numbers at the beginning of the shared memory. */
 const place = { answer: 0, stop: 1, changes: 2, pause: 3, frame: 4 };

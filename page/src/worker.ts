@@ -36,6 +36,13 @@ class Folder {
     this.takeChanged();
   }
 
+  remove(names: string[]): void {
+    for (const name of this.names().filter((one) => names.includes(one))) {
+      this.files.unlink(`${folder}/${name}`);
+      this.known.delete(name);
+    }
+  }
+
   tellChanged(): void {
     const changed = this.takeChanged();
     if (changed.length > 0) post({ kind: "written", files: changed });
@@ -58,7 +65,7 @@ class Worker {
   private constructor(
     private readonly system: System,
     private readonly shell: number,
-    private readonly own: Folder,
+    readonly own: Folder,
   ) {}
 
   static async begin({ shared, width, height, files }: Start): Promise<Worker> {
@@ -97,10 +104,6 @@ class Worker {
     post({ kind: "done" });
   }
 
-  put(files: File[]): void {
-    this.own.put(files);
-  }
-
   private call(name: string, words: (string | number)[]): void {
     const kinds = words.map((word) => (typeof word === "string" ? "string" : "number"));
     this.system.ccall(name, null, ["number", ...kinds], [this.shell, ...words]);
@@ -109,9 +112,12 @@ class Worker {
 
 let worker: Promise<Worker> | undefined;
 
+self.addEventListener("unhandledrejection", ({ reason }) => post({ kind: "failed", by: String(reason) }));
+
 self.onmessage = async ({ data }: MessageEvent<ToWorker>) => {
   if (data.kind === "start") worker = Worker.begin(data);
   const ready = await worker;
   if (data.kind === "call") ready?.run(data);
-  if (data.kind === "put") ready?.put(data.files);
+  if (data.kind === "put") ready?.own.put(data.files);
+  if (data.kind === "remove") ready?.own.remove(data.names);
 };

@@ -22,6 +22,7 @@ declare module "zerimo" {
       stat(path: string): { mode: number; mtime: Date; size: number };
       isFile(mode: number): boolean;
       readFile(path: string): Uint8Array;
+      unlink(path: string): void;
       writeFile(path: string, bytes: Uint8Array): void;
     };
   }

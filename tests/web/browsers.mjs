@@ -34,3 +34,11 @@ export async function withLearner({ width = 1280, height = 900, hash = "", touch
     await learner.leave();
   }
 }
+
+/** The same learner in another tab, which is in front. */
+export async function anotherTab(learner) {
+  const page = await learner.page.browserContext().newPage();
+  const other = new Learner(page, () => page.close());
+  await other.come();
+  return other;
+}

@@ -78,6 +78,13 @@ export async function refusedFile(learner) {
 /** The lines of a program that goes so many steps. */
 export const program = (name, steps) => [`TO ${name}`, `FD ${steps}`, "END"];
 
+/** The names of the files that the browser keeps. */
+export const keptNames = (learner) =>
+  learner.page.evaluate(async () => {
+    const kept = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
+    return Array.fromAsync(kept.keys());
+  });
+
 /** Until the browser keeps a file of this name. */
 export const keeps = (learner, name) =>
   learner.until(async (file) => {

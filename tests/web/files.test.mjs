@@ -4,13 +4,13 @@ import { existsSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { closeBrowser, openBrowser, withLearner } from "./browsers.mjs";
-import { comesAgain, draws, keeps, keptFile, program, refusedFile, save } from "./common_flows.mjs";
+import { comesAgain, draws, keeps, keptFile, keptNames, program, refusedFile, save } from "./common_flows.mjs";
 import { folder, fromPage } from "./learner.mjs";
 
 before(() => openBrowser("chromium"));
 after(closeBrowser);
 
-const { deflateSync, strToU8, unzipSync, zipSync } = fromPage("fflate");
+const { strToU8, unzipSync, zipSync } = fromPage("fflate");
 
 test("what F10 saves is there after a reload, and F9 loads it", () => withLearner({}, keptFile));
 
@@ -84,6 +84,29 @@ test("an archive that can't be read is told", () =>
     await learner.dialog("can not be read");
   }));
 
+test("a file is deleted only after a question, and a sample that it hid comes again", () =>
+  withLearner({}, async (learner) => {
+    await save(learner, "FLOWER", 50);
+    await learner.page.click("#files");
+    for (const [key, isLeft] of [["Escape", true], ["Enter", false]]) {
+      await learner.dialog("Save a copy");
+      await learner.page.click('[aria-label="Delete FLOWER.ZRM"]');
+      await learner.dialog("Delete FLOWER.ZRM");
+      await learner.key(key);
+      await learner.dialog("Your files");
+      assert.equal(/FLOWER\.ZRM/.test(await learner.dialogText()), isLeft);
+    }
+    await learner.key("Escape");
+    await learner.noDialog();
+    await learner.key("F2");
+    await learner.ready();
+    await learner.enter("LOAD FLOWER");
+    await learner.key("F1");
+    await learner.until(() => document.getElementById("Text2").value.includes("REPEAT"));
+    await comesAgain(learner);
+    assert.deepEqual(await keptNames(learner), []);
+  }));
+
 test("an archive replaces a file only after a question", () =>
   withLearner({}, async (learner) => {
     await save(learner, "MINE", 50);
@@ -108,29 +131,53 @@ const refuse = (page) =>
 
 test("a store that refuses is told, and nothing typed is lost", () => withLearner({ prepare: refuse }, refusedFile));
 
-test("an address brings a program, asks, and runs nothing by itself", async () => {
-  const packed = Buffer.from(deflateSync(Buffer.from("TO TASK\r\nFD 30\r\nEND\r\n"))).toString("base64url");
-  await withLearner({ hash: `#program=TASK.ZRM=${packed}` }, async (learner) => {
-    await learner.dialog("TASK.ZRM");
-    await learner.key("Enter");
-    await learner.noDialog();
-    await learner.enter("CS");
-    await learner.enter("TASK");
-    assert.equal(await learner.pixelsBeside(["CS", "FD 30"]), 0);
+/** The store is full once something has been begun. */
+const refuseBytes = (page) =>
+  page.evaluateOnNewDocument(() => {
+    FileSystemWritableFileStream.prototype.write = () => Promise.reject(new DOMException("full", "QuotaExceededError"));
   });
-});
 
-test("a dropped program comes into the folder", () =>
-  withLearner({}, async (learner) => {
-    const file = join(folder, "DROPPED.ZRM");
-    writeFileSync(file, "TO DROPPED\r\nFD 20\r\nEND\r\n");
-    const data = { items: [], files: [file], dragOperationsMask: 1 };
-    const client = await learner.page.createCDPSession();
-    for (const type of ["dragEnter", "dragOver", "drop"]) await client.send("Input.dispatchDragEvent", { type, x: 300, y: 300, data });
-    await learner.dialog("DROPPED.ZRM");
+test("a file that could not be kept leaves no empty one behind", () =>
+  withLearner({ prepare: refuseBytes }, async (learner) => {
+    await refusedFile(learner);
+    assert.deepEqual(await keptNames(learner), []);
+  }));
+
+const forgetWriting = (page) => page.evaluateOnNewDocument(() => delete FileSystemFileHandle.prototype.createWritable);
+
+test("a browser that is too old to keep files says so", () =>
+  withLearner({ prepare: forgetWriting }, async (learner) => {
+    await learner.saveAs("MINE", program("MINE", 50));
+    await learner.dialog("this browser is too old");
+  }));
+
+const countAsking = (page) =>
+  page.evaluateOnNewDocument(() => {
+    globalThis.asked = 0;
+    StorageManager.prototype.persist = async () => ++globalThis.asked > 0;
+  });
+
+test("the browser is asked once to keep the files for good", () =>
+  withLearner({ prepare: countAsking }, async (learner) => {
+    const asked = () => learner.page.evaluate(() => globalThis.asked);
+    assert.equal(await asked(), 0);
+    await save(learner, "MINE", 50);
+    await learner.key("F10");
+    await learner.dialog("");
+    await learner.page.keyboard.type("AGAIN");
     await learner.key("Enter");
     await learner.noDialog();
-    await learner.enter("CS");
-    await learner.enter("DROPPED");
-    assert.equal(await learner.pixelsBeside(["CS", "FD 20"]), 0);
+    await keeps(learner, "AGAIN.ZRM");
+    assert.equal(await asked(), 1);
+  }));
+
+test("a failure of the system tells where the text of the editor is", () =>
+  withLearner({}, async (learner) => {
+    await learner.saveAs("bad/name", program("MINE", 50));
+    await learner.dialog("The text of the editor is in your folder, as Rescued.ZRM.");
+    await learner.key("Enter");
+    await learner.untilHere(() => learner.page.evaluate(() => document.getElementById("Text2").value === "").catch(() => false));
+    await learner.ready();
+    await learner.enter("LOAD RESCUED");
+    await draws(learner, "MINE", 50);
   }));

@@ -64,17 +64,6 @@ for (const touch of [false, true]) {
     }));
 }
 
-test("after the first visit it works offline", () =>
-  withLearner({}, async (learner) => {
-    await learner.page.evaluate(() => navigator.serviceWorker.ready);
-    await learner.page.setOfflineMode(true);
-    await learner.page.reload();
-    await learner.ready();
-    await learner.enter("CS");
-    assert.equal(await learner.pixelsBeside(["CS"]), 0);
-    await learner.page.setOfflineMode(false);
-  }));
-
 for (const [name, width, height] of [["a phone", 390, 844], ["a large screen", 3840, 2160]]) {
   test(`everything fits on ${name}`, () =>
     withLearner({ width, height }, async (learner) => {
@@ -89,12 +78,44 @@ for (const [name, width, height] of [["a phone", 390, 844], ["a large screen", 3
     }));
 }
 
+for (const [width, height] of [[390, 844], [768, 1024], [600, 800]]) {
+  test(`the rows stay on a screen of ${width} by ${height} when a run shows more buttons`, () =>
+    withLearner({ width, height, touch: true }, async (learner) => {
+      await learner.enter("CS");
+      await learner.page.click("#speed");
+      await learner.page.click("#speed");
+      await learner.page.click("#speed");
+      await learner.type("REPEAT 30000 [FD 10]");
+      await learner.until(() => !document.getElementById("stop").hidden && !document.getElementById("step").hidden);
+      await learner.until(() => document.getElementById("Picture3").getBoundingClientRect().bottom <= innerHeight + 1);
+      const { bottom, top } = await learner.page.evaluate(() => ({
+        bottom: document.getElementById("bar").getBoundingClientRect().bottom,
+        top: document.getElementById("stage").getBoundingClientRect().top,
+      }));
+      assert.ok(Math.abs(bottom - top) < 1);
+      await learner.page.click("#stop");
+      await learner.chipIsGone();
+    }));
+}
+
+test("the words about a long run name the button, which a tablet has in place of keys", () =>
+  withLearner({ touch: true }, async (learner) => {
+    await learner.type("REPEAT 30000 [REPEAT 30000 [FD 10 RT 7]]");
+    await learner.until(() => /Running for .*"Stop"/.test(document.getElementById("chip").textContent));
+    await learner.page.click("#stop");
+    await learner.chipIsGone();
+  }));
+
 test("axe finds nothing, on the rows, in the editor, the diagnosis and the palette", () =>
   withLearner({}, async (learner) => {
     await learner.page.evaluate(readFileSync(fromPage.resolve("axe-core"), "utf8"));
-    // Red on blue are the system's own colours of the rows.
-    const findings = async () =>
-      (await learner.page.evaluate(() => globalThis.axe.run({ exclude: [['[id^="Text1"]']] }))).violations.map(({ id, nodes }) => `${id}: ${nodes.map(({ target }) => target).join(" ")}`);
+    // Red on blue are the system's own colours of the rows: 2.86 to 1, where axe wants 3 to 1.
+    const isOfRow = (id, target) => id === "color-contrast" && target.every((name) => name.startsWith("#Text1"));
+    const findings = async () => {
+      const { violations } = await learner.page.evaluate(() => globalThis.axe.run());
+      const found = violations.flatMap(({ id, nodes }) => nodes.map(({ target }) => ({ id, target })));
+      return found.filter(({ id, target }) => !isOfRow(id, target)).map(({ id, target }) => `${id}: ${target}`);
+    };
     assert.deepEqual(await findings(), []);
     await learner.enter("SHOW PALLETE");
     await learner.enter("SHOW DIAGNOSIS");
