@@ -46,5 +46,7 @@ for (const name of files) version.update(readFileSync(join(out, name)));
 await build({
   ...bundled,
   entryPoints: [join(page, "src/service-worker.ts")],
-  define: { version: JSON.stringify(`zerimo-${version.digest("hex").slice(0, 16)}`), files: JSON.stringify(["./", ...files]) },
+  define: { version: JSON.stringify(version.digest("hex").slice(0, 16)), files: JSON.stringify(["./", ...files]) },
 });
+// Beside the page, for a memory stick; browsers keep all files but this one.
+cpSync(join(page, "serve.mjs"), join(out, "serve.mjs"));

@@ -3,6 +3,10 @@ const worker = self as unknown as ServiceWorkerGlobalScope;
 declare const version: string;
 declare const files: string[];
 
+/** Others keep things at this origin too, such as a Zerimo in another folder of the server. */
+const prefix = `zerimo ${new URL(worker.registration.scope).pathname} `;
+const cacheName = prefix + version;
+
 const isolation = {
   "Cross-Origin-Opener-Policy": "same-origin",
   "Cross-Origin-Embedder-Policy": "require-corp",
@@ -16,23 +20,25 @@ function withIsolation(response: Response): Response {
 }
 
 async function answer(request: Request): Promise<Response> {
-  const kept = await caches.match(request, { ignoreSearch: true });
+  const kept = await caches.match(request, { cacheName, ignoreSearch: true });
   return withIsolation(kept ?? (await fetch(request)));
 }
 
-worker.addEventListener("install", (event) => {
-  event.waitUntil(
-    caches
-      .open(version)
-      .then((cache) => cache.addAll(files.map((file) => new Request(file, { cache: "reload" }))))
-      .then(() => worker.skipWaiting()),
-  );
-});
+async function keep(): Promise<void> {
+  const cache = await caches.open(cacheName);
+  await cache.addAll(files.map((file) => new Request(file, { cache: "reload" })));
+  await worker.skipWaiting();
+}
 
-worker.addEventListener("activate", (event) => {
-  const old = caches.keys().then((keys) => keys.filter((key) => key !== version));
-  event.waitUntil(old.then((keys) => Promise.all(keys.map((key) => caches.delete(key)))).then(() => worker.clients.claim()));
-});
+async function takeOver(): Promise<void> {
+  const old = (await caches.keys()).filter((name) => name.startsWith(prefix) && name !== cacheName);
+  await Promise.all(old.map((name) => caches.delete(name)));
+  await worker.clients.claim();
+}
+
+worker.addEventListener("install", (event) => event.waitUntil(keep()));
+
+worker.addEventListener("activate", (event) => event.waitUntil(takeOver()));
 
 worker.addEventListener("fetch", (event) => {
   const { request } = event;

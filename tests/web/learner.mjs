@@ -17,10 +17,12 @@ export const fromPage = createRequire(join(source, "page/package.json"));
 
 /** A folder for the files of a test run. */
 export const folder = mkdtempSync(join(tmpdir(), "zerimo-flows-"));
-const [server, address] = await startServer();
+export const serverScript = join(source, "page/serve.mjs");
+const [server, address] = await serve();
 
-function startServer() {
-  const child = spawn(process.execPath, [join(source, "page/serve.mjs"), site, "0"]);
+/** A server of the site, and its address. */
+export function serve() {
+  const child = spawn(process.execPath, [serverScript, site, "0"]);
   return new Promise((done) => {
     child.stdout.once("data", (words) => done([child, String(words).match(/http\S+/)[0]]));
   });
@@ -114,7 +116,11 @@ export class Learner {
   }
 
   dialog(words) {
-    return this.until((text) => document.querySelector("dialog[open]")?.textContent.includes(text), words);
+    return this.until((text) => [...document.querySelectorAll("dialog[open]")].at(-1)?.textContent.includes(text), words);
+  }
+
+  dialogText() {
+    return this.page.evaluate(() => document.querySelector("dialog[open]")?.textContent ?? "");
   }
 
   noDialog() {
