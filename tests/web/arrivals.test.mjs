@@ -36,6 +36,7 @@ test("an address brings a program, asks, and runs nothing by itself", () =>
     await learner.dialog("TASK.ZRM");
     await learner.key("Enter");
     await learner.noDialog();
+    await learner.isLoaded("FD 30");
     await learner.enter("CS");
     await learner.enter("TASK");
     assert.equal(await learner.pixelsBeside(["CS", "FD 30"]), 0);
@@ -145,6 +146,7 @@ test("a dropped program comes into the folder", () =>
     await learner.dialog("Open DROPPED.ZRM");
     await learner.key("Enter");
     await learner.noDialog();
+    await learner.isLoaded("FD 20");
     await learner.enter("CS");
     await learner.enter("DROPPED");
     assert.equal(await learner.pixelsBeside(["CS", "FD 20"]), 0);

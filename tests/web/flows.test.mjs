@@ -98,14 +98,6 @@ for (const [width, height] of [[390, 844], [768, 1024], [600, 800]]) {
     }));
 }
 
-test("the words about a long run name the button, which a tablet has in place of keys", () =>
-  withLearner({ touch: true }, async (learner) => {
-    await learner.type("REPEAT 30000 [REPEAT 30000 [FD 10 RT 7]]");
-    await learner.until(() => /Running for .*"Stop"/.test(document.getElementById("chip").textContent));
-    await learner.page.click("#stop");
-    await learner.chipIsGone();
-  }));
-
 test("axe finds nothing, on the rows, in the editor, the diagnosis and the palette", () =>
   withLearner({}, async (learner) => {
     await learner.page.evaluate(readFileSync(fromPage.resolve("axe-core"), "utf8"));

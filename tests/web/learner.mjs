@@ -111,6 +111,13 @@ export class Learner {
     await this.key("Enter");
   }
 
+  /** Until a program with such a line is in the store; leaves the diagnosis panel open. */
+  async isLoaded(line) {
+    await this.ready();
+    await this.enter("SHOW DIAGNOSIS");
+    await this.until((words) => document.getElementById("List1").textContent.includes(words), line);
+  }
+
   chipIsGone() {
     return this.until(() => document.getElementById("chip").hidden);
   }
