@@ -12,7 +12,7 @@ foreach(source IN LISTS SOURCES)
   get_filename_component(own ${source} DIRECTORY)
   foreach(line IN LISTS includes)
     if(NOT line MATCHES "^#include (<[^>]+>|\"[^\"]+\")")
-      message(FATAL_ERROR "${source}: an include is plain: ${line}")
+      message(FATAL_ERROR "${source}: an include is written plainly: ${line}")
     endif()
     string(REGEX REPLACE "^#include [<\"]([^>\"]*).*" "\\1" header "${line}")
     # A compiler also looks beside the source.

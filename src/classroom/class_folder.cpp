@@ -85,7 +85,7 @@ class Walk {
         const std::vector<Pupil> inside = PupilsBelow(place, below, depth + 1);
         pupils.insert(pupils.end(), inside.begin(), inside.end());
       } catch (const fs::filesystem_error&) {
-        // So is a folder that can't be read.
+        // A folder that can't be read is listed in the same way.
         pupils.push_back({place, {}});
       }
     }

@@ -18,14 +18,15 @@ constexpr double LeastInAnyOrder = 80;
 constexpr double LeastBesideEachOther = 70;
 constexpr double LeastInOrder = 90;
 
-/// So many lines in common have to be different ones: of programs with all lines in common, of others, and of others
-/// that are compared with their numbers.
-constexpr std::size_t FewestKindsOfAll = 6;
+/// How many different lines two programs must have in common.
 constexpr std::size_t FewestKinds = 8;
+/// The same if they have all their lines in common.
+constexpr std::size_t FewestKindsOfAll = 6;
+/// The same if the lines are compared with their numbers.
 constexpr std::size_t FewestKindsAsWritten = 5;
-/// Otherwise the usual solution of a small task is a copy.
+/// With fewer lines, the usual solution of a small task would be a copy.
 constexpr std::size_t FewestLinesAsWritten = 7;
-/// A line that is there again and again says little: in any order, there may be so many lines of a kind.
+/// A line that is there again and again says little: how often each common line may be there, on average.
 constexpr std::size_t MostOfAKind = 3;
 
 /// A line without what someone who copies would change, and with its numbers.

@@ -53,11 +53,13 @@ void RescueFolder::Claim() {
   own_ = folder_ / (name + Ending);
   lock_ = LockOf(own_);
   lock_->tryLock(0);
-  QObject::connect(&renewal_, &QTimer::timeout, &renewal_, [this] {
-    std::error_code none;
-    fs::last_write_time(own_.string() + LockEnding, fs::file_time_type::clock::now(), none);
-  });
+  QObject::connect(&renewal_, &QTimer::timeout, &renewal_, [this] { RenewLock(); });
   renewal_.start(LongestSilence / 5);
+}
+
+void RescueFolder::RenewLock() const {
+  std::error_code none;
+  fs::last_write_time(own_.string() + LockEnding, fs::file_time_type::clock::now(), none);
 }
 
 bool RescueFolder::Write(const std::string& text) {

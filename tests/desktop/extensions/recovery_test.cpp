@@ -162,6 +162,18 @@ TEST_F(RecoveryTest, ATextOfAnotherMachineIsOfferedOnceItsWindowIsSilent) {
   ASSERT_EQ(RescueFolder(Rescued()).Left().size(), 1u);
 }
 
+TEST_F(RecoveryTest, AWindowRenewsItsLock) {
+  RescueFolder own(Rescued());
+  ASSERT_TRUE(own.Write("mine"));
+  fs::path lock;
+  for (const auto& entry : fs::directory_iterator(Rescued()))
+    if (entry.path().extension() == ".lock") lock = entry.path();
+  const auto before = fs::file_time_type::clock::now() - 2 * RescueFolder::LongestSilence;
+  fs::last_write_time(lock, before);
+  own.RenewLock();
+  EXPECT_GT(fs::last_write_time(lock), before + RescueFolder::LongestSilence);
+}
+
 TEST_F(RecoveryTest, ALockWithoutATextIsRemoved) {
   Leave("1.ZRM.lock", "999999999\nzerimo\n\n");
   Leave("2.ZRM", "two");
