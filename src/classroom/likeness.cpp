@@ -66,10 +66,8 @@ const QString& Head() {
 
 /// Lines that every program has.
 bool IsCommon(const QString& bare) {
-  using enum Action;
   const bool isHead = bare.startsWith(Head()) && bare.lastIndexOf(u' ') < Head().size();
-  return bare.isEmpty() || isHead ||
-         IsOneOf<StmtEnd, StmtEndIf, ClearScreen, HideTurtle, PenUp, PenDown>(KnownWord(bare));
+  return bare.isEmpty() || isHead || IsOneOf<StmtEnd, StmtEndIf, "CS", "HT", "PU", "PD">(KnownWord(bare));
 }
 
 quint32 PrintOf(const QString& text) { return static_cast<quint32>(qHash(text, 0)); }

@@ -94,7 +94,7 @@ bool HasOther(const std::filesystem::path& own, const QString& name) {
 
 void FindLoaded(const QString& program, const std::filesystem::path& file, std::vector<Finding>& findings) {
   for (const Statement& statement : Listing(program).Statements) {
-    const bool loads = statement.Is<Action::Load, Action::LoadPicture>();
+    const bool loads = statement.Is<"LOAD", "LOADPICTURE">();
     if (loads && HasOther(file, statement.Rest().section(u'.', 0, 0)))
       findings.push_back({Mistake::LoadsAnother, statement.Line, {statement.Text}});
   }

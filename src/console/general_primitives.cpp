@@ -17,43 +17,35 @@ double RemainderOf(double a, std::int16_t b) {
   return static_cast<double>(static_cast<std::int64_t>(whole) % b);
 }
 
-double ResultOf(Action action, double a, std::int16_t b) {
-  switch (action) {
-    case Action::Sum:
-      return Finite(a + b);
-    case Action::Product:
-      return Finite(a * b);
-    case Action::Quotient:
-      return std::floor(Divide(a, b));
-    default:
-      return RemainderOf(a, b);
-  }
-}
+double SumOf(double a, std::int16_t b) { return Finite(a + b); }
+double ProductOf(double a, std::int16_t b) { return Finite(a * b); }
+double QuotientOf(double a, std::int16_t b) { return std::floor(Divide(a, b)); }
 
 }  // namespace
 
 void GeneralPrimitives::Bind() {
-  context_.dispatch.Bind(Action::SayDeveloper, [this](PrimitiveCall&) { SayDeveloper(); });
-  context_.dispatch.Bind(Action::CommandList, [this](PrimitiveCall&) { WriteCommandList(); });
-  context_.dispatch.Bind(Action::Wait, [this](PrimitiveCall& call) { Wait(call); });
-  context_.dispatch.Bind(Action::Sound, [this](PrimitiveCall&) {
+  context_.dispatch.Bind("SAYDEVELOPER", [this](PrimitiveCall&) { SayDeveloper(); });
+  context_.dispatch.Bind("COMMANDLIST", [this](PrimitiveCall&) { WriteCommandList(); });
+  context_.dispatch.Bind("WAIT", [this](PrimitiveCall& call) { Wait(call); });
+  context_.dispatch.Bind("SOUND", [this](PrimitiveCall&) {
     context_.services.Beep();
     context_.services.MessageBox("Sound");
   });
-  context_.dispatch.Bind(Action::Bye, [this](PrimitiveCall&) {
+  context_.dispatch.Bind("BYE", [this](PrimitiveCall&) {
     const Answer answer = context_.services.MessageBox("Are You Sure That You Want To Leave Zerimo ?", box::YesNo);
     if (answer == Answer::Yes) throw Ended{"BYE"};
   });
-  context_.dispatch.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
-  context_.dispatch.Bind(Action::Message, [this](PrimitiveCall& call) { Message(call); });
-  context_.dispatch.Bind(Action::Print, [this](PrimitiveCall& call) { Print(call); });
-  context_.dispatch.Bind(Action::BracketSum, [this](PrimitiveCall& call) { BracketChain(call, '+'); });
-  context_.dispatch.Bind(Action::BracketProduct, [this](PrimitiveCall& call) { BracketChain(call, '*'); });
-  context_.dispatch.Bind(Action::ArithmeticLine, [this](PrimitiveCall& call) { ArithmeticLine(call); });
-  context_.dispatch.Bind(Action::RelationLine, [this](PrimitiveCall& call) { RelationLine(call); });
-  for (const Action action : {Action::Sum, Action::Product, Action::Quotient, Action::Remainder}) {
-    context_.dispatch.Bind(action, [this, action](PrimitiveCall& call) { TwoInputs(call, action); });
-  }
+  context_.dispatch.Bind("QUIT", [](PrimitiveCall&) { throw Ended{"QUIT"}; });
+  context_.dispatch.Bind("MESSAGE", [this](PrimitiveCall& call) { Message(call); });
+  context_.dispatch.Bind("PRINT", [this](PrimitiveCall& call) { Print(call); });
+  context_.dispatch.Bind("(SUM", [this](PrimitiveCall& call) { BracketChain(call, '+'); });
+  context_.dispatch.Bind("(PRODUCT", [this](PrimitiveCall& call) { BracketChain(call, '*'); });
+  context_.dispatch.Bind("AEXP", [this](PrimitiveCall& call) { ArithmeticLine(call); });
+  context_.dispatch.Bind("REXP", [this](PrimitiveCall& call) { RelationLine(call); });
+  context_.dispatch.Bind("SUM", [this](PrimitiveCall& call) { TwoInputs(call, SumOf); });
+  context_.dispatch.Bind("PRODUCT", [this](PrimitiveCall& call) { TwoInputs(call, ProductOf); });
+  context_.dispatch.Bind("QUOTIENT", [this](PrimitiveCall& call) { TwoInputs(call, QuotientOf); });
+  context_.dispatch.Bind("REMAINDER", [this](PrimitiveCall& call) { TwoInputs(call, RemainderOf); });
 }
 
 void GeneralPrimitives::SayDeveloper() {
@@ -74,7 +66,7 @@ void GeneralPrimitives::WriteCommandList() {
 
 void GeneralPrimitives::Wait(PrimitiveCall& call) {
   context_.arguments.ReplaceNames(call.Rest);
-  if (context_.dispatch.TellMissingInput(call, Action::Wait)) return;
+  if (context_.dispatch.TellMissingInput(call, "WAIT")) return;
   const double milliseconds = context_.arguments.Evaluate(call.Rest);
   context_.services.Sleep(ToInt32(milliseconds));  // Leaves: it is the last statement.
 }
@@ -111,13 +103,13 @@ void GeneralPrimitives::BracketChain(PrimitiveCall& call, char op) {
   context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest)));
 }
 
-void GeneralPrimitives::TwoInputs(PrimitiveCall& call, Action action) {
+void GeneralPrimitives::TwoInputs(PrimitiveCall& call, double (*work)(double, std::int16_t)) {
   const double a = context_.arguments.WordNumber(call.Rest, 1);
   // The second input is whole: 2.5 counts as 2 and 3.5 as 4.
   std::int16_t b = 0;
   SkipOnFailure([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
   std::string result;
-  SkipOnFailure([&] { result = StrTrimmed(ResultOf(action, a, b)); });
+  SkipOnFailure([&] { result = StrTrimmed(work(a, b)); });
   context_.services.MessageBox(result);
 }
 

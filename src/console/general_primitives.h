@@ -22,7 +22,7 @@ class GeneralPrimitives {
   void Message(PrimitiveCall& call);
   void Print(PrimitiveCall& call);
   void BracketChain(PrimitiveCall& call, char op);
-  void TwoInputs(PrimitiveCall& call, Action action);
+  void TwoInputs(PrimitiveCall& call, double (*work)(double, std::int16_t));
   void ArithmeticLine(PrimitiveCall& call);
   void RelationLine(PrimitiveCall& call);
 

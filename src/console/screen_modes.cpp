@@ -7,12 +7,12 @@
 namespace zerimo {
 
 void ScreenModes::Bind() {
-  context_.dispatch.Bind(Action::FullScreen, [this](PrimitiveCall&) { FullScreen(); });
-  context_.dispatch.Bind(Action::SplitScreen, [this](PrimitiveCall&) { SplitScreen(); });
-  context_.dispatch.Bind(Action::TextScreen, [this](PrimitiveCall&) { TextScreen(); });
-  context_.dispatch.Bind(Action::ClearText, [this](PrimitiveCall&) { ClearText(); });
-  context_.dispatch.Bind(Action::Hide, [this](PrimitiveCall&) { Hide(); });
-  context_.dispatch.Bind(Action::Show, [this](PrimitiveCall& call) { Show(call); });
+  context_.dispatch.Bind("FS", [this](PrimitiveCall&) { FullScreen(); });
+  context_.dispatch.Bind("SS", [this](PrimitiveCall&) { SplitScreen(); });
+  context_.dispatch.Bind("TS", [this](PrimitiveCall&) { TextScreen(); });
+  context_.dispatch.Bind("CT", [this](PrimitiveCall&) { ClearText(); });
+  context_.dispatch.Bind("HIDE", [this](PrimitiveCall&) { Hide(); });
+  context_.dispatch.Bind("SHOW", [this](PrimitiveCall& call) { Show(call); });
 }
 
 void ScreenModes::RestoreSplitScreen() {

@@ -8,7 +8,7 @@
 namespace zerimo {
 
 void Editor::Bind() {
-  interpreter_.dispatch.Bind(Action::Edit, [this](PrimitiveCall&) {
+  interpreter_.dispatch.Bind("EDIT", [this](PrimitiveCall&) {
     SkipOnFailure([&] { controls_.List4.Hide(); });
     SkipOnFailure([&] { controls_.Text2.Show(); });
     SkipOnFailure([&] { controls_.Focus.SetFocus(controls_.Text2); });

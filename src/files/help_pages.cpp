@@ -16,7 +16,7 @@ constexpr const char* PagesFolder = "ZMHELP\\";
 }  // namespace
 
 void HelpPages::Bind() {
-  context_.interpreter.dispatch.Bind(Action::Help, [this](PrimitiveCall& call) { Open(call); });
+  context_.interpreter.dispatch.Bind("HELP", [this](PrimitiveCall& call) { Open(call); });
 }
 
 void HelpPages::Open(PrimitiveCall& call) {

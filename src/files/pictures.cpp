@@ -19,9 +19,9 @@ constexpr std::array<const char*, 5> EndingsTried = {".CUR", ".ICO", ".GIF", ".B
 }  // namespace
 
 void Pictures::Bind() {
-  context_.interpreter.dispatch.Bind(Action::SavePicture, [this](PrimitiveCall& call) { SavePicture(call); });
-  context_.interpreter.dispatch.Bind(Action::LoadPicture, [this](PrimitiveCall& call) { LoadPicture(call); });
-  context_.interpreter.dispatch.Bind(Action::SlideShow, [this](PrimitiveCall& call) { SlideShow(call); });
+  context_.interpreter.dispatch.Bind("SAVEPICTURE", [this](PrimitiveCall& call) { SavePicture(call); });
+  context_.interpreter.dispatch.Bind("LOADPICTURE", [this](PrimitiveCall& call) { LoadPicture(call); });
+  context_.interpreter.dispatch.Bind("SLIDESHOW", [this](PrimitiveCall& call) { SlideShow(call); });
 }
 
 void Pictures::ShowPicture(const std::string& fileName) {
@@ -33,7 +33,7 @@ void Pictures::ShowPicture(const std::string& fileName) {
 }
 
 void Pictures::SavePicture(PrimitiveCall& call) {
-  if (context_.interpreter.dispatch.TellMissingInput(call, Action::SavePicture)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, "SAVEPICTURE")) return;
   // Even if the name has a folder, unlike in the other primitives.
   call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   call.Rest += ".Bmp";
@@ -41,7 +41,7 @@ void Pictures::SavePicture(PrimitiveCall& call) {
 }
 
 void Pictures::LoadPicture(PrimitiveCall& call) {
-  if (context_.interpreter.dispatch.TellMissingInput(call, Action::LoadPicture)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, "LOADPICTURE")) return;
   // The folder goes before NONE too, so NONE clears nothing: it is a file name like any other.
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   for (const char* ending : EndingsTried) SkipOnFailure([&] { ShowPicture(call.Rest + ending); });

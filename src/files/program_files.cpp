@@ -26,11 +26,11 @@ ProgramFiles::ProgramFiles(const FilesContext& context, Pictures& pictures) : co
 bool ProgramFiles::IsProgramName(const std::string& name) { return EndingInCapitals(name) == ".ZRM"; }
 
 void ProgramFiles::Bind() {
-  context_.interpreter.dispatch.Bind(Action::Load, [this](PrimitiveCall& call) { Load(call); });
+  context_.interpreter.dispatch.Bind("LOAD", [this](PrimitiveCall& call) { Load(call); });
 }
 
 void ProgramFiles::Load(PrimitiveCall& call) {
-  if (context_.interpreter.dispatch.TellMissingInput(call, Action::Load)) return;
+  if (context_.interpreter.dispatch.TellMissingInput(call, "LOAD")) return;
   CurrentFileName = Trimmed(call.Rest);
   if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
   FileLoad(call.Rest);

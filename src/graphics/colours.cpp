@@ -22,14 +22,14 @@ void ForEachTextControl(Controls& controls, Statement&& statement) {
 
 void Colours::Bind() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::SetPC, [this](PrimitiveCall& call) { SetPC(call); });
-  dispatch.Bind(Action::SetBG, [this](PrimitiveCall& call) { SetBG(call); });
-  dispatch.Bind(Action::TextColor, [this](PrimitiveCall& call) { TextColor(call); });
-  dispatch.Bind(Action::TextBackground, [this](PrimitiveCall& call) { TextBackground(call); });
+  dispatch.Bind("SETPC", [this](PrimitiveCall& call) { SetPC(call); });
+  dispatch.Bind("SETBG", [this](PrimitiveCall& call) { SetBG(call); });
+  dispatch.Bind("TEXTCOLOR", [this](PrimitiveCall& call) { TextColor(call); });
+  dispatch.Bind("TEXTBACKGROUND", [this](PrimitiveCall& call) { TextBackground(call); });
 }
 
 void Colours::SetPC(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::SetPC)) return;
+  if (context_.dispatch.TellMissingInput(call, "SETPC")) return;
   Turtle& turtle = context_.turtle;
   Surface& surface = context_.Picture1;
   const double number = context_.arguments.Number(call);
@@ -48,7 +48,7 @@ void Colours::SetPC(PrimitiveCall& call) {
 }
 
 void Colours::SetBG(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::SetBG)) return;
+  if (context_.dispatch.TellMissingInput(call, "SETBG")) return;
   Turtle& turtle = context_.turtle;
   Surface& surface = context_.Picture1;
   const double number = context_.arguments.Number(call);
@@ -62,7 +62,7 @@ void Colours::SetBG(PrimitiveCall& call) {
 }
 
 void Colours::TextColor(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::TextColor)) return;
+  if (context_.dispatch.TellMissingInput(call, "TEXTCOLOR")) return;
   const double number = context_.arguments.Number(call);
   // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.ForeColor = QBColor(ColourCode(number)); });
@@ -71,7 +71,7 @@ void Colours::TextColor(PrimitiveCall& call) {
 }
 
 void Colours::TextBackground(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::TextBackground)) return;
+  if (context_.dispatch.TellMissingInput(call, "TEXTBACKGROUND")) return;
   const double number = context_.arguments.Number(call);
   // Leaves one control as it is.
   ForEachTextControl(context_.controls, [&](auto& control) { control.BackColor = QBColor(ColourCode(number)); });

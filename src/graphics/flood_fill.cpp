@@ -18,9 +18,8 @@ constexpr int Transparent = 1;
 }  // namespace
 
 void FloodFills::Bind() {
-  context_.dispatch.Bind(Action::FloodFill,
-                         [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
-  context_.dispatch.Bind(Action::FloodFillRGB,
+  context_.dispatch.Bind("FLOODFILL", [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
+  context_.dispatch.Bind("FLOODFILLRGB",
                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
 }
 

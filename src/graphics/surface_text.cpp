@@ -9,13 +9,13 @@ namespace zerimo {
 
 void SurfaceText::Bind() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::TextSize, [this](PrimitiveCall& call) { TextSize(call); });
-  dispatch.Bind(Action::Write, [this](PrimitiveCall& call) { Write(call); });
-  dispatch.Bind(Action::WriteRGB, [this](PrimitiveCall& call) { WriteRGB(call); });
+  dispatch.Bind("TEXTSIZE", [this](PrimitiveCall& call) { TextSize(call); });
+  dispatch.Bind("WRITE", [this](PrimitiveCall& call) { Write(call); });
+  dispatch.Bind("WRITERGB", [this](PrimitiveCall& call) { WriteRGB(call); });
 }
 
 void SurfaceText::TextSize(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::TextSize)) return;
+  if (context_.dispatch.TellMissingInput(call, "TEXTSIZE")) return;
   const double size = context_.arguments.Number(call);
   SkipOnFailure([&] { context_.Picture1.SetFontSize(size); });
 }

@@ -18,9 +18,7 @@ PrimitiveCall MakeCall(std::string_view word, std::string_view rest, const Evalu
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) noexcept {
-  handlers_[static_cast<std::size_t>(action)] = std::move(handler);
-}
+void Dispatch::Bind(Action action, Handler handler) noexcept { handlers_[action.Number] = std::move(handler); }
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
@@ -36,7 +34,7 @@ void Dispatch::Execute(const LineForm& line) {
 
 void Dispatch::CarryOut(PrimitiveCall& call, Action action) {
   if (action != Action::None) {
-    const Handler& handler = handlers_[static_cast<std::size_t>(action)];
+    const Handler& handler = handlers_[action.Number];
     SkipOnFailure([&] {
       if (handler) {
         handler(call);

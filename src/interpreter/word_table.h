@@ -1,150 +1,56 @@
 #pragma once
 
-#include <array>
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
 
-#include "interpreter/statement_class.h"
+#include "interpreter/word_rows.h"
 
-/// The one table of facts about the words of the language: a row for each word. Everything else here is derived from
-/// it.
+/// The words of the language and the actions of `Executor`, derived from the rows.
 /// Behaviour: docs/interpreter.md, "Carrying out a word".
 namespace zerimo {
 
-/// The actions of `Executor`, one for each row of its two groups of tests, in the order of the tests.
-enum class Action : std::uint8_t {
-  // Tested against the whole line.
-  SayDeveloper,
-  CommandList,
-  Fence,
-  XCor,
-  YCor,
-  Window,
-  Draw,
-  GetXY,
-  Pen,
-  FullScreen,
-  SplitScreen,
-  Edit,
-  TextScreen,
-  ClearText,
-  Bye,
-  Quit,
-  Clean,
-  HideTurtle,
-  ShowTurtle,
-  Sound,
-  // Tested against the first word.
-  StampCircle,
-  DrawMode,
-  LineWidth,
-  TextSize,
-  Wait,
-  Forward,
-  Back,
-  Resolution,
-  Right,
-  Left,
-  PenReverse,
-  PenUp,
-  PenDown,
-  PenErase,
-  StampOval,
-  StampRect,
-  SetPC,
-  SetBG,
-  TextColor,
-  TextBackground,
-  ClearScreen,
-  Home,
-  HomeX,
-  HomeY,
-  HomeXY,
-  Load,
-  SavePicture,
-  LoadPicture,
-  Help,
-  SlideShow,
-  Show,
-  Hide,
-  SetX,
-  SetY,
-  SetXY,
-  Refresh,
-  Message,
-  Write,
-  BracketSum,
-  BracketProduct,
-  Print,
-  Fill,
-  FillStyle,
-  Point,
-  Dot,
-  Circle,
-  Line,
-  Ellipse,
-  WriteRGB,
-  LineRGB,
-  EllipseRGB,
-  StampOvalRGB,
-  StampRectRGB,
-  FloodFillRGB,
-  FloodFill,
-  ArithmeticLine,
-  RelationLine,
-  Sum,
-  Product,
-  Quotient,
-  Remainder,
+inline constexpr auto ActionCount =
+    static_cast<std::size_t>(std::ranges::count(WordRows, Acting::OwnAction, &WordRow::Acts));
+
+/// An action of `Executor`, written as its first name: `Action("FD")`, or "FD" where an action is expected.
+struct Action {
+  /// No other text than the first name of an action compiles.
+  consteval Action(const char* firstName) : Number(NumberOf(firstName)) {}
+
+  /// The action of a number below `ActionCount`, or none.
+  constexpr explicit Action(std::size_t number) noexcept : Number(static_cast<std::uint8_t>(number)) {}
+
+  friend constexpr bool operator==(const Action&, const Action&) noexcept = default;
+
   /// For words that `Executor` does not know.
-  None,
+  static const Action None;
+
+  /// The place in the order of the tests, from 0.
+  std::uint8_t Number;
+
+ private:
+  /// Has no value, so that the compiler refuses a name for which it is needed.
+  static std::uint8_t NumberOfNoAction();
+
+  static constexpr std::uint8_t NumberOf(std::string_view firstName) {
+    std::uint8_t number = 0;
+    for (const WordRow& row : WordRows) {
+      if (row.Acts != Acting::OwnAction) continue;
+      if (row.Word == firstName) return number;
+      ++number;
+    }
+    return NumberOfNoAction();
+  }
 };
 
-inline constexpr std::size_t ActionCount = static_cast<std::size_t>(Action::None);
+inline constexpr Action Action::None{ActionCount};
 
-/// What a name of an action is compared with.
-enum class MatchedBy : std::uint8_t { WholeLine, Word };
-
-/// The box that reports a missing input, and whether there is one.
-enum class MissingInput : std::uint8_t {
-  NoTest,       // empty inputs go to the stages as they are
-  Usual,        // Abort, Retry, Ignore; title "Zerimo"
-  Information,  // OK and the information mark; title "Zerimo Message"
-  Plain,        // OK; no title
-};
-
-/// The markers among the input counts: for words that take a body in brackets or the rest of the text, and for words
-/// that are not counted.
-namespace inputs {
-inline constexpr std::int16_t Repeat = -1;
-inline constexpr std::int16_t Print = -2;
-inline constexpr std::int16_t Write = -3;
-inline constexpr std::int16_t Message = -4;
-inline constexpr std::int16_t BracketSum = -5;
-inline constexpr std::int16_t BracketProduct = -6;
-/// `HowManyInput` looks the word up in the store, like any name.
-inline constexpr std::int16_t NotCounted = -100;
-}  // namespace inputs
-
-/// Whether the word has a help page of its name.
-enum class HelpPage : std::uint8_t { None, Own };
-
-/// One word of the language. The rows of actions are in the order of the tests, the short name of an action before its
-/// other one; words without an action follow.
-struct WordFacts {
-  std::string_view Word;
-  Action Does;
-  MatchedBy Match;
-  MissingInput Missing;
-  /// What `HowManyInput` returns: 0 to 6, or a marker of `inputs`.
-  std::int16_t Inputs;
-  /// Places in `CommandList`, 1 to 100; 0 for none.
-  int Place;
-  HelpPage Page;
-  int SecondPlace = 0;
-  /// The class that only lines with this word have, or `StmtCall`.
-  StatementClass LineClass = StmtCall;
+/// A row of the table, and the action that it tells of.
+struct WordFacts : WordRow {
+  Action Does = Action::None;
 };
 
 /// The table.
@@ -152,14 +58,14 @@ std::span<const WordFacts> AllWords() noexcept;
 
 /// One action: its names, how they are matched and how a missing input is reported.
 struct ActionFacts {
-  Action Does;
-  MatchedBy Match;
+  Action Does = Action::None;
+  MatchedBy Match = MatchedBy::WholeLine;
   std::string_view Name;
   /// The other name, or empty.
   std::string_view OtherName;
   /// How the other name is matched: `LINEWIDTH` is tested against the whole line, so that it never gets an input.
-  MatchedBy OtherMatch;
-  MissingInput Missing;
+  MatchedBy OtherMatch = MatchedBy::WholeLine;
+  MissingInput Missing = MissingInput::NoTest;
 };
 
 /// All actions in the order of their tests.

@@ -20,7 +20,7 @@ TEST(KnownWords, NeedTheirInputs) {
 }
 
 TEST(KnownWords, AreToldApartByWhatTheyDo) {
-  for (const char* word : {"PU", "PENUP"}) EXPECT_TRUE(IsOneOf<Action::PenUp>(KnownWord(word))) << word;
+  for (const char* word : {"PU", "PENUP"}) EXPECT_TRUE(IsOneOf<"PU">(KnownWord(word))) << word;
   EXPECT_TRUE((IsOneOf<StmtElse, StmtEndIf>(KnownWord("ENDIF"))));
   EXPECT_TRUE(IsOneOf<inputs::Repeat>(KnownWord("REPEAT")));
   EXPECT_FALSE(IsOneOf<StmtElse>(KnownWord("FD")));
@@ -39,8 +39,8 @@ TEST(KnownWords, SomeDoNothing) {
 }
 
 TEST(KnownWords, StandInExpressions) {
-  EXPECT_EQ(ExpressionOf("^@ (X)", IsOneOf<Action::BracketSum>).pattern(), "^(?:\\(SUM) (X)");
-  EXPECT_EQ(ExpressionOf("^& 7", IsOneOf<Action::SetXY, Action::LineWidth>).pattern(), "^(?:LW|SETXY \\S+) 7");
+  EXPECT_EQ(ExpressionOf("^@ (X)", IsOneOf<"(SUM">).pattern(), "^(?:\\(SUM) (X)");
+  EXPECT_EQ(ExpressionOf("^& 7", IsOneOf<"SETXY", "LW">).pattern(), "^(?:LW|SETXY \\S+) 7");
 }
 
 TEST(KnownWords, ASlipIsOneLetter) {

@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, EnteredLineOf,
 TEST_F(KeysTest, TheHistoryHasTheLineAndTheRowsHaveScrolledBeforeItRuns) {
   Texts rows;
   Texts history;
-  System.interpreter.dispatch.Bind(Action::Sound, [&](PrimitiveCall&) {
+  System.interpreter.dispatch.Bind("SOUND", [&](PrimitiveCall&) {
     for (int row = 0; row < 5; ++row) rows.push_back(controls.Text1[row].Text);
     history = controls.List4.Items();
   });

@@ -32,7 +32,7 @@ class FilesTest : public ::testing::Test, protected BareInterpreter {
     Temp.MakeFolder("work");
     Picture1.AddRecorder(Loaded);
     files.Bind();
-    dispatch.Bind(Action::SplitScreen, [this](PrimitiveCall&) {
+    dispatch.Bind("SS", [this](PrimitiveCall&) {
       ++SplitScreens;
       TextAtSplitScreen = controls.Text2.Text;
     });

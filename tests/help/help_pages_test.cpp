@@ -19,7 +19,7 @@ const std::filesystem::path builtFolder = ZERIMO_APP_FOLDER;
 std::set<std::string> WordsWithAPage() {
   std::set<std::string> words;
   for (const WordFacts& word : AllWords()) {
-    if (word.Page != HelpPage::None) words.emplace(word.Word);
+    if (word.Help == HelpPage::Page) words.emplace(word.Word);
   }
   return words;
 }

@@ -91,7 +91,7 @@ std::vector<std::string> WordsOf(const std::multimap<std::string, WordRow>& rows
 std::vector<std::string> WordsOfTheSystem() {
   std::vector<std::string> words;
   for (const WordFacts& word : AllWords()) {
-    if (word.Page != HelpPage::None) words.emplace_back(word.Word);
+    if (word.Help == HelpPage::Page) words.emplace_back(word.Word);
   }
   std::ranges::sort(words);
   return words;

@@ -15,9 +15,9 @@ class DerivedFormsTest : public testing::Test, protected BareInterpreter {};
 TEST_F(DerivedFormsTest, TheClassAndTheActionOfALineFollowTheLine) {
   store.SetLine(1, "PU");
   EXPECT_EQ(store.ClassOf(1), StmtPrimitive);
-  EXPECT_EQ(store.FormOf(1).Primitive, Action::PenUp);
+  EXPECT_EQ(store.FormOf(1).Primitive, Action("PU"));
   store.SetLine(1, "PD");
-  EXPECT_EQ(store.FormOf(1).Primitive, Action::PenDown);
+  EXPECT_EQ(store.FormOf(1).Primitive, Action("PD"));
   store.SetLine(1, "MAKE \"A 5");
   EXPECT_EQ(store.ClassOf(1), StmtMake);
   EXPECT_EQ(store.FormOf(1).Name, ":A");
@@ -61,7 +61,7 @@ TEST_F(DerivedFormsTest, TheGoalOfAJumpFollowsTheLines) {
 
 TEST_F(DerivedFormsTest, AnInputFollowsItsLine) {
   Fill({"TO A", "FD 1+2", "END"});
-  dispatch.Bind(Action::Forward, [&](PrimitiveCall& call) { Calls.push_back(Str(arguments.Number(call))); });
+  dispatch.Bind("FD", [&](PrimitiveCall& call) { Calls.push_back(Str(arguments.Number(call))); });
   runner.Run1("A");
   store.SetLine(2, "FD 3+4");
   runner.Run1("A");
@@ -262,7 +262,7 @@ TEST_F(DerivedFormsTest, ThePathIsShortenedAtTheLineOfTheCallAlone) {
 TEST_F(DerivedFormsTest, TheLabelShowsThePathWhileItRunsAndKeepsTheLast) {
   Fill({"TO P", "FD 1", "END"});
   std::string shown;
-  dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { shown = controls.Label19.Caption; });
+  dispatch.Bind("FD", [&](PrimitiveCall&) { shown = controls.Label19.Caption; });
   runner.Run1("P");
   EXPECT_EQ(shown, ".P-2");
   EXPECT_EQ(controls.Label19.Caption, ".");

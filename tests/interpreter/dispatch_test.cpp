@@ -39,7 +39,7 @@ TEST_F(DispatchTest, TrimsItsCallersText) {
 
 TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
   PrimitiveCall seen;
-  dispatch.Bind(Action::Forward, [&](PrimitiveCall& call) { seen = call; });
+  dispatch.Bind("FD", [&](PrimitiveCall& call) { seen = call; });
   std::string line = "FD 10 + 5";
   dispatch.Executor(line);
   EXPECT_EQ(seen.Word, "FD");
@@ -165,7 +165,7 @@ TEST_F(DispatchTest, AFailureInTheTailIsSkipped) {
 
 TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
   int taken = 0;
-  dispatch.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
   dispatch.Execute("HELP");
   EXPECT_EQ(taken, 0);
   dispatch.OverflowCount = 32767;
@@ -176,7 +176,7 @@ TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
 TEST_F(DispatchTest, AFailureThatAnActionTakesOverEndsTheTail) {
   const auto fail = [] { throw Failure(FailureKind::Overflow); };
   int taken = 0;
-  dispatch.Bind(Action::Help, [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
   dispatch.DetailsOn = true;
   dispatch.RefreshSurface = fail;
   dispatch.Execute("HELP");
@@ -204,7 +204,7 @@ TEST_F(DispatchTest, CountStopsAt32767WithoutABox) {
 }
 
 TEST_F(DispatchTest, TheEndOfTheSystemLeavesAtOnce) {
-  dispatch.Bind(Action::Quit, [](PrimitiveCall&) { throw Ended{"QUIT"}; });
+  dispatch.Bind("QUIT", [](PrimitiveCall&) { throw Ended{"QUIT"}; });
   EXPECT_THROW(dispatch.Execute("QUIT"), Ended);
   EXPECT_EQ(dispatch.OverflowCount, 0);
 }

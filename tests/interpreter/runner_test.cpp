@@ -94,8 +94,8 @@ TEST_F(RunnerTest, ThePathAfterAnElse) {
 
 TEST_F(RunnerTest, TheControlStringIsShownAsItChanges) {
   Texts shown;
-  dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
-  dispatch.Bind(Action::ArithmeticLine, [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
+  dispatch.Bind("FD", [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
+  dispatch.Bind("AEXP", [&](PrimitiveCall&) { shown.push_back(controls.Label19.Caption); });
   Fill({"TO A", "FD 1", "1+2", "END", "TO B", "A", "FD 2", "END"});
   runner.Run1("B");
   EXPECT_EQ(shown, (Texts{".B- 6.A- 2", ".B- 6.A- 3", ".B-7"}));
@@ -121,7 +121,7 @@ TEST_F(RunnerTest, AnUnknownWordIsSkippedAndThePathKeepsTheOldNumber) {
 
 TEST_F(RunnerTest, CurrentProcedureNameHoldsTheNumberAfterAnUnknownWord) {
   std::string name;
-  dispatch.Bind(Action::Forward, [&](PrimitiveCall&) { name = controlPath.CurrentProcedureName(); });
+  dispatch.Bind("FD", [&](PrimitiveCall&) { name = controlPath.CurrentProcedureName(); });
   Fill({"TO A", "NOWHERE", "FD 1", "END"});
   runner.Run1("A");
   EXPECT_EQ(name, "A-2");
@@ -334,7 +334,7 @@ TEST_F(RunnerTest, AnEmptyLineIsSkippedLikeAnUnknownWord) {
 }
 
 TEST_F(RunnerTest, AFailingPrimitiveLetsTheNextLineRun) {
-  dispatch.Bind(Action::Right, [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
+  dispatch.Bind("RT", [](PrimitiveCall&) { throw Failure(FailureKind::Overflow); });
   Fill({"TO A", "RT 1", "FD 1", "END"});
   runner.Run1("A");
   EXPECT_EQ(Calls, (Texts{"FD 1"}));
@@ -366,8 +366,8 @@ TEST_F(RunnerTest, BareExpressionsGoToTheirOwnActions) {
     lines.push_back(std::string(call.Word) + " " + call.Rest);
     Paths.push_back(controlPath.CtrlStr());
   };
-  dispatch.Bind(Action::ArithmeticLine, note);
-  dispatch.Bind(Action::RelationLine, note);
+  dispatch.Bind("AEXP", note);
+  dispatch.Bind("REXP", note);
   Fill({"TO A", "1+2", "A=3", "FD 1", "END"});
   runner.Run1("A");
   EXPECT_EQ(lines, (Texts{"AEXP 1+2", "REXP A=3"}));

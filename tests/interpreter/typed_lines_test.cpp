@@ -50,7 +50,7 @@ TEST_F(TypedLinesTest, AnEmptyLineCountsAndRunsAnEmptyProcedure) {
 
 TEST_F(TypedLinesTest, AStoppedLineEndsLikeAFinishedOneAndKeepsTheNames) {
   Fill({"TO BOX :S", "PRINT :S", "FD 1", "END"});
-  dispatch.Bind(Action::Print, [](PrimitiveCall&) { throw StopRun(); });
+  dispatch.Bind("PRINT", [](PrimitiveCall&) { throw StopRun(); });
   EXPECT_TRUE(Type("MAKE \"N 5 BOX 7 RT 90"));
   EXPECT_TRUE(Calls.empty());
   EXPECT_EQ(controlPath.CtrlStr(), ".");
@@ -63,7 +63,7 @@ TEST_F(TypedLinesTest, AStoppedLineEndsLikeAFinishedOneAndKeepsTheNames) {
 TEST_F(TypedLinesTest, AfterAStoppedRecursionTheNextLineRuns) {
   Fill({"TO A :S", "PRINT :S", "A :S", "END"});
   int activations = 0;
-  dispatch.Bind(Action::Print, [&activations](PrimitiveCall&) {
+  dispatch.Bind("PRINT", [&activations](PrimitiveCall&) {
     if (++activations == 3) throw StopRun();
   });
   EXPECT_TRUE(Type("A 1"));
@@ -76,7 +76,7 @@ TEST_F(TypedLinesTest, AfterARecursionThatHasFilledAllSlotsTheNextLineRuns) {
   Fill({"TO A :S", "PRINT :S", "A :S+1", "END"});
   EXPECT_TRUE(Type("MAKE \"N 5"));
   int activations = 0;
-  dispatch.Bind(Action::Print, [&](PrimitiveCall&) {
+  dispatch.Bind("PRINT", [&](PrimitiveCall&) {
     if (++activations == 600) throw StopRun();
   });
   EXPECT_TRUE(Type("A 1"));
@@ -200,7 +200,7 @@ TEST_F(TypedLinesTest, TheBlanksThatTheRunLeavesAreTrimmedAndListed) {
 
 TEST_F(TypedLinesTest, AFailureInTheRunLeavesNothingBehind) {
   Fill({"TO A", "END"});
-  dispatch.Bind(Action::Sound, [](PrimitiveCall&) { throw Failure(FailureKind::FileAccess); });
+  dispatch.Bind("SOUND", [](PrimitiveCall&) { throw Failure(FailureKind::FileAccess); });
   EXPECT_TRUE(Type("SOUND"));
   EXPECT_TRUE(Type("GOTO X"));
   EXPECT_EQ(Program(), (Texts{"TO A", "END"}));

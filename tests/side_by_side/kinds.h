@@ -21,7 +21,6 @@ struct Present {
   using Motion = zerimo::Motion;
   using Colours = zerimo::Colours;
   using Shapes = zerimo::Shapes;
-  using Action = zerimo::Action;
   using PrimitiveCall = zerimo::PrimitiveCall;
 };
 
@@ -35,7 +34,6 @@ struct Literal {
   using Motion = reference::Motion;
   using Colours = reference::Colours;
   using Shapes = reference::Shapes;
-  using Action = reference::Action;
   using PrimitiveCall = reference::PrimitiveCall;
 };
 

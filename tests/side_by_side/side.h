@@ -50,7 +50,6 @@ template <typename Kinds>
 class Side : SurfaceRecorder {
  public:
   using PrimitiveCall = typename Kinds::PrimitiveCall;
-  using Action = typename Kinds::Action;
 
   Side() {
     controls.Form1.Width = 15360;
@@ -66,21 +65,20 @@ class Side : SurfaceRecorder {
     colours.Bind();
     shapes.Bind();
     interpreter.dispatch.TurtlePos = [this] { figure.TurtlePos(turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir); };
-    interpreter.dispatch.Bind(Action::Print, [this](PrimitiveCall& call) {
+    interpreter.dispatch.Bind("PRINT", [this](PrimitiveCall& call) {
       trace.Note("PRINT" + std::string(call.Word) + Str(interpreter.arguments.Number(call.Rest)));
     });
-    interpreter.dispatch.Bind(Action::Sum, [this](PrimitiveCall& call) {
+    interpreter.dispatch.Bind("SUM", [this](PrimitiveCall& call) {
       const double first = interpreter.arguments.WordNumber(call.Rest, 1);
       trace.Note("SUM" + Str(first) + Str(interpreter.arguments.WordNumber(call.Rest, 2)) + call.Rest);
     });
-    interpreter.dispatch.Bind(Action::ArithmeticLine, [this](PrimitiveCall& call) {
-      trace.Note("AEXP" + Str(interpreter.arguments.Number(call.Rest)));
-    });
-    interpreter.dispatch.Bind(Action::RelationLine, [this](PrimitiveCall& call) {
+    interpreter.dispatch.Bind(
+        "AEXP", [this](PrimitiveCall& call) { trace.Note("AEXP" + Str(interpreter.arguments.Number(call.Rest))); });
+    interpreter.dispatch.Bind("REXP", [this](PrimitiveCall& call) {
       interpreter.arguments.ReplaceNames(call.Rest);
       trace.Note("REXP" + call.Rest);
     });
-    interpreter.dispatch.Bind(Action::Load, [this](PrimitiveCall&) {
+    interpreter.dispatch.Bind("LOAD", [this](PrimitiveCall&) {
       for (int number = 1; const std::string& line : ProgramToLoad) interpreter.store.SetLine(number++, line);
     });
   }

@@ -16,13 +16,13 @@ namespace zerimo {
 /// `RT` and `PRINT` are given; other primitives only report a missing input.
 struct BareInterpreter {
   BareInterpreter() {
-    for (const Action action : {Action::Forward, Action::Right}) {
+    for (const Action action : {Action("FD"), Action("RT")}) {
       dispatch.Bind(action, [this](PrimitiveCall& call) {
         Calls.push_back(std::string(call.Word) + Str(arguments.Number(call.Rest)));
         Paths.push_back(controlPath.CtrlStr());
       });
     }
-    dispatch.Bind(Action::Print, [this](PrimitiveCall& call) {
+    dispatch.Bind("PRINT", [this](PrimitiveCall& call) {
       Calls.push_back("PRINT " + call.Rest);
       Paths.push_back(controlPath.CtrlStr());
     });

@@ -17,7 +17,7 @@ QString TextOf(std::string_view latin1) {
 std::vector<const WordFacts*> ListOfWords() {
   std::vector<const WordFacts*> words;
   for (const WordFacts& word : AllWords()) {
-    if (!IsOneOf<Action::ArithmeticLine, Action::RelationLine>(&word)) words.push_back(&word);
+    if (!IsOneOf<"AEXP", "REXP">(&word)) words.push_back(&word);
   }
   return words;
 }
@@ -43,7 +43,7 @@ const WordFacts* KnownWord(const QString& word) {
 
 bool IsCommand(const QString& word) {
   const WordFacts* const known = KnownWord(word);
-  return known != nullptr && !IsOneOf<Action::XCor, Action::YCor>(known);
+  return known != nullptr && !IsOneOf<"XCOR", "YCOR">(known);
 }
 
 bool IsDead(const WordFacts& word) {
@@ -52,13 +52,13 @@ bool IsDead(const WordFacts& word) {
 }
 
 bool TakesAName(const WordFacts* word) {
-  return IsOneOf<StmtLabel, StmtGoto, Action::Load, Action::Show, Action::Hide, Action::Help, Action::SavePicture,
-                 Action::LoadPicture, Action::SlideShow>(word) ||
+  return IsOneOf<StmtLabel, StmtGoto, "LOAD", "SHOW", "HIDE", "HELP", "SAVEPICTURE", "LOADPICTURE", "SLIDESHOW">(
+             word) ||
          (word != nullptr && IsDead(*word));
 }
 
 int NeededInputsOf(const WordFacts* word) {
-  const bool mayStandAlone = IsOneOf<Action::Help, Action::Show, Action::Sound, Action::SlideShow>(word);
+  const bool mayStandAlone = IsOneOf<"HELP", "SHOW", "SOUND", "SLIDESHOW">(word);
   return word == nullptr || mayStandAlone ? 0 : std::max<int>(0, word->Inputs);
 }
 
@@ -106,24 +106,23 @@ int LettersBetween(const QString& one, const QString& other) {
 }
 
 QString WordForOther(const QString& name) {
-  using enum Action;
   struct OtherNames {
     const char* Names;
     bool (*IsMeant)(const WordFacts*);
   };
   static constexpr OtherNames rows[] = {
-      {"BACKWARD BACKWARDS RW", IsOneOf<Back>},
-      {"FW GO MOVE WALK VW", IsOneOf<Forward>},
-      {"TURN TURNRIGHT RE RECHTS", IsOneOf<Right>},
-      {"TURNLEFT LI LINKS", IsOneOf<Left>},
-      {"COLOR COLOUR SETCOLOR SETCOLOUR PENCOLOR PENCOLOUR SETPENCOLOR SETPENCOLOUR", IsOneOf<SetPC>},
-      {"BACKGROUND SETBACKGROUND BGCOLOR", IsOneOf<SetBG>},
-      {"WIDTH PENSIZE PENWIDTH SETWIDTH SETPENSIZE", IsOneOf<LineWidth>},
-      {"PEN_UP STIFTHOCH", IsOneOf<PenUp>},
-      {"PEN_DOWN STIFTAB", IsOneOf<PenDown>},
-      {"SETPOS GOTOXY", IsOneOf<SetXY>},
-      {"CLEAR", IsOneOf<ClearScreen>},
-      {"SHOWTEXT SAY OUTPUT", IsOneOf<Action::Print>},
+      {"BACKWARD BACKWARDS RW", IsOneOf<"BK">},
+      {"FW GO MOVE WALK VW", IsOneOf<"FD">},
+      {"TURN TURNRIGHT RE RECHTS", IsOneOf<"RT">},
+      {"TURNLEFT LI LINKS", IsOneOf<"LT">},
+      {"COLOR COLOUR SETCOLOR SETCOLOUR PENCOLOR PENCOLOUR SETPENCOLOR SETPENCOLOUR", IsOneOf<"SETPC">},
+      {"BACKGROUND SETBACKGROUND BGCOLOR", IsOneOf<"SETBG">},
+      {"WIDTH PENSIZE PENWIDTH SETWIDTH SETPENSIZE", IsOneOf<"LW">},
+      {"PEN_UP STIFTHOCH", IsOneOf<"PU">},
+      {"PEN_DOWN STIFTAB", IsOneOf<"PD">},
+      {"SETPOS GOTOXY", IsOneOf<"SETXY">},
+      {"CLEAR", IsOneOf<"CS">},
+      {"SHOWTEXT SAY OUTPUT", IsOneOf<"PRINT">},
       {"LOOP FOR WH WIEDERHOLE", IsOneOf<inputs::Repeat>},
   };
   QString single = name;

@@ -7,7 +7,7 @@
 #include "interpreter/word_table.h"
 
 /// The words of the language as a reader of programs needs them. They are told apart by what they do, never by their
-/// spelling: another word, or another name for one, needs no change here.
+/// spelling: another word, or another name for one, needs no change here. An action is written as its first name.
 namespace zerimo::classroom {
 
 /// The row of a word that programs can use, `TO`, `IF` and the like included, or null.
@@ -15,14 +15,26 @@ const WordFacts* KnownWord(const QString& word);
 
 inline bool IsKnownWord(const QString& word) { return KnownWord(word) != nullptr; }
 
-inline bool Means(const WordFacts& word, Action does) { return word.Does == does; }
-inline bool Means(const WordFacts& word, StatementClass lineClass) { return word.LineClass == lineClass; }
-inline bool Means(const WordFacts& word, std::int16_t inputs) { return word.Inputs == inputs; }
+/// What tells a word from others: its action, the class of its lines, or its marker of inputs.
+struct Meaning {
+  consteval Meaning(const char* action) : Does(action) {}
+  constexpr Meaning(StatementClass lineClass) : LineClass(lineClass) {}
+  constexpr Meaning(std::int16_t inputs) : Inputs(inputs) {}
 
-/// Whether a word has one of these actions, classes of lines, or markers of inputs. A null pointer has none.
-template <auto... Which>
+  constexpr bool IsOf(const WordFacts& word) const {
+    if (Does != Action::None) return word.Does == Does;
+    return LineClass != StmtCall ? word.LineClass == LineClass : word.Inputs == Inputs;
+  }
+
+  Action Does = Action::None;
+  StatementClass LineClass = StmtCall;
+  std::int16_t Inputs = 0;
+};
+
+/// Whether a word has one of these meanings. A null pointer has none.
+template <Meaning... Which>
 bool IsOneOf(const WordFacts* word) {
-  return word != nullptr && (... || Means(*word, Which));
+  return word != nullptr && (... || Which.IsOf(*word));
 }
 
 /// Whether a word begins a statement wherever it stands: all do but those that a sum may contain.

@@ -137,7 +137,7 @@ const ListedProcedure* Listing::Find(const QString& name) const {
 }
 
 bool Listing::Loads() const {
-  return std::ranges::any_of(Statements, [](const Statement& each) { return each.Is<Action::Load>(); });
+  return std::ranges::any_of(Statements, [](const Statement& each) { return each.Is<"LOAD">(); });
 }
 
 QStringList Listing::SumsOf(const Statement& statement) const {

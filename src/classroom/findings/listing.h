@@ -29,7 +29,7 @@ struct Statement {
   QStringList Inputs() const;
 
   /// Whether its word is one of these; see `IsOneOf`.
-  template <auto... Which>
+  template <Meaning... Which>
   bool Is() const {
     return IsOneOf<Which...>(Known);
   }

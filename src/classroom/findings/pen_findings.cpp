@@ -17,9 +17,9 @@ class PenWalk {
   void Take(const Statement& statement, bool isCall) {
     // After a call, a jump or a condition the pen's state is unknown.
     if (isCall || statement.Is<StmtLabel, StmtIf, StmtElse, StmtEndIf>()) return Begin();
-    if (statement.Is<Action::PenUp>()) pen_ = Pen::Up;
-    if (statement.Is<Action::PenDown>()) pen_ = Pen::Down;
-    if (statement.Is<Action::PenErase>()) pen_ = Pen::Eraser;
+    if (statement.Is<"PU">()) pen_ = Pen::Up;
+    if (statement.Is<"PD">()) pen_ = Pen::Down;
+    if (statement.Is<"PE">()) pen_ = Pen::Eraser;
     TellOfPen(statement);
     TellOfFilling(statement);
   }
@@ -28,21 +28,19 @@ class PenWalk {
   enum class Pen { Unknown, Up, Down, Eraser };
 
   void TellOfPen(const Statement& statement) {
-    using enum Action;
-    const bool reverses = statement.Is<PenReverse>();
+    const bool reverses = statement.Is<"PX">();
     if (pen_ == Pen::Eraser && reverses) Add(Mistake::EraserReversed, statement);
-    if (pen_ == Pen::Eraser && statement.Is<SetPC>()) Add(Mistake::EraserColour, statement);
+    if (pen_ == Pen::Eraser && statement.Is<"SETPC">()) Add(Mistake::EraserColour, statement);
     if (pen_ == Pen::Up && reverses) pen_ = Pen::Down;
-    if (pen_ == Pen::Up && statement.Is<Dot, Circle, Line, Ellipse>()) Add(Mistake::ShapeWithPenUp, statement);
+    if (pen_ == Pen::Up && statement.Is<"DOT", "CIRCLE", "LINE", "ELLIPSE">()) Add(Mistake::ShapeWithPenUp, statement);
   }
 
   void TellOfFilling(const Statement& statement) {
-    using enum Action;
-    const bool isFull = statement.Is<StampCircle, StampOval, StampRect, Circle, Ellipse>();
-    if (statement.Is<FloodFill>()) flooded_ = true;
-    if (statement.Is<FillStyle>()) flooded_ = false;
+    const bool isFull = statement.Is<"STAMPCIRCLE", "STAMPOVAL", "STAMPRECT", "CIRCLE", "ELLIPSE">();
+    if (statement.Is<"FLOODFILL">()) flooded_ = true;
+    if (statement.Is<"FILLSTYLE">()) flooded_ = false;
     // A new colour for the inside shows that a full shape is meant.
-    if (statement.Is<Fill>()) meansFull_ = true;
+    if (statement.Is<"FILL">()) meansFull_ = true;
     if (flooded_ && meansFull_ && isFull) Add(Mistake::EmptyShapes, statement);
     if (isFull) meansFull_ = false;
   }

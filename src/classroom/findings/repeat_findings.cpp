@@ -49,7 +49,7 @@ void FindBrackets(const Statement& repeat, Findings& findings) {
 /// A PRINT that is not the last in its body takes the following statements as part of its sum.
 void FindPrint(const Statement& repeat, Findings& findings) {
   static const QRegularExpression print =
-      ExpressionOf("(?:^|[ \\[])(@) ([^\" \\]\\[]+) ([A-Z]+)", IsOneOf<Action::Print, Action::Write, Action::Message>);
+      ExpressionOf("(?:^|[ \\[])(@) ([^\" \\]\\[]+) ([A-Z]+)", IsOneOf<"PRINT", "WRITE", "MESSAGE">);
   for (auto walk = print.globalMatch(PartsOf(repeat.Text).Body); walk.hasNext();) {
     const auto match = walk.next();
     if (IsKnownWord(match.captured(3))) findings.push_back({Mistake::PrintInRepeat, repeat.Line, {match.captured(1)}});

@@ -31,8 +31,6 @@ struct Pattern {
 constexpr double GreatestStep = 655;
 constexpr double GreatestNumber = 32767;
 
-using enum Action;
-
 constexpr std::array Patterns = {
     Pattern{Mistake::MinusInput, R"(^(?!@ )([A-Z]+) -\s*[\d:.(A-Z])",
             IsOneOf<StmtIf, StmtMake, inputs::Print, inputs::Message, inputs::Write>},
@@ -45,14 +43,14 @@ constexpr std::array Patterns = {
     Pattern{Mistake::BlankBeforeEquals, R"(^@ [^"]* (=))", IsIf, -1, true},
     Pattern{Mistake::Exponent, R"((?:^|[^\w:"])(\d+E[+-]?\d+))"},
     Pattern{Mistake::HalfNumber, R"(^& (\d+\.\d+)$)",
-            IsOneOf<SetPC, SetBG, Fill, FillStyle, FloodFill, LineWidth, Wait, DrawMode, TextSize, Sum, Product,
-                    Quotient, Remainder>},
-    Pattern{Mistake::WholeStep, R"(^& (\(?-?\d+\.\d+\)?)$)", IsOneOf<Circle, SetXY, Dot, Line>},
+            IsOneOf<"SETPC", "SETBG", "FILL", "FILLSTYLE", "FLOODFILL", "LW", "WAIT", "DRAWMODE", "TEXTSIZE", "SUM",
+                    "PRODUCT", "QUOTIENT", "REMAINDER">},
+    Pattern{Mistake::WholeStep, R"(^& (\(?-?\d+\.\d+\)?)$)", IsOneOf<"CIRCLE", "SETXY", "DOT", "LINE">},
     Pattern{Mistake::DivisionByZero, R"((\S*/0(?![\d.])\S*))"},
-    Pattern{Mistake::DivisionByZero, R"(^(& 0)$)", IsOneOf<Quotient, Remainder>},
-    Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<SetXY, Dot, SetY>, GreatestStep},
+    Pattern{Mistake::DivisionByZero, R"(^(& 0)$)", IsOneOf<"QUOTIENT", "REMAINDER">},
+    Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<"SETXY", "DOT", "SETY">, GreatestStep},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
-            IsOneOf<Sum, Product, Quotient, Remainder, LineWidth, Wait, SetPC, SetBG, Fill>, GreatestNumber},
+            IsOneOf<"SUM", "PRODUCT", "QUOTIENT", "REMAINDER", "LW", "WAIT", "SETPC", "SETBG", "FILL">, GreatestNumber},
     Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
     Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},
     Pattern{Mistake::SecondQuote, R"-(^@ "([A-Z]+)")-", IsMake},
@@ -61,10 +59,10 @@ constexpr std::array Patterns = {
     Pattern{Mistake::TwoComparisons, R"(^@ ([^" ]*[<>=!]=?[^<>=!" ]+[<>!][^" ]*))", IsIf},
     Pattern{Mistake::LogicWord, R"(^@ [^"]*\b(AND|OR|NOT)\b)", IsIf},
     Pattern{Mistake::ColourCode, R"(^& (1[6-9]|[2-9]\d|\d{3,}|\(-\d+\))$)",
-            IsOneOf<SetPC, SetBG, Fill, FloodFill, TextColor>},
-    Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<Print, Message, Write>},
-    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"[^"]?".*|"[^"]?" ?["\d:(+*\-].*)$)-", IsOneOf<Print, Message>},
-    Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<BracketSum, BracketProduct>},
+            IsOneOf<"SETPC", "SETBG", "FILL", "FLOODFILL", "TEXTCOLOR">},
+    Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<"PRINT", "MESSAGE", "WRITE">},
+    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"[^"]?".*|"[^"]?" ?["\d:(+*\-].*)$)-", IsOneOf<"PRINT", "MESSAGE">},
+    Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<"(SUM", "(PRODUCT">},
     Pattern{Mistake::ElseWithMore, R"(^@ (\S.*))", IsOneOf<StmtElse>},
 };
 
@@ -99,7 +97,7 @@ void FindDeadWord(const Statement& statement, Findings& findings) {
   if (statement.Known == nullptr) return;
   const bool losesInput = statement.Known->Match == MatchedBy::WholeLine && statement.Known->Inputs > 0;
   if (losesInput && statement.Rest().isEmpty()) return;
-  if (losesInput && statement.Is<LineWidth>())
+  if (losesInput && statement.Is<"LW">())
     findings.push_back({Mistake::LongLineWidth, statement.Line, {statement.Rest()}});
   else if (losesInput || IsDead(*statement.Known))
     findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});

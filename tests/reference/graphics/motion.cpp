@@ -25,41 +25,41 @@ void Motion::Bind() {
 
 void Motion::BindMoves() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::Forward, [this](PrimitiveCall& call) { Forward(call); });
-  dispatch.Bind(Action::Back, [this](PrimitiveCall& call) { Back(call); });
-  dispatch.Bind(Action::Right, [this](PrimitiveCall& call) { Right(call); });
-  dispatch.Bind(Action::Left, [this](PrimitiveCall& call) { Left(call); });
-  dispatch.Bind(Action::SetX, [this](PrimitiveCall& call) { SetX(call); });
-  dispatch.Bind(Action::SetY, [this](PrimitiveCall& call) { SetY(call); });
-  dispatch.Bind(Action::SetXY, [this](PrimitiveCall& call) { SetXY(call); });
-  dispatch.Bind(Action::Resolution, [this](PrimitiveCall& call) { Resolution(call); });
-  dispatch.Bind(Action::ClearScreen, [this](PrimitiveCall&) { ClearScreen(); });
+  dispatch.Bind("FD", [this](PrimitiveCall& call) { Forward(call); });
+  dispatch.Bind("BK", [this](PrimitiveCall& call) { Back(call); });
+  dispatch.Bind("RT", [this](PrimitiveCall& call) { Right(call); });
+  dispatch.Bind("LT", [this](PrimitiveCall& call) { Left(call); });
+  dispatch.Bind("SETX", [this](PrimitiveCall& call) { SetX(call); });
+  dispatch.Bind("SETY", [this](PrimitiveCall& call) { SetY(call); });
+  dispatch.Bind("SETXY", [this](PrimitiveCall& call) { SetXY(call); });
+  dispatch.Bind("RESOLUTION", [this](PrimitiveCall& call) { Resolution(call); });
+  dispatch.Bind("CS", [this](PrimitiveCall&) { ClearScreen(); });
 }
 
 void Motion::BindPen() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::Pen, [this](PrimitiveCall&) { Pen(); });
-  dispatch.Bind(Action::PenUp, [this](PrimitiveCall&) { context_.turtle.PenState = 2; });
-  dispatch.Bind(Action::PenDown, [this](PrimitiveCall&) { PenDown(); });
-  dispatch.Bind(Action::PenErase, [this](PrimitiveCall&) { PenErase(); });
-  dispatch.Bind(Action::PenReverse, [this](PrimitiveCall&) { PenReverse(); });
-  dispatch.Bind(Action::HideTurtle, [this](PrimitiveCall&) { ShowFigure(false); });
-  dispatch.Bind(Action::ShowTurtle, [this](PrimitiveCall&) { ShowFigure(true); });
-  dispatch.Bind(Action::LineWidth, [this](PrimitiveCall& call) { LineWidth(call); });
-  dispatch.Bind(Action::DrawMode, [this](PrimitiveCall& call) { DrawMode(call); });
-  dispatch.Bind(Action::Clean, [this](PrimitiveCall&) { context_.Picture1.Cls(); });
+  dispatch.Bind("PEN", [this](PrimitiveCall&) { Pen(); });
+  dispatch.Bind("PU", [this](PrimitiveCall&) { context_.turtle.PenState = 2; });
+  dispatch.Bind("PD", [this](PrimitiveCall&) { PenDown(); });
+  dispatch.Bind("PE", [this](PrimitiveCall&) { PenErase(); });
+  dispatch.Bind("PX", [this](PrimitiveCall&) { PenReverse(); });
+  dispatch.Bind("HT", [this](PrimitiveCall&) { ShowFigure(false); });
+  dispatch.Bind("ST", [this](PrimitiveCall&) { ShowFigure(true); });
+  dispatch.Bind("LW", [this](PrimitiveCall& call) { LineWidth(call); });
+  dispatch.Bind("DRAWMODE", [this](PrimitiveCall& call) { DrawMode(call); });
+  dispatch.Bind("CLEAN", [this](PrimitiveCall&) { context_.Picture1.Cls(); });
 }
 
 void Motion::Forward(PrimitiveCall& call) {
   const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
   // The input is evaluated before the test for a missing one, unlike in most primitives.
-  if (context_.dispatch.TellMissingInput(call, Action::Forward)) return;
+  if (context_.dispatch.TellMissingInput(call, "FD")) return;
   MoveBy(distance);
 }
 
 void Motion::Back(PrimitiveCall& call) {
   const double distance = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
-  if (context_.dispatch.TellMissingInput(call, Action::Back)) return;
+  if (context_.dispatch.TellMissingInput(call, "BK")) return;
   MoveBy(-distance);
 }
 
@@ -85,12 +85,12 @@ bool Motion::AdmitsMove(double x, double y) const {
 
 void Motion::Right(PrimitiveCall& call) {
   // After its box RT goes on and turns by 0.
-  context_.dispatch.TellMissingInput(call, Action::Right);
+  context_.dispatch.TellMissingInput(call, "RT");
   Turn(context_.arguments.Number(call.Rest));
 }
 
 void Motion::Left(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::Left)) return;
+  if (context_.dispatch.TellMissingInput(call, "LT")) return;
   Turn(-context_.arguments.Number(call.Rest));
 }
 
@@ -100,7 +100,7 @@ void Motion::Turn(double degrees) {
 }
 
 void Motion::SetX(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::SetX)) return;
+  if (context_.dispatch.TellMissingInput(call, "SETX")) return;
   Turtle& turtle = context_.turtle;
   const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
@@ -115,7 +115,7 @@ bool Motion::AdmitsSetX(double x) const {
 }
 
 void Motion::SetY(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::SetY)) return;
+  if (context_.dispatch.TellMissingInput(call, "SETY")) return;
   Turtle& turtle = context_.turtle;
   const double distance = StepsToUnits(turtle, context_.arguments.Number(call.Rest));
   double target = 0;
@@ -164,7 +164,7 @@ void Motion::Resolution(PrimitiveCall& call) {
   double value = context_.arguments.Number(call.Rest);
   if (value == 0) value = 10;
   // After its box RESOLUTION goes on: a missing input gives 10.
-  context_.dispatch.TellMissingInput(call, Action::Resolution);
+  context_.dispatch.TellMissingInput(call, "RESOLUTION");
   context_.turtle.Resolution = value;
 }
 
@@ -198,13 +198,13 @@ void Motion::ShowFigure(bool visible) {
 }
 
 void Motion::LineWidth(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::LineWidth)) return;
+  if (context_.dispatch.TellMissingInput(call, "LW")) return;
   const double width = context_.arguments.Number(call.Rest);
   SkipOnFailure([&] { context_.Picture1.SetDrawWidth(ToInt16(width)); });
 }
 
 void Motion::DrawMode(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::DrawMode)) return;
+  if (context_.dispatch.TellMissingInput(call, "DRAWMODE")) return;
   const double mode = context_.arguments.Number(call.Rest);
   SkipOnFailure([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
 }

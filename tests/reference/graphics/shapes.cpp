@@ -29,24 +29,24 @@ void Shapes::Bind() {
 
 void Shapes::BindFigures() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::Point, [this](PrimitiveCall& call) { Point(call); });
-  dispatch.Bind(Action::Dot, [this](PrimitiveCall& call) { Dot(call); });
-  dispatch.Bind(Action::Circle, [this](PrimitiveCall& call) { Circle(call); });
-  dispatch.Bind(Action::Line, [this](PrimitiveCall& call) { Line(call); });
-  dispatch.Bind(Action::Ellipse, [this](PrimitiveCall& call) { Ellipse(call); });
-  dispatch.Bind(Action::LineRGB, [this](PrimitiveCall& call) { LineRGB(call); });
-  dispatch.Bind(Action::EllipseRGB, [this](PrimitiveCall& call) { EllipseRGB(call); });
+  dispatch.Bind("POINT", [this](PrimitiveCall& call) { Point(call); });
+  dispatch.Bind("DOT", [this](PrimitiveCall& call) { Dot(call); });
+  dispatch.Bind("CIRCLE", [this](PrimitiveCall& call) { Circle(call); });
+  dispatch.Bind("LINE", [this](PrimitiveCall& call) { Line(call); });
+  dispatch.Bind("ELLIPSE", [this](PrimitiveCall& call) { Ellipse(call); });
+  dispatch.Bind("LINERGB", [this](PrimitiveCall& call) { LineRGB(call); });
+  dispatch.Bind("ELLIPSERGB", [this](PrimitiveCall& call) { EllipseRGB(call); });
 }
 
 void Shapes::BindStamps() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::StampCircle, [this](PrimitiveCall& call) { StampCircle(call); });
-  dispatch.Bind(Action::StampOval, [this](PrimitiveCall& call) { StampOval(call); });
-  dispatch.Bind(Action::StampRect, [this](PrimitiveCall& call) { StampRect(call); });
-  dispatch.Bind(Action::StampOvalRGB, [this](PrimitiveCall& call) { StampOvalRGB(call); });
-  dispatch.Bind(Action::StampRectRGB, [this](PrimitiveCall& call) { StampRectRGB(call); });
-  dispatch.Bind(Action::Fill, [this](PrimitiveCall& call) { Fill(call); });
-  dispatch.Bind(Action::FillStyle, [this](PrimitiveCall& call) { FillStyle(call); });
+  dispatch.Bind("STAMPCIRCLE", [this](PrimitiveCall& call) { StampCircle(call); });
+  dispatch.Bind("STAMPOVAL", [this](PrimitiveCall& call) { StampOval(call); });
+  dispatch.Bind("STAMPRECT", [this](PrimitiveCall& call) { StampRect(call); });
+  dispatch.Bind("STAMPOVALRGB", [this](PrimitiveCall& call) { StampOvalRGB(call); });
+  dispatch.Bind("STAMPRECTRGB", [this](PrimitiveCall& call) { StampRectRGB(call); });
+  dispatch.Bind("FILL", [this](PrimitiveCall& call) { Fill(call); });
+  dispatch.Bind("FILLSTYLE", [this](PrimitiveCall& call) { FillStyle(call); });
 }
 
 void Shapes::Point(PrimitiveCall& call) {
@@ -139,7 +139,7 @@ void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing&
 }
 
 void Shapes::StampCircle(PrimitiveCall& call) {
-  if (context_.dispatch.TellMissingInput(call, Action::StampCircle)) return;
+  if (context_.dispatch.TellMissingInput(call, "STAMPCIRCLE")) return;
   const double radius = StepsToUnits(context_.turtle, context_.arguments.Number(call.Rest));
   SkipOnFailure([&] { context_.Picture1.Circle(context_.turtle.TurtleX, context_.turtle.TurtleY, radius); });
 }

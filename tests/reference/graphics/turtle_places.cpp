@@ -13,16 +13,16 @@ const char* const OutsideText = "The Fence command can not be used while the Tur
 
 void TurtlePlaces::Bind() {
   Dispatch& dispatch = context_.dispatch;
-  dispatch.Bind(Action::Fence, [this](PrimitiveCall&) { Fence(); });
-  dispatch.Bind(Action::XCor, [this](PrimitiveCall&) { XCor(); });
-  dispatch.Bind(Action::YCor, [this](PrimitiveCall&) { YCor(); });
-  dispatch.Bind(Action::Window, [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
-  dispatch.Bind(Action::Draw, [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
-  dispatch.Bind(Action::GetXY, [this](PrimitiveCall&) { GetXY(); });
-  dispatch.Bind(Action::Home, [this](PrimitiveCall&) { Home(); });
-  dispatch.Bind(Action::HomeX, [this](PrimitiveCall&) { HomeX(); });
-  dispatch.Bind(Action::HomeY, [this](PrimitiveCall&) { HomeY(); });
-  dispatch.Bind(Action::HomeXY, [this](PrimitiveCall&) { HomeXY(); });
+  dispatch.Bind("FENCE", [this](PrimitiveCall&) { Fence(); });
+  dispatch.Bind("XCOR", [this](PrimitiveCall&) { XCor(); });
+  dispatch.Bind("YCOR", [this](PrimitiveCall&) { YCor(); });
+  dispatch.Bind("WINDOW", [this](PrimitiveCall&) { context_.turtle.FenceMode = 1; });
+  dispatch.Bind("DRAW", [this](PrimitiveCall&) { context_.controls.Image1.Hide(); });
+  dispatch.Bind("GETXY", [this](PrimitiveCall&) { GetXY(); });
+  dispatch.Bind("HOME", [this](PrimitiveCall&) { Home(); });
+  dispatch.Bind("HOMEX", [this](PrimitiveCall&) { HomeX(); });
+  dispatch.Bind("HOMEY", [this](PrimitiveCall&) { HomeY(); });
+  dispatch.Bind("HOMEXY", [this](PrimitiveCall&) { HomeXY(); });
 }
 
 void TurtlePlaces::Fence() {

@@ -27,15 +27,13 @@ const std::string& MatchedText(MatchedBy match, const PrimitiveCall& call) {
 
 }  // namespace
 
-void Dispatch::Bind(Action action, Handler handler) {
-  handlers_[static_cast<std::size_t>(action)] = std::move(handler);
-}
+void Dispatch::Bind(Action action, Handler handler) { handlers_[action.Number] = std::move(handler); }
 
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
   PrimitiveCall call = Split(commandLine);
   RunGroup(MatchedBy::WholeLine, call);
-  RunGroup(MatchedBy::Word, call);
+  RunGroup(MatchedBy::FirstWord, call);
   Tail(call);
 }
 
@@ -43,7 +41,7 @@ void Dispatch::RunGroup(MatchedBy group, PrimitiveCall& call) {
   // The tests do not stop at a match; only one name can match, since an action leaves the line and the word alone.
   for (const ActionFacts& facts : Actions()) {
     if (facts.Match != group || !Matches(facts, call)) continue;
-    const Handler& handler = handlers_[static_cast<std::size_t>(facts.Does)];
+    const Handler& handler = handlers_[facts.Does.Number];
     SkipOnFailure([&] {
       if (handler) {
         handler(call);

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "base/services.h"
+#include "interpreter/word_table.h"
 #include "reference/interpreter/arguments.h"
-#include "reference/interpreter/word_table.h"
 
 namespace zerimo::reference {
 

@@ -5,8 +5,8 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "interpreter/word_table.h"
 #include "reference/base/numbers.h"
-#include "reference/interpreter/word_table.h"
 
 namespace zerimo::reference {
 
@@ -141,8 +141,8 @@ std::string GiveWord(std::string& text, int nthWord) {
 }
 
 std::int16_t HowManyInput(std::string_view command, const Store& store) {
-  for (const InputCount& count : InputCounts()) {
-    if (count.Word == command) return count.Inputs;
+  for (const WordFacts& word : AllWords()) {
+    if (word.Word == command && word.Inputs != inputs::NotCounted) return word.Inputs;
   }
   const std::string pattern = "TO " + std::string(command) + " ";
   for (int number = 1; !store.Line(number).empty(); ++number) {

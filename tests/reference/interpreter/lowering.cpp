@@ -5,9 +5,9 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "interpreter/word_table.h"
 #include "reference/base/numbers.h"
 #include "reference/interpreter/line_entry.h"
-#include "reference/interpreter/word_table.h"
 
 namespace zerimo::reference {
 
