@@ -162,10 +162,13 @@ QStringList CellsOf(const QString& line, QChar divider) {
   return cells;
 }
 
-/// Most programs for tables save in UTF-8, the others as Windows does in the west.
+/// Most programs for tables save in UTF-8, some in UTF-16 with a mark at the beginning, the others as Windows does in
+/// the west.
 QString TextOfTable(const std::string& bytes) {
-  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  const QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  const QStringDecoder::Encoding encoding = QStringDecoder::encodingForData(view).value_or(QStringDecoder::Utf8);
+  QStringDecoder decoder(encoding, QStringDecoder::Flag::Stateless);
+  const QString text = decoder(view);
   if (!decoder.hasError()) return text;
   std::u32string western;
   for (const char byte : bytes) western += CharacterOf(WesternCodePage, static_cast<unsigned char>(byte));
@@ -208,22 +211,24 @@ std::vector<Pupil> PupilsListedIn(const fs::path& list) {
   return pupils;
 }
 
-void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
+std::size_t TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
   QHash<QString, QString> names;
   for (const QString& line : TextOfTable(table).split(u'\n')) {
-    const QChar divider = line.contains(u';') ? u';' : u',';
+    const QChar divider = line.contains(u'\t') ? u'\t' : line.contains(u';') ? u';' : u',';
     const QStringList cells = CellsOf(line, divider);
     const QString file = cells.value(0).trimmed();
     const QString name = cells.value(1).trimmed();
     if (!file.isEmpty() && !name.isEmpty()) names.insert(file.toCaseFolded(), name);
   }
   QHash<QString, int> programs;
+  std::size_t named = 0;
   for (Pupil& pupil : pupils) {
     for (const fs::path& key : KeysOf(pupil)) {
       const auto found = names.constFind(Folded(key));
       if (found == names.cend()) continue;
       pupil.Name = *found;
       ++programs[*found];
+      ++named;
       break;
     }
   }
@@ -231,6 +236,7 @@ void TakeNames(std::vector<Pupil>& pupils, const std::string& table) {
   for (Pupil& pupil : pupils) {
     if (programs.value(pupil.Name) > 1) pupil.Name += u'/' + NameOf(pupil.Program.filename());
   }
+  return named;
 }
 
 }  // namespace zerimo::classroom

@@ -25,8 +25,9 @@ bool HasNoProgram(const Pupil& pupil);
 /// as `PupilsOf` does.
 std::vector<Pupil> PupilsListedIn(const std::filesystem::path& list);
 
-/// Names from a table in UTF-8, or else in Windows-1252, whose lines are FILE,NAME or FOLDER,NAME; a semicolon will do
-/// too. A file may be named with its folders. Capitals and the file's ending are ignored.
-void TakeNames(std::vector<Pupil>& pupils, const std::string& table);
+/// Names from a table in UTF-8, UTF-16 with a byte order mark, or else in Windows-1252, whose lines are FILE,NAME or
+/// FOLDER,NAME; a semicolon or a tab will do too. A file may be named with its folders. Capitals and the file's ending
+/// are ignored. Returns how many programs got a name.
+std::size_t TakeNames(std::vector<Pupil>& pupils, const std::string& table);
 
 }  // namespace zerimo::classroom

@@ -69,7 +69,8 @@ std::vector<Pupil> AllPupils(const ClassOptions& options) {
     throw batch::UsageError(words + (isList ? ": the file can not be read" : ": the folder can not be read"));
   }
   if (pupils.empty()) throw batch::UsageError(words + ": there is no program (.ZRM) in it");
-  TakeNames(pupils, ContentOf("--names", options.Names));
+  if (TakeNames(pupils, ContentOf("--names", options.Names)) == 0 && !options.Names.empty())
+    std::cerr << "zerimo-batch: --names " << options.Names << ": no line of it is about a program\n";
   ContentOf("--session", options.Session);
   return pupils;
 }

@@ -13,10 +13,10 @@ enum class ClassStatus { ReportWritten = 0, NotWritten = 1, BadUsage = 2, Interr
 /// `UsageError`, before any program runs.
 ClassStatus RunClass(const Command& command, const std::string& version);
 
-/// Makes one report of the parts of a class without holding them in memory. Fails with `UsageError`.
 /// The text of the program that everyone was given, or nothing. Fails with `UsageError`.
 QString TemplateOf(const ClassOptions& options);
 
+/// Makes one report of the parts of a class without holding them in memory. Fails with `UsageError`.
 ClassStatus MergeParts(const Command& command, const std::string& version);
 
 }  // namespace zerimo::classroom

@@ -76,15 +76,15 @@ void JudgeShapes(GoalOutcome& outcome, const Order& order, std::size_t index, co
   WriteDifference(run_file::Difference(index), size, run.Recorder().Drawn(), comparison);
 }
 
-/// A picture is only turned by quarters; strokes, if there are any, tell more.
+/// A picture is only turned by quarters, and a figure that is a little wrong looks like the goal: strokes, if the goal
+/// has any, decide.
 std::optional<Placement> PlacementOf(const Order& order, std::size_t index, const SessionRun& run, const QImage& wanted,
                                      const QImage& drawn) {
   const Goal& goal = order.Goals[index];
   const std::optional<Drawing> model =
       order.ModelPicture.empty() ? ReadDrawing(order.ModelFolder / run_file::Drawn(index)) : std::nullopt;
-  std::optional<Placement> placed;
-  if (model) placed = Compare(*model, run.Recorder().Drawn(), {.Tolerance = goal.Shapes.Tolerance}).Placed;
-  return placed ? placed : PlacementOfPicture(wanted, drawn, NearPixels, goal.Enough);
+  if (!model || model->IsEmpty()) return PlacementOfPicture(wanted, drawn, NearPixels, goal.Enough);
+  return Compare(*model, run.Recorder().Drawn(), {.Tolerance = goal.Shapes.Tolerance}).Placed;
 }
 
 void JudgePixels(GoalOutcome& outcome, const Order& order, std::size_t index, const SessionRun& run) {

@@ -87,6 +87,7 @@ struct Language {
   const char* GoalOfCall;
   const char* Met;
   const char* NotMet;
+  const char* GoalsNotMet;
   const char* GoalsMet;
   const char* Points;
   const char* GoalPicture;
@@ -98,6 +99,8 @@ struct Language {
   const char* TextIsMissing;
   const char* TextIsTooMuch;
   const char* TextsLeftOut;
+  /// A goal that is not met although all that could be compared is alike.
+  const char* TooMuchDrawn;
   const char* NothingPrinted;
   const char* ItIsTheGoal;
   const char* TurnedRight;

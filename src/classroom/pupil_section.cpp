@@ -101,6 +101,7 @@ class SectionWriter {
                                                  WordOfNumber(goal.Points, language_)}));
     const QString words = WordsOf(goal, language_);
     if (!words.isEmpty()) html_ += Paragraph(words);
+    if (!goal.Met && words.isEmpty() && goal.Percent == 100) html_ += Paragraph(Utf8(language_.TooMuchDrawn));
     if (goal.Way == GoalWay::Texts) return WriteTexts(goal);
     if (run_.Picture.empty()) return;
     const std::filesystem::path folder = run_.Picture.parent_path();

@@ -1,5 +1,6 @@
 #include "classroom/pupil_session.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <fstream>
 #include <functional>
@@ -127,7 +128,7 @@ void PupilSession::PlaceProgram() {
   fs::create_directory(scratch);
   std::vector<std::string> names = {loadName_};
   // Otherwise the name would mean a file PROGRAM.ZRM of the class folder.
-  if (!order_.Goals.empty() || session_.find(AnyName) != std::string::npos) names.emplace_back(AnyName);
+  if (!order_.Goals.empty() || UpperCase(session_).find(AnyName) != std::string::npos) names.emplace_back(AnyName);
   for (const std::string& name : names) {
     std::ofstream copy(scratch / (name + ".ZRM"), std::ios::binary);
     copy << program_;
@@ -146,13 +147,13 @@ std::string PupilSession::WithProcedure(const std::string& text) const {
   const std::string name = outline_ ? outline_->MainProcedure(loadName_) : std::string();
   if (name.empty() || outline_->Has(AnyName)) return text;
   const std::string withoutInputs = outline_->FirstCallOf(loadName_).Procedure;
-  QStringList lines = QString::fromStdString(text).split(u'\n');
-  for (QString& line : lines) {
-    if (line.section(u' ', 0, 0).trimmed() != QLatin1String(AnyName)) continue;
-    const bool isAlone = line.trimmed() == QLatin1String(AnyName) && !withoutInputs.empty();
-    line.replace(0, QLatin1String(AnyName).size(), QString::fromStdString(isAlone ? withoutInputs : name));
-  }
-  return lines.join(u'\n').toStdString();
+  constexpr auto options = QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption;
+  static const QRegularExpression alone(R"((^|\[)( *)PROGRAM(?= *(\]|\r?$)))", options);
+  static const QRegularExpression call(R"((^|\[)( *)PROGRAM(?=[ \]\r]|$))", options);
+  QString lines = QString::fromStdString(text);
+  if (!withoutInputs.empty()) lines.replace(alone, QStringLiteral("\\1\\2") + QString::fromStdString(withoutInputs));
+  lines.replace(call, QStringLiteral("\\1\\2") + QString::fromStdString(name));
+  return lines.toStdString();
 }
 
 Play PupilSession::PlayOf(const Goal& goal) const {

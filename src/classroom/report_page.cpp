@@ -168,12 +168,15 @@ class PageWriter {
   QString NotesOf(const PupilRun& run) const {
     QStringList notes = {language_.NameOf(run.Went.How)};
     for (const Finding& finding : run.Went.Findings) notes.append(language_.NameOf(finding.What));
+    for (const QString& note : run.Went.Notes) notes.append(language_.Of(note));
+    if (run.GoalsMet() != run.Went.Goals.size()) notes.append(Utf8(language_.GoalsNotMet));
+    if (!run.IsSuspicious()) notes.append(Utf8(language_.NothingSuspicious));
     notes.removeDuplicates();
     return notes.join(u'|');
   }
 
   void WriteRow(const PupilRun& run, std::size_t number) {
-    Add(QStringLiteral("<tr data-notes=\"") + Escaped(NotesOf(run)) +
+    Add(QStringLiteral("<tr data-notes=\"") + EscapedReadable(NotesOf(run)) +
         QStringLiteral("\"><th scope=\"row\"><a href=\"#p%1\">").arg(number));
     Add(EscapedReadable(PupilName(run.Who)) + QStringLiteral("</a>"));
     if (const auto image = pictures_.Image(run.Picture, {}, ThumbnailWidth)) Add(QStringLiteral("<br>") + *image);

@@ -9,10 +9,10 @@ namespace zerimo::classroom {
 
 namespace {
 
-/// A drawing of which more is outside the picture is a mistake; hills that rise from below it are not.
-constexpr double MostOutside = 0.25;
-/// Of figures that are outside as a whole; a bubble or two may leave the picture.
-constexpr double MostWhollyOutside = 0.05;
+/// A line may end a pixel or two outside the picture.
+constexpr double MostOutside = 0.01;
+/// A bubble or two may leave the picture.
+constexpr double MostCutOff = 0.05;
 
 /// The part of the title picture that hides nothing, in fractions of its height.
 constexpr double TitleIsClearFrom = 0.2;
@@ -43,9 +43,11 @@ void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findi
 }
 
 void FindOutside(SessionRun& run, std::vector<Finding>& findings) {
-  const double part = run.Recorder().PartOutside(run.form1.Picture1);
-  if (part > MostOutside || run.Recorder().PartWhollyOutside(run.form1.Picture1) > MostWhollyOutside)
-    findings.push_back({Mistake::OutsideThePicture, 0, {QString::number(std::ceil(100 * part))}});
+  const Surface& surface = run.form1.Picture1;
+  const double outside = run.Recorder().PartOutside(surface);
+  const double cutOff = std::max(run.Recorder().PartCutOff(surface), run.Recorder().PartWhollyOutside(surface));
+  if (outside > MostOutside || cutOff > MostCutOff)
+    findings.push_back({Mistake::OutsideThePicture, 0, {QString::number(std::ceil(100 * std::max(outside, cutOff)))}});
 }
 
 void FindInPicture(SessionRun& run, bool hasBegun, std::vector<Finding>& findings) {

@@ -12,13 +12,13 @@ class SaidBuilder {
  public:
   void Take(const Json& event) {
     const QString name = TextAt(event, "event");
-    if (name == "typed") typed_ = u'?' + TextAt(event, "text");
     if (name == "list" && TextAt(event, "op") == "add") TakeLine(TextAt(event, "item"));
     if (name == "box")
       TakeBox({"box", TextAt(event, "title"), TextAt(event, "text"), ButtonsOf(event), TextAt(event, "answer")});
     if (name == "input")
       TakeBox({"input", TextAt(event, "title"), TextAt(event, "prompt"), {}, TextAt(event, "answer")});
     if (name == "dialog") TakeBox({TextAt(event, "kind"), {}, {}, {}, TextAt(event, "answer")});
+    wasTyped_ = name == "typed";
   }
 
   Said Told;
@@ -35,10 +35,8 @@ class SaidBuilder {
     line.truncate(roomForLines_);
     roomForLines_ -= line.size();
     Told.Lines.append(line);
-    // A typed line is listed too, once.
-    const bool isTyped = line == typed_;
-    if (isTyped) typed_.clear();
-    if (!isTyped) Told.Printed.append(line);
+    // A typed line is listed too, before anything else happens, and in the form in which it is carried out.
+    if (!wasTyped_) Told.Printed.append(line);
   }
 
   void TakeBox(ShownBox shown) {
@@ -54,7 +52,7 @@ class SaidBuilder {
     Told.Boxes.push_back(shown);
   }
 
-  QString typed_;
+  bool wasTyped_ = false;
   qsizetype roomForLines_ = MostCharacters;
   qsizetype roomForBoxes_ = MostCharacters;
 };

@@ -143,7 +143,7 @@ class Writer {
     xml_.writeStartElement("text");
     Placed({text.At.X, text.At.Y + font.Ascent()});
     xml_.writeAttribute("font-family", "Arial, Liberation Sans, sans-serif");
-    Attribute("font-size_", text.PointSize * PixelsPerPoint);
+    Attribute("font-size", text.PointSize * PixelsPerPoint);
     Attribute("textLength", font.WidthOf(text.Characters));
     xml_.writeAttribute("xml:space", "preserve");
     xml_.writeAttribute("fill", Name(text.Color));

@@ -142,6 +142,14 @@ TEST_F(ClassFolderTest, ATableMayBeInTheCodePageOfTheWest) {
   EXPECT_EQ(pupils[0].Name, QString::fromUtf8("J\xC3\xBCrgen"));
 }
 
+TEST_F(ClassFolderTest, ATableMayBeInUtf16WithTabs) {
+  std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}}};
+  const std::u16string text = u"\uFEFFanna\tJ\u00FCrgen\r\n";
+  const std::string bytes(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
+  EXPECT_EQ(TakeNames(pupils, bytes), 1U);
+  EXPECT_EQ(pupils[0].Name, QString::fromUtf8("J\xC3\xBCrgen"));
+}
+
 TEST_F(ClassFolderTest, NamesComeFromATable) {
   std::vector<Pupil> pupils = {{"5a/ANNA.ZRM", {}},
                                {"5a/1234/STAR.ZRM", {}},

@@ -222,7 +222,7 @@ TEST_F(ClassProgramTest, ShowsTheProgramAndWhatIsSuspiciousInIt) {
 TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
   Write("NOTHING.ZRM", "TO A|RT 90|END|");
   Write("PENUP.ZRM", "TO A|CS|PU|FD 90|END|");
-  Write("TITLE.ZRM", "TO A|BK 100|END|");
+  Write("TITLE.ZRM", "TO A|BK 70|END|");
   Write("CLEAR.ZRM", "TO A|FD 50|END|");
   Write("OUTSIDE.ZRM", "TO A|CS|PU|SETXY 400 400|PD|FD 100|END|");
   Write("LARGE.ZRM", "TO A|CS|REPEAT 4 [FD 300 RT 90]|END|");
@@ -288,6 +288,30 @@ TEST_F(ClassProgramTest, OneSessionServesTheWholeClass) {
   Run("--session all.session");
   EXPECT_EQ(PrintedBy("ANNA.ZRM"), (Lines{"?LOAD PROGRAM", "?BOX 60", "? 60"}));
   EXPECT_EQ(PrintedBy("BEN.ZRM"), (Lines{"?LOAD PROGRAM", "?BEN 60", "? 120"}));
+}
+
+TEST_F(ClassProgramTest, TheEchoOfATypedLineIsNotPrintedByTheProgram) {
+  Write("ANNA.ZRM", "TO BOX :S|CS|RT :S|END|");
+  Program.Write("all.session", "load program\nprogram  60\nrepeat 2 [program 3 + 4]\n");
+  Run("--session all.session");
+  EXPECT_EQ(PrintedBy("ANNA.ZRM"), (Lines{"?LOAD PROGRAM", "?BOX 60", "?REPEAT 2[BOX 3+4]"}));
+  EXPECT_EQ(MistakesOf("ANNA.ZRM"), "nothing drawn");
+}
+
+TEST_F(ClassProgramTest, ALineThatLeavesThePictureIsFound) {
+  Write("STAR.ZRM", "TO STAR|CS|REPEAT 5 [FD 130 RT 144]|END|");
+  Write("ROUND.ZRM", "TO ROUND|CS|PU|SETXY 0 80|STAMPCIRCLE 60|END|");
+  Run();
+  EXPECT_EQ(MistakesOf("STAR.ZRM"), "outside the picture");
+  EXPECT_EQ(MistakesOf("ROUND.ZRM"), "outside the picture");
+}
+
+TEST_F(ClassProgramTest, ATableOfNamesThatFitsNobodyIsReported) {
+  Write("ANNA.ZRM", "TO ANNA|CS|FD 5|END|");
+  Program.Write("names.csv", "bert,Bert\n");
+  const ProgramRun run = Run("--names names.csv");
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_NE(run.Errors.find("--names names.csv: no line of it is about a program"), std::string::npos);
 }
 
 TEST_F(ClassProgramTest, ProgramWithoutInputsIsAProcedureThatNeedsNone) {

@@ -54,6 +54,27 @@ TEST_F(ClassTaskTest, AGoalThatIsMetHasAllPerCent) {
   EXPECT_TRUE(Pupil("CARLA.ZRM").value("goals").toArray().at(0).toObject().value("met").toBool());
 }
 
+TEST_F(ClassTaskTest, AFigureThatDoesNotCloseIsNotTheGoalTurned) {
+  WriteTask("## Goals\n- `PROGRAM 40`: pixels 90 %\n", "TO STAR :S\r\nCS\r\nREPEAT 5 [FD :S RT 144]\r\nEND\r\n");
+  Write("ANNA.ZRM", "TO ANNA :S|CS|REPEAT 5 [FD :S RT 140]|END|");
+  Write("BEN.ZRM", "TO BEN :S|CS|RT 90|REPEAT 5 [FD :S RT 144]|END|");
+  Run("--task task");
+  EXPECT_FALSE(GoalOf("ANNA.ZRM").value("placed").isObject());
+  EXPECT_TRUE(GoalOf("BEN.ZRM").value("placed").isObject());
+}
+
+TEST_F(ClassTaskTest, AGoalMayTypeSmallLetters) {
+  WriteTask("## Goals\n- `program 3 + 4`: texts\n- `repeat 2 [program 5]`: texts\n",
+            "TO DOUBLE :N\r\nPRINT 2*(:N)\r\nEND\r\n");
+  Write("ANNA.ZRM", "TO TWICE :N|PRINT 2*(:N)|END|");
+  Write("BEN.ZRM", "TO BEN :N|FD :N|END|");
+  Run("--task task");
+  for (const qsizetype goal : {0, 1}) {
+    EXPECT_TRUE(GoalOf("ANNA.ZRM", goal).value("met").toBool());
+    EXPECT_FALSE(GoalOf("BEN.ZRM", goal).value("met").toBool());
+  }
+}
+
 TEST_F(ClassTaskTest, KeepsTheTextsThatWereCompared) {
   Program.Write("task/GOAL.ZRM", "TO COUNT\r\nREPEAT 50 [PRINT 1]\r\nEND\r\n");
   Program.Write("task/TASK.md", "# Count\n\n## Ziele\n- `PROGRAM`: texts\n");

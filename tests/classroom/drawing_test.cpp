@@ -76,6 +76,18 @@ TEST_F(DrawingTest, TellsHowMuchLiesOutside) {
   EXPECT_EQ(Recorder.PartOutside(Picture1), 0.625);
 }
 
+TEST_F(DrawingTest, TellsHowMuchOfTheCirclesIsCutOff) {
+  EXPECT_EQ(Recorder.PartCutOff(Picture1), 0);
+  Picture1.Circle(0, 500, 300);
+  EXPECT_NEAR(Recorder.PartCutOff(Picture1), 0.5, 0.01);
+  Picture1.Cls();
+  Picture1.Circle(5000, 0, 300);
+  EXPECT_NEAR(Recorder.PartCutOff(Picture1), 0.5, 0.01);
+  Picture1.Cls();
+  Picture1.Circle(5000, static_cast<double>(Picture1.Height()), 300);
+  EXPECT_NEAR(Recorder.PartCutOff(Picture1), 0, 0.01);
+}
+
 TEST_F(DrawingTest, TellsHowMuchIsWhollyOutside) {
   Picture1.Line(500, 0, -1500, 0);
   Picture1.Line(-1500, 0, -2500, 0);

@@ -157,6 +157,8 @@ const Case Words[] = {
     {"TO A|FD \"S RT 90 FD \"S|PRINT \"N IS\" :N|MAKE \"N 1|END|",
      {"2 strange sign \"S RT 90 FD \"S \"", "3 text and more \"N IS\" :N"}},
     {"TO A|fd 10|rt 90|END|", {"2 small letters fd FD"}},
+    {"TO house|FD 10|END|", {"1 small letters house HOUSE"}},
+    {"TO roof|FD 10|END|TO HOUSE|roof|END|", {}},
     {"TO A|FD 10 RT 90|END|", {"2 several statements RT"}},
     {"TO A|IF 1=1 FD 10 ENDIF|IF 1=1 FD 10|ENDIF|PRINT \"B\" FD 10|LABEL B FD 10|END|",
      {"2 several statements FD", "3 several statements FD", "5 several statements FD", "6 several statements FD"}},

@@ -220,6 +220,23 @@ TEST(ReportPage, TellsWhereADrawingIsInstead) {
   EXPECT_TRUE(page.contains("It is the goal, but a little inexact."));
 }
 
+TEST(ReportPage, TellsWhyACompleteGoalIsNotMet) {
+  PupilRun run = RunOf("ANNA.ZRM");
+  run.Went.Goals = {{"", GoalWay::Shapes, false, 100, 1}};
+  EXPECT_TRUE(PageWith({run}).contains("It drew too much for all of it to be compared."));
+}
+
+TEST(ReportPage, OffersGoalsAndNotesInItsFilter) {
+  PupilRun anna = RunOf("ANNA.ZRM");
+  anna.Went.Goals = {{"", GoalWay::Shapes, true, 100, 1}};
+  PupilRun ben = RunOf("BEN.ZRM");
+  ben.Went.Goals = {{"", GoalWay::Shapes, false, 50, 1}};
+  ben.Went.Notes = {"Every procedure of the program needs inputs."};
+  const QString page = PageWith({anna, ben});
+  EXPECT_TRUE(page.contains("data-notes=\"ended|nothing suspicious\""));
+  EXPECT_TRUE(page.contains("data-notes=\"ended|Every procedure of the program needs inputs.|goals not met\""));
+}
+
 TEST(ReportPage, TellsThatOnlyTheWayOfDrawingIsWrong) {
   PupilRun run = RunOf("ANNA.ZRM");
   run.Went.Goals = {{"", GoalWay::Shapes, false, 100, 1, {}, {StrokeRule::Order, StrokeRule::Direction}}};
@@ -326,7 +343,7 @@ TEST(ReportPage, SpeaksGerman) {
   report.Runs[0].Went.Message = "the program is a folder";
   report.Runs[0].Went.Notes = {"BOX needs inputs and was not called: give them in a session.", "another note"};
   report.Runs[0].Went.Findings = {{Mistake::UnknownWord, 0, {"X", ""}}};
-  EXPECT_TRUE(PageOf(report).contains("data-notes=\"nicht gelaufen|unbekanntes Wort\""));
+  EXPECT_TRUE(PageOf(report).contains("data-notes=\"nicht gelaufen|unbekanntes Wort|BOX braucht Eingaben"));
   EXPECT_TRUE(PageOf(report).contains("nicht gelaufen: das "));
   EXPECT_TRUE(PageOf(report).contains("BOX braucht Eingaben und wurde nicht aufgerufen"));
   EXPECT_TRUE(PageOf(report).contains("another note"));

@@ -34,6 +34,13 @@ TEST(TranscriptReader, TakesLinesAndBoxes) {
   EXPECT_FALSE(said.BoxesAreCut);
 }
 
+TEST(TranscriptReader, TheEchoOfATypedLineIsNotPrinted) {
+  const QByteArray typed = "{\"event\":\"typed\",\"row\":0,\"text\":\"print  3 + 4\"}\n";
+  const QByteArray blank = "{\"event\":\"typed\",\"row\":0,\"text\":\"\"}\n";
+  const Said said = SaidIn(typed + Line("?PRINT 3+4") + Line("? 7") + blank + Box("SURE") + Line("?PRINT 3+4"));
+  EXPECT_EQ(said.Printed, (QStringList{"? 7", "?PRINT 3+4"}));
+}
+
 TEST(TranscriptReader, CountsLines) {
   QByteArray full;
   for (qsizetype i = 0; i < MostLines; ++i) full += Line("?");

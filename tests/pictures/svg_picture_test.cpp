@@ -167,6 +167,7 @@ TEST_F(SvgPictures, TextStandsInTheSamePlace) {
   surface.SetCurrentY(30);
   surface.Print("Zerimo & <Co>");
   EXPECT_EQ(CountOf("text"), 1U);
+  EXPECT_TRUE(Document().contains(" font-size=\"26.667\""));
   ExpectTheSamePicture("svg_of_text", 0.02);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 #include "classroom/drawings/cover.h"
@@ -77,6 +78,16 @@ double PartInside(const Surface& surface, const Line& line) {
   keep(line.From.X, line.To.X, static_cast<double>(surface.Width));
   keep(line.From.Y, line.To.Y, static_cast<double>(surface.Height()));
   return std::max(0.0, last - first);
+}
+
+/// The part of the box around a figure that is cut off at the left, the right or the top.
+double PartCutOff(const Surface& surface, const Figure& figure) {
+  const auto inside = [](double centre, double reach, double most) {
+    return std::max(0.0, std::min(centre + reach, most) - std::max(centre - reach, 0.0)) / (2 * reach);
+  };
+  if (figure.Across == 0 || figure.Down == 0) return LiesOutside(surface, figure) ? 1 : 0;
+  return 1 - inside(figure.Centre.X, figure.Across, static_cast<double>(surface.Width)) *
+                 inside(figure.Centre.Y, figure.Down, std::numeric_limits<double>::infinity());
 }
 
 }  // namespace
@@ -190,9 +201,15 @@ void DrawingRecorder::Erase(const Line& eraser) {
 
 double DrawingRecorder::PartOutside(const Surface& surface) const {
   Shares shares;
-  for (const Line& each : drawing_.Lines)
-    shares.Add(each.Length(), each.IsOfOutline ? 0 : 1 - PartInside(surface, each));
-  for (const Figure& each : drawing_.Figures) shares.Add(SizeOf(each), LiesOutside(surface, each) ? 1 : 0);
+  for (const Line& each : drawing_.Lines) {
+    if (!each.IsOfOutline) shares.Add(each.Length(), 1 - PartInside(surface, each));
+  }
+  return shares.Part();
+}
+
+double DrawingRecorder::PartCutOff(const Surface& surface) const {
+  Shares shares;
+  for (const Figure& each : drawing_.Figures) shares.Add(SizeOf(each), zerimo::classroom::PartCutOff(surface, each));
   return shares.Part();
 }
 

@@ -74,9 +74,12 @@ class DrawingRecorder final : public SurfaceRecorder {
   bool WasWiped() const { return wiped_; }
   /// Whether anything was ever drawn, poured or loaded.
   bool HasDrawn() const { return hasDrawn_; }
-  /// The share of what is drawn, by length, that is outside the surface, from 0 to 1. Grounds and hills rise from
-  /// below: boxes and ellipses do not count, and a figure only if all of it is outside.
+  /// The share of the lines, by length, that is outside the surface, from 0 to 1. Boxes and ellipses do not count: they
+  /// may be grounds and hills, which reach beyond it.
   double PartOutside(const Surface& surface) const;
+  /// The share of the circles, ovals, dots and texts that is cut off at the left, the right or the top, or wholly below
+  /// the surface, from 0 to 1.
+  double PartCutOff(const Surface& surface) const;
   /// The share of the figures, and of the lines that were drawn without a gap, that are outside as a whole.
   double PartWhollyOutside(const Surface& surface) const;
   /// Whether the surface is as empty as at the beginning: there was nothing, or it has been cleared or erased.

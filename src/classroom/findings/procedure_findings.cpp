@@ -18,6 +18,18 @@ void FindEnds(const Listing& listing, Findings& findings) {
   }
 }
 
+/// A typed line is turned to capitals, so that it can't call a procedure whose name has small letters; the program can.
+void FindUncallable(const Listing& listing, Findings& findings) {
+  for (const ListedProcedure& each : listing.Procedures) {
+    const QString capitals = each.Name.toUpper();
+    const bool isCalled =
+        std::ranges::find(listing.Statements, each.Name, &Statement::Word) != listing.Statements.end();
+    const bool isTold = std::ranges::find(findings, Mistake::SmallLetters, &Finding::What) != findings.end();
+    if (each.Name != capitals && !isCalled && !isTold)
+      findings.push_back({Mistake::SmallLetters, each.Line, {each.Name, capitals}});
+  }
+}
+
 /// Outside the procedures only `MAKE` lines with a number, above the first procedure, are read.
 void FindOutside(const Listing& listing, Findings& findings) {
   static const QRegularExpression name = ExpressionOf("^@ (:[A-Z]+) (\\(?-?[\\d.]+\\)?)$", IsOneOf<StmtMake>);
@@ -69,6 +81,7 @@ void FindRecursion(const Listing& listing, Findings& findings) {
 
 void FindInProcedures(const Listing& listing, Findings& findings) {
   FindEnds(listing, findings);
+  FindUncallable(listing, findings);
   FindOutside(listing, findings);
   FindRecursion(listing, findings);
 }
