@@ -106,7 +106,10 @@ const Case Numbers[] = {
      {"2 missing number 10+", "3 missing number 2*", "4 missing number *2", "5 missing number 50%", "6 open sum (50",
       "7 strange sign 50) )", "8 open sum (3+4"}},
     {"TO A|FD 50px|FD 2x50|FD l0|FD fifty|END|",
-     {"2 unknown name 50px", "3 unknown name 2x50", "4 unknown name l0", "5 unknown name fifty"}},
+     {"2 unknown name px", "3 unknown name x", "4 unknown name l0", "5 unknown name fifty"}},
+    {"TO A|FD 7_5|FD 1.5.2|FD 10**2|FD 10//5|FD 1.5|DRAWMODE 99|DRAWMODE 16|END|",
+     {"2 strange sign 7_5 _", "3 strange sign 1.5.2 .", "4 missing number 10**2", "5 missing number 10//5",
+      "7 too large 99"}},
     {"TO A :N|FD 2*(:N+1)-3|SETXY (-5) :N/2|IF :N>=3|RT (90-:N)%7|ENDIF|(SUM 1 2 3)|PRINT 3.5|END|", {}},
 };
 INSTANTIATE_TEST_SUITE_P(Numbers, FindingsOf, testing::ValuesIn(Numbers));
@@ -145,6 +148,13 @@ const Case Words[] = {
     {"TO A|PRINT|PRINT \"A\"+5|PRINT (\"A\")|MESSAGE \"A\" \"B\"|END|",
      {"2 missing inputs PRINT 1 0", "3 text and more \"A\"+5", "4 text and more (\"A\")",
       "5 text and more \"A\" \"B\""}},
+    {"TO A :A|WRITE \"HI\" 20|WRITE \"HI\" :A|PRINT \"HI\" XCOR|WRITERGB \"HI\" 255 0 20 40|PRINT \"HI\"|END|",
+     {"2 text and more \"HI\" 20", "3 text and more \"HI\" :A", "4 text and more \"HI\" XCOR",
+      "5 text and more \"HI\" 255 0 20 40"}},
+    {"TO A :A|PRINT 5 6|PRINT :A :A|PRINT XCOR YCOR|WRITE 3 4|PRINT 3 + 4|PRINT :A -1|PRINT (3+4)*:A|END|",
+     {"2 too many inputs PRINT 1 2", "3 too many inputs PRINT 1 2", "4 too many inputs PRINT 1 2",
+      "5 too many inputs WRITE 1 2"}},
+    {"TO A|WRITERGB \"HELLO\"|WRITERGB \"HELLO,255 0 20 40\"|END|", {"2 missing inputs WRITERGB 5 1"}},
     {"TO A|FORWRD 10|END|", {"2 unknown word FORWRD FORWARD"}},
     {"TO A|FD10|END|", {"2 unknown word FD10 FD 10"}},
     {"TO A|LOAD B|FORWRD 10|SOMETHING|END|", {"3 unknown word FORWRD FORWARD"}},
@@ -170,7 +180,16 @@ const Case Words[] = {
     {"TO A :B|SETXY 1 :B + 2|MAKE \"C :B - 2|REPEAT 2 [FD :B * 2 IF :C > 2 RT 9 ENDIF]|END|",
      {"2 blank in sum :B+2", "3 blank in sum :B-2", "4 blank in sum :B*2", "4 blank in sum :C>2"}},
     {"TO A|PRINT HELLO|MESSAGE \"HELLO\"|END|", {"2 text without quotes HELLO"}},
-    {"TO A|SETPC RED|FD 1O0|REPEAT N [FD 1]|END|", {"2 unknown name RED", "3 unknown name 1O0", "4 unknown name N"}},
+    {"TO A|SETPC RED|FD 1O0|REPEAT N [FD 1]|END|", {"2 unknown name RED", "3 unknown name O", "4 unknown name N"}},
+    {"TO B :S :T|FD :S|RT :T|END|TO A|B 20 -90|REPEAT 2 [B 20 -90]|B 20 (-90)|END|",
+     {"6 minus second input B", "7 minus second input B"}},
+    {"TO A|(FD 20)|(FD 20|(RT 90)|(GO)|(B)|(XCOR)|(3+4)*2|END|TO B|FD 1|END|",
+     {"2 unknown word (FD FD", "3 unknown word (FD FD", "4 unknown word (RT RT", "5 unknown word (GO) FD",
+      "6 unknown word (B) B"}},
+    {"TO A|MAKE \"N 10|:N=20|:N = 20|N=20|IF :N=20|FD 1|ENDIF|REPEAT 2 [IF :N = 2 FD 1 ENDIF]|END|",
+     {"3 dead word :N=20", "4 dead word :N = 20", "5 dead word N=20", "9 blank before equals ="}},
+    {"TO A :A|SHOW 5|SHOW \"HELLO\"|SHOW :A|SHOW XCOR|SHOW PAL|SHOW TIME|END|",
+     {"2 dead word SHOW 5", "3 dead word SHOW \"HELLO\"", "4 dead word SHOW :A", "5 dead word SHOW XCOR"}},
     {"TO A N|FD N|MAKE \"B :C|END|", {"3 unknown name :C"}},
     {"TO A|FD|END|", {"2 missing inputs FD 1 0"}},
     {"TO A|SETXY 10|END|", {"2 missing inputs SETXY 2 1"}},
@@ -228,7 +247,8 @@ TEST(Findings, InputsThatATypedLineGivesAreCounted) {
   const std::vector<Finding> expected = {{Mistake::TooManyInputs, 1, {"STAIRS", "0", "1"}},
                                          {Mistake::MissingInputs, 4, {"BOX", "2", "1"}}};
   EXPECT_EQ(FindingsInCalls(program, "CS STAIRS 20 BOX 5"), expected);
-  EXPECT_TRUE(FindingsInCalls(program, "LOAD STAIRS").empty());
+  EXPECT_TRUE(FindingsInCalls(program, "LOAD BOX").empty());
+  EXPECT_TRUE(FindingsInCalls(program, "HELP BOX CS LOADPICTURE BOX BOX 1 2").empty());
   EXPECT_TRUE(FindingsInCalls(program, "CS STAIRS BOX 5 (5+1)").empty());
 }
 

@@ -115,7 +115,8 @@ void Listing::TakeBody(const QString& body, int number) {
   const QStringList names = ProcedureNames();
   QStringList words;
   for (const QString& word : WordsOfBody(body)) {
-    const bool begins = IsCommand(word) || names.contains(word);
+    const bool isAName = words.size() == 1 && TakesAName(KnownWord(words.first()));
+    const bool begins = !isAName && (IsCommand(word) || names.contains(word));
     if (begins && !words.isEmpty()) {
       TakeStatement(words.join(u' '), number, true);
       words.clear();

@@ -71,6 +71,13 @@ void FindDigits(const Listing& listing, Findings& findings) {
   }
 }
 
+/// What vanishes of a word that begins with a digit: "CM" of "10CM".
+QString LettersOf(const QString& word) {
+  static const QRegularExpression letters("^\\d+([A-Za-z_]+)");
+  const auto match = letters.match(word);
+  return match.hasMatch() ? match.captured(1) : word;
+}
+
 /// A word in a sum vanishes: a name without its colon, a text without quotes, or nothing that anybody knows.
 void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings& findings) {
   static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Za-z]\\w*(?![\\w.])");
@@ -85,7 +92,7 @@ void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings&
       const Mistake what = known.contains(u':' + name)                                     ? Mistake::NameWithoutColon
                            : statement.Is<inputs::Print, inputs::Message, inputs::Write>() ? Mistake::TextWithoutQuotes
                                                                                            : Mistake::UnknownName;
-      findings.push_back(what == Mistake::UnknownName ? UnknownName(statement, name, known)
+      findings.push_back(what == Mistake::UnknownName ? UnknownName(statement, LettersOf(name), known)
                                                       : Finding{what, statement.Line, {name}});
     }
   }

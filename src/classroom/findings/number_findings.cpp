@@ -10,13 +10,15 @@ constexpr auto IsText = IsOneOf<inputs::Print, inputs::Message, inputs::Write>;
 QString StrangeSignIn(const QString& sum, bool mayCompare) {
   static const QRegularExpression inConditions(R"(:(?![A-Za-z_])|[^\w.:+\-*/%()#<>=!])");
   static const QRegularExpression inSums(R"(:(?![A-Za-z_])|[^\w.:+\-*/%()#])");
+  static const QRegularExpression inNumber(R"((?<![\w:.])(?|\d*\.\d*(\.)|\d[\d.]*(_)))");
+  if (const auto found = inNumber.match(sum); found.hasMatch()) return found.captured(1);
   const QRegularExpressionMatch match = (mayCompare ? inConditions : inSums).match(sum);
   if (match.hasMatch()) return match.captured();
   return sum.count(u')') > sum.count(u'(') ? ")" : "";
 }
 
 void FindInSum(const Statement& statement, const QString& sum, Findings& findings) {
-  static const QRegularExpression half(R"(^[+*/%]|[-+*/%]$)");
+  static const QRegularExpression half(R"(^[+*/%]|[-+*/%][*/%]|[-+*/%]$)");
   const QString sign = StrangeSignIn(sum, statement.Is<StmtIf>());
   if (sign == ",") findings.push_back({Mistake::Comma, statement.Line, {sum}});
   if (!sign.isEmpty() && sign != ",") findings.push_back({Mistake::StrangeSign, statement.Line, {sum, sign}});

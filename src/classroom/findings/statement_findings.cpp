@@ -30,6 +30,7 @@ struct Pattern {
 /// The greatest number of units that 16 bits hold, in steps of 50.
 constexpr double GreatestStep = 655;
 constexpr double GreatestNumber = 32767;
+constexpr double GreatestDrawMode = 16;
 
 constexpr std::array Patterns = {
     Pattern{Mistake::MinusInput, R"(^(?!@ )([A-Z]+) -\s*[\d:.(A-Z])",
@@ -51,6 +52,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<"SETXY", "DOT", "SETY">, GreatestStep},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
             IsOneOf<"SUM", "PRODUCT", "QUOTIENT", "REMAINDER", "LW", "WAIT", "SETPC", "SETBG", "FILL">, GreatestNumber},
+    Pattern{Mistake::TooLarge, R"(^& (\d+)$)", IsOneOf<"DRAWMODE">, GreatestDrawMode},
     Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
     Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},
     Pattern{Mistake::SecondQuote, R"-(^@ "([A-Z]+)")-", IsMake},
@@ -61,7 +63,6 @@ constexpr std::array Patterns = {
     Pattern{Mistake::ColourCode, R"(^& (1[6-9]|[2-9]\d|\d{3,}|\(-\d+\))$)",
             IsOneOf<"SETPC", "SETBG", "FILL", "FLOODFILL", "TEXTCOLOR">},
     Pattern{Mistake::OpenQuote, R"(^@ ("[^"]+)$)", IsOneOf<"PRINT", "MESSAGE", "WRITE">},
-    Pattern{Mistake::TextAndMore, R"-(^@ ([^"\s].*"[^"]?".*|"[^"]?" ?["\d:(+*\-].*)$)-", IsOneOf<"PRINT", "MESSAGE">},
     Pattern{Mistake::OpenSum, R"(^(@\b[^)]*)$)", IsOneOf<"(SUM", "(PRODUCT">},
     Pattern{Mistake::ElseWithMore, R"(^@ (\S.*))", IsOneOf<StmtElse>},
 };
@@ -92,6 +93,48 @@ void FindLoneNumber(const Listing& listing, const Statement& statement, Findings
   if (match.hasMatch() && !isSum) findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});
 }
 
+/// A comparison on a line of its own, as in ":N=20", changes nothing: it shows a box.
+void FindLoneComparison(const Listing& listing, const Statement& statement, Findings& findings) {
+  static const QRegularExpression comparison(R"(^(?:[:(\d][^"<>=!]*|([A-Za-z]\w*))[<>=!])");
+  const auto match = comparison.match(statement.Text);
+  const bool isCall = statement.Known != nullptr || listing.Find(statement.Word()) != nullptr;
+  if (match.hasMatch() && !isCall && !IsCommand(match.captured(1)))
+    findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});
+}
+
+/// A minus number that is not the first input of a procedure.
+void FindMinusInCall(const Listing& listing, const Statement& statement, Findings& findings) {
+  static const QRegularExpression minus(R"(^\S+ .*[\w)] -[\d:.(])");
+  const ListedProcedure* const called = listing.Find(statement.Word());
+  if (called != nullptr && called->Inputs.size() > 1 && minus.match(statement.Text).hasMatch())
+    findings.push_back({Mistake::MinusSecondInput, statement.Line, {statement.Word()}});
+}
+
+/// What stands before or after a text. A second statement is told as such.
+void FindTextAndMore(const Listing& listing, const Statement& statement, Findings& findings) {
+  static const QRegularExpression more(R"-(^([^"\s].*"[^"]?".*|"[^"]?" ?([^" ]+).*|"[^"]?" ?".*)$)-");
+  const auto match = more.match(statement.Rest());
+  const QString next = match.captured(2);
+  const bool isOther = !next.isEmpty() && (IsCommand(next) || listing.Find(next) != nullptr);
+  if (match.hasMatch() && !isOther && statement.Is<inputs::Print, inputs::Message, inputs::Write>())
+    findings.push_back({Mistake::TextAndMore, statement.Line, {match.captured(1)}});
+}
+
+/// The text of WRITERGB has numbers in it, after a comma.
+void FindBareText(const Listing& listing, const Statement& statement, Findings& findings) {
+  static const QRegularExpression text(R"-(^"[^"]?"$)-");
+  if (statement.Is<"WRITERGB">() && text.match(statement.Rest()).hasMatch() &&
+      !listing.AsWritten(statement.Rest()).contains(u','))
+    findings.push_back({Mistake::MissingInputs, statement.Line, {statement.Word(), "5", "1"}});
+}
+
+/// Whether a SHOW has a value to show, and not the name of a panel or the like.
+bool ShowsAValue(const Statement& statement) {
+  static const QRegularExpression name("^[A-Za-z]*$");
+  const QString what = statement.Rest();
+  return statement.Is<"SHOW">() && (!name.match(what).hasMatch() || (IsKnownWord(what) && !IsCommand(what)));
+}
+
 /// A word that does nothing, alone or with what follows it.
 void FindDeadWord(const Statement& statement, Findings& findings) {
   if (statement.Known == nullptr) return;
@@ -99,7 +142,7 @@ void FindDeadWord(const Statement& statement, Findings& findings) {
   if (losesInput && statement.Rest().isEmpty()) return;
   if (losesInput && statement.Is<"LW">())
     findings.push_back({Mistake::LongLineWidth, statement.Line, {statement.Rest()}});
-  else if (losesInput || IsDead(*statement.Known))
+  else if (losesInput || IsDead(*statement.Known) || ShowsAValue(statement))
     findings.push_back({Mistake::DeadWord, statement.Line, {statement.Text}});
 }
 
@@ -138,6 +181,10 @@ void FindInStatements(const Listing& listing, Findings& findings) {
     if (statement.Is<inputs::Repeat>() || statement.IsRemark()) continue;
     FindPatterns(statement, findings);
     FindLoneNumber(listing, statement, findings);
+    FindLoneComparison(listing, statement, findings);
+    FindMinusInCall(listing, statement, findings);
+    FindTextAndMore(listing, statement, findings);
+    FindBareText(listing, statement, findings);
     FindDeadWord(statement, findings);
     FindThirds(statement, findings);
     FindLargeProduct(statement, findings);

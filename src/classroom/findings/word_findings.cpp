@@ -11,15 +11,21 @@ bool IsWord(const QString& text) {
   return word.match(text).hasMatch();
 }
 
+QString WithoutBrackets(QString word) { return word.remove(u'(').remove(u')'); }
+
 /// Whether a line of one word is a sum: it begins like a name or a number, or has a sign in it.
 bool IsSum(const Statement& statement) {
-  static const QRegularExpression sum("^[(:#\\d-]|[-+*/%<>=!]");
-  return sum.match(statement.Word()).hasMatch() && !statement.IsRemark();
+  static const QRegularExpression sum("^\\(*[:#\\d-]|[-+*/%<>=!]");
+  const QString inside = WithoutBrackets(statement.Word());
+  const bool isValue = IsKnownWord(inside) && !IsCommand(inside);
+  return isValue || (sum.match(statement.Word()).hasMatch() && !statement.IsRemark());
 }
 
-/// What someone has meant who wrote a word that is unknown, or empty: "FD50" is "FD 50".
-QString WordMeantBy(const QString& word, const QStringList& procedures) {
+/// What someone has meant who wrote a word that is unknown, or empty: "FD50" is "FD 50", and "(FD" is "FD".
+QString WordMeantBy(const QString& unknown, const QStringList& procedures) {
   static const QRegularExpression withNumber("^([A-Z]+)(\\d.*)$");
+  QString word = WithoutBrackets(unknown);
+  if (word != unknown && (IsKnownWord(word) || procedures.contains(word))) return word;
   const auto match = withNumber.match(word);
   if (match.hasMatch() && IsKnownWord(match.captured(1))) return match.captured(1) + u' ' + match.captured(2);
   return SuggestionFor(word, procedures);
@@ -69,16 +75,26 @@ void FindMissingInputs(const Listing& listing, const Statement& statement, Findi
         {Mistake::MissingInputs, statement.Line, {word, QString::number(needed), QString::number(given)}});
 }
 
+/// Whether all that follows a word is one sum, in which numbers side by side are joined. A minus is a sign there, and a
+/// comma is told by itself.
+bool IsJoinedSum(const Statement& statement) {
+  return statement.Is<inputs::Print, inputs::Message, inputs::Write>() && !statement.Text.contains(u'"') &&
+         !statement.Text.contains(u',') && !statement.Text.contains(QLatin1String(" -"));
+}
+
 /// More than the word of a statement takes: a number, or a second statement that is misspelt.
 void FindTooMany(const Listing& listing, const Statement& statement, Findings& findings) {
-  const std::optional<qsizetype> taken = listing.InputsTakenBy(statement);
+  const bool isJoined = IsJoinedSum(statement);
+  const std::optional<qsizetype> taken = isJoined ? 1 : listing.InputsTakenBy(statement);
   const QStringList given = statement.Inputs();
   if (!taken || given.size() <= *taken) return;
   const QString& first = given[*taken];
   const QString both = statement.Word() + u' ' + first;
   if (const QString meant = WordForOther(both); !meant.isEmpty()) {
     findings.push_back({Mistake::UnknownWord, statement.Line, {both, meant}});
-  } else if (IsWord(first)) {
+  } else if (IsWord(first) && !IsKnownWord(first)) {
+    // Where a text may stand, it is told as one.
+    if (isJoined) return;
     findings.push_back({Mistake::UnknownWord, statement.Line, {first, WordMeantBy(first, listing.ProcedureNames())}});
   } else {
     findings.push_back({Mistake::TooManyInputs,
