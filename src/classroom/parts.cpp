@@ -41,6 +41,13 @@ PupilRun RunOf(const fs::path& file, const Json& json) {
   return run;
 }
 
+/// Gives a record the name that its pupil has now.
+void Rename(Json& json, const QString& name, std::string& line) {
+  if (TextAt(json, "name") == name) return;
+  json["name"] = OrNull(name);
+  line = Compact(json);
+}
+
 Share ShareIn(const Json& json) {
   Share share;
   share.Wanted = static_cast<std::size_t>(NumberAt(json, "wanted"));
@@ -66,19 +73,21 @@ PartFile::PartFile(const fs::path& file, bool resumes, const Share& share, const
 void PartFile::KeepFitting(const std::vector<Pupil>& pupils) {
   std::ifstream stream(file_, std::ios::binary);
   if (!stream.is_open()) return;
-  std::map<std::string, std::string> fingerprints;
-  for (const Pupil& pupil : pupils) fingerprints[KeyOf(pupil.Program)] = pupil.Fingerprint;
+  std::map<std::string, const Pupil*> known;
+  for (const Pupil& pupil : pupils) known[KeyOf(pupil.Program)] = &pupil;
   FileToSave kept(file_);
   // A last line without an end is half of one.
   for (std::string line; std::getline(stream, line) && !stream.eof();) {
-    const std::optional<Json> json = ParsedObject(line);
+    std::optional<Json> json = ParsedObject(line);
     // Whoever had no program may have handed one in.
     if (!json || TextAt(*json, "result") == WordOf(Result::NoProgram)) continue;
     const std::string program = TextAt(*json, "program").toStdString();
-    const auto found = fingerprints.find(program);
-    if (found != fingerprints.end() && found->second != TextAt(*json, "fingerprint").toStdString()) {
-      ++dropped_;
-      continue;
+    if (const auto found = known.find(program); found != known.end()) {
+      if (found->second->Fingerprint != TextAt(*json, "fingerprint").toStdString()) {
+        ++dropped_;
+        continue;
+      }
+      Rename(*json, found->second->Name, line);
     }
     programs_.insert(program);
     lastFolder_ = std::max(lastFolder_, TextAt(*json, "pictures").toUInt());

@@ -134,6 +134,18 @@ TEST_F(ClassPartsTest, ResumingRunsAgainWhatHasChanged) {
             std::string::npos);
 }
 
+TEST_F(ClassPartsTest, ResumingTakesTheNamesThatTheTableHasNow) {
+  Write("A.ZRM", "TO A|CS|FD 9|END|");
+  Write("B.ZRM", "TO B|CS|FD 9|END|");
+  Program.Write("names.csv", "a,Anna\nb,Anna\n");
+  Run("--jsonl r.jsonl --names names.csv");
+  Program.Write("names.csv", "a,Berta\nb,Berta\n");
+  const ProgramRun resumed = Run("--jsonl r.jsonl --resume --names names.csv");
+  EXPECT_EQ(std::ranges::count(resumed.Errors, '\n'), 1) << resumed.Errors;
+  EXPECT_EQ(Pupil("B.ZRM").value("name").toString(), "Berta/B.ZRM");
+  EXPECT_EQ(Program.Read("r.jsonl").find("Anna"), std::string::npos);
+}
+
 TEST_F(ClassPartsTest, AMissingPartIsReported) {
   std::string list;
   for (const char* name : {"A.ZRM", "B.ZRM", "C.ZRM", "D.ZRM", "E.ZRM"}) {
