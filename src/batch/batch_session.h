@@ -43,6 +43,9 @@ class BatchSession {
   /// Reads a session in UTF-8 and checks all of it. Fails with `SessionError`.
   Script Read(std::string_view utf8);
 
+  /// Has a function called before each line that the interpreter runs.
+  void BeforeEachLine(std::function<void()> look) { watch_.OnStep = std::move(look); }
+
   /// Starts the system and carries out the script.
   Outcome Run(const Script& script);
 

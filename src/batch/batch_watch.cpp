@@ -25,6 +25,7 @@ void BatchWatch::Step() {
   // Most steps take less time than the clock; a step that is slow because its text is long has ticks of its own.
   constexpr std::uint64_t stepsPerLook = 16;
   if (stepsTaken_ % stepsPerLook == 0) LookAtClock();
+  if (OnStep) OnStep();
 }
 
 void BatchWatch::Sleep(std::chrono::milliseconds duration) {

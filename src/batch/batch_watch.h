@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 
 #include "base/failure.h"
 #include "base/watch.h"
@@ -19,6 +20,8 @@ class BatchWatch final : public Watch {
   void BeginEvent();
 
   void Step() override;
+  /// Called at the end of each step, if set.
+  std::function<void()> OnStep;
   void Tick() override {
     if (tickLimit_ != 0 && ++ticksTaken_ > tickLimit_) throw Stopped{"ticks"};
     LookAtClock();

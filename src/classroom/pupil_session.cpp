@@ -109,6 +109,7 @@ void PupilSession::ReadFiles() {
   if (!order_.Who.Session.empty()) session_ = TakeFile(order_.Who.Session, "the session", order_.Within);
   const QString text = TextOfProgram(program_);
   outcome_.Findings = FindingsIn(text);
+  possibleZeros_ = PossibleZeros(Listing(text));
   // In a folder of the pupil's own, the files beside the program are the pupil's, too.
   if (order_.Who.Program.parent_path() == order_.Within) FindLoaded(text, order_.Who.Program, outcome_.Findings);
   ProgramSource source(text);
@@ -177,7 +178,7 @@ SessionRun& PupilSession::Played(const Play& play, const char* transcript) {
   // Closes the transcript of the run before, which this one may write again.
   lastRun_.reset();
   lastPlay_ = play;
-  lastRun_ = std::make_unique<SessionRun>(order_, transcript);
+  lastRun_ = std::make_unique<SessionRun>(order_, transcript, possibleZeros_);
   lastRun_->Run(play);
   return *lastRun_;
 }
@@ -210,10 +211,14 @@ void PupilSession::FindInTyped(const Play& play) {
   QStringList lines = QString::fromStdString(play.Session).split(u'\n');
   for (const std::string& line : play.Typed) lines.append(QString::fromLatin1(line.c_str()));
   for (const QString& line : lines) {
-    for (const Finding& finding : FindingsInCalls(TextOfProgram(program_), line.trimmed())) {
-      if (std::ranges::find(outcome_.Findings, finding) == outcome_.Findings.end())
-        outcome_.Findings.push_back(finding);
-    }
+    if (line.startsWith(u'@')) continue;
+    TakeFindings(FindingsInCalls(TextOfProgram(program_), line.trimmed()));
+  }
+}
+
+void PupilSession::TakeFindings(const Findings& findings) {
+  for (const Finding& finding : findings) {
+    if (std::ranges::find(outcome_.Findings, finding) == outcome_.Findings.end()) outcome_.Findings.push_back(finding);
   }
 }
 
@@ -221,6 +226,7 @@ void PupilSession::MatchSource(SessionRun& run) {
   ProgramSource source(TextOfProgram(program_));
   source.Match(run.form1.interpreter.store);
   outcome_.Where.ProgramLine = source.LineOf(run.StoreLine());
+  TakeFindings(run.Zeros().Found(source));
   outcome_.Source = std::move(source.Lines);
 }
 

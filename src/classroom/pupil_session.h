@@ -42,7 +42,9 @@ class PupilSession {
   void TakeEnd(const RunOutcome& went);
   /// Calls with other inputs than a procedure takes.
   void FindInTyped(const Play& play);
-  /// Adds what the store made of the program's lines.
+  /// Adds those that are not there yet.
+  void TakeFindings(const Findings& findings);
+  /// Adds what the store made of the program's lines, and what was seen on them.
   void MatchSource(SessionRun& run);
   void RunGoal(std::size_t index);
   void WritePicture(SessionRun& run, const std::string& file);
@@ -51,6 +53,7 @@ class PupilSession {
   Teller tell_;
   std::string program_;
   std::string session_;
+  Findings possibleZeros_;
   /// Nothing if the program is empty or one line.
   std::optional<ProgramOutline> outline_;
   /// What `LOAD` calls the program.

@@ -41,14 +41,16 @@ QString FromLatin1(const std::string& text) {
   return ShortText(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-SessionRun::SessionRun(const Order& order, const fs::path& transcript)
+SessionRun::SessionRun(const Order& order, const fs::path& transcript, const Findings& possibleZeros)
     : transcriptName_(transcript),
       transcriptFile_(transcript, LargestTranscript),
       // Pictures that a session asks for on its way are not written; the runner takes the last one.
       session_(
           SettingsOf(order), pictures_.Pixels(), journal_, [](const Surface&, const std::string&) {},
-          Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())) {
+          Disk::Confined(run_file::Scratch, order.Who.Program.parent_path())),
+      zeros_(session_.form1.interpreter, possibleZeros) {
   form1.Picture1.AddRecorder(recorder_);
+  if (zeros_.IsNeeded()) session_.BeforeEachLine([this] { zeros_.Look(); });
 }
 
 void SessionRun::Run(const Play& play) {

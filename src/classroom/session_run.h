@@ -9,6 +9,7 @@
 #include "classroom/drawings/drawing.h"
 #include "classroom/order.h"
 #include "classroom/transcript_reader.h"
+#include "classroom/zero_watch.h"
 
 namespace zerimo::classroom {
 
@@ -27,8 +28,8 @@ QString FromLatin1(const std::string& text);
 /// One session of a pupil's program in this process. Runs once.
 class SessionRun {
  public:
-  /// The transcript goes to a file.
-  SessionRun(const Order& order, const std::filesystem::path& transcript);
+  /// The transcript goes to a file. `possibleZeros` are looked for while it runs.
+  SessionRun(const Order& order, const std::filesystem::path& transcript, const Findings& possibleZeros);
 
   /// No failure in the session leaves this object.
   void Run(const Play& play);
@@ -36,6 +37,7 @@ class SessionRun {
   /// How it went, with any notes.
   const RunOutcome& Went() const { return outcome_; }
   const DrawingRecorder& Recorder() const { return recorder_; }
+  const ZeroWatch& Zeros() const { return zeros_; }
   /// What was said, from the transcript.
   Said Told() const;
   /// The line of the store where it was stopped, or 0.
@@ -58,6 +60,7 @@ class SessionRun {
   batch::PictureOutput pictures_;
   batch::BatchSession session_;
   DrawingRecorder recorder_;
+  ZeroWatch zeros_;
   RunOutcome outcome_;
   int storeLine_ = 0;
 

@@ -373,6 +373,26 @@ TEST_F(ClassProgramTest, TellsWhichProgramsAreAlike) {
   EXPECT_EQ(Page.find("of the lines are alike"), std::string::npos);
 }
 
+TEST_F(ClassProgramTest, ANameThatBecomesZeroIsFoundWhereThatChangesASum) {
+  const auto found = [this](const char* file) {
+    QStringList lines;
+    for (const QJsonValue& each : Pupil(file).value("findings").toArray())
+      lines.append(QString::number(each.toObject().value("line").toInt()) + u' ' +
+                   each.toObject().value("mistake").toString());
+    return lines;
+  };
+  Write("A.ZRM",
+        "TO A|CS|MAKE \"K 5|FD :K*2+7|MAKE \"K :K-5|FD :K*2+7|REPEAT 2 [FD 5*:K-2 RT :K]|"
+        "IF :K*2+7>3|FD 1|ENDIF|END|");
+  Write("B.ZRM", "TO B|CS|FD 9|MAKE \"K 5|MAKE \"K :K-5|BOX :K|END|TO BOX :S|FD :S*2+7|END|");
+  Write("HARMLESS.ZRM",
+        "TO HARMLESS|CS|MAKE \"K 5|FD :K*2+7|MAKE \"K :K-5|SETX :K*2|FD 4+:K*:K/2|FD (:K*2)+7|PRINT \":K*2+7\"|END|");
+  Run();
+  EXPECT_EQ(found("A.ZRM"), QStringList({"6 zero vanishes", "7 zero vanishes", "8 zero vanishes"}));
+  EXPECT_EQ(found("B.ZRM"), QStringList("9 zero vanishes"));
+  EXPECT_EQ(found("HARMLESS.ZRM"), QStringList());
+}
+
 TEST_F(ClassProgramTest, TheSamplesAreNotSuspicious) {
   int count = 0;
   for (const fs::directory_entry& entry : fs::directory_iterator(ZERIMO_SOURCE_DIR "/samples"))

@@ -15,8 +15,15 @@ std::vector<Finding> FindingsIn(const QString& program);
 /// Each is reported at the head of the procedure.
 std::vector<Finding> FindingsInCalls(const QString& program, const QString& typed);
 
-/// The parts of the search, each with a kind of its own; they add to what is there.
+/// The names in sums that change the rest of their sum if they vanish, as a name does that is 0: a sum that then begins
+/// with a `*` or `/` is 0 as a whole, and a sign after a `*` that has lost its number takes the next one.
+QStringList NamesThatMayNotVanish(const QStringList& sums);
+
+/// The same for all statements of a program, as what is found if such a name is 0 there.
 using Findings = std::vector<Finding>;
+Findings PossibleZeros(const Listing& listing);
+
+/// The parts of the search, each with a kind of its own; they add to what is there.
 void FindInStatements(const Listing& listing, Findings& findings);
 void FindInRepeats(const Listing& listing, Findings& findings);
 void FindInWords(const Listing& listing, Findings& findings);

@@ -111,20 +111,13 @@ QStringList PartsOfSum(QString sum) {
   return parts + sum.split(comparison);
 }
 
-/// A name that is 0 vanishes from its sum. What then begins with a `*` or `/` is 0 as a whole, and a sign after a `*`
-/// that has lost its number takes the next one.
 void FindZeros(const Listing& listing, Findings& findings) {
   QStringList zeros;
   for (const Statement& each : listing.Statements) {
     if (each.Is<StmtMake>() && each.Text.endsWith(" 0")) zeros.append(MadeBy(each));
   }
-  for (const Statement& statement : listing.Statements) {
-    for (const QString& name : std::as_const(zeros)) {
-      const QString word = QRegularExpression::escape(name);
-      const QRegularExpression harmful("^" + word + "[*/].*[-+]|[*]" + word + "[-*/%]");
-      const QStringList parts = PartsOfSum(listing.SumsOf(statement).join(u'='));
-      if (!parts.filter(harmful).isEmpty()) findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
-    }
+  for (const Finding& finding : PossibleZeros(listing)) {
+    if (zeros.contains(finding.Details.first())) findings.push_back(finding);
   }
 }
 
@@ -173,6 +166,24 @@ void FindSums(const Listing& listing, const Statement& call, Findings& findings)
 }
 
 }  // namespace
+
+QStringList NamesThatMayNotVanish(const QStringList& sums) {
+  static const QRegularExpression name("^:?[A-Za-z_]+(?=[*/].*[-+])|(?<=[*]):?[A-Za-z_]+(?=[-*/%])");
+  QStringList names;
+  for (const QString& part : PartsOfSum(sums.join(u'='))) {
+    for (auto walk = name.globalMatch(part); walk.hasNext();) names.append(walk.next().captured());
+  }
+  return names;
+}
+
+Findings PossibleZeros(const Listing& listing) {
+  Findings findings;
+  for (const Statement& statement : listing.Statements) {
+    for (const QString& name : NamesThatMayNotVanish(listing.SumsOf(statement)))
+      findings.push_back({Mistake::ZeroVanishes, statement.Line, {name}});
+  }
+  return findings;
+}
 
 void FindInNames(const Listing& listing, Findings& findings) {
   const QSet<QString> known = KnownNames(listing);
