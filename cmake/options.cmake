@@ -70,20 +70,63 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE MATCHES "^Rel")
   add_link_options(-Wl,-z,relro -Wl,-z,now)
 endif()
 
-# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library. Its sources may include their own
-# room and those that its library links, directly or through another; the build refuses all others.
+# zerimo_library(NAME SOURCES... [LINKS...]): one room of src/ as a static library. It may link only rooms that stand
+# before it. Its sources may include their own room and those that its library links, directly or through another; the
+# build refuses all others.
 function(zerimo_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  zerimo_room_links(links "${ARG_LINKS}")
+  foreach(link IN LISTS links)
+    if(NOT TARGET ${link})
+      message(FATAL_ERROR "${name} may not link ${link}: a room links only rooms that stand before it")
+    endif()
+  endforeach()
   add_library(${name} STATIC ${ARG_SOURCES})
+  set_property(GLOBAL APPEND PROPERTY ZERIMO_LIBRARIES ${name})
+  set_property(GLOBAL PROPERTY ZERIMO_LINKS_OF_${name} ${links})
+  set_property(GLOBAL PROPERTY ZERIMO_SOURCES_OF_${name} ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zerimo_options)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   zerimo_guard_room(${name})
 endfunction()
 
+# The names of our own libraries in a list of links, also within generator expressions.
+function(zerimo_room_links result links)
+  string(REGEX MATCHALL "zerimo_[a-z0-9_]+" found "${links}")
+  set(${result} ${found} PARENT_SCOPE)
+endfunction()
+
+# What a library is given after zerimo_library would get past the checks of its room.
+function(zerimo_check_additions)
+  get_property(libraries GLOBAL PROPERTY ZERIMO_LIBRARIES)
+  foreach(name IN LISTS libraries)
+    get_property(links GLOBAL PROPERTY ZERIMO_LINKS_OF_${name})
+    get_target_property(linked ${name} LINK_LIBRARIES)
+    get_target_property(lent ${name} INTERFACE_LINK_LIBRARIES)
+    zerimo_room_links(found "${linked};${lent}")
+    foreach(link IN LISTS found)
+      if(link IN_LIST libraries AND NOT link IN_LIST links)
+        message(FATAL_ERROR "${name} may not link ${link}: zerimo_library is given all rooms that a room links")
+      endif()
+    endforeach()
+
+    get_property(sources GLOBAL PROPERTY ZERIMO_SOURCES_OF_${name})
+    get_target_property(compiled ${name} SOURCES)
+    list(REMOVE_ITEM compiled ${sources})
+    foreach(source IN LISTS compiled)
+      cmake_path(IS_PREFIX PROJECT_BINARY_DIR "${source}" is_generated)
+      if(NOT is_generated)
+        message(FATAL_ERROR "${name} may not compile ${source}: zerimo_library is given all sources of a room")
+      endif()
+    endforeach()
+  endforeach()
+endfunction()
+cmake_language(DEFER CALL zerimo_check_additions)
+
 function(zerimo_guard_room name)
   file(RELATIVE_PATH room ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
   set(may_know ${room})
-  get_target_property(links ${name} LINK_LIBRARIES)
+  get_property(links GLOBAL PROPERTY ZERIMO_LINKS_OF_${name})
   foreach(link IN LISTS links)
     get_property(known GLOBAL PROPERTY ZERIMO_ROOMS_OF_${link})
     list(APPEND may_know ${known})
@@ -93,8 +136,7 @@ function(zerimo_guard_room name)
 
   get_target_property(sources ${name} SOURCES)
   list(TRANSFORM sources PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/*.hpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/*.inc)
+  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   # A room of two libraries: a header goes with its source.
   foreach(header IN LISTS headers)
     string(REGEX REPLACE "h$" "cpp" source ${header})

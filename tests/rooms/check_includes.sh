@@ -4,7 +4,7 @@
 . "$(dirname "$0")/../support/checks.sh"
 
 mkdir -p "$work/src/base" "$work/src/desktop/extensions"
-touch "$work/src/base/text.h" "$work/src/desktop/stage.h" "$work/src/desktop/extensions/stop.h"
+touch "$work/src/base/text.h" "$work/src/base/sneak.inl" "$work/src/desktop/stage.h" "$work/src/desktop/extensions/stop.h"
 
 # check ROOM LINE: whether a source of the room may have this line. It may know base and itself.
 check() {
@@ -33,3 +33,11 @@ refuses base '#include /* on purpose */ "desktop/stage.h"'
 refuses base '%:include "desktop/stage.h"'
 refuses base '  #  include "desktop/stage.h"'
 refuses base '#include_next "desktop/stage.h"'
+# Lines that a compiler joins.
+refuses base $'#\\\ninclude "desktop/stage.h"'
+refuses base $'#inc\\\nlude "desktop/stage.h"'
+refuses base $'#include \\ \n"desktop/stage.h"'
+refuses base $'# /*\n*/ include "desktop/stage.h"'
+refuses base "#include \"$work/src/desktop/stage.h\""
+# What no check reads.
+refuses base '#include "base/sneak.inl"'
