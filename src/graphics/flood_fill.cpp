@@ -1,7 +1,5 @@
 #include "graphics/flood_fill.h"
 
-#include <utility>
-
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "graphics/step_numbers.h"
@@ -23,7 +21,7 @@ void FloodFills::Bind() {
                          [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFillRGB); });
 }
 
-void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
+void FloodFills::FillFromTurtle(PrimitiveCall& call, FillProcedure procedure) {
   const Turtle& turtle = context_.turtle;
   context_.Picture1.SetScaleMode(Pixels);  // Never fails.
   const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
@@ -35,22 +33,23 @@ void FloodFills::FillFromTurtle(PrimitiveCall& call, Procedure procedure) {
 }
 
 void FloodFills::FloodFill(std::int16_t x, std::int16_t y, double color) {
+  // Leaves the failure to what calls it.
   FillRegion(x, y, [&] { context_.Picture1.SetFillColor(QBColor(ToInt16(color))); });
 }
 
 void FloodFills::FloodFillRGB(std::int16_t x, std::int16_t y, double color) {
+  // Leaves the failure to what calls it.
   FillRegion(x, y, [&] { context_.Picture1.SetFillColor(ToInt32(color)); });
 }
 
-template <typename SetFillColor>
-void FloodFills::FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor) {
+void FloodFills::FillRegion(std::int16_t x, std::int16_t y, const std::function<void()>& setFillColor) {
   Surface& surface = context_.Picture1;
-  surface.SetScaleMode(Pixels);
-  surface.SetFillStyle(Solid);
-  SkipOnFailure(std::forward<SetFillColor>(setFillColor));
+  surface.SetScaleMode(Pixels);  // Never fails.
+  surface.SetFillStyle(Solid);   // Never fails.
+  SkipOnFailure(setFillColor);
   SkipOnFailure([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
-  surface.SetScaleMode(SurfaceUnits);
-  // What FILLSTYLE and FILL had set is not restored: circles are outlines from now on.
+  surface.SetScaleMode(SurfaceUnits);  // Never fails.
+  // Never fails. What FILLSTYLE and FILL had set is not restored: circles are outlines from now on.
   surface.SetFillStyle(Transparent);
   SkipOnFailure([&] { context_.dispatch.RefreshSurface(); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "graphics/drawing_context.h"
 
@@ -21,11 +22,10 @@ class FloodFills {
   void FloodFillRGB(std::int16_t x, std::int16_t y, double color);
 
  private:
-  using Procedure = void (FloodFills::*)(std::int16_t x, std::int16_t y, double color);
+  using FillProcedure = void (FloodFills::*)(std::int16_t x, std::int16_t y, double color);
   /// The work of both primitives: fills from the turtle's pixel.
-  void FillFromTurtle(PrimitiveCall& call, Procedure procedure);
-  template <typename SetFillColor>
-  void FillRegion(std::int16_t x, std::int16_t y, SetFillColor&& setFillColor);
+  void FillFromTurtle(PrimitiveCall& call, FillProcedure procedure);
+  void FillRegion(std::int16_t x, std::int16_t y, const std::function<void()>& setFillColor);
 
   DrawingContext context_;
 };

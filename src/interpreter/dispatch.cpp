@@ -76,12 +76,12 @@ void Dispatch::Tail(const PrimitiveCall& call) {
 }
 
 void Dispatch::CountFails(const PrimitiveCall& call) {
-  if (call.OnFailure) call.OnFailure();
+  if (call.OnFailure) call.OnFailure();  // Never fails.
 }
 
 bool Dispatch::TailStatement(const PrimitiveCall& call, const std::function<void()>& statement) {
   if (SkipOnFailure(statement) || !call.OnFailure) return true;
-  call.OnFailure();
+  call.OnFailure();  // Never fails.
   return false;
 }
 

@@ -145,7 +145,7 @@ std::string Lowering::BodyFinder(int lineNumber) const {
   });
   SkipOnFailure([&] {
     const std::string& line = context_.store.Line(lineNumber);
-    // The last character is taken for the closing bracket, whatever it is.
+    // Leaves the body empty. The last character is taken for the closing bracket, whatever it is.
     body = Mid(line, open + 1, Length(line) - open - 1);
   });
   return body;

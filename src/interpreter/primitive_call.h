@@ -20,7 +20,7 @@ struct PrimitiveCall {
   /// The same text as a line of the store keeps it, or null if the line is none of the store's. Valid until that line
   /// changes.
   const EvaluatedText* Input = nullptr;
-  /// If an action sets it, a failing statement of the tail calls it instead of being skipped.
+  /// If an action sets it, a failing statement of the tail calls it instead of being skipped. It never fails itself.
   std::function<void()> OnFailure;
 };
 

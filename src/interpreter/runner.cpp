@@ -84,7 +84,7 @@ void Runner::Run1(std::string_view procedure) {
     case StmtPrimitive:
       SkipOnFailure([&] {
         context_.store.TrimLine(walk.Line);
-        dispatch_.Execute(context_.store.FormOf(walk.Line));
+        dispatch_.Execute(context_.store.FormOf(walk.Line));  // Never fails: there is such a line.
       });
       Advance(walk);
       break;
@@ -186,14 +186,15 @@ void Runner::ActOnElse(Walk& walk) {
   int ifs = 0;
   int endIfs = 0;
   for (int number = walk.Line; number <= Store::LineCount; ++number) {
-    if (context_.store.ClassOf(number) == StmtIf) ++ifs;
-    if (context_.store.ClassOf(number) == StmtEndIf) ++endIfs;
+    const StatementClass kind = context_.store.ClassOf(number);  // Never fails: there is such a line.
+    if (kind == StmtIf) ++ifs;
+    if (kind == StmtEndIf) ++endIfs;
     if (endIfs > ifs) {
       walk.Line = number + 1;
       context_.controlPath.WriteLine(walk.Line, Lead::Blank);
       return;
     }
-    if (context_.store.Line(number).empty()) {
+    if (context_.store.Line(number).empty()) {  // Never fails.
       context_.services.MessageBox("Misplaced Else");
       context_.controlPath.SetCtrlStr(".");
       break;

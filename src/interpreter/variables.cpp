@@ -321,7 +321,9 @@ std::string Variables::GlobalVariableReplacer(std::string& expression) const {
     std::string text = StrTrimmed(value);
     if (text == "0") text.clear();
     const int position = PositionOf(expression, name);
+    // Never fails, since the name stands in the text.
     const std::string after(Trimmed(From(expression, position + Length(name))));
+    // Never fails, for the same reason.
     expression = std::string(Trimmed(std::string(Left(expression, position - 1)) + text + after));
   } while (VariablePresent(expression));
   return expression;
