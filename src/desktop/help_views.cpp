@@ -16,7 +16,6 @@ namespace zerimo {
 namespace {
 
 constexpr double ListPoints = 10.5;
-constexpr double PagePoints = 12;
 constexpr double PageMargin = 16;
 /// 96 an inch.
 constexpr double DotsPerMetre = 96 / 0.0254;

@@ -200,6 +200,4 @@ Delivery DeliverFiles(const fs::path& source, const fs::path& target) {
 
 fs::path HelpFolderIn(const fs::path& folder) { return folder / HelpFolderName; }
 
-fs::path DeliveryListIn(const fs::path& folder) { return folder / ListName; }
-
 }  // namespace zerimo

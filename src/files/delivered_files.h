@@ -24,7 +24,4 @@ Delivery DeliverFiles(const std::filesystem::path& source, const std::filesystem
 /// The folder of the help pages in a folder that is delivered from or to.
 std::filesystem::path HelpFolderIn(const std::filesystem::path& folder);
 
-/// The hidden list in a folder that was delivered to.
-std::filesystem::path DeliveryListIn(const std::filesystem::path& folder);
-
 }  // namespace zerimo

@@ -20,7 +20,6 @@ class BodyArray {
   void Set(int index, std::string statement);
   /// Makes it the text ".".
   void BecomeDot() noexcept { dot_ = true; }
-  bool IsDot() const noexcept { return dot_; }
 
  private:
   std::array<std::string, LastIndex> statements_;

@@ -46,11 +46,11 @@ TEST_F(DeliveredFilesTest, ProgramsAndOtherFilesAreNotDelivered) {
 
 TEST_F(DeliveredFilesTest, TheSecondStartWritesNothing) {
   Start();
-  const auto before = fs::last_write_time(DeliveryListIn(Temp.Path / "user"));
+  const auto before = fs::last_write_time(Temp.Path / "user/.zerimo-files");
   const Delivery delivery = Start();
   EXPECT_EQ(delivery.Written, 0);
   EXPECT_EQ(delivery.Failed, 0);
-  EXPECT_EQ(fs::last_write_time(DeliveryListIn(Temp.Path / "user")), before);
+  EXPECT_EQ(fs::last_write_time(Temp.Path / "user/.zerimo-files"), before);
 }
 
 TEST_F(DeliveredFilesTest, ADeliveredFileCanBeWrittenAlsoIfItsSourceCanNot) {
@@ -115,7 +115,7 @@ TEST_F(DeliveredFilesTest, WithoutTheListAllThatIsMissingComesAgainAndNothingIsO
   Start();
   fs::remove(Temp.Path / "user/FLOWER.ZRM");
   Temp.Write("user/BOAT1.JPG", "my picture");
-  fs::remove(DeliveryListIn(Temp.Path / "user"));
+  fs::remove(Temp.Path / "user/.zerimo-files");
   Start();
   EXPECT_TRUE(Temp.Has("user/FLOWER.ZRM"));
   EXPECT_EQ(Temp.Read("user/BOAT1.JPG"), "my picture");

@@ -40,9 +40,8 @@ TEST_F(BodyArrayTest, HasIndexes1To200) {
 
 TEST_F(BodyArrayTest, ADotCantBeIndexed) {
   BodyArray statements;
-  EXPECT_FALSE(statements.IsDot());
+  EXPECT_EQ(FailureOf([&] { statements.At(1); }), std::nullopt);
   statements.BecomeDot();
-  EXPECT_TRUE(statements.IsDot());
   EXPECT_EQ(FailureOf([&] { statements.At(1); }), FailureKind::TypeMismatch);
 }
 
@@ -123,7 +122,8 @@ TEST_F(CreateBodyArrayTest, ABlankAtTheEndOfAStatementStays) {
 TEST_F(CreateBodyArrayTest, AnotherFailureMakesADotToo) {
   store.SetLine(1, "TO BOX" + Repeated(" :A", 255));
   std::string body = "FD 1 BOX 2";
-  EXPECT_TRUE(lowering.CreateBodyArray(body).IsDot());
+  const BodyArray statements = lowering.CreateBodyArray(body);
+  EXPECT_EQ(FailureOf([&] { statements.At(1); }), FailureKind::TypeMismatch);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/failure.h"
+#include "support/failure_of.h"
 #include "support/interpreter.h"
 #include "support/quoted.h"
 
@@ -25,7 +26,7 @@ class LoweringTest : public testing::Test, protected BareInterpreter {
   }
   Texts Split(std::string body) {
     const BodyArray statements = lowering.CreateBodyArray(body);
-    if (statements.IsDot()) return {"."};
+    if (FailureOf([&] { statements.At(1); }) == FailureKind::TypeMismatch) return {"."};
     Texts texts;
     for (int index = 1; index <= BodyArray::LastIndex && !statements.At(index).empty(); ++index) {
       texts.push_back(statements.At(index));

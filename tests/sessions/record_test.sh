@@ -16,11 +16,11 @@ fail() {
 
 # refuses STATUS WORDS ARGUMENT...: checks that record ends with the status and one line that has the words.
 refuses() {
-  local status=0 wanted=$1 words=$2 told
+  local status=0 wanted=$1 words=$2 said
   shift 2
-  told=$("$record" "$@" 2>&1) || status=$?
-  [ "$status" = "$wanted" ] || fail "record $* ends with $status: $told"
-  [[ $told == record:*"$words"* && $told != *$'\n'* ]] || fail "record $* says: $told"
+  said=$("$record" "$@" 2>&1) || status=$?
+  [ "$status" = "$wanted" ] || fail "record $* ends with $status: $said"
+  [[ $said == record:*"$words"* && $said != *$'\n'* ]] || fail "record $* says: $said"
 }
 
 refuses 2 usage
@@ -42,6 +42,9 @@ echo mine >mine.expected
 echo CS >mine.session
 refuses 1 'never overwritten' mine
 [ "$(cat mine.expected)" = mine ] || fail "an expectation is overwritten"
+ln -s nowhere away.expected
+echo CS >away.session
+refuses 1 'never overwritten' away
 
 echo '@nonsense' >wrong.session
 refuses 1 'does not run: zerimo-batch: -:1:' wrong
