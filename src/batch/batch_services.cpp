@@ -11,7 +11,7 @@ namespace zerimo::batch {
 
 namespace {
 
-std::string TakeFirst(std::deque<std::string>& queue) {
+std::string TakeFirst(std::deque<std::string>& queue) noexcept {
   if (queue.empty()) return {};
   std::string first = std::move(queue.front());
   queue.pop_front();

@@ -21,7 +21,7 @@ class BatchServices final : public Services {
   void QueueInput(std::string text) { inputs_.push_back(std::move(text)); }
   void QueueOpen(std::string fileName) { filesToOpen_.push_back(std::move(fileName)); }
   void QueueSave(std::string fileName) { filesToSave_.push_back(std::move(fileName)); }
-  void SetTimeOfDay(std::string text) { time_ = std::move(text); }
+  void SetTimeOfDay(std::string text) noexcept { time_ = std::move(text); }
 
   /// Fails with `SessionError` if the box has no button for the queued answer.
   Answer MessageBox(const std::string& text, int style, const std::string& title) override;

@@ -110,12 +110,12 @@ void BatchSession::Do(const action::TypeLine& act) {
 
 void BatchSession::Do(const action::EnterRow& act) {
   if (act.Row == action::EnterRow::RowWithFocus) {
-    PressEnter(RowWithFocus());
+    PressEnter(RowWithFocus());  // Leaves: the system ends.
     return;
   }
   // A hidden row can't have the focus, but Enter works on it all the same.
   SkipOnFailure([&] { form1.controls.Focus.SetFocus(form1.controls.Text1[act.Row]); });
-  PressEnter(act.Row);
+  PressEnter(act.Row);  // Leaves: the system ends.
 }
 
 void BatchSession::Do(const action::SetRow& act) { form1.controls.Text1[act.Row].Text = act.Text; }

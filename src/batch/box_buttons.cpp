@@ -2,7 +2,7 @@
 
 namespace zerimo::batch {
 
-const char* WordOf(Answer answer) {
+const char* WordOf(Answer answer) noexcept {
   switch (answer) {
     case Answer::OK:
       return "OK";
@@ -20,7 +20,7 @@ const char* WordOf(Answer answer) {
   return "";
 }
 
-const BoxButtons& ButtonsOf(int style) {
+const BoxButtons& ButtonsOf(int style) noexcept {
   static const BoxButtons plain{{Answer::OK}, Answer::OK};
   static const BoxButtons abortRetryIgnore{{Answer::Abort, Answer::Retry, Answer::Ignore}, Answer::Ignore};
   static const BoxButtons yesNo{{Answer::Yes, Answer::No}, Answer::No};

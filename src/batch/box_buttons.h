@@ -8,7 +8,7 @@
 namespace zerimo::batch {
 
 /// The word of a button: "OK", "Abort", ...
-const char* WordOf(Answer answer);
+const char* WordOf(Answer answer) noexcept;
 
 /// The buttons of a kind of box, and the one that is pressed if the session does not say.
 struct BoxButtons {
@@ -17,7 +17,7 @@ struct BoxButtons {
 };
 
 /// The buttons for a box's style, which is a number of buttons plus an icon.
-const BoxButtons& ButtonsOf(int style);
+const BoxButtons& ButtonsOf(int style) noexcept;
 
 /// The words of the buttons: "Abort, Retry, Ignore".
 std::string ButtonList(const BoxButtons& buttons);

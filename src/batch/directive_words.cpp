@@ -10,7 +10,7 @@
 
 namespace zerimo::batch {
 
-bool DirectiveWords::HasMore() const { return rest_.find_first_not_of(' ') != std::string_view::npos; }
+bool DirectiveWords::HasMore() const noexcept { return rest_.find_first_not_of(' ') != std::string_view::npos; }
 
 std::string_view DirectiveWords::OptionalWord() {
   rest_.remove_prefix(std::min(rest_.find_first_not_of(' '), rest_.size()));

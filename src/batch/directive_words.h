@@ -11,8 +11,8 @@ class DirectiveWords {
  public:
   DirectiveWords(std::string_view text, int line) : rest_(text), lineNumber_(line) {}
 
-  int Line() const { return lineNumber_; }
-  bool HasMore() const;
+  int Line() const noexcept { return lineNumber_; }
+  bool HasMore() const noexcept;
 
   /// The next word. If there is none, fails with a `SessionError` that names what is wanted.
   std::string_view Word(std::string_view wanted);

@@ -36,7 +36,7 @@ class Journal {
   /// throws `Stopped`; what comes after it is not counted.
   void Limit(std::uintmax_t bytes) { left_ = bytes; }
 
-  bool HasTranscript() const { return transcript_ != nullptr; }
+  bool HasTranscript() const noexcept { return transcript_ != nullptr; }
   void Write(const JsonLine& line);
   /// Flushes both streams, so that a reader never has to wait for what has already happened.
   void Flush();

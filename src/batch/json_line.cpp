@@ -40,7 +40,9 @@ void AppendEscaped(std::string& line, char character) {
   }
 }
 
-bool IsPlain(char character) { return character >= ' ' && character <= '~' && character != '"' && character != '\\'; }
+bool IsPlain(char character) noexcept {
+  return character >= ' ' && character <= '~' && character != '"' && character != '\\';
+}
 
 void AppendText(std::string& line, std::string_view latin1) {
   line += '"';

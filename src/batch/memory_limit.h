@@ -7,7 +7,7 @@ namespace zerimo::batch {
 class MemoryLimit {
  public:
   /// Whether this build can limit the memory of a process.
-  static bool IsThere();
+  static bool IsThere() noexcept;
 
   /// 0 is no limit.
   explicit MemoryLimit(int megabytes);

@@ -78,7 +78,7 @@ constexpr std::array<NamedDump, 4> DumpNames = {{
 
 /// The entry of a table with that name, or nothing.
 template <typename Table>
-const typename Table::value_type* Find(const Table& table, std::string_view name) {
+const typename Table::value_type* Find(const Table& table, std::string_view name) noexcept {
   for (const auto& entry : table) {
     if (entry.Name == name) return &entry;
   }

@@ -15,7 +15,7 @@ constexpr double LargestAxis = 1e100;
 /// Up to this width the pen is followed row by row; a wider one is followed in that many steps.
 constexpr int ExactPen = 512;
 
-double WholePart(double place) {
+double WholePart(double place) noexcept {
   return place < LargestWhole ? static_cast<double>(static_cast<int>(place)) : std::floor(place);
 }
 

@@ -16,9 +16,9 @@ class EllipseSpans {
   void WorkOut(double wholeA, double wholeB, int outlineWidth, double firstRow, int count);
 
   /// How far a row of the ellipse extends to each side of its middle column; negative for no pixel.
-  double Outer(int index) const { return outer_[static_cast<std::size_t>(index)]; }
+  double Outer(int index) const noexcept { return outer_[static_cast<std::size_t>(index)]; }
   /// The same for what the outline encloses.
-  double Inner(int index) const { return inner_[static_cast<std::size_t>(index)]; }
+  double Inner(int index) const noexcept { return inner_[static_cast<std::size_t>(index)]; }
 
  private:
   /// A pixel that is as far from the middle of a round pen as the outline is wide.

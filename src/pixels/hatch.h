@@ -26,6 +26,8 @@ inline constexpr std::array<HatchPattern, 8> HatchPatterns{{
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // diagonal cross
 }};
 
-inline const HatchPattern& HatchOf(int fillStyle) { return HatchPatterns[static_cast<std::size_t>(fillStyle)]; }
+inline const HatchPattern& HatchOf(int fillStyle) noexcept {
+  return HatchPatterns[static_cast<std::size_t>(fillStyle)];
+}
 
 }  // namespace zerimo

@@ -13,7 +13,7 @@ bool IsWithinReach(PixelPoint point) { return std::abs(point.X) <= Reach && std:
 
 double Size(PixelPoint point) { return std::max(std::abs(point.X), std::abs(point.Y)); }
 
-PixelPoint Swapped(PixelPoint point) { return {point.Y, point.X}; }
+PixelPoint Swapped(PixelPoint point) noexcept { return {point.Y, point.X}; }
 
 struct Ends {
   PixelPoint From;
@@ -48,7 +48,7 @@ std::optional<Ends> Cut(Ends line) {
 }
 
 /// The quick test comes first: most places are whole already.
-int Whole(double place) {
+int Whole(double place) noexcept {
   const int cut = static_cast<int>(place);
   return cut == place ? cut : static_cast<int>(std::nearbyint(place));
 }

@@ -19,10 +19,10 @@ class Steps {
     remainder_ = travelled % (2 * static_cast<std::int64_t>(length_));
   }
 
-  int Offset() const { return direction_ * offset_; }
+  int Offset() const noexcept { return direction_ * offset_; }
 
   /// One step along the long side; returns whether the place across has changed.
-  bool Advance() {
+  bool Advance() noexcept {
     remainder_ += 2 * static_cast<std::int64_t>(rise_);
     if (remainder_ < 2 * static_cast<std::int64_t>(length_)) return false;
     remainder_ -= 2 * static_cast<std::int64_t>(length_);

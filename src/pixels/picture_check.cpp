@@ -12,31 +12,31 @@ class ByteWalk {
  public:
   explicit ByteWalk(std::string_view content) : bytes_(content) {}
 
-  bool IsInside() const { return position_ <= Size(); }
-  bool IsAtEnd() const { return position_ >= Size(); }
-  void Skip(std::int64_t count) { position_ += count; }
-  void GoTo(std::int64_t place) { position_ = place; }
-  std::int64_t Size() const { return static_cast<std::int64_t>(bytes_.size()); }
+  bool IsInside() const noexcept { return position_ <= Size(); }
+  bool IsAtEnd() const noexcept { return position_ >= Size(); }
+  void Skip(std::int64_t count) noexcept { position_ += count; }
+  void GoTo(std::int64_t place) noexcept { position_ = place; }
+  std::int64_t Size() const noexcept { return static_cast<std::int64_t>(bytes_.size()); }
 
-  unsigned Byte() {
+  unsigned Byte() noexcept {
     const unsigned value =
         position_ < Size() ? static_cast<unsigned char>(bytes_[static_cast<std::size_t>(position_)]) : 0U;
     ++position_;
     return value;
   }
-  unsigned BigEndian16() {
+  unsigned BigEndian16() noexcept {
     const unsigned high = Byte();
     return high << 8U | Byte();
   }
-  std::int64_t BigEndian32() {
+  std::int64_t BigEndian32() noexcept {
     const unsigned high = BigEndian16();
     return std::int64_t{high} << 16 | BigEndian16();
   }
-  unsigned LittleEndian16() {
+  unsigned LittleEndian16() noexcept {
     const unsigned low = Byte();
     return low | Byte() << 8U;
   }
-  std::int64_t LittleEndian32() {
+  std::int64_t LittleEndian32() noexcept {
     const unsigned low = LittleEndian16();
     return static_cast<std::int32_t>(low | LittleEndian16() << 16U);
   }
@@ -60,7 +60,7 @@ struct BitmapHeader {
   std::int64_t CodedSize;
 };
 
-BitmapHeader ReadBitmapHeader(ByteWalk walk) {
+BitmapHeader ReadBitmapHeader(ByteWalk walk) noexcept {
   BitmapHeader header{};
   walk.GoTo(10);
   header.PixelsAt = walk.LittleEndian32();
@@ -76,7 +76,7 @@ BitmapHeader ReadBitmapHeader(ByteWalk walk) {
 }
 
 /// Run-length data of unstated size ends with the mark of the bitmap's end.
-bool IsWholeCoding(const BitmapHeader& header, ByteWalk walk) {
+bool IsWholeCoding(const BitmapHeader& header, ByteWalk walk) noexcept {
   if (header.CodedSize < 0) return false;
   if (header.CodedSize > 0) return header.PixelsAt + header.CodedSize <= walk.Size();
   walk.GoTo(walk.Size() - 2);
@@ -96,7 +96,7 @@ bool IsWholeBitmap(const ByteWalk& walk) {
 }
 
 /// Skips the entropy-coded data after a scan's header, up to the marker that ends it.
-void SkipScan(ByteWalk& walk) {
+void SkipScan(ByteWalk& walk) noexcept {
   while (!walk.IsAtEnd()) {
     if (walk.Byte() != 0xFF) continue;
     const unsigned code = walk.Byte();
@@ -107,7 +107,7 @@ void SkipScan(ByteWalk& walk) {
   }
 }
 
-bool IsWholeJpeg(ByteWalk walk) {
+bool IsWholeJpeg(ByteWalk walk) noexcept {
   constexpr unsigned EndOfImage = 0xD9;
   constexpr unsigned StartOfScan = 0xDA;
   walk.Skip(2);
@@ -124,16 +124,16 @@ bool IsWholeJpeg(ByteWalk walk) {
   return false;
 }
 
-void SkipGifBlocks(ByteWalk& walk) {
+void SkipGifBlocks(ByteWalk& walk) noexcept {
   for (unsigned length = walk.Byte(); length != 0; length = walk.Byte()) walk.Skip(length);
 }
 
-void SkipGifColours(ByteWalk& walk, unsigned flags) {
+void SkipGifColours(ByteWalk& walk, unsigned flags) noexcept {
   if ((flags & 0x80U) != 0) walk.Skip(3 * (std::int64_t{2} << (flags & 7U)));
 }
 
 /// Complete to the end of its first picture, the only one that is shown.
-bool IsWholeGif(ByteWalk walk) {
+bool IsWholeGif(ByteWalk walk) noexcept {
   constexpr unsigned Extension = 0x21;
   constexpr unsigned Picture = 0x2C;
   walk.Skip(10);
@@ -153,7 +153,7 @@ bool IsWholeGif(ByteWalk walk) {
   return walk.IsInside();
 }
 
-bool IsWholePng(ByteWalk walk) {
+bool IsWholePng(ByteWalk walk) noexcept {
   constexpr std::int64_t EndOfImage = 0x49454E44;
   walk.Skip(8);
   while (!walk.IsAtEnd()) {

@@ -20,13 +20,13 @@ class PixelBuffer {
         rows_(rows),
         pixels_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), pixel) {}
 
-  int Columns() const { return columns_; }
-  int Rows() const { return rows_; }
-  PixelRect Bounds() const { return {0, 0, columns_ - 1, rows_ - 1}; }
+  int Columns() const noexcept { return columns_; }
+  int Rows() const noexcept { return rows_; }
+  PixelRect Bounds() const noexcept { return {0, 0, columns_ - 1, rows_ - 1}; }
 
   /// The pixels of a row of the buffer; the rows below it follow.
-  Pixel* Row(int row) { return pixels_.data() + Offset(row); }
-  const Pixel* Row(int row) const { return pixels_.data() + Offset(row); }
+  Pixel* Row(int row) noexcept { return pixels_.data() + Offset(row); }
+  const Pixel* Row(int row) const noexcept { return pixels_.data() + Offset(row); }
 
   void Fill(Pixel pixel) { std::fill(pixels_.begin(), pixels_.end(), pixel); }
   /// The area must be inside the buffer.
@@ -35,7 +35,7 @@ class PixelBuffer {
   }
 
  private:
-  std::ptrdiff_t Offset(int row) const { return static_cast<std::ptrdiff_t>(row) * columns_; }
+  std::ptrdiff_t Offset(int row) const noexcept { return static_cast<std::ptrdiff_t>(row) * columns_; }
 
   int columns_ = 0;
   int rows_ = 0;

@@ -135,7 +135,7 @@ void PixelCanvas::Ellipse(const Stroke& stroke, const Filling& filling, PixelPoi
 
 void PixelCanvas::Point(const Stroke& stroke, PixelPoint at) { Line(stroke, at, at); }
 
-bool PixelCanvas::Covers(PixelPoint at) const {
+bool PixelCanvas::Covers(PixelPoint at) const noexcept {
   return at.X >= 0 && at.Y >= 0 && at.X < pixels_.Columns() && at.Y < pixels_.Rows();
 }
 
@@ -173,7 +173,7 @@ void PixelCanvas::PutPixels(const PixelBuffer& pixels) {
   Changed(pixels_.Bounds());
 }
 
-PixelRect PixelCanvas::TakeDirty() { return std::exchange(dirty_, {}); }
+PixelRect PixelCanvas::TakeDirty() noexcept { return std::exchange(dirty_, {}); }
 
 PixelCanvas::Pen PixelCanvas::MakePen(const Stroke& stroke) {
   return {stroke, MakeRasterOperation(stroke.DrawMode, stroke.Color),

@@ -33,15 +33,15 @@ class PixelCanvas : public Canvas {
   void LoadPicture(const std::filesystem::path& file, Colour background) override;
   void SavePicture(const std::filesystem::path& file, int width, int height) const override;
 
-  const PixelBuffer& Pixels() const { return pixels_; }
+  const PixelBuffer& Pixels() const noexcept { return pixels_; }
   /// Takes over pixels, whatever was drawn before.
   void PutPixels(const PixelBuffer& pixels);
 
   /// The rectangle around everything that may have changed since the last call.
-  PixelRect TakeDirty();
+  PixelRect TakeDirty() noexcept;
 
   /// The rectangle around what the last operation may have changed.
-  const PixelRect& LastChange() const { return lastChange_; }
+  const PixelRect& LastChange() const noexcept { return lastChange_; }
 
  private:
   /// What lines and outlines are drawn with, kept for as long as the stroke stays the same.
@@ -53,7 +53,7 @@ class PixelCanvas : public Canvas {
   static Pen MakePen(const Stroke& stroke);
 
   const Pen& PenOf(const Stroke& stroke);
-  bool Covers(PixelPoint at) const;
+  bool Covers(PixelPoint at) const noexcept;
   void Changed(const PixelRect& area);
   /// Nothing is drawn.
   void IsClearNow(Pixel ground);

@@ -20,7 +20,7 @@ constexpr int Block = 64;
 
 /// Whether all pixels of a block have a colour. The ends come first, for the short runs of a maze; the loop has no
 /// branches, so that the compiler can compare several pixels at a time.
-bool IsAll(const Pixel* block, Pixel colour) {
+bool IsAll(const Pixel* block, Pixel colour) noexcept {
   if (block[0] != colour || block[Block - 1] != colour) return false;
   Pixel difference = 0;
   for (int n = 0; n < Block; ++n) difference |= block[n] ^ colour;
@@ -57,14 +57,14 @@ class Flood {
     }
   }
 
-  bool LeadsToOneRun(const Stretch& before, const Stretch& stretch) const {
+  bool LeadsToOneRun(const Stretch& before, const Stretch& stretch) const noexcept {
     if (before.Row != stretch.Row || before.Direction != stretch.Direction) return false;
     if (before.Last + 2 != stretch.First) return false;
     const Pixel* gap = pixels_.Row(stretch.Row) + before.Last;
     return gap[0] == old_ && gap[1] == old_ && gap[2] == old_;
   }
 
-  Stretch Take() {
+  Stretch Take() noexcept {
     const Stretch stretch = open_.back();
     open_.pop_back();
     return stretch;

@@ -13,9 +13,9 @@ struct PixelRect {
 
   bool operator==(const PixelRect&) const = default;
 
-  bool IsEmpty() const { return Left > Right || Top > Bottom; }
-  int Columns() const { return Right - Left + 1; }
-  int Rows() const { return Bottom - Top + 1; }
+  bool IsEmpty() const noexcept { return Left > Right || Top > Bottom; }
+  int Columns() const noexcept { return Right - Left + 1; }
+  int Rows() const noexcept { return Bottom - Top + 1; }
 };
 
 /// The smallest rectangle around two; an empty one adds nothing.
@@ -27,32 +27,32 @@ inline PixelRect United(const PixelRect& one, const PixelRect& other) {
 }
 
 /// A column or row that may be anywhere, as a whole number between two limits. Not-a-number gives the lower limit.
-inline int Clamped(double place, int least, int greatest) {
+inline int Clamped(double place, int least, int greatest) noexcept {
   if (!(place > least)) return least;
   return place < greatest ? static_cast<int>(place) : greatest;
 }
 
 /// The first whole number at or after a place that may be anywhere, between two limits.
-inline int FirstFrom(double place, int least, int greatest) {
+inline int FirstFrom(double place, int least, int greatest) noexcept {
   const int cut = Clamped(place, least, greatest);
   return cut < place && cut < greatest ? cut + 1 : cut;
 }
 
 /// The last whole number at or before a place that may be anywhere, between two limits.
-inline int LastTo(double place, int least, int greatest) {
+inline int LastTo(double place, int least, int greatest) noexcept {
   const int cut = Clamped(place, least, greatest);
   return cut > place && cut > least ? cut - 1 : cut;
 }
 
 /// The same for places between 0 and the greatest `int`.
-inline int FirstFrom(double place) {
+inline int FirstFrom(double place) noexcept {
   const int cut = static_cast<int>(place);
   return cut + static_cast<int>(cut < place);
 }
-inline int LastTo(double place) { return static_cast<int>(place); }
+inline int LastTo(double place) noexcept { return static_cast<int>(place); }
 
 /// The part of a rectangle (edges included) that is on a canvas of that size; an empty one if there is none.
-inline PixelRect OnCanvas(double left, double top, double right, double bottom, int columns, int rows) {
+inline PixelRect OnCanvas(double left, double top, double right, double bottom, int columns, int rows) noexcept {
   return {Clamped(left, 0, columns), Clamped(top, 0, rows), Clamped(right, -1, columns - 1),
           Clamped(bottom, -1, rows - 1)};
 }

@@ -10,9 +10,9 @@ struct RasterOperation {
   Pixel Keep;
   Pixel Toggle;
 
-  Pixel Apply(Pixel pixel) const { return (pixel & Keep) ^ Toggle; }
+  Pixel Apply(Pixel pixel) const noexcept { return (pixel & Keep) ^ Toggle; }
   /// Whether the former pixels make no difference: every pixel becomes Toggle.
-  bool IsPlain() const { return Keep == 0; }
+  bool IsPlain() const noexcept { return Keep == 0; }
 };
 
 /// `drawMode` is 1 to 16.

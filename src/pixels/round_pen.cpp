@@ -9,7 +9,7 @@ RoundPen::RoundPen(int width) : width_(width), kept_{} {
   for (int row = 0; row < width; ++row) kept_[static_cast<std::size_t>(row)] = WorkOut(row);
 }
 
-ColumnSpan RoundPen::WorkOut(int row) const {
+ColumnSpan RoundPen::WorkOut(int row) const noexcept {
   const double radius = width_ / 2.0;
   const double shift = width_ % 2 == 0 ? 0.5 : 0;
   const double distance = row - Above() + shift;

@@ -20,17 +20,19 @@ class RoundPen {
   /// Pixels, from 1.
   explicit RoundPen(int width);
 
-  int Width() const { return width_; }
+  int Width() const noexcept { return width_; }
   /// Rows above the one that the pen is put on.
-  int Above() const { return width_ / 2; }
+  int Above() const noexcept { return width_ / 2; }
 
   /// The columns in a row of the pen, 0 to its width minus one from the top, relative to the column that it is put on.
-  ColumnSpan Row(int row) const { return width_ <= WidestKept ? kept_[static_cast<std::size_t>(row)] : WorkOut(row); }
+  ColumnSpan Row(int row) const noexcept {
+    return width_ <= WidestKept ? kept_[static_cast<std::size_t>(row)] : WorkOut(row);
+  }
 
  private:
   static constexpr int WidestKept = 64;
 
-  ColumnSpan WorkOut(int row) const;
+  ColumnSpan WorkOut(int row) const noexcept;
 
   int width_;
   std::array<ColumnSpan, WidestKept> kept_;
