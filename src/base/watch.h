@@ -2,6 +2,9 @@
 
 namespace zerimo {
 
+/// Showing what a run does takes at most one part in so many of the time.
+constexpr int ShareOfShowing = 4;
+
 /// Watches over a run that may never end. A shell enforces its limits here, lets the window repaint, and throws
 /// `Stopped` or `Ended` to leave a run wherever it is.
 class Watch {

@@ -2,10 +2,10 @@
 
 #if ZERIMO_LIMITS_MEMORY
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <fstream>
+
+#include "base/process_memory.h"
 #endif
 
 namespace zerimo::batch {
@@ -22,13 +22,9 @@ void LimitAddressSpace(rlim_t bytes) {
   setrlimit(RLIMIT_AS, &limit);
 }
 
-rlim_t AddressSpaceInUse() {
-  rlim_t pages = 0;
-  std::ifstream("/proc/self/statm") >> pages;
-  return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+void AllowMore(int megabytes) {
+  LimitAddressSpace(MemoryOfProcess().Addresses + (static_cast<rlim_t>(megabytes) << 20));
 }
-
-void AllowMore(int megabytes) { LimitAddressSpace(AddressSpaceInUse() + (static_cast<rlim_t>(megabytes) << 20)); }
 void AllowAll() { LimitAddressSpace(RLIM_INFINITY); }
 
 #else
@@ -40,7 +36,7 @@ void AllowAll() {}
 
 }  // namespace
 
-bool MemoryLimit::IsThere() { return ZERIMO_LIMITS_MEMORY != 0; }
+bool MemoryLimit::IsThere() noexcept { return ZERIMO_LIMITS_MEMORY != 0; }
 
 MemoryLimit::MemoryLimit(int megabytes) : isSet_(megabytes > 0) {
   if (isSet_) AllowMore(megabytes);

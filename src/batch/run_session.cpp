@@ -119,6 +119,12 @@ class Program {
 
 }  // namespace
 
+bool AnswersQuestion(const Options& options, const std::string& help, const std::string& version) {
+  if (options.What == Options::Wish::Help) std::cout << help;
+  if (options.What == Options::Wish::Version) std::cout << "zerimo-batch " << version << '\n';
+  return options.What != Options::Wish::Run;
+}
+
 int Complain(const std::string& words) {
   std::cerr << "zerimo-batch: " << words << '\n';
   return static_cast<int>(Ending::Refused);

@@ -38,7 +38,7 @@ std::vector<fs::path> VisibleNamesIn(const fs::path& folder) {
 }
 
 /// Whether a folder is one that archives from a Mac have beside the pupils', or has the pictures of a report.
-bool IsMadeByPrograms(const fs::path& folder) { return folder == "__MACOSX" || EndsIn(folder, ".pictures"); }
+bool IsMadeByPrograms(const fs::path& folder) { return folder == "__MACOSX" || EndsIn(folder, PicturesEnding); }
 
 /// Levels of folders below folders, as in an export of a learning platform.
 constexpr int DeepestFolder = 4;

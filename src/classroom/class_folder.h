@@ -8,6 +8,9 @@
 
 namespace zerimo::classroom {
 
+/// The ending of a folder with the pictures of a report, or of a part of one. Such a folder is no pupil's.
+constexpr const char* PicturesEnding = ".pictures";
+
 /// The programs of a folder and of the folders below it, deeper ones later; a program in a folder below has the
 /// folder's name. Within a folder they are in the order of their names, ignoring case. Anything with a program's
 /// name counts as one, unless it is hidden; so does a link to a folder outside, unless such links are followed. A

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "base/failure.h"
+#include "classroom/class_folder.h"
 #include "classroom/readable.h"
 #include "classroom/record.h"
 #include "files/disk_files.h"
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 
 std::string KeyOf(const fs::path& program) { return NameOf(fs::absolute(program)).toStdString(); }
 
-fs::path PicturesOf(fs::path part) { return part += ".pictures"; }
+fs::path PicturesOf(fs::path part) { return part += PicturesEnding; }
 
 /// The files of a run's folder that a report shows.
 void CopyPictures(const fs::path& from, const fs::path& to) {

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "classroom/findings/listing.h"
+#include "interpreter/lowering.h"
 
 namespace zerimo::classroom {
 
@@ -60,7 +61,7 @@ void ProgramSource::Match(const Store& store) {
 
 int ProgramSource::LengthOfRepeat(const Store& store, int first) {
   const std::string label = LineAt(store, first + 1);
-  if (!LineAt(store, first).starts_with("MAKE #") || !label.starts_with("LABEL $")) return 0;
+  if (!SetsRepeatCounter(LineAt(store, first)) || !IsRepeatLabel(label)) return 0;
   const std::string jump = "GOTO " + label.substr(6);
   for (int line = first + 2; !LineAt(store, line).empty(); ++line) {
     if (LineAt(store, line) == jump) return line + 2 - first;

@@ -6,6 +6,7 @@
 #include "base/failure.h"
 #include "batch/errors.h"
 #include "batch/memory_limit.h"
+#include "classroom/class_folder.h"
 #include "classroom/marks.h"
 #include "classroom/page_html.h"
 #include "classroom/readable.h"
@@ -112,7 +113,7 @@ void ReportFiles::Write(const Report& report) const {
   if (!options_.Pupils.empty()) WritePupils(report);
 }
 
-fs::path ReportFiles::PicturesBeside(fs::path page) { return page.replace_extension(".pictures"); }
+fs::path ReportFiles::PicturesBeside(fs::path page) { return page.replace_extension(PicturesEnding); }
 
 void ReportFiles::WritePupils(const Report& report) const {
   std::set<std::string> taken;

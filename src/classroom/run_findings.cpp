@@ -19,7 +19,6 @@ constexpr double TitleIsClearFrom = 0.2;
 constexpr double TitleIsClearTo = 0.74;
 
 constexpr const char* FenceWords = "outside of the Fence";
-constexpr const char* MissingWords = "Required Paramiter Missing After ";
 
 /// Adds a finding about the run as a whole, once.
 void Add(std::vector<Finding>& findings, Mistake what, const QStringList& details = {}) {
@@ -35,9 +34,9 @@ bool Has(const std::vector<Finding>& findings, Mistake what, const QString& word
 void FindInBoxes(const std::vector<ShownBox>& boxes, std::vector<Finding>& findings) {
   for (const ShownBox& box : boxes) {
     if (box.Text.contains(FenceWords)) Add(findings, Mistake::FenceHit);
-    const qsizetype place = box.Text.indexOf(MissingWords);
+    const qsizetype place = box.Text.indexOf(MissingInputWords);
     if (place < 0) continue;
-    const QString word = box.Text.mid(place + QLatin1String(MissingWords).size()).section(u' ', 0, 0);
+    const QString word = box.Text.mid(place + QLatin1String(MissingInputWords).size()).section(u' ', 0, 0);
     if (!Has(findings, Mistake::MissingInputs, word)) Add(findings, Mistake::InputAsked, {word});
   }
 }

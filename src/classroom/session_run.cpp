@@ -4,6 +4,7 @@
 #include "batch/errors.h"
 #include "classroom/findings/known_words.h"
 #include "files/disk_files.h"
+#include "interpreter/lowering.h"
 
 namespace zerimo::classroom {
 
@@ -19,8 +20,7 @@ constexpr qsizetype LongestText = 200;
 /// line is a procedure of such a name.
 QString StatementOf(const std::string& line) {
   if (line.starts_with("TO #")) return {};
-  const bool isOfRepeat =
-      line.find('#') != std::string::npos || line.starts_with("LABEL $") || line.starts_with("GOTO $");
+  const bool isOfRepeat = line.find('#') != std::string::npos || IsRepeatLabel(line) || IsRepeatJump(line);
   return isOfRepeat ? NameOf(IsOneOf<inputs::Repeat>) : FromLatin1(line);
 }
 

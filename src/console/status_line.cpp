@@ -13,8 +13,6 @@ constexpr std::array<std::string_view, 16> ColourNames = {
     "Dark Gray", "Light Blue", "Light Green", "Cyan",     "Light Red", "Light Pink", "Yellow", "White",
 };
 
-constexpr double Pi = 3.1415927;
-
 }  // namespace
 
 std::string_view ColourName(std::int32_t code) noexcept {
@@ -30,7 +28,7 @@ void StatusLine::TitleText() {
   const double x = Divide(RoundHalfEven(turtle_.TurtleX - static_cast<double>(form.Width / 2)), turtle_.Resolution);
   const double y =
       Divide(RoundHalfEven(static_cast<double>(form.Height() / 2) - turtle_.TurtleY), turtle_.Resolution);  // Leaves.
-  const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / Pi);                                     // Leaves.
+  const std::int16_t direction = ToInt16(180 * turtle_.TurtleDir / ShownPi);                                // Leaves.
   controls_.Form1.SetCaption("Zerimo        [Xpos:" + Str(x) + "]  [Ypos:" + Str(y) +
                              "]  [RT-Direction: " + Str(direction) + "]  [Pen Color:" + pen +
                              "]  [BG Color: " + background + "]  [Pen State:" + state + "]");

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/process_memory.h"
 #include "base/wide_registers.h"
 
 namespace zerimo {
@@ -11,8 +12,6 @@ namespace {
 constexpr std::chrono::milliseconds Frame{16};
 /// For thirty pictures a second.
 constexpr std::chrono::milliseconds LongestFrame{33};
-/// Showing takes at most a quarter of the time, unless that would leave too few pictures.
-constexpr int ShareOfShowing = 4;
 
 }  // namespace
 
@@ -37,12 +36,12 @@ void FrameWatch::Look() {
 }
 
 void FrameWatch::ShowFrame() {
-  if (MemoryInUse() > MostMemory) throw OutOfMemory();
+  if (MemoryOfProcess().Occupied > MostMemory) throw OutOfMemory();
   const Clock::time_point start = Clock::now();
   stage_.ShowState();
   FreeWideRegisters();
   const Clock::duration took = Clock::now() - start;
-  // Where pictures are slow, the run gets as much time as they do.
+  // Where the share would leave too few pictures, the run gets as much time as they do.
   nextFrame_ = start + std::clamp<Clock::duration>(ShareOfShowing * took, Frame,
                                                    std::max<Clock::duration>(LongestFrame, 2 * took));
 }

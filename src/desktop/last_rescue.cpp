@@ -29,9 +29,9 @@ LastRescue::LastRescue(const Form1& form1, const Extensions& extensions, Stage& 
 std::optional<std::string> LastRescue::Keep(const std::string& reason) {
   for (bool isCopied = false;;) {
     if (auto words = Try()) return words;
-    const Wish wish = Ask(reason, isCopied);
-    if (wish == Wish::GiveUp) return std::nullopt;
-    if (wish == Wish::TryAgain) continue;
+    const Choice choice = Ask(reason, isCopied);
+    if (choice == Choice::GiveUp) return std::nullopt;
+    if (choice == Choice::TryAgain) continue;
     QGuiApplication::clipboard()->setText(WithLineEnds(form1_.controls.Text2.Text));
     isCopied = true;
   }
@@ -45,7 +45,7 @@ std::optional<std::string> LastRescue::Try() const {
   return "The text of the editor has been saved in " + Folders::ToSystem(*file);
 }
 
-LastRescue::Wish LastRescue::Ask(const std::string& reason, bool isCopied) {
+LastRescue::Choice LastRescue::Ask(const std::string& reason, bool isCopied) {
   const std::string text = (reason.empty() ? "" : reason + "\r\r") + (isCopied ? Copied : NotKept);
   QMessageBox box(QMessageBox::Critical, QLatin1String(ProgramName), WithLineEnds(text), QMessageBox::NoButton,
                   &stage_.Window());
@@ -55,8 +55,8 @@ LastRescue::Wish LastRescue::Ask(const std::string& reason, bool isCopied) {
   box.setDefaultButton(again);
   box.setEscapeButton(end);
   stage_.Ask(box);
-  if (box.clickedButton() == copy) return Wish::Copy;
-  return box.clickedButton() == again ? Wish::TryAgain : Wish::GiveUp;
+  if (box.clickedButton() == copy) return Choice::Copy;
+  return box.clickedButton() == again ? Choice::TryAgain : Choice::GiveUp;
 }
 
 }  // namespace zerimo

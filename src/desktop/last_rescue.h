@@ -22,10 +22,10 @@ class LastRescue {
   std::optional<std::string> Keep(const std::string& reason);
 
  private:
-  enum class Wish { Copy, TryAgain, GiveUp };
+  enum class Choice { Copy, TryAgain, GiveUp };
 
   std::optional<std::string> Try() const;
-  Wish Ask(const std::string& reason, bool isCopied);
+  Choice Ask(const std::string& reason, bool isCopied);
 
   const Form1& form1_;
   const Extensions& extensions_;

@@ -4,8 +4,6 @@
 
 #ifdef __linux__
 #include <unistd.h>
-
-#include <fstream>
 #endif
 
 namespace zerimo {
@@ -18,13 +16,6 @@ constexpr std::uint64_t MostToSpare = std::uint64_t{2} << 30;
 
 #ifdef __linux__
 
-std::uint64_t MemoryInUse() {
-  std::uint64_t taken = 0;
-  std::uint64_t pages = 0;
-  std::ifstream("/proc/self/statm") >> taken >> pages;
-  return pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-}
-
 std::uint64_t MemoryToSpare() {
   const long pages = sysconf(_SC_PHYS_PAGES);
   if (pages <= 0) return MostToSpare;
@@ -33,8 +24,6 @@ std::uint64_t MemoryToSpare() {
 }
 
 #else
-
-std::uint64_t MemoryInUse() { return 0; }
 
 std::uint64_t MemoryToSpare() { return MostToSpare; }
 

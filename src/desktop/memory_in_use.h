@@ -11,9 +11,6 @@ class OutOfMemory : public std::exception {
   const char* what() const noexcept override { return "The program needs more memory than the computer can spare."; }
 };
 
-/// The bytes of memory that this process occupies; 0 where the operating system does not tell.
-std::uint64_t MemoryInUse();
-
 /// The bytes that a process may occupy before others suffer: half of the machine's memory, but not more than 2
 /// gigabytes.
 std::uint64_t MemoryToSpare();

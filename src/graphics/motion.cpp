@@ -10,7 +10,7 @@ namespace zerimo {
 
 namespace {
 
-/// Neither pi nor the figure's `FigurePi`: a full turn leaves the heading at about 6.2831874.
+/// Neither pi nor the figure's `ShownPi`: a full turn leaves the heading at about 6.2831874.
 constexpr double TurnPi = 3.1415937;
 
 }  // namespace

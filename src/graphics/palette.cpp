@@ -11,8 +11,6 @@ namespace zerimo {
 
 namespace {
 
-constexpr double HintPi = 3.1415927;
-
 /// The word that a button chooses, or the empty text.
 std::string ChosenWord(MouseButton button, bool shift) {
   if (button == MouseButton::Left) return shift ? "TEXTCOLOR" : "Setpc";
@@ -32,8 +30,8 @@ void Palette::Picture1MouseMove(float x, float y) {
   const double mouseX = Divide(x - form.Width / 2.0, resolution);
   const double mouseY = Divide(form.Height() / 2.0 - y, resolution);
   // Seen from the origin, not from the turtle, and without regard to the quadrant: always between -90 and 90.
-  double angle = mouseY != 0 ? std::atan(mouseX / mouseY) : HintPi / 2;
-  angle = angle * 180 / HintPi;
+  double angle = mouseY != 0 ? std::atan(mouseX / mouseY) : ShownPi / 2;
+  angle = angle * 180 / ShownPi;
   context_.Picture1.ToolTipText = "MouseX=" + Str(RoundHalfEven(mouseX)) + " MouseY=" + Str(RoundHalfEven(mouseY)) +
                                   "   New Dir" + Str(RoundHalfEven(angle));
 }

@@ -12,8 +12,6 @@ namespace {
 constexpr double BodyRadius = 150;
 constexpr double HeadRadius = 80;
 constexpr double Extension = 200;
-/// The turns of `RT` and `LT` use another value.
-constexpr double FigurePi = 3.1415927;
 
 struct FigurePoint {
   double X;
@@ -72,16 +70,16 @@ void TurtleFigure::MoveTo(const Place& place) {
   Shape& head = controls_.Shape2;
   head.Width = ToSingle(2 * HeadRadius);
   head.SetHeight(ToSingle(2 * HeadRadius));
-  const FigurePoint headCentre = pointAt(HeadRadius + BodyRadius, dir - FigurePi / 2);
+  const FigurePoint headCentre = pointAt(HeadRadius + BodyRadius, dir - ShownPi / 2);
   head.Left = ToSingle(headCentre.X - head.Width / 2.0);
   head.Top = ToSingle(headCentre.Y - head.Height() / 2.0);
 
   const double reach = BodyRadius + Extension;
-  const FigurePoint rearRight = pointAt(reach, dir + FigurePi / 4);
-  const FigurePoint rearLeft = pointAt(reach, dir + 3 * FigurePi / 4);
+  const FigurePoint rearRight = pointAt(reach, dir + ShownPi / 4);
+  const FigurePoint rearLeft = pointAt(reach, dir + 3 * ShownPi / 4);
   PlaceLine(controls_.Line1, rearRight, rearLeft);
-  const FigurePoint frontRight = pointAt(reach, dir - FigurePi / 4);
-  const FigurePoint frontLeft = pointAt(reach, dir - 3 * FigurePi / 4);
+  const FigurePoint frontRight = pointAt(reach, dir - ShownPi / 4);
+  const FigurePoint frontLeft = pointAt(reach, dir - 3 * ShownPi / 4);
   const FigurePoint tip{(frontRight.X + frontLeft.X) / 2, (frontRight.Y + frontLeft.Y) / 2};
   PlaceLine(controls_.Line2, tip, rearRight);
   PlaceLine(controls_.Line3, tip, rearLeft);

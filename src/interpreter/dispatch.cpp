@@ -49,7 +49,7 @@ void Dispatch::CarryOut(PrimitiveCall& call, Action action) {
 bool Dispatch::TellMissing(const PrimitiveCall& call, Action action) {
   const MissingInput missing = FactsOf(action).Missing;
   if (missing == MissingInput::NoTest) return false;
-  const std::string text = "Required Paramiter Missing After " + std::string(call.Word);
+  const std::string text = MissingInputWords + std::string(call.Word);
   switch (missing) {
     case MissingInput::Information:
       services_.MessageBox(text, box::Information, "Zerimo Message");

@@ -13,6 +13,9 @@
 
 namespace zerimo {
 
+/// What the box for a missing input says, before the word.
+constexpr const char* MissingInputWords = "Required Paramiter Missing After ";
+
 /// Carries out primitive lines: the line and its first word are compared with each primitive's name, and the action
 /// bound to the name does the work. Runs under the skip rule; so do the actions, statement by statement.
 /// Behaviour: docs/interpreter.md, "Carrying out a word".

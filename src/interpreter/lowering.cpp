@@ -101,6 +101,12 @@ std::int16_t InputsOfHeader(std::string_view header) {
 
 }  // namespace
 
+bool SetsRepeatCounter(std::string_view line) noexcept { return line.starts_with("MAKE #"); }
+
+bool IsRepeatLabel(std::string_view line) noexcept { return line.starts_with("LABEL $"); }
+
+bool IsRepeatJump(std::string_view line) noexcept { return line.starts_with("GOTO $"); }
+
 const std::string& BodyArray::At(int index) const {
   if (dot_) throw Failure(FailureKind::TypeMismatch);
   return statements_[Checked(index, LastIndex)];

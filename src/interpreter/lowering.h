@@ -76,6 +76,11 @@ class Lowering {
   ProgramContext context_;
 };
 
+/// Whether a line sets a counter, is the label, or jumps to the label, of what stands for a `REPEAT`.
+bool SetsRepeatCounter(std::string_view line) noexcept;
+bool IsRepeatLabel(std::string_view line) noexcept;
+bool IsRepeatJump(std::string_view line) noexcept;
+
 /// The characters before the first blank.
 std::string Firstpart(std::string_view body);
 

@@ -22,6 +22,9 @@ constexpr std::string_view PenStateName(PenPosition pen) noexcept {
   return {};
 }
 
+/// Half a turn where a direction is shown: by the figure, the title line and the palette's hint.
+constexpr double ShownPi = 3.1415927;
+
 /// Where the turtle is and how it draws. `TurtleX`, `TurtleY` are surface units from the left and top edges of the
 /// surface, `TurtleDir` is in radians, 0 up and growing clockwise, never normalised.
 /// Behaviour: docs/interpreter.md, "ReplaceXcorAndYcor".

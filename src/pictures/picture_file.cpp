@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -22,25 +21,8 @@ namespace zerimo {
 
 namespace {
 
-/// Larger pictures and files are refused before they are decoded.
-constexpr qint64 MostPixels = 1 << 26;
-constexpr qint64 MostBytes = 1 << 28;
-
 /// The formats that the reader may report; it reports cursors as icons.
 constexpr std::array<std::string_view, 5> ReadableFormats{"bmp", "gif", "ico", "jpeg", "png"};
-
-struct WritableFormat {
-  std::string_view Ending;
-  const char* Format;
-};
-constexpr std::array<WritableFormat, 4> WritableFormats{
-    {{".bmp", "bmp"}, {".png", "png"}, {".jpg", "jpeg"}, {".jpeg", "jpeg"}}};
-
-constexpr int JpegQuality = 92;
-
-void Require(bool isSo, FailureKind otherwise) {
-  if (!isSo) throw Failure(otherwise);
-}
 
 QString NameOf(const std::filesystem::path& file) {
   return QFile::decodeName(QByteArray::fromStdString(file.string()));
@@ -52,7 +34,7 @@ QByteArray ReadContent(const std::filesystem::path& file) {
   Require(std::filesystem::is_regular_file(file, error), FailureKind::FileNotFound);
   QFile source(NameOf(file));
   Require(source.open(QIODevice::ReadOnly), FailureKind::FileAccess);
-  Require(source.size() <= MostBytes, FailureKind::InvalidPicture);
+  Require(source.size() <= MostPictureBytes, FailureKind::InvalidPicture);
   return source.readAll();
 }
 
@@ -67,7 +49,7 @@ QImage Decoded(QByteArray& content, QSize largest) {
       std::find(ReadableFormats.begin(), ReadableFormats.end(), format.toStdString()) != ReadableFormats.end();
   Require(isReadable && IsWholePicture(content.toStdString(), format.toStdString()), FailureKind::InvalidPicture);
   const QSize size = reader.size();
-  Require(!size.isEmpty() && qint64{size.width()} * size.height() <= MostPixels, FailureKind::InvalidPicture);
+  Require(!size.isEmpty() && qint64{size.width()} * size.height() <= MostPicturePixels, FailureKind::InvalidPicture);
   reader.setClipRect(QRect(QPoint(0, 0), size.boundedTo(largest)));
   QImage picture = reader.read();
   Require(!picture.isNull(), FailureKind::InvalidPicture);
@@ -92,26 +74,16 @@ PixelBuffer PictureIn(QByteArray content, int mostColumns, int mostRows, Pixel b
 
 void QtPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, const std::filesystem::path& file) {
   startToolkit_();
-  const std::string ending = EndingOf(file);
-  const auto* format = std::find_if(WritableFormats.begin(), WritableFormats.end(),
-                                    [&ending](const WritableFormat& each) { return each.Ending == ending; });
-  Require(format != WritableFormats.end(), FailureKind::InvalidArgument);
+  const std::string_view format = FormatToWrite(file);
   QByteArray content;
   QBuffer device(&content);
-  QImageWriter writer(&device, format->Format);
-  if (ending == ".jpg" || ending == ".jpeg") writer.setQuality(JpegQuality);
+  QImageWriter writer(&device, QByteArray(format.data(), static_cast<qsizetype>(format.size())));
+  if (format == "jpeg") writer.setQuality(JpegQuality);
   const QImage image = ImageOver(pixels);
   const QRect part = QRect(0, 0, columns, rows) & image.rect();
   Require(writer.write(part == image.rect() ? image : image.copy(part)), FailureKind::FileAccess);
   FreeWideRegisters();
   WriteBeside(file, content.toStdString());
-}
-
-std::string EndingOf(const std::filesystem::path& file) {
-  std::string ending = file.extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-  return ending;
 }
 
 }  // namespace zerimo

@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <filesystem>
 #include <functional>
-#include <string>
 #include <utility>
 
 #include "pixels/picture_files.h"
@@ -25,8 +24,5 @@ class QtPictureFiles : public PictureFiles {
 
 /// The picture in the bytes of a file, as `PictureFiles::Read` gives it. Fails (invalid picture).
 PixelBuffer PictureIn(QByteArray content, int mostColumns, int mostRows, Pixel background);
-
-/// The ending of a file name, in small letters and with its point.
-std::string EndingOf(const std::filesystem::path& file);
 
 }  // namespace zerimo

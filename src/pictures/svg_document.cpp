@@ -15,7 +15,6 @@ namespace {
 constexpr int Solid = 0;
 /// Points up to this width are squares.
 constexpr int WidestSquare = 3;
-constexpr double PixelsPerPoint = 96.0 / 72;
 
 /// A thousandth of a pixel is exact enough.
 QString Number(double number) { return QString::number(std::round(number * 1000) / 1000, 'g', 12); }

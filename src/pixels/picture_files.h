@@ -1,10 +1,31 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <string>
+#include <string_view>
 
+#include "base/failure.h"
 #include "pixels/pixel_buffer.h"
 
 namespace zerimo {
+
+/// Larger pictures and files are refused before they are decoded.
+constexpr std::int64_t MostPicturePixels = 1 << 26;
+constexpr std::int64_t MostPictureBytes = 1 << 28;
+
+/// Of written JPEG files, in percent.
+constexpr int JpegQuality = 92;
+
+/// Fails unless it is so.
+void Require(bool isSo, FailureKind otherwise);
+
+/// The ending of a file name, in small letters and with its point.
+std::string EndingOf(const std::filesystem::path& file);
+
+/// The format in which a picture file of that name is written, "bmp", "jpeg" or "png". Fails (invalid argument) if the
+/// ending stands for none.
+std::string_view FormatToWrite(const std::filesystem::path& file);
 
 /// Reads and writes picture files. A toolkit or a page supplies one.
 class PictureFiles {

@@ -57,14 +57,7 @@ int Main(char* programName, const std::vector<std::string>& words) {
     return classroom::RunPupil();
   }
   const classroom::Command command = classroom::ParseCommand(words);
-  if (command.Runner.What == Options::Wish::Help) {
-    std::cout << command.HelpText;
-    return 0;
-  }
-  if (command.Runner.What == Options::Wish::Version) {
-    std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
-    return 0;
-  }
+  if (AnswersQuestion(command.Runner, command.HelpText, ZERIMO_VERSION)) return 0;
   if (!command.IsClass()) {
     PictureOutput pictures([&desktop] { desktop.Start(); });
     return RunSession(command.Runner, pictures);

@@ -17,14 +17,7 @@ int Main(const std::filesystem::path& program, const std::vector<std::string>& w
   Options options;
   CommandLine line(options);
   line.Parse(words);
-  if (options.What == Options::Wish::Help) {
-    std::cout << line.HelpText();
-    return 0;
-  }
-  if (options.What == Options::Wish::Version) {
-    std::cout << "zerimo-batch " ZERIMO_VERSION "\n";
-    return 0;
-  }
+  if (AnswersQuestion(options, line.HelpText(), ZERIMO_VERSION)) return 0;
   web::WebPictures pictures(program.parent_path() / "font.ttf");
   return RunSession(options, pictures);
 }

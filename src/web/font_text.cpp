@@ -12,7 +12,6 @@ namespace zerimo::web {
 
 namespace {
 
-constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr int HalfCovered = 128;
 
 /// A letter as it covers pixels, 0 to 255 each.

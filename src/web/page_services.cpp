@@ -16,8 +16,6 @@ using batch::JsonLine;
 
 /// The page is asked once in this many steps and rounds.
 constexpr unsigned LooksAtOnce = 16;
-/// Showing takes at most a quarter of the time.
-constexpr double ShareOfShowing = 4;
 
 /// What follows the plus sign.
 std::string TextOf(const std::string& answer) {

@@ -1,7 +1,6 @@
 #include "web/stb_picture_files.h"
 
 #include <algorithm>
-#include <cctype>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,20 +17,10 @@ namespace zerimo::web {
 
 namespace {
 
-/// Larger pictures and files are refused before they are decoded.
-constexpr std::int64_t MostPixels = 1 << 26;
-constexpr std::uintmax_t MostBytes = 1 << 28;
-
-constexpr int JpegQuality = 92;
-
-void Require(bool isSo, FailureKind otherwise) {
-  if (!isSo) throw Failure(otherwise);
-}
-
 std::string ContentOf(const std::filesystem::path& file) {
   std::error_code error;
   Require(std::filesystem::is_regular_file(file, error), FailureKind::FileNotFound);
-  Require(std::filesystem::file_size(file, error) <= MostBytes, FailureKind::InvalidPicture);
+  Require(std::filesystem::file_size(file, error) <= std::uintmax_t{MostPictureBytes}, FailureKind::InvalidPicture);
   const std::optional<std::string> content = BytesOf(file);
   Require(content.has_value(), FailureKind::FileAccess);
   return *content;
@@ -62,7 +51,7 @@ Decoded Decode(const std::string& content) {
   Decoded picture;
   int channels = 0;
   const bool isPicture = stbi_info_from_memory(bytes, size, &picture.Columns, &picture.Rows, &channels) != 0;
-  Require(isPicture && std::int64_t{picture.Columns} * picture.Rows <= MostPixels, FailureKind::InvalidPicture);
+  Require(isPicture && std::int64_t{picture.Columns} * picture.Rows <= MostPicturePixels, FailureKind::InvalidPicture);
   picture.Bytes.reset(stbi_load_from_memory(bytes, size, &picture.Columns, &picture.Rows, &channels, 4));
   Require(picture.Bytes != nullptr, FailureKind::InvalidPicture);
   return picture;
@@ -79,25 +68,16 @@ Pixel Blended(const unsigned char* rgba, Pixel background) {
   return result;
 }
 
-std::string EndingOf(const std::filesystem::path& file) {
-  std::string ending = file.extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-  return ending;
-}
-
 void Append(void* content, void* bytes, int count) {
   static_cast<std::string*>(content)->append(static_cast<const char*>(bytes), static_cast<std::size_t>(count));
 }
 
-/// The content of a picture file; empty if the ending says no format.
-std::string Encode(const std::vector<unsigned char>& rgb, int columns, int rows, const std::string& ending) {
+/// The content of a picture file.
+std::string Encode(const std::vector<unsigned char>& rgb, int columns, int rows, std::string_view format) {
   std::string content;
-  if (ending == ".bmp") stbi_write_bmp_to_func(Append, &content, columns, rows, 3, rgb.data());
-  if (ending == ".png") stbi_write_png_to_func(Append, &content, columns, rows, 3, rgb.data(), 3 * columns);
-  if (ending == ".jpg" || ending == ".jpeg") {
-    stbi_write_jpg_to_func(Append, &content, columns, rows, 3, rgb.data(), JpegQuality);
-  }
+  if (format == "bmp") stbi_write_bmp_to_func(Append, &content, columns, rows, 3, rgb.data());
+  if (format == "png") stbi_write_png_to_func(Append, &content, columns, rows, 3, rgb.data(), 3 * columns);
+  if (format == "jpeg") stbi_write_jpg_to_func(Append, &content, columns, rows, 3, rgb.data(), JpegQuality);
   return content;
 }
 
@@ -129,9 +109,7 @@ void StbPictureFiles::Write(const PixelBuffer& pixels, int columns, int rows, co
       for (const unsigned shift : {16U, 8U, 0U}) rgb.push_back(static_cast<unsigned char>(pixel >> shift));
     }
   }
-  const std::string content = Encode(rgb, columns, rows, EndingOf(file));
-  Require(!content.empty(), FailureKind::InvalidArgument);
-  WriteBeside(file, content);
+  WriteBeside(file, Encode(rgb, columns, rows, FormatToWrite(file)));
 }
 
 }  // namespace zerimo::web
