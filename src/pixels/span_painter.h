@@ -18,11 +18,11 @@ class SpanPainter {
   SpanPainter(PixelBuffer& pixels, RasterOperation operation, const HatchPattern& hatch = HatchPatterns[0])
       : bits_(pixels.Row(0)), columns_(pixels.Columns()), rows_(pixels.Rows()), operation_(operation), hatch_(hatch) {}
 
-  int Columns() const { return columns_; }
-  int Rows() const { return rows_; }
+  int Columns() const noexcept { return columns_; }
+  int Rows() const noexcept { return rows_; }
 
   /// One pixel, which must be inside the buffer; the hatch is ignored.
-  void PaintPixel(int column, int row) {
+  void PaintPixel(int column, int row) noexcept {
     Pixel& pixel = Row(row)[column];
     pixel = operation_.Apply(pixel);
   }
@@ -57,7 +57,7 @@ class SpanPainter {
   /// How many pixels a plain operation writes at once.
   static constexpr int Block = 4;
 
-  Pixel* Row(int row) const { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
+  Pixel* Row(int row) const noexcept { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
 
   /// All that a row needs is held in locals, which no pixel written could change.
   template <typename SpanOf>
@@ -96,7 +96,7 @@ class SpanPainter {
     std::memcpy(lastBlock, block.data(), sizeof block);
   }
 
-  void PaintHatched(Pixel* row, int first, int last, unsigned mask) {
+  void PaintHatched(Pixel* row, int first, int last, unsigned mask) noexcept {
     for (int phase = 0; phase < 8; ++phase) {
       if ((mask >> phase & 1U) == 0) continue;
       for (int column = first + ((phase - first) & 7); column <= last; column += 8) {

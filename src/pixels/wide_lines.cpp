@@ -48,10 +48,10 @@ class Flanks {
   }
 
   /// How far the long sides move sideways per row.
-  double SideSlope() const { return sideSlope_; }
+  double SideSlope() const noexcept { return sideSlope_; }
 
   /// In a row that neither end touches.
-  Edges BetweenEnds(int row) const {
+  Edges BetweenEnds(int row) const noexcept {
     const double middle = aX_ + (row - aY_) * sideSlope_;
     return {middle - sideReach_, middle + sideReach_};
   }
@@ -97,12 +97,12 @@ void UniteEnd(ColumnSpan& span, const RoundPen& pen, int x, int y, int row) {
 }
 
 /// The columns between the edges, for a line that is inside the canvas.
-ColumnSpan Columns(const Edges& edges) {
+ColumnSpan Columns(const Edges& edges) noexcept {
   return edges.From <= edges.To ? ColumnSpan{FirstFrom(edges.From), LastTo(edges.To)} : NoColumns;
 }
 
 /// The same for any line.
-ColumnSpan Columns(const Edges& edges, int columnsOfCanvas) {
+ColumnSpan Columns(const Edges& edges, int columnsOfCanvas) noexcept {
   if (!(edges.From <= edges.To)) return NoColumns;
   return {FirstFrom(edges.From, 0, columnsOfCanvas), LastTo(edges.To, -1, columnsOfCanvas - 1)};
 }
@@ -122,23 +122,23 @@ class Slide {
   Slide(double place, double step) : place_(ToParts(place)), step_(ToParts(step)) {}
 
   /// At or before the place.
-  int Column() const { return static_cast<int>(place_ >> PartBits); }
+  int Column() const noexcept { return static_cast<int>(place_ >> PartBits); }
   /// Whether the rounding of the step, added up over all rows of a canvas, might have led to another column.
-  bool IsUncertain() const { return static_cast<std::uint32_t>(place_) + Near < 2 * Near; }
-  void Advance() { place_ += step_; }
+  bool IsUncertain() const noexcept { return static_cast<std::uint32_t>(place_) + Near < 2 * Near; }
+  void Advance() noexcept { place_ += step_; }
 
  private:
   static constexpr int PartBits = 32;
   static constexpr double PartsOfPixel = 4294967296;
   static constexpr std::uint32_t Near = 1U << 17;
 
-  static std::int64_t ToParts(double place) { return static_cast<std::int64_t>(place * PartsOfPixel); }
+  static std::int64_t ToParts(double place) noexcept { return static_cast<std::int64_t>(place * PartsOfPixel); }
 
   std::int64_t place_;
   std::int64_t step_;
 };
 
-bool IsWithinReach(const Edges& edges) { return edges.From > -Slide::Reach && edges.To < Slide::Reach; }
+bool IsWithinReach(const Edges& edges) noexcept { return edges.From > -Slide::Reach && edges.To < Slide::Reach; }
 
 /// The rows that neither end touches, all of them on the canvas.
 void PaintBetweenEnds(SpanPainter& painter, const Flanks& flanks, int first, int last) {
