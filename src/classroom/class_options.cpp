@@ -44,7 +44,7 @@ void TakeReport(ClassOptions& options, const std::string& value) {
   options.Report = value;
 }
 
-void TakeShard(ClassOptions& options, const std::string& value) {
+void TakePart(ClassOptions& options, const std::string& value) {
   const std::size_t divider = value.find('/');
   const std::string_view text = value;
   const auto index = WholeText<int>(text.substr(0, divider));
@@ -88,7 +88,7 @@ void AddClassOptions(CommandLine& line, ClassOptions& options) {
   addName("--pupils", "DIR", "write a page for each pupil, to be handed back", options.Pupils);
   add("--lang", "CODE", "the language of the pages, en or de (en)", TakeLanguage);
   addName("--list", "FILE", "run the programs that the file lists, one a line, in place of a folder", options.List);
-  add("--shard", "I/N", "run only the part I of N equal parts", TakeShard);
+  add("--shard", "I/N", "run only the part I of N equal parts", TakePart);
   addName("--jsonl", "FILE", "add a line of JSON for each program as it ends; pictures go beside it", options.Records);
   line.AddFlag(OfClass, "--resume", "do not run again what --jsonl has already", options.Resume);
   line.AddList(OfClass, "--merge", "PART...", "make one report of the files that --jsonl has written", options.Merged);

@@ -12,7 +12,7 @@ namespace zerimo::classroom {
 inline constexpr const char* PupilArgument = "--class-pupil";
 
 /// One of the equal parts of a long list of programs.
-struct Shard {
+struct ListPart {
   /// From 1 to `Count`.
   int Index = 1;
   int Count = 1;
@@ -25,7 +25,7 @@ struct ClassOptions {
   /// A file that lists the programs, or empty.
   std::string List;
   /// The part of the programs that is run.
-  Shard Part;
+  ListPart Part;
   /// The files of the parts that are merged; if there are any, nothing is run.
   std::vector<std::string> Merged;
   /// The page to write; its ending is .html or .htm. May be empty if `Records` is not.

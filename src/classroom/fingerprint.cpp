@@ -66,11 +66,11 @@ Fingerprint::Fingerprint(const RunLimits& limits, ScreenSize screen, bool follow
   common_ = hash.Digits();
 }
 
-std::string Fingerprint::Of(const Pupil& who) const {
+std::string Fingerprint::Of(const Pupil& pupil) const {
   Hash hash;
   hash.Add(common_.toStdString());
-  hash.Add(ContentOf(who.Program));
-  if (!who.Session.empty()) hash.Add(ContentOf(who.Session));
+  hash.Add(ContentOf(pupil.Program));
+  if (!pupil.Session.empty()) hash.Add(ContentOf(pupil.Session));
   return hash.Digits().toStdString();
 }
 

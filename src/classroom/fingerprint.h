@@ -16,7 +16,7 @@ class Fingerprint {
   Fingerprint(const RunLimits& limits, ScreenSize screen, bool followsLinks, const std::filesystem::path& task);
 
   /// A hash, in hexadecimal digits, of the program, its session and what is the same for all.
-  std::string Of(const Pupil& who) const;
+  std::string Of(const Pupil& pupil) const;
 
  private:
   QByteArray common_;

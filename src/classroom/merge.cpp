@@ -53,7 +53,7 @@ class Merge {
 
  private:
   /// Where a run is in its part.
-  struct Place {
+  struct PartPlace {
     const std::string* Part;
     std::streamoff Offset;
   };
@@ -162,7 +162,7 @@ class Merge {
   std::vector<IndexEntry> entries_;
   AlikeSearch alike_;
   /// Where each run is found, in the order of the runs.
-  std::vector<Place> places_;
+  std::vector<PartPlace> places_;
   /// How many programs the parts are to have.
   std::size_t wanted_ = 0;
   /// The parts that were given of each class, by the number of its parts and programs.

@@ -48,7 +48,7 @@ QString Heading(const char* words) { return Element("h3", "", Utf8(words)) + u'\
 
 QString Utf8(const char* words) { return QString::fromUtf8(words); }
 
-QString PupilName(const Pupil& who) { return who.Name.isEmpty() ? NameOf(PlaceOf(who)) : who.Name; }
+QString PupilName(const Pupil& pupil) { return pupil.Name.isEmpty() ? NameOf(PlaceOf(pupil)) : pupil.Name; }
 
 std::optional<QString> PictureSource::Image(const std::filesystem::path& file, const QString& alternative, int width) {
   if (file.empty()) return std::nullopt;

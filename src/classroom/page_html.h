@@ -28,7 +28,7 @@ QString Heading(const char* words);
 QString Utf8(const char* words);
 
 /// What the report calls a pupil.
-QString PupilName(const Pupil& who);
+QString PupilName(const Pupil& pupil);
 
 /// Where the pictures of a page come from.
 class PictureSource {

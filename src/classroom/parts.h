@@ -15,14 +15,14 @@ namespace zerimo::classroom {
 
 /// What a file holds of a class.
 struct Share {
-  Shard Part;
+  ListPart Part;
   /// How many programs the part is to have in the end, and all parts together.
   std::size_t Wanted = 0;
   std::size_t All = 0;
 };
 
 /// How many programs a part has of a class.
-inline std::size_t ProgramsOf(Shard part, std::size_t all) {
+inline std::size_t ProgramsOf(ListPart part, std::size_t all) {
   const auto count = static_cast<std::size_t>(part.Count);
   return all / count + (static_cast<std::size_t>(part.Index) <= all % count ? 1 : 0);
 }

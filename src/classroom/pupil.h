@@ -27,8 +27,8 @@ struct Pupil {
 };
 
 /// A program's place as the reader of a report knows it.
-inline std::filesystem::path PlaceOf(const Pupil& who) {
-  return who.Place.empty() ? who.Program.filename() : who.Place;
+inline std::filesystem::path PlaceOf(const Pupil& pupil) {
+  return pupil.Place.empty() ? pupil.Program.filename() : pupil.Place;
 }
 
 /// How a run went.

@@ -87,9 +87,9 @@ void PageView::ShowSize() {
 void PageView::Collect() {
   if (!touched_) return;
   touched_ = false;
-  const RichText text = ReadDocument(*edit_.document());
-  page_.Document = WriteRtf(text);
-  page_.Text = Latin1FromUtf8(PlainText(text));
+  const RichText page = ReadDocument(*edit_.document());
+  page_.Document = WriteRtf(page);
+  page_.Text = Latin1FromUtf8(PlainText(page));
 }
 
 void PageView::SyncLook() {

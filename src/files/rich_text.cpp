@@ -46,25 +46,25 @@ void Append(Paragraph& paragraph, std::string_view text, const CharacterForm& fo
 
 bool IsRtf(std::string_view bytes) noexcept { return bytes.substr(0, 5) == "{\\rtf"; }
 
-std::string PlainText(const RichText& text) {
+std::string PlainText(const RichText& page) {
   std::string plain;
-  for (const Paragraph& paragraph : text.Paragraphs) {
-    if (&paragraph != &text.Paragraphs.front()) plain += LineEnd;
+  for (const Paragraph& paragraph : page.Paragraphs) {
+    if (&paragraph != &page.Paragraphs.front()) plain += LineEnd;
     AppendPlainText(plain, paragraph);
   }
   return plain;
 }
 
 RichText FromPlainText(std::string_view utf8) {
-  RichText text;
+  RichText page;
   for (;;) {
     const std::string line = Cleaned(TakeLine(utf8));
-    Paragraph& last = text.Paragraphs.back();
-    if (text.Paragraphs.size() == MostParagraphs && !last.Runs.empty()) Append(last, "\n", {});
+    Paragraph& last = page.Paragraphs.back();
+    if (page.Paragraphs.size() == MostParagraphs && !last.Runs.empty()) Append(last, "\n", {});
     Append(last, line, {});
-    if (utf8.empty()) return text;
+    if (utf8.empty()) return page;
     utf8.remove_prefix(1);
-    if (text.Paragraphs.size() < MostParagraphs) text.Paragraphs.emplace_back();
+    if (page.Paragraphs.size() < MostParagraphs) page.Paragraphs.emplace_back();
   }
 }
 

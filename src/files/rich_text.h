@@ -83,10 +83,10 @@ inline constexpr std::size_t MostParagraphs = 100000;
 inline constexpr std::size_t MostRuns = 200000;
 
 /// Writes RTF that reads back as the same document, if that is tidy.
-std::string WriteRtf(const RichText& text);
+std::string WriteRtf(const RichText& page);
 
 /// The text alone, in UTF-8; paragraphs and lines are separated by carriage return and line feed.
-std::string PlainText(const RichText& text);
+std::string PlainText(const RichText& page);
 
 /// A document without formatting. Each line of the UTF-8 text, ended in any usual way, is a paragraph.
 RichText FromPlainText(std::string_view utf8);

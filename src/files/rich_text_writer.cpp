@@ -30,7 +30,7 @@ class Table {
 
 class RtfWriter {
  public:
-  std::string Write(const RichText& text);
+  std::string Write(const RichText& page);
 
  private:
   void Word(const char* name) { body_ += name; }
@@ -143,13 +143,13 @@ std::string RtfWriter::Head() const {
   return head + "}\r\n";
 }
 
-std::string RtfWriter::Write(const RichText& text) {
-  for (const Paragraph& paragraph : text.Paragraphs) WriteParagraph(paragraph);
+std::string RtfWriter::Write(const RichText& page) {
+  for (const Paragraph& paragraph : page.Paragraphs) WriteParagraph(paragraph);
   return Head() + body_ + "}";
 }
 
 }  // namespace
 
-std::string WriteRtf(const RichText& text) { return RtfWriter().Write(text); }
+std::string WriteRtf(const RichText& page) { return RtfWriter().Write(page); }
 
 }  // namespace zerimo

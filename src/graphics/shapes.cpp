@@ -129,7 +129,7 @@ void Shapes::DrawEllipse(float x, float y, float a, float b, float deg) {
   }
 }
 
-void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing& draw) {
+void Shapes::InOutlineColour(PrimitiveCall& call, int colourWord, const FigureProcedure& draw) {
   Surface& surface = context_.Picture1;
   const Colour colour = LongNumber(Word(call, colourWord));
   const Colour saved = surface.ForeColor();
@@ -169,7 +169,7 @@ void Shapes::StampOvalRGB(PrimitiveCall& call) { InStampColour(call, &Shapes::St
 
 void Shapes::StampRectRGB(PrimitiveCall& call) { InStampColour(call, &Shapes::StampRect); }
 
-void Shapes::InStampColour(PrimitiveCall& call, const Drawing& draw) {
+void Shapes::InStampColour(PrimitiveCall& call, const FigureProcedure& draw) {
   Surface& surface = context_.Picture1;
   const Colour savedFill = surface.FillColor();
   const auto drawFilled = [&surface, &draw](Shapes& shapes, PrimitiveCall& stamp) {

@@ -37,11 +37,11 @@ class Shapes {
   void EllipseWithAngle(PrimitiveCall& call, int angleWord);
   /// An ellipse of half-axes a and b, turned by degrees, as a chain of chords. Fails as the surface does.
   void DrawEllipse(float x, float y, float a, float b, float deg);
-  using Drawing = std::function<void(Shapes&, PrimitiveCall&)>;
+  using FigureProcedure = std::function<void(Shapes&, PrimitiveCall&)>;
   /// Draws in the colour value given by the word with that number, then restores the foreground colour.
-  void InOutlineColour(PrimitiveCall& call, int colourWord, const Drawing& draw);
+  void InOutlineColour(PrimitiveCall& call, int colourWord, const FigureProcedure& draw);
   /// The same for a stamp, with its inside in the colour too.
-  void InStampColour(PrimitiveCall& call, const Drawing& draw);
+  void InStampColour(PrimitiveCall& call, const FigureProcedure& draw);
 
   bool PenIsUp() const noexcept { return context_.turtle.PenState == PenPosition::Up; }
   double Word(PrimitiveCall& call, int nthWord) const;

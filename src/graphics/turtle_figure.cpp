@@ -42,30 +42,30 @@ TurtleFigure::TurtleFigure(Controls& controls) : controls_(controls) {
 }
 
 void TurtleFigure::TurtlePos(double x, double y, double dir) {
-  const Place place{x, y, dir};
-  if (place == place_) return;
-  if (place_ && CanNotFail(x, y, dir)) {
-    place_ = place;
+  const Pose pose{x, y, dir};
+  if (pose == pose_) return;
+  if (pose_ && CanNotFail(x, y, dir)) {
+    pose_ = pose;
     isBehind_ = true;
     return;
   }
   CatchUp();
   // A move that fails has moved some of it: the next one moves all.
-  place_.reset();
-  MoveTo(place);  // Leaves.
-  place_ = place;
+  pose_.reset();
+  MoveTo(pose);  // Leaves.
+  pose_ = pose;
 }
 
 void TurtleFigure::CatchUp() {
   if (!isBehind_) return;
   isBehind_ = false;
-  MoveTo(*place_);
+  MoveTo(*pose_);
 }
 
-void TurtleFigure::MoveTo(const Place& place) {
-  const double dir = place.Dir;
-  const auto pointAt = [&place](double radius, double angle) {
-    return FigurePoint{place.X + radius * std::cos(angle), place.Y + radius * std::sin(angle)};
+void TurtleFigure::MoveTo(const Pose& pose) {
+  const double dir = pose.Dir;
+  const auto pointAt = [&pose](double radius, double angle) {
+    return FigurePoint{pose.X + radius * std::cos(angle), pose.Y + radius * std::sin(angle)};
   };
   Shape& head = controls_.Shape2;
   head.Width = ToSingle(2 * HeadRadius);

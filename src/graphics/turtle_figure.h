@@ -27,20 +27,20 @@ class TurtleFigure : PutOff {
   void TurtleColorRGB(double red, double green, double blue);
 
  private:
-  struct Place {
+  struct Pose {
     double X;
     double Y;
     double Dir;
-    bool operator==(const Place&) const = default;
+    bool operator==(const Pose&) const = default;
   };
   /// Never fails: a move that could is not put off.
   void CatchUp() override;
-  void MoveTo(const Place& place);
+  void MoveTo(const Pose& pose);
   void SetColour(Colour colour) noexcept;
 
   Controls& controls_;
   /// Where the figure is; nothing else moves it.
-  std::optional<Place> place_;
+  std::optional<Pose> pose_;
   bool isBehind_ = false;
 };
 

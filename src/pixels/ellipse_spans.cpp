@@ -38,9 +38,9 @@ void EllipseSpans::WorkOut(double wholeA, double wholeB, int outlineWidth, doubl
   inner_.assign(rows, hasInside ? LargestAxis : -1);
   if (!hasInside) return;
   TakePen(outlineWidth);
-  for (const Place& place : pen_) {
-    const double* above = outer_.data() + place.Row;
-    for (std::size_t n = 0; n < rows; ++n) inner_[n] = std::min(inner_[n], above[n] - place.Column);
+  for (const PenPixel& pixel : pen_) {
+    const double* above = outer_.data() + pixel.Row;
+    for (std::size_t n = 0; n < rows; ++n) inner_[n] = std::min(inner_[n], above[n] - pixel.Column);
   }
 }
 

@@ -22,7 +22,7 @@ class EllipseSpans {
 
  private:
   /// A pixel that is as far from the middle of a round pen as the outline is wide.
-  struct Place {
+  struct PenPixel {
     int Row;
     double Column;
   };
@@ -32,7 +32,7 @@ class EllipseSpans {
   std::vector<double> outer_;
   std::vector<double> inner_;
   int penWidth_ = 0;
-  std::vector<Place> pen_;
+  std::vector<PenPixel> pen_;
 };
 
 }  // namespace zerimo

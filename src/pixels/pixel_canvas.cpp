@@ -82,7 +82,7 @@ void PixelCanvas::Line(const Stroke& stroke, PixelPoint from, PixelPoint to) {
   lastChange_ = {};
   const std::optional<WholeLine> line = ClipLine(from, to);
   if (!line) return;
-  const Pen& pen = PenOf(stroke);
+  const StrokePen& pen = PenOf(stroke);
   SpanPainter painter(pixels_, pen.Operation);
   if (pen.Round.Width() == 1) {
     PaintThinLine(painter, *line);
@@ -98,7 +98,7 @@ void PixelCanvas::Line(const Stroke& stroke, PixelPoint from, PixelPoint to) {
 void PixelCanvas::Box(const Stroke& stroke, const Filling& filling, PixelPoint from, PixelPoint to) {
   const auto [left, right] = std::minmax({from.X, to.X});
   const auto [top, bottom] = std::minmax({from.Y, to.Y});
-  const Pen& pen = PenOf(stroke);
+  const StrokePen& pen = PenOf(stroke);
   const double width = pen.Round.Width();
   SpanPainter outline(pixels_, pen.Operation);
   SpanPainter inside = InsidePainter(pixels_, stroke, filling);
@@ -120,7 +120,7 @@ void PixelCanvas::Ellipse(const Stroke& stroke, const Filling& filling, PixelPoi
   const auto distance = [&centre](int row) { return std::abs(row - centre.Y); };
   const auto [nearer, farther] = std::minmax({distance(lastChange_.Top), distance(lastChange_.Bottom)});
   const double nearest = centre.Y < lastChange_.Top || centre.Y > lastChange_.Bottom ? nearer : 0;
-  const Pen& pen = PenOf(stroke);
+  const StrokePen& pen = PenOf(stroke);
   ellipse_.WorkOut(a, b, pen.Round.Width(), nearest, static_cast<int>(farther - nearest) + 1);
   SpanPainter outline(pixels_, pen.Operation);
   SpanPainter inside = InsidePainter(pixels_, stroke, filling);
@@ -175,12 +175,12 @@ void PixelCanvas::PutPixels(const PixelBuffer& pixels) {
 
 PixelRect PixelCanvas::TakeDirty() noexcept { return std::exchange(dirty_, {}); }
 
-PixelCanvas::Pen PixelCanvas::MakePen(const Stroke& stroke) {
+PixelCanvas::StrokePen PixelCanvas::MakePen(const Stroke& stroke) {
   return {stroke, MakeRasterOperation(stroke.DrawMode, stroke.Color),
           RoundPen(std::clamp(stroke.Width, 1, WidestStroke))};
 }
 
-const PixelCanvas::Pen& PixelCanvas::PenOf(const Stroke& stroke) {
+const PixelCanvas::StrokePen& PixelCanvas::PenOf(const Stroke& stroke) {
   if (stroke != pen_.Of) pen_ = MakePen(stroke);
   return pen_;
 }

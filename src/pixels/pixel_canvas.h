@@ -45,14 +45,14 @@ class PixelCanvas : public Canvas {
 
  private:
   /// What lines and outlines are drawn with, kept for as long as the stroke stays the same.
-  struct Pen {
+  struct StrokePen {
     Stroke Of;
     RasterOperation Operation;
     RoundPen Round;
   };
-  static Pen MakePen(const Stroke& stroke);
+  static StrokePen MakePen(const Stroke& stroke);
 
-  const Pen& PenOf(const Stroke& stroke);
+  const StrokePen& PenOf(const Stroke& stroke);
   bool Covers(PixelPoint at) const noexcept;
   void Changed(const PixelRect& area);
   /// Nothing is drawn.
@@ -61,7 +61,7 @@ class PixelCanvas : public Canvas {
   PixelBuffer pixels_;
   std::unique_ptr<TextDrawer> text_;
   std::unique_ptr<PictureFiles> files_;
-  Pen pen_ = MakePen({});
+  StrokePen pen_ = MakePen({});
   WideLines wideLines_;
   EllipseSpans ellipse_;
   PixelRect dirty_;

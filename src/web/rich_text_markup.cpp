@@ -69,9 +69,9 @@ std::string MarkupOf(const Paragraph& paragraph) {
 
 }  // namespace
 
-std::string MarkupOf(const RichText& text) {
+std::string MarkupOf(const RichText& page) {
   std::string markup;
-  for (const Paragraph& paragraph : text.Paragraphs) markup += MarkupOf(paragraph);
+  for (const Paragraph& paragraph : page.Paragraphs) markup += MarkupOf(paragraph);
   return markup;
 }
 
