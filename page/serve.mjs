@@ -49,5 +49,5 @@ const server = createServer((request, response) => {
   response.writeHead(200, { ...isolation, "Content-Type": kind, "Cache-Control": "no-cache" });
   createReadStream(file).on("error", () => response.destroy()).pipe(response);
 });
-server.on("error", ({ code }) => end(1, code === "EADDRINUSE" ? `Port ${port} is in use: name another one.` : `Port ${port} can not be used: ${code}.`));
+server.on("error", ({ code }) => end(1, code === "EADDRINUSE" ? `Port ${port} is in use: name another one.` : `Port ${port} can't be used: ${code}.`));
 server.listen(Number(port), "127.0.0.1", () => console.log(`Zerimo is at http://localhost:${server.address().port}/`));

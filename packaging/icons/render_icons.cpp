@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     picture.render(&painter);
     painter.end();
     if (image.isNull() || !image.save(words.at(i + 1))) {
-      std::fprintf(stderr, "render_icons: %s can not be written\n", qPrintable(words.at(i + 1)));
+      std::fprintf(stderr, "render_icons: %s can't be written\n", qPrintable(words.at(i + 1)));
       return 1;
     }
   }

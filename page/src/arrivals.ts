@@ -50,7 +50,7 @@ export class Arrivals {
     if (program === undefined) return;
     history.replaceState(null, "", location.pathname);
     if (program === "broken") {
-      return tell("The program in this address can not be read. The address may have been cut off or changed on its way: ask for it again.");
+      return tell("The program in this address can't be read. The address may have been cut off or changed on its way: ask for it again.");
     }
     if (!(await confirmed(`This address brings the program ${program.name}. Put it into your folder and load it?`, "Load"))) return;
     const [name] = await this.takeIn([[program.name, program.bytes]]);

@@ -17,7 +17,7 @@ export async function takeFiles(files: Iterable<File>): Promise<FolderFile[]> {
   // All are asked for at once: what was dropped can't be read later.
   await Promise.all([...files].map(async (file) => {
     const advice = isArchive(file) ? "It is no .zip." : "If it is a folder, bring the files in it, or a .zip of them.";
-    const inside = await imported(file).catch(() => void unread.push(`${file.name} can not be read. ${advice}`));
+    const inside = await imported(file).catch(() => void unread.push(`${file.name} can't be read. ${advice}`));
     found.push(...(inside ?? []));
   }));
   if (unread.length > 0) await tell(unread.join("\n"));

@@ -47,7 +47,7 @@ class Page {
     addEventListener("resize", () => this.fit());
     addEventListener("keydown", (event) => this.stopByKey(event), { capture: true });
     this.worker.onmessage = ({ data }: MessageEvent<FromWorker>) => this.take(data);
-    this.worker.onerror = ({ message }) => void this.end(message || "its worker can not be loaded");
+    this.worker.onerror = ({ message }) => void this.end(message || "its worker can't be loaded");
     this.bar.connect((key) => this.keys.send(key), () => this.stop(), () => void this.arrivals.showFiles());
     this.arrivals = new Arrivals(folder, (message) => this.post(message), (name) => this.events.deliver("Open", `\\Zerimo\\${name}`));
   }
@@ -229,4 +229,4 @@ async function begin(): Promise<void> {
   await serviceWorker().catch(() => undefined);
 }
 
-await begin().catch((error: unknown) => tell(`Zerimo can not start. ${error instanceof Error ? error.message : String(error)}`));
+await begin().catch((error: unknown) => tell(`Zerimo can't start. ${error instanceof Error ? error.message : String(error)}`));

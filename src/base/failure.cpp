@@ -10,7 +10,7 @@ namespace {
 constexpr std::array Sentences = {
     "Subscript out of range", "Overflow",        "Division by zero",
     "Invalid argument",       "Type mismatch",   "File not found",
-    "File access error",      "Invalid picture", "The control can not take the focus",
+    "File access error",      "Invalid picture", "The control can't take the focus",
 };
 static_assert(Sentences.size() == static_cast<std::size_t>(FailureKind::FocusRefused) + 1);
 

@@ -202,7 +202,7 @@ void BatchSession::Do(const action::WritePicture& act) {
   try {
     writePicture_(form1.Picture1, act.File);
   } catch (const std::exception&) {
-    throw SessionError(currentLine_, ToUtf8(act.File) + " can not be written");
+    throw SessionError(currentLine_, ToUtf8(act.File) + " can't be written");
   }
 }
 

@@ -44,8 +44,8 @@ class Program {
     for (const std::string& output : {options_.PictureFile, options_.TranscriptFile})
       RemoveLeftovers(std::filesystem::path(output).parent_path());
     const std::optional<std::string> bytes = ReadSessionFile(options_.SessionFile);
-    if (!bytes) return Complain(options_.SessionFile + ": the session can not be read");
-    if (!OpenTranscript()) return Complain(options_.TranscriptFile + ": the transcript can not be written");
+    if (!bytes) return Complain(options_.SessionFile + ": the session can't be read");
+    if (!OpenTranscript()) return Complain(options_.TranscriptFile + ": the transcript can't be written");
     Journal journal(transcript_, options_.TranscriptOnStandardOutput() ? nullptr : &std::cout);
     BatchSession session(
         options_.Session, pictures_.Pixels(), journal,
@@ -85,9 +85,9 @@ class Program {
     int status = static_cast<int>(outcome.How);
     if (!outcome.Message.empty()) ComplainAt(outcome.Line, outcome.Message);
     if (!WritePicture(session))
-      status = std::max(status, Complain(options_.PictureFile + ": the picture can not be written"));
+      status = std::max(status, Complain(options_.PictureFile + ": the picture can't be written"));
     if (!SaveTranscript() || !std::cout.flush().good())
-      status = std::max(status, Complain("the transcript can not be written"));
+      status = std::max(status, Complain("the transcript can't be written"));
     return status;
   }
 

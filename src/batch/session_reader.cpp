@@ -120,7 +120,7 @@ class DirectiveReader {
     for (TextBox* const box : boxes) {
       if (box == &control) return action::TypeOver{box, WithoutEscapes(words_.Text())};
     }
-    words_.Fail(control.Name() + " can not be typed over; Text2, Text3 and Text4 can");
+    words_.Fail(control.Name() + " can't be typed over; Text2, Text3 and Text4 can");
   }
 
   SessionAction Key() {

@@ -26,7 +26,7 @@ constexpr const char* Usage =
 constexpr const char* HelpEnd =
     "\nWith --class every program (.ZRM) of a folder runs in a process of its own, by the session (.session) of the\n"
     "same name beside it if there is one, and a page about all of them is written.\n"
-    "Exit status with --class: 0 the report is written; 1 it can not be written; 2 bad usage; 3 interrupted.\n";
+    "Exit status with --class: 0 the report is written; 1 it can't be written; 2 bad usage; 3 interrupted.\n";
 
 /// Whether a file name has one of the endings of a page: .html or .htm in any case.
 bool IsPageName(std::string_view file) {

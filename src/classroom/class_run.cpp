@@ -37,14 +37,14 @@ fs::path FolderOf(const std::string& name) {
   if (!fs::is_directory(name, error)) throw batch::UsageError("--class " + name + ": there is no such folder");
   // Without a divider at its end, so that it has a name.
   fs::path folder = fs::canonical(name, error);
-  if (error) throw batch::UsageError("--class " + name + ": the folder can not be read");
+  if (error) throw batch::UsageError("--class " + name + ": the folder can't be read");
   return folder;
 }
 
 std::string ContentOf(const char* option, const std::string& name) {
   if (name.empty()) return {};
   const std::optional<std::string> bytes = BytesOf(name);
-  if (!bytes) throw batch::UsageError(std::string(option) + " " + name + ": the file can not be read");
+  if (!bytes) throw batch::UsageError(std::string(option) + " " + name + ": the file can't be read");
   return *bytes;
 }
 
@@ -66,7 +66,7 @@ std::vector<Pupil> AllPupils(const ClassOptions& options) {
     pupils =
         isList ? PupilsListedIn(options.List) : PupilsOf(FolderOf(options.Folder), options.FollowLinks, Apart(options));
   } catch (const fs::filesystem_error&) {
-    throw batch::UsageError(words + (isList ? ": the file can not be read" : ": the folder can not be read"));
+    throw batch::UsageError(words + (isList ? ": the file can't be read" : ": the folder can't be read"));
   }
   if (pupils.empty()) throw batch::UsageError(words + ": there is no program (.ZRM) in it");
   if (TakeNames(pupils, ContentOf("--names", options.Names)) == 0 && !options.Names.empty())
@@ -124,9 +124,9 @@ class ClassRun {
     } catch (const NoProcess& failure) {
       return Close(ClassStatus::NotWritten, QString::fromLatin1(failure.what()));
     } catch (const NotSaved& failure) {
-      return Close(ClassStatus::NotWritten, NameOf(failure.File) + ": the report can not be written");
+      return Close(ClassStatus::NotWritten, NameOf(failure.File) + ": the report can't be written");
     } catch (const std::exception&) {
-      return Close(ClassStatus::NotWritten, files_.Name() + ": the report can not be written");
+      return Close(ClassStatus::NotWritten, files_.Name() + ": the report can't be written");
     }
   }
 

@@ -73,7 +73,7 @@ class Merge {
       places_.push_back({&part, place});
       Take(std::move(run));
     });
-    if (!share) throw batch::UsageError("--merge " + part + ": the file can not be read");
+    if (!share) throw batch::UsageError("--merge " + part + ": the file can't be read");
     const std::size_t programs = places_.size() - before;
     wanted_ += share->Wanted;
     if (programs < share->Wanted || programs == 0) report_.Partial.push_back({NameOf(part), programs, share->Wanted});
@@ -179,7 +179,7 @@ ClassStatus MergeParts(const Command& command, const std::string& version) {
   } catch (const batch::UsageError&) {
     throw;
   } catch (const std::exception&) {
-    progress.Close(QString::fromStdString(command.Class.Report) + ": the report can not be written");
+    progress.Close(QString::fromStdString(command.Class.Report) + ": the report can't be written");
     return ClassStatus::NotWritten;
   }
 }

@@ -47,11 +47,11 @@ std::string TakeFile(const fs::path& file, const std::string& what, const fs::pa
     throw Reason((isFolder ? "the folder" : what) +
                  " is a link that leads out of the class folder; --follow-links follows it");
   if (isFolder && fs::directory_iterator(file, error) == fs::directory_iterator() && error)
-    throw Reason("the folder can not be read");
+    throw Reason("the folder can't be read");
   if (isFolder) throw Reason(what + " is a folder");
   if (status.type() == fs::file_type::not_found)
     throw Reason(fs::is_symlink(file, error) ? what + " is a link that leads nowhere" : "there is no such file");
-  if (!fs::exists(status)) throw Reason(what + " can not be read");
+  if (!fs::exists(status)) throw Reason(what + " can't be read");
   // Reading a pipe might wait for ever.
   if (!fs::is_regular_file(status)) throw Reason(what + " is no file but a pipe or a device");
   const std::uintmax_t size = fs::file_size(file, error);
@@ -59,7 +59,7 @@ std::string TakeFile(const fs::path& file, const std::string& what, const fs::pa
   std::ifstream stream(file, std::ios::binary);
   std::string bytes(static_cast<std::size_t>(error ? 0 : size), '\0');
   stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (error || !stream.is_open() || stream.bad()) throw Reason(what + " can not be read");
+  if (error || !stream.is_open() || stream.bad()) throw Reason(what + " can't be read");
   bytes.resize(static_cast<std::size_t>(stream.gcount()));
   return bytes;
 }
@@ -133,7 +133,7 @@ void PupilSession::PlaceProgram() {
   for (const std::string& name : names) {
     std::ofstream copy(scratch / (name + ".ZRM"), std::ios::binary);
     copy << program_;
-    if (!copy.flush()) throw Reason("the program can not be copied: is the disk full?");
+    if (!copy.flush()) throw Reason("the program can't be copied: is the disk full?");
   }
 }
 
@@ -246,7 +246,7 @@ void PupilSession::WritePicture(SessionRun& run, const std::string& file) {
   try {
     run.WritePicture(file);
   } catch (const std::exception&) {
-    outcome_.Notes.append("The picture can not be written.");
+    outcome_.Notes.append("The picture can't be written.");
     tell_(outcome_);
   }
 }

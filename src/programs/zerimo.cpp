@@ -54,7 +54,7 @@ Surroundings LookAround() {
 
 std::string WordsAbout(const StartFolder& start) {
   if (start.Unusable.empty()) return {};
-  return "Your folder " + Folders::ToSystem(start.Unusable) + " can not be written.\rZerimo works in " +
+  return "Your folder " + Folders::ToSystem(start.Unusable) + " can't be written.\rZerimo works in " +
          Folders::ToSystem(start.Folder) +
          ".\rWhat you save there may be lost: save with SHOW SAVEAS, in another folder.";
 }

@@ -232,7 +232,7 @@ TEST(BatchSession, PictureThatCanNotBeWrittenStopsTheSession) {
   world.Run("PD\n@picture a.png\nPU");
   EXPECT_EQ(world.Result.How, Ending::Refused);
   EXPECT_EQ(world.Result.Line, 2);
-  EXPECT_EQ(world.Result.Message, "a.png can not be written");
+  EXPECT_EQ(world.Result.Message, "a.png can't be written");
 }
 
 TEST(BatchSession, ClosedWindowEndsTheSession) {

@@ -105,8 +105,8 @@ TEST_F(BatchProgramTest, RefusesBadUsageInOneLine) {
 }
 
 TEST_F(BatchProgramTest, RefusesASessionThatCanNotBeRead) {
-  ExpectRefused(program.Run("no.session"), "no.session: the session can not be read");
-  ExpectRefused(program.Run("."), ".: the session can not be read");
+  ExpectRefused(program.Run("no.session"), "no.session: the session can't be read");
+  ExpectRefused(program.Run("."), ".: the session can't be read");
 }
 
 TEST_F(BatchProgramTest, RefusesABadDirectiveBeforeAnythingRuns) {
@@ -127,19 +127,19 @@ TEST_F(BatchProgramTest, RefusesAnAnswerThatTheBoxHasNoButtonFor) {
 
 TEST_F(BatchProgramTest, RefusesPlacesThatCanNotBeWritten) {
   ExpectRefused(program.Run("--transcript no/folder/t.jsonl", "PD\n"),
-                "no/folder/t.jsonl: the transcript can not be written");
+                "no/folder/t.jsonl: the transcript can't be written");
   const ProgramRun run = program.Run("--picture no/folder/p.png", "PD\n");
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Errors, "zerimo-batch: no/folder/p.png: the picture can not be written\n");
+  EXPECT_EQ(run.Errors, "zerimo-batch: no/folder/p.png: the picture can't be written\n");
 }
 
 TEST_F(BatchProgramTest, ATranscriptTakesThePlaceOfAFileAlone) {
   for (const char* device : {"/dev/null", "/dev/full"}) {
     ExpectRefused(program.Run(std::string("--transcript ") + device, "PD\n"),
-                  std::string(device) + ": the transcript can not be written");
+                  std::string(device) + ": the transcript can't be written");
   }
   ASSERT_EQ(mkfifo((program.Folder() / "pipe").c_str(), 0600), 0);
-  ExpectRefused(program.Run("--transcript pipe", "PD\n"), "pipe: the transcript can not be written");
+  ExpectRefused(program.Run("--transcript pipe", "PD\n"), "pipe: the transcript can't be written");
 }
 
 TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReportedAndTheFormerOneStays) {
@@ -150,11 +150,11 @@ TEST_F(BatchProgramTest, AFileBeyondTheUsersLimitIsReportedAndTheFormerOneStays)
   limited.Write("t.jsonl", "former transcript");
   const ProgramRun drawn = limited.Run("--picture a.png", "CS\n");
   EXPECT_EQ(drawn.Status, 1);
-  EXPECT_EQ(drawn.Errors, "zerimo-batch: a.png: the picture can not be written\n");
+  EXPECT_EQ(drawn.Errors, "zerimo-batch: a.png: the picture can't be written\n");
   EXPECT_EQ(limited.Read("a.png"), "former picture");
   const ProgramRun run = limited.Run("--transcript t.jsonl", "REPEAT 90 [WAIT 1]\n");
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can not be written\n");
+  EXPECT_EQ(run.Errors, "zerimo-batch: the transcript can't be written\n");
   EXPECT_EQ(limited.Read("t.jsonl"), "former transcript");
 }
 

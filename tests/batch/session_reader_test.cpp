@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"\xC3(", "the text is not UTF-8"}, BadLine{"@enter 5", "5 is no row from 0 to 4"},
         BadLine{"@enter -1", "-1 is no row from 0 to 4"}, BadLine{"@enter A", "A is no row from 0 to 4"},
         BadLine{"@enter 0 1", "there is too much on the line: 1"}, BadLine{"@type", "row is missing"},
-        BadLine{"@text Text1(0) A", "Text1(0) can not be typed over; Text2, Text3 and Text4 can"},
+        BadLine{"@text Text1(0) A", "Text1(0) can't be typed over; Text2, Text3 and Text4 can"},
         BadLine{"@text Text9 A", "there is no control Text9"}, BadLine{"@key Text1 F1", "there is no control Text1"},
         BadLine{"@key Text1(5) F1", "there is no control Text1(5)"},
         BadLine{"@key Text1(0) F13", "there is no key F13"}, BadLine{"@key Text1(0) enter", "there is no key enter"},

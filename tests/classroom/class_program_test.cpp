@@ -110,7 +110,7 @@ TEST_F(ClassProgramTest, WhatCanNotBeRunStopsNobody) {
   EXPECT_EQ(Run().Status, 0);
   for (const auto& [file, message] : {std::pair("FOLDER.ZRM", "the program is a folder"),
                                       std::pair("DANGLING.ZRM", "the program is a link that leads nowhere"),
-                                      std::pair("ROUND.ZRM", "the program can not be read"),
+                                      std::pair("ROUND.ZRM", "the program can't be read"),
                                       std::pair("PIPE.ZRM", "the program is no file but a pipe or a device"),
                                       std::pair("HUGE.ZRM", "the program is too large: the most is 4 megabytes")}) {
     EXPECT_EQ(ResultOf(file), "not run");

@@ -98,9 +98,9 @@ TEST_F(OpeningTest, WhatIsToTellComesBeforeTheFile) {
   WriteFile("box.zrm", "TO BOX\r\nEND\r\n");
   Items whileBoxStands{"not looked"};
   WhileABoxStands([&] { whileBoxStands = FormControls().List3.Items(); });
-  session->Greet("Your folder can not be written.", PathOf("box.zrm"));
+  session->Greet("Your folder can't be written.", PathOf("box.zrm"));
   ASSERT_EQ(Boxes.size(), 1u);
-  EXPECT_EQ(Boxes[0].Text, "Your folder can not be written.");
+  EXPECT_EQ(Boxes[0].Text, "Your folder can't be written.");
   EXPECT_EQ(Boxes[0].Title, "Zerimo");
   EXPECT_FALSE(Boxes[0].Icon.isNull());
   EXPECT_TRUE(whileBoxStands.empty());

@@ -52,7 +52,7 @@ for (const [what, hash] of [
 ]) {
   test(`an address whose program is ${what} says so`, () =>
     withLearner({ hash }, async (learner) => {
-      await learner.dialog("can not be read");
+      await learner.dialog("can't be read");
       await learner.key("Enter");
       await learner.noDialog();
       await learner.ready();
@@ -165,7 +165,7 @@ test("a dropped folder is told, and what to do instead", () =>
     const path = join(folder, "Homework");
     mkdirSync(path);
     await drop(learner, path);
-    await learner.dialog("Homework can not be read. If it is a folder");
+    await learner.dialog("Homework can't be read. If it is a folder");
   }));
 
 test("text dropped within the editor is the editor's", () =>

@@ -81,7 +81,7 @@ test("an archive that can't be read is told", () =>
     await learner.page.click("#files");
     await learner.dialog("Bring in");
     await (await learner.page.$("dialog input[type=file]")).uploadFile(archive);
-    await learner.dialog("can not be read");
+    await learner.dialog("can't be read");
   }));
 
 test("a file is deleted only after a question, and a sample that it hid comes again", () =>
