@@ -12,7 +12,7 @@ namespace {
 /// No file can be written or made there; programs are read from the samples.
 Disk SamplesAlone() { return Disk::Confined("/there is no such folder", ZERIMO_SAMPLES); }
 
-/// Each line of a transcript is JSON, and the last one tells the end.
+/// Each line of a transcript is JSON, and the last one is the end.
 void CheckTranscript(const std::string& transcript) {
   std::istringstream lines(transcript);
   nlohmann::json event;

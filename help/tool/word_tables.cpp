@@ -64,7 +64,7 @@ std::string InputsCell(const Page& page) {
   if (takesRest) return Joined(names) + restOfTheLine;
   const auto wanted = static_cast<std::size_t>(inputs.value_or(0));
   if (names.empty()) names.assign(wanted, "(ignored)");
-  if (names.size() != wanted) throw std::runtime_error("the page and the table tell different inputs: " + page.Name);
+  if (names.size() != wanted) throw std::runtime_error("the page and the table have different inputs: " + page.Name);
   return Joined(names);
 }
 
@@ -101,7 +101,7 @@ std::string MeaningOf(const Page& page) {
   for (const PageLine& line : page.Lines) {
     if (line.Kind == LineKind::Text && passed-- == 0) return line.Text;
   }
-  throw std::runtime_error("a page that does not tell what its word does: " + page.Name);
+  throw std::runtime_error("a page that does not say what its word does: " + page.Name);
 }
 
 class Reference {

@@ -22,7 +22,7 @@ export class Arrivals {
     document.addEventListener("visibilitychange", () => document.hidden || void this.lookAgain());
   }
 
-  /** Keeps what the system has written. The names of what is kept; a refusal is told. */
+  /** Keeps what the system has written. The names of what is kept; a refusal is shown. */
   async keep(files: File[]): Promise<string[]> {
     const names = files.map(([name]) => name);
     try {

@@ -10,7 +10,7 @@ interface Actions {
   remove(name: string): Promise<void>;
 }
 
-/** Reads what was chosen or dropped; what can't be read is told. */
+/** Reads what was chosen or dropped; what can't be read is shown. */
 export async function takeFiles(files: Iterable<File>): Promise<FolderFile[]> {
   const found: FolderFile[] = [];
   const unread: string[] = [];

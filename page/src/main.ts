@@ -131,7 +131,7 @@ class Page {
     this.stop();
   }
 
-  /** What the run has written is told after its end. */
+  /** What the run has written arrives after its end. */
   private endAfterRun(by: string): void {
     this.endedBy = by;
     this.kept = Promise.resolve([]);

@@ -1,6 +1,6 @@
 // What the page and the worker with the system say to each other.
 
-/** A control or timer with its properties, or an event, as src/web tells it in JSON; one that nobody sees tells only that. */
+/** A control or timer with its properties, or an event, as src/web sends it in JSON; of a hidden one, only that it is hidden. */
 export interface Told {
   event: string;
   name?: string;

@@ -29,7 +29,7 @@ export class Surface {
     box.addEventListener("click", () => events.deliver("Click", this.titleIsShown() ? "Image1" : "Picture1"));
   }
 
-  /** A line or circle above the picture; tells whether it was one. */
+  /** A line or circle above the picture; returns whether it was one. */
   showOverlay(told: Told): boolean {
     const name = String(told.name);
     if (name === "Image1") this.title.hidden = told["Visible"] !== true;

@@ -41,7 +41,7 @@ export class View {
   }
 }
 
-/** A box that the user types into, and the text that the system told last. */
+/** A box that the user types into, and the text that the system sent last. */
 interface TextPlace {
   box: HTMLInputElement | HTMLTextAreaElement;
   told: string;
@@ -60,7 +60,7 @@ export function collect(): [string, string][] {
 }
 
 /**
- * The system tells a text only if it is another than last time, and is seen: what it was handed and did not keep is gone.
+ * The system sends a text only if it has changed and is seen: what it was handed and did not keep is gone.
  */
 export function settle(): void {
   for (const [name, place] of handedOver) if (!place.box.hidden) showText(name, place);

@@ -14,7 +14,7 @@ const loading = Promise.all([
 
 const post = (message: FromWorker, move: Transferable[] = []) => self.postMessage(message, { transfer: move });
 
-/** The learner's folder as the system sees it, and what has changed there since the page was told. */
+/** The learner's folder as the system sees it, and what has changed there since the page last heard of it. */
 class Folder {
   private readonly known = new Map<string, string>();
 

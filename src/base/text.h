@@ -38,7 +38,6 @@ int LastPositionOf(std::string_view text, char character) noexcept;
 /// Whether `pattern` occurs anywhere in `text`.
 bool Contains(std::string_view text, std::string_view pattern) noexcept;
 
-/// The number of characters.
 int Length(std::string_view text) noexcept;
 
 /// Whether the text begins, blanks aside, and ends with a double quote. One quote alone does both.

@@ -7,7 +7,7 @@
 
 namespace zerimo::batch {
 
-/// Tells on standard error what went wrong, and returns the exit status for it.
+/// Says on standard error what went wrong, and returns the exit status for it.
 int Complain(const std::string& words);
 
 /// Prints the help or the version if that is what the command line asks for. Returns whether it was.

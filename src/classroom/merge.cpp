@@ -80,7 +80,7 @@ class Merge {
     if (share->Part.Count > 1) given_[{share->Part.Count, share->All}].insert(share->Part.Index);
   }
 
-  /// The parts with programs that nobody has given.
+  /// Finds the parts that have programs and are not among the given files.
   void FindMissing() {
     for (const auto& [whole, indexes] : given_) {
       const auto& [count, all] = whole;

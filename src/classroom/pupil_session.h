@@ -20,8 +20,8 @@ class PupilSession {
 
   PupilSession(const Order& order, Teller tell);
 
-  /// Runs the program, then its goals, and writes transcript, picture and what the goals need. Tells before the
-  /// program, after it, and after each goal.
+  /// Runs the program, then its goals, and writes transcript, picture and what the goals need. Hands the outcome
+  /// over before the program, after it, and after each goal.
   void Run();
 
  private:

@@ -65,7 +65,7 @@ void Save(const fs::path& file, const QByteArray& bytes) {
   if (!SkipOnFailure([&] { WriteBeside(file, bytes.toStdString()); })) throw NotSaved(file);
 }
 
-/// Those that this build can enforce.
+/// The limits of a report that this build can enforce.
 RunLimits LimitsOf(const Report& report) {
   RunLimits limits = report.Limits.value_or(RunLimits());
   if (!batch::MemoryLimit::IsThere()) limits.Memory = 0;

@@ -36,7 +36,7 @@ class RunProcess {
   using Clock = std::chrono::steady_clock;
 
   RunOutcome OutcomeOfRun() const;
-  /// How a process ended that did not tell it.
+  /// How a process ended that did not report it.
   RunOutcome OutcomeOfSilence() const;
 
   Order order_;

@@ -109,7 +109,7 @@ StopPlace SessionRun::WhereItStands(int line, const Play& play) {
   storeLine_ = form1.interpreter.runner.LineNow();
   if (storeLine_ == 0) return place;
   SkipOnFailure([&] { place.Procedure = FromLatin1(form1.interpreter.controlPath.CurrentProcedureName()); });
-  // A typed line runs as a procedure whose name begins with #. What follows a sign is of the control string itself.
+  // A typed line runs as a procedure whose name begins with #. What follows a minus sign belongs to the control string.
   place.Procedure = place.Procedure.section(u'-', 0, 0);
   if (place.Procedure.startsWith(u'#')) place.Procedure.clear();
   SkipOnFailure([&] { place.Statement = StatementOf(form1.interpreter.store.Line(storeLine_)); });

@@ -10,11 +10,11 @@ class PutOff {
   virtual void CatchUp() = 0;
 };
 
-/// A single whose setting can be put off: whoever put it off sets it before it is read.
+/// A single-precision number whose setting can be put off until it is read; whoever put it off sets it then.
 class LateNumber {
  public:
   LateNumber() = default;
-  // A number is meant wherever one of these stands.
+  // Stands for a number wherever one is expected.
   LateNumber(float number) : number_(number) {}
   LateNumber(const LateNumber& other) : number_(other) {}
   ~LateNumber() = default;

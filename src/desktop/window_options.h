@@ -11,7 +11,7 @@ namespace zerimo {
 struct WindowOptions {
   /// Why the arguments are refused, or the empty text.
   std::string Refusal;
-  /// "--help" or "--version": only that is told.
+  /// "--help" or "--version": only that is shown.
   bool Help = false;
   bool Version = false;
   /// "--classic": without any extension.

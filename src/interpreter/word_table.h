@@ -48,12 +48,12 @@ struct Action {
 
 inline constexpr Action Action::None{ActionCount};
 
-/// A row of the table, and the action that it tells of.
+/// A row of the table, and its action.
 struct WordFacts : WordRow {
   Action Does = Action::None;
 };
 
-/// The table.
+/// All rows, in the order of the table.
 std::span<const WordFacts> AllWords() noexcept;
 
 /// One action: its names, how they are matched and how a missing input is reported.
@@ -71,7 +71,6 @@ struct ActionFacts {
 /// All actions in the order of their tests.
 std::span<const ActionFacts, ActionCount> Actions() noexcept;
 
-/// The facts of one action.
 const ActionFacts& FactsOf(Action action) noexcept;
 
 /// The facts of a word, or null if the language has no such word.

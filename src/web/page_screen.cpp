@@ -9,7 +9,7 @@ namespace zerimo::web {
 
 namespace {
 
-/// What nobody sees is not told: writing all texts and numbers would take longer than most lines.
+/// Only that it is hidden: writing all texts and numbers would take longer than most lines.
 std::string Hidden(const Control& control) {
   return batch::JsonLine("dump").Text("name", control.Name()).Flag("Visible", false).Finished();
 }

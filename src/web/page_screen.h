@@ -9,7 +9,7 @@
 
 namespace zerimo::web {
 
-/// Tells the page what has changed since it was last told: a part of the picture, and controls with all their
+/// Tells the page what has changed since the last time: a part of the picture, and controls with all their
 /// properties if they are seen.
 class PageScreen {
  public:

@@ -242,7 +242,7 @@ TEST_F(ClassProgramTest, TellsWhatOnlyARunShows) {
         std::pair("LARGE.ZRM", "outside the picture"), std::pair("CLEARED.ZRM", "nothing left"),
         std::pair("ERASED.ZRM", "nothing left"), std::pair("FENCED.ZRM", "fence hit"),
         std::pair("TWICE.ZRM", "loads another, loads another, loaded twice"), std::pair("ROUND.ZRM", "for ever"),
-        // The same thing is told once.
+        // The same thing is reported once.
         std::pair("ASKED.ZRM", "missing inputs"), std::pair("ALL.ZRM", "")}) {
     EXPECT_EQ(MistakesOf(file), mistakes) << file;
   }

@@ -66,7 +66,7 @@ class ClassSignalsTest : public ClassTest {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
-  /// Whether a run has begun, that is, has told what is known before.
+  /// Whether a run has begun, that is, has reported what is known before.
   bool HasBegun() const {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(TemporaryFolder())) {
       if (entry.path().filename() == "outcome.json") return true;

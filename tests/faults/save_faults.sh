@@ -84,7 +84,7 @@ for length in 1 5000 2000000; do
   try_save "a transcript of $length characters" transcript
 done
 
-# A page tells the time when it was made, so that no two are alike.
+# A page shows the time when it was made, so that no two are alike.
 is_whole() { [ "$(head -c 9 "$folder/$target") $(tail -n 1 "$folder/$target")" = "<!DOCTYPE </html>" ]; }
 mkdir "$work/class"
 printf 'TO A\r\nPRINT 1\r\nEND\r\n' >"$work/class/A.ZRM"

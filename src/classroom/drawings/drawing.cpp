@@ -47,7 +47,7 @@ bool LiesOutside(const Surface& surface, const Figure& figure) {
 
 double SizeOf(const Figure& figure) { return figure.Across + figure.Down + LeastLength; }
 
-/// How much of some sizes counts.
+/// What part of the sum of some sizes counts.
 class Shares {
  public:
   /// `part` is from 0 to 1.

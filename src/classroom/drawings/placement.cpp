@@ -161,7 +161,7 @@ std::optional<Placement> PlacementOf(const Drawing& goal, const Drawing& drawing
   // Within the tolerance, a dot is like any other.
   if (to.Spread < LeastSpread * tolerance || !IsScale(scale)) return std::nullopt;
   std::vector<Placement> tries = TriesFor(goal, drawing, 1);
-  // Another size is told only if it matters.
+  // Another size is reported only if it matters.
   const std::vector<Placement> scaled = TriesFor(goal, drawing, scale);
   tries.insert(tries.end(), scaled.begin(), scaled.end());
   std::optional<Placement> best;

@@ -32,7 +32,7 @@ class IfWalk {
     bool HasElse;
   };
 
-  /// All on one line: it is told that there are several statements on it.
+  /// All on one line: that several statements stand on it is reported elsewhere.
   static bool HasItsEndif(const Statement& statement) {
     return std::ranges::any_of(statement.Inputs(),
                                [](const QString& word) { return IsOneOf<StmtEndIf>(KnownWord(word)); });

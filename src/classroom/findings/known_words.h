@@ -43,7 +43,7 @@ bool IsCommand(const QString& word);
 /// Whether a word is in the language, but does nothing.
 bool IsDead(const WordFacts& word);
 
-/// Whether what follows a word names a file, a page, a window or a label.
+/// Whether a word takes the name of a file, a page, a window or a label.
 bool TakesAName(const WordFacts* word);
 
 /// How many inputs a word needs: 0 if it can do without, is not a word, or takes the rest of its line.

@@ -78,7 +78,7 @@ QString LettersOf(const QString& word) {
   return match.hasMatch() ? match.captured(1) : word;
 }
 
-/// A word in a sum vanishes: a name without its colon, a text without quotes, or nothing that anybody knows.
+/// A word in a sum vanishes: a name without its colon, a text without quotes, or an unknown word.
 void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings& findings) {
   static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Za-z]\\w*(?![\\w.])");
   static const QRegularExpression exponent("^\\d+E\\d*$");

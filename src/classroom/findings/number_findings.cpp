@@ -32,7 +32,7 @@ void FindInNumbers(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
     const bool hasText = IsText(statement.Known) && statement.Text.contains(u'"');
     const bool hasNoBody = statement.Is<inputs::Repeat>() && !statement.Text.contains(u'[');
-    // What is wrong with their own brackets is told of them as a whole.
+    // What is wrong with their own brackets is reported for the whole statement.
     if (hasText || hasNoBody || statement.Is<"(SUM", "(PRODUCT">()) continue;
     for (const QString& sum : listing.SumsOf(statement)) FindInSum(statement, sum, findings);
   }

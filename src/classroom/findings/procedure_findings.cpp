@@ -46,8 +46,8 @@ void FindOutside(const Listing& listing, Findings& findings) {
   }
 }
 
-/// The first statement after a place at which nothing is left to do but to close the IFs around it. What is between
-/// an ELSE and its ENDIF is not carried out.
+/// The first statement from a place on that does more than close the IFs around it. What stands between an ELSE and
+/// its ENDIF is not carried out.
 std::size_t AfterClosedIfs(const std::vector<Statement>& all, std::size_t at) {
   int skipped = 0;
   for (; at < all.size(); ++at) {

@@ -177,7 +177,7 @@ void FindMissingBlank(const Statement& statement, Findings& findings) {
 
 void FindInStatements(const Listing& listing, Findings& findings) {
   for (const Statement& statement : listing.Statements) {
-    // The statements of a body are checked one by one; a remark is told as an unknown word.
+    // The statements of a body are checked one by one; a remark is reported as an unknown word.
     if (statement.Is<inputs::Repeat>() || statement.IsRemark()) continue;
     FindPatterns(statement, findings);
     FindLoneNumber(listing, statement, findings);

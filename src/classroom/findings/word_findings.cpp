@@ -21,7 +21,7 @@ bool IsSum(const Statement& statement) {
   return isValue || (sum.match(statement.Word()).hasMatch() && !statement.IsRemark());
 }
 
-/// What someone has meant who wrote a word that is unknown, or empty: "FD50" is "FD 50", and "(FD" is "FD".
+/// What the writer of an unknown word probably meant, or empty: "FD50" is "FD 50", and "(FD" is "FD".
 QString WordMeantBy(const QString& unknown, const QStringList& procedures) {
   static const QRegularExpression withNumber("^([A-Z]+)(\\d.*)$");
   QString word = WithoutBrackets(unknown);
@@ -37,7 +37,7 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
   if (statement.Known != nullptr || names.contains(word) || IsSum(statement)) return;
   const QString capitals = word.toUpper();
   if (word != capitals && (IsKnownWord(capitals) || names.contains(capitals))) {
-    // F2 cures all of them, so they are told once.
+    // F2 cures all of them, so they are reported once.
     if (std::ranges::find(findings, Mistake::SmallLetters, &Finding::What) == findings.end())
       findings.push_back({Mistake::SmallLetters, statement.Line, {word, capitals}});
     return;
@@ -53,7 +53,7 @@ void FindUnknown(const Listing& listing, const Statement& statement, Findings& f
 QString SecondStatementOf(const Listing& listing, const Statement& statement) {
   const bool isUnknown = statement.Known == nullptr && listing.Find(statement.Word()) == nullptr;
   if (isUnknown || statement.InBody || statement.Is<StmtElse>()) return {};
-  // A bracket too many is told as such.
+  // A bracket too many is reported as such.
   if (statement.Is<inputs::Repeat>()) return PartsOf(statement.Text).After.remove(u']').section(u' ', 0, 0);
   const QStringList words = statement.Text.split(u' ');
   const auto begin = words.begin() + std::min<qsizetype>(words.size(), TakesAName(statement.Known) ? 2 : 1);
@@ -111,13 +111,13 @@ void FindBlankInSum(const Listing& listing, const Statement& statement, Findings
   const QStringList pieces = statement.Rest().split(u' ');
   if (!isCut) return;
   for (const QString& input : statement.Inputs()) {
-    // A blank before = is told by itself, and MAKE needs no =.
+    // A blank before = is reported by itself, and MAKE needs no =.
     const bool isOther = input.contains(u'=') && statement.Is<StmtIf, StmtMake>();
     if (!pieces.contains(input) && !isOther) findings.push_back({Mistake::BlankInSum, statement.Line, {input}});
   }
 }
 
-/// What follows the condition of an IF on its line is lost, unless it is a statement, which is told as such.
+/// What follows the condition of an IF on its line is lost, unless it is a statement, which is reported as such.
 void FindAfterCondition(const Statement& statement, Findings& findings) {
   const QStringList given = statement.Inputs();
   const bool isOther = statement.Text.contains(u'=') || statement.Text.contains(u'"');

@@ -14,7 +14,7 @@ class Announcer : public Extension {
 
   void RunEnds() override;
 
-  /// How many of the last entries are told, at most.
+  /// How many of the last entries are read out, at most.
   static constexpr std::size_t MostEntries = 20;
 
  private:

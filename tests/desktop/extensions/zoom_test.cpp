@@ -115,7 +115,7 @@ TEST_F(ZoomTest, TheTurtleStaysInSightWhileItsLinesRunOneByOne) {
   std::vector<bool> inSight;
   QTimer stepper;
   QObject::connect(&stepper, &QTimer::timeout, [&] {
-    // Until the next line is told, the one before it is still on its way.
+    // Until the next line is reported, the one before it is still on its way.
     if (!session->stage.IsRunning() || Chip().text().toStdString() == told) return;
     told = Chip().text().toStdString();
     const Turtle& turtle = session->form1.turtle;
