@@ -167,7 +167,7 @@ class ClassRun {
     ClassRunner runner(PlanIn(place / "model"), {{task_.Model, {}}}, [](const PupilRun&, std::size_t) {});
     const std::vector<PupilRun> runs = runner.Run();
     if (runs.empty()) return false;
-    CheckGoals(runs.front().Went);
+    CheckGoals(runs.front().Outcome);
     return true;
   }
 
@@ -176,14 +176,14 @@ class ClassRun {
   }
 
   /// Fails if the model does not meet its own goals.
-  void CheckGoals(const RunOutcome& model) const {
-    const auto missed = std::ranges::find(model.Goals, false, &GoalOutcome::Met);
-    if (missed == model.Goals.end()) return;
-    const auto index = static_cast<std::size_t>(missed - model.Goals.begin());
+  void CheckGoals(const RunOutcome& outcome) const {
+    const auto missed = std::ranges::find(outcome.Goals, false, &GoalOutcome::Met);
+    if (missed == outcome.Goals.end()) return;
+    const auto index = static_cast<std::size_t>(missed - outcome.Goals.begin());
     QString words = QStringLiteral("goal %1").arg(index + 1);
     if (!missed->Title.isEmpty()) words += QStringLiteral(", ") + Readable(missed->Title);
     words += QStringLiteral(": its program ");
-    if (model.How != Result::Ended) RefuseTask(words + WordsOf(model, limits_));
+    if (outcome.How != Result::Ended) RefuseTask(words + WordsOf(outcome, limits_));
     words += missed->Way == GoalWay::Texts ? QStringLiteral("prints nothing") : QStringLiteral("draws nothing");
     if (task_.Goals[index].Typed.isEmpty()) words += QStringLiteral("; say under \"## Goals\" what is typed");
     RefuseTask(words);
@@ -200,7 +200,7 @@ class ClassRun {
     const std::size_t all = pupils_.size();
     ClassRunner runner(std::move(plan), std::move(pupils_), [&](const PupilRun& run, std::size_t done) {
       if (records) records->Add(run);
-      progress_.Tell(done, all, EscapedName(run) + u' ' + WordsOf(run.Went, limits_));
+      progress_.Tell(done, all, EscapedName(run) + u' ' + WordsOf(run.Outcome, limits_));
     });
     report_.Runs = runner.Run();
     if (records) TakeRecords();
@@ -242,7 +242,7 @@ class ClassRun {
 
   QString LastWords() const {
     const auto ended =
-        std::ranges::count(report_.Runs, Result::Ended, [](const PupilRun& run) { return run.Went.How; });
+        std::ranges::count(report_.Runs, Result::Ended, [](const PupilRun& run) { return run.Outcome.How; });
     return QStringLiteral("%1 of %2 programs ended by themselves; the report is %3")
         .arg(ended)
         .arg(report_.Runs.size())

@@ -144,7 +144,7 @@ GoalOutcome TakeModel(const Goal& goal, std::size_t index, const SessionRun& run
   WriteDrawing(run_file::Drawn(index), run.Recorder().Drawn());
   WriteBeside(run_file::Printed(index), Compact({{"printed", ValueOf(TextsOf(run))}}));
   GoalOutcome outcome = goal.NotMet();
-  outcome.Met = run.Went().How == Result::Ended && HasSomething(goal.Way, index, run);
+  outcome.Met = run.Outcome().How == Result::Ended && HasSomething(goal.Way, index, run);
   return outcome;
 }
 

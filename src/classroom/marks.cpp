@@ -28,9 +28,9 @@ QByteArray MarksHead() {
 }
 
 QByteArray MarksOf(const PupilRun& run) {
-  return Row({NameOf(PlaceOf(run.Who)), PupilName(run.Who), WordOf(run.Went.How), QString::number(PointsOf(run)),
+  return Row({NameOf(PlaceOf(run.Who)), PupilName(run.Who), WordOf(run.Outcome.How), QString::number(PointsOf(run)),
               QString::number(MostPointsOf(run)), QString::number(run.GoalsMet()),
-              QString::number(run.Went.Goals.size()), QString::number(run.Went.Findings.size()),
+              QString::number(run.Outcome.Goals.size()), QString::number(run.Outcome.Findings.size()),
               QString::number(run.Seconds, 'f', 1)});
 }
 

@@ -146,7 +146,7 @@ class Merge {
                      0,
                      0};
     for (const PupilRun& run : report_.Runs) {
-      entry.Ended += run.Went.How == Result::Ended ? 1 : 0;
+      entry.Ended += run.Outcome.How == Result::Ended ? 1 : 0;
       entry.Suspicious += run.IsSuspicious() ? 1 : 0;
     }
     const fs::path page = files_.Page().parent_path() / name;

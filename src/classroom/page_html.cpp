@@ -82,21 +82,21 @@ QString PictureSource::Beside(const std::filesystem::path& file) {
 }
 
 QString ResultHtml(const PupilRun& run, const Language& language) {
-  const bool isGood = run.Went.How == Result::Ended;
-  const QString words = Escaped(WordsOf(run.Went, run.Limits, language));
+  const bool isGood = run.Outcome.How == Result::Ended;
+  const QString words = Escaped(WordsOf(run.Outcome, run.Limits, language));
   if (isGood && run.IsSuspicious()) return Element("span", "look", words);
   return Element("span", isGood ? "good" : "bad", words);
 }
 
 double PointsOf(const PupilRun& run) {
   double points = 0;
-  for (const GoalOutcome& goal : run.Went.Goals) points += goal.Met ? goal.Points : 0;
+  for (const GoalOutcome& goal : run.Outcome.Goals) points += goal.Met ? goal.Points : 0;
   return points;
 }
 
 double MostPointsOf(const PupilRun& run) {
   double points = 0;
-  for (const GoalOutcome& goal : run.Went.Goals) points += goal.Points;
+  for (const GoalOutcome& goal : run.Outcome.Goals) points += goal.Points;
   return points;
 }
 

@@ -144,7 +144,7 @@ struct RunLimits {
 struct PupilRun {
   Pupil Who;
   RunLimits Limits;
-  RunOutcome Went;
+  RunOutcome Outcome;
   Said Told;
   /// Wall-clock time of the process.
   double Seconds = 0;
@@ -152,12 +152,12 @@ struct PupilRun {
   std::filesystem::path Picture;
 
   std::size_t GoalsMet() const {
-    return static_cast<std::size_t>(std::ranges::count_if(Went.Goals, &GoalOutcome::Met));
+    return static_cast<std::size_t>(std::ranges::count_if(Outcome.Goals, &GoalOutcome::Met));
   }
   /// Whether the run needs a teacher's eye.
   bool IsSuspicious() const {
-    return Went.How != Result::Ended || !Went.Findings.empty() || !Went.Notes.isEmpty() ||
-           GoalsMet() < Went.Goals.size();
+    return Outcome.How != Result::Ended || !Outcome.Findings.empty() || !Outcome.Notes.isEmpty() ||
+           GoalsMet() < Outcome.Goals.size();
   }
 };
 

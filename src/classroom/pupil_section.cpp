@@ -49,7 +49,7 @@ class SectionWriter {
   QString LineId(int line) const { return QStringLiteral("p%1l%2").arg(number_).arg(line); }
 
   void WriteResult() {
-    const QString place = WordsOf(run_.Went.Where, language_);
+    const QString place = WordsOf(run_.Outcome.Where, language_);
     const QString where = place.isEmpty() ? QString() : QStringLiteral(", ") + Escaped(place);
     html_ += Paragraph(ResultHtml(run_, language_) + where + u' ' +
                        Element("span", "quiet", u'(' + WordsOfSeconds(run_.Seconds, language_) + u')'));
@@ -58,17 +58,18 @@ class SectionWriter {
   void WriteStart() {
     if (!run_.Who.Session.empty()) {
       html_ += Element("p", "quiet", Filled(language_.RunBySession, {Escaped(ReadableName(run_.Who.Session))})) + u'\n';
-    } else if (!run_.Went.Typed.isEmpty()) {
-      const QString typed = EscapedReadable(run_.Went.Typed.join(QStringLiteral(", ")));
+    } else if (!run_.Outcome.Typed.isEmpty()) {
+      const QString typed = EscapedReadable(run_.Outcome.Typed.join(QStringLiteral(", ")));
       html_ += Element("p", "quiet", Filled(language_.Typed, {typed})) + u'\n';
     }
   }
 
   void WriteFindings() {
-    if (run_.Went.Findings.empty() && run_.Went.Notes.isEmpty()) return;
+    if (run_.Outcome.Findings.empty() && run_.Outcome.Notes.isEmpty()) return;
     html_ += Heading(language_.WentWrong) + QStringLiteral("<ul class=\"findings\">\n");
-    for (const Finding& finding : run_.Went.Findings) WriteFinding(finding);
-    for (const QString& note : run_.Went.Notes) html_ += Element("li", "", EscapedReadable(language_.Of(note))) + u'\n';
+    for (const Finding& finding : run_.Outcome.Findings) WriteFinding(finding);
+    for (const QString& note : run_.Outcome.Notes)
+      html_ += Element("li", "", EscapedReadable(language_.Of(note))) + u'\n';
     html_ += QStringLiteral("</ul>\n");
   }
 
@@ -86,9 +87,9 @@ class SectionWriter {
   }
 
   void WriteGoals() {
-    if (run_.Went.Goals.empty()) return;
+    if (run_.Outcome.Goals.empty()) return;
     html_ += Heading(language_.GoalsHead);
-    for (std::size_t i = 0; i < run_.Went.Goals.size(); ++i) WriteGoal(run_.Went.Goals[i], i);
+    for (std::size_t i = 0; i < run_.Outcome.Goals.size(); ++i) WriteGoal(run_.Outcome.Goals[i], i);
   }
 
   void WriteGoal(const GoalOutcome& goal, std::size_t index) {
@@ -200,28 +201,28 @@ class SectionWriter {
   }
 
   void WriteProgram() {
-    if (run_.Went.Source.empty()) return;
+    if (run_.Outcome.Source.empty()) return;
     html_ += Heading(language_.Program) + QStringLiteral("<ol class=\"program\">\n");
     QSet<int> marked;
-    for (const Finding& finding : run_.Went.Findings) marked.insert(finding.Line);
-    for (std::size_t i = 0; i < run_.Went.Source.size(); ++i) {
+    for (const Finding& finding : run_.Outcome.Findings) marked.insert(finding.Line);
+    for (std::size_t i = 0; i < run_.Outcome.Source.size(); ++i) {
       const int line = static_cast<int>(i) + 1;
-      const bool isStop = line == run_.Went.Where.ProgramLine;
+      const bool isStop = line == run_.Outcome.Where.ProgramLine;
       const char* const kind = isStop ? "stop" : marked.contains(line) ? "mark" : "line";
       html_ += QStringLiteral("<li id=\"") + LineId(line) + QStringLiteral("\">") +
-               Element("code", kind, EscapedReadable(run_.Went.Source[i].Text));
+               Element("code", kind, EscapedReadable(run_.Outcome.Source[i].Text));
       if (isStop) html_ += u' ' + Element("strong", "bad", QStringLiteral("\u2190 ") + Utf8(language_.StoppedHere));
       html_ += QStringLiteral("</li>\n");
     }
     html_ += QStringLiteral("</ol>\n");
-    if (run_.Went.SourceIsCut) html_ += Paragraph(Utf8(language_.ProgramIsCut));
+    if (run_.Outcome.SourceIsCut) html_ += Paragraph(Utf8(language_.ProgramIsCut));
     WriteStore();
   }
 
   void WriteStore() {
     QString rows;
-    for (std::size_t i = 0; i < run_.Went.Source.size(); ++i) {
-      const std::optional<QStringList>& stored = run_.Went.Source[i].Stored;
+    for (std::size_t i = 0; i < run_.Outcome.Source.size(); ++i) {
+      const std::optional<QStringList>& stored = run_.Outcome.Source[i].Stored;
       if (!stored) continue;
       rows += QStringLiteral("<li value=\"%1\">").arg(i + 1) +
               Element("code", "", EscapedReadable(stored->join(QStringLiteral(" / ")))) + QStringLiteral("</li>\n");

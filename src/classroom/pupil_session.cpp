@@ -190,8 +190,8 @@ void PupilSession::RunMain() {
   for (const Goal& goal : order_.Goals) FindInTyped(PlayOf(goal));
   tell_(outcome_);
   SessionRun& run = Played(play, run_file::Transcript);
-  TakeEnd(run.Went());
-  outcome_.Notes += run.Went().Notes;
+  TakeEnd(run.Outcome());
+  outcome_.Notes += run.Outcome().Notes;
   MatchSource(run);
   // A run has begun if there was a session, or a line typed after that of LOAD. A program without lines can't begin.
   const bool hasBegun = outline_ && play.Typed.size() != 1;
@@ -200,11 +200,11 @@ void PupilSession::RunMain() {
   WritePicture(run, run_file::Picture);
 }
 
-void PupilSession::TakeEnd(const RunOutcome& went) {
-  outcome_.How = went.How;
-  outcome_.By = went.By;
-  outcome_.Message = went.Message;
-  outcome_.Where = went.Where;
+void PupilSession::TakeEnd(const RunOutcome& outcome) {
+  outcome_.How = outcome.How;
+  outcome_.By = outcome.By;
+  outcome_.Message = outcome.Message;
+  outcome_.Where = outcome.Where;
 }
 
 void PupilSession::FindInTyped(const Play& play) {
@@ -238,7 +238,7 @@ void PupilSession::RunGoal(std::size_t index) {
     outcome_.Goals.push_back(Judge(order_, index, run));
   } else {
     outcome_.Goals.push_back(TakeModel(goal, index, run));
-    if (outcome_.How == Result::Ended) TakeEnd(run.Went());
+    if (outcome_.How == Result::Ended) TakeEnd(run.Outcome());
   }
 }
 
@@ -256,8 +256,8 @@ int RunPupil() {
   if (!order) return 1;
   TameProcess(order->Runner);
   if (order->Limits.Memory > 0) NoteRefusedMemory();
-  const Pupil& who = order->Who;
-  std::vector<fs::path> readable = {who.Program.parent_path(), who.Program, who.Session};
+  const Pupil& pupil = order->Who;
+  std::vector<fs::path> readable = {pupil.Program.parent_path(), pupil.Program, pupil.Session};
   for (const fs::path& model : {order->ModelFolder, order->ModelPicture}) {
     if (!model.empty()) readable.push_back(model);
   }

@@ -39,7 +39,7 @@ class PupilSession {
   SessionRun& Played(const Play& play, const char* transcript);
   void RunMain();
   /// Takes how a session ended.
-  void TakeEnd(const RunOutcome& went);
+  void TakeEnd(const RunOutcome& outcome);
   /// Calls with other inputs than a procedure takes.
   void FindInTyped(const Play& play);
   /// Adds those that are not there yet.

@@ -253,8 +253,8 @@ Json JsonOf(const PupilRun& run) {
   Json json = {{"file", ValueOf(NameOf(PlaceOf(run.Who)))},
                {"name", OrNull(run.Who.Name)},
                {"session", OrNull(NameOf(run.Who.Session.filename()))}};
-  json.update(JsonOf(run.Went));
-  json["notes"] = ValueOf(NotesOfFindings(run.Went.Findings) + run.Went.Notes);
+  json.update(JsonOf(run.Outcome));
+  json["notes"] = ValueOf(NotesOfFindings(run.Outcome.Findings) + run.Outcome.Notes);
   json["seconds"] = std::round(run.Seconds * 1000) / 1000;
   json["printed"] = ValueOf(run.Told.Lines);
   json["printedCut"] = run.Told.LinesAreCut;
@@ -268,8 +268,8 @@ PupilRun RunIn(const Json& json) {
   PupilRun run;
   const std::filesystem::path place = TextAt(json, "file").toStdU16String();
   run.Who = {place, TextAt(json, "session").toStdU16String(), TextAt(json, "name"), place};
-  run.Went = OutcomeIn(json);
-  for (const QString& note : NotesOfFindings(run.Went.Findings)) run.Went.Notes.removeOne(note);
+  run.Outcome = OutcomeIn(json);
+  for (const QString& note : NotesOfFindings(run.Outcome.Findings)) run.Outcome.Notes.removeOne(note);
   run.Seconds = NumberAt(json, "seconds");
   run.Told.Lines = TextsAt(json, "printed");
   run.Told.LinesAreCut = FlagAt(json, "printedCut");

@@ -166,10 +166,10 @@ class PageWriter {
 
   /// The notes of a run, as the filter offers them.
   QString NotesOf(const PupilRun& run) const {
-    QStringList notes = {language_.NameOf(run.Went.How)};
-    for (const Finding& finding : run.Went.Findings) notes.append(language_.NameOf(finding.What));
-    for (const QString& note : run.Went.Notes) notes.append(language_.Of(note));
-    if (run.GoalsMet() != run.Went.Goals.size()) notes.append(Utf8(language_.GoalsNotMet));
+    QStringList notes = {language_.NameOf(run.Outcome.How)};
+    for (const Finding& finding : run.Outcome.Findings) notes.append(language_.NameOf(finding.What));
+    for (const QString& note : run.Outcome.Notes) notes.append(language_.Of(note));
+    if (run.GoalsMet() != run.Outcome.Goals.size()) notes.append(Utf8(language_.GoalsNotMet));
     if (!run.IsSuspicious()) notes.append(Utf8(language_.NothingSuspicious));
     notes.removeDuplicates();
     return notes.join(u'|');
@@ -189,11 +189,11 @@ class PageWriter {
 
   QString NotesCell(const PupilRun& run) const {
     QStringList notes;
-    for (const Finding& finding : run.Went.Findings) {
+    for (const Finding& finding : run.Outcome.Findings) {
       const QString line = finding.Line == 0 ? QString() : QString::number(finding.Line) + QStringLiteral(": ");
       notes.append(line + EscapedReadable(language_.Of(finding)));
     }
-    for (const QString& note : run.Went.Notes) notes.append(EscapedReadable(language_.Of(note)));
+    for (const QString& note : run.Outcome.Notes) notes.append(EscapedReadable(language_.Of(note)));
     AddGoalNotes(run, notes);
     const QString words = run.IsSuspicious()
                               ? notes.join(QStringLiteral("<br>"))
@@ -202,7 +202,7 @@ class PageWriter {
   }
 
   void AddGoalNotes(const PupilRun& run, QStringList& notes) const {
-    const std::vector<GoalOutcome>& goals = run.Went.Goals;
+    const std::vector<GoalOutcome>& goals = run.Outcome.Goals;
     if (run.GoalsMet() == goals.size()) return;
     notes.append(Filled(language_.GoalsMet, {QString::number(run.GoalsMet()), QString::number(goals.size())}));
     const auto near =
@@ -213,10 +213,10 @@ class PageWriter {
   }
 
   QString GoalsCell(const PupilRun& run) const {
-    if (run.Went.Goals.empty()) return Element("td", "number", {});
+    if (run.Outcome.Goals.empty()) return Element("td", "number", {});
     double percent = 0;
-    for (const GoalOutcome& goal : run.Went.Goals) percent += goal.Percent;
-    percent = std::floor(percent / static_cast<double>(run.Went.Goals.size()));
+    for (const GoalOutcome& goal : run.Outcome.Goals) percent += goal.Percent;
+    percent = std::floor(percent / static_cast<double>(run.Outcome.Goals.size()));
     const double points = PointsOf(run);
     const char* const kind = points == MostPointsOf(run) ? "good" : "bad";
     return QStringLiteral("<td class=\"number\" data-value=\"%1\">").arg(points) +

@@ -59,7 +59,7 @@ void FindInPicture(SessionRun& run, bool hasBegun, std::vector<Finding>& finding
     Add(findings, isUp ? Mistake::NothingWithPenUp : Mistake::NothingDrawn);
   }
   const bool isLeft = !recorder.IsBlank() || recorder.WasWiped();
-  if (recorder.HasDrawn() && !isLeft && isSilent && run.Went().How == Result::Ended)
+  if (recorder.HasDrawn() && !isLeft && isSilent && run.Outcome().How == Result::Ended)
     Add(findings, Mistake::NothingLeft);
   const bool isUnderTheTitle = recorder.LeavesBand(run.form1.Picture1, TitleIsClearFrom, TitleIsClearTo);
   if (isUnderTheTitle && run.form1.controls.Image1.Visible()) Add(findings, Mistake::UnderTheTitle);
@@ -104,9 +104,9 @@ void FindLoaded(const QString& program, const std::filesystem::path& file, std::
 void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings) {
   FindInPicture(run, hasBegun, findings);
   FindInStore(run.form1.interpreter.store, findings);
-  const RunOutcome& went = run.Went();
-  if (went.How == Result::Stopped && went.By != "memory")
-    findings.push_back({Mistake::ForEver, programLine, {went.Where.Statement.trimmed()}});
+  const RunOutcome& outcome = run.Outcome();
+  if (outcome.How == Result::Stopped && outcome.By != "memory")
+    findings.push_back({Mistake::ForEver, programLine, {outcome.Where.Statement.trimmed()}});
   FindInBoxes(run.Told().Boxes, findings);
 }
 

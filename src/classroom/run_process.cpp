@@ -80,14 +80,14 @@ PupilRun RunProcess::TakeRun() {
   PupilRun run;
   run.Who = order_.Who;
   run.Limits = order_.Limits;
-  run.Went = OutcomeOfRun();
+  run.Outcome = OutcomeOfRun();
   run.Told = SaidIn(QByteArray::fromStdString(BytesOf(runFolder_ / run_file::Transcript).value_or(std::string())));
   run.Seconds = std::chrono::duration<double>(finish_ - begin_).count();
   std::error_code error;
   const fs::path picture = runFolder_ / run_file::Picture;
   const std::uintmax_t size = fs::file_size(picture, error);
   if (!error && size <= LargestPicture) run.Picture = picture;
-  if (!error && size > LargestPicture) run.Went.Notes.append("The picture is too large for the report.");
+  if (!error && size > LargestPicture) run.Outcome.Notes.append("The picture is too large for the report.");
   fs::remove_all(runFolder_ / run_file::Scratch, error);
   fs::remove(runFolder_ / run_file::Transcript, error);
   return run;

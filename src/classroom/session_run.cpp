@@ -71,16 +71,16 @@ batch::Script SessionRun::ScriptOf(const Play& play) {
   return script;
 }
 
-void SessionRun::Tell(const batch::Outcome& went, const Play& play) {
-  outcome_.By = QString::fromStdString(went.By);
-  outcome_.Message = ShortText(QString::fromStdString(went.Message));
-  switch (went.How) {
+void SessionRun::Tell(const batch::Outcome& outcome, const Play& play) {
+  outcome_.By = QString::fromStdString(outcome.By);
+  outcome_.Message = ShortText(QString::fromStdString(outcome.Message));
+  switch (outcome.How) {
     case batch::Ending::Over:
       outcome_.How = Result::Ended;
       return;
     case batch::Ending::Refused:
       outcome_.How = Result::Refused;
-      outcome_.Where = PlaceOfLine(went.Line, play);
+      outcome_.Where = PlaceOfLine(outcome.Line, play);
       return;
     case batch::Ending::Failed:
       outcome_.How = Result::Failed;
@@ -89,7 +89,7 @@ void SessionRun::Tell(const batch::Outcome& went, const Play& play) {
       outcome_.How = Result::Stopped;
       break;
   }
-  outcome_.Where = WhereItStands(went.Line, play);
+  outcome_.Where = WhereItStands(outcome.Line, play);
 }
 
 StopPlace SessionRun::PlaceOfLine(int line, const Play& play) {

@@ -35,7 +35,7 @@ class SessionRun {
   void Run(const Play& play);
 
   /// How it went, with any notes.
-  const RunOutcome& Went() const { return outcome_; }
+  const RunOutcome& Outcome() const { return outcome_; }
   const DrawingRecorder& Recorder() const { return recorder_; }
   const ZeroWatch& Zeros() const { return zeros_; }
   /// What was said, from the transcript.
@@ -48,7 +48,7 @@ class SessionRun {
 
  private:
   batch::Script ScriptOf(const Play& play);
-  void Tell(const batch::Outcome& went, const Play& play);
+  void Tell(const batch::Outcome& outcome, const Play& play);
   static StopPlace PlaceOfLine(int line, const Play& play);
   /// The place in the session and in the program.
   StopPlace WhereItStands(int line, const Play& play);

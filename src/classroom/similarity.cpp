@@ -14,7 +14,7 @@ namespace {
 
 QStringList TextsOf(const PupilRun& run) {
   QStringList texts;
-  for (const SourceLine& line : run.Went.Source) texts.append(line.Text);
+  for (const SourceLine& line : run.Outcome.Source) texts.append(line.Text);
   return texts;
 }
 

@@ -12,18 +12,18 @@ inline const QString Hostile =
 inline Report HostileReport() {
   PupilRun run;
   run.Who = {"/class/" + Hostile.toStdString().substr(6, 30) + "\"'&\n\xFF.ZRM", "/class/<b>\".session"};
-  run.Went.How = Result::Failed;
-  run.Went.By = Hostile;
-  run.Went.Message = Hostile;
-  run.Went.Where = {1, Hostile, Hostile, Hostile};
-  run.Went.Typed = {Hostile};
-  run.Went.Notes = {Hostile};
+  run.Outcome.How = Result::Failed;
+  run.Outcome.By = Hostile;
+  run.Outcome.Message = Hostile;
+  run.Outcome.Where = {1, Hostile, Hostile, Hostile};
+  run.Outcome.Typed = {Hostile};
+  run.Outcome.Notes = {Hostile};
   run.Told.Lines = {Hostile, Hostile};
   run.Told.Boxes = {{"box", Hostile, Hostile, Hostile, Hostile}, {"input", Hostile, Hostile, {}, Hostile}};
   GoalOutcome goal{Hostile, GoalWay::Texts};
   goal.Wanted = goal.Printed = {Hostile, Hostile};
   goal.Printed[1] += "!";
-  run.Went.Goals = {goal};
+  run.Outcome.Goals = {goal};
   Report report;
   report.Folder = Hostile;
   report.Made = "2026-01-02T03:04:05";

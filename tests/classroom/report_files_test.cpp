@@ -52,7 +52,7 @@ TEST(Summary, WhatThereIsNotIsNull) {
   Report report;
   report.Runs.resize(1);
   report.Runs[0].Who.Program = "ANNA.ZRM";
-  report.Runs[0].Went.How = Result::NotRun;
+  report.Runs[0].Outcome.How = Result::NotRun;
   const QJsonObject summary = Read(report);
   for (const char* key : {"seconds", "steps", "megabytes"}) {
     EXPECT_TRUE(summary.value("limits").toObject().value(QLatin1String(key)).isNull()) << key;

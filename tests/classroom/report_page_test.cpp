@@ -20,8 +20,8 @@ const QByteArray OnePixel = QByteArray::fromBase64(
 PupilRun RunOf(const char* file) {
   PupilRun run;
   run.Who.Program = file;
-  run.Went.How = Result::Ended;
-  run.Went.By = "finished";
+  run.Outcome.How = Result::Ended;
+  run.Outcome.By = "finished";
   run.Seconds = 0.42;
   return run;
 }
@@ -171,10 +171,10 @@ TEST(ReportPage, LeavesLongOutputOnTheScreen) {
 
 TEST(ReportPage, TellsWhereARunWasStopped) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.How = Result::Stopped;
-  run.Went.By = "steps";
-  run.Went.Where = {2, "SPIN", "SPIN", "GOTO L"};
-  run.Went.Typed = {"LOAD ANNA", "SPIN"};
+  run.Outcome.How = Result::Stopped;
+  run.Outcome.By = "steps";
+  run.Outcome.Where = {2, "SPIN", "SPIN", "GOTO L"};
+  run.Outcome.Typed = {"LOAD ANNA", "SPIN"};
   const QString page = PageWith({run});
   EXPECT_TRUE(
       page.contains("<span class=\"bad\">stopped: more than 1000 steps in one line</span>, in line 2 (SPIN), "
@@ -188,8 +188,8 @@ TEST(ReportPage, SaysThatAFolderHasNoPrograms) {
 
 TEST(ReportPage, ShowsTheProgramWithItsMistakes) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Source = {{"TO ANNA"}, {"FORWRD <5>"}, {"REPEAT 2 [FD 1]", QStringList{"MAKE # 1", "LABEL $"}}};
-  run.Went.Findings = {{Mistake::UnknownWord, 2, {"FORWRD", "FORWARD"}}, {Mistake::WithoutEnd, 1, {"ANNA"}}};
+  run.Outcome.Source = {{"TO ANNA"}, {"FORWRD <5>"}, {"REPEAT 2 [FD 1]", QStringList{"MAKE # 1", "LABEL $"}}};
+  run.Outcome.Findings = {{Mistake::UnknownWord, 2, {"FORWRD", "FORWARD"}}, {Mistake::WithoutEnd, 1, {"ANNA"}}};
   const QString page = PageWith({run});
   EXPECT_TRUE(page.contains("<li id=\"p1l2\"><code class=\"mark\">FORWRD &lt;5&gt;</code></li>"));
   EXPECT_TRUE(
@@ -202,8 +202,8 @@ TEST(ReportPage, ShowsTheProgramWithItsMistakes) {
 
 TEST(ReportPage, TellsHowAGoalWasMissed) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 99.96, 3, Placement{-90, true, 0.5, {}}},
-                    {"", GoalWay::Texts, true, 100, 1, {}}};
+  run.Outcome.Goals = {{"STAR 50", GoalWay::Shapes, false, 99.96, 3, Placement{-90, true, 0.5, {}}},
+                       {"", GoalWay::Texts, true, 100, 1, {}}};
   const QString page = PageWith({run});
   EXPECT_TRUE(page.contains("<strong>STAR 50</strong>: <span class=\"bad\">not met</span>, 99 %, 0 of 3 points"));
   EXPECT_TRUE(page.contains("It is the goal, but mirrored, turned by 90 degrees to the left, 50 per cent as large."));
@@ -213,8 +213,8 @@ TEST(ReportPage, TellsHowAGoalWasMissed) {
 
 TEST(ReportPage, TellsWhereADrawingIsInstead) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Goals = {{"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {-500, 1000}}},
-                    {"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {}}}};
+  run.Outcome.Goals = {{"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {-500, 1000}}},
+                       {"", GoalWay::Shapes, false, 0, 1, Placement{0, false, 1, {}}}};
   const QString page = PageWith({run});
   EXPECT_TRUE(page.contains("It is the goal, but shifted by 10 steps to the left, shifted down by 20 steps."));
   EXPECT_TRUE(page.contains("It is the goal, but a little inexact."));
@@ -222,16 +222,16 @@ TEST(ReportPage, TellsWhereADrawingIsInstead) {
 
 TEST(ReportPage, TellsWhyACompleteGoalIsNotMet) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Goals = {{"", GoalWay::Shapes, false, 100, 1}};
+  run.Outcome.Goals = {{"", GoalWay::Shapes, false, 100, 1}};
   EXPECT_TRUE(PageWith({run}).contains("It drew too much for all of it to be compared."));
 }
 
 TEST(ReportPage, OffersGoalsAndNotesInItsFilter) {
   PupilRun anna = RunOf("ANNA.ZRM");
-  anna.Went.Goals = {{"", GoalWay::Shapes, true, 100, 1}};
+  anna.Outcome.Goals = {{"", GoalWay::Shapes, true, 100, 1}};
   PupilRun ben = RunOf("BEN.ZRM");
-  ben.Went.Goals = {{"", GoalWay::Shapes, false, 50, 1}};
-  ben.Went.Notes = {"Every procedure of the program needs inputs."};
+  ben.Outcome.Goals = {{"", GoalWay::Shapes, false, 50, 1}};
+  ben.Outcome.Notes = {"Every procedure of the program needs inputs."};
   const QString page = PageWith({anna, ben});
   EXPECT_TRUE(page.contains("data-notes=\"ended|nothing suspicious\""));
   EXPECT_TRUE(page.contains("data-notes=\"ended|Every procedure of the program needs inputs.|goals not met\""));
@@ -239,7 +239,7 @@ TEST(ReportPage, OffersGoalsAndNotesInItsFilter) {
 
 TEST(ReportPage, TellsThatOnlyTheWayOfDrawingIsWrong) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Goals = {{"", GoalWay::Shapes, false, 100, 1, {}, {StrokeRule::Order, StrokeRule::Direction}}};
+  run.Outcome.Goals = {{"", GoalWay::Shapes, false, 100, 1, {}, {StrokeRule::Order, StrokeRule::Direction}}};
   const QString words = "The strokes are right, but not their order, direction.";
   EXPECT_EQ(PageWith({run}).count(words), 2);
   Report report;
@@ -253,7 +253,7 @@ TEST(ReportPage, ShowsTextsSideBySide) {
   GoalOutcome goal{"COUNT", GoalWay::Texts};
   goal.Wanted = {"10", "9", "Go"};
   goal.Printed = {"10", "8 <b>", " GO", "4"};
-  run.Went.Goals = {goal};
+  run.Outcome.Goals = {goal};
   const auto row = [](const char* wanted, const char* printed) {
     return QStringLiteral("<tr><td><code>%1</code></td><td><code>%2</td></tr>").arg(wanted, printed);
   };
@@ -268,8 +268,8 @@ TEST(ReportPage, ShowsTextsSideBySide) {
   EXPECT_TRUE(page.contains(row("", "4%1").arg(note("too much"))));
   EXPECT_FALSE(page.contains("The program printed nothing."));
   EXPECT_FALSE(page.contains("Only the first"));
-  run.Went.Goals[0].Printed.clear();
-  run.Went.Goals[0].TextsAreCut = true;
+  run.Outcome.Goals[0].Printed.clear();
+  run.Outcome.Goals[0].TextsAreCut = true;
   page = PageWith({run});
   EXPECT_TRUE(page.contains("The program printed nothing."));
   EXPECT_TRUE(page.contains(row("Go", "%1").arg(note("missing"))));
@@ -278,8 +278,8 @@ TEST(ReportPage, ShowsTextsSideBySide) {
 
 TEST(ReportPage, WithoutAllGoalsThereIsNoTick) {
   PupilRun run = RunOf("ANNA.ZRM");
-  run.Went.Goals = {{"STAR 50", GoalWay::Shapes, false, 40, 3, Placement{90, false, 1, {}}},
-                    {"", GoalWay::Texts, true, 100, 1, {}}};
+  run.Outcome.Goals = {{"STAR 50", GoalWay::Shapes, false, 40, 3, Placement{90, false, 1, {}}},
+                       {"", GoalWay::Texts, true, 100, 1, {}}};
   const QString page = PageWith({run});
   EXPECT_FALSE(page.contains("nothing suspicious"));
   EXPECT_TRUE(
@@ -339,10 +339,10 @@ TEST(ReportPage, SpeaksGerman) {
   report.Words = FindLanguage("de");
   EXPECT_TRUE(PageOf(report).contains("<html lang=\"de\">"));
   EXPECT_TRUE(PageOf(report).contains("nichts auff\xC3\xA4llig"));
-  report.Runs[0].Went.How = Result::NotRun;
-  report.Runs[0].Went.Message = "the program is a folder";
-  report.Runs[0].Went.Notes = {"BOX needs inputs and was not called: give them in a session.", "another note"};
-  report.Runs[0].Went.Findings = {{Mistake::UnknownWord, 0, {"X", ""}}};
+  report.Runs[0].Outcome.How = Result::NotRun;
+  report.Runs[0].Outcome.Message = "the program is a folder";
+  report.Runs[0].Outcome.Notes = {"BOX needs inputs and was not called: give them in a session.", "another note"};
+  report.Runs[0].Outcome.Findings = {{Mistake::UnknownWord, 0, {"X", ""}}};
   EXPECT_TRUE(PageOf(report).contains("data-notes=\"nicht gelaufen|unbekanntes Wort|BOX braucht Eingaben"));
   EXPECT_TRUE(PageOf(report).contains("nicht gelaufen: das "));
   EXPECT_TRUE(PageOf(report).contains("BOX braucht Eingaben und wurde nicht aufgerufen"));

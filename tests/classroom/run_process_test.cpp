@@ -41,8 +41,8 @@ class RunProcessTest : public testing::Test {
   }
 
   void ExpectCrash(const PupilRun& run, const char* message) {
-    EXPECT_EQ(run.Went.How, Result::Crashed);
-    EXPECT_EQ(run.Went.Message, message);
+    EXPECT_EQ(run.Outcome.How, Result::Crashed);
+    EXPECT_EQ(run.Outcome.Message, message);
   }
 
   int count = 1;
@@ -65,8 +65,8 @@ TEST_F(RunProcessTest, TheProcessFindsItsOrderInItsFolder) {
 TEST_F(RunProcessTest, TheOutcomeIsWhatTheProcessTells) {
   WriteOutcome(Temp.Path / "outcome", {Result::Stopped, "steps", "words", {}, {}, {}});
   const PupilRun run = RunOf(Script("cp ../outcome outcome.json; exit 1"));
-  EXPECT_EQ(run.Went.How, Result::Stopped);
-  EXPECT_EQ(run.Went.By, "steps");
+  EXPECT_EQ(run.Outcome.How, Result::Stopped);
+  EXPECT_EQ(run.Outcome.By, "steps");
 }
 
 TEST_F(RunProcessTest, WhatACrashLeavesUntoldIsFilledIn) {
@@ -77,12 +77,12 @@ TEST_F(RunProcessTest, WhatACrashLeavesUntoldIsFilledIn) {
   WriteOutcome(Temp.Path / "outcome", begun);
   const PupilRun run = RunOf(Script("cp ../outcome outcome.json; kill -9 $$"));
   ExpectCrash(run, "the process was ended by signal 9");
-  EXPECT_EQ(run.Went.Findings, begun.Findings);
-  ASSERT_EQ(run.Went.Source.size(), 1U);
-  ASSERT_EQ(run.Went.Goals.size(), 2U);
-  EXPECT_EQ(run.Went.Goals[0].Title, "STAR 50");
-  EXPECT_EQ(run.Went.Goals[0].Points, 3);
-  EXPECT_FALSE(run.Went.Goals[0].Met || run.Went.Goals[1].Met);
+  EXPECT_EQ(run.Outcome.Findings, begun.Findings);
+  ASSERT_EQ(run.Outcome.Source.size(), 1U);
+  ASSERT_EQ(run.Outcome.Goals.size(), 2U);
+  EXPECT_EQ(run.Outcome.Goals[0].Title, "STAR 50");
+  EXPECT_EQ(run.Outcome.Goals[0].Points, 3);
+  EXPECT_FALSE(run.Outcome.Goals[0].Met || run.Outcome.Goals[1].Met);
 }
 
 TEST_F(RunProcessTest, ACrashInAGoalIsTold) {
@@ -92,16 +92,16 @@ TEST_F(RunProcessTest, ACrashInAGoalIsTold) {
   ended.Goals = {{"", GoalWay::Shapes, true, 100, 1}};
   WriteOutcome(Temp.Path / "outcome", ended);
   const PupilRun run = RunOf(Script("cp ../outcome outcome.json; kill -9 $$"));
-  EXPECT_EQ(run.Went.How, Result::Ended);
-  EXPECT_EQ(run.Went.Notes, QStringList{"The process ended before all goals were tried."});
+  EXPECT_EQ(run.Outcome.How, Result::Ended);
+  EXPECT_EQ(run.Outcome.Notes, QStringList{"The process ended before all goals were tried."});
   EXPECT_EQ(run.GoalsMet(), 1U);
-  EXPECT_EQ(run.Went.Goals.size(), 2U);
+  EXPECT_EQ(run.Outcome.Goals.size(), 2U);
 }
 
 TEST_F(RunProcessTest, AProcessThatIsLateIsKilled) {
   const PupilRun run = RunOf(Script("exec sleep 30"), 0.2);
-  EXPECT_EQ(run.Went.How, Result::Stopped);
-  EXPECT_EQ(run.Went.By, "seconds");
+  EXPECT_EQ(run.Outcome.How, Result::Stopped);
+  EXPECT_EQ(run.Outcome.By, "seconds");
   EXPECT_GE(run.Seconds, 0.2);
 }
 
@@ -132,8 +132,8 @@ TEST_F(RunProcessTest, HalfAnOutcomeIsACrash) {
 
 TEST_F(RunProcessTest, AProcessThatDiesOfMemoryIsStoppedByIt) {
   const PupilRun run = RunOf(Script("echo m > memory; kill -6 $$"));
-  EXPECT_EQ(run.Went.How, Result::Stopped);
-  EXPECT_EQ(run.Went.By, "memory");
+  EXPECT_EQ(run.Outcome.How, Result::Stopped);
+  EXPECT_EQ(run.Outcome.By, "memory");
 }
 
 TEST_F(RunProcessTest, WhatWasSaidBeforeACrashIsKept) {
@@ -153,7 +153,7 @@ TEST_F(RunProcessTest, APictureIsTakenUnlessItIsHuge) {
   EXPECT_EQ(RunOf(Script("echo p > picture.png")).Picture, Temp.Path / "run/picture.png");
   const PupilRun run = RunOf(Script("truncate -s 9M picture.png"));
   EXPECT_EQ(run.Picture, fs::path());
-  EXPECT_EQ(run.Went.Notes, QStringList{"The picture is too large for the report."});
+  EXPECT_EQ(run.Outcome.Notes, QStringList{"The picture is too large for the report."});
 }
 
 TEST_F(RunProcessTest, WhatTheProgramWroteIsThrownAway) {
@@ -180,7 +180,7 @@ TEST_F(RunProcessTest, ARunnerKeepsTheOrderAndTheNumberOfProcesses) {
   const std::vector<PupilRun> runs = runner.Run();
   EXPECT_FALSE(runner.WasInterrupted());
   std::string order;
-  for (const PupilRun& run : runs) order += run.Who.Program.string() + run.Went.Message.right(1).toStdString();
+  for (const PupilRun& run : runs) order += run.Who.Program.string() + run.Outcome.Message.right(1).toStdString();
   EXPECT_EQ(order, "A0B1C2D3");
   EXPECT_EQ(done.size(), 4U);
   EXPECT_EQ(done.at(0), "B1");
@@ -198,7 +198,8 @@ TEST_F(RunProcessTest, WhatCanNotBeStartedIsTriedAgainLater) {
     if (fs::is_regular_file(Temp.Path / "runs/1")) fs::remove(Temp.Path / "runs/1");
   });
   std::string order;
-  for (const PupilRun& run : runner.Run()) order += run.Who.Program.string() + run.Went.Message.right(1).toStdString();
+  for (const PupilRun& run : runner.Run())
+    order += run.Who.Program.string() + run.Outcome.Message.right(1).toStdString();
   EXPECT_EQ(order, "A0B1C2");
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 PupilRun Program(const QStringList& lines) {
   PupilRun run;
-  for (const QString& line : lines) run.Went.Source.push_back({line});
+  for (const QString& line : lines) run.Outcome.Source.push_back({line});
   return run;
 }
 
@@ -86,7 +86,7 @@ TEST(Similarity, DrawingsOfTheSameFewWordsAreNotAlike) {
 
 TEST(Similarity, ADrawingOfFewWordsIsRecognisedByItsNumbers) {
   PupilRun copy = DrawingOf({"FD", "RT", "LT"}, 7, 20);
-  copy.Went.Source[4] = {"FD 3"};
+  copy.Outcome.Source[4] = {"FD 3"};
   std::vector<PupilRun> runs = DrawingsOf({"FD", "RT", "LT"}, 20);
   runs.push_back(copy);
   const std::vector<AlikePair> pairs = PairsOf(runs);
@@ -162,7 +162,7 @@ TEST(Similarity, AmongThousandsThoseWithARareLineInCommonAreCompared) {
   AlikeSearch search({});
   for (int i = 0; i < 1200; ++i) search.Add(i % 100 == 0 ? ProgramOf(i) : Program({"TO A", "FD 1", "RT 2", "END"}));
   PupilRun copy = ProgramOf(500);
-  copy.Went.Source.push_back({"HOME"});
+  copy.Outcome.Source.push_back({"HOME"});
   search.Add(copy);
   const std::vector<AlikePair> pairs = search.Pairs();
   ASSERT_EQ(pairs.size(), 1U);
