@@ -64,7 +64,7 @@ void CanvasLines(benchmark::State& state, double length, int width) {
   std::size_t next = 0;
   for (auto _ : state) {
     const Ends& line = lines[next++ % lines.size()];
-    canvas.Line({Pen, width, 13}, line.From, line.To);
+    canvas.Line({Pen, width, DrawingMode::CopyPen}, line.From, line.To);
   }
 }
 
@@ -89,8 +89,8 @@ struct ClosedShape {
 void OurShape(benchmark::State& state, const ClosedShape& shape) {
   ImageCanvas canvas;
   canvas.Create(Columns, Rows, Back);
-  const Stroke stroke{Pen, shape.Width, 13};
-  const Filling filling{Inside, shape.IsFilled ? 0 : 1};
+  const Stroke stroke{Pen, shape.Width, DrawingMode::CopyPen};
+  const Filling filling{Inside, shape.IsFilled ? FillPattern::Solid : FillPattern::Transparent};
   const PixelPoint middle{Columns / 2.0, Rows / 2.0};
   const double half = shape.Half;
   for (auto _ : state) {

@@ -34,7 +34,7 @@ void Form1::Click(Control& control) {
   if (&control == &controls.Image1) DragOver();
   if (&control == &controls.Label14) graphics.palette.Label14Click();
   if (&control == &controls.Check1) {
-    controls.Check1.Value = 1 - controls.Check1.Value;
+    controls.Check1.Value = !controls.Check1.Value;
     graphics.palette.Check1Click();
   }
   if (&control == &controls.Command1) diagnosis.Command1Click();

@@ -151,6 +151,9 @@ class ListBox : public Control {
   std::uint64_t clearings_ = 0;
 };
 
+/// The edge of a label, with the numbers that the system shows.
+enum class Border : int { None = 0, Single = 1 };
+
 /// A line of text that the user can't change; some labels serve as colour squares.
 class Label : public Control {
  public:
@@ -158,8 +161,7 @@ class Label : public Control {
   LateText Caption;
   Colour BackColor = 0xC8D0D4;
   Colour ForeColor = 0;
-  /// 0 no border, 1 a single one.
-  int BorderStyle = 0;
+  Border BorderStyle = Border::None;
   void ReadProperties(const PropertyReader& read) const override;
 };
 
@@ -190,8 +192,8 @@ class CheckBox : public Control {
  public:
   using Control::Control;
   std::string Caption;
-  /// 0 unchecked, 1 checked.
-  int Value = 0;
+  /// Whether it is checked; the system shows 1 or 0.
+  bool Value = false;
   void ReadProperties(const PropertyReader& read) const override;
 };
 

@@ -139,7 +139,7 @@ void Controls::DesignPalette() {
     const int column = index % 4;
     const int row = index / 4;
     Place(Label13[index], static_cast<float>(120 + 585 * column), static_cast<float>(435 + 585 * row), 525, 525);
-    Label13[index].BorderStyle = 1;
+    Label13[index].BorderStyle = Border::Single;
   }
   Shape5.BorderColor = Red;
   Shape5.BorderWidth = 3;

@@ -44,7 +44,7 @@ void CheckView::SyncLook() {
   ShowLetters(shown_, ButtonPoints);
   const QString caption = ToQString(box_.Caption);
   if (shown_.text() != caption) shown_.setText(caption);
-  if (shown_.isChecked() != (box_.Value != 0)) shown_.setChecked(box_.Value != 0);
+  if (shown_.isChecked() != box_.Value) shown_.setChecked(box_.Value);
 }
 
 BarView::BarView(ScrollBar& control, QWidget& parent, Events& events)

@@ -105,7 +105,7 @@ void PressLabel::paintEvent(QPaintEvent*) {
   const QColor back = ToQColor(label_.BackColor);
   painter.fillRect(rect(), back);
   const QRect edge = rect().adjusted(0, 0, -1, -1);
-  if (label_.BorderStyle != 0) {
+  if (label_.BorderStyle == Border::Single) {
     painter.setPen(QColor(64, 64, 64));
     painter.drawRect(edge);
   }

@@ -14,22 +14,36 @@ struct PixelPoint {
   double Y = 0;
 };
 
+/// What a pixel becomes where the pen meets it: one of the platform's sixteen raster operations. The numbers are those
+/// that the system reads and shows, from 1 to 16; the three that users ask for have a name.
+enum class DrawingMode : int { Invert = 6, ExclusiveOr = 7, CopyPen = 13 };
+
+/// How the inside of closed shapes is painted, with the numbers that the system reads and shows.
+enum class FillPattern : int {
+  Solid = 0,
+  Transparent = 1,
+  Horizontal = 2,
+  Vertical = 3,
+  UpwardDiagonal = 4,
+  DownwardDiagonal = 5,
+  Cross = 6,
+  DiagonalCross = 7,
+};
+
 /// How lines and outlines are drawn.
 struct Stroke {
   Colour Color = 0;
   /// Pixels, from 1.
   int Width = 1;
-  /// The raster operation, 1 to 16 (13 copies the pen, 6 inverts, 7 is exclusive or).
-  int DrawMode = 13;
+  DrawingMode DrawMode = DrawingMode::CopyPen;
 
   bool operator==(const Stroke&) const = default;
 };
 
-/// How the inside of closed shapes is painted.
+/// The colour and the pattern of an inside.
 struct Filling {
   Colour Color = 0;
-  /// 0 solid, 1 none, 2 horizontal, 3 vertical, 4 upward diagonal, 5 downward diagonal, 6 cross, 7 diagonal cross.
-  int Style = 0;
+  FillPattern Style = FillPattern::Solid;
 };
 
 /// The pixels behind the surface. What is drawn stays until it is cleared; nothing outside the canvas is touched.

@@ -6,15 +6,6 @@
 
 namespace zerimo {
 
-namespace {
-
-constexpr int SurfaceUnits = 1;
-constexpr int Pixels = 3;
-constexpr int Solid = 0;
-constexpr int Transparent = 1;
-
-}  // namespace
-
 void FloodFills::Bind() {
   context_.dispatch.Bind("FLOODFILL", [this](PrimitiveCall& call) { FillFromTurtle(call, &FloodFills::FloodFill); });
   context_.dispatch.Bind("FLOODFILLRGB",
@@ -23,7 +14,7 @@ void FloodFills::Bind() {
 
 void FloodFills::FillFromTurtle(PrimitiveCall& call, FillProcedure procedure) {
   const Turtle& turtle = context_.turtle;
-  context_.Picture1.SetScaleMode(Pixels);  // Never fails.
+  context_.Picture1.SetScaleMode(Scale::Pixels);  // Never fails.
   const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
   SkipOnFailure([&] {
@@ -44,13 +35,13 @@ void FloodFills::FloodFillRGB(std::int16_t x, std::int16_t y, double color) {
 
 void FloodFills::FillRegion(std::int16_t x, std::int16_t y, const std::function<void()>& setFillColor) {
   Surface& surface = context_.Picture1;
-  surface.SetScaleMode(Pixels);  // Never fails.
-  surface.SetFillStyle(Solid);   // Never fails.
+  surface.SetScaleMode(Scale::Pixels);         // Never fails.
+  surface.SetFillStyle(FillPattern::Solid);  // Never fails.
   SkipOnFailure(setFillColor);
   SkipOnFailure([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });
-  surface.SetScaleMode(SurfaceUnits);  // Never fails.
+  surface.SetScaleMode(Scale::Units);  // Never fails.
   // Never fails. What FILLSTYLE and FILL had set is not restored: circles are outlines from now on.
-  surface.SetFillStyle(Transparent);
+  surface.SetFillStyle(FillPattern::Transparent);
   SkipOnFailure([&] { context_.dispatch.RefreshSurface(); });
 }
 

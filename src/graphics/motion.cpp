@@ -206,7 +206,7 @@ void Motion::LineWidth(PrimitiveCall& call) {
 void Motion::DrawMode(PrimitiveCall& call) {
   if (context_.dispatch.TellMissingInput(call, "DRAWMODE")) return;
   const double mode = context_.arguments.Number(call);
-  SkipOnFailure([&] { context_.Picture1.SetDrawMode(ToInt16(mode)); });
+  SkipOnFailure([&] { context_.Picture1.SetDrawMode(DrawingMode{ToInt16(mode)}); });
 }
 
 void Motion::ClearScreen() {

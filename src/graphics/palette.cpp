@@ -72,8 +72,8 @@ void Palette::Label13MouseDown(int index, MouseButton button, bool shift) {
 
 void Palette::Label13MouseMove(int index) {
   Controls& controls = context_.controls;
-  for (int square = 0; square < controls.Label13.Size; ++square) controls.Label13[square].BorderStyle = 1;
-  controls.Label13[index].BorderStyle = 0;
+  for (int square = 0; square < controls.Label13.Size; ++square) controls.Label13[square].BorderStyle = Border::Single;
+  controls.Label13[index].BorderStyle = Border::None;
 }
 
 void Palette::Label14MouseMove() noexcept { context_.controls.Label14.BackColor = Red; }

@@ -10,6 +10,8 @@ namespace zerimo {
 namespace {
 
 constexpr double LargestFontSize = 2160;
+constexpr DrawingMode FirstDrawingMode{1};
+constexpr DrawingMode LastDrawingMode{16};
 
 void RequireAccepted(bool isAccepted) {
   if (!isAccepted) throw Failure(FailureKind::InvalidArgument);
@@ -39,14 +41,14 @@ void Surface::SetFillColor(Colour value) {
   TellSet("FillColor", static_cast<double>(value));
 }
 
-void Surface::SetFillStyle(std::int32_t value) {
-  RequireAccepted(value >= 0 && value <= 7);
+void Surface::SetFillStyle(FillPattern value) {
+  RequireAccepted(value >= FillPattern::Solid && value <= FillPattern::DiagonalCross);
   fillStyle_ = value;
   TellSet("FillStyle", static_cast<double>(value));
 }
 
-void Surface::SetDrawMode(std::int32_t value) {
-  RequireAccepted(value >= 1 && value <= 16);
+void Surface::SetDrawMode(DrawingMode value) {
+  RequireAccepted(value >= FirstDrawingMode && value <= LastDrawingMode);
   drawMode_ = value;
   TellSet("DrawMode", static_cast<double>(value));
 }
@@ -57,8 +59,8 @@ void Surface::SetDrawWidth(std::int32_t value) {
   TellSet("DrawWidth", static_cast<double>(value));
 }
 
-void Surface::SetScaleMode(int value) {
-  RequireAccepted(value == 1 || value == 3);
+void Surface::SetScaleMode(Scale value) {
+  RequireAccepted(value == Scale::Units || value == Scale::Pixels);
   scaleMode_ = value;
   TellSet("ScaleMode", static_cast<double>(value));
 }

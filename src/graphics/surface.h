@@ -68,6 +68,9 @@ class SurfaceRecorder {
 /// Surface units to a pixel: the whole system assumes this number.
 inline constexpr int UnitsPerPixel = 15;
 
+/// In what the surface counts, with the numbers that the system shows.
+enum class Scale : int { Units = 1, Pixels = 3 };
+
 /// Surface units in pixels, rounded half to even.
 int WholePixels(float units);
 
@@ -91,18 +94,18 @@ class Surface : public Control {
   void SetForeColor(Colour value);
   Colour FillColor() const noexcept { return fillColor_; }
   void SetFillColor(Colour value);
-  int FillStyle() const noexcept { return fillStyle_; }
-  /// 0 to 7.
-  void SetFillStyle(std::int32_t value);
-  int DrawMode() const noexcept { return drawMode_; }
-  /// 1 to 16.
-  void SetDrawMode(std::int32_t value);
+  FillPattern FillStyle() const noexcept { return fillStyle_; }
+  /// A number outside 0 to 7 is refused.
+  void SetFillStyle(FillPattern value);
+  DrawingMode DrawMode() const noexcept { return drawMode_; }
+  /// A number outside 1 to 16 is refused.
+  void SetDrawMode(DrawingMode value);
   int DrawWidth() const noexcept { return drawWidth_; }
   /// Pixels, from 1.
   void SetDrawWidth(std::int32_t value);
-  int ScaleMode() const noexcept { return scaleMode_; }
-  /// 1 surface units, 3 pixels.
-  void SetScaleMode(int value);
+  Scale ScaleMode() const noexcept { return scaleMode_; }
+  /// A number that is no scale is refused.
+  void SetScaleMode(Scale value);
   float CurrentX() const noexcept { return currentX_; }
   void SetCurrentX(double value);
   float CurrentY() const noexcept { return currentY_; }
@@ -157,7 +160,7 @@ class Surface : public Control {
   }
   void TellRecorders(const SurfaceOperation& operation) const;
   void TellSet(const char* property, PropertyValue value) const;
-  double ScaleDivisor() const noexcept { return scaleMode_ == 3 ? 1 : UnitsPerPixel; }
+  double ScaleDivisor() const noexcept { return scaleMode_ == Scale::Pixels ? 1 : UnitsPerPixel; }
   /// How many rows of the canvas the height covers, partly covered ones included.
   int Rows() const noexcept;
 
@@ -166,10 +169,10 @@ class Surface : public Control {
   Colour backColor_ = 8388736;
   Colour foreColor_ = 0xFFFFFF;
   Colour fillColor_ = 0;
-  int fillStyle_ = 0;
-  int drawMode_ = 13;
+  FillPattern fillStyle_ = FillPattern::Solid;
+  DrawingMode drawMode_ = DrawingMode::CopyPen;
   int drawWidth_ = 1;
-  int scaleMode_ = 1;
+  Scale scaleMode_ = Scale::Units;
   float currentX_ = 0;
   float currentY_ = 0;
   double fontSize_ = 8.25;

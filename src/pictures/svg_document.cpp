@@ -12,7 +12,6 @@ namespace zerimo {
 
 namespace {
 
-constexpr int Solid = 0;
 /// Points up to this width are squares.
 constexpr int WidestSquare = 3;
 
@@ -120,7 +119,7 @@ class Writer {
     }
     WriteHatch(HatchLines(inside.Style, hollow, isEllipse, size_), inside);
     Closed(bounds.adjusted(width / 2, width / 2, -width / 2, -width / 2), isEllipse);
-    xml_.writeAttribute("fill", inside.Style == Solid ? Name(inside.Color) : "none");
+    xml_.writeAttribute("fill", inside.Style == FillPattern::Solid ? Name(inside.Color) : "none");
     Drawn(pen);
   }
 

@@ -23,23 +23,25 @@ constexpr HatchFamily Vertical{{1, 0}, HatchColumn + 0.5};
 constexpr HatchFamily Upward{{1, 1}, 0};
 constexpr HatchFamily Downward{{1, -1}, 0};
 
-std::vector<HatchFamily> FamiliesOf(int fillStyle) {
-  switch (fillStyle) {
-    case 2:
-      return {Horizontal};
-    case 3:
-      return {Vertical};
-    case 4:
-      return {Upward};
-    case 5:
-      return {Downward};
-    case 6:
-      return {Horizontal, Vertical};
-    case 7:
-      return {Upward, Downward};
-    default:
+std::vector<HatchFamily> FamiliesOf(FillPattern pattern) {
+  switch (pattern) {
+    case FillPattern::Solid:
+    case FillPattern::Transparent:
       return {};
+    case FillPattern::Horizontal:
+      return {Horizontal};
+    case FillPattern::Vertical:
+      return {Vertical};
+    case FillPattern::UpwardDiagonal:
+      return {Upward};
+    case FillPattern::DownwardDiagonal:
+      return {Downward};
+    case FillPattern::Cross:
+      return {Horizontal, Vertical};
+    case FillPattern::DiagonalCross:
+      return {Upward, Downward};
   }
+  return {};
 }
 
 /// A part of an endless line, in multiples of its direction.
@@ -100,11 +102,11 @@ void AddFamily(std::vector<QLineF>& lines, const HatchFamily& family, const QRec
 
 }  // namespace
 
-std::vector<QLineF> HatchLines(int fillStyle, const QRectF& bounds, bool isEllipse, QSizeF canvas) {
+std::vector<QLineF> HatchLines(FillPattern pattern, const QRectF& bounds, bool isEllipse, QSizeF canvas) {
   std::vector<QLineF> lines;
   const QRectF seen = bounds & QRectF(QPointF(0, 0), canvas);
   if (seen.isEmpty()) return lines;
-  for (const HatchFamily& family : FamiliesOf(fillStyle)) AddFamily(lines, family, bounds, isEllipse, seen);
+  for (const HatchFamily& family : FamiliesOf(pattern)) AddFamily(lines, family, bounds, isEllipse, seen);
   return lines;
 }
 

@@ -20,10 +20,10 @@ struct SvgPen {
   bool operator==(const SvgPen&) const = default;
 };
 
-/// How an inside is painted; the styles are those of `Filling`.
+/// How an inside is painted.
 struct SvgInside {
   QRgb Color = 0;
-  int Style = 0;
+  FillPattern Style = FillPattern::Solid;
 };
 
 /// The shapes of a picture, in whole pixels, as they were drawn.

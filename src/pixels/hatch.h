@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "graphics/canvas.h"
+
 namespace zerimo {
 
 /// Eight rows of eight pixels, repeated from the canvas's top left corner; bit n of a row is column n. A pixel whose
@@ -14,7 +16,7 @@ using HatchPattern = std::array<std::uint8_t, 8>;
 inline constexpr int HatchRow = 4;
 inline constexpr int HatchColumn = 4;
 
-/// Indexed by fill style.
+/// Indexed by fill pattern.
 inline constexpr std::array<HatchPattern, 8> HatchPatterns{{
     {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},  // solid
     {0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00},  // none
@@ -26,7 +28,7 @@ inline constexpr std::array<HatchPattern, 8> HatchPatterns{{
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // diagonal cross
 }};
 
-inline const HatchPattern& HatchOf(int fillStyle) noexcept {
+inline const HatchPattern& HatchOf(FillPattern fillStyle) noexcept {
   return HatchPatterns[static_cast<std::size_t>(fillStyle)];
 }
 

@@ -9,9 +9,9 @@ constexpr Pixel Opaque = 0xFF000000;
 
 }  // namespace
 
-RasterOperation MakeRasterOperation(int drawMode, Colour pen) {
+RasterOperation MakeRasterOperation(DrawingMode drawMode, Colour pen) {
   // The modes number all truth tables: bit 2 * pen + pixel of the mode minus one is the result.
-  const auto table = static_cast<unsigned>(drawMode - 1);
+  const auto table = static_cast<unsigned>(drawMode) - 1;
   const auto resultWhere = [table](unsigned penBit, unsigned pixelBit) {
     return (table >> (2 * penBit + pixelBit) & 1U) != 0 ? ColourBits : 0U;
   };

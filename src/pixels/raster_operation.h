@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/canvas.h"
 #include "pixels/rgb.h"
 
 namespace zerimo {
@@ -15,7 +16,6 @@ struct RasterOperation {
   bool IsPlain() const noexcept { return Keep == 0; }
 };
 
-/// `drawMode` is 1 to 16.
-RasterOperation MakeRasterOperation(int drawMode, Colour pen);
+RasterOperation MakeRasterOperation(DrawingMode drawMode, Colour pen);
 
 }  // namespace zerimo

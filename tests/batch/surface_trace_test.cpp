@@ -83,10 +83,10 @@ TEST_F(SurfaceTraceTest, EveryPropertyWriteThatTookPlaceIsASet) {
   surface.SetBackColor(255);
   surface.SetForeColor(1);
   surface.SetFillColor(2);
-  surface.SetFillStyle(3);
-  surface.SetDrawMode(7);
+  surface.SetFillStyle(FillPattern::Vertical);
+  surface.SetDrawMode(DrawingMode::ExclusiveOr);
   surface.SetDrawWidth(4);
-  surface.SetScaleMode(3);
+  surface.SetScaleMode(Scale::Pixels);
   surface.SetCurrentX(0.1);
   surface.SetCurrentY(2);
   surface.SetFontSize(8.25);
@@ -102,7 +102,7 @@ TEST_F(SurfaceTraceTest, EveryPropertyWriteThatTookPlaceIsASet) {
 }
 
 TEST_F(SurfaceTraceTest, RefusedWriteIsNone) {
-  EXPECT_ANY_THROW(surface.SetDrawMode(17));
+  EXPECT_ANY_THROW(surface.SetDrawMode(DrawingMode{17}));
   EXPECT_EQ(transcript.str(), "");
 }
 

@@ -173,11 +173,11 @@ TEST_F(DiagnosisTest, TwoClicksOnTheCheckBoxLeaveTheAxesHidden) {
   System.Click(controls.Check1);
   EXPECT_TRUE(controls.Line5.Visible());
   EXPECT_TRUE(controls.Line6.Visible());
-  EXPECT_EQ(controls.Check1.Value, 1);
+  EXPECT_TRUE(controls.Check1.Value);
   System.Click(controls.Check1);
   EXPECT_FALSE(controls.Line5.Visible());
   EXPECT_FALSE(controls.Line6.Visible());
-  EXPECT_EQ(controls.Check1.Value, 0);
+  EXPECT_FALSE(controls.Check1.Value);
 }
 
 TEST_F(DiagnosisTest, AfterShowGridTheFirstClickLeavesTheAxesAndTheSecondTakesThem) {

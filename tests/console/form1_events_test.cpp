@@ -31,7 +31,8 @@ TEST_F(Form1EventsTest, MouseOverThePaletteNotesTheGrabAndTheDropUsesIt) {
 
 TEST_F(Form1EventsTest, MouseOverASquareMarksIt) {
   System.MouseMove(controls.Label13[7], 0, 0);
-  for (int square = 0; square < 16; ++square) EXPECT_EQ(controls.Label13[square].BorderStyle, square == 7 ? 0 : 1);
+  for (int square = 0; square < 16; ++square)
+    EXPECT_EQ(controls.Label13[square].BorderStyle, square == 7 ? Border::None : Border::Single);
 }
 
 TEST_F(Form1EventsTest, MouseOverApplyTurnsItRed) {

@@ -232,7 +232,7 @@ TEST_F(ScreenModesTest, HideEndsPanelsClockDetailsAndAxes) {
   Execute("SHOW GRID");
   Execute("SHOW DETAILS");
   Execute("SHOW TIME");
-  controls.Check1.Value = 1;
+  controls.Check1.Value = true;
   controls.RichTextBox1.Show();
   Execute("HIDE");
   EXPECT_FALSE(controls.Frame1.Visible());
@@ -245,7 +245,7 @@ TEST_F(ScreenModesTest, HideEndsPanelsClockDetailsAndAxes) {
   EXPECT_TRUE(controls.Picture3.Visible());
   EXPECT_TRUE(controls.RichTextBox1.Visible());
   EXPECT_TRUE(controls.Image1.Visible());
-  EXPECT_EQ(controls.Check1.Value, 1);
+  EXPECT_TRUE(controls.Check1.Value);
 }
 
 TEST_F(ScreenModesTest, HideLeavesARunningSlideShow) {
@@ -301,7 +301,7 @@ TEST_F(ScreenModesTest, ShowGridLeavesTheCheckMark) {
   Execute("SHOW GRID");
   EXPECT_TRUE(controls.Line5.Visible());
   EXPECT_TRUE(controls.Line6.Visible());
-  EXPECT_EQ(controls.Check1.Value, 0);
+  EXPECT_FALSE(controls.Check1.Value);
   EXPECT_FALSE(System.graphics.palette.CoordinatesOn);
 }
 
@@ -309,7 +309,7 @@ TEST_F(ScreenModesTest, HideLeavesTheCheckMarkAndItsFlag) {
   System.Click(controls.Check1);
   Execute("HIDE");
   EXPECT_FALSE(controls.Line5.Visible());
-  EXPECT_EQ(controls.Check1.Value, 1);
+  EXPECT_TRUE(controls.Check1.Value);
   EXPECT_TRUE(System.graphics.palette.CoordinatesOn);
 }
 

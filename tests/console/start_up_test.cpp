@@ -129,9 +129,9 @@ TEST_F(StartUp, TurtleReadsZeroInTheMiddleOfTheScreenWhichLiesBelowThatOfTheSurf
 TEST_F(StartUp, SurfaceHasItsStartValues) {
   EXPECT_EQ(System.Picture1.BackColor(), 8388736);
   EXPECT_EQ(System.Picture1.ForeColor(), 0xFFFFFF);
-  EXPECT_EQ(System.Picture1.FillStyle(), 0);
+  EXPECT_EQ(System.Picture1.FillStyle(), FillPattern::Solid);
   EXPECT_EQ(System.Picture1.FillColor(), 0);
-  EXPECT_EQ(System.Picture1.DrawMode(), 13);
+  EXPECT_EQ(System.Picture1.DrawMode(), DrawingMode::CopyPen);
   EXPECT_EQ(System.Picture1.FontSize(), 12);
 }
 

@@ -93,7 +93,7 @@ TEST_F(DiagnosisPanelTest, TheCheckBoxShowsAndHidesTheAxes) {
   Press(Qt::Key_Space);
   EXPECT_TRUE(FormControls().Line5.Visible());
   EXPECT_TRUE(check.isChecked());
-  EXPECT_EQ(FormControls().Check1.Value, 1);
+  EXPECT_TRUE(FormControls().Check1.Value);
   Press(Qt::Key_Space);
   EXPECT_FALSE(FormControls().Line5.Visible());
   EXPECT_FALSE(check.isChecked());

@@ -79,8 +79,8 @@ TEST_F(PalettePanelTest, AChosenSquareIsFramed) {
 
 TEST_F(PalettePanelTest, TheSquareUnderThePointerIsMarked) {
   QTest::mouseMove(&Square(5), {10, 10});
-  EXPECT_TRUE(Until([this] { return FormControls().Label13[5].BorderStyle == 0; }));
-  EXPECT_EQ(FormControls().Label13[4].BorderStyle, 1);
+  EXPECT_TRUE(Until([this] { return FormControls().Label13[5].BorderStyle == Border::None; }));
+  EXPECT_EQ(FormControls().Label13[4].BorderStyle, Border::Single);
 }
 
 TEST_F(PalettePanelTest, ApplyTurnsRedUnderThePointerAndWhiteOnThePanel) {

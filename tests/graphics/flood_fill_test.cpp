@@ -21,7 +21,7 @@ TEST_F(FloodFillTest, RefreshesTwiceBeforeTheFrameDoes) {
 
 TEST_F(FloodFillTest, CircleAfterAFillIsAnOutlineThoughSolidWasSet) {
   Do("FILLSTYLE 0", "FLOODFILL 4", "CIRCLE 0 0 2");
-  EXPECT_EQ(Pixels.LastFilling.Style, 1);
+  EXPECT_EQ(Pixels.LastFilling.Style, FillPattern::Transparent);
   EXPECT_EQ(Pixels.LastFilling.Color, 128);
 }
 
@@ -72,7 +72,7 @@ TEST_F(FloodFillTest, OutsideOfTheSurfaceNothingIsPainted) {
   EXPECT_EQ(Do("FLOODFILL 4")[4], "FloodFill -7 133 -1");
   EXPECT_TRUE(Pixels.Calls.empty());
   EXPECT_EQ(Picture1.FillColor(), 128);
-  EXPECT_EQ(Picture1.ScaleMode(), 1);
+  EXPECT_EQ(Picture1.ScaleMode(), Scale::Units);
 }
 
 TEST_F(FloodFillTest, BelowTheHeightOfTheSurfaceNothingIsPainted) {
@@ -86,11 +86,11 @@ TEST_F(FloodFillTest, BelowTheHeightOfTheSurfaceNothingIsPainted) {
 TEST_F(FloodFillTest, PositionBeyond16BitsLeavesTheScaleInPixelsUntilTheNextFill) {
   turtle.TurtleX = 15.0 * 32768;
   EXPECT_EQ(Do("FLOODFILL 4"), Texts{"ScaleMode=3"});
-  EXPECT_EQ(Picture1.ScaleMode(), 3);
+  EXPECT_EQ(Picture1.ScaleMode(), Scale::Pixels);
   EXPECT_EQ(Refreshes, 2);
   turtle.TurtleX = 1000;
   Do("FLOODFILL 4");
-  EXPECT_EQ(Picture1.ScaleMode(), 1);
+  EXPECT_EQ(Picture1.ScaleMode(), Scale::Units);
 }
 
 TEST_F(FloodFillTest, ProceduresFillFromAPixel) {

@@ -149,14 +149,16 @@ TEST_P(Square, IsFramedMarkedAndNamedWhenChosen) {
     EXPECT_EQ(frame->Left, controls.Label13[index].Left);
     EXPECT_EQ(frame->Top, controls.Label13[index].Top);
   }
-  for (int other = 0; other < 16; ++other) EXPECT_EQ(controls.Label13[other].BorderStyle, other == index ? 0 : 1);
+  for (int other = 0; other < 16; ++other)
+    EXPECT_EQ(controls.Label13[other].BorderStyle, other == index ? Border::None : Border::Single);
   EXPECT_EQ(controls.Label15.Caption, "Setpc " + std::to_string(index));
 }
 
 TEST_P(Square, IsMarkedUnderThePointer) {
   palette.Label13MouseMove((GetParam() + 1) % 16);
   palette.Label13MouseMove(GetParam());
-  for (int other = 0; other < 16; ++other) EXPECT_EQ(controls.Label13[other].BorderStyle, other == GetParam() ? 0 : 1);
+  for (int other = 0; other < 16; ++other)
+    EXPECT_EQ(controls.Label13[other].BorderStyle, other == GetParam() ? Border::None : Border::Single);
   EXPECT_EQ(controls.Label15.Caption, "Setpc 15");
 }
 
@@ -270,7 +272,7 @@ TEST_F(PaletteTest, CheckTurnsTheAxesOnAndOff) {
 }
 
 TEST_F(PaletteTest, CheckDoesNotReadItsMark) {
-  controls.Check1.Value = 0;
+  controls.Check1.Value = false;
   palette.Check1Click();
   EXPECT_TRUE(controls.Line5.Visible());
 }

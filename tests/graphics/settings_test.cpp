@@ -65,7 +65,7 @@ class DrawModeInput : public DrawingTest, public testing::WithParamInterface<Set
 
 TEST_P(DrawModeInput, IsRoundedTo16BitsOrRefused) {
   Do(GetParam().Line);
-  EXPECT_EQ(Picture1.DrawMode(), GetParam().Value);
+  EXPECT_EQ(Picture1.DrawMode(), DrawingMode{GetParam().Value});
 }
 
 INSTANTIATE_TEST_SUITE_P(typedLines, DrawModeInput,

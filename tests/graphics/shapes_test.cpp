@@ -86,7 +86,7 @@ TEST_F(ShapesTest, StampCircleWithoutInputShowsTheBox) {
 
 TEST_F(ShapesTest, FirstCircleIsAFilledBlackDisc) {
   Do("CIRCLE 0 0 2");
-  EXPECT_EQ(Pixels.LastFilling.Style, 0);
+  EXPECT_EQ(Pixels.LastFilling.Style, FillPattern::Solid);
   EXPECT_EQ(Pixels.LastFilling.Color, 0);
   EXPECT_EQ(Pixels.LastStroke.Color, 0xFFFFFF);
 }

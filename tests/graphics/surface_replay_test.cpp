@@ -26,10 +26,10 @@ class SurfaceReplayTest : public testing::Test, private SurfaceRecorder {
     First.SetBackColor(0x123456);
     First.SetForeColor(1);
     First.SetFillColor(2);
-    First.SetFillStyle(3);
-    First.SetDrawMode(7);
+    First.SetFillStyle(FillPattern::Vertical);
+    First.SetDrawMode(DrawingMode::ExclusiveOr);
     First.SetDrawWidth(5);
-    First.SetScaleMode(3);
+    First.SetScaleMode(Scale::Pixels);
     First.SetCurrentX(12.5);
     First.SetCurrentY(13.5);
     First.SetFontSize(30);

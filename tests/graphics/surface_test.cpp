@@ -32,20 +32,20 @@ class SurfaceTest : public testing::Test {
 TEST_F(SurfaceTest, BeginsWithTheValuesOfItsDesign) {
   EXPECT_EQ(Picture1.BackColor(), 8388736);
   EXPECT_EQ(Picture1.ForeColor(), 0xFFFFFF);
-  EXPECT_EQ(Picture1.FillStyle(), 0);
+  EXPECT_EQ(Picture1.FillStyle(), FillPattern::Solid);
   EXPECT_EQ(Picture1.FillColor(), 0);
-  EXPECT_EQ(Picture1.DrawMode(), 13);
-  EXPECT_EQ(Picture1.ScaleMode(), 1);
+  EXPECT_EQ(Picture1.DrawMode(), DrawingMode::CopyPen);
+  EXPECT_EQ(Picture1.ScaleMode(), Scale::Units);
 }
 
 TEST_F(SurfaceTest, WritesThatTakePlaceAreReported) {
   Picture1.SetBackColor(1);
   Picture1.SetForeColor(2);
   Picture1.SetFillColor(3);
-  Picture1.SetFillStyle(4);
-  Picture1.SetDrawMode(5);
+  Picture1.SetFillStyle(FillPattern::UpwardDiagonal);
+  Picture1.SetDrawMode(DrawingMode{5});
   Picture1.SetDrawWidth(6);
-  Picture1.SetScaleMode(3);
+  Picture1.SetScaleMode(Scale::Pixels);
   Picture1.SetCurrentX(7.5);
   Picture1.SetCurrentY(8.5);
   Picture1.SetFontSize(9.5);
@@ -69,19 +69,19 @@ TEST_F(SurfaceTest, RemovedRecorderIsToldNothing) {
 }
 
 TEST_F(SurfaceTest, RefusedWritesFailAndChangeNothing) {
-  EXPECT_THROW(Picture1.SetFillStyle(8), Failure);
-  EXPECT_THROW(Picture1.SetFillStyle(-1), Failure);
-  EXPECT_THROW(Picture1.SetDrawMode(0), Failure);
-  EXPECT_THROW(Picture1.SetDrawMode(17), Failure);
+  EXPECT_THROW(Picture1.SetFillStyle(FillPattern{8}), Failure);
+  EXPECT_THROW(Picture1.SetFillStyle(FillPattern{-1}), Failure);
+  EXPECT_THROW(Picture1.SetDrawMode(DrawingMode{0}), Failure);
+  EXPECT_THROW(Picture1.SetDrawMode(DrawingMode{17}), Failure);
   EXPECT_THROW(Picture1.SetDrawWidth(0), Failure);
-  EXPECT_THROW(Picture1.SetScaleMode(2), Failure);
+  EXPECT_THROW(Picture1.SetScaleMode(Scale{2}), Failure);
   EXPECT_THROW(Picture1.SetFontSize(0), Failure);
   EXPECT_THROW(Picture1.SetFontSize(2160.5), Failure);
   EXPECT_THROW(Picture1.SetHeight(-1), Failure);
   EXPECT_THROW(Picture1.SetCurrentX(1E39), Failure);
   EXPECT_THROW(Picture1.SetCurrentY(-1E39), Failure);
   EXPECT_TRUE(Recorder.Operations.empty());
-  EXPECT_EQ(Picture1.DrawMode(), 13);
+  EXPECT_EQ(Picture1.DrawMode(), DrawingMode::CopyPen);
   EXPECT_EQ(Picture1.CurrentX(), 0);
 }
 
@@ -92,7 +92,7 @@ TEST_F(SurfaceTest, OnePixelIsFifteenUnitsRoundedHalfToEven) {
 }
 
 TEST_F(SurfaceTest, ScaleInPixelsTakesCoordinatesAsTheyAre) {
-  Picture1.SetScaleMode(3);
+  Picture1.SetScaleMode(Scale::Pixels);
   Picture1.Line(1, 2, 3.5, 4.5);
   Picture1.Circle(10, 20, 5);
   EXPECT_EQ(Pixels.Calls, Texts({"Line 1 2 4 4", "Ellipse 10 20 5 5"}));
@@ -134,15 +134,15 @@ TEST_F(SurfaceTest, RadiusAppliesToTheLongerAxis) {
 TEST_F(SurfaceTest, ShapesGetPenAndInside) {
   Picture1.SetForeColor(2);
   Picture1.SetFillColor(3);
-  Picture1.SetFillStyle(4);
-  Picture1.SetDrawMode(5);
+  Picture1.SetFillStyle(FillPattern::UpwardDiagonal);
+  Picture1.SetDrawMode(DrawingMode{5});
   Picture1.SetDrawWidth(6);
   Picture1.Box(0, 0, 15, 15);
   EXPECT_EQ(Pixels.LastStroke.Color, 2);
-  EXPECT_EQ(Pixels.LastStroke.DrawMode, 5);
+  EXPECT_EQ(Pixels.LastStroke.DrawMode, DrawingMode{5});
   EXPECT_EQ(Pixels.LastStroke.Width, 6);
   EXPECT_EQ(Pixels.LastFilling.Color, 3);
-  EXPECT_EQ(Pixels.LastFilling.Style, 4);
+  EXPECT_EQ(Pixels.LastFilling.Style, FillPattern::UpwardDiagonal);
 }
 
 TEST_F(SurfaceTest, PointHasItsOwnColourAndTheWidthOfLines) {
@@ -172,7 +172,7 @@ TEST_F(SurfaceTest, PartHiddenByASmallerHeightHasNoColour) {
   Picture1.SetHeight(150);
   EXPECT_EQ(Picture1.Point(0, 135), 8388736);
   EXPECT_EQ(Picture1.Point(0, 150), -1);
-  Picture1.SetScaleMode(3);
+  Picture1.SetScaleMode(Scale::Pixels);
   EXPECT_EQ(Picture1.Point(0, 9), 8388736);
   EXPECT_EQ(Picture1.Point(0, 10), -1);
   Picture1.SetHeight(151);

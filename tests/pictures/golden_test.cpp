@@ -36,7 +36,7 @@ void Stripes(Canvas& canvas) {
 std::vector<Scene> FillStyles() {
   std::vector<Scene> scenes;
   for (int style = 0; style <= 7; ++style) {
-    const Filling filling{Red, style};
+    const Filling filling{Red, FillPattern{style}};
     scenes.push_back({"box_fill_style_" + std::to_string(style), [filling](Canvas& canvas) {
                         Stripes(canvas);
                         canvas.Box({Yellow, 2, CopyPen}, filling, {9, 14}, {87, 80});
@@ -51,11 +51,12 @@ std::vector<Scene> FillStyles() {
 
 std::vector<Scene> RasterOperations() {
   std::vector<Scene> scenes;
-  for (int mode = 1; mode <= 16; ++mode) {
-    scenes.push_back({"raster_operation_" + std::to_string(mode), [mode](Canvas& canvas) {
+  for (int number = 1; number <= 16; ++number) {
+    const DrawingMode mode{number};
+    scenes.push_back({"raster_operation_" + std::to_string(number), [mode](Canvas& canvas) {
                         Stripes(canvas);
                         canvas.Box({0x20C0F0, 3, mode}, {0xF06020, Solid}, {4, 4}, {60, 40});
-                        canvas.Ellipse({0x20C0F0, 2, mode}, {0xF06020, 6}, {60, 58}, 30, 22);
+                        canvas.Ellipse({0x20C0F0, 2, mode}, {0xF06020, Cross}, {60, 58}, 30, 22);
                         canvas.Line({0x20C0F0, 1, mode}, {0, 95}, {95, 0});
                         canvas.Line({0x20C0F0, 6, mode}, {8, 50}, {40, 90});
                         canvas.Point({0x20C0F0, 13, mode}, {80, 12});

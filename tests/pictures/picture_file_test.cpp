@@ -218,7 +218,7 @@ TEST_F(PictureFiles, APipeDoesNotHoldTheSystem) {
 }
 
 TEST_F(PictureFiles, SavedBitmapsAreTrueBitmaps) {
-  canvas.Ellipse(Pen(White), {Red, 4}, {48, 48}, 40, 30);
+  canvas.Ellipse(Pen(White), {Red, UpwardDiagonal}, {48, 48}, 40, 30);
   canvas.SavePicture(Path("A.Bmp"), 96, 96);
   EXPECT_EQ(Read("A.Bmp").left(2), "BM");
   EXPECT_EQ(QImage(folder.filePath("A.Bmp")).convertToFormat(QImage::Format_RGB32), canvas.Image());

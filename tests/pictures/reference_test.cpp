@@ -57,7 +57,9 @@ class SideBySide : public ::testing::TestWithParam<unsigned> {
     }
   }
 
-  Stroke AnyStroke() { return {AnyColour(), Below(3) == 0 ? AnyWidth() : 4, Below(3) == 0 ? 1 + Below(16) : 13}; }
+  Stroke AnyStroke() {
+    return {AnyColour(), Below(3) == 0 ? AnyWidth() : 4, DrawingMode{Below(3) == 0 ? 1 + Below(16) : 13}};
+  }
 
   template <typename Operation>
   void Both(Operation&& operation) {
@@ -67,7 +69,7 @@ class SideBySide : public ::testing::TestWithParam<unsigned> {
 
   void DrawSomething() {
     const Stroke stroke = AnyStroke();
-    const Filling filling{AnyColour(), Below(8)};
+    const Filling filling{AnyColour(), FillPattern{Below(8)}};
     const PixelPoint from = AnyPoint();
     const PixelPoint to = Below(2) == 0 ? AnyPoint() : Near(from);
     const PixelPoint half{Below(4) == 0 ? std::abs(AnyPlace(Columns)) + 0.25 * Below(4) : Below(80),
@@ -76,8 +78,8 @@ class SideBySide : public ::testing::TestWithParam<unsigned> {
     const int operation = Below(20);
     drawn_.str({});
     drawn_ << operation << ": from " << from.X << "," << from.Y << " to " << to.X << "," << to.Y << " half " << half.X
-           << "," << half.Y << " width " << stroke.Width << " mode " << stroke.DrawMode << " style " << filling.Style
-           << " rows " << rows;
+           << "," << half.Y << " width " << stroke.Width << " mode " << static_cast<int>(stroke.DrawMode) << " style "
+           << static_cast<int>(filling.Style) << " rows " << rows;
     switch (operation) {
       case 0:
         return Both([&](Canvas& each) { each.Box(stroke, filling, from, to); });
@@ -134,7 +136,7 @@ TEST(SideBySideOfShortLines, OfAllUsualWidths) {
   for (const int width : {1, 2, 3, 4, 5, 6, 7, 8, 9, 16, 32, 33}) {
     for (int dx = -21; dx <= 21; ++dx) {
       for (int dy = -21; dy <= 21; ++dy) {
-        const Stroke stroke{0xFFFFFF, width, 7};
+        const Stroke stroke{0xFFFFFF, width, DrawingMode::ExclusiveOr};
         const PixelPoint from{80.0 + (dy & 7), 80.0 - (dx & 7)};
         const PixelPoint to{from.X + dx, from.Y + dy};
         canvas.Line(stroke, from, to);

@@ -32,7 +32,7 @@ class SvgPictures : public ::testing::Test {
     surface.SetHeight(Height * UnitsPerPixel);
     surface.CreateCanvas(surface.Width, surface.Height());
     surface.AddRecorder(recorder);
-    surface.SetScaleMode(3);
+    surface.SetScaleMode(Scale::Pixels);
     surface.SetBackColor(Ground);
     surface.SetFillColor(Red);
   }
@@ -94,7 +94,7 @@ void DrawStar(Surface& surface) {
 
 void DrawHatches(Surface& surface) {
   for (int style = 0; style <= 7; ++style) {
-    surface.SetFillStyle(style);
+    surface.SetFillStyle(FillPattern{style});
     surface.Box(5 + 29.0 * style, 5, 30 + 29.0 * style, 60);
     surface.Circle(17 + 29.0 * style, 90, 13);
     surface.Circle(17 + 29.0 * style, 145, 30, 2.3);
@@ -106,12 +106,12 @@ void DrawScene(Surface& surface) {
   surface.Circle(120, 90, 60, 0.5);
   surface.SetFillColor(Green);
   surface.ExtFloodFill(3, 3, surface.Point(3, 3));
-  surface.SetDrawMode(7);
+  surface.SetDrawMode(DrawingMode::ExclusiveOr);
   surface.SetForeColor(0x40F0A0);
   surface.Line(0, 0, 239, 179);
-  surface.SetDrawMode(13);
+  surface.SetDrawMode(DrawingMode::CopyPen);
   surface.LineTo(120, 20);
-  surface.SetDrawMode(6);
+  surface.SetDrawMode(DrawingMode::Invert);
   surface.Box(100, 60, 200, 120);
 }
 
@@ -144,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(Each, SvgOf,
                                                    [](Surface& surface) {
                                                      int left = 5;
                                                      for (const int mode : {1, 4, 11, 13, 16}) {
-                                                       surface.SetDrawMode(mode);
+                                                       surface.SetDrawMode(DrawingMode{mode});
                                                        surface.SetForeColor(0x2080F0);
                                                        surface.Box(left, 20, left + 40, 100);
                                                        surface.Line(left, 130, left + 40, 150);
@@ -153,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(Each, SvgOf,
                                                    }},
                                            Drawing{"far_places",
                                                    [](Surface& surface) {
-                                                     surface.SetFillStyle(1);
+                                                     surface.SetFillStyle(FillPattern::Transparent);
                                                      surface.Line(120, 90, 1e30, 2e30);
                                                      surface.Box(-1e20, 50, 1e20, 1e20);
                                                      surface.Circle(120, 90, 1e9, 1e-8);
@@ -195,7 +195,7 @@ TEST_F(SvgPictures, LinesThatFollowEachOtherAreOnePath) {
 }
 
 TEST_F(SvgPictures, FloodsAreKeptAsPixels) {
-  surface.SetFillStyle(1);
+  surface.SetFillStyle(FillPattern::Transparent);
   surface.Box(60, 10, 90, 50);
   surface.SetFillColor(Green);
   surface.ExtFloodFill(70, 20, Ground);
@@ -229,7 +229,7 @@ TEST_F(SvgPictures, OtherPropertiesKeepWhatWasDrawn) {
   surface.Circle(120, 40, 20);
   surface.SetForeColor(Green);
   surface.SetHeight(50);
-  surface.SetFillStyle(3);
+  surface.SetFillStyle(FillPattern::Vertical);
   EXPECT_EQ(recorder.Shapes().size(), 1U);
 }
 
@@ -255,7 +255,7 @@ TEST_F(SvgPictures, TooManyShapesBecomePixels) {
 }
 
 TEST_F(SvgPictures, TooManyPatchesBecomeOne) {
-  surface.SetDrawMode(7);
+  surface.SetDrawMode(DrawingMode::ExclusiveOr);
   for (int count = 0; count < 1000; ++count) surface.Line(10, 10, count % 200, 100);
   EXPECT_LT(recorder.Shapes().size(), 500U);
   ExpectTheSamePicture("svg_of_many_patches");

@@ -11,10 +11,8 @@ namespace zerimo {
 inline constexpr Colour Black = 0;
 inline constexpr Colour Ground = 0x402010;
 
-inline constexpr int CopyPen = 13;
-inline constexpr int Invert = 6;
-inline constexpr int Solid = 0;
-inline constexpr int Transparent = 1;
+using enum DrawingMode;
+using enum FillPattern;
 
 /// The rows of the small canvas.
 inline constexpr int Rows = 96;
@@ -62,7 +60,7 @@ class CanvasTestOf : public ::testing::Test {
     return drawn;
   }
 
-  static Stroke Pen(Colour colour, int width = 1, int drawMode = CopyPen) { return {colour, width, drawMode}; }
+  static Stroke Pen(Colour colour, int width = 1, DrawingMode drawMode = CopyPen) { return {colour, width, drawMode}; }
 
   Kind canvas;
 };

@@ -60,33 +60,34 @@ TEST_P(ChangedAreaOf, HoldsAllThatChanged) {
   EXPECT_TRUE(Holds(canvas.TakeDirty(), drawn));
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ChangedAreaOf,
-                         ::testing::Values(Operation{"Line",
-                                                     [](Canvas& canvas) {
-                                                       canvas.Line({White, 1, CopyPen}, {5, 80}, {90, 3});
-                                                     }},
-                                           Operation{"WideLine",
-                                                     [](Canvas& canvas) {
-                                                       canvas.Line({White, 8, CopyPen}, {5, 80}, {90, 3});
-                                                     }},
-                                           Operation{"Point",
-                                                     [](Canvas& canvas) {
-                                                       canvas.Point({White, 7, CopyPen}, {5, 80});
-                                                     }},
-                                           Operation{"Box",
-                                                     [](Canvas& canvas) {
-                                                       canvas.Box({White, 3, CopyPen}, {Red, 0}, {50, 50}, {20, 120});
-                                                     }},
-                                           Operation{"Ellipse",
-                                                     [](Canvas& canvas) {
-                                                       canvas.Ellipse({White, 3, CopyPen}, {Red, 0}, {70, 50}, 40, 9);
-                                                     }},
-                                           Operation{"FloodFill",
-                                                     [](Canvas& canvas) {
-                                                       canvas.FloodFill({3, 3}, White, Rows);
-                                                     }},
-                                           Operation{"Clear", [](Canvas& canvas) { canvas.Clear(White); }}),
-                         [](const auto& operation) { return operation.param.Name; });
+INSTANTIATE_TEST_SUITE_P(
+    Each, ChangedAreaOf,
+    ::testing::Values(Operation{"Line",
+                                [](Canvas& canvas) {
+                                  canvas.Line({White, 1, CopyPen}, {5, 80}, {90, 3});
+                                }},
+                      Operation{"WideLine",
+                                [](Canvas& canvas) {
+                                  canvas.Line({White, 8, CopyPen}, {5, 80}, {90, 3});
+                                }},
+                      Operation{"Point",
+                                [](Canvas& canvas) {
+                                  canvas.Point({White, 7, CopyPen}, {5, 80});
+                                }},
+                      Operation{"Box",
+                                [](Canvas& canvas) {
+                                  canvas.Box({White, 3, CopyPen}, {Red, Solid}, {50, 50}, {20, 120});
+                                }},
+                      Operation{"Ellipse",
+                                [](Canvas& canvas) {
+                                  canvas.Ellipse({White, 3, CopyPen}, {Red, Solid}, {70, 50}, 40, 9);
+                                }},
+                      Operation{"FloodFill",
+                                [](Canvas& canvas) {
+                                  canvas.FloodFill({3, 3}, White, Rows);
+                                }},
+                      Operation{"Clear", [](Canvas& canvas) { canvas.Clear(White); }}),
+    [](const auto& operation) { return operation.param.Name; });
 
 }  // namespace
 

@@ -132,7 +132,7 @@ TEST_P(InvertedTwice, ShapesLeaveNothing) {
   const Stroke pen = Pen(Black, GetParam(), Invert);
   for (int turn = 0; turn < 2; ++turn) {
     canvas.Box(pen, {Red, Solid}, {-5, 12}, {60, 71});
-    canvas.Ellipse(pen, {Red, 7}, {60, 50}, 40, 20);
+    canvas.Ellipse(pen, {Red, DiagonalCross}, {60, 50}, 40, 20);
     ASSERT_EQ(Count(Ground) == 96 * 96, turn == 1);
   }
 }

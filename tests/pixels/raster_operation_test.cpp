@@ -12,7 +12,7 @@ constexpr Colour PenColour = 0x3C0FF0;
 constexpr Colour Below = 0x55AA33;
 
 struct Operation {
-  int DrawMode;
+  DrawingMode DrawMode;
   const char* Name;
   std::function<int(int pen, int below)> Result;
 };
@@ -48,14 +48,14 @@ TEST_P(RasterOperations, OfOutlinesAndInsides) {
 }
 
 TEST_P(RasterOperations, OfHatches) {
-  canvas.Ellipse(Pen(2), {0xC08040, 2}, {20, 20}, 15, 15);
+  canvas.Ellipse(Pen(2), {0xC08040, Horizontal}, {20, 20}, 15, 15);
   EXPECT_EQ(At(20, 20), Expected(0xC08040));
   EXPECT_EQ(At(20, 21), Below);
   EXPECT_EQ(At(35, 20), Expected(PenColour));
 }
 
 TEST_P(RasterOperations, KeepPixelsOpaque) {
-  canvas.Box(Pen(2), {0xC08040, 6}, {5, 5}, {34, 34});
+  canvas.Box(Pen(2), {0xC08040, Cross}, {5, 5}, {34, 34});
   for (int y = 0; y < 40; ++y) {
     for (int x = 0; x < 40; ++x) ASSERT_EQ(canvas.Pixels().Row(y)[x] >> 24, 0xFFU);
   }
@@ -63,22 +63,22 @@ TEST_P(RasterOperations, KeepPixelsOpaque) {
 
 INSTANTIATE_TEST_SUITE_P(
     Sixteen, RasterOperations,
-    ::testing::Values(Operation{1, "Black", [](int, int) { return 0; }},
-                      Operation{2, "NotMergePen", [](int pen, int below) { return ~(pen | below); }},
-                      Operation{3, "MaskNotPen", [](int pen, int below) { return ~pen & below; }},
-                      Operation{4, "NotCopyPen", [](int pen, int) { return ~pen; }},
-                      Operation{5, "MaskPenNot", [](int pen, int below) { return pen & ~below; }},
-                      Operation{6, "Invert", [](int, int below) { return ~below; }},
-                      Operation{7, "Xor", [](int pen, int below) { return pen ^ below; }},
-                      Operation{8, "NotMaskPen", [](int pen, int below) { return ~(pen & below); }},
-                      Operation{9, "MaskPen", [](int pen, int below) { return pen & below; }},
-                      Operation{10, "NotXor", [](int pen, int below) { return ~(pen ^ below); }},
-                      Operation{11, "Nop", [](int, int below) { return below; }},
-                      Operation{12, "MergeNotPen", [](int pen, int below) { return ~pen | below; }},
-                      Operation{13, "CopyPen", [](int pen, int) { return pen; }},
-                      Operation{14, "MergePenNot", [](int pen, int below) { return pen | ~below; }},
-                      Operation{15, "MergePen", [](int pen, int below) { return pen | below; }},
-                      Operation{16, "White", [](int, int) { return 0xFFFFFF; }}),
+    ::testing::Values(Operation{DrawingMode{1}, "Black", [](int, int) { return 0; }},
+                      Operation{DrawingMode{2}, "NotMergePen", [](int pen, int below) { return ~(pen | below); }},
+                      Operation{DrawingMode{3}, "MaskNotPen", [](int pen, int below) { return ~pen & below; }},
+                      Operation{DrawingMode{4}, "NotCopyPen", [](int pen, int) { return ~pen; }},
+                      Operation{DrawingMode{5}, "MaskPenNot", [](int pen, int below) { return pen & ~below; }},
+                      Operation{DrawingMode{6}, "Invert", [](int, int below) { return ~below; }},
+                      Operation{DrawingMode{7}, "Xor", [](int pen, int below) { return pen ^ below; }},
+                      Operation{DrawingMode{8}, "NotMaskPen", [](int pen, int below) { return ~(pen & below); }},
+                      Operation{DrawingMode{9}, "MaskPen", [](int pen, int below) { return pen & below; }},
+                      Operation{DrawingMode{10}, "NotXor", [](int pen, int below) { return ~(pen ^ below); }},
+                      Operation{DrawingMode{11}, "Nop", [](int, int below) { return below; }},
+                      Operation{DrawingMode{12}, "MergeNotPen", [](int pen, int below) { return ~pen | below; }},
+                      Operation{DrawingMode{13}, "CopyPen", [](int pen, int) { return pen; }},
+                      Operation{DrawingMode{14}, "MergePenNot", [](int pen, int below) { return pen | ~below; }},
+                      Operation{DrawingMode{15}, "MergePen", [](int pen, int below) { return pen | below; }},
+                      Operation{DrawingMode{16}, "White", [](int, int) { return 0xFFFFFF; }}),
     [](const auto& operation) { return operation.param.Name; });
 
 }  // namespace

@@ -26,13 +26,13 @@ TEST_F(Boxes, CoverBothCorners) {
 }
 
 TEST_F(Boxes, AreTheSameFromAnyCorner) {
-  canvas.Box(Pen(White, 3), {Red, 4}, {10, 20}, {40, 60});
+  canvas.Box(Pen(White, 3), {Red, UpwardDiagonal}, {10, 20}, {40, 60});
   const std::vector<Pixel> first = PixelsOf(canvas);
   const std::vector<std::pair<PixelPoint, PixelPoint>> diagonals{
       {{40, 60}, {10, 20}}, {{10, 60}, {40, 20}}, {{40, 20}, {10, 60}}};
   for (const auto& [from, to] : diagonals) {
     canvas.Clear(Ground);
-    canvas.Box(Pen(White, 3), {Red, 4}, from, to);
+    canvas.Box(Pen(White, 3), {Red, UpwardDiagonal}, from, to);
     EXPECT_EQ(PixelsOf(canvas), first);
   }
 }
@@ -61,21 +61,21 @@ TEST_F(Boxes, OfNoSizeIsAPoint) {
 class FillStyles : public CanvasTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(FillStyles, HatchesLeaveWhatIsBelow) {
-  canvas.Box(Pen(White), {Red, GetParam()}, {0, 0}, {95, 95});
+  canvas.Box(Pen(White), {Red, FillPattern{GetParam()}}, {0, 0}, {95, 95});
   for (int y = 1; y < 95; ++y) {
     for (int x = 1; x < 95; ++x) {
-      const bool painted = (HatchOf(GetParam())[static_cast<std::size_t>(y % 8)] >> (x % 8) & 1) != 0;
+      const bool painted = (HatchOf(FillPattern{GetParam()})[static_cast<std::size_t>(y % 8)] >> (x % 8) & 1) != 0;
       ASSERT_EQ(At(x, y), painted ? Red : Ground) << x << "," << y;
     }
   }
 }
 
 TEST_P(FillStyles, HatchesOfNeighboursMeet) {
-  canvas.Box(Pen(White), {Red, GetParam()}, {0, 0}, {95, 95});
+  canvas.Box(Pen(White), {Red, FillPattern{GetParam()}}, {0, 0}, {95, 95});
   BareCanvas parts;
   parts.Create(96, 96, Ground);
-  parts.Box(Pen(White), {Red, GetParam()}, {0, 0}, {50, 95});
-  parts.Box(Pen(White), {Red, GetParam()}, {45, 0}, {95, 95});
+  parts.Box(Pen(White), {Red, FillPattern{GetParam()}}, {0, 0}, {50, 95});
+  parts.Box(Pen(White), {Red, FillPattern{GetParam()}}, {45, 0}, {95, 95});
   EXPECT_EQ(parts.ColourAt({60, 30}), At(60, 30));
   for (int y = 1; y < 91; ++y) {
     for (int x = 51; x < 91; ++x) ASSERT_EQ(parts.Pixels().Row(y)[x], canvas.Pixels().Row(y)[x]) << x << "," << y;
@@ -85,14 +85,14 @@ TEST_P(FillStyles, HatchesOfNeighboursMeet) {
 INSTANTIATE_TEST_SUITE_P(All, FillStyles, ::testing::Range(0, 8));
 
 struct Hatched {
-  int Style;
+  FillPattern Style;
   bool RunsLevel;
   bool RunsUpright;
   bool RunsUp;
   bool RunsDown;
 };
 
-void PrintTo(const Hatched& one, std::ostream* out) { *out << "style " << one.Style; }
+void PrintTo(const Hatched& one, std::ostream* out) { *out << "style " << static_cast<int>(one.Style); }
 
 class HatchDirections : public CanvasTest, public ::testing::WithParamInterface<Hatched> {
  protected:
@@ -117,11 +117,13 @@ TEST_P(HatchDirections, RunAsTheStyleSays) {
   EXPECT_EQ(Runs(1, 1), GetParam().RunsDown);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, HatchDirections,
-                         ::testing::Values(Hatched{0, true, true, true, true}, Hatched{1, false, false, false, false},
-                                           Hatched{2, true, false, false, false}, Hatched{3, false, true, false, false},
-                                           Hatched{4, false, false, true, false}, Hatched{5, false, false, false, true},
-                                           Hatched{6, true, true, false, false}, Hatched{7, false, false, true, true}));
+INSTANTIATE_TEST_SUITE_P(
+    All, HatchDirections,
+    ::testing::Values(Hatched{Solid, true, true, true, true}, Hatched{Transparent, false, false, false, false},
+                      Hatched{Horizontal, true, false, false, false}, Hatched{Vertical, false, true, false, false},
+                      Hatched{UpwardDiagonal, false, false, true, false},
+                      Hatched{DownwardDiagonal, false, false, false, true}, Hatched{Cross, true, true, false, false},
+                      Hatched{DiagonalCross, false, false, true, true}));
 
 TEST_F(Ellipses, FillTheirBounds) {
   canvas.Ellipse(Pen(White), {Red, Solid}, {48, 48}, 30, 20);

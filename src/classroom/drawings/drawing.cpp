@@ -23,7 +23,7 @@ constexpr double LeastLength = 1;
 /// Parts of a line that differ by less in direction (as a sine) go straight on.
 constexpr double Straight = 0.01;
 
-double UnitsIn(const Surface& surface) { return surface.ScaleMode() == 3 ? UnitsPerPixel : 1; }
+double UnitsIn(const Surface& surface) { return surface.ScaleMode() == Scale::Pixels ? UnitsPerPixel : 1; }
 
 Point Scaled(const Surface& surface, double x, double y) { return {x * UnitsIn(surface), y * UnitsIn(surface)}; }
 

@@ -189,7 +189,7 @@ void Shapes::Fill(PrimitiveCall& call) {
 
 void Shapes::FillStyle(PrimitiveCall& call) {
   const std::int32_t number = LongNumber(context_.arguments.Number(call.Rest));
-  SkipOnFailure([&] { context_.Picture1.SetFillStyle(number % 8); });
+  SkipOnFailure([&] { context_.Picture1.SetFillStyle(FillPattern{number % 8}); });
 }
 
 double Shapes::Word(PrimitiveCall& call, int nthWord) const {

@@ -3,6 +3,7 @@
 #include <QRgb>
 
 #include "controls/control_kinds.h"
+#include "graphics/canvas.h"
 
 namespace zerimo::reference {
 
@@ -17,7 +18,6 @@ struct RasterOperation {
   bool IsPlain() const { return Keep == 0; }
 };
 
-/// `drawMode` is 1 to 16.
-RasterOperation MakeRasterOperation(int drawMode, Colour pen);
+RasterOperation MakeRasterOperation(DrawingMode drawMode, Colour pen);
 
 }  // namespace zerimo::reference
