@@ -38,19 +38,19 @@ void TakeScreen(Options& options, const std::string& value) {
   const bool sane = width && height && *width >= 1 && *height >= LeastScreenHeight && *width <= GreatestScreenSide &&
                     *height <= GreatestScreenSide;
   if (!sane) Refuse("--screen", value, "WIDTHxHEIGHT in pixels is wanted, from 1x130 to 8192x8192");
-  options.Session.Screen.Width = static_cast<float>(*width * UnitsPerPixel);
-  options.Session.Screen.Height = static_cast<float>(*height * UnitsPerPixel);
+  options.settings.Screen.Width = static_cast<float>(*width * UnitsPerPixel);
+  options.settings.Screen.Height = static_cast<float>(*height * UnitsPerPixel);
 }
 
 void TakeAppFolder(Options& options, const std::string& value) {
   std::error_code ignored;
   if (!std::filesystem::is_directory(value, ignored)) Refuse("--app-folder", value, "there is no such folder");
   try {
-    options.Session.AppFolder = FromUtf8(value);
+    options.settings.AppFolder = FromUtf8(value);
   } catch (const TextError& error) {
     Refuse("--app-folder", value, error.what());
   }
-  std::string& folder = options.Session.AppFolder;
+  std::string& folder = options.settings.AppFolder;
   while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
 }
 
@@ -67,28 +67,28 @@ void TakePicture(Options& options, const std::string& value) {
 void TakeSteps(Options& options, const std::string& value) {
   const auto steps = WholeText<std::uint64_t>(value);
   if (!steps) Refuse("--steps", value, "a whole number from 0 is wanted");
-  options.Session.Steps = *steps;
+  options.settings.Steps = *steps;
 }
 
 void TakeSeconds(Options& options, const std::string& value) {
   const auto seconds = WholeText<double>(value, std::chars_format::fixed);
   const bool sane = seconds && std::isfinite(*seconds) && *seconds >= 0 && *seconds <= GreatestSeconds;
   if (!sane) Refuse("--seconds", value, "a number from 0 to 1000000000 is wanted");
-  options.Session.Seconds = *seconds;
+  options.settings.Seconds = *seconds;
 }
 
 void TakeMemory(Options& options, const std::string& value) {
   const auto memory = WholeText<int>(value);
   const bool sane = memory && (*memory == 0 || (*memory >= LeastMemory && *memory <= GreatestLimit));
   if (!sane) Refuse("--memory", value, "megabytes are wanted, from 16 to 1048576, or 0");
-  options.Session.Memory = *memory;
+  options.settings.Memory = *memory;
 }
 
 void TakeOutput(Options& options, const std::string& value) {
   const auto output = WholeText<int>(value);
   if (!output || *output < 0 || *output > GreatestLimit)
     Refuse("--output", value, "megabytes are wanted, from 0 to 1048576");
-  options.Session.Output = *output;
+  options.settings.Output = *output;
 }
 
 void TakeSession(Options& options, const std::string& file) {
@@ -112,8 +112,8 @@ CommandLine::CommandLine(Options& options) : options_(options), parser_(std::mak
   parser_->allow_extras();
   parser_->allow_windows_style_options(false);
   parser_->set_help_flag();
-  options.Session.Memory = MemoryOfSession;
-  options.Session.Output = OutputOfSession;
+  options.settings.Memory = MemoryOfSession;
+  options.settings.Output = OutputOfSession;
   AddShared();
   AddOfSession();
 }
@@ -156,7 +156,7 @@ void CommandLine::AddOfSession() {
   Add(OfSession, {"--picture", "FILE", "write the picture at the end: .png, .bmp, .jpg or .svg", taking(TakePicture)});
   Add(OfSession,
       {"--output", "MB", "at most MB megabytes of transcript and output; 0 is no limit (256)", taking(TakeOutput)});
-  AddFlag(OfSession, "--sleep", "WAIT really sleeps", options_.Session.Sleep);
+  AddFlag(OfSession, "--sleep", "WAIT really sleeps", options_.settings.Sleep);
   parser_->add_option_function<std::string>(SessionWord, taking(TakeSession))->group("");
 }
 

@@ -18,7 +18,7 @@ namespace zerimo::batch {
 struct Options {
   enum class Wish { Run, Help, Version };
   Wish What = Wish::Run;
-  Settings Session;
+  Settings settings;
   /// The file of the session; "-" is standard input.
   std::string SessionFile = "-";
   /// The file of the transcript, "-" for standard output, or empty for none.

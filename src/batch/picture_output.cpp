@@ -4,7 +4,7 @@ namespace zerimo::batch {
 
 void PictureOutput::Write(const Surface& surface, const std::filesystem::path& file) const {
   startToolkit_();
-  WriteSurface(canvas_, operations_, file, WholePixels(surface.Width), WholePixels(surface.Height()),
+  WriteSurface(canvas_, svgRecorder_, file, WholePixels(surface.Width), WholePixels(surface.Height()),
                surface.BackColor());
 }
 

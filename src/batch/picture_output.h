@@ -20,14 +20,14 @@ class PictureOutput : public SessionPictures {
   ImageCanvas& Pixels() override { return canvas_; }
 
   /// From now on each operation costs memory.
-  void KeepOperations(Surface& surface) override { surface.AddRecorder(operations_); }
+  void KeepOperations(Surface& surface) override { surface.AddRecorder(svgRecorder_); }
 
   void Write(const Surface& surface, const std::filesystem::path& file) const override;
 
  private:
   std::function<void()> startToolkit_;
   ImageCanvas canvas_;
-  SvgRecorder operations_{canvas_};
+  SvgRecorder svgRecorder_{canvas_};
 };
 
 }  // namespace zerimo::batch

@@ -48,7 +48,7 @@ class Program {
     if (!OpenTranscript()) return Complain(options_.TranscriptFile + ": the transcript can't be written");
     Journal journal(transcript_, options_.TranscriptOnStandardOutput() ? nullptr : &std::cout);
     BatchSession session(
-        options_.Session, pictures_.Pixels(), journal,
+        options_.settings, pictures_.Pixels(), journal,
         [this](const Surface& surface, const std::string& file) { pictures_.Write(surface, PathOf(file)); });
     return RunScript(session, *bytes);
   }

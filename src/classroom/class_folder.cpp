@@ -12,6 +12,7 @@
 #include "classroom/readable.h"
 #include "files/code_pages.h"
 #include "files/disk.h"
+#include "files/program_files.h"
 
 namespace zerimo::classroom {
 
@@ -71,7 +72,9 @@ class Walk {
     for (const fs::path& each : names) {
       std::error_code error;
       const fs::path place = folder / each;
-      if (!fs::is_directory(place, error) || EndsIn(each, ".zrm") || depth == DeepestFolder || IsApart(place)) continue;
+      if (!fs::is_directory(place, error) || ProgramFiles::IsProgramName(each.string()) || depth == DeepestFolder ||
+          IsApart(place))
+        continue;
       const bool isLink = fs::is_symlink(place, error);
       // A link to a folder of the class would show its programs twice.
       if (isLink && root_.MayRead(place)) continue;
@@ -119,7 +122,7 @@ class Walk {
                          [](const fs::path& name) { return EndsIn(name, ".session"); });
     std::vector<Pupil> pupils;
     for (const fs::path& name : names) {
-      if (!EndsIn(name, ".zrm") || IsApart(folder / name)) continue;
+      if (!ProgramFiles::IsProgramName(name.string()) || IsApart(folder / name)) continue;
       const std::optional<fs::path> session = SessionOf(name, sessions);
       pupils.push_back({folder / name, session ? folder / *session : fs::path()});
     }

@@ -99,9 +99,9 @@ void AddClassOptions(CommandLine& line, ClassOptions& options) {
 }
 
 void CheckClass(const CommandLine& line, const Command& command) {
-  const ClassOptions& options = command.Class;
+  const ClassOptions& options = command.classOptions;
   if (line.HasSession())
-    throw UsageError(command.Runner.SessionFile + ": no session can be given with --class; put it beside the program");
+    throw UsageError(command.options.SessionFile + ": no session can be given with --class; put it beside the program");
   if (!options.Folder.empty() && !options.List.empty()) throw UsageError("--list: not with --class");
   if (options.Report.empty() && (options.Records.empty() || command.IsMerge()))
     throw UsageError((command.IsMerge()        ? std::string("--merge")
@@ -122,14 +122,14 @@ void CheckKind(const CommandLine& line, const Command& command) {
 
 Command ParseCommand(const std::vector<std::string>& arguments) {
   Command command;
-  CommandLine line(command.Runner);
-  AddClassOptions(line, command.Class);
+  CommandLine line(command.options);
+  AddClassOptions(line, command.classOptions);
   line.Parse(arguments);
   command.HelpText = line.HelpText();
-  if (command.Runner.What != batch::Options::Wish::Run) return command;
+  if (command.options.What != batch::Options::Wish::Run) return command;
   CheckKind(line, command);
-  if (command.IsClass() && !line.Has("--seconds")) command.Runner.Session.Seconds = SecondsInClass;
-  if (command.IsClass() && !line.Has("--memory")) command.Runner.Session.Memory = MemoryInClass;
+  if (command.IsClass() && !line.Has("--seconds")) command.options.settings.Seconds = SecondsInClass;
+  if (command.IsClass() && !line.Has("--memory")) command.options.settings.Memory = MemoryInClass;
   return command;
 }
 

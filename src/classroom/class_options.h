@@ -57,13 +57,13 @@ struct ClassOptions {
 
 /// All that the command line says.
 struct Command {
-  batch::Options Runner;
-  ClassOptions Class;
+  batch::Options options;
+  ClassOptions classOptions;
   std::string HelpText;
 
-  bool IsMerge() const { return !Class.Merged.empty(); }
+  bool IsMerge() const { return !classOptions.Merged.empty(); }
   /// Whether it is about a class at all.
-  bool IsClass() const { return !Class.Folder.empty() || !Class.List.empty() || IsMerge(); }
+  bool IsClass() const { return !classOptions.Folder.empty() || !classOptions.List.empty() || IsMerge(); }
 };
 
 /// Fails with `UsageError`. `arguments` are those after the program's name.

@@ -94,8 +94,8 @@ int JobsOf(const ClassOptions& options) {
 class ClassRun {
  public:
   ClassRun(const Command& command, const std::string& version)
-      : options_(command.Class),
-        settings_(command.Runner.Session),
+      : options_(command.classOptions),
+        settings_(command.options.settings),
         limits_{settings_.Seconds, settings_.Steps, settings_.Memory},
         pupils_(AllPupils(options_)),
         all_(pupils_.size()),

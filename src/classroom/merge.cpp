@@ -30,7 +30,7 @@ constexpr std::size_t ProgramsOnPage = 100;
 class Merge {
  public:
   Merge(const Command& command, const std::string& version)
-      : options_(command.Class), files_(options_), alike_(TemplateOf(options_)) {
+      : options_(command.classOptions), files_(options_), alike_(TemplateOf(options_)) {
     report_.Folder = NameOf(files_.Page().stem());
     report_.Version = QString::fromStdString(version);
     report_.Made = QDateTime::currentDateTime().toString(Qt::ISODate);
@@ -179,7 +179,7 @@ ClassStatus MergeParts(const Command& command, const std::string& version) {
   } catch (const batch::UsageError&) {
     throw;
   } catch (const std::exception&) {
-    progress.Close(QString::fromStdString(command.Class.Report) + ": the report can't be written");
+    progress.Close(QString::fromStdString(command.classOptions.Report) + ": the report can't be written");
     return ClassStatus::NotWritten;
   }
 }

@@ -13,6 +13,7 @@
 #include "classroom/record.h"
 #include "classroom/report_page.h"
 #include "files/disk_files.h"
+#include "files/program_files.h"
 
 namespace zerimo::classroom {
 
@@ -50,7 +51,7 @@ void KeepRecords(const ClassOptions& options) {
 /// Makes a file name from a pupil's name, which may hold any character.
 std::string FileNameOf(const PupilRun& run, std::set<std::string>& taken) {
   QString name = PupilName(run.Who);
-  if (name.endsWith(".zrm", Qt::CaseInsensitive)) name.chop(4);
+  if (ProgramFiles::IsProgramName(name.toStdString())) name.chop(4);
   for (QChar& character : name) {
     const bool isPlain = character.isLetterOrNumber() || character == u'-' || character == u'_' || character == u' ';
     if (!isPlain) character = u'_';

@@ -7,6 +7,7 @@
 #include "batch/errors.h"
 #include "classroom/readable.h"
 #include "files/disk_files.h"
+#include "files/program_files.h"
 
 namespace zerimo::classroom {
 
@@ -87,7 +88,7 @@ QString Goal::Title() const {
   return Words + QStringLiteral(" (") + lines + u')';
 }
 
-bool Task::HasModelProgram() const { return NameOf(Model.extension()).compare(".zrm", Qt::CaseInsensitive) == 0; }
+bool Task::HasModelProgram() const { return ProgramFiles::IsProgramName(Model.string()); }
 
 std::vector<Goal> GoalsIn(const QString& taskText) {
   static const QRegularExpression item("^\\s*[-*]\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);

@@ -124,10 +124,10 @@ void SvgRecorder::KeepPixels(const PixelRect& area) {
   KeepShape(svg_shape::Patch{std::move(pixels), ToQRect(area).topLeft()});
 }
 
-void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
-                  int height, Colour background) {
+void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& svgRecorder, const std::filesystem::path& file,
+                  int width, int height, Colour background) {
   if (EndingOf(file) == ".svg") {
-    WriteBeside(file, recorder.Picture(width, height, background).toStdString());
+    WriteBeside(file, svgRecorder.Picture(width, height, background).toStdString());
   } else {
     canvas.SavePicture(file, width, height);
   }

@@ -46,7 +46,7 @@ class SvgRecorder : public SurfaceRecorder {
 
 /// Writes what a canvas shows in a size in pixels. The file's ending decides the format: .svg from the recorded shapes,
 /// otherwise pixels (.png, .bmp, .jpg, .jpeg). Fails (invalid argument for another ending, file access).
-void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& recorder, const std::filesystem::path& file, int width,
-                  int height, Colour background);
+void WriteSurface(const ImageCanvas& canvas, const SvgRecorder& svgRecorder, const std::filesystem::path& file,
+                  int width, int height, Colour background);
 
 }  // namespace zerimo

@@ -57,10 +57,10 @@ int Main(char* programName, const std::vector<std::string>& words) {
     return classroom::RunPupil();
   }
   const classroom::Command command = classroom::ParseCommand(words);
-  if (AnswersQuestion(command.Runner, command.HelpText, ZERIMO_VERSION)) return 0;
+  if (AnswersQuestion(command.options, command.HelpText, ZERIMO_VERSION)) return 0;
   if (!command.IsClass()) {
     PictureOutput pictures([&desktop] { desktop.Start(); });
-    return RunSession(command.Runner, pictures);
+    return RunSession(command.options, pictures);
   }
   desktop.Start();
   return static_cast<int>(classroom::RunClass(command, ZERIMO_VERSION));

@@ -19,42 +19,42 @@ TEST(Options, HaveTheirDefaultsWithoutArguments) {
   const Options options = ParseOptions({});
   EXPECT_EQ(options.What, Options::Wish::Run);
   EXPECT_EQ(options.SessionFile, "-");
-  EXPECT_EQ(options.Session.Screen.Width, 15360);
-  EXPECT_EQ(options.Session.Screen.Height, 11520);
-  EXPECT_EQ(options.Session.Steps, 10'000'000U);
-  EXPECT_EQ(options.Session.Seconds, 60);
-  EXPECT_EQ(options.Session.Memory, 1024);
-  EXPECT_EQ(options.Session.Output, 256);
-  EXPECT_FALSE(options.Session.Sleep);
+  EXPECT_EQ(options.settings.Screen.Width, 15360);
+  EXPECT_EQ(options.settings.Screen.Height, 11520);
+  EXPECT_EQ(options.settings.Steps, 10'000'000U);
+  EXPECT_EQ(options.settings.Seconds, 60);
+  EXPECT_EQ(options.settings.Memory, 1024);
+  EXPECT_EQ(options.settings.Output, 256);
+  EXPECT_FALSE(options.settings.Sleep);
   EXPECT_EQ(options.TranscriptFile, "");
   EXPECT_EQ(options.PictureFile, "");
 }
 
 TEST(Options, ScreenIsGivenInPixels) {
   const Options options = ParseOptions({"--screen", "800x600"});
-  EXPECT_EQ(options.Session.Screen.Width, 12000);
-  EXPECT_EQ(options.Session.Screen.Height, 9000);
+  EXPECT_EQ(options.settings.Screen.Width, 12000);
+  EXPECT_EQ(options.settings.Screen.Height, 9000);
 }
 
 TEST(Options, TakeTheirValues) {
   const Options options = ParseOptions({"--steps", "0", "--seconds", "2.5", "--sleep", "--transcript", "-", "--picture",
                                         "a.PNG", "--app-folder", "/", "b.session"});
-  EXPECT_EQ(options.Session.Steps, 0U);
-  EXPECT_EQ(options.Session.Seconds, 2.5);
-  EXPECT_TRUE(options.Session.Sleep);
+  EXPECT_EQ(options.settings.Steps, 0U);
+  EXPECT_EQ(options.settings.Seconds, 2.5);
+  EXPECT_TRUE(options.settings.Sleep);
   EXPECT_TRUE(options.TranscriptOnStandardOutput());
   EXPECT_EQ(options.PictureFile, "a.PNG");
-  EXPECT_EQ(options.Session.AppFolder, "/");
+  EXPECT_EQ(options.settings.AppFolder, "/");
   EXPECT_EQ(options.SessionFile, "b.session");
 }
 
 TEST(Options, LimitsOfMemoryAndOutputAreMegabytes) {
   const Options options = ParseOptions({"--memory", "16", "--output", "0"});
-  EXPECT_EQ(options.Session.Memory, 16);
-  EXPECT_EQ(options.Session.Output, 0);
+  EXPECT_EQ(options.settings.Memory, 16);
+  EXPECT_EQ(options.settings.Output, 0);
 }
 
-TEST(Options, LastOneCounts) { EXPECT_EQ(ParseOptions({"--steps", "1", "--steps", "2"}).Session.Steps, 2U); }
+TEST(Options, LastOneCounts) { EXPECT_EQ(ParseOptions({"--steps", "1", "--steps", "2"}).settings.Steps, 2U); }
 
 TEST(Options, DashIsStandardInput) { EXPECT_EQ(ParseOptions({"-"}).SessionFile, "-"); }
 
@@ -65,7 +65,7 @@ TEST(Options, HelpAndVersionAreWishes) {
   EXPECT_EQ(ParseOptions({"--version"}).What, Options::Wish::Version);
 }
 
-TEST(Options, FolderLosesItsLastDivider) { EXPECT_EQ(ParseOptions({"--app-folder", "./"}).Session.AppFolder, "."); }
+TEST(Options, FolderLosesItsLastDivider) { EXPECT_EQ(ParseOptions({"--app-folder", "./"}).settings.AppFolder, "."); }
 
 struct BadUsage {
   std::vector<std::string> Arguments;

@@ -12,30 +12,30 @@ namespace {
 TEST(ClassOptions, ASessionIsNoClass) {
   const Command command = ParseCommand({"--seconds", "3", "a.session"});
   EXPECT_FALSE(command.IsClass());
-  EXPECT_EQ(command.Runner.SessionFile, "a.session");
-  EXPECT_EQ(command.Runner.Session.Seconds, 3);
-  EXPECT_EQ(ParseCommand({}).Runner.Session.Seconds, 60);
+  EXPECT_EQ(command.options.SessionFile, "a.session");
+  EXPECT_EQ(command.options.settings.Seconds, 3);
+  EXPECT_EQ(ParseCommand({}).options.settings.Seconds, 60);
 }
 
 TEST(ClassOptions, AskForAClass) {
   const Command command = ParseCommand({"--class", "5a", "--out", "r.HTML"});
   EXPECT_TRUE(command.IsClass());
-  EXPECT_EQ(command.Class.Folder, "5a");
-  EXPECT_EQ(command.Class.Report, "r.HTML");
-  EXPECT_EQ(command.Runner.Session.Memory, 512);
-  EXPECT_EQ(command.Class.Jobs, 0);
-  EXPECT_EQ(command.Runner.Session.Seconds, 10);
-  EXPECT_EQ(command.Runner.Session.Steps, 10'000'000U);
+  EXPECT_EQ(command.classOptions.Folder, "5a");
+  EXPECT_EQ(command.classOptions.Report, "r.HTML");
+  EXPECT_EQ(command.options.settings.Memory, 512);
+  EXPECT_EQ(command.classOptions.Jobs, 0);
+  EXPECT_EQ(command.options.settings.Seconds, 10);
+  EXPECT_EQ(command.options.settings.Steps, 10'000'000U);
 }
 
 TEST(ClassOptions, LimitsOfAClassMayStandAnywhere) {
   const Command command = ParseCommand({"--seconds", "3", "--memory", "0", "--jobs", "4", "--steps", "9", "--screen",
                                         "800x600", "--out", "r.htm", "--class", "5a"});
-  EXPECT_EQ(command.Runner.Session.Seconds, 3);
-  EXPECT_EQ(command.Runner.Session.Steps, 9U);
-  EXPECT_EQ(command.Runner.Session.Screen.Width, 12000);
-  EXPECT_EQ(command.Runner.Session.Memory, 0);
-  EXPECT_EQ(command.Class.Jobs, 4);
+  EXPECT_EQ(command.options.settings.Seconds, 3);
+  EXPECT_EQ(command.options.settings.Steps, 9U);
+  EXPECT_EQ(command.options.settings.Screen.Width, 12000);
+  EXPECT_EQ(command.options.settings.Memory, 0);
+  EXPECT_EQ(command.classOptions.Jobs, 4);
 }
 
 TEST(ClassOptions, AClassIsAskedForEvenWhereTheRestIsWrong) {

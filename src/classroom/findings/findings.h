@@ -23,6 +23,9 @@ QStringList NamesThatMayNotVanish(const QStringList& sums);
 using Findings = std::vector<Finding>;
 Findings PossibleZeros(const Listing& listing);
 
+/// The greatest count, and the greatest input of a word that wants a whole one: 16 bits hold no more.
+inline constexpr double GreatestWhole = 32767;
+
 /// The parts of the search, each with a kind of its own; they add to what is there.
 void FindInStatements(const Listing& listing, Findings& findings);
 void FindInRepeats(const Listing& listing, Findings& findings);

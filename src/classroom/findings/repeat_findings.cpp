@@ -7,7 +7,6 @@ namespace zerimo::classroom {
 
 namespace {
 
-constexpr double GreatestCount = 32767;
 constexpr qsizetype MostStatements = 199;
 
 /// The number in the name of a count, if the program makes it once and with a number; otherwise the count itself.
@@ -32,7 +31,7 @@ void FindInCount(const Listing& listing, const Statement& repeat, Findings& find
   if (isNumber && number <= 0) findings.push_back({Mistake::CountZero, repeat.Line, {count}});
   if (isNumber && number > 0 && number != std::floor(number))
     findings.push_back({Mistake::CountFraction, repeat.Line, {count}});
-  if (isNumber && number > GreatestCount) findings.push_back({Mistake::CountTooLarge, repeat.Line, {count}});
+  if (isNumber && number > GreatestWhole) findings.push_back({Mistake::CountTooLarge, repeat.Line, {count}});
   const QString make = NameOf(IsOneOf<StmtMake>) + " \"" + count.mid(1) + ' ';
   if (count.startsWith(u':') && repeat.Text.contains(make))
     findings.push_back({Mistake::CountChanged, repeat.Line, {count}});

@@ -29,7 +29,6 @@ struct Pattern {
 
 /// The greatest number of units that 16 bits hold, in steps of 50.
 constexpr double GreatestStep = 655;
-constexpr double GreatestNumber = 32767;
 constexpr double GreatestDrawMode = 16;
 
 constexpr std::array Patterns = {
@@ -51,7 +50,7 @@ constexpr std::array Patterns = {
     Pattern{Mistake::DivisionByZero, R"(^(& 0)$)", IsOneOf<"QUOTIENT", "REMAINDER">},
     Pattern{Mistake::TooLarge, R"(^& \(?-?(\d+)\)?$)", IsOneOf<"SETXY", "DOT", "SETY">, GreatestStep},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)",
-            IsOneOf<"SUM", "PRODUCT", "QUOTIENT", "REMAINDER", "LW", "WAIT", "SETPC", "SETBG", "FILL">, GreatestNumber},
+            IsOneOf<"SUM", "PRODUCT", "QUOTIENT", "REMAINDER", "LW", "WAIT", "SETPC", "SETBG", "FILL">, GreatestWhole},
     Pattern{Mistake::TooLarge, R"(^& (\d+)$)", IsOneOf<"DRAWMODE">, GreatestDrawMode},
     Pattern{Mistake::DigitInName, R"(^@ "([A-Z]+\d+))", IsMake},
     Pattern{Mistake::MakeWithoutQuote, R"(^@ ([A-Z]+)\b)", IsMake},

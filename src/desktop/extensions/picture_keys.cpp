@@ -22,10 +22,10 @@ QString EndingIn(const QString& kind) { return kind.section(QLatin1String("*."),
 
 PictureKeys::PictureKeys(Session& session)
     : session_(session),
-      drawn_(session.canvas),
+      svgRecorder_(session.canvas),
       folder_(QString::fromStdU16String(session.form1.folders.ToRead(session.form1.folders.AppFolder).u16string())) {
   // The session ends before its extensions do.
-  session.form1.Picture1.AddRecorder(drawn_);
+  session.form1.Picture1.AddRecorder(svgRecorder_);
 }
 
 bool PictureKeys::PressKey(const QKeyEvent& press) {
@@ -56,7 +56,7 @@ void PictureKeys::Save() {
 void PictureKeys::Write(const QString& file) {
   const Colour background = session_.form1.Picture1.BackColor();
   const bool isWritten = SkipOnFailure([&] {
-    WriteSurface(session_.canvas, drawn_, file.toStdU16String(), Size().width(), Size().height(), background);
+    WriteSurface(session_.canvas, svgRecorder_, file.toStdU16String(), Size().width(), Size().height(), background);
   });
   if (isWritten) return;
   session_.services.MessageBox(

@@ -22,7 +22,7 @@ class PictureKeys : public Extension {
   QSize Size() const;
 
   Session& session_;
-  SvgRecorder drawn_;
+  SvgRecorder svgRecorder_;
   QString folder_;
 };
 
