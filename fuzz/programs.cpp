@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "classroom/findings/findings.h"
-#include "classroom/program_outline.h"
 #include "classroom/program_source.h"
 #include "folder_of_its_own.h"
 #include "fuzz.h"

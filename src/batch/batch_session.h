@@ -9,7 +9,6 @@
 #include "batch/journal.h"
 #include "batch/session_script.h"
 #include "batch/settings.h"
-#include "batch/surface_trace.h"
 #include "console/form1.h"
 
 namespace zerimo::batch {

@@ -8,6 +8,7 @@
 
 #include "base/services.h"
 #include "batch/json_line.h"
+#include "graphics/surface.h"
 
 namespace zerimo::batch {
 
@@ -49,6 +50,17 @@ class Journal {
   std::ostream* people_;
   /// Bytes that may still be written, or nothing where there is no limit.
   std::optional<std::uintmax_t> left_;
+};
+
+/// Writes each operation of the surface that it listens to into the journal.
+class SurfaceTrace final : public SurfaceRecorder {
+ public:
+  explicit SurfaceTrace(Journal& journal) : journal_(journal) {}
+
+  void Record(const Surface& surface, const SurfaceOperation& operation) override;
+
+ private:
+  Journal& journal_;
 };
 
 }  // namespace zerimo::batch

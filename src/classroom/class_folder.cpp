@@ -10,9 +10,9 @@
 
 #include "base/text.h"
 #include "classroom/readable.h"
-#include "files/code_pages.h"
 #include "files/disk.h"
 #include "files/program_files.h"
+#include "files/unicode_text.h"
 
 namespace zerimo::classroom {
 

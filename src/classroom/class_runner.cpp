@@ -1,16 +1,70 @@
 #include "classroom/class_runner.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 #include <algorithm>
+#include <array>
+#include <csignal>
 #include <numeric>
 #include <string>
 #include <utility>
 
-#include "classroom/interruption.h"
-
 namespace zerimo::classroom {
 
 namespace {
+
+constexpr const char* Beginning = "zerimo-class-";
+
+std::unique_ptr<QLockFile> LockIn(const QString& folder) {
+  auto lock = std::make_unique<QLockFile>(folder + QStringLiteral("/runner.lock"));
+  // However old a lock is, it holds as long as its process lives.
+  lock->setStaleLockTime(0);
+  return lock;
+}
+
+/// Whether no runner is at work in a folder, nor about to be.
+bool IsAbandoned(const QString& folder) {
+  constexpr qint64 longestStart = 600;
+  const QFileInfo lock(folder + QStringLiteral("/runner.lock"));
+  // A runner that was killed before or while it made its lock.
+  const QFileInfo youngest = lock.exists() ? lock : QFileInfo(folder);
+  if (youngest.isDir() || youngest.size() == 0)
+    return youngest.lastModified().secsTo(QDateTime::currentDateTime()) > longestStart;
+  return LockIn(folder)->tryLock(0);
+}
+
+/// Only what belongs to the same user, and what no runner is at work in.
+void RemoveLeftovers(const QFileInfo& own) {
+  for (const QFileInfo& other : own.dir().entryInfoList({QLatin1String(Beginning) + u'*'}, QDir::Dirs)) {
+    const QString path = other.filePath();
+    const bool isOurs = !other.isSymLink() && other.ownerId() == own.ownerId() && path != own.filePath();
+    if (isOurs && IsAbandoned(path)) QDir(path).removeRecursively();
+  }
+}
+
+constexpr std::array Noted = {
+    SIGINT,
+    SIGTERM,
+#ifdef SIGHUP
+    SIGHUP,
+#endif
+#ifdef SIGQUIT
+    SIGQUIT,
+#endif
+};
+
+// A handler gets no object.
+volatile std::sig_atomic_t came = 0;
+
+void Note(int) { came = 1; }
+
+void HandleBrokenPipe([[maybe_unused]] void (*handler)(int)) {
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, handler);
+#endif
+}
 
 /// Milliseconds between two checks of the clock.
 constexpr int WatchInterval = 50;
@@ -21,6 +75,30 @@ constexpr std::chrono::milliseconds Rest(200);
 constexpr int MostVainTries = 25;
 
 }  // namespace
+
+RunsFolder::RunsFolder() : folder_(QDir::tempPath() + u'/' + QLatin1String(Beginning) + QStringLiteral("XXXXXX")) {
+  if (!IsThere()) return;
+  lock_ = LockIn(folder_.path());
+  lock_->tryLock(0);
+  RemoveLeftovers(QFileInfo(folder_.path()));
+}
+
+Interruption::Interruption() {
+  came = 0;
+  for (std::size_t i = 0; i < Noted.size(); ++i) {
+    formerHandlers_.push_back(std::signal(Noted[i], Note));
+    // Whoever started the run wants it to go on, as under nohup.
+    if (formerHandlers_.back() == SIG_IGN) std::signal(Noted[i], SIG_IGN);
+  }
+  HandleBrokenPipe(SIG_IGN);
+}
+
+Interruption::~Interruption() {
+  for (std::size_t i = 0; i < Noted.size(); ++i) std::signal(Noted[i], formerHandlers_[i]);
+  HandleBrokenPipe(SIG_DFL);
+}
+
+bool Interruption::Came() { return came != 0; }
 
 ClassRunner::ClassRunner(Plan plan, std::vector<Pupil> pupils, Listener onDone)
     : plan_(std::move(plan)),

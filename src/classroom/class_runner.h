@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QLockFile>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <chrono>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,6 +16,38 @@
 #include "classroom/run_process.h"
 
 namespace zerimo::classroom {
+
+/// A new folder among the temporary files for those of one class run; it goes with this object. What a runner that was
+/// killed has left there goes when the next one begins.
+class RunsFolder {
+ public:
+  RunsFolder();
+
+  /// False if there is no room for temporary files.
+  bool IsThere() const { return folder_.isValid(); }
+  std::filesystem::path Path() const { return folder_.path().toStdU16String(); }
+
+ private:
+  QTemporaryDir folder_;
+  /// Held as long as the runner lives.
+  std::unique_ptr<QLockFile> lock_;
+};
+
+/// While it exists, an interrupt from the terminal or a request to end is only recorded (one that the process is told
+/// to ignore stays ignored), and output that nobody reads any more does not end the process.
+class Interruption {
+ public:
+  Interruption();
+  ~Interruption();
+  Interruption(const Interruption&) = delete;
+  Interruption& operator=(const Interruption&) = delete;
+
+  static bool Came();
+
+ private:
+  /// What each signal did before.
+  std::vector<void (*)(int)> formerHandlers_;
+};
 
 /// No process can be started.
 struct NoProcess : std::runtime_error {

@@ -7,7 +7,6 @@
 
 #include "batch/errors.h"
 #include "classroom/class_run.h"
-#include "classroom/marks.h"
 #include "classroom/page_html.h"
 #include "classroom/parts.h"
 #include "classroom/progress.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "classroom/order.h"
-#include "classroom/program_outline.h"
+#include "classroom/program_source.h"
 #include "classroom/session_run.h"
 
 namespace zerimo::classroom {

@@ -1,5 +1,6 @@
 #include "classroom/report_files.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <set>
 
@@ -7,7 +8,6 @@
 #include "batch/errors.h"
 #include "batch/memory_limit.h"
 #include "classroom/class_folder.h"
-#include "classroom/marks.h"
 #include "classroom/page_html.h"
 #include "classroom/readable.h"
 #include "classroom/record.h"
@@ -73,6 +73,18 @@ RunLimits LimitsOf(const Report& report) {
   return limits;
 }
 
+QString Cell(const QString& text) {
+  QString cell = Readable(text).replace(u'"', QStringLiteral("\"\""));
+  const bool isFormula = !cell.isEmpty() && QStringLiteral("=+-@").contains(cell.front());
+  return u'"' + (isFormula ? QStringLiteral("'") : QString()) + cell + u'"';
+}
+
+QByteArray Row(const QStringList& texts) {
+  QStringList cells;
+  for (const QString& text : texts) cells.append(Cell(text));
+  return (cells.join(u',') + QStringLiteral("\r\n")).toUtf8();
+}
+
 }  // namespace
 
 QByteArray SummaryOf(const Report& report) {
@@ -122,6 +134,17 @@ void ReportFiles::WritePupils(const Report& report) const {
     const std::string name = FileNameOf(run, taken);
     Save(fs::absolute(options_.Pupils) / std::u8string(name.begin(), name.end()), PageOfPupil(report, run));
   }
+}
+
+QByteArray MarksHead() {
+  return Row({"file", "name", "result", "points", "most points", "goals met", "goals", "findings", "seconds"});
+}
+
+QByteArray MarksOf(const PupilRun& run) {
+  return Row({NameOf(PlaceOf(run.Who)), PupilName(run.Who), WordOf(run.Outcome.How), QString::number(PointsOf(run)),
+              QString::number(MostPointsOf(run)), QString::number(run.GoalsMet()),
+              QString::number(run.Outcome.Goals.size()), QString::number(run.Outcome.Findings.size()),
+              QString::number(run.Seconds, 'f', 1)});
 }
 
 }  // namespace zerimo::classroom

@@ -10,8 +10,7 @@
 #include <utility>
 
 #include "desktop/desktop_text.h"
-#include "desktop/file_dialog.h"
-#include "desktop/message_dialog.h"
+#include "desktop/dialogs.h"
 #include "files/folders.h"
 
 namespace zerimo {

@@ -5,15 +5,36 @@
 #include "base/process_memory.h"
 #include "base/wide_registers.h"
 
+#ifdef __linux__
+#include <unistd.h>
+#endif
+
 namespace zerimo {
 
 namespace {
+
+constexpr std::uint64_t MostToSpare = std::uint64_t{2} << 30;
 
 constexpr std::chrono::milliseconds Frame{16};
 /// For thirty pictures a second.
 constexpr std::chrono::milliseconds LongestFrame{33};
 
 }  // namespace
+
+#ifdef __linux__
+
+std::uint64_t MemoryToSpare() {
+  const long pages = sysconf(_SC_PHYS_PAGES);
+  if (pages <= 0) return MostToSpare;
+  return std::min(MostToSpare,
+                  static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)) / 2);
+}
+
+#else
+
+std::uint64_t MemoryToSpare() { return MostToSpare; }
+
+#endif
 
 void FrameWatch::Begin() {
   FreeWideRegisters();

@@ -4,7 +4,6 @@
 #include "console/status_line.h"
 #include "desktop/action_views.h"
 #include "desktop/desktop_text.h"
-#include "desktop/editor_view.h"
 #include "desktop/help_views.h"
 #include "desktop/label_views.h"
 #include "desktop/list_view.h"

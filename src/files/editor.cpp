@@ -2,7 +2,7 @@
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "files/program_text.h"
+#include "files/program_files.h"
 #include "interpreter/line_entry.h"
 
 namespace zerimo {

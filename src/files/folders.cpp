@@ -9,6 +9,7 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "files/delivered_files.h"
 #include "files/disk_files.h"
 #include "files/unicode_text.h"
 
@@ -122,6 +123,20 @@ bool IsOfProgram(const fs::path& file) {
   return std::ranges::find(names, name) != std::end(names) && HasProgram(file.parent_path());
 }
 
+constexpr const char* UserFolderName = "Zerimo";
+
+bool HasHelpPages(const fs::path& folder) {
+  std::error_code error;
+  return fs::is_directory(HelpFolderIn(folder), error);
+}
+
+StartFolder PrepareUserFolder(const fs::path& source, const fs::path& documents) {
+  const fs::path folder = documents / UserFolderName;
+  const Delivery delivery = DeliverFiles(source, folder);
+  if (delivery.Failed == 0 && CanWriteInto(folder)) return {folder, true, {}};
+  return {HasHelpPages(folder) ? folder : source, true, folder};
+}
+
 }  // namespace
 
 std::string Folders::ToSystem(const fs::path& path) {
@@ -190,6 +205,23 @@ std::vector<std::string> Folders::FilesIn(const std::string& systemPath) const {
     return std::make_pair(UpperCase(a), a) < std::make_pair(UpperCase(b), b);
   });
   return names;
+}
+
+StartFolder PrepareStartFolder(const Surroundings& surroundings) {
+  const bool isInOneFolder = HasHelpPages(surroundings.ProgramFolder) || !HasHelpPages(surroundings.ShareFolder);
+  const fs::path& source = isInOneFolder ? surroundings.ProgramFolder : surroundings.ShareFolder;
+  StartFolder start = isInOneFolder && surroundings.CanWriteIntoProgramFolder
+                          ? StartFolder{surroundings.ProgramFolder, false, {}}
+                          : PrepareUserFolder(source, surroundings.DocumentsFolder);
+  RemoveLeftovers(start.Folder);
+  return start;
+}
+
+std::string AppFolderName(const fs::path& folder, const Disk& disk) {
+  std::string name = Folders::ToSystem(folder);
+  std::error_code error;
+  if (fs::equivalent(Folders(name, disk).ToRead(name), folder, error)) return name;
+  return fs::equivalent(disk.Folder() / ".", folder, error) ? "." : name;
 }
 
 }  // namespace zerimo

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "files/code_pages.h"
 #include "files/rich_text.h"
 #include "files/rich_text_scanner.h"
+#include "files/unicode_text.h"
 
 namespace zerimo {
 

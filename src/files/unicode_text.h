@@ -8,6 +8,16 @@
 /// names and rich text.
 namespace zerimo {
 
+/// The code page of rich text that names none.
+inline constexpr int WesternCodePage = 1252;
+
+/// The character of a byte in a code page: 437, 850, 1250, 1251, 1252 or 10000 (Macintosh). An unknown code page is
+/// read as 1252.
+char32_t CharacterOf(int codePage, unsigned char byte);
+
+/// The code page of a font's character set, or 0 if the set is that of the document.
+int CodePageOfCharset(int charset) noexcept;
+
 /// Stands for what is not a character: bytes that are not UTF-8, halves of a pair, numbers beyond the last character.
 inline constexpr char32_t ReplacementCharacter = 0xFFFD;
 

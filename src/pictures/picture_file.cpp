@@ -14,7 +14,7 @@
 #include "base/failure.h"
 #include "base/wide_registers.h"
 #include "files/disk_files.h"
-#include "pictures/pixel_image.h"
+#include "pictures/image_canvas.h"
 #include "pixels/picture_check.h"
 
 namespace zerimo {

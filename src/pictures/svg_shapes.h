@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "graphics/canvas.h"
-#include "pixels/line_clip.h"
+#include "pixels/lines.h"
 
 namespace zerimo {
 

@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "base/wide_registers.h"
-#include "pictures/pixel_image.h"
+#include "pictures/image_canvas.h"
 
 namespace zerimo {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "pixels/line_clip.h"
+#include "pixels/lines.h"
 #include "pixels/round_pen.h"
 #include "pixels/span_painter.h"
 

@@ -15,12 +15,11 @@
 #include "desktop/desktop_style.h"
 #include "desktop/desktop_text.h"
 #include "desktop/extensions/extensions.h"
-#include "desktop/extensions/screen_scale.h"
+#include "desktop/extensions/zoom.h"
 #include "desktop/session.h"
 #include "desktop/window_options.h"
 #include "files/disk_files.h"
 #include "files/folders.h"
-#include "files/start_folder.h"
 
 namespace zerimo {
 

@@ -1,7 +1,7 @@
 #include "programs/zerimo_page.h"
 
 #include "batch/latin1.h"
-#include "files/start_folder.h"
+#include "files/folders.h"
 
 namespace zerimo::web {
 

@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "base/services.h"
 #include "base/watch.h"
+#include "console/running_line.h"
 
 namespace zerimo::web {
 
@@ -52,6 +54,27 @@ class PageWatch : public Watch {
   /// In milliseconds of the browser's clock.
   double nextFrame_ = 0;
   unsigned looks_ = 0;
+};
+
+/// Shows the lines of a program one by one, as slowly as the user has chosen on the page.
+class PagePace {
+ public:
+  /// `show` brings the page up to date.
+  PagePace(const Interpreter& interpreter, std::function<void()> show)
+      : runningLine_(interpreter), show_(std::move(show)) {}
+
+  /// Shows the line that runs next, holds it, and returns true; at full speed does nothing and returns false. Leaves
+  /// the run with `StopRun` if the user stops the program.
+  bool Step();
+
+  /// Must be called when a handler is over.
+  void End();
+
+ private:
+  void Tell();
+
+  RunningLine runningLine_;
+  std::function<void()> show_;
 };
 
 }  // namespace zerimo::web

@@ -5,7 +5,6 @@
 
 #include "console/form1.h"
 #include "pixels/pixel_canvas.h"
-#include "web/page_pace.h"
 #include "web/page_screen.h"
 #include "web/page_services.h"
 

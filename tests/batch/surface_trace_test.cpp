@@ -1,9 +1,8 @@
-#include "batch/surface_trace.h"
-
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+#include "batch/journal.h"
 #include "files/temp_folder.h"
 
 namespace zerimo::batch {

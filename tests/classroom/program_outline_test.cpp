@@ -1,8 +1,8 @@
-#include "classroom/program_outline.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
+
+#include "classroom/program_source.h"
 
 namespace zerimo::classroom {
 namespace {

@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "desktop/desktop_fixture.h"
-#include "desktop/message_dialog.h"
+#include "desktop/dialogs.h"
 
 namespace zerimo {
 namespace {

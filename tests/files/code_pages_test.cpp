@@ -1,8 +1,8 @@
-#include "files/code_pages.h"
-
 #include <gtest/gtest.h>
 
 #include <ostream>
+
+#include "files/unicode_text.h"
 
 namespace zerimo {
 namespace {

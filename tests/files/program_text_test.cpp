@@ -1,11 +1,10 @@
-#include "files/program_text.h"
-
 #include <gtest/gtest.h>
 
 #include <ostream>
 
 #include "base/failure.h"
 #include "files/files_fixture.h"
+#include "files/program_files.h"
 
 namespace zerimo {
 namespace {

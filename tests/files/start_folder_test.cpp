@@ -1,5 +1,3 @@
-#include "files/start_folder.h"
-
 #include <gtest/gtest.h>
 
 #include "files/folders.h"

@@ -134,7 +134,7 @@ QString WordForOther(const QString& name) {
 }
 
 QString SuggestionFor(const QString& word, const QStringList& others) {
-  const QString usual = WordForOther(word);
+  QString usual = WordForOther(word);
   if (!usual.isEmpty() && !others.contains(word)) return usual;
   QStringList all = others;
   for (const WordFacts* each : Words()) all.append(TextOf(each->Word));

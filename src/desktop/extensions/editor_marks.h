@@ -4,7 +4,7 @@
 #include <QTextCursor>
 #include <string>
 
-#include "desktop/editor_view.h"
+#include "desktop/text_views.h"
 
 namespace zerimo {
 

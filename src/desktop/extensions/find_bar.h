@@ -5,7 +5,7 @@
 #include <QTextDocument>
 #include <QWidget>
 
-#include "desktop/editor_view.h"
+#include "desktop/text_views.h"
 
 namespace zerimo {
 

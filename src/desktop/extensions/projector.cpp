@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "desktop/editor_view.h"
+#include "desktop/text_views.h"
 
 namespace zerimo {
 

@@ -10,7 +10,7 @@
 
 #include "base/failure.h"
 #include "desktop/desktop_text.h"
-#include "desktop/editor_view.h"
+#include "desktop/text_views.h"
 #include "files/disk_files.h"
 #include "files/saving.h"
 #include "interpreter/line_entry.h"

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include "desktop/surface_view.h"
@@ -26,6 +27,10 @@ int Smaller(int percent) {
   const auto* const found = std::lower_bound(std::begin(Percents), std::end(Percents), percent);
   return found == std::begin(Percents) ? percent : *std::prev(found);
 }
+
+constexpr int WidestUnscaled = 2600;
+/// What a scaled window is about as wide as.
+constexpr double UsualWidth = 1920;
 
 }  // namespace
 
@@ -100,6 +105,11 @@ void Zoom::MovePicture(QPointF distance) {
   const QPointF middle = SeenPart().center() - distance;
   surface_.SetMiddle(middle / ZoomOf(window_) * UnitsPerPixel);
   window_.Sync();
+}
+
+int ScaleForScreen(int width, double ratio) {
+  if (width <= WidestUnscaled || ratio != 1) return 100;
+  return 100 * std::clamp(static_cast<int>(std::lround(width / UsualWidth)), 2, 4);
 }
 
 }  // namespace zerimo

@@ -1,10 +1,9 @@
-#include "desktop/extensions/print_picture.h"
-
 #include <QDir>
 #include <QPainter>
 #include <QTest>
 
 #include "desktop/extensions/extensions_fixture.h"
+#include "desktop/extensions/picture_keys.h"
 
 namespace zerimo {
 namespace {

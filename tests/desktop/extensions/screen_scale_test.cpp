@@ -1,6 +1,6 @@
-#include "desktop/extensions/screen_scale.h"
-
 #include <gtest/gtest.h>
+
+#include "desktop/extensions/zoom.h"
 
 namespace zerimo {
 namespace {

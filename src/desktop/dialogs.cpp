@@ -1,8 +1,11 @@
-#include "desktop/message_dialog.h"
+#include "desktop/dialogs.h"
 
 #include <QGridLayout>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeView>
 #include <algorithm>
 #include <array>
 
@@ -39,6 +42,18 @@ constexpr std::array<ButtonFacts, 6> Buttons = {{
 QMessageBox::Icon IconOf(int style) {
   if ((style & box::Critical) != 0) return QMessageBox::Critical;
   return (style & box::Information) != 0 ? QMessageBox::Information : QMessageBox::NoIcon;
+}
+
+/// The file of a name in any case, with or without the ending of a program; the empty text if there is none.
+QString FileOf(const QFileInfo& typed) {
+  const QStringList names = typed.dir().entryList(QDir::Files);
+  for (const QString& wanted : {typed.fileName(), typed.fileName() + QStringLiteral(".ZRM")}) {
+    const auto found = std::find_if(names.begin(), names.end(), [&wanted](const QString& name) {
+      return name.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
+    if (found != names.end()) return typed.dir().filePath(*found);
+  }
+  return {};
 }
 
 }  // namespace
@@ -83,6 +98,27 @@ Answer MessageDialog::Chosen() const {
     if (button == clickedButton()) return answer;
   }
   return closed_;
+}
+
+FileDialog::FileDialog(QWidget& parent, AcceptMode mode, const QString& title, const QString& folder,
+                       const QString& filter)
+    : QFileDialog(&parent, title, folder, filter) {
+  setOption(DontUseNativeDialog);
+  setAcceptMode(mode);
+  setFileMode(mode == AcceptSave ? AnyFile : ExistingFile);
+  // A date would be cut off.
+  auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (files != nullptr) files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
+void FileDialog::accept() {
+  auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (name != nullptr && acceptMode() == AcceptOpen) {
+    const QFileInfo typed(directory(), name->text());
+    const QString file = typed.exists() ? QString() : FileOf(typed);
+    if (!file.isEmpty()) name->setText(file);
+  }
+  QFileDialog::accept();
 }
 
 }  // namespace zerimo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QMessageBox>
 #include <utility>
 #include <vector>
@@ -22,6 +23,16 @@ class MessageDialog : public QMessageBox {
 
   std::vector<std::pair<QAbstractButton*, Answer>> answers_;
   Answer closed_ = Answer::OK;
+};
+
+/// The toolkit's file dialog, the same on every desktop. A file to open is found in whatever case its name is typed,
+/// and a program without its ending, as `LOAD` finds it.
+class FileDialog : public QFileDialog {
+ public:
+  FileDialog(QWidget& parent, AcceptMode mode, const QString& title, const QString& folder, const QString& filter);
+
+ protected:
+  void accept() override;
 };
 
 }  // namespace zerimo
