@@ -16,16 +16,19 @@ void BatchWatch::StartClock() {
 
 void BatchWatch::BeginEvent() {
   stepsTaken_ = 0;
+  nextLook_ = 0;
   LookAtClock();
 }
 
-void BatchWatch::Step() {
-  ++stepsTaken_;
-  if (stepLimit_ != 0 && stepsTaken_ > stepLimit_) throw Stopped{"steps"};
+void BatchWatch::Look() {
   // Most steps take less time than the clock; a step that is slow because its text is long has ticks of its own.
   constexpr std::uint64_t stepsPerLook = 16;
-  if (stepsTaken_ % stepsPerLook == 0) LookAtClock();
-  if (OnStep) OnStep();
+  nextLook_ = stepsTaken_ + stepsPerLook;
+  if (stepLimit_ != 0) {
+    if (stepsTaken_ > stepLimit_) throw Stopped{"steps"};
+    nextLook_ = std::min(nextLook_, stepLimit_ + 1);
+  }
+  LookAtClock();
 }
 
 void BatchWatch::Sleep(std::chrono::milliseconds duration) {

@@ -13,7 +13,7 @@ namespace zerimo {
 /// Behaviour: docs/interpreter.md, "The control string".
 ///
 /// The path is a head, which ends with its last "-", and the line number after it; the text is made when it is read. A
-/// path that is not of that form is kept as text.
+/// path that is not of that form, or begins with a blank, is kept as text.
 class ControlPath {
  public:
   /// Whether a number is written with the leading blank of `Str`, or plain.
@@ -45,8 +45,7 @@ class ControlPath {
   /// Trims the path and drops its last component if it is the same text as the one before it (`RecursionChecker`).
   /// Never fails.
   void Tidy() {
-    const bool isTidy = reached_.IsKnown() && reached_ != recursionAt_ && !head_.starts_with(' ');
-    if (!isTidy) TidyText();
+    if (!reached_.IsKnown() || reached_ == recursionAt_) TidyText();
   }
 
   bool NothingRuns() const { return !reached_.IsKnown() && (head_ == "." || head_ == " " || head_.empty()); }

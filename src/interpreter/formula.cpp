@@ -51,20 +51,28 @@ class Evaluation {
 
   double Of(const Formula::Side& side) {
     if (IsNumber(side.Known)) return side.Known;
-    const std::size_t brackets = side.Sums.size() - 1;
-    for (std::size_t number = 0; number < brackets; ++number) {
+    return side.Sums.size() == 1 ? Of(side.Sums.front()) : OfBracketed(side);
+  }
+
+ private:
+  using Numbers = std::array<double, Formula::MostFactors>;
+
+  // A function of its own, like `OfProduct`: without brackets and products there is no array to set up and to guard.
+  [[gnu::noinline]] double OfBracketed(const Formula::Side& side) {
+    Numbers values;
+    brackets_ = &values;
+    for (std::size_t number = 0; number + 1 < side.Sums.size(); ++number) {
       // A bracket's value is pasted as text.
       const double value = Of(side.Sums[number]);
       if (!IsNumber(value)) return NoNumber;
-      brackets_[number] = ThroughText(value);
-      if (!IsPlain(brackets_[number])) return NoNumber;
+      values[number] = ThroughText(value);
+      if (!IsPlain(values[number])) return NoNumber;
     }
     return Of(side.Sums.back());
   }
 
- private:
   /// With its sign.
-  double Of(const Formula::Term& term, bool followsSign) {
+  double Of(const Formula::Term& term, bool followsSign) const {
     if (IsNumber(term.Known)) return term.Known;
     if (term.Factors.size() > 1) return OfProduct(term, followsSign);
     const double value = NumberOf(term.Factors.front());
@@ -73,7 +81,7 @@ class Evaluation {
     return Subtracts(term, value, followsSign) ? -size : size;
   }
 
-  double Of(const Formula::Sum& sum) {
+  double Of(const Formula::Sum& sum) const {
     double total = 0;
     bool followsSign = false;
     for (const Formula::Term& term : sum) {
@@ -83,22 +91,23 @@ class Evaluation {
     return std::isfinite(total) ? total : NoNumber;
   }
 
-  double OfProduct(const Formula::Term& term, bool followsSign) {
-    if (!ReadFactors(term)) return NoNumber;
-    const bool subtracts = Subtracts(term, factors_[0], followsSign);
-    if (followsSign) factors_[0] = std::abs(factors_[0]);
+  [[gnu::noinline]] double OfProduct(const Formula::Term& term, bool followsSign) const {
+    Numbers factors;
+    if (!ReadFactors(term, factors)) return NoNumber;
+    const bool subtracts = Subtracts(term, factors[0], followsSign);
+    if (followsSign) factors[0] = std::abs(factors[0]);
     for (const Formula::Step& step : term.Steps) {
-      factors_[step.Left] = Perform(step.Operator, factors_[step.Left], factors_[step.Right]);
-      if (!IsNumber(factors_[step.Left])) return NoNumber;
+      factors[step.Left] = Perform(step.Operator, factors[step.Left], factors[step.Right]);
+      if (!IsNumber(factors[step.Left])) return NoNumber;
     }
-    return subtracts ? -factors_[0] : factors_[0];
+    return subtracts ? -factors[0] : factors[0];
   }
 
   /// Whether all factors are numbers that leave something in the text.
-  bool ReadFactors(const Formula::Term& term) {
+  bool ReadFactors(const Formula::Term& term, Numbers& factors) const {
     for (std::size_t at = 0; at < term.Factors.size(); ++at) {
-      factors_[at] = NumberOf(term.Factors[at]);
-      if (!IsNumber(factors_[at]) || HasVanished(term.Factors[at], factors_[at])) return false;
+      factors[at] = NumberOf(term.Factors[at]);
+      if (!IsNumber(factors[at]) || HasVanished(term.Factors[at], factors[at])) return false;
     }
     return true;
   }
@@ -119,15 +128,15 @@ class Evaluation {
       case Operand::Kind::Nothing:
         return 0;
       case Operand::Kind::Bracket:
-        return brackets_[static_cast<std::size_t>(operand.Index)];
+        return (*brackets_)[static_cast<std::size_t>(operand.Index)];
       default:
         return operands_.NumberOf(operand);
     }
   }
 
   const Operands& operands_;
-  std::array<double, Formula::MostFactors> factors_;
-  std::array<double, Formula::MostFactors> brackets_;
+  /// The values of the brackets that are worked out so far.
+  const Numbers* brackets_ = nullptr;
 };
 
 bool IsConstant(const Formula::Term& term) {

@@ -160,14 +160,15 @@ void Runner::ActOnEnd(Walk& walk) {
 void Runner::ActOnGoto(Walk& walk) {
   const int jump = walk.Line;
   SkipOnFailure([&] { walk.Line = conditionals_.LabelOf(jump); });
-  if (walk.Line == 0) {
-    std::string_view label;
-    SkipOnFailure([&] { label = NameOfLabel(context_.store.Line(jump)); });
-    context_.services.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
-    walk.Over = true;
-    return;
-  }
+  if (walk.Line == 0) return TellUndeclaredLabel(walk, jump);
   context_.controlPath.WriteLine(walk.Line, Lead::None);
+}
+
+void Runner::TellUndeclaredLabel(Walk& walk, int jump) {
+  std::string_view label;
+  SkipOnFailure([&] { label = NameOfLabel(context_.store.Line(jump)); });
+  context_.services.MessageBox("UnDeclared Label: " + std::string(label) + " in Goto Statement");
+  walk.Over = true;
 }
 
 void Runner::ActOnLabel(Walk& walk) {

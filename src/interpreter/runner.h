@@ -41,6 +41,7 @@ class Runner {
   void ActOnTo(Walk& walk);
   void ActOnEnd(Walk& walk);
   void ActOnGoto(Walk& walk);
+  void TellUndeclaredLabel(Walk& walk, int jump);
   void ActOnLabel(Walk& walk);
   void ActOnEndIf(Walk& walk);
   /// Never fails: it ends within the store.

@@ -58,11 +58,6 @@ std::string Store::TakeFirstWord(int number) {
   return GiveWord(lent.Text, 1);
 }
 
-void Store::TrimLine(int number) {
-  const std::string& line = Line(number);
-  if (line.starts_with(' ') || line.ends_with(' ')) SetLine(number, std::string(Trimmed(line)));
-}
-
 int Store::FirstEmptyLine() const {
   return firstEmptyLine_.Get(changes_, [this] {
     int number = 1;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/text.h"
 #include "controls/control_kinds.h"
 #include "interpreter/line_form.h"
 #include "interpreter/since_change.h"
@@ -49,7 +50,10 @@ class Store {
   std::string TakeFirstWord(int number);
 
   /// Trims a line in place.
-  void TrimLine(int number);
+  void TrimLine(int number) {
+    const std::string& line = Line(number);
+    if (line.starts_with(' ') || line.ends_with(' ')) SetLine(number, std::string(Trimmed(line)));
+  }
 
   /// The number of the first empty line; fails (subscript) if there is none.
   int FirstEmptyLine() const;

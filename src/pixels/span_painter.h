@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 #include "pixels/hatch.h"
 #include "pixels/pixel_buffer.h"
@@ -45,6 +46,16 @@ class SpanPainter {
   /// row.
   template <typename SpanOf>
   void PaintRows(int firstRow, int lastRow, SpanOf&& spanOf) {
+    const int lastColumn = columns_ - 1;
+    PaintInnerRows(firstRow, lastRow, [&](int row) {
+      const auto [first, last] = spanOf(row);
+      return std::pair(std::max(first, 0), std::min(last, lastColumn));
+    });
+  }
+
+  /// The same for columns that are inside the buffer.
+  template <typename SpanOf>
+  void PaintInnerRows(int firstRow, int lastRow, SpanOf&& spanOf) {
     if (firstRow > lastRow) return;
     if (operation_.IsPlain() && &hatch_ == &HatchPatterns[0]) return FillRows(firstRow, lastRow, spanOf);
     for (int row = firstRow; row <= lastRow; ++row) {
@@ -62,15 +73,12 @@ class SpanPainter {
   /// All that a row needs is held in locals, which no pixel written could change.
   template <typename SpanOf>
   void FillRows(int firstRow, int lastRow, SpanOf&& spanOf) const {
-    const int lastColumn = columns_ - 1;
     const std::ptrdiff_t rowLength = columns_;
     const Pixel color = operation_.Toggle;
     Pixel* pixels = Row(firstRow);
     for (int row = firstRow; row <= lastRow; ++row, pixels += rowLength) {
       const auto [first, last] = spanOf(row);
-      const int begin = std::max(first, 0);
-      const int end = std::min(last, lastColumn);
-      if (begin <= end) FillRun(pixels + begin, end - begin + 1, color);
+      if (first <= last) FillRun(pixels + first, last - first + 1, color);
     }
   }
 

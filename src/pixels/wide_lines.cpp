@@ -141,19 +141,20 @@ class Slide {
 bool IsWithinReach(const Edges& edges) noexcept { return edges.From > -Slide::Reach && edges.To < Slide::Reach; }
 
 /// The rows that neither end touches, all of them on the canvas.
-void PaintBetweenEnds(SpanPainter& painter, const Flanks& flanks, int first, int last) {
+void PaintBetweenEnds(SpanPainter& painter, const Flanks& flanks, bool isInside, int first, int last) {
   const auto columns = [&](int row) { return Columns(flanks.BetweenEnds(row), painter.Columns()); };
   const Edges edges = flanks.BetweenEnds(first);
   if (!IsWithinReach(edges) || !IsWithinReach(flanks.BetweenEnds(last))) return painter.PaintRows(first, last, columns);
   Slide from(edges.From, flanks.SideSlope());
   Slide to(edges.To, flanks.SideSlope());
-  painter.PaintRows(first, last, [&](int row) {
+  const auto sliding = [&](int row) {
     ColumnSpan span{from.Column() + 1, to.Column()};
     if (from.IsUncertain() || to.IsUncertain()) span = columns(row);
     from.Advance();
     to.Advance();
     return span;
-  });
+  };
+  isInside ? painter.PaintInnerRows(first, last, sliding) : painter.PaintRows(first, last, sliding);
 }
 
 /// The rows of a line inside the canvas; none if elsewhere the rounding of its edges might lead to other columns.
@@ -190,12 +191,12 @@ void WideLines::Paint(SpanPainter& painter, WholeLine line, const RoundPen& pen)
   const int afterUpperEnd = std::clamp(line.Y1 - pen.Above() + pen.Width(), top, std::max(top, bottom + 1));
   const int lowerEnd = std::clamp(line.Y2 - pen.Above(), afterUpperEnd, std::max(afterUpperEnd, bottom + 1));
   paintEnds(top, afterUpperEnd - 1);
-  PaintBetweenEnds(painter, flanks, afterUpperEnd, lowerEnd - 1);
+  PaintBetweenEnds(painter, flanks, isInside, afterUpperEnd, lowerEnd - 1);
   paintEnds(lowerEnd, bottom);
 }
 
 void WideLines::PaintMask(SpanPainter& painter, int left, int top, const Mask& mask) {
-  painter.PaintRows(top, top + static_cast<int>(mask.size()) - 1, [&](int row) {
+  painter.PaintInnerRows(top, top + static_cast<int>(mask.size()) - 1, [&](int row) {
     const ColumnSpan& span = mask[static_cast<std::size_t>(row - top)];
     return ColumnSpan{left + span.First, left + span.Last};
   });
