@@ -111,7 +111,8 @@ void PupilSession::ReadFiles() {
   outcome_.Findings = FindingsIn(text);
   possibleZeros_ = PossibleZeros(Listing(text));
   // In a folder of the pupil's own, the files beside the program are the pupil's, too.
-  if (order_.Who.Program.parent_path() == order_.Within) FindLoaded(text, order_.Who.Program, outcome_.Findings);
+  const bool isShared = order_.Who.Program.parent_path() == order_.Within;
+  FindLoaded(text, order_.Who.Program, isShared, outcome_.Findings);
   ProgramSource source(text);
   outcome_.Source = std::move(source.Lines);
   outcome_.SourceIsCut = source.IsCut;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "classroom/findings/listing.h"
+#include "classroom/readable.h"
 
 namespace zerimo::classroom {
 
@@ -93,11 +94,19 @@ bool HasOther(const std::filesystem::path& own, const QString& name) {
 
 }  // namespace
 
-void FindLoaded(const QString& program, const std::filesystem::path& file, std::vector<Finding>& findings) {
-  for (const Statement& statement : Listing(program).Statements) {
-    const bool loads = statement.Is<"LOAD", "LOADPICTURE">();
-    if (loads && HasOther(file, statement.Rest().section(u'.', 0, 0)))
-      findings.push_back({Mistake::LoadsAnother, statement.Line, {statement.Text}});
+void FindLoaded(const QString& program, const std::filesystem::path& file, bool isShared,
+                std::vector<Finding>& findings) {
+  const Listing listing(program);
+  const bool saves =
+      std::ranges::any_of(listing.Statements, [](const Statement& each) { return each.Is<"SAVEPICTURE">(); });
+  for (const Statement& statement : listing.Statements) {
+    const QString name = statement.Rest().section(u'.', 0, 0);
+    if (!statement.Is<"LOAD", "LOADPICTURE">() || name.isEmpty()) continue;
+    const bool isOther = HasOther(file, name);
+    const bool isOwn = name.compare(NameOf(file.stem()), Qt::CaseInsensitive) == 0;
+    const bool mayBeThere = isOther || isOwn || saves || name.contains(u'/') || name.contains(u'\\');
+    if (isOther && isShared) findings.push_back({Mistake::LoadsAnother, statement.Line, {statement.Text}});
+    if (!mayBeThere) findings.push_back({Mistake::DeadWord, statement.Line, {listing.AsWritten(statement.Text)}});
   }
 }
 

@@ -13,8 +13,9 @@ namespace zerimo::classroom {
 /// `findings` already holds is not reported again.
 void FindInRun(SessionRun& run, int programLine, bool hasBegun, std::vector<Finding>& findings);
 
-/// What a program loads from beside it in the folder of a class, where each file is somebody's own. What it has saved
-/// itself is elsewhere.
-void FindLoaded(const QString& program, const std::filesystem::path& file, std::vector<Finding>& findings);
+/// What a program loads that is not there, and what it loads from beside it if that folder is shared, where each file
+/// is somebody's own. What it has saved itself is elsewhere.
+void FindLoaded(const QString& program, const std::filesystem::path& file, bool isShared,
+                std::vector<Finding>& findings);
 
 }  // namespace zerimo::classroom

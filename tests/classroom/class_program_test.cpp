@@ -254,9 +254,13 @@ TEST_F(ClassProgramTest, TellsWhenAProgramLoadsAnotherOfTheClass) {
   Write("BEN.ZRM", "TO BEN|LOAD ANNA|ANNA|END|");
   Write("CARLA/MAIN.ZRM", "TO MAIN|LOAD SQUARE|SQUARE|END|");
   Write("CARLA/SQUARE.ZRM", "TO SQUARE|CS|FD 50|END|");
+  Write("DAN.ZRM", "TO DAN|CS|FD 9|LOAD NOTTHERE|LOADPICTURE NOTTHERE|END|");
+  Write("EVA.ZRM", "TO EVA|CS|FD 9|SAVEPICTURE MINE|LOADPICTURE MINE|END|");
   Run();
   EXPECT_EQ(MistakesOf("BEN.ZRM"), "loads another");
   EXPECT_EQ(MistakesOf("CARLA/MAIN.ZRM"), "");
+  EXPECT_EQ(MistakesOf("DAN.ZRM"), "dead word, dead word");
+  EXPECT_EQ(MistakesOf("EVA.ZRM"), "");
 }
 
 TEST_F(ClassProgramTest, MarksTheLineWhereAProgramWasStopped) {

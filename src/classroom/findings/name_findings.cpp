@@ -80,7 +80,7 @@ QString LettersOf(const QString& word) {
 
 /// A word in a sum vanishes: a name without its colon, a text without quotes, or an unknown word.
 void FindVanishing(const Listing& listing, const QSet<QString>& known, Findings& findings) {
-  static const QRegularExpression plain("(?<![:\"#\\w.])\\w*[A-Za-z]\\w*(?![\\w.])");
+  static const QRegularExpression plain(R"((?<![:"#\w.])\w*[A-Za-z]\w*(?![\w.]))");
   static const QRegularExpression exponent("^\\d+E\\d*$");
   for (const Statement& statement : listing.Statements) {
     for (auto walk = plain.globalMatch(listing.SumsOf(statement).join(u' ')); walk.hasNext();) {
@@ -123,7 +123,7 @@ void FindZeros(const Listing& listing, Findings& findings) {
 
 /// Of the two minus signs that a name with a minus number makes after a minus, only one counts.
 void FindNegatives(const Listing& listing, Findings& findings) {
-  static const QRegularExpression negative(" (?:\\(-\\d[\\d.]*\\)|0-\\d[\\d.]*)$");
+  static const QRegularExpression negative(R"( (?:\(-\d[\d.]*\)|0-\d[\d.]*)$)");
   QStringList names;
   for (const Statement& each : listing.Statements) {
     if (each.Is<StmtMake>() && negative.match(each.Text).hasMatch()) names.append(MadeBy(each));
