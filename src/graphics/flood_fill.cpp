@@ -35,7 +35,7 @@ void FloodFills::FloodFillRGB(std::int16_t x, std::int16_t y, double color) {
 
 void FloodFills::FillRegion(std::int16_t x, std::int16_t y, const std::function<void()>& setFillColor) {
   Surface& surface = context_.Picture1;
-  surface.SetScaleMode(Scale::Pixels);         // Never fails.
+  surface.SetScaleMode(Scale::Pixels);       // Never fails.
   surface.SetFillStyle(FillPattern::Solid);  // Never fails.
   SkipOnFailure(setFillColor);
   SkipOnFailure([&] { surface.ExtFloodFill(x, y, surface.Point(x, y)); });

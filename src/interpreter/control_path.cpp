@@ -35,7 +35,8 @@ const std::string& ControlPath::CtrlStr() const {
 
 void ControlPath::SetCtrlStr(std::string text) {
   head_ = FirstPartExtractor(text);
-  reached_ = head_.empty() || head_.front() == ' ' ? Reached{} : ReadReached(std::string_view(text).substr(head_.size()));
+  reached_ =
+      head_.empty() || head_.front() == ' ' ? Reached{} : ReadReached(std::string_view(text).substr(head_.size()));
   text_ = std::move(text);
   textIsMade_ = true;
   if (!reached_.IsKnown()) head_ = text_;
