@@ -43,7 +43,7 @@ class BatchSession {
   Script Read(std::string_view utf8);
 
   /// Has a function called before each line that the interpreter runs.
-  void BeforeEachLine(std::function<void()> look) { watch_.OnStep = std::move(look); }
+  void BeforeEachLine(std::function<void()> look) noexcept { watch_.OnStep = std::move(look); }
 
   /// Starts the system and carries out the script.
   Outcome Run(const Script& script);
