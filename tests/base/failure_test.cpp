@@ -31,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, FailureWords,
                                          Told{FailureKind::FileNotFound, "File not found"},
                                          Told{FailureKind::FileAccess, "File access error"},
                                          Told{FailureKind::InvalidPicture, "Invalid picture"},
-                                         Told{FailureKind::FocusRefused, "The control can't take the focus"}));
+                                         Told{FailureKind::FocusRefused, "The control can not take the focus"}));
 
 TEST(SkipOnFailureTest, TellsThatAStatementWentThrough) {
   int statements = 0;
