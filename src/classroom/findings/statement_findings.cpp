@@ -109,7 +109,7 @@ void FindMinusInCall(const Listing& listing, const Statement& statement, Finding
     findings.push_back({Mistake::MinusSecondInput, statement.Line, {statement.Word()}});
 }
 
-/// What stands before or after a text. A second statement is told as such.
+/// What stands before or after a text. A second statement is reported as such.
 void FindTextAndMore(const Listing& listing, const Statement& statement, Findings& findings) {
   static const QRegularExpression more(R"-(^([^"\s].*"[^"]?".*|"[^"]?" ?([^" ]+).*|"[^"]?" ?".*)$)-");
   const auto match = more.match(statement.Rest());

@@ -76,7 +76,7 @@ void FindMissingInputs(const Listing& listing, const Statement& statement, Findi
 }
 
 /// Whether all that follows a word is one sum, in which numbers side by side are joined. A minus is a sign there, and a
-/// comma is told by itself.
+/// comma is reported by itself.
 bool IsJoinedSum(const Statement& statement) {
   return statement.Is<inputs::Print, inputs::Message, inputs::Write>() && !statement.Text.contains(u'"') &&
          !statement.Text.contains(u',') && !statement.Text.contains(QLatin1String(" -"));
@@ -93,7 +93,7 @@ void FindTooMany(const Listing& listing, const Statement& statement, Findings& f
   if (const QString meant = WordForOther(both); !meant.isEmpty()) {
     findings.push_back({Mistake::UnknownWord, statement.Line, {both, meant}});
   } else if (IsWord(first) && !IsKnownWord(first)) {
-    // Where a text may stand, it is told as one.
+    // Where a text may stand, it is reported as one.
     if (isJoined) return;
     findings.push_back({Mistake::UnknownWord, statement.Line, {first, WordMeantBy(first, listing.ProcedureNames())}});
   } else {
