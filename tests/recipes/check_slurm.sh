@@ -70,8 +70,8 @@ within 30 runs_the_endless_one || fail "the first task does not run: $(cat slurm
 scancel --batch --signal=TERM "${job}_1"
 within 30 waits_again || fail "an interrupted task does not go back to the queue: $(cat slurm-*.out)"
 [ "$(grep -c . part-1.jsonl)" -eq 2 ] || fail "an interrupted task has not kept what it had"
-# A cluster lets it wait two minutes.
-scontrol update JobId="${job}_1" StartTime=now
+# A cluster lets it wait two minutes. In the second of its end it may not start again: its rights are withdrawn then.
+scontrol update JobId="${job}_1" StartTime=now+3
 within 60 nothing_is_left || fail "the tasks do not end: $(squeue; cat slurm-*.out)"
 [ "$(grep -c . part-1.jsonl)" -eq 3 ] || fail "the first task has not gone on: $(cat slurm-*.out slurmctld.log)"
 
