@@ -77,8 +77,8 @@ class DrawingRecorder final : public SurfaceRecorder {
   /// The share of the lines, by length, that is outside the surface, from 0 to 1. Boxes and ellipses do not count: they
   /// may be grounds and hills, which reach beyond it.
   double PartOutside(const Surface& surface) const;
-  /// The share of the circles, ovals, dots and texts that is cut off at the left, the right or the top, or wholly below
-  /// the surface, from 0 to 1.
+  /// The share of the circles and ovals that is cut off at the left, the right or the top, and of the dots and texts
+  /// that are outside, from 0 to 1.
   double PartCutOff(const Surface& surface) const;
   /// The share of the figures, and of the lines that were drawn without a gap, that are outside as a whole.
   double PartWhollyOutside(const Surface& surface) const;

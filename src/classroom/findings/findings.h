@@ -7,20 +7,21 @@
 
 namespace zerimo::classroom {
 
+using Findings = std::vector<Finding>;
+
 /// What is suspicious in the text of a program, in the order of its lines, each mistake once a line. If a program is
 /// empty or read as one line, only that is reported: the rest would follow from it.
-std::vector<Finding> FindingsIn(const QString& program);
+Findings FindingsIn(const QString& program);
 
 /// What is suspicious in the calls of a typed line: inputs that a procedure of the program does not take, or lacks.
 /// Each is reported at the head of the procedure.
-std::vector<Finding> FindingsInCalls(const QString& program, const QString& typed);
+Findings FindingsInCalls(const QString& program, const QString& typed);
 
 /// The names in sums that change the rest of their sum if they vanish, as a name does that is 0: a sum that then begins
 /// with a `*` or `/` is 0 as a whole, and a sign after a `*` that has lost its number takes the next one.
 QStringList NamesThatMayNotVanish(const QStringList& sums);
 
 /// The same for all statements of a program, as what is found if such a name is 0 there.
-using Findings = std::vector<Finding>;
 Findings PossibleZeros(const Listing& listing);
 
 /// The greatest count, and the greatest input of a word that wants a whole one: 16 bits hold no more.
