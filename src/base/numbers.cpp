@@ -160,14 +160,9 @@ std::string StrTrimmed(double number) {
   return std::string(WriteNumber(number, buffer));
 }
 
-double RoundHalfEven(double number) {
-  // Most numbers are whole, and then nothing is to be rounded.
-  constexpr double wholeBelow = 1E15;
-  if (std::abs(number) < wholeBelow && IsWhole(number)) return number;
-  if (std::isnan(number)) throw Failure(FailureKind::Overflow);
-  // Added to 0, so that no minus zero is left.
-  return std::nearbyint(number) + 0.0;
-}
+double FailOverflow() { throw Failure(FailureKind::Overflow); }
+
+double RoundLarge(double number) { return std::isnan(number) ? FailOverflow() : std::nearbyint(number); }
 
 double RoundToDecimals(double number, int decimals) {
   // From here on a 64-bit float has no decimals.
@@ -197,19 +192,7 @@ std::int32_t ToInt32(double number) { return ToWhole<std::int32_t>(number); }
 
 std::uint8_t ToByte(double number) { return ToWhole<std::uint8_t>(number); }
 
-float ToSingle(double number) {
-  if (!(std::abs(number) <= static_cast<double>(std::numeric_limits<float>::max()))) {
-    throw Failure(FailureKind::Overflow);
-  }
-  return static_cast<float>(number);
-}
-
 std::int16_t AddInt16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<double>(a) + b); }
-
-double Finite(double number) {
-  if (!std::isfinite(number)) throw Failure(FailureKind::Overflow);
-  return number;
-}
 
 double Divide(double dividend, double divisor) {
   if (divisor == 0) throw Failure(dividend == 0 ? FailureKind::Overflow : FailureKind::DivisionByZero);

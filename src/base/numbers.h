@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -27,11 +29,25 @@ std::string Str(double number);
 /// `Str` without the leading blank.
 std::string StrTrimmed(double number);
 
+/// Fails (overflow); there is no result.
+[[noreturn]] double FailOverflow();
+
 /// Whether a number has no decimals. It must be within 64 bits.
 inline bool IsWhole(double number) noexcept { return static_cast<double>(static_cast<std::int64_t>(number)) == number; }
 
+/// `RoundHalfEven` for numbers that are large, or none.
+double RoundLarge(double number);
+
 /// To the nearest whole number, a half going to the even neighbour. Not-a-number fails (overflow).
-double RoundHalfEven(double number);
+inline double RoundHalfEven(double number) {
+  constexpr double largeFrom = 1E15;
+  if (!(std::abs(number) < largeFrom)) return RoundLarge(number);
+  // Most numbers are whole, and then nothing is to be rounded.
+  if (IsWhole(number)) return number;
+  // A number of this size has no decimals, so that the sum is rounded; no minus zero is left.
+  constexpr double withoutDecimals = 6755399441055744;
+  return number + withoutDecimals - withoutDecimals;
+}
 
 /// The number times 10 to the power of `decimals` (0 to 2), rounded half to even, and divided again; a number too large
 /// to have decimals is left as it is. Fails (overflow) unless the number is finite.
@@ -47,13 +63,16 @@ std::int32_t ToInt32(double number);
 std::uint8_t ToByte(double number);
 
 /// As a single; fails (overflow) beyond the range of singles.
-float ToSingle(double number);
+inline float ToSingle(double number) {
+  constexpr double greatest = std::numeric_limits<float>::max();
+  return std::abs(number) <= greatest ? static_cast<float>(number) : static_cast<float>(FailOverflow());
+}
 
 /// The sum in 16 bits; fails (overflow) out of range.
 std::int16_t AddInt16(std::int16_t a, std::int16_t b);
 
 /// The number itself if it is finite; fails (overflow) if a computation has left the 64-bit float's range.
-double Finite(double number);
+inline double Finite(double number) { return std::isfinite(number) ? number : FailOverflow(); }
 
 /// The quotient of two numbers: a zero divisor fails (division by zero; overflow for 0/0), and so does a result that
 /// is too large (overflow).

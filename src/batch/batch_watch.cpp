@@ -23,12 +23,13 @@ void BatchWatch::BeginEvent() {
 void BatchWatch::Look() {
   // Most steps take less time than the clock; a step that is slow because its text is long has ticks of its own.
   constexpr std::uint64_t stepsPerLook = 16;
-  nextLook_ = stepsTaken_ + stepsPerLook;
+  nextLook_ = stepsTaken_ + (OnStep ? 1 : stepsPerLook);
   if (stepLimit_ != 0) {
     if (stepsTaken_ > stepLimit_) throw Stopped{"steps"};
     nextLook_ = std::min(nextLook_, stepLimit_ + 1);
   }
   LookAtClock();
+  if (OnStep) OnStep();
 }
 
 void BatchWatch::Sleep(std::chrono::milliseconds duration) {

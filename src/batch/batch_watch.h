@@ -21,9 +21,8 @@ class BatchWatch final : public Watch {
 
   void Step() override {
     if (++stepsTaken_ >= nextLook_) Look();
-    if (OnStep) OnStep();
   }
-  /// Called at the end of each step, if set.
+  /// Called at the end of each step, if set before an event begins.
   std::function<void()> OnStep;
   void Tick() override {
     if (tickLimit_ != 0 && ++ticksTaken_ > tickLimit_) throw Stopped{"ticks"};

@@ -65,62 +65,63 @@ void GeneralPrimitives::WriteCommandList() {
 }
 
 void GeneralPrimitives::Wait(PrimitiveCall& call) {
-  context_.arguments.ReplaceNames(call.Rest);
+  context_.arguments.ReplaceNames(call.Rest());
   if (context_.dispatch.TellMissingInput(call, "WAIT")) return;
-  const double milliseconds = context_.arguments.Evaluate(call.Rest);
+  const double milliseconds = context_.arguments.Evaluate(call.Rest());
   context_.services.Sleep(ToInt32(milliseconds));  // Leaves: it is the last statement.
 }
 
 void GeneralPrimitives::Message(PrimitiveCall& call) {
   SkipOnFailure([&] { context_.Picture1.SetCurrentX(context_.turtle.TurtleX); });
   SkipOnFailure([&] { context_.Picture1.SetCurrentY(context_.turtle.TurtleY); });
-  if (IsQuoted(call.Rest)) {
+  if (IsQuoted(call.Input)) {
     // Leaves: a single quote has nothing between its ends.
-    context_.services.MessageBox(WithoutEnds(call.Rest));
+    context_.services.MessageBox(WithoutEnds(call.Input));
   } else {
-    context_.services.MessageBox(Str(context_.arguments.Number(call.Rest)));
+    context_.services.MessageBox(Str(context_.arguments.Number(call.Input)));
   }
 }
 
 void GeneralPrimitives::Print(PrimitiveCall& call) {
-  if (IsQuoted(call.Rest)) {
+  if (IsQuoted(call.Input)) {
     // Leaves, as in `Message`.
-    context_.controls.List4.Add("?" + WithoutEnds(call.Rest));
+    context_.controls.List4.Add("?" + WithoutEnds(call.Input));
   } else {
-    context_.controls.List4.Add("?" + Str(context_.arguments.Number(call.Rest)));
+    context_.controls.List4.Add("?" + Str(context_.arguments.Number(call.Input)));
   }
 }
 
 void GeneralPrimitives::BracketChain(PrimitiveCall& call, char op) {
-  if (!call.Rest.ends_with(')')) return;
-  call.Rest.pop_back();
-  const int length = Length(call.Rest);
+  if (!call.Rest().ends_with(')')) return;
+  call.Rest().pop_back();
+  const int length = Length(call.Rest());
   for (int position = 1; position <= length; ++position) {
-    if (CharacterAt(call.Rest, position) != " ") continue;  // Never fails: positions from 1.
+    if (CharacterAt(call.Rest(), position) != " ") continue;  // Never fails: positions from 1.
     // Never fails.
-    call.Rest = std::string(Left(call.Rest, position - 1)) + op + std::string(Trimmed(From(call.Rest, position + 1)));
+    call.Rest() =
+        std::string(Left(call.Rest(), position - 1)) + op + std::string(Trimmed(From(call.Rest(), position + 1)));
   }
-  context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest)));
+  context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest())));
 }
 
 void GeneralPrimitives::TwoInputs(PrimitiveCall& call, double (*work)(double, std::int16_t)) {
-  const double a = context_.arguments.WordNumber(call.Rest, 1);
+  const double a = context_.arguments.WordNumber(call.Rest(), 1);
   // The second input is whole: 2.5 counts as 2 and 3.5 as 4.
   std::int16_t b = 0;
-  SkipOnFailure([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest, 2)); });
+  SkipOnFailure([&] { b = ToInt16(context_.arguments.WordNumber(call.Rest(), 2)); });
   std::string result;
   SkipOnFailure([&] { result = StrTrimmed(work(a, b)); });
   context_.services.MessageBox(result);
 }
 
 void GeneralPrimitives::ArithmeticLine(PrimitiveCall& call) {
-  context_.services.MessageBox("Result: " + Str(context_.arguments.Number(call.Rest)));
+  context_.services.MessageBox("Result: " + Str(context_.arguments.Number(call.Input)));
 }
 
 void GeneralPrimitives::RelationLine(PrimitiveCall& call) {
-  context_.arguments.ReplaceNames(call.Rest);
+  context_.arguments.ReplaceNames(call.Rest());
   bool holds = false;
-  SkipOnFailure([&] { holds = RelationEvaluator(call.Rest, arithmetic_); });
+  SkipOnFailure([&] { holds = RelationEvaluator(call.Rest(), arithmetic_); });
   context_.services.MessageBox(holds ? "Result: True" : "Result: False");
 }
 

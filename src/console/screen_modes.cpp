@@ -80,7 +80,7 @@ void ScreenModes::Hide() {
 
 void ScreenModes::Show(const PrimitiveCall& call) {
   // The only place where small letters work.
-  const std::string word = UpperCase(Trimmed(call.Rest));
+  const std::string word = UpperCase(Trimmed(call.Input));
   if (word == "OPEN") files_.programFiles.ShowOpen();
   if (word == "SAVEAS") files_.saving.ShowSaveAs();
   if (word == "DIA" || word == "DIAGNOSIS") context_.controls.Frame1.Show();

@@ -21,15 +21,14 @@ void HelpPages::Bind() {
 
 void HelpPages::Open(PrimitiveCall& call) {
   SkipOnFailure([&] { SetFolder(); });
-  const std::string argument = call.Rest;
-  call.OnFailure = [this, argument] { context_.services.MessageBox("Help is not available for " + argument); };
+  wanted_ = call.Input;
+  call.OnFailure = &sayNotAvailable_;
   try {
-    const bool isGeneral = argument.empty() || argument == " ";
-    LoadPage(PagesFolder + (isGeneral ? "HELP" : UpperCase(argument)));
+    LoadPage(PagesFolder + (call.InputIsMissing() ? "HELP" : UpperCase(wanted_)));
     context_.controls.File1.Show();
     context_.controls.RichTextBox1.Show();
   } catch (const Failure&) {
-    call.OnFailure();  // Never fails: it shows a box.
+    sayNotAvailable_();  // Never fails: it shows a box.
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "files/files_context.h"
@@ -29,6 +30,10 @@ class HelpPages {
   void LoadPage(const std::string& file);
 
   FilesContext context_;
+  std::string wanted_;
+  const std::function<void()> sayNotAvailable_ = [this] {
+    context_.services.MessageBox("Help is not available for " + wanted_);
+  };
 };
 
 }  // namespace zerimo

@@ -35,23 +35,23 @@ void Pictures::ShowPicture(const std::string& fileName) {
 void Pictures::SavePicture(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, "SAVEPICTURE")) return;
   // Even if the name has a folder, unlike in the other primitives.
-  call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
-  call.Rest += ".Bmp";
-  SkipOnFailure([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest)); });
+  call.Rest() = context_.folders.AppFolder + "\\" + call.Rest();
+  call.Rest() += ".Bmp";
+  SkipOnFailure([&] { Picture1.SavePicture(context_.folders.ToWrite(call.Rest())); });
 }
 
 void Pictures::LoadPicture(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, "LOADPICTURE")) return;
   // The folder goes before NONE too, so NONE clears nothing: it is a file name like any other.
-  if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
-  for (const char* ending : EndingsTried) SkipOnFailure([&] { ShowPicture(call.Rest + ending); });
+  if (!Folders::HasFolder(call.Rest())) call.Rest() = context_.folders.AppFolder + "\\" + call.Rest();
+  for (const char* ending : EndingsTried) SkipOnFailure([&] { ShowPicture(call.Rest() + ending); });
 }
 
 void Pictures::SlideShow(PrimitiveCall& call) {
   std::string base;
   std::string interval;
-  SkipOnFailure([&] { base = GiveWord(call.Rest, 1); });
-  SkipOnFailure([&] { interval = GiveWord(call.Rest, 2); });
+  SkipOnFailure([&] { base = GiveWord(call.Rest(), 1); });
+  SkipOnFailure([&] { interval = GiveWord(call.Rest(), 2); });
   if (base.empty() || interval.empty()) return;
   context_.controls.Timer3.Enabled = true;
   // The only place that does not use a backslash.

@@ -60,9 +60,9 @@ void ProgramFiles::Bind() {
 
 void ProgramFiles::Load(PrimitiveCall& call) {
   if (context_.interpreter.dispatch.TellMissingInput(call, "LOAD")) return;
-  CurrentFileName = Trimmed(call.Rest);
-  if (!Folders::HasFolder(call.Rest)) call.Rest = context_.folders.AppFolder + "\\" + call.Rest;
-  FileLoad(call.Rest);
+  CurrentFileName = Trimmed(call.Rest());
+  if (!Folders::HasFolder(call.Rest())) call.Rest() = context_.folders.AppFolder + "\\" + call.Rest();
+  FileLoad(call.Rest());
   // Even if the file could not be loaded.
   SkipOnFailure([&] { context_.interpreter.variables.CreateGlobalVariable(); });
   SkipOnFailure([&] { context_.interpreter.lowering.RemoveAllRepeats(); });

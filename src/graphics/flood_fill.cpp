@@ -15,7 +15,7 @@ void FloodFills::Bind() {
 void FloodFills::FillFromTurtle(PrimitiveCall& call, FillProcedure procedure) {
   const Turtle& turtle = context_.turtle;
   context_.Picture1.SetScaleMode(Scale::Pixels);  // Never fails.
-  const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest, 1));
+  const std::int32_t color = LongNumber(context_.arguments.WordNumber(call.Rest(), 1));
   // Beyond 16 bits the call does not happen, and the surface goes on counting in pixels until the next fill.
   SkipOnFailure([&] {
     (this->*procedure)(ToInt16(turtle.TurtleX / UnitsPerPixel), ToInt16(turtle.TurtleY / UnitsPerPixel), color);

@@ -129,9 +129,9 @@ bool Motion::AdmitsSetY(double y) const noexcept {
 
 void Motion::SetXY(PrimitiveCall& call) {
   Turtle& turtle = context_.turtle;
-  const double dx = StepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 1));
+  const double dx = StepsToUnits(turtle, context_.arguments.WordNumber(call.Rest(), 1));
   // The vertical input has whole steps only.
-  const std::int16_t dy = WholeStepsToUnits(turtle, context_.arguments.WordNumber(call.Rest, 2));
+  const std::int16_t dy = WholeStepsToUnits(turtle, context_.arguments.WordNumber(call.Rest(), 2));
   const double centreX = context_.Picture1.Width / 2.0;
   const double centreY = context_.controls.Form1.Height() / 2.0;
   double targetX = 0;

@@ -193,7 +193,7 @@ void Shapes::FillStyle(PrimitiveCall& call) {
 }
 
 double Shapes::Word(PrimitiveCall& call, int nthWord) const {
-  return context_.arguments.WordNumber(call.Rest, nthWord);
+  return context_.arguments.WordNumber(call.Rest(), nthWord);
 }
 
 double Shapes::Units(PrimitiveCall& call, int nthWord) const {

@@ -22,8 +22,8 @@ void SurfaceText::TextSize(PrimitiveCall& call) {
 
 void SurfaceText::Write(PrimitiveCall& call) {
   BeginAtTurtle();
-  if (IsQuoted(call.Rest)) {
-    SkipOnFailure([&] { context_.Picture1.Print(WithoutEnds(call.Rest)); });
+  if (IsQuoted(call.Input)) {
+    SkipOnFailure([&] { context_.Picture1.Print(WithoutEnds(call.Input)); });
   } else {
     const double number = context_.arguments.Number(call);
     context_.Picture1.Print(Str(number));
@@ -34,7 +34,7 @@ void SurfaceText::WriteRGB(PrimitiveCall& call) {
   Surface& surface = context_.Picture1;
   BeginAtTurtle();
   std::string whole;
-  SkipOnFailure([&] { whole = WithoutEnds(call.Rest); });
+  SkipOnFailure([&] { whole = WithoutEnds(call.Input); });
   // The last comma counts, so that the text may contain commas.
   const int comma = LastPositionOf(whole, ',');
   std::string parameters(From(whole, comma + 1));  // Never fails.

@@ -7,9 +7,7 @@
 
 namespace zerimo {
 
-double Arguments::Number(const EvaluatedText& input) const {
-  if (const double known = variables_.Known().Value(input); IsNumber(known)) return known;
-  std::string text = input.Text();
+double Arguments::NumberOfText(std::string text) const {
   ReplaceNames(text);
   return Evaluate(std::move(text));
 }

@@ -23,7 +23,7 @@ class Arguments {
 
   /// The same for the whole input of a call, whatever the action has made of it.
   double Number(const PrimitiveCall& call) const {
-    return call.Input != nullptr ? Number(*call.Input) : Number(call.Rest);
+    return call.Kept != nullptr ? Number(*call.Kept) : Number(call.Input);
   }
 
   /// The value of the n-th word of the caller's text, which `GiveWord` changes.
@@ -36,7 +36,11 @@ class Arguments {
   double Evaluate(std::string text) const;
 
  private:
-  double Number(const EvaluatedText& input) const;
+  double Number(const EvaluatedText& input) const {
+    const double known = variables_.Known().Value(input);
+    return IsNumber(known) ? known : NumberOfText(input.Text());
+  }
+  double NumberOfText(std::string text) const;
 
   const Variables& variables_;
   const Arithmetic& arithmetic_;

@@ -19,20 +19,11 @@ std::int16_t Conditionals::Ifprocessor(int lineNumber) {
   return static_cast<std::int16_t>(next);
 }
 
-bool Conditionals::Holds(int lineNumber) const {
-  const EvaluatedText& text = store_.FormOf(lineNumber).Condition;
-  if (const auto holds = variables_.KnownToHold(text)) return *holds;
-  std::string condition = text.Text();
+[[gnu::noinline]] bool Conditionals::HoldsAsText(std::string condition) const {
   condition = variables_.ReplaceXcorAndYcor(condition);
   condition = variables_.VarValReplacer(condition);
   condition = variables_.GlobalVariableReplacer(condition);
   return RelationEvaluator(condition, arithmetic_);
-}
-
-Conditionals::Branches Conditionals::BranchesOf(int lineNumber) {
-  return branches_[static_cast<std::size_t>(lineNumber)].Get(store_.Changes(), [&] {
-    return Branches{FindElse(lineNumber), FindEndIf(lineNumber)};
-  });
 }
 
 int Conditionals::FindElse(int lineNumber) const {
@@ -69,11 +60,6 @@ int Conditionals::FindEndIf(int lineNumber) const {
     if (open == close) return number;
   }
   return 0;
-}
-
-std::int16_t Conditionals::LabelOf(int lineNumber) {
-  return labels_[static_cast<std::size_t>(lineNumber)].Get(
-      store_.Changes(), [&] { return LabelPos(NameOfLabel(store_.Line(lineNumber))); });
 }
 
 std::int16_t Conditionals::LabelPos(std::string_view labelName) const {

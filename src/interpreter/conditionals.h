@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,7 +31,10 @@ class Conditionals {
   std::int16_t LabelPos(std::string_view labelName) const;
 
   /// The same for the label of the `GOTO` on a line.
-  std::int16_t LabelOf(int lineNumber);
+  std::int16_t LabelOf(int lineNumber) {
+    return labels_[static_cast<std::size_t>(lineNumber)].Get(
+        store_.Changes(), [&] { return LabelPos(NameOfLabel(store_.Line(lineNumber))); });
+  }
 
  private:
   struct Branches {
@@ -38,8 +42,17 @@ class Conditionals {
     int EndIfLine;
   };
 
-  bool Holds(int lineNumber) const;
-  Branches BranchesOf(int lineNumber);
+  bool Holds(int lineNumber) const {
+    const EvaluatedText& condition = store_.FormOf(lineNumber).Condition;
+    const auto holds = variables_.KnownToHold(condition);
+    return holds ? *holds : HoldsAsText(condition.Text());
+  }
+  bool HoldsAsText(std::string condition) const;
+  Branches BranchesOf(int lineNumber) {
+    return branches_[static_cast<std::size_t>(lineNumber)].Get(store_.Changes(), [&] {
+      return Branches{FindElse(lineNumber), FindEndIf(lineNumber)};
+    });
+  }
   /// The line of the `ELSE` that counts as this `IF`'s, or 0.
   int FindElse(int lineNumber) const;
   /// The line of the `ENDIF` of this `IF`, or 0.

@@ -12,10 +12,6 @@ namespace {
 
 constexpr std::int16_t MostCounted = 32767;
 
-PrimitiveCall MakeCall(std::string_view word, std::string_view rest, const EvaluatedText* input) {
-  return {word, std::string(rest), rest.empty() || rest == " ", input, {}};
-}
-
 }  // namespace
 
 void Dispatch::Bind(Action action, Handler handler) noexcept { handlers_[action.Number] = std::move(handler); }
@@ -23,12 +19,12 @@ void Dispatch::Bind(Action action, Handler handler) noexcept { handlers_[action.
 void Dispatch::Executor(std::string& commandLine) {
   Trim(commandLine);
   const PrimitiveWords words(commandLine);
-  PrimitiveCall call = MakeCall(words.Word, words.Input, nullptr);
+  PrimitiveCall call(words.Word, words.Input);
   CarryOut(call, ActionOf(commandLine));
 }
 
 void Dispatch::Execute(const LineForm& line) {
-  PrimitiveCall call = MakeCall(line.Word, line.Input.Text(), &line.Input);
+  PrimitiveCall call(line.Word, line.Input.Text(), &line.Input);
   CarryOut(call, line.Primitive);
 }
 
@@ -76,12 +72,12 @@ void Dispatch::Tail(const PrimitiveCall& call) {
 }
 
 void Dispatch::CountFails(const PrimitiveCall& call) {
-  if (call.OnFailure) call.OnFailure();  // Never fails.
+  if (call.OnFailure != nullptr) (*call.OnFailure)();  // Never fails.
 }
 
 bool Dispatch::TailStatement(const PrimitiveCall& call, const std::function<void()>& statement) {
-  if (SkipOnFailure(statement) || !call.OnFailure) return true;
-  call.OnFailure();  // Never fails.
+  if (SkipOnFailure(statement) || call.OnFailure == nullptr) return true;
+  (*call.OnFailure)();  // Never fails.
   return false;
 }
 

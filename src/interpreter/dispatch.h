@@ -39,7 +39,7 @@ class Dispatch {
 
   /// If the input is missing, shows the box that says so. Returns whether it was missing.
   bool TellMissingInput(const PrimitiveCall& call, Action action) {
-    return call.InputIsMissing && TellMissing(call, action);
+    return call.InputIsMissing() && TellMissing(call, action);
   }
 
   /// The steps of the tail that other rooms provide: move the figure, write the status line, refresh the surface.

@@ -44,54 +44,63 @@ double Perform(char op, double left, double right) {
   return std::abs(result) < ReadableBelow ? ThroughText(result) : NoNumber;
 }
 
-/// Works out one side of a condition, or an expression.
+double Signed(const Formula::Term& term, double value, bool followsSign) noexcept {
+  if (term.Sign == '+') return value;
+  // A minus sign that is pasted after this one replaces it.
+  return -(followsSign ? std::abs(value) : value);
+}
+
+double OfPlain(const Formula::Term& term, bool followsSign) noexcept {
+  return IsNumber(term.Known) ? term.Known : Signed(term, *term.Place, followsSign);
+}
+
+/// The sum of the terms, each given with its sign by a function that is also told whether it follows a sign.
+template <typename ValueOf>
+double Total(const Formula::Sum& sum, const ValueOf& valueOf) {
+  double total = 0;
+  bool followsSign = false;
+  for (const Formula::Term& term : sum) {
+    total += valueOf(term, followsSign);
+    followsSign = true;
+  }
+  return std::isfinite(total) ? total : NoNumber;
+}
+
+/// Works out one side of a condition, or an expression, with terms that are not plain.
 class Evaluation {
  public:
   explicit Evaluation(const Operands& operands) : operands_(operands) {}
 
   double Of(const Formula::Side& side) {
-    if (IsNumber(side.Known)) return side.Known;
-    return side.Sums.size() == 1 ? Of(side.Sums.front()) : OfBracketed(side);
+    Numbers values;
+    brackets_ = &values;
+    for (std::size_t number = 0; number < side.Brackets.size(); ++number) {
+      // A bracket's value is pasted as text.
+      const double value = Of(side.Brackets[number]);
+      if (!IsNumber(value)) return NoNumber;
+      values[number] = ThroughText(value);
+      if (!IsPlain(values[number])) return NoNumber;
+    }
+    return Of(side.Whole);
   }
 
  private:
   using Numbers = std::array<double, Formula::MostFactors>;
 
-  // A function of its own, like `OfProduct`: without brackets and products there is no array to set up and to guard.
-  [[gnu::noinline]] double OfBracketed(const Formula::Side& side) {
-    Numbers values;
-    brackets_ = &values;
-    for (std::size_t number = 0; number + 1 < side.Sums.size(); ++number) {
-      // A bracket's value is pasted as text.
-      const double value = Of(side.Sums[number]);
-      if (!IsNumber(value)) return NoNumber;
-      values[number] = ThroughText(value);
-      if (!IsPlain(values[number])) return NoNumber;
-    }
-    return Of(side.Sums.back());
+  double Of(const Formula::Sum& sum) const {
+    return Total(sum, [this](const Formula::Term& term, bool followsSign) {
+      return term.IsPlain() ? OfPlain(term, followsSign) : Of(term, followsSign);
+    });
   }
 
-  /// With its sign.
   double Of(const Formula::Term& term, bool followsSign) const {
-    if (IsNumber(term.Known)) return term.Known;
     if (term.Factors.size() > 1) return OfProduct(term, followsSign);
     const double value = NumberOf(term.Factors.front());
     if (HasVanished(term.Factors.front(), value)) return term.MayVanish ? 0 : NoNumber;
-    const double size = followsSign ? std::abs(value) : value;
-    return Subtracts(term, value, followsSign) ? -size : size;
+    return Signed(term, value, followsSign);
   }
 
-  double Of(const Formula::Sum& sum) const {
-    double total = 0;
-    bool followsSign = false;
-    for (const Formula::Term& term : sum) {
-      total += Of(term, followsSign);
-      followsSign = true;
-    }
-    return std::isfinite(total) ? total : NoNumber;
-  }
-
-  [[gnu::noinline]] double OfProduct(const Formula::Term& term, bool followsSign) const {
+  double OfProduct(const Formula::Term& term, bool followsSign) const {
     Numbers factors;
     if (!ReadFactors(term, factors)) return NoNumber;
     const bool subtracts = Subtracts(term, factors[0], followsSign);
@@ -139,6 +148,16 @@ class Evaluation {
   const Numbers* brackets_ = nullptr;
 };
 
+[[gnu::noinline]] double ValueOfOther(const Formula::Side& side, const Operands& operands) {
+  return Evaluation(operands).Of(side);
+}
+
+/// Most sides are sums of plain terms: they need no more than a loop, and no room for anything else.
+double ValueOf(const Formula::Side& side, const Operands& operands) {
+  if (IsNumber(side.Known)) return side.Known;
+  return side.IsPlain ? Total(side.Whole, OfPlain) : ValueOfOther(side, operands);
+}
+
 bool IsConstant(const Formula::Term& term) {
   return std::ranges::none_of(term.Factors, [](const Operand& operand) { return operand.IsPasted(); });
 }
@@ -149,46 +168,52 @@ bool IsNumbersOnly(const Formula::Term& term) {
                              [](const Operand& operand) { return operand.What == Operand::Kind::Constant; });
 }
 
-bool IsConstant(const Formula::Side& side) {
-  return !side.Sums.empty() && std::ranges::all_of(side.Sums, [](const Formula::Sum& sum) {
-    return std::ranges::all_of(sum, [](const Formula::Term& term) { return IsConstant(term); });
-  });
+bool IsConstant(const Formula::Sum& sum) {
+  return std::ranges::all_of(sum, [](const Formula::Term& term) { return IsConstant(term); });
 }
 
-}  // namespace
+bool IsConstant(const Formula::Side& side) {
+  return !side.Whole.empty() && IsConstant(side.Whole) &&
+         std::ranges::all_of(side.Brackets, [](const Formula::Sum& sum) { return IsConstant(sum); });
+}
 
-void Formula::WorkOutConstants(const Operands& operands) {
-  for (Side* const side : {&Left, &Right}) {
-    for (Sum& sum : side->Sums) {
-      // The sign after a first term that has vanished would stick to the next number and not to the next term.
-      if (sum.size() > 1 && sum[1].Factors.size() > 1) sum[0].MayVanish = false;
-    }
-    if (IsConstant(*side)) side->Known = Evaluation(operands).Of(*side);
-    for (Sum& sum : side->Sums) {
-      for (Term& term : sum) {
-        if (IsNumbersOnly(term)) term.Known = Evaluation(operands).Of(Side{{{term}}, NoNumber});
-      }
+void PrepareSum(Formula::Sum& sum, const Operands& operands) {
+  // The sign after a first term that has vanished would stick to the next number and not to the next term.
+  if (sum.size() > 1 && sum[1].Factors.size() > 1) sum[0].MayVanish = false;
+  for (Formula::Term& term : sum) {
+    if (IsNumbersOnly(term)) {
+      term.Known = ValueOf(Formula::Side{{term}, {}}, operands);
+    } else if (term.Factors.size() == 1 && term.MayVanish) {
+      term.Place = operands.PlaceOf(term.Factors.front());
     }
   }
 }
 
-double Formula::Value(const Operands& operands) const {
-  return Compare == nullptr ? Evaluation(operands).Of(Left) : NoNumber;
+}  // namespace
+
+void Formula::Prepare(const Operands& operands) {
+  for (Side* const side : {&Left, &Right}) {
+    for (Sum& sum : side->Brackets) PrepareSum(sum, operands);
+    PrepareSum(side->Whole, operands);
+    if (IsConstant(*side)) side->Known = ValueOf(*side, operands);
+    side->IsPlain = side->Brackets.empty() && std::ranges::all_of(side->Whole, &Term::IsPlain);
+  }
 }
 
+double Formula::Value(const Operands& operands) const { return Compare ? NoNumber : ValueOf(Left, operands); }
+
 std::optional<bool> Formula::Holds(const Operands& operands) const {
-  const double left = Evaluation(operands).Of(Left);
+  const double left = ValueOf(Left, operands);
   if (!IsNumber(left)) return std::nullopt;
-  if (Compare == nullptr) return left != 0;
-  const double right = Evaluation(operands).Of(Right);
+  if (!Compare) return left != 0;
+  const double right = ValueOf(Right, operands);
   if (!IsNumber(right)) return std::nullopt;
-  return Compare(left, right);
+  return zerimo::Holds(*Compare, left, right);
 }
 
 const Operand* Formula::OnlyOperand() const noexcept {
-  const bool isOne =
-      Compare == nullptr && Left.Sums.size() == 1 && Left.Sums[0].size() == 1 && Left.Sums[0][0].Factors.size() == 1;
-  return isOne ? &Left.Sums[0][0].Factors[0] : nullptr;
+  const bool isOne = !Compare && Left.Brackets.empty() && Left.Whole.size() == 1 && Left.Whole[0].Factors.size() == 1;
+  return isOne ? &Left.Whole[0].Factors[0] : nullptr;
 }
 
 }  // namespace zerimo

@@ -58,27 +58,34 @@ class Formula {
     bool MayVanish = true;
     /// Its value with its sign, if that can be worked out once and for all.
     double Known = NoNumber;
+    /// Where the value of its only factor is kept, if that is a name and may vanish; otherwise null.
+    const double* Place = nullptr;
+
+    bool IsPlain() const noexcept { return IsNumber(Known) || Place != nullptr; }
   };
   using Sum = std::vector<Term>;
-  /// One side of a condition, or all of an expression: the contents of its brackets, innermost first, then the whole.
+  /// One side of a condition, or all of an expression: the whole, and the contents of its brackets, innermost first.
   struct Side {
-    std::vector<Sum> Sums;
+    Sum Whole;
+    std::vector<Sum> Brackets;
     /// Its value, if that can be worked out once and for all.
     double Known = NoNumber;
+    /// Whether it is a sum of plain terms.
+    bool IsPlain = false;
   };
 
   Side Left;
-  /// How the sides are compared; null if there is only one.
-  Comparison Compare = nullptr;
+  /// How the sides are compared; nothing if there is only one.
+  std::optional<Comparison> Compare;
   Side Right;
 
-  /// Works out once and for all the terms and sides that hold no names.
-  void WorkOutConstants(const Operands& operands);
+  /// Works out once and for all the terms and sides that hold no names, and where the values of the others are kept.
+  void Prepare(const Operands& operands);
 
   /// The value of an expression, or no number.
   double Value(const Operands& operands) const;
 
-  /// Whether a condition holds.
+  /// Whether a condition holds; nothing if a side has no value.
   std::optional<bool> Holds(const Operands& operands) const;
 
   /// The operand if the expression is nothing else, otherwise null.

@@ -105,7 +105,7 @@ class SideReader {
   SideReader(const MarkedText& marked, std::string_view text) : marked_(marked), rest_(text) {}
 
   std::optional<Formula::Side> Read() {
-    if (!ReadSum() || !rest_.empty()) return std::nullopt;
+    if (!ReadSum(side_.Whole) || !rest_.empty()) return std::nullopt;
     return std::move(side_);
   }
 
@@ -119,8 +119,7 @@ class SideReader {
     return character;
   }
 
-  bool ReadSum() {
-    Formula::Sum sum;
+  bool ReadSum(Formula::Sum& sum) {
     if (NextIs("+-")) sum.push_back({'+', {Operand{}}, {}});
     do {
       Formula::Term term;
@@ -128,8 +127,7 @@ class SideReader {
       if (!ReadTerm(term)) return false;
       sum.push_back(std::move(term));
     } while (NextIs("+-"));
-    side_.Sums.push_back(std::move(sum));
-    return side_.Sums.size() < Formula::MostFactors;
+    return true;
   }
 
   bool ReadTerm(Formula::Term& term) {
@@ -155,9 +153,11 @@ class SideReader {
 
   bool ReadBrackets(Formula::Term& term) {
     Take();
-    if (!ReadSum() || rest_.empty() || Take() != ')') return false;
-    term.Factors.push_back({Kind::Bracket, 0, static_cast<int>(side_.Sums.size()) - 1});
-    return true;
+    Formula::Sum sum;
+    if (!ReadSum(sum) || rest_.empty() || Take() != ')') return false;
+    term.Factors.push_back({Kind::Bracket, 0, static_cast<int>(side_.Brackets.size())});
+    side_.Brackets.push_back(std::move(sum));
+    return side_.Brackets.size() < Formula::MostFactors;
   }
 
   bool ReadNumber(Formula::Term& term) {
@@ -201,7 +201,7 @@ std::optional<Formula> ReadFormula(std::string_view text, const NamesInUse& name
   const std::string_view comparison = ComparisonAt(whole.substr(at));
   auto left = SideReader(marked, whole.substr(0, at)).Read();
   if (!left) return std::nullopt;
-  if (comparison.empty()) return Formula{std::move(*left), nullptr, {}};
+  if (comparison.empty()) return Formula{std::move(*left), std::nullopt, {}};
   auto right = SideReader(marked, whole.substr(at + comparison.size())).Read();
   if (!right) return std::nullopt;
   return Formula{std::move(*left), ComparisonOf(comparison), std::move(*right)};

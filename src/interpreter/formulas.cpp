@@ -8,30 +8,11 @@
 
 namespace zerimo {
 
-double Formulas::Value(const EvaluatedText& expression) const {
-  const Formula* const formula = Of(expression);
-  return formula == nullptr ? NoNumber : formula->Value(operands_);
-}
-
-std::optional<bool> Formulas::Holds(const EvaluatedText& condition) const {
-  const Formula* const formula = Of(condition);
-  return formula == nullptr ? std::nullopt : formula->Holds(operands_);
-}
-
-const Formula* Formulas::Of(const EvaluatedText& text) const {
-  for (const EvaluatedText::Reading& reading : text.readings_) {
-    if (reading.Names == variables_.Names() && reading.Procedure == controlPath_.ProcedureNumber()) {
-      return reading.Form ? &*reading.Form : nullptr;
-    }
-  }
-  return Read(text);
-}
-
-const Formula* Formulas::Read(const EvaluatedText& text) const {
+[[gnu::noinline]] const Formula* Formulas::Read(const EvaluatedText& text) const {
   constexpr std::size_t mostReadings = 4;
-  EvaluatedText::Reading reading{variables_.Names(), controlPath_.ProcedureNumber(), std::nullopt};
+  EvaluatedText::Reading reading{names_.Now(), controlPath_.ProcedureNumber(), std::nullopt};
   if (const auto inUse = variables_.InUse()) reading.Form = ReadFormula(text.Text(), *inUse);
-  if (reading.Form) reading.Form->WorkOutConstants(operands_);
+  if (reading.Form) reading.Form->Prepare(operands_);
   std::vector<EvaluatedText::Reading>& readings = text.readings_;
   const std::size_t place = text.oldest_++ % mostReadings;
   if (place < readings.size()) {

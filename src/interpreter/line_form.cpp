@@ -19,7 +19,7 @@ std::string_view AfterFirstBlank(std::string_view line) noexcept {
 
 }  // namespace
 
-LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)) {
+LineForm::LineForm(std::string_view line) : Class(WhatIsThis(line)), IsTrimmed(Trimmed(line).size() == line.size()) {
   switch (Class) {
     case StmtPrimitive: {
       const PrimitiveWords words(Trimmed(line));

@@ -39,6 +39,8 @@ struct LineForm {
   explicit LineForm(std::string_view line);
 
   StatementClass Class;
+  /// Whether no blank is at either end.
+  bool IsTrimmed;
   /// Of a primitive: its action, or `Action::None`.
   Action Primitive = Action::None;
   /// Of a primitive: its word, and everything after it.

@@ -19,9 +19,15 @@ class Operands {
   /// The value of a local, a global or a coordinate, if its text is nothing but digits, a point and a minus sign;
   /// otherwise no number.
   double NumberOf(const Operand& operand) const {
-    if (operand.What == Operand::Kind::Local) return slotTable_.FormOf(operand.Index).Number;
-    if (operand.What == Operand::Kind::Global) return slotTable_.FormOf(operand.Index).Pasted;
-    return Coordinate(operand.What);
+    const double* const place = PlaceOf(operand);
+    return place != nullptr ? *place : Coordinate(operand.What);
+  }
+
+  /// Where the value of a local or a global is kept, for as long as the slots exist; otherwise null.
+  const double* PlaceOf(const Operand& operand) const noexcept {
+    if (operand.What == Operand::Kind::Local) return &slotTable_.FormOf(operand.Index).Number;
+    if (operand.What == Operand::Kind::Global) return &slotTable_.FormOf(operand.Index).Pasted;
+    return nullptr;
   }
 
   /// The turtle's place in steps from the middle, rounded to one decimal. Fail (division by zero, overflow) if a step
@@ -34,7 +40,7 @@ class Operands {
     // Far inside the range of numbers, so that no quotient leaves it.
     constexpr double largest = 1E100;
     const double resolution = std::abs(turtle_.Resolution);
-    return std::abs(turtle_.TurtleX) < largest && std::abs(turtle_.TurtleY) < largest && resolution > 1 / largest &&
+    return std::abs(turtle_.TurtleX) + std::abs(turtle_.TurtleY) < largest && resolution > 1 / largest &&
            resolution < largest;
   }
 

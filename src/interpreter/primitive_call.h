@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,18 +11,31 @@ namespace zerimo {
 
 /// The locals of one call of `Executor` that the actions share.
 /// Behaviour: docs/interpreter.md, "Executor".
-struct PrimitiveCall {
-  /// The first word. Valid as long as the line.
+class PrimitiveCall {
+ public:
+  PrimitiveCall(std::string_view word, std::string_view input, const EvaluatedText* kept = nullptr) noexcept
+      : Word(word), Input(input), Kept(kept) {}
+
+  /// The first word, and the text after it. Valid as long as the line.
   std::string_view Word;
-  /// The text after the first word; an action may rewrite it.
-  std::string Rest;
-  /// Whether that was the empty text or one blank.
-  bool InputIsMissing = false;
-  /// The same text as a line of the store keeps it, or null if the line is none of the store's. Valid until that line
+  std::string_view Input;
+  /// The input as a line of the store keeps it, or null if the line is none of the store's. Valid until that line
   /// changes.
-  const EvaluatedText* Input = nullptr;
-  /// If an action sets it, a failing statement of the tail calls it instead of being skipped. It never fails itself.
-  std::function<void()> OnFailure;
+  const EvaluatedText* Kept;
+  /// If an action sets it, a failing statement of the tail calls it instead of being skipped. It never fails itself,
+  /// and outlives the call.
+  const std::function<void()>* OnFailure = nullptr;
+
+  bool InputIsMissing() const noexcept { return Input.empty() || Input == " "; }
+
+  /// A copy of the input, which an action may rewrite. It is made when it is first asked for: before the line changes.
+  std::string& Rest() {
+    if (!rest_) rest_.emplace(Input);
+    return *rest_;
+  }
+
+ private:
+  std::optional<std::string> rest_;
 };
 
 }  // namespace zerimo

@@ -23,14 +23,13 @@ int CountComparisons(std::string_view expression) noexcept {
 }  // namespace
 
 Comparison ComparisonOf(std::string_view text) noexcept {
-  if (text == "<") return [](double left, double right) { return left < right; };
-  if (text == ">") return [](double left, double right) { return left > right; };
-  if (text == "<=") return [](double left, double right) { return left <= right; };
-  if (text == ">=") return [](double left, double right) { return left >= right; };
-  if (text == "!" || text == "!=") return [](double left, double right) { return left != right; };
-  if (text == "=") return [](double left, double right) { return left == right; };
-  // Only "==" is left, which is no operator.
-  return [](double, double) { return false; };
+  if (text == "<") return Comparison::Less;
+  if (text == ">") return Comparison::Greater;
+  if (text == "<=") return Comparison::AtMost;
+  if (text == ">=") return Comparison::AtLeast;
+  if (text == "!" || text == "!=") return Comparison::Unequal;
+  if (text == "=") return Comparison::Equal;
+  return Comparison::Never;
 }
 
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic) {
@@ -45,7 +44,7 @@ bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic) {
                                   : Mid(expression, position + 1, length - position));
   const double leftValue = arithmetic.ArithmeticEvaluator(left);
   const double rightValue = arithmetic.ArithmeticEvaluator(right);
-  return ComparisonOf(op)(leftValue, rightValue);
+  return Holds(ComparisonOf(op), leftValue, rightValue);
 }
 
 }  // namespace zerimo

@@ -12,10 +12,30 @@ namespace zerimo {
 /// is true, and the caller's text comes back with its brackets replaced. Fails as its sides do.
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic);
 
-/// Whether two numbers compare in some way ("<", ">", "<=", ">=", "!", "!=", "=").
-using Comparison = bool (*)(double left, double right);
+/// What an operator asks of two numbers. `Never` is what "==" asks, which is no operator.
+enum class Comparison { Less, Greater, AtMost, AtLeast, Unequal, Equal, Never };
 
-/// The comparison that an operator makes. That of anything else, also of "==", is never true.
+/// The comparison that an operator makes ("<", ">", "<=", ">=", "!", "!=", "="); `Never` for anything else.
 Comparison ComparisonOf(std::string_view text) noexcept;
+
+inline bool Holds(Comparison comparison, double left, double right) noexcept {
+  switch (comparison) {
+    case Comparison::Less:
+      return left < right;
+    case Comparison::Greater:
+      return left > right;
+    case Comparison::AtMost:
+      return left <= right;
+    case Comparison::AtLeast:
+      return left >= right;
+    case Comparison::Unequal:
+      return left != right;
+    case Comparison::Equal:
+      return left == right;
+    case Comparison::Never:
+      return false;
+  }
+  return false;
+}
 
 }  // namespace zerimo

@@ -64,8 +64,7 @@ void Runner::Run1(std::string_view procedure) {
   context_.controlPath.SetCtrlStr(context_.controlPath.CtrlStr() + std::string(procedure) + "-" + Str(walk.Line));
   shown.Follow();
   try {
-    // A walk past the end of the store has nothing left to run.
-    while (!context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount) Act(walk);
+    while (GoesOn(walk)) RunStretch(walk);
   } catch (const StopRun&) {
     // An endless recursion has filled all slots, and with none free the next line would hang.
     context_.variables.RemoveLocals(ProceduresOn(context_.controlPath.CtrlStr()));
@@ -74,9 +73,12 @@ void Runner::Run1(std::string_view procedure) {
   lineNow_ = 0;
 }
 
-// Must stay a function of its own: an engine of WebAssembly can't replace a function while it runs, so a loop that
-// contained the whole act would run a whole program in its first, hasty compilation.
-[[gnu::noinline]] void Runner::Act(Walk& walk) {
+bool Runner::GoesOn(const Walk& walk) const {
+  // A walk past the end of the store has nothing left to run.
+  return !context_.controlPath.NothingRuns() && !walk.Over && walk.Line <= Store::LineCount;
+}
+
+[[gnu::always_inline]] inline void Runner::Act(Walk& walk) {
   lineNow_ = walk.Line;
   context_.watch.Step();
   SkipOnFailure([&] { walk.Class = context_.store.ClassOf(walk.Line); });
@@ -128,7 +130,14 @@ void Runner::Run1(std::string_view procedure) {
   if (!walk.Over) context_.controlPath.Tidy();
 }
 
-void Runner::Advance(Walk& walk) { context_.controlPath.WriteLine(++walk.Line, Lead::Blank); }
+// Must stay a function of its own, and return now and then: an engine of WebAssembly can't replace a function while it
+// runs, so a loop over all lines would run a whole program in its first, hasty compilation.
+[[gnu::noinline]] void Runner::RunStretch(Walk& walk) {
+  constexpr int linesOfStretch = 100;
+  for (int line = 0; line < linesOfStretch && GoesOn(walk); ++line) Act(walk);
+}
+
+inline void Runner::Advance(Walk& walk) { context_.controlPath.WriteLine(++walk.Line, Lead::Blank); }
 
 void Runner::ActOnCall(Walk& walk) {
   SkipOnFailure([&] { walk.Name = context_.store.TakeFirstWord(walk.Line); });
@@ -157,7 +166,7 @@ void Runner::ActOnEnd(Walk& walk) {
   SkipOnFailure([&] { inputs_.DeleteLocalVariable(context_.controlPath.CurProcName); });
 }
 
-void Runner::ActOnGoto(Walk& walk) {
+inline void Runner::ActOnGoto(Walk& walk) {
   const int jump = walk.Line;
   SkipOnFailure([&] { walk.Line = conditionals_.LabelOf(jump); });
   if (walk.Line == 0) return TellUndeclaredLabel(walk, jump);
@@ -171,7 +180,7 @@ void Runner::TellUndeclaredLabel(Walk& walk, int jump) {
   walk.Over = true;
 }
 
-void Runner::ActOnLabel(Walk& walk) {
+inline void Runner::ActOnLabel(Walk& walk) {
   // From the text and not from the counter: after an ENDIF the text is one ahead, and a line is skipped.
   SkipOnFailure([&] { walk.Line = context_.controlPath.LineReached() + 1; });
   context_.controlPath.WriteLine(walk.Line, Lead::None);

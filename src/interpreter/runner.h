@@ -35,6 +35,8 @@ class Runner {
     bool Over = false;
   };
 
+  bool GoesOn(const Walk& walk) const;
+  void RunStretch(Walk& walk);
   void Act(Walk& walk);
   void Advance(Walk& walk);
   void ActOnCall(Walk& walk);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,17 +18,22 @@ class SinceChange {
   /// The value kept for that count, or the one that `make` gives; if `make` fails, nothing is kept.
   template <typename Make>
   Value& Get(std::uint64_t changes, Make&& make) {
-    if (!value_ || changes != changes_) {
-      value_.reset();
-      value_ = make();
-      changes_ = changes;
-    }
-    return *value_;
+    return changes == changes_ ? *value_ : Renew(changes, make);
   }
 
  private:
+  template <typename Make>
+  [[gnu::noinline]] Value& Renew(std::uint64_t changes, Make& make) {
+    changes_ = Never;
+    value_ = make();
+    changes_ = changes;
+    return *value_;
+  }
+
+  static constexpr std::uint64_t Never = std::numeric_limits<std::uint64_t>::max();
+
   std::optional<Value> value_;
-  std::uint64_t changes_ = 0;
+  std::uint64_t changes_ = Never;
 };
 
 struct TextHash {

@@ -54,15 +54,9 @@ void SlotTable::SetText(int number, std::string text) {
   slot.IsWritten = true;
 }
 
-void SlotTable::SetNumber(int number, double value) {
-  Slot& slot = At(number);
-  const double plain = PlainOrNone(value);
-  if (IsNumber(plain) && IsWhole(plain)) {
-    slot.Form.Number = slot.Form.Pasted = plain;
-    slot.IsWritten = false;
-  } else {
-    SetText(number, slot.Text.substr(0, slot.Form.KeyLength) + StrTrimmed(value));
-  }
+[[gnu::noinline]] void SlotTable::WriteNumber(int number, double value) {
+  const Slot& slot = At(number);
+  SetText(number, slot.Text.substr(0, slot.Form.KeyLength) + StrTrimmed(value));
 }
 
 std::string_view NamePart(std::string_view slot) noexcept {

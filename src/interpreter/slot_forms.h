@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/numbers.h"
 #include "interpreter/since_change.h"
 
 namespace zerimo {
@@ -48,8 +49,14 @@ class SlotTable {
   const std::string& Text(int number) const;
   /// Fails (subscript) outside 1 to 500.
   void SetText(int number, std::string text);
-  /// Replaces the value of a slot that has one.
-  void SetNumber(int number, double value);
+  /// Replaces the value of a slot that has one; for slots 1 to 500.
+  void SetNumber(int number, double value) {
+    const double plain = PlainOrNone(value);
+    if (!IsNumber(plain) || !IsWhole(plain)) return WriteNumber(number, value);
+    Slot& slot = slots_[static_cast<std::size_t>(number - 1)];
+    slot.Form.Number = slot.Form.Pasted = plain;
+    slot.IsWritten = false;
+  }
 
   /// For slots 1 to 500.
   const SlotForm& FormOf(int number) const noexcept { return slots_[static_cast<std::size_t>(number - 1)].Form; }
@@ -61,6 +68,7 @@ class SlotTable {
     bool IsWritten = true;
   };
   Slot& At(int number) const;
+  void WriteNumber(int number, double value);
 
   mutable std::array<Slot, SlotCount> slots_;
 };

@@ -51,8 +51,7 @@ class Store {
 
   /// Trims a line in place.
   void TrimLine(int number) {
-    const std::string& line = Line(number);
-    if (line.starts_with(' ') || line.ends_with(' ')) SetLine(number, std::string(Trimmed(line)));
+    if (!FormOf(number).IsTrimmed) SetLine(number, std::string(Trimmed(Line(number))));
   }
 
   /// The number of the first empty line; fails (subscript) if there is none.

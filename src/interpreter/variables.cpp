@@ -64,7 +64,7 @@ bool KeepsItsText(double number) {
 Variables::Variables(const ProgramContext& context)
     : context_(context),
       operands_(slotTable_, context.turtle, context.controls.Form1),
-      formulas_(*this, operands_, context.controlPath) {
+      formulas_(*this, names_, operands_, context.controlPath) {
   context_.controls.List2.Fill = [this] { return ListedSlots(); };
 }
 
@@ -182,45 +182,46 @@ void Variables::VariableUpdate(int lineNumber) {
 
 bool Variables::Make(int lineNumber) {
   const LineForm& make = context_.store.FormOf(lineNumber);
-  const double value = ValueOf(make);
-  const MakeSlots* const known = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make) : nullptr;
-  if (known != nullptr) {
+  const double known = KnownValue(make.Value);
+  const double value = IsNumber(known) ? known : ValueAsText(make.Value.Text());
+  const MakeSlots* const slots = freeSlots_ != 0 && KeepsItsText(value) ? SlotsOf(lineNumber, make.Name) : nullptr;
+  if (slots != nullptr) {
     // `List2` is made anew below: what it showed before need not be kept.
-    if (known->Local != 0) slotTable_.SetNumber(known->Local, value);
-    if (known->Global != 0) slotTable_.SetNumber(known->Global, value);
+    if (slots->Local != 0) slotTable_.SetNumber(slots->Local, value);
+    if (slots->Global != 0) slotTable_.SetNumber(slots->Global, value);
   } else {
-    const std::string result = StrTrimmed(value);
-    const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
-    if (const int slot = FindLocal(key); slot != 0) SetSlot(slot, key + result);
-    // A local's new value goes to the global of that name too.
-    if (const int slot = FindGlobal(make.Name); slot != 0) SetSlot(slot, make.Name + "=" + StrTrimmed(Val(result)));
+    SetByName(lineNumber, make.Name, value);
   }
   ListSlots();
   return freeSlots_ != 0 && CloseDeletedSlots();
 }
 
-double Variables::ValueOf(const LineForm& make) {
-  if (const double known = KnownValue(make.Value); IsNumber(known)) return known;
-  std::string value = make.Value.Text();
+[[gnu::noinline]] void Variables::SetByName(int lineNumber, const std::string& name, double value) {
+  const std::string result = StrTrimmed(value);
+  const std::string key = EnclosingProcedure(lineNumber) + "." + name + "=";
+  if (const int slot = FindLocal(key); slot != 0) SetSlot(slot, key + result);
+  // A local's new value goes to the global of that name too.
+  if (const int slot = FindGlobal(name); slot != 0) SetSlot(slot, name + "=" + StrTrimmed(Val(result)));
+}
+
+[[gnu::noinline]] double Variables::ValueAsText(std::string value) {
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);
   return context_.arithmetic.ArithmeticEvaluator(value);
 }
 
-/// The slots that a `MAKE` writes to, if it leaves the names as they are.
-const Variables::MakeSlots* Variables::SlotsOf(int lineNumber, const LineForm& make) {
+[[gnu::noinline]] const Variables::MakeSlots* Variables::FindSlots(int lineNumber, const std::string& name) {
   MakeSlots& slots = makes_[static_cast<std::size_t>(lineNumber)];
-  if (slots.Lines == context_.store.Changes() && slots.Names == Names()) return &slots;
   slots.Names = 0;
-  const std::string key = EnclosingProcedure(lineNumber) + "." + make.Name + "=";
+  const std::string key = EnclosingProcedure(lineNumber) + "." + name + "=";
   const int local = FindLocal(key);
-  const int global = FindGlobal(make.Name);
+  const int global = FindGlobal(name);
   // A name with a "=" of its own ends elsewhere than where the value is replaced.
-  const auto keeps = [this](int slot, std::string_view name) {
-    return slot == 0 || (NamePart(Slot(slot)) == name && slotTable_.FormOf(slot).KeyLength == name.size());
+  const auto keeps = [this](int slot, std::string_view start) {
+    return slot == 0 || (NamePart(Slot(slot)) == start && slotTable_.FormOf(slot).KeyLength == start.size());
   };
-  if (!keeps(local, key) || !keeps(global, make.Name + "=")) return nullptr;
+  if (!keeps(local, key) || !keeps(global, name + "=")) return nullptr;
   slots = {context_.store.Changes(), Names(), local, global};
   return &slots;
 }

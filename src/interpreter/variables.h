@@ -115,10 +115,16 @@ class Variables {
     std::vector<int> Slots;
   };
 
-  double ValueOf(const LineForm& make);
+  double ValueAsText(std::string value);
   std::string EnclosingProcedure(int lineNumber) const;
-  /// Null if the names would change.
-  const MakeSlots* SlotsOf(int lineNumber, const LineForm& make);
+  void SetByName(int lineNumber, const std::string& name, double value);
+  /// The slots that a `MAKE` writes to; null if the names would change.
+  const MakeSlots* SlotsOf(int lineNumber, const std::string& name) {
+    const MakeSlots& known = makes_[static_cast<std::size_t>(lineNumber)];
+    const bool isValid = known.Lines == context_.store.Changes() && known.Names == Names();
+    return isValid ? &known : FindSlots(lineNumber, name);
+  }
+  const MakeSlots* FindSlots(int lineNumber, const std::string& name);
   int FindLocal(const std::string& key) const;
   /// The slot that a global is written to, 0 if a local without a procedure is in the way.
   int FindGlobal(const std::string& name) const;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -38,13 +39,11 @@ TEST_F(DispatchTest, TrimsItsCallersText) {
 }
 
 TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
-  PrimitiveCall seen;
-  dispatch.Bind("FD", [&](PrimitiveCall& call) { seen = call; });
+  Texts seen;
+  dispatch.Bind("FD", [&](PrimitiveCall& call) { seen = {std::string(call.Word), call.Rest()}; });
   std::string line = "FD 10 + 5";
   dispatch.Executor(line);
-  EXPECT_EQ(seen.Word, "FD");
-  EXPECT_EQ(seen.Rest, "10 + 5");
-  EXPECT_FALSE(seen.InputIsMissing);
+  EXPECT_EQ(seen, (Texts{"FD", "10 + 5"}));
 }
 
 class WholeLineName : public DispatchTest, public testing::WithParamInterface<const char*> {};
@@ -165,7 +164,8 @@ TEST_F(DispatchTest, AFailureInTheTailIsSkipped) {
 
 TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
   int taken = 0;
-  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  const std::function<void()> take = [&] { ++taken; };
+  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = &take; });
   dispatch.Execute("HELP");
   EXPECT_EQ(taken, 0);
   dispatch.OverflowCount = 32767;
@@ -176,7 +176,8 @@ TEST_F(DispatchTest, AnActionMayTakeOverAFailureInTheTail) {
 TEST_F(DispatchTest, AFailureThatAnActionTakesOverEndsTheTail) {
   const auto fail = [] { throw Failure(FailureKind::Overflow); };
   int taken = 0;
-  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = [&] { ++taken; }; });
+  const std::function<void()> take = [&] { ++taken; };
+  dispatch.Bind("HELP", [&](PrimitiveCall& call) { call.OnFailure = &take; });
   dispatch.DetailsOn = true;
   dispatch.RefreshSurface = fail;
   dispatch.Execute("HELP");

@@ -363,7 +363,7 @@ TEST_F(RunnerTest, AWalkPastLine2000EndsTheRunAndLeavesThePath) {
 TEST_F(RunnerTest, BareExpressionsGoToTheirOwnActions) {
   Texts lines;
   const auto note = [&](PrimitiveCall& call) {
-    lines.push_back(std::string(call.Word) + " " + call.Rest);
+    lines.push_back(std::string(call.Word) + " " + call.Rest());
     Paths.push_back(controlPath.CtrlStr());
   };
   dispatch.Bind("AEXP", note);

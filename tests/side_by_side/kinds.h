@@ -37,4 +37,8 @@ struct Literal {
   using PrimitiveCall = reference::PrimitiveCall;
 };
 
+/// The input of a call, which an action may rewrite.
+inline std::string& RestOf(PrimitiveCall& call) { return call.Rest(); }
+inline std::string& RestOf(reference::PrimitiveCall& call) { return call.Rest; }
+
 }  // namespace zerimo

@@ -66,17 +66,17 @@ class Side : SurfaceRecorder {
     shapes.Bind();
     interpreter.dispatch.TurtlePos = [this] { figure.TurtlePos(turtle.TurtleX, turtle.TurtleY, turtle.TurtleDir); };
     interpreter.dispatch.Bind("PRINT", [this](PrimitiveCall& call) {
-      trace.Note("PRINT" + std::string(call.Word) + Str(interpreter.arguments.Number(call.Rest)));
+      trace.Note("PRINT" + std::string(call.Word) + Str(interpreter.arguments.Number(RestOf(call))));
     });
     interpreter.dispatch.Bind("SUM", [this](PrimitiveCall& call) {
-      const double first = interpreter.arguments.WordNumber(call.Rest, 1);
-      trace.Note("SUM" + Str(first) + Str(interpreter.arguments.WordNumber(call.Rest, 2)) + call.Rest);
+      const double first = interpreter.arguments.WordNumber(RestOf(call), 1);
+      trace.Note("SUM" + Str(first) + Str(interpreter.arguments.WordNumber(RestOf(call), 2)) + RestOf(call));
     });
     interpreter.dispatch.Bind(
-        "AEXP", [this](PrimitiveCall& call) { trace.Note("AEXP" + Str(interpreter.arguments.Number(call.Rest))); });
+        "AEXP", [this](PrimitiveCall& call) { trace.Note("AEXP" + Str(interpreter.arguments.Number(RestOf(call)))); });
     interpreter.dispatch.Bind("REXP", [this](PrimitiveCall& call) {
-      interpreter.arguments.ReplaceNames(call.Rest);
-      trace.Note("REXP" + call.Rest);
+      interpreter.arguments.ReplaceNames(RestOf(call));
+      trace.Note("REXP" + RestOf(call));
     });
     interpreter.dispatch.Bind("LOAD", [this](PrimitiveCall&) {
       for (int number = 1; const std::string& line : ProgramToLoad) interpreter.store.SetLine(number++, line);

@@ -18,12 +18,12 @@ struct BareInterpreter {
   BareInterpreter() {
     for (const Action action : {Action("FD"), Action("RT")}) {
       dispatch.Bind(action, [this](PrimitiveCall& call) {
-        Calls.push_back(std::string(call.Word) + Str(arguments.Number(call.Rest)));
+        Calls.push_back(std::string(call.Word) + Str(arguments.Number(call.Rest())));
         Paths.push_back(controlPath.CtrlStr());
       });
     }
     dispatch.Bind("PRINT", [this](PrimitiveCall& call) {
-      Calls.push_back("PRINT " + call.Rest);
+      Calls.push_back("PRINT " + call.Rest());
       Paths.push_back(controlPath.CtrlStr());
     });
     turtle.TurtleX = static_cast<double>(controls.Screen.Width / 2);
