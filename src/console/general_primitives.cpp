@@ -92,16 +92,16 @@ void GeneralPrimitives::Print(PrimitiveCall& call) {
 }
 
 void GeneralPrimitives::BracketChain(PrimitiveCall& call, char op) {
-  if (!call.Rest().ends_with(')')) return;
-  call.Rest().pop_back();
-  const int length = Length(call.Rest());
+  std::string& chain = call.Rest();
+  if (!chain.ends_with(')')) return;
+  chain.pop_back();
+  const int length = Length(chain);
   for (int position = 1; position <= length; ++position) {
-    if (CharacterAt(call.Rest(), position) != " ") continue;  // Never fails: positions from 1.
+    if (CharacterAt(chain, position) != " ") continue;  // Never fails: positions from 1.
     // Never fails.
-    call.Rest() =
-        std::string(Left(call.Rest(), position - 1)) + op + std::string(Trimmed(From(call.Rest(), position + 1)));
+    chain = std::string(Left(chain, position - 1)) + op + std::string(Trimmed(From(chain, position + 1)));
   }
-  context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(call.Rest())));
+  context_.controls.List4.Add("? Result: " + Str(context_.arguments.Number(chain)));
 }
 
 void GeneralPrimitives::TwoInputs(PrimitiveCall& call, double (*work)(double, std::int16_t)) {

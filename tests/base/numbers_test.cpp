@@ -92,6 +92,9 @@ TEST(Rounding, TakesTheEvenNeighbourOfAHalf) {
   EXPECT_EQ(RoundHalfEven(2.4999999), 2);
   EXPECT_EQ(RoundHalfEven(-2.6), -3);
   EXPECT_FALSE(std::signbit(RoundHalfEven(-.4)));
+  EXPECT_EQ(RoundHalfEven(999999999999999.5), 1E15);
+  EXPECT_EQ(RoundHalfEven(2251799813685248.5), 2251799813685248);
+  EXPECT_EQ(RoundHalfEven(-4503599627370495.5), -4503599627370496);
 }
 
 TEST(Rounding, ToDecimalsRoundsTheScaledNumber) {
