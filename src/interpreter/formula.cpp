@@ -196,7 +196,8 @@ void Formula::Prepare(const Operands& operands) {
     for (Sum& sum : side->Brackets) PrepareSum(sum, operands);
     PrepareSum(side->Whole, operands);
     if (IsConstant(*side)) side->Known = ValueOf(*side, operands);
-    side->IsPlain = side->Brackets.empty() && std::ranges::all_of(side->Whole, &Term::IsPlain);
+    side->IsPlain =
+        side->Brackets.empty() && std::ranges::all_of(side->Whole, [](const Term& term) { return term.IsPlain(); });
   }
 }
 

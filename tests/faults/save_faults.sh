@@ -23,26 +23,29 @@ fail() {
 run() {
   rm -rf "$folder"
   mkdir "$folder"
+  mkdir -p "$(dirname "$folder/$target")"
   cp "$work/former" "$folder/$target"
   for extra in "${folders[@]}"; do cp -r "$work/$extra" "$folder"; done
   (cd "$folder" && exec strace -qq -o "$work/log" -e "trace=$calls" "$@" "$program" "${arguments[@]}" \
     <"$work/session" >/dev/null 2>&1)
 }
 
-# The calls of a save and their numbers: from the new file that is made beside to the last call about its folder.
+# The calls of the saves and their numbers: from a new file that is made beside to the last call about its folder. A new
+# file that is never renamed only tries whether there can be one.
 calls_of_save() {
   awk -F'(' '{ count[$1]++ }
-    /\.zerimo-[0-9a-f]*\.tmp/ && $1 == "openat" { isSave = 1 }
-    isSave { print $1, count[$1] }
+    /\.zerimo-[0-9a-f]*\.tmp/ && $1 == "openat" { isSave = 1; calls = "" }
+    isSave { calls = calls $1 " " count[$1] "\n" }
     $1 == "rename" { closes = 1 }
-    isSave && closes && $1 == "close" { isSave = 0; closes = 0 }' "$work/log"
+    isSave && closes && $1 == "close" { printf "%s", calls; isSave = 0; closes = 0 }' "$work/log"
 }
 
 is_former() { cmp -s "$folder/$target" "$work/former"; }
 is_whole() { cmp -s "$folder/$target" "$work/new"; }
 
-# try_save NAME TARGET: tries all faults of the save by `arguments` and the session. Its report of success is its status 0,
-# unless it reports nothing.
+# try_save NAME TARGET: tries all faults of the save by `arguments` and the session. Its report of success is its status 0;
+# a word of a program reports nothing.
+reports=yes
 try_save() {
   name=$1 target=$2
   run || true
@@ -56,7 +59,7 @@ try_save() {
       run -e "inject=$call:$fault:when=$number" 2>/dev/null || status=$?
       tried=$((tried + 1))
       is_former || is_whole || fail "the file is broken"
-      [ "$status" -ne 0 ] || is_whole || fail "reported as done, but the former file is there"
+      [ "$status" -ne 0 ] || [ $reports = no ] || is_whole || fail "reported as done, but the former file is there"
       [ "$fault" = signal=KILL ] || [ -z "$(find "$folder" -name '.zerimo-*')" ] || fail "something is left"
     done
   done 3<"$work/calls"
@@ -84,11 +87,30 @@ for length in 1 5000 2000000; do
   try_save "a transcript of $length characters" transcript
 done
 
+printf 'FD 10\n@picture picture.bmp\n' >"$work/session"
+arguments=(--screen 800x800)
+try_save "a picture in the middle of a session" picture.bmp
+reports=no
+printf 'SAVEPICTURE PICTURE\n' >"$work/session"
+arguments=(--app-folder .)
+try_save "the picture of a program" PICTURE.Bmp
+reports=yes
+
 # A page shows the time when it was made, so that no two are alike.
 is_whole() { [ "$(head -c 9 "$folder/$target") $(tail -n 1 "$folder/$target")" = "<!DOCTYPE </html>" ]; }
 mkdir "$work/class"
 printf 'TO A\r\nPRINT 1\r\nEND\r\n' >"$work/class/A.ZRM"
-folders=(class)
-arguments=(--class class --jobs 1 --out report.html)
+(cd "$work" && "$program" --class class --jobs 1 --jsonl part.jsonl)
+folders=(part.jsonl)
+# What a class run writes at its end, without the run.
+arguments=(--merge part.jsonl --out report.html)
 try_save "a report" report.html
+arguments=(--merge part.jsonl --out report.html --pupils pages)
+try_save "a page to hand back" pages/A.html
+is_whole() { [ "$(head -c 1 "$folder/$target")$(tail -c 2 "$folder/$target")" = '{}' ]; }
+arguments=(--merge part.jsonl --out report.html)
+try_save "a summary" report.json
+is_whole() { [ "$(head -c 7 "$folder/$target")$(tail -c 2 "$folder/$target")" = $'"file",\r' ]; }
+arguments=(--merge part.jsonl --out report.html --csv marks.csv)
+try_save "a table of marks" marks.csv
 echo "$tried faults"
