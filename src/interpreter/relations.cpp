@@ -25,8 +25,8 @@ int CountComparisons(std::string_view expression) noexcept {
 Comparison ComparisonOf(std::string_view text) noexcept {
   if (text == "<") return Comparison::Less;
   if (text == ">") return Comparison::Greater;
-  if (text == "<=") return Comparison::AtMost;
-  if (text == ">=") return Comparison::AtLeast;
+  if (text == "<=") return Comparison::NotGreater;
+  if (text == ">=") return Comparison::NotLess;
   if (text == "!" || text == "!=") return Comparison::Unequal;
   if (text == "=") return Comparison::Equal;
   return Comparison::Never;

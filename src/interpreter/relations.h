@@ -13,7 +13,7 @@ namespace zerimo {
 bool RelationEvaluator(std::string& expression, const Arithmetic& arithmetic);
 
 /// What an operator asks of two numbers. `Never` is what "==" asks, which is no operator.
-enum class Comparison { Less, Greater, AtMost, AtLeast, Unequal, Equal, Never };
+enum class Comparison { Less, Greater, NotGreater, NotLess, Unequal, Equal, Never };
 
 /// The comparison that an operator makes ("<", ">", "<=", ">=", "!", "!=", "="); `Never` for anything else.
 Comparison ComparisonOf(std::string_view text) noexcept;
@@ -24,9 +24,9 @@ inline bool Holds(Comparison comparison, double left, double right) noexcept {
       return left < right;
     case Comparison::Greater:
       return left > right;
-    case Comparison::AtMost:
+    case Comparison::NotGreater:
       return left <= right;
-    case Comparison::AtLeast:
+    case Comparison::NotLess:
       return left >= right;
     case Comparison::Unequal:
       return left != right;
