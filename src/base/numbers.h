@@ -35,7 +35,7 @@ std::string StrTrimmed(double number);
 /// Whether a number has no decimals. It must be within 64 bits.
 inline bool IsWhole(double number) noexcept { return static_cast<double>(static_cast<std::int64_t>(number)) == number; }
 
-/// `RoundHalfEven` for numbers that are large, or none.
+/// What `RoundHalfEven` does with a number that is large, or none.
 double RoundLarge(double number);
 
 /// To the nearest whole number, a half going to the even neighbour. Not-a-number fails (overflow).

@@ -19,7 +19,8 @@ std::int16_t Conditionals::Ifprocessor(int lineNumber) {
   return static_cast<std::int16_t>(next);
 }
 
-[[gnu::noinline]] bool Conditionals::HoldsAsText(std::string condition) const {
+[[gnu::noinline]] bool Conditionals::HoldsAsText(std::string_view text) const {
+  std::string condition(text);
   condition = variables_.ReplaceXcorAndYcor(condition);
   condition = variables_.VarValReplacer(condition);
   condition = variables_.GlobalVariableReplacer(condition);

@@ -47,7 +47,7 @@ class Conditionals {
     const auto holds = variables_.KnownToHold(condition);
     return holds ? *holds : HoldsAsText(condition.Text());
   }
-  bool HoldsAsText(std::string condition) const;
+  bool HoldsAsText(std::string_view text) const;
   Branches BranchesOf(int lineNumber) {
     return branches_[static_cast<std::size_t>(lineNumber)].Get(store_.Changes(), [&] {
       return Branches{FindElse(lineNumber), FindEndIf(lineNumber)};

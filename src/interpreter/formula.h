@@ -37,7 +37,8 @@ struct Operand {
 class Operands;
 
 /// An expression whose passes are done once and for all: the operations on numbers that remain if every pasted text is
-/// a plain number. Anything else, and whatever fails, has no value here and is evaluated literally.
+/// a plain number. Anything else, and whatever fails, has no value here and is evaluated literally. It is valid as long
+/// as the slots exist, since it reads values where they are kept.
 /// Behaviour: docs/interpreter.md, "Beside an expression".
 class Formula {
  public:

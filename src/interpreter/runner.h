@@ -35,7 +35,9 @@ class Runner {
     bool Over = false;
   };
 
+  /// Whether there is a line to run.
   bool GoesOn(const Walk& walk) const;
+  /// Runs the next lines, a hundred at most.
   void RunStretch(Walk& walk);
   void Act(Walk& walk);
   void Advance(Walk& walk);

@@ -204,7 +204,8 @@ bool Variables::Make(int lineNumber) {
   if (const int slot = FindGlobal(name); slot != 0) SetSlot(slot, name + "=" + StrTrimmed(Val(result)));
 }
 
-[[gnu::noinline]] double Variables::ValueAsText(std::string value) {
+[[gnu::noinline]] double Variables::ValueAsText(std::string_view expression) const {
+  std::string value(expression);
   value = ReplaceXcorAndYcor(value);
   value = VarValReplacer(value);
   value = GlobalVariableReplacer(value);

@@ -115,7 +115,7 @@ class Variables {
     std::vector<int> Slots;
   };
 
-  double ValueAsText(std::string value);
+  double ValueAsText(std::string_view expression) const;
   std::string EnclosingProcedure(int lineNumber) const;
   void SetByName(int lineNumber, const std::string& name, double value);
   /// The slots that a `MAKE` writes to; null if the names would change.

@@ -40,7 +40,10 @@ TEST_F(DispatchTest, TrimsItsCallersText) {
 
 TEST_F(DispatchTest, SplitsAtTheFirstBlank) {
   Texts seen;
-  dispatch.Bind("FD", [&](PrimitiveCall& call) { seen = {std::string(call.Word), call.Rest()}; });
+  dispatch.Bind("FD", [&](PrimitiveCall& call) {
+    EXPECT_FALSE(call.InputIsMissing());
+    seen = {std::string(call.Word), call.Rest()};
+  });
   std::string line = "FD 10 + 5";
   dispatch.Executor(line);
   EXPECT_EQ(seen, (Texts{"FD", "10 + 5"}));
