@@ -18,7 +18,7 @@ QImage WithResolution(QImage image) {
   return image;
 }
 
-qsizetype BytesPerRow(const PixelBuffer& pixels) { return qsizetype{pixels.Columns()} * qsizetype{sizeof(Pixel)}; }
+qsizetype BytesPerRow(const PixelBuffer& pixels) { return qsizetype{pixels.Stride()} * qsizetype{sizeof(Pixel)}; }
 
 }  // namespace
 

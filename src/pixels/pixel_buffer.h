@@ -9,8 +9,8 @@
 
 namespace zerimo {
 
-/// Rows of opaque 32-bit pixels, from the top, with nothing between them, so that a toolkit or a page can show them
-/// without a copy.
+/// Rows of opaque 32-bit pixels, from the top. A row takes an odd number of a processor's cache lines: otherwise the
+/// rows of a screen would push each other out of the cache, since usual widths are multiples of large powers of 2.
 class PixelBuffer {
  public:
   PixelBuffer() = default;
@@ -18,13 +18,17 @@ class PixelBuffer {
   PixelBuffer(int columns, int rows, Pixel pixel)
       : columns_(columns),
         rows_(rows),
-        pixels_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), pixel) {}
+        stride_(OddLines(columns) * CacheLine),
+        pixels_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(rows), pixel) {}
 
   int Columns() const noexcept { return columns_; }
   int Rows() const noexcept { return rows_; }
   PixelRect Bounds() const noexcept { return {0, 0, columns_ - 1, rows_ - 1}; }
 
-  /// The pixels of a row of the buffer; the rows below it follow.
+  /// From a pixel to the one below it, in pixels.
+  int Stride() const noexcept { return stride_; }
+
+  /// The pixels of a row of the buffer.
   Pixel* Row(int row) noexcept { return pixels_.data() + Offset(row); }
   const Pixel* Row(int row) const noexcept { return pixels_.data() + Offset(row); }
 
@@ -35,10 +39,17 @@ class PixelBuffer {
   }
 
  private:
-  std::ptrdiff_t Offset(int row) const noexcept { return static_cast<std::ptrdiff_t>(row) * columns_; }
+  /// 64 bytes, in pixels.
+  static constexpr int CacheLine = 16;
+
+  /// The least odd number of cache lines that hold so many columns.
+  static constexpr int OddLines(int columns) noexcept { return (columns + CacheLine - 1) / CacheLine | 1; }
+
+  std::ptrdiff_t Offset(int row) const noexcept { return static_cast<std::ptrdiff_t>(row) * stride_; }
 
   int columns_ = 0;
   int rows_ = 0;
+  int stride_ = 0;
   std::vector<Pixel> pixels_;
 };
 

@@ -187,8 +187,8 @@ const PixelCanvas::StrokePen& PixelCanvas::PenOf(const Stroke& stroke) {
 
 void PixelCanvas::Changed(const PixelRect& area) {
   lastChange_ = area.IsEmpty() ? PixelRect() : area;
-  dirty_ = United(dirty_, lastChange_);
-  drawn_ = United(drawn_, lastChange_);
+  if (!dirty_.Contains(lastChange_)) dirty_ = United(dirty_, lastChange_);
+  if (!drawn_.Contains(lastChange_)) drawn_ = United(drawn_, lastChange_);
 }
 
 }  // namespace zerimo

@@ -14,6 +14,9 @@ struct PixelRect {
   bool operator==(const PixelRect&) const = default;
 
   bool IsEmpty() const noexcept { return Left > Right || Top > Bottom; }
+  bool Contains(const PixelRect& other) const noexcept {
+    return Left <= other.Left && Top <= other.Top && Right >= other.Right && Bottom >= other.Bottom;
+  }
   int Columns() const noexcept { return Right - Left + 1; }
   int Rows() const noexcept { return Bottom - Top + 1; }
 };

@@ -17,7 +17,12 @@ namespace zerimo {
 class SpanPainter {
  public:
   SpanPainter(PixelBuffer& pixels, RasterOperation operation, const HatchPattern& hatch = HatchPatterns[0])
-      : bits_(pixels.Row(0)), columns_(pixels.Columns()), rows_(pixels.Rows()), operation_(operation), hatch_(hatch) {}
+      : bits_(pixels.Row(0)),
+        columns_(pixels.Columns()),
+        rows_(pixels.Rows()),
+        stride_(pixels.Stride()),
+        operation_(operation),
+        hatch_(hatch) {}
 
   int Columns() const noexcept { return columns_; }
   int Rows() const noexcept { return rows_; }
@@ -29,14 +34,14 @@ class SpanPainter {
   }
 
   /// The pixels of a row of the buffer from the first column to the last one, both included.
-  void PaintSpan(int row, int first, int last) {
+  void PaintSpan(int row, std::ptrdiff_t first, std::ptrdiff_t last) {
     if (static_cast<unsigned>(row) >= static_cast<unsigned>(rows_)) return;
-    first = std::max(first, 0);
-    last = std::min(last, columns_ - 1);
+    first = std::max<std::ptrdiff_t>(first, 0);
+    last = std::min<std::ptrdiff_t>(last, columns_ - 1);
     if (first > last) return;
     const unsigned mask = hatch_[static_cast<std::size_t>(row % 8)];
     if (mask == 0xFF) {
-      PaintRun(Row(row) + first, last - first + 1);
+      PaintRun(Row(row) + first, Row(row) + last);
     } else if (mask != 0) {
       PaintHatched(Row(row), first, last, mask);
     }
@@ -46,68 +51,94 @@ class SpanPainter {
   /// row.
   template <typename SpanOf>
   void PaintRows(int firstRow, int lastRow, SpanOf&& spanOf) {
-    const int lastColumn = columns_ - 1;
+    const std::ptrdiff_t lastColumn = columns_ - 1;
     PaintInnerRows(firstRow, lastRow, [&](int row) {
       const auto [first, last] = spanOf(row);
-      return std::pair(std::max(first, 0), std::min(last, lastColumn));
+      return std::pair(std::max<std::ptrdiff_t>(first, 0), std::min<std::ptrdiff_t>(last, lastColumn));
     });
   }
 
   /// The same for columns that are inside the buffer.
   template <typename SpanOf>
   void PaintInnerRows(int firstRow, int lastRow, SpanOf&& spanOf) {
+    PaintInnerRows(firstRow, lastRow, spanOf, FillRun);
+  }
+
+  /// The length of a narrow row, from and to.
+  static constexpr int LeastNarrow = 4;
+  static constexpr int MostNarrow = 2 * LeastNarrow;
+
+  /// The same for rows that are all narrow.
+  template <typename SpanOf>
+  void PaintNarrowRows(int firstRow, int lastRow, SpanOf&& spanOf) {
+    PaintInnerRows(firstRow, lastRow, spanOf, FillNarrow);
+  }
+
+ private:
+  /// How many pixels a plain operation writes at once.
+  static constexpr int Block = LeastNarrow;
+
+  Pixel* Row(int row) const noexcept { return bits_ + static_cast<std::ptrdiff_t>(row) * stride_; }
+
+  template <typename SpanOf, typename Fill>
+  void PaintInnerRows(int firstRow, int lastRow, SpanOf&& spanOf, Fill fill) {
     if (firstRow > lastRow) return;
-    if (operation_.IsPlain() && &hatch_ == &HatchPatterns[0]) return FillRows(firstRow, lastRow, spanOf);
+    if (operation_.IsPlain() && &hatch_ == &HatchPatterns[0]) return FillRows(firstRow, lastRow, spanOf, fill);
     for (int row = firstRow; row <= lastRow; ++row) {
       const auto [first, last] = spanOf(row);
       PaintSpan(row, first, last);
     }
   }
 
- private:
-  /// How many pixels a plain operation writes at once.
-  static constexpr int Block = 4;
-
-  Pixel* Row(int row) const noexcept { return bits_ + static_cast<std::ptrdiff_t>(row) * columns_; }
-
   /// All that a row needs is held in locals, which no pixel written could change.
-  template <typename SpanOf>
-  void FillRows(int firstRow, int lastRow, SpanOf&& spanOf) const {
-    const std::ptrdiff_t rowLength = columns_;
+  template <typename SpanOf, typename Fill>
+  void FillRows(int firstRow, int lastRow, SpanOf&& spanOf, Fill fill) const {
+    const std::ptrdiff_t stride = stride_;
     const Pixel color = operation_.Toggle;
     Pixel* pixels = Row(firstRow);
-    for (int row = firstRow; row <= lastRow; ++row, pixels += rowLength) {
+    for (int row = firstRow; row <= lastRow; ++row, pixels += stride) {
       const auto [first, last] = spanOf(row);
-      if (first <= last) FillRun(pixels + first, last - first + 1, color);
+      fill(pixels + first, pixels + last, color);
     }
   }
 
-  void PaintRun(Pixel* pixel, int count) {
-    if (operation_.IsPlain()) return FillRun(pixel, count, operation_.Toggle);
-    std::for_each(pixel, pixel + count, [this](Pixel& each) { each = operation_.Apply(each); });
+  void PaintRun(Pixel* first, Pixel* last) {
+    if (operation_.IsPlain()) return FillRun(first, last, operation_.Toggle);
+    std::for_each(first, last + 1, [this](Pixel& each) { each = operation_.Apply(each); });
   }
 
-  static void FillRun(Pixel* pixel, int count, Pixel color) {
+  /// Both ends belong to the run; it is empty if it ends before it begins.
+  static void FillRun(Pixel* first, Pixel* last, Pixel color) {
+    const std::ptrdiff_t count = last - first + 1;
     if (count < Block || count > LongestShort) {
-      std::fill_n(pixel, count, color);
+      std::fill_n(first, count, color);
     } else {
-      FillShort(pixel, count, color);
+      FillShort(first, last, color);
     }
   }
 
   /// For the usual run of a pen, a few pixels long: block by block, the last block overlapping the one before it.
-  static void FillShort(Pixel* pixel, int count, Pixel color) {
-    std::array<Pixel, Block> block;
-    block.fill(color);
-    Pixel* const lastBlock = pixel + count - Block;
-    for (; pixel < lastBlock; pixel += Block) std::memcpy(pixel, block.data(), sizeof block);
-    std::memcpy(lastBlock, block.data(), sizeof block);
+  static void FillShort(Pixel* pixel, Pixel* last, Pixel color) {
+    for (; pixel < last - (Block - 1); pixel += Block) FillBlock(pixel, color);
+    FillBlock(last - (Block - 1), color);
   }
 
-  void PaintHatched(Pixel* row, int first, int last, unsigned mask) noexcept {
+  /// One or two blocks, without a look at how many it takes.
+  static void FillNarrow(Pixel* first, Pixel* last, Pixel color) {
+    FillBlock(first, color);
+    FillBlock(last - (Block - 1), color);
+  }
+
+  static void FillBlock(Pixel* first, Pixel color) {
+    std::array<Pixel, Block> block;
+    block.fill(color);
+    std::memcpy(first, block.data(), sizeof block);
+  }
+
+  void PaintHatched(Pixel* row, std::ptrdiff_t first, std::ptrdiff_t last, unsigned mask) noexcept {
     for (int phase = 0; phase < 8; ++phase) {
       if ((mask >> phase & 1U) == 0) continue;
-      for (int column = first + ((phase - first) & 7); column <= last; column += 8) {
+      for (std::ptrdiff_t column = first + ((phase - first) & 7); column <= last; column += 8) {
         row[column] = operation_.Apply(row[column]);
       }
     }
@@ -118,6 +149,7 @@ class SpanPainter {
   Pixel* bits_;
   int columns_;
   int rows_;
+  int stride_;
   RasterOperation operation_;
   const HatchPattern& hatch_;
 };

@@ -50,6 +50,12 @@ class Flanks {
   /// How far the long sides move sideways per row.
   double SideSlope() const noexcept { return sideSlope_; }
 
+  /// Whether the painter takes the rows that neither end touches for narrow ones, wherever they begin.
+  bool AreNarrow() const noexcept {
+    constexpr double forRounding = 0.01;
+    return 2 * sideReach_ >= SpanPainter::LeastNarrow && 2 * sideReach_ < SpanPainter::MostNarrow - forRounding;
+  }
+
   /// In a row that neither end touches.
   Edges BetweenEnds(int row) const noexcept {
     const double middle = aX_ + (row - aY_) * sideSlope_;
@@ -122,7 +128,7 @@ class Slide {
   Slide(double place, double step) : place_(ToParts(place)), step_(ToParts(step)) {}
 
   /// At or before the place.
-  int Column() const noexcept { return static_cast<int>(place_ >> PartBits); }
+  std::ptrdiff_t Column() const noexcept { return static_cast<std::ptrdiff_t>(place_ >> PartBits); }
   /// Whether the rounding of the step, added up over all rows of a canvas, might have led to another column.
   bool IsUncertain() const noexcept { return static_cast<std::uint32_t>(place_) + Near < 2 * Near; }
   void Advance() noexcept { place_ += step_; }
@@ -138,23 +144,37 @@ class Slide {
   std::int64_t step_;
 };
 
-bool IsWithinReach(const Edges& edges) noexcept { return edges.From > -Slide::Reach && edges.To < Slide::Reach; }
+bool IsWithin(const Edges& edges, double least, double greatest) noexcept {
+  return edges.From > least && edges.To < greatest;
+}
 
 /// The rows that neither end touches, all of them on the canvas.
-void PaintBetweenEnds(SpanPainter& painter, const Flanks& flanks, bool isInside, int first, int last) {
+void PaintBetweenEnds(SpanPainter& painter, const Flanks& flanks, int first, int last) {
   const auto columns = [&](int row) { return Columns(flanks.BetweenEnds(row), painter.Columns()); };
   const Edges edges = flanks.BetweenEnds(first);
-  if (!IsWithinReach(edges) || !IsWithinReach(flanks.BetweenEnds(last))) return painter.PaintRows(first, last, columns);
+  const auto areWithin = [&](double least, double greatest) {
+    return IsWithin(edges, least, greatest) && IsWithin(flanks.BetweenEnds(last), least, greatest);
+  };
+  if (!areWithin(-Slide::Reach, Slide::Reach)) return painter.PaintRows(first, last, columns);
   Slide from(edges.From, flanks.SideSlope());
   Slide to(edges.To, flanks.SideSlope());
   const auto sliding = [&](int row) {
-    ColumnSpan span{from.Column() + 1, to.Column()};
-    if (from.IsUncertain() || to.IsUncertain()) span = columns(row);
+    std::pair span(from.Column() + 1, to.Column());
+    if (from.IsUncertain() || to.IsUncertain()) {
+      const ColumnSpan exact = columns(row);
+      span = {exact.First, exact.Last};
+    }
     from.Advance();
     to.Advance();
     return span;
   };
-  isInside ? painter.PaintInnerRows(first, last, sliding) : painter.PaintRows(first, last, sliding);
+  if (!areWithin(0, painter.Columns() - 1)) {
+    painter.PaintRows(first, last, sliding);
+  } else if (flanks.AreNarrow()) {
+    painter.PaintNarrowRows(first, last, sliding);
+  } else {
+    painter.PaintInnerRows(first, last, sliding);
+  }
 }
 
 /// The rows of a line inside the canvas; none if elsewhere the rounding of its edges might lead to other columns.
@@ -191,7 +211,7 @@ void WideLines::Paint(SpanPainter& painter, WholeLine line, const RoundPen& pen)
   const int afterUpperEnd = std::clamp(line.Y1 - pen.Above() + pen.Width(), top, std::max(top, bottom + 1));
   const int lowerEnd = std::clamp(line.Y2 - pen.Above(), afterUpperEnd, std::max(afterUpperEnd, bottom + 1));
   paintEnds(top, afterUpperEnd - 1);
-  PaintBetweenEnds(painter, flanks, isInside, afterUpperEnd, lowerEnd - 1);
+  PaintBetweenEnds(painter, flanks, afterUpperEnd, lowerEnd - 1);
   paintEnds(lowerEnd, bottom);
 }
 

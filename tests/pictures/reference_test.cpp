@@ -147,6 +147,28 @@ TEST(SideBySideOfShortLines, OfAllUsualWidths) {
   }
 }
 
+/// Long lines in all directions: their rows are as narrow as a pen, or wider, and some leave the canvas.
+TEST(SideBySideOfLongLines, OfAllUsualWidths) {
+  constexpr int size = 260;
+  constexpr int directions = 250;
+  ImageCanvas canvas;
+  reference::ImageCanvas plain;
+  canvas.Create(size, size, 0);
+  plain.Create(size, size, 0);
+  for (const int width : {2, 3, 4, 5, 6, 7, 8, 9}) {
+    for (int direction = 0; direction < directions; ++direction) {
+      const double angle = 2 * std::acos(-1) * direction / directions;
+      const double length = 90 + direction % 50;
+      const Stroke stroke{direction * 0x010305, width, DrawingMode::CopyPen};
+      const PixelPoint from{125.0 + direction % 7, 125.0 + direction % 5};
+      const PixelPoint to{std::round(from.X + length * std::cos(angle)), std::round(from.Y + length * std::sin(angle))};
+      canvas.Line(stroke, from, to);
+      plain.Line(stroke, from, to);
+      ASSERT_EQ(canvas.Image(), plain.Image()) << to.X << "," << to.Y << " width " << width;
+    }
+  }
+}
+
 TEST(ImageOfACanvas, IsSeenWithoutACopy) {
   ImageCanvas canvas;
   canvas.Create(20, 10, 0);

@@ -27,10 +27,14 @@ inline PixelRect Sized(int left, int top, int columns, int rows) {
 inline bool Holds(const PixelRect& outer, const PixelRect& inner) { return United(outer, inner) == outer; }
 
 /// A copy of all pixels, row after row.
-inline std::vector<Pixel> PixelsOf(const PixelCanvas& canvas) {
-  const PixelBuffer& pixels = canvas.Pixels();
-  return {pixels.Row(0), pixels.Row(0) + pixels.Columns() * pixels.Rows()};
+inline std::vector<Pixel> PixelsOf(const PixelBuffer& pixels) {
+  std::vector<Pixel> copy;
+  for (int row = 0; row < pixels.Rows(); ++row) {
+    copy.insert(copy.end(), pixels.Row(row), pixels.Row(row) + pixels.Columns());
+  }
+  return copy;
 }
+inline std::vector<Pixel> PixelsOf(const PixelCanvas& canvas) { return PixelsOf(canvas.Pixels()); }
 
 /// A canvas of 96 by 96 pixels in one colour.
 template <typename Kind>

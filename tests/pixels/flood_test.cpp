@@ -79,7 +79,7 @@ std::vector<Pixel> FloodedPlainly(PixelBuffer pixels, int atX, int atY, Pixel fi
     pixels.Row(y)[x] = fill;
     for (const auto& [right, down] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}}) open.emplace(x + right, y + down);
   }
-  return {pixels.Row(0), pixels.Row(0) + pixels.Columns() * pixels.Rows()};
+  return PixelsOf(pixels);
 }
 
 TEST_F(Floods, AgreeWithThePlainestWayOnRandomPictures) {
