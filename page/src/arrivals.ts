@@ -29,8 +29,7 @@ export class Arrivals {
       await this.folder.keep(files);
       return names;
     } catch (error) {
-      const why = error instanceof Error ? error.message : String(error);
-      await tell(`The browser does not keep ${names.join(", ")}: ${why}\n\nUntil this page is closed, "Files" can save a copy.`);
+      await tell(`The browser does not keep ${names.join(", ")}: ${reasonOf(error)}\n\nUntil this page is closed, "Files" can save a copy.`);
       return [];
     }
   }
@@ -68,7 +67,12 @@ export class Arrivals {
   }
 
   private async remove(name: string): Promise<void> {
-    if (await confirmed(`Delete ${name} from your folder? There is no way back.`, "Delete")) this.hand(await this.folder.remove(name));
+    if (await confirmed(`Delete ${name} from your folder? There is no way back.`, "Delete")) {
+      await this.folder.remove(name).then(
+        (changes) => this.hand(changes),
+        (error) => tell(`The browser does not delete ${name}: ${reasonOf(error)}`),
+      );
+    }
     await this.showFiles();
   }
 
@@ -99,6 +103,8 @@ export class Arrivals {
     if (name !== undefined && canBeOpened.test(name) && (await confirmed(`Open ${name} now?`, "Open"))) this.open(name);
   }
 }
+
+const reasonOf = (error: unknown) => (error instanceof Error ? error.message : String(error));
 
 /** Text that is dragged within the editor brings none. */
 const bringsFiles = ({ dataTransfer }: DragEvent) => dataTransfer?.types.includes("Files") === true;

@@ -70,7 +70,7 @@ export class Folder {
   /** A sample that a file of the same name has hidden comes again. */
   remove(name: string): Promise<Changes> {
     return this.inTurn(async () => {
-      await this.place?.removeEntry(name).catch(() => undefined);
+      if (this.place) await removed(this.place, name);
       return this.forget([name]);
     });
   }
@@ -120,7 +120,7 @@ export class Folder {
       try {
         this.states.set(name, stateOf(await written(await place.getFileHandle(name, { create: true }), bytes)));
       } catch (error) {
-        if (isNew) await place.removeEntry(name).catch(() => undefined);
+        if (isNew) await removed(place, name).catch(() => undefined);
         throw error;
       }
     }
@@ -140,6 +140,20 @@ async function written(handle: FileSystemFileHandle, bytes: Uint8Array): Promise
     throw error;
   }
   return handle.getFile();
+}
+
+/** Removes a file, if it is there. The browser holds it for a moment after a writing that has failed. */
+async function removed(place: FileSystemDirectoryHandle, name: string, mostAttempts = 20): Promise<void> {
+  for (let attempt = 1; ; ++attempt) {
+    try {
+      return await place.removeEntry(name);
+    } catch (error) {
+      const reason = error instanceof DOMException ? error.name : "";
+      if (reason === "NotFoundError") return;
+      if (reason !== "NoModificationAllowedError" || attempt === mostAttempts) throw error;
+    }
+    await new Promise((done) => setTimeout(done, 50));
+  }
 }
 
 /** A file that the user has chosen or dropped, those of an archive one by one. Others than the folder takes are left out. */

@@ -107,6 +107,26 @@ test("a file is deleted only after a question, and a sample that it hid comes ag
     assert.deepEqual(await keptNames(learner), []);
   }));
 
+const refuseDeleting = (page) =>
+  page.evaluateOnNewDocument(() => {
+    FileSystemDirectoryHandle.prototype.removeEntry = () => Promise.reject(new DOMException("in use", "InvalidStateError"));
+  });
+
+test("a file that can't be deleted stays, and the page says so", () =>
+  withLearner({ prepare: refuseDeleting }, async (learner) => {
+    await save(learner, "MINE", 50);
+    await learner.page.click("#files");
+    await learner.dialog("Save a copy");
+    await learner.page.click('[aria-label="Delete MINE.ZRM"]');
+    await learner.dialog("Delete MINE.ZRM");
+    await learner.key("Enter");
+    await learner.dialog("does not delete MINE.ZRM: in use");
+    await learner.key("Enter");
+    await learner.dialog("Your files");
+    assert.match(await learner.dialogText(), /MINE\.ZRM/);
+    assert.deepEqual(await keptNames(learner), ["MINE.ZRM"]);
+  }));
+
 test("an archive replaces a file only after a question", () =>
   withLearner({}, async (learner) => {
     await save(learner, "MINE", 50);
@@ -139,6 +159,25 @@ const refuseBytes = (page) =>
 
 test("a file that could not be kept leaves no empty one behind", () =>
   withLearner({ prepare: refuseBytes }, async (learner) => {
+    await refusedFile(learner);
+    assert.deepEqual(await keptNames(learner), []);
+  }));
+
+/** The browser still holds the file after the writing has failed. */
+const refuseBytesAndHold = async (page) => {
+  await refuseBytes(page);
+  await page.evaluateOnNewDocument(() => {
+    const { removeEntry } = FileSystemDirectoryHandle.prototype;
+    let attempts = 0;
+    FileSystemDirectoryHandle.prototype.removeEntry = function (name) {
+      if (++attempts <= 3) return Promise.reject(new DOMException("held", "NoModificationAllowedError"));
+      return removeEntry.call(this, name);
+    };
+  });
+};
+
+test("an empty file that the browser holds for a moment is not left behind either", () =>
+  withLearner({ prepare: refuseBytesAndHold }, async (learner) => {
     await refusedFile(learner);
     assert.deepEqual(await keptNames(learner), []);
   }));
