@@ -34,7 +34,7 @@ class Store {
   void SetLine(int number, std::string text);
 
   /// What is derived from a line, kept until its text changes. Fails like `Line`.
-  const LineForm& FormOf(int number) const {
+  [[gnu::always_inline]] const LineForm& FormOf(int number) const {
     const std::size_t index = Index(number);
     return forms_[index] ? *forms_[index] : MakeForm(index);
   }

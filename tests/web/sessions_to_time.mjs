@@ -5,8 +5,8 @@ import { spawnSync } from "node:child_process";
 const runs = 5;
 
 export const sessions = {
-  "sums": "MAKE :A 0\nREPEAT 20000 [REPEAT 300 [MAKE :A :A+1]]",
-  "drawing": "RESOLUTION 5\nREPEAT 10000 [REPEAT 300 [FD 3 RT 7]]",
+  "sums": "MAKE :A 0\nREPEAT 20000 [REPEAT 1500 [MAKE :A :A+1]]",
+  "drawing": "RESOLUTION 5\nREPEAT 10000 [REPEAT 1000 [FD 3 RT 7]]",
 };
 
 function seconds(command, words, session) {
