@@ -41,7 +41,7 @@ class SpanPainter {
     if (first > last) return;
     const unsigned mask = hatch_[static_cast<std::size_t>(row % 8)];
     if (mask == 0xFF) {
-      PaintRun(Row(row) + first, Row(row) + last);
+      PaintRun(Row(row), first, last);
     } else if (mask != 0) {
       PaintHatched(Row(row), first, last, mask);
     }
@@ -98,22 +98,23 @@ class SpanPainter {
     Pixel* pixels = Row(firstRow);
     for (int row = firstRow; row <= lastRow; ++row, pixels += stride) {
       const auto [first, last] = spanOf(row);
-      fill(pixels + first, pixels + last, color);
+      fill(pixels, first, last, color);
     }
   }
 
-  void PaintRun(Pixel* first, Pixel* last) {
-    if (operation_.IsPlain()) return FillRun(first, last, operation_.Toggle);
-    std::for_each(first, last + 1, [this](Pixel& each) { each = operation_.Apply(each); });
+  void PaintRun(Pixel* row, std::ptrdiff_t first, std::ptrdiff_t last) {
+    if (operation_.IsPlain()) return FillRun(row, first, last, operation_.Toggle);
+    std::for_each(row + first, row + last + 1, [this](Pixel& each) { each = operation_.Apply(each); });
   }
 
-  /// Both ends belong to the run; it is empty if it ends before it begins.
-  static void FillRun(Pixel* first, Pixel* last, Pixel color) {
+  /// Both columns belong to the run; it is empty if the first is after the last.
+  static void FillRun(Pixel* row, std::ptrdiff_t first, std::ptrdiff_t last, Pixel color) {
+    if (first > last) return;
     const std::ptrdiff_t count = last - first + 1;
     if (count < Block || count > LongestShort) {
-      std::fill_n(first, count, color);
+      std::fill_n(row + first, count, color);
     } else {
-      FillShort(first, last, color);
+      FillShort(row + first, row + last, color);
     }
   }
 
@@ -124,9 +125,9 @@ class SpanPainter {
   }
 
   /// One or two blocks, without a look at how many it takes.
-  static void FillNarrow(Pixel* first, Pixel* last, Pixel color) {
-    FillBlock(first, color);
-    FillBlock(last - (Block - 1), color);
+  static void FillNarrow(Pixel* row, std::ptrdiff_t first, std::ptrdiff_t last, Pixel color) {
+    FillBlock(row + first, color);
+    FillBlock(row + last - (Block - 1), color);
   }
 
   static void FillBlock(Pixel* first, Pixel color) {
