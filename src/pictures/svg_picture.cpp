@@ -34,6 +34,8 @@ SvgInside InsideOf(const Surface& surface) {
   return {MakeRasterOperation(surface.DrawMode(), filling.Color).Toggle, filling.Style};
 }
 
+std::int64_t PixelsIn(const PixelRect& area) { return std::int64_t{area.Columns()} * area.Rows(); }
+
 }  // namespace
 
 /// Turns one operation into a shape, or keeps its pixels.
@@ -102,7 +104,7 @@ QByteArray SvgRecorder::Picture(int width, int height, Colour background) const 
 
 void SvgRecorder::Restart() {
   shapes_.clear();
-  patchBytes_ = 0;
+  patchPixels_ = 0;
 }
 
 void SvgRecorder::KeepShape(SvgShape shape) {
@@ -115,8 +117,8 @@ void SvgRecorder::KeepShape(SvgShape shape) {
 void SvgRecorder::KeepPixels(const PixelRect& area) {
   if (area.IsEmpty()) return;
   QImage pixels = canvas_.Image().copy(ToQRect(area));
-  patchBytes_ += pixels.sizeInBytes();
-  const bool isMany = patchBytes_ > MostCanvases * canvas_.Image().sizeInBytes();
+  patchPixels_ += PixelsIn(area);
+  const bool isMany = patchPixels_ > MostCanvases * PixelsIn(canvas_.Pixels().Bounds());
   if (isMany) {
     Restart();
     return KeepPixels(canvas_.Pixels().Bounds());

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <vector>
 
@@ -29,7 +30,7 @@ class SvgRecorder : public SurfaceRecorder {
 
   /// Beyond this many shapes, or this many canvases full of pixels, the list becomes one patch.
   static constexpr std::size_t MostShapes = 400'000;
-  static constexpr qsizetype MostCanvases = 4;
+  static constexpr std::int64_t MostCanvases = 4;
 
  private:
   struct Keeper;
@@ -40,8 +41,8 @@ class SvgRecorder : public SurfaceRecorder {
 
   const ImageCanvas& canvas_;
   std::vector<SvgShape> shapes_;
-  /// Bytes of the patches among the shapes.
-  qsizetype patchBytes_ = 0;
+  /// Pixels of the patches among the shapes.
+  std::int64_t patchPixels_ = 0;
 };
 
 /// Writes what a canvas shows in a size in pixels. The file's ending decides the format: .svg from the recorded shapes,

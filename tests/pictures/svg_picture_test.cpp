@@ -203,6 +203,19 @@ TEST_F(SvgPictures, FloodsAreKeptAsPixels) {
   EXPECT_TRUE(Document().contains("<image x=\"61\" y=\"11\" width=\"29\" height=\"39\""));
 }
 
+TEST_F(SvgPictures, MorePatchesThanFourCanvasesAreOne) {
+  surface.CreateCanvas(17 * UnitsPerPixel, 50 * UnitsPerPixel);
+  surface.SetHeight(50 * UnitsPerPixel);
+  const auto flood = [this](Colour color) {
+    surface.SetFillColor(color);
+    surface.ExtFloodFill(3, 3, surface.Point(3, 3));
+  };
+  for (const Colour color : {Red, Green, Blue, Red}) flood(color);
+  EXPECT_EQ(CountOf("image"), 4U);
+  flood(Green);
+  EXPECT_EQ(CountOf("image"), 1U);
+}
+
 struct Restart {
   std::string Name;
   std::function<void(Surface&)> Clear;
