@@ -20,7 +20,7 @@ void BatchWatch::BeginEvent() {
   LookAtClock();
 }
 
-void BatchWatch::Look() {
+void BatchWatch::LookAtStep() {
   // Most steps take less time than the clock; a step that is slow because its text is long has ticks of its own.
   constexpr std::uint64_t stepsPerLook = 16;
   nextLook_ = stepsTaken_ + (OnStep ? 1 : stepsPerLook);

@@ -19,9 +19,6 @@ class BatchWatch final : public Watch {
   /// A typed line or handler begins: its steps are counted from 0.
   void BeginEvent();
 
-  void Step() override {
-    if (++stepsTaken_ >= nextLook_) Look();
-  }
   /// Called at the end of each step, if set before an event begins.
   std::function<void()> OnStep;
   void Tick() override {
@@ -36,14 +33,12 @@ class BatchWatch final : public Watch {
   using Clock = std::chrono::steady_clock;
 
   /// Looks at the clock and whether the step is one too many, and says when to look again.
-  [[gnu::noinline]] void Look();
+  void LookAtStep() override;
   void LookAtClock() const;
   void StopAfter(Clock::time_point now) const;
   static Clock::time_point Now();
 
   std::uint64_t stepLimit_;
-  std::uint64_t stepsTaken_ = 0;
-  std::uint64_t nextLook_ = 0;
   std::uint64_t tickLimit_;
   std::uint64_t ticksTaken_ = 0;
   double secondLimit_;

@@ -41,7 +41,7 @@ void FrameWatch::Begin() {
   nextFrame_ = Clock::now() + Frame;
 }
 
-void FrameWatch::Step() {
+void FrameWatch::LookAtStep() {
   if (OnStep) {
     // The call may replace it.
     const auto step = OnStep;

@@ -30,7 +30,6 @@ class FrameWatch : public Watch {
   /// Must be called when a handler begins.
   void Begin();
 
-  void Step() override;
   void Tick() override { LookNowAndThen(); }
 
   /// Called before each step of a walk, if set.
@@ -41,6 +40,7 @@ class FrameWatch : public Watch {
 
  private:
   using Clock = ClockLooks::Clock;
+  void LookAtStep() override;
   void LookNowAndThen() {
     if (looks_.IsDue()) Look();
   }

@@ -40,7 +40,7 @@ class Store {
   }
 
   /// The class of a line (`WhatIsThis`). Fails like `Line`.
-  StatementClass ClassOf(int number) const { return FormOf(number).Class; }
+  [[gnu::always_inline]] StatementClass ClassOf(int number) const { return FormOf(number).Class; }
 
   /// Counts the changes of lines: what is derived from several lines is valid as long as this stays the same.
   std::uint64_t Changes() const noexcept { return changes_; }

@@ -15,7 +15,7 @@ namespace {
 using batch::JsonLine;
 
 /// The page is asked once in this many steps and rounds.
-constexpr unsigned LooksAtOnce = 16;
+constexpr unsigned StepsPerLook = 16;
 
 /// What follows the plus sign.
 std::string TextOf(const std::string& answer) {
@@ -74,16 +74,22 @@ void PageWatch::Begin() {
   // One that was left over from the last handler would delay this one.
   TakeFrame();
   nextFrame_ = 0;
+  nextLook_ = 0;
   isStepped_ = ChosenPause() != 0;
 }
 
-void PageWatch::Step() {
+void PageWatch::LookAtStep() {
   if (isStepped_) isStepped_ = step_();
-  Look();
+  LookForFrame();
+  nextLook_ = stepsTaken_ + (isStepped_ ? 1 : StepsPerLook);
 }
 
-void PageWatch::Look() {
-  if (++looks_ % LooksAtOnce != 0 || !TakeFrame()) return;
+void PageWatch::Tick() {
+  if (++ticksTaken_ % StepsPerLook == 0) LookForFrame();
+}
+
+void PageWatch::LookForFrame() {
+  if (!TakeFrame()) return;
   LeaveIfStopped();
   isStepped_ = ChosenPause() != 0;
   const double start = PageClock();

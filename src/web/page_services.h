@@ -42,18 +42,18 @@ class PageWatch : public Watch {
 
   /// To be called when a handler begins.
   void Begin();
-  void Step() override;
-  void Tick() override { Look(); }
+  void Tick() override;
 
  private:
-  void Look();
+  void LookAtStep() override;
+  void LookForFrame();
 
   std::function<void()> show_;
   std::function<bool()> step_;
   bool isStepped_ = false;
   /// In milliseconds of the browser's clock.
   double nextFrame_ = 0;
-  unsigned looks_ = 0;
+  unsigned ticksTaken_ = 0;
 };
 
 /// Shows the lines of a program one by one, as slowly as the user has chosen on the page.

@@ -35,7 +35,7 @@ constexpr std::size_t MostCopies = 64;
 /// Notes the most work, in bytes, that was done between two looks, and stops after some of them.
 class WorkWatch : public Watch {
  public:
-  void Step() override { Look(); }
+  void LookAtStep() override { Look(); }
   void Tick() override { Look(); }
 
   void Begin() {

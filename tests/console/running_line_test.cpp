@@ -11,7 +11,7 @@ namespace {
 
 /// Notes each line that somebody has written before it runs.
 struct NotingWatch : Watch {
-  void Step() override {
+  void LookAtStep() override {
     line->Step();
     if (line->IsWritten()) told.push_back(line->Words());
   }

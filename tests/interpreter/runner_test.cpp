@@ -19,7 +19,7 @@ using Texts = std::vector<std::string>;
 class NotingWatch : public Watch {
  public:
   explicit NotingWatch(const ControlPath& controlPath) : path(controlPath) {}
-  void Step() override { Steps.push_back(path.CtrlStr()); }
+  void LookAtStep() override { Steps.push_back(path.CtrlStr()); }
   void Tick() override {}
   Texts Steps;
 

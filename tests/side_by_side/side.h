@@ -22,7 +22,7 @@ class StepWatch : public Watch {
  public:
   static constexpr int TicksAStep = 1500;
 
-  void Step() override {
+  void LookAtStep() override {
     if (Steps == MostSteps) throw Stopped{"steps"};
     ++Steps;
     ticks_ = 0;

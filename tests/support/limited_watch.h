@@ -11,7 +11,7 @@ class LimitedWatch : public Watch {
   explicit LimitedWatch(int mostSteps = 1'000'000, int mostTicks = 1'000'000)
       : stepsLeft(mostSteps), ticksLeft(mostTicks) {}
 
-  void Step() override {
+  void LookAtStep() override {
     if (--stepsLeft < 0) throw Stopped{"steps"};
   }
   void Tick() override {
