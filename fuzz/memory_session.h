@@ -27,7 +27,7 @@ class MemorySession {
  public:
   static batch::Settings Limits() {
     batch::Settings settings;
-    settings.Screen = {160 * UnitsPerPixel, 160 * UnitsPerPixel};
+    settings.Screen = {64 * UnitsPerPixel, 130 * UnitsPerPixel};
     settings.Steps = 200;
     settings.Ticks = 20'000;
     settings.Seconds = 0;
