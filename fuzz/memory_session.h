@@ -29,7 +29,7 @@ class MemorySession {
     batch::Settings settings;
     settings.Screen = {64 * UnitsPerPixel, 130 * UnitsPerPixel};
     settings.Steps = 200;
-    settings.Ticks = 20'000;
+    settings.Ticks = 4'000;
     settings.Seconds = 0;
     settings.Output = 1;
     return settings;
