@@ -32,7 +32,7 @@ rmSync(out, { recursive: true, force: true });
 mkdirSync(out, { recursive: true });
 await build({
   ...bundled,
-  entryPoints: [join(page, "src/main.ts"), join(page, "src/worker.ts")],
+  entryPoints: [...["main", "worker", "writer"].map((name) => join(page, `src/${name}.ts`))],
   alias: { zerimo: join(system, "zerimo.mjs") },
 });
 for (const name of ["zerimo.wasm", "font.ttf"]) cpSync(join(system, name), join(out, name));

@@ -1,8 +1,7 @@
 // The learner's folder in the browser's private file system, and what comes into it and goes out of it.
 import { strToU8, unzipSync, zipSync } from "fflate";
 import type { File as FolderFile } from "./protocol";
-
-const folderName = "Zerimo";
+import { folderName, write } from "./writing";
 
 /** What the folder takes: programs, pictures and pages. */
 const known = /\.(zrm|bmp|png|jpe?g|gif|rtf|txt)$/iu;
@@ -118,7 +117,9 @@ export class Folder {
     for (const [name, bytes] of files) {
       const isNew = await place.getFileHandle(name).then(() => false, () => true);
       try {
-        this.states.set(name, stateOf(await written(await place.getFileHandle(name, { create: true }), bytes)));
+        const handle = await place.getFileHandle(name, { create: true });
+        await write(handle, bytes as Uint8Array<ArrayBuffer>);
+        this.states.set(name, stateOf(await handle.getFile()));
       } catch (error) {
         if (isNew) await removed(place, name).catch(() => undefined);
         throw error;
@@ -128,19 +129,6 @@ export class Folder {
 }
 
 const stateOf = ({ lastModified, size }: File) => `${lastModified} ${size}`;
-
-async function written(handle: FileSystemFileHandle, bytes: Uint8Array): Promise<File> {
-  if (!("createWritable" in handle)) throw new Error("this browser is too old for that.");
-  const stream = await handle.createWritable();
-  try {
-    await stream.write(bytes as Uint8Array<ArrayBuffer>);
-    await stream.close();
-  } catch (error) {
-    await stream.abort().catch(() => undefined);
-    throw error;
-  }
-  return handle.getFile();
-}
 
 /** Removes a file, if it is there. The browser holds it for a moment after a writing that has failed. */
 async function removed(place: FileSystemDirectoryHandle, name: string, mostAttempts = 20): Promise<void> {

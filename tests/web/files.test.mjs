@@ -182,7 +182,68 @@ test("an empty file that the browser holds for a moment is not left behind eithe
     assert.deepEqual(await keptNames(learner), []);
   }));
 
-const forgetWriting = (page) => page.evaluateOnNewDocument(() => delete FileSystemFileHandle.prototype.createWritable);
+/** Only workers write, as in Safari before 26. The one that does finds `change` done. */
+const leaveWritingToWorkers = (change = "") => async (page) => {
+  await page.setBypassCSP(true);
+  await page.evaluateOnNewDocument((script) => {
+    delete FileSystemFileHandle.prototype.createWritable;
+    const { Worker } = globalThis;
+    const module = (text) => URL.createObjectURL(new Blob([text], { type: "text/javascript" }));
+    const after = (address) => `import "${module(script)}"; import "${new URL(address, location.href)}";`;
+    globalThis.Worker = function (address, options) {
+      return new Worker(address === "writer.js" ? module(after(address)) : address, options);
+    };
+  }, change);
+};
+
+const onWrite = (action) => `
+  let writes = 0;
+  const { write } = FileSystemSyncAccessHandle.prototype;
+  FileSystemSyncAccessHandle.prototype.write = function (bytes, place) {
+    ++writes;
+    ${action}
+    return write.call(this, bytes, place);
+  };`;
+const refusesAll = onWrite('if (bytes.length > 0) throw new DOMException("full", "QuotaExceededError");');
+const hasRoomForFiveInTheSecond = onWrite("if (writes === 2) bytes = bytes.subarray(0, 5);");
+
+const mine = "TO MINE\r\nFD 7\r\nEND\r\n";
+const keptText = (learner) =>
+  learner.page.evaluate(async () => {
+    const kept = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
+    return (await (await kept.getFileHandle("MINE.ZRM")).getFile()).text();
+  });
+
+test("where only workers write, a file is there after a reload, also when it is written again", () =>
+  withLearner({ prepare: leaveWritingToWorkers() }, async (learner) => {
+    await save(learner, "MINE", 50);
+    await comesAgain(learner);
+    await learner.saveAs("MINE", program("MINE", 7));
+    await learner.untilHere(async () => (await keptText(learner)) === mine, "the new text");
+    await comesAgain(learner);
+    await learner.enter("LOAD MINE");
+    await draws(learner, "MINE", 7);
+    assert.deepEqual(await keptNames(learner), ["MINE.ZRM"]);
+  }));
+
+test("where only workers write, a store that is full is told, and nothing typed is lost", () =>
+  withLearner({ prepare: leaveWritingToWorkers(refusesAll) }, async (learner) => {
+    await refusedFile(learner);
+    assert.deepEqual(await keptNames(learner), []);
+  }));
+
+test("where only workers write, a file that finds no room holds what it held", () =>
+  withLearner({ prepare: leaveWritingToWorkers(hasRoomForFiveInTheSecond) }, async (learner) => {
+    await save(learner, "MINE", 7);
+    await learner.untilHere(async () => (await keptText(learner)) === mine, "the first text");
+    await learner.key("F2");
+    await learner.ready();
+    await learner.saveAs("MINE", program("OTHER", 50));
+    await learner.dialog("does not keep MINE.ZRM");
+    assert.equal(await keptText(learner), mine);
+  }));
+
+const forgetWriting = leaveWritingToWorkers("delete FileSystemFileHandle.prototype.createSyncAccessHandle;");
 
 test("a browser that is too old to keep files says so", () =>
   withLearner({ prepare: forgetWriting }, async (learner) => {
