@@ -163,7 +163,7 @@ void RtfReader::AddToPage(std::string_view utf8) {
 
 void RtfReader::AddToFontTable(std::string_view utf8) {
   RtfFont* const font = FontInTable();
-  if (utf8 == "\t") return;
+  if (utf8 == "\t" || utf8 == "\n") return;
   if (font != nullptr && font->Name.size() < rtf_limits::LongestFontName) font->Name += utf8;
 }
 

@@ -151,6 +151,10 @@ TEST(RtfReader, AFontMayHaveAnotherName) {
   EXPECT_EQ(FormOf("{\\fonttbl{\\f0\\fnil{\\*\\panose 02}Arial{\\*\\falt Other};}}\\f0").FontName, "Arial");
 }
 
+TEST(RtfReader, ANameOfAFontHasNoLineBreak) {
+  EXPECT_EQ(FormOf("{\\fonttbl{\\f1 A\\u10?B\\u9?C;}}\\f1").FontName, "ABC");
+}
+
 TEST(RtfReader, TakesTheDefaultFont) {
   EXPECT_EQ(FormOf("\\deff2{\\fonttbl{\\f1 A;}{\\f2 B;}}").FontName, "B");
   EXPECT_EQ(FormOf("\\deff2{\\fonttbl{\\f1 A;}{\\f2 B;}}\\f1\\plain").FontName, "B");
