@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
+#include <algorithm>
 
 #include "classroom/readable.h"
 #include "classroom/words.h"
@@ -12,6 +13,39 @@ namespace zerimo::classroom {
 
 namespace {
 
+/// The colour that a part of a picture has on average.
+QRgb MeanOf(const QImage& image, const QRect& part) {
+  int red = 0;
+  int green = 0;
+  int blue = 0;
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) {
+      const QRgb pixel = image.pixel(x, y);
+      red += qRed(pixel);
+      green += qGreen(pixel);
+      blue += qBlue(pixel);
+    }
+  }
+  const int count = part.width() * part.height();
+  return qRgb(red / count, green / count, blue / count);
+}
+
+/// An opaque picture reduced to a width. The toolkit's own scaling starts threads, and waits for ever where none can be
+/// started.
+QImage Reduced(const QImage& image, int width) {
+  QImage reduced(QSize(width, std::max(1, image.height() * width / image.width())), QImage::Format_RGB32);
+  for (int y = 0; y < reduced.height(); ++y) {
+    const int top = y * image.height() / reduced.height();
+    const int bottom = (y + 1) * image.height() / reduced.height() - 1;
+    for (int x = 0; x < width; ++x) {
+      const int left = x * image.width() / width;
+      const int right = (x + 1) * image.width() / width - 1;
+      reduced.setPixel(x, y, MeanOf(image, QRect(QPoint(left, top), QPoint(right, std::max(top, bottom)))));
+    }
+  }
+  return reduced;
+}
+
 /// The picture as it is in its file, or reduced.
 QByteArray BytesOfPicture(const std::filesystem::path& file, int width, QSize& size) {
   if (width == 0) {
@@ -20,7 +54,7 @@ QByteArray BytesOfPicture(const std::filesystem::path& file, int width, QSize& s
   }
   const QImage image(NameOf(file));
   if (image.isNull()) return {};
-  const QImage small = image.width() > width ? image.scaledToWidth(width, Qt::SmoothTransformation) : image;
+  const QImage small = image.width() > width ? Reduced(image, width) : image;
   size = small.size();
   QByteArray bytes;
   QBuffer buffer(&bytes);

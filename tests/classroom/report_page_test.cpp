@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QCryptographicHash>
+#include <QImage>
 #include <QRegularExpression>
 #include <QSet>
+#include <filesystem>
+#include <iterator>
 
 #include "classroom/page_html.h"
+#include "classroom/readable.h"
 #include "files/temp_folder.h"
 #include "hostile_report.h"
 
@@ -370,6 +374,45 @@ TEST(ReportPage, PicturesThatWouldMakeItTooLargeLieBeside) {
   EXPECT_LT(alone.count("<img "), page.count("<img "));
   EXPECT_FALSE(alone.contains("a%20b"));
 }
+
+/// The picture inside an element of a page.
+QImage PictureIn(const QString& element) {
+  const QString base64 = AllMatches(element, "base64,([^\"]*)\"").value(0);
+  return QImage::fromData(QByteArray::fromBase64(base64.toLatin1()));
+}
+
+TEST(PictureSource, ReducesAPictureToTheMeansOfItsParts) {
+  const TempFolder temp;
+  QImage image(4, 2, QImage::Format_RGB32);
+  image.fill(qRgb(10, 20, 30));
+  image.setPixel(2, 0, qRgb(250, 120, 70));
+  const std::filesystem::path file = temp.Path / "4x2.png";
+  image.save(NameOf(file));
+  const QImage reduced = PictureIn(PictureSource().Image(file, {}, 2).value_or(QString()));
+  ASSERT_EQ(reduced.size(), QSize(2, 1));
+  EXPECT_EQ(reduced.pixel(0, 0), qRgb(10, 20, 30));
+  EXPECT_EQ(reduced.pixel(1, 0), qRgb(70, 45, 40));
+}
+
+#ifdef __linux__
+
+auto ThreadsOfThisProcess() {
+  using Entries = std::filesystem::directory_iterator;
+  return std::distance(Entries("/proc/self/task"), Entries());
+}
+
+TEST(PictureSource, NeedsNoOtherThreadToReduceAPicture) {
+  const TempFolder temp;
+  QImage image(1024, 640, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  const std::filesystem::path file = temp.Path / "large.png";
+  image.save(NameOf(file));
+  const auto before = ThreadsOfThisProcess();
+  EXPECT_TRUE(PictureSource().Image(file, {}, 160));
+  EXPECT_EQ(ThreadsOfThisProcess(), before);
+}
+
+#endif
 
 }  // namespace
 }  // namespace zerimo::classroom
