@@ -15,7 +15,7 @@ class ClockLooks {
 
   /// The clock was read.
   void Looked(Clock::time_point now) {
-    constexpr unsigned mostCalls = 16;
+    constexpr unsigned mostCalls = 64;
     constexpr std::chrono::milliseconds quick{1};
     callsToLook_ = now - last_ > quick ? 1 : std::min(2 * callsToLook_, mostCalls);
     calls_ = 0;

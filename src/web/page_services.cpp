@@ -14,8 +14,9 @@ namespace {
 
 using batch::JsonLine;
 
-/// The page is asked once in this many steps and rounds.
-constexpr unsigned StepsPerLook = 16;
+/// So often the page is asked in the time of a frame, unless more than `MostStepsPerLook` would run in between.
+constexpr std::uint64_t LooksPerFrame = 8;
+constexpr std::uint64_t MostStepsPerLook = 128;
 
 /// What follows the plus sign.
 std::string TextOf(const std::string& answer) {
@@ -81,15 +82,20 @@ void PageWatch::Begin() {
 void PageWatch::LookAtStep() {
   if (isStepped_) isStepped_ = step_();
   LookForFrame();
-  nextLook_ = stepsTaken_ + (isStepped_ ? 1 : StepsPerLook);
+  nextLook_ = stepsTaken_ + (isStepped_ ? 1 : stepsPerLook_);
 }
 
 void PageWatch::Tick() {
-  if (++ticksTaken_ % StepsPerLook == 0) LookForFrame();
+  if (++ticksTaken_ < nextTickLook_) return;
+  LookForFrame();
+  nextTickLook_ = ticksTaken_ + stepsPerLook_;
 }
 
 void PageWatch::LookForFrame() {
   if (!TakeFrame()) return;
+  const std::uint64_t taken = stepsTaken_ + ticksTaken_;
+  stepsPerLook_ = std::clamp<std::uint64_t>((taken - takenAtFrame_) / LooksPerFrame, 1, MostStepsPerLook);
+  takenAtFrame_ = taken;
   LeaveIfStopped();
   isStepped_ = ChosenPause() != 0;
   const double start = PageClock();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -53,7 +54,11 @@ class PageWatch : public Watch {
   bool isStepped_ = false;
   /// In milliseconds of the browser's clock.
   double nextFrame_ = 0;
-  unsigned ticksTaken_ = 0;
+  std::uint64_t ticksTaken_ = 0;
+  std::uint64_t nextTickLook_ = 0;
+  /// Steps and rounds before the last frame.
+  std::uint64_t takenAtFrame_ = 0;
+  std::uint64_t stepsPerLook_ = 1;
 };
 
 /// Shows the lines of a program one by one, as slowly as the user has chosen on the page.

@@ -12,7 +12,8 @@ export const sessions = {
 function seconds(command, words, session) {
   const times = Array.from({ length: runs }, () => {
     const start = performance.now();
-    const { status } = spawnSync(command, [...words, "--seconds", "0", "--steps", "0"], { input: session });
+    const { error, status } = spawnSync(command, [...words, "--seconds", "0", "--steps", "0"], { input: session });
+    if (error) throw error;
     if (status !== 0) throw new Error(`${command} ended with ${status}`);
     return performance.now() - start;
   });
