@@ -37,7 +37,7 @@ class Page {
     private readonly folder: Folder,
     private readonly worker: Worker,
   ) {
-    const { width, height } = screenFor(innerWidth, innerHeight - this.bar.height());
+    const { width, height } = screenFor(...this.room());
     this.stage = new Stage(this.events, width, height);
     this.stage.box.append(this.chip.box);
     document.body.append(this.stage.box);
@@ -66,8 +66,14 @@ class Page {
     this.worker.postMessage(message);
   }
 
+  /** Width and height below the bar, also while a touch screen is zoomed. */
+  private room(): [number, number] {
+    const { clientWidth, clientHeight } = document.documentElement;
+    return [clientWidth, clientHeight - this.bar.height()];
+  }
+
   private fit(): void {
-    this.stage.fit(innerWidth, innerHeight - this.bar.height());
+    this.stage.fit(...this.room());
   }
 
   private take(message: FromWorker): void {

@@ -160,8 +160,8 @@ void CommandLine::AddOfSession() {
   parser_->add_option_function<std::string>(SessionWord, taking(TakeSession))->group("");
 }
 
-void CommandLine::Add(const char* group, ValueOption option) {
-  parser_->add_option_function<std::string>(option.Name, std::move(option.Take), option.Help)
+void CommandLine::Add(const char* group, const ValueOption& option) {
+  parser_->add_option_function<std::string>(option.Name, option.Take, option.Help)
       ->option_text(option.Value)
       ->group(group)
       ->take_last();

@@ -57,7 +57,7 @@ class CommandLine {
   CommandLine& operator=(const CommandLine&) = delete;
 
   /// Options of one group are under one heading in the help.
-  void Add(const char* group, ValueOption option);
+  void Add(const char* group, const ValueOption& option);
   /// An option that takes all values that follow it.
   void AddList(const char* group, const char* name, const char* value, const char* help,
                std::vector<std::string>& values);

@@ -171,7 +171,7 @@ QString TextOfTable(const std::string& bytes) {
   const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
   const QStringDecoder::Encoding encoding = QStringDecoder::encodingForData(view).value_or(QStringDecoder::Utf8);
   QStringDecoder decoder(encoding, QStringDecoder::Flag::Stateless);
-  const QString text = decoder(view);
+  QString text = decoder(view);
   if (!decoder.hasError()) return text;
   std::u32string western;
   for (const char byte : bytes) western += CharacterOf(WesternCodePage, static_cast<unsigned char>(byte));

@@ -103,11 +103,10 @@ void CheckClass(const CommandLine& line, const Command& command) {
   if (line.HasSession())
     throw UsageError(command.options.SessionFile + ": no session can be given with --class; put it beside the program");
   if (!options.Folder.empty() && !options.List.empty()) throw UsageError("--list: not with --class");
-  if (options.Report.empty() && (options.Records.empty() || command.IsMerge()))
-    throw UsageError((command.IsMerge()        ? std::string("--merge")
-                      : options.Folder.empty() ? std::string("--list")
-                                               : std::string("--class")) +
-                     ": the report is missing, give --out");
+  if (options.Report.empty() && (options.Records.empty() || command.IsMerge())) {
+    const char* const way = command.IsMerge() ? "--merge" : options.Folder.empty() ? "--list" : "--class";
+    throw UsageError(std::string(way) + ": the report is missing, give --out");
+  }
   if (options.Resume && options.Records.empty()) throw UsageError("--resume: only with --jsonl");
 }
 

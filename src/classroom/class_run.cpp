@@ -211,11 +211,12 @@ class ClassRun {
     const Fingerprint fingerprint(limits_, settings_.Screen, options_.FollowLinks, options_.Task);
     for (Pupil& pupil : pupils_) pupil.Fingerprint = fingerprint.Of(pupil);
     records.emplace(options_.Records, options_.Resume, Share{options_.Part, report_.Wanted, all_}, pupils_);
-    if (records->Dropped() > 0)
+    if (records->Dropped() > 0) {
       progress_.Close(
           Filled("%1 %1{program has/programs have} changed, or the task, session or limits; %1{it runs/they "
                  "run} again",
                  {QString::number(records->Dropped())}));
+    }
     std::erase_if(pupils_, [&records](const Pupil& pupil) { return records->Has(pupil.Program); });
   }
 

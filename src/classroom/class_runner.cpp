@@ -85,10 +85,10 @@ RunsFolder::RunsFolder() : folder_(QDir::tempPath() + u'/' + QLatin1String(Begin
 
 Interruption::Interruption() {
   came = 0;
-  for (std::size_t i = 0; i < Noted.size(); ++i) {
-    formerHandlers_.push_back(std::signal(Noted[i], Note));
+  for (const int number : Noted) {
+    formerHandlers_.push_back(std::signal(number, Note));
     // Whoever started the run wants it to go on, as under nohup.
-    if (formerHandlers_.back() == SIG_IGN) std::signal(Noted[i], SIG_IGN);
+    if (formerHandlers_.back() == SIG_IGN) std::signal(number, SIG_IGN);
   }
   HandleBrokenPipe(SIG_IGN);
 }

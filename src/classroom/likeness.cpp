@@ -37,7 +37,7 @@ struct StrippedLine {
 
 StrippedLine Stripped(const QString& line) {
   static const QRegularExpression quoted = ExpressionOf("(?<!@ )\"[^\"]*\"", IsOneOf<StmtMake>);
-  static const QRegularExpression word("[A-Z][A-Z0-9_]*|[:\"][A-Z0-9]+|\\d+(?:\\.\\d+)?");
+  static const QRegularExpression word(R"([A-Z][A-Z0-9_]*|[:"][A-Z0-9]+|\d+(?:\.\d+)?)");
   QString text = line.toUpper().simplified();
   if (text.contains(u'"')) text.replace(quoted, "t");
   StrippedLine stripped;

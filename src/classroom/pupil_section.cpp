@@ -194,7 +194,7 @@ class SectionWriter {
   }
 
   QString AnswerWords(const ShownBox& shown) const {
-    const QString answer = shown.Answer.isEmpty() ? Utf8(language_.Nothing) : Readable(shown.Answer);
+    QString answer = shown.Answer.isEmpty() ? Utf8(language_.Nothing) : Readable(shown.Answer);
     if (shown.Kind == "box" && shown.Buttons == shown.Answer) return answer;
     if (shown.Kind == "box") return Readable(shown.Buttons) + QStringLiteral(" \u2192 ") + answer;
     return Utf8(shown.Kind == "input" ? language_.Question : language_.FileWindow) + answer;

@@ -114,12 +114,13 @@ Json JsonOf(const std::vector<GoalOutcome>& goals) {
                 // Rounded down: only a complete drawing has 100 per cent.
                 {"percent", std::floor(goal.Percent * 10) / 10},
                 {"points", goal.Points}};
-    if (goal.Placed)
+    if (goal.Placed) {
       one["placed"] = {{"degrees", goal.Placed->Degrees},
                        {"mirrored", goal.Placed->Mirrored},
                        {"scale", goal.Placed->Scale},
                        {"x", goal.Placed->Shift.X},
                        {"y", goal.Placed->Shift.Y}};
+    }
     if (!goal.Broken.empty()) one["broken"] = WordsOf(goal.Broken);
     if (!goal.Wanted.isEmpty()) {
       one["wanted"] = ValueOf(goal.Wanted);
@@ -158,12 +159,13 @@ std::vector<GoalOutcome> GoalsAt(const Json& json) {
 
 Json JsonOf(const std::vector<ShownBox>& boxes) {
   Json all = Json::array();
-  for (const ShownBox& shown : boxes)
+  for (const ShownBox& shown : boxes) {
     all.push_back({{"kind", ValueOf(shown.Kind)},
                    {"title", ValueOf(shown.Title)},
                    {"text", ValueOf(shown.Text)},
                    {"buttons", OrNull(shown.Buttons)},
                    {"answer", ValueOf(shown.Answer)}});
+  }
   return all;
 }
 

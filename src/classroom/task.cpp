@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 /// What the section about the goals says; its heading is English or German.
 QString GoalSection(const QString& text) {
-  static const QRegularExpression pattern("^##\\s+(?:Goals|Ziele)\\s*$(.*?)(?=^#|\\z)",
+  static const QRegularExpression pattern(R"(^##\s+(?:Goals|Ziele)\s*$(.*?)(?=^#|\z))",
                                           QRegularExpression::MultilineOption |
                                               QRegularExpression::DotMatchesEverythingOption |
                                               QRegularExpression::CaseInsensitiveOption);
@@ -26,9 +26,9 @@ QString GoalSection(const QString& text) {
 
 /// One of the items after the colon of a goal.
 bool Take(Goal& goal, const QString& word) {
-  static const QRegularExpression points("^(\\d+(?:\\.\\d+)?) points?$");
-  static const QRegularExpression pixels("^pixels(?: (\\d+(?:\\.\\d+)?) ?%)?$");
-  static const QRegularExpression tolerance("^tolerance (\\d+(?:\\.\\d+)?)$");
+  static const QRegularExpression points(R"(^(\d+(?:\.\d+)?) points?$)");
+  static const QRegularExpression pixels(R"(^pixels(?: (\d+(?:\.\d+)?) ?%)?$)");
+  static const QRegularExpression tolerance(R"(^tolerance (\d+(?:\.\d+)?)$)");
   if (const auto match = points.match(word); match.hasMatch()) {
     goal.Points = match.captured(1).toDouble();
   } else if (const auto pixelMatch = pixels.match(word); pixelMatch.hasMatch()) {
@@ -59,7 +59,7 @@ Goal GoalOf(const QString& item) {
   QString text = item;
   text.remove(typed);
   // What stood between the lines.
-  static const QRegularExpression leftOver("^(?:and\\b|[\\s,])+|(?:\\band|[\\s,:])+$");
+  static const QRegularExpression leftOver(R"(^(?:and\b|[\s,])+|(?:\band|[\s,:])+$)");
   const qsizetype colon = text.lastIndexOf(u':');
   goal.Words = text.left(colon).remove(leftOver).simplified();
   for (const QString& word : text.mid(colon < 0 ? text.size() : colon + 1).split(u',', Qt::SkipEmptyParts)) {
@@ -91,7 +91,7 @@ QString Goal::Title() const {
 bool Task::HasModelProgram() const { return ProgramFiles::IsProgramName(Model.string()); }
 
 std::vector<Goal> GoalsIn(const QString& taskText) {
-  static const QRegularExpression item("^\\s*[-*]\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
+  static const QRegularExpression item(R"(^\s*[-*]\s+(.*\S)\s*$)", QRegularExpression::MultilineOption);
   std::vector<Goal> goals;
   for (auto walk = item.globalMatch(GoalSection(taskText)); walk.hasNext();)
     goals.push_back(GoalOf(walk.next().captured(1)));
@@ -107,7 +107,7 @@ Task ReadTask(const fs::path& place) {
     if (error) throw batch::UsageError("--task " + place.string() + ": there is no such folder or file");
   } else {
     const QString text = TextOf(place / "TASK.md");
-    static const QRegularExpression title("^#\\s+(.*\\S)\\s*$", QRegularExpression::MultilineOption);
+    static const QRegularExpression title(R"(^#\s+(.*\S)\s*$)", QRegularExpression::MultilineOption);
     task.Title = title.match(text).captured(1);
     task.Words = QString(text)
                      .remove(GoalSection(text))

@@ -53,7 +53,7 @@ QString WordOfNumber(double number, const Language& language) {
 }
 
 QString WordsOf(const RunOutcome& outcome, const RunLimits& limits, const Language& language) {
-  const QString message = Readable(language.Of(outcome.Message));
+  QString message = Readable(language.Of(outcome.Message));
   switch (outcome.How) {
     case Result::Ended:
       return outcome.By == "finished" ? QString::fromUtf8(language.Ended)

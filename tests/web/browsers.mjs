@@ -26,7 +26,7 @@ export async function withLearner({ width = 1280, height = 900, hash = "", touch
   page.on("console", (message) => message.type() === "error" && learner.complaints.push(message.text()));
   page.on("pageerror", (error) => learner.complaints.push(String(error)));
   try {
-    await page.setViewport({ width, height, hasTouch: touch });
+    await page.setViewport({ width, height, hasTouch: touch, isMobile: touch });
     await prepare(page);
     await learner.come(hash);
     await work(learner);

@@ -64,14 +64,15 @@ for (const touch of [false, true]) {
     }));
 }
 
-for (const [name, width, height] of [["a phone", 390, 844], ["a large screen", 3840, 2160]]) {
+for (const [name, width, height, touch] of [["a phone", 390, 844, true], ["a phone held across", 844, 390, true], ["a large screen", 3840, 2160, false]]) {
   test(`everything fits on ${name}`, () =>
-    withLearner({ width, height }, async (learner) => {
+    withLearner({ width, height, touch }, async (learner) => {
       await learner.enter("CS");
       await learner.enter("REPEAT 36 [FD 100 RT 170]");
       const inside = await learner.page.$eval("#Picture3", (box) => {
         const { left, right, bottom } = box.getBoundingClientRect();
-        return left >= 0 && right <= innerWidth + 1 && bottom <= innerHeight + 1;
+        const { clientWidth, clientHeight } = document.documentElement;
+        return left >= 0 && right <= clientWidth + 1 && bottom <= clientHeight + 1;
       });
       assert.ok(inside);
       await learner.shot(name.replaceAll(" ", "-"));
@@ -87,7 +88,7 @@ for (const [width, height] of [[390, 844], [768, 1024], [600, 800]]) {
       await learner.page.click("#speed");
       await learner.type("REPEAT 30000 [FD 10]");
       await learner.until(() => !document.getElementById("stop").hidden && !document.getElementById("step").hidden);
-      await learner.until(() => document.getElementById("Picture3").getBoundingClientRect().bottom <= innerHeight + 1);
+      await learner.until(() => document.getElementById("Picture3").getBoundingClientRect().bottom <= document.documentElement.clientHeight + 1);
       const { bottom, top } = await learner.page.evaluate(() => ({
         bottom: document.getElementById("bar").getBoundingClientRect().bottom,
         top: document.getElementById("stage").getBoundingClientRect().top,

@@ -110,7 +110,7 @@ constexpr qsizetype MostStatements = 199;
 
 /// The number in the name of a count, if the program makes it once and with a number; otherwise the count itself.
 QString ValueOf(const Listing& listing, const QString& count) {
-  static const QRegularExpression make = ExpressionOf("^@ \"([A-Za-z_]+) \\(?(-?[\\d.]+)\\)?$", IsOneOf<StmtMake>);
+  static const QRegularExpression make = ExpressionOf(R"(^@ "([A-Za-z_]+) \(?(-?[\d.]+)\)?$)", IsOneOf<StmtMake>);
   QString value;
   for (const Statement& each : listing.Statements) {
     if (!each.Is<StmtMake>() || each.Rest().section(u' ', 0, 0) != u'"' + count.mid(1)) continue;
@@ -147,7 +147,7 @@ void FindBrackets(const Statement& repeat, Findings& findings) {
 /// A PRINT that is not the last in its body takes the following statements as part of its sum.
 void FindPrint(const Statement& repeat, Findings& findings) {
   static const QRegularExpression print =
-      ExpressionOf("(?:^|[ \\[])(@) ([^\" \\]\\[]+) ([A-Z]+)", IsOneOf<"PRINT", "WRITE", "MESSAGE">);
+      ExpressionOf(R"re((?:^|[ \[])(@) ([^" \]\[]+) ([A-Z]+))re", IsOneOf<"PRINT", "WRITE", "MESSAGE">);
   for (auto walk = print.globalMatch(PartsOf(repeat.Text).Body); walk.hasNext();) {
     const auto match = walk.next();
     if (IsKnownWord(match.captured(3))) findings.push_back({Mistake::PrintInRepeat, repeat.Line, {match.captured(1)}});

@@ -32,7 +32,7 @@ void FindUncallable(const Listing& listing, Findings& findings) {
 
 /// Outside the procedures only `MAKE` lines with a number, above the first procedure, are read.
 void FindOutside(const Listing& listing, Findings& findings) {
-  static const QRegularExpression name = ExpressionOf("^@ (:[A-Z]+) (\\(?-?[\\d.]+\\)?)$", IsOneOf<StmtMake>);
+  static const QRegularExpression name = ExpressionOf(R"(^@ (:[A-Z]+) (\(?-?[\d.]+\)?)$)", IsOneOf<StmtMake>);
   if (listing.Procedures.empty()) return;
   const int first = listing.Procedures.front().Line;
   for (const Statement& each : listing.Statements) {

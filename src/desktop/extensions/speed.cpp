@@ -72,10 +72,10 @@ void RunChip::Show() {
 }
 
 const Speed::Pace Speed::Paces[4] = {
-    {Qt::Key_1, "", 0},
-    {Qt::Key_2, "Fast, line by line. Ctrl+1: full speed", 60},
-    {Qt::Key_3, "Slow, line by line. Ctrl+1: full speed", 500},
-    {Qt::Key_4, "The space bar runs one line. Ctrl+1: full speed", -1},
+    {Qt::Key_1, 0, ""},
+    {Qt::Key_2, 60, "Fast, line by line. Ctrl+1: full speed"},
+    {Qt::Key_3, 500, "Slow, line by line. Ctrl+1: full speed"},
+    {Qt::Key_4, -1, "The space bar runs one line. Ctrl+1: full speed"},
 };
 
 Speed::Speed(Session& session, RunChip& chip, Zoom& zoom)

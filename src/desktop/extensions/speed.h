@@ -46,10 +46,10 @@ class Speed : public Extension {
  private:
   struct Pace {
     int Key;
-    /// What the chip says while nothing runs; nothing at full speed.
-    const char* Words;
     /// How long a line is shown before it runs, in milliseconds; negative: until the space bar is pressed.
     int Pause;
+    /// What the chip says while nothing runs; nothing at full speed.
+    const char* Words;
   };
   static const Pace Paces[4];
 
