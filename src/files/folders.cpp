@@ -146,7 +146,7 @@ std::string Folders::ToSystem(const fs::path& path) {
 }
 
 fs::path Folders::ToRead(const std::string& systemPath) const {
-  const fs::path path = AsItStands(systemPath);
+  fs::path path = AsItStands(systemPath);
   if (!disk_.MayName(path)) Fail(FailureKind::FileNotFound);
   // A drive letter alone names nothing, not even the folder where relative paths start.
   if (path.empty()) return path;

@@ -72,14 +72,12 @@ class Evaluation {
   explicit Evaluation(const Operands& operands) : operands_(operands) {}
 
   double Of(const Formula::Side& side) {
-    Numbers values;
-    brackets_ = &values;
     for (std::size_t number = 0; number < side.Brackets.size(); ++number) {
       // A bracket's value is pasted as text.
       const double value = Of(side.Brackets[number]);
       if (!IsNumber(value)) return NoNumber;
-      values[number] = ThroughText(value);
-      if (!IsPlain(values[number])) return NoNumber;
+      brackets_[number] = ThroughText(value);
+      if (!IsPlain(brackets_[number])) return NoNumber;
     }
     return Of(side.Whole);
   }
@@ -137,15 +135,15 @@ class Evaluation {
       case Operand::Kind::Nothing:
         return 0;
       case Operand::Kind::Bracket:
-        return (*brackets_)[static_cast<std::size_t>(operand.Index)];
+        return brackets_[static_cast<std::size_t>(operand.Index)];
       default:
         return operands_.NumberOf(operand);
     }
   }
 
   const Operands& operands_;
-  /// The values of the brackets that are worked out so far.
-  const Numbers* brackets_ = nullptr;
+  /// The values of the brackets that are worked out so far; the others have none.
+  Numbers brackets_;
 };
 
 [[gnu::noinline]] double ValueOfOther(const Formula::Side& side, const Operands& operands) {

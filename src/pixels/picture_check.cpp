@@ -108,18 +108,18 @@ void SkipScan(ByteWalk& walk) noexcept {
 }
 
 bool IsWholeJpeg(ByteWalk walk) noexcept {
-  constexpr unsigned EndOfImage = 0xD9;
-  constexpr unsigned StartOfScan = 0xDA;
+  constexpr unsigned endOfImage = 0xD9;
+  constexpr unsigned startOfScan = 0xDA;
   walk.Skip(2);
   while (!walk.IsAtEnd()) {
     if (walk.Byte() != 0xFF) continue;
     const unsigned code = walk.Byte();
-    if (code == EndOfImage) return walk.IsInside();
+    if (code == endOfImage) return walk.IsInside();
     if (code == 0xFF) walk.Skip(-1);
     if (code == 0 || code == 0xFF) continue;
     const unsigned length = walk.BigEndian16();
     walk.Skip(static_cast<std::int64_t>(length) - 2);
-    if (code == StartOfScan) SkipScan(walk);
+    if (code == startOfScan) SkipScan(walk);
   }
   return false;
 }
@@ -134,18 +134,18 @@ void SkipGifColours(ByteWalk& walk, unsigned flags) noexcept {
 
 /// Complete to the end of its first picture, the only one that is shown.
 bool IsWholeGif(ByteWalk walk) noexcept {
-  constexpr unsigned Extension = 0x21;
-  constexpr unsigned Picture = 0x2C;
+  constexpr unsigned extension = 0x21;
+  constexpr unsigned picture = 0x2C;
   walk.Skip(10);
   const unsigned flags = walk.Byte();
   walk.Skip(2);
   SkipGifColours(walk, flags);
   unsigned kind = walk.Byte();
-  for (; kind == Extension && walk.IsInside(); kind = walk.Byte()) {
+  for (; kind == extension && walk.IsInside(); kind = walk.Byte()) {
     walk.Skip(1);
     SkipGifBlocks(walk);
   }
-  if (kind != Picture) return false;
+  if (kind != picture) return false;
   walk.Skip(8);
   SkipGifColours(walk, walk.Byte());
   walk.Skip(1);
@@ -154,11 +154,11 @@ bool IsWholeGif(ByteWalk walk) noexcept {
 }
 
 bool IsWholePng(ByteWalk walk) noexcept {
-  constexpr std::int64_t EndOfImage = 0x49454E44;
+  constexpr std::int64_t endOfImage = 0x49454E44;
   walk.Skip(8);
   while (!walk.IsAtEnd()) {
     const std::int64_t length = walk.BigEndian32();
-    const bool isLast = walk.BigEndian32() == EndOfImage;
+    const bool isLast = walk.BigEndian32() == endOfImage;
     walk.Skip(length + 4);
     if (isLast) return walk.IsInside();
   }

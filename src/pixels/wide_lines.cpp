@@ -227,9 +227,10 @@ const WideLines::Mask& WideLines::MaskOf(int right, int down, const RoundPen& pe
   if (pen.Width() != width_) {
     width_ = pen.Width();
     masks_.clear();
-    masks_.resize((2 * LongestMask + 1) * (LongestMask + 1));
+    masks_.resize(MasksAcross * MasksDown);
   }
-  std::unique_ptr<Mask>& mask = masks_[static_cast<std::size_t>((right + LongestMask) * (LongestMask + 1) + down)];
+  std::unique_ptr<Mask>& mask =
+      masks_[static_cast<std::size_t>(right + LongestMask) * MasksDown + static_cast<std::size_t>(down)];
   if (!mask) mask = std::make_unique<Mask>(MakeMask(right, down, pen));
   return *mask;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -21,6 +22,8 @@ class WideLines {
   using Mask = std::vector<ColumnSpan>;
 
   static constexpr int LongestMask = 16;
+  static constexpr std::size_t MasksAcross = 2 * LongestMask + 1;
+  static constexpr std::size_t MasksDown = LongestMask + 1;
   static constexpr int WidestMask = 32;
   static inline const Mask NoMask;
 
