@@ -85,17 +85,19 @@ export const keptNames = (learner) =>
     return Array.fromAsync(kept.keys());
   });
 
-/** Until the browser keeps a file of this name. */
-export const keeps = (learner, name) =>
-  learner.until(async (file) => {
+/** Until the browser keeps a file of this name with these words in it. While it is written, a new one is empty. */
+export const keeps = (learner, name, words = "") =>
+  learner.until(async (file, part) => {
     const kept = await (await navigator.storage.getDirectory()).getDirectoryHandle("Zerimo");
-    return (await Array.fromAsync(kept.keys())).some((key) => key.toUpperCase() === file);
-  }, name);
+    const key = (await Array.fromAsync(kept.keys())).find((one) => one.toUpperCase() === file);
+    const text = key && (await (await (await kept.getFileHandle(key)).getFile()).text());
+    return text && text.includes(part);
+  }, name, words);
 
 export async function save(learner, name, steps) {
   await learner.saveAs(name, program(name, steps));
   await learner.noDialog();
-  await keeps(learner, `${name}.ZRM`);
+  await keeps(learner, `${name}.ZRM`, `FD ${steps}`);
 }
 
 export async function comesAgain(learner) {
